@@ -1,0 +1,20 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <QByteArray>
+#include <QByteArrayView>
+#include <QString>
+
+namespace vexa {
+
+/// The text in the code page of the program's files (Shift-JIS, windows-31j). A character that the
+/// code page cannot hold becomes "?"; ask IsEncodable first where that would lose something.
+[[nodiscard]] QByteArray Encode(const QString& text);
+
+/// True when every character of the text has a place in the code page.
+[[nodiscard]] bool IsEncodable(const QString& text);
+
+/// The text of bytes in the code page; bytes that are no such text become U+FFFD.
+[[nodiscard]] QString Decode(QByteArrayView bytes);
+
+}  // namespace vexa

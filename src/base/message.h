@@ -1,0 +1,50 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <QString>
+#include <cstdint>
+
+namespace vexa {
+
+/// Type code of a message: one button set plus one icon.
+namespace message_type {
+inline constexpr std::int16_t kOk = 0;
+inline constexpr std::int16_t kOkCancel = 1;
+inline constexpr std::int16_t kYesNoCancel = 3;
+inline constexpr std::int16_t kYesNo = 4;
+inline constexpr std::int16_t kStopIcon = 16;
+inline constexpr std::int16_t kQuestionIcon = 32;
+inline constexpr std::int16_t kWarningIcon = 48;
+inline constexpr std::int16_t kInformationIcon = 64;
+inline constexpr std::int16_t kButtonMask = 0x0f;
+inline constexpr std::int16_t kIconMask = 0x70;
+}  // namespace message_type
+
+/// The button that ended a message.
+enum class MessageResult : std::int16_t { kOk = 1, kCancel = 2, kYes = 6, kNo = 7 };
+
+/// The titles that messages of all kinds share.
+namespace message_title {
+inline const QString kError = QStringLiteral("VEXA-KT ｴﾗｰ");
+inline const QString kWarning = QStringLiteral("VEXA-KT ﾜｰﾆﾝｸﾞ");
+inline const QString kMessage = QStringLiteral("VEXA-KT ﾒｯｾｰｼﾞ");
+inline const QString kInformation = QStringLiteral("VEXA-KT 情報");
+}  // namespace message_title
+
+/// Where every message of the system goes: a dialog in the window, a line on the command line,
+/// a prepared answer in a test.
+class MessageService {
+ public:
+  MessageService() = default;
+  virtual ~MessageService() = default;
+  MessageService(const MessageService&) = delete;
+  MessageService& operator=(const MessageService&) = delete;
+
+  /// Shows the text (single CR characters break its lines) and returns the button pressed.
+  virtual MessageResult MsgCall(const QString& text, std::int16_t type, const QString& title) = 0;
+
+  /// The short sound before a message that must not be missed.
+  virtual void Beep() = 0;
+};
+
+}  // namespace vexa
