@@ -5,7 +5,8 @@
 
 namespace vexa {
 
-/// An operation without a finite result. A computation catches it once and turns it into its status.
+/// An operation without a finite result. A computation catches it once and turns it into its
+/// status.
 class ArithmeticFault : public std::domain_error {
  public:
   using std::domain_error::domain_error;

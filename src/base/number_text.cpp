@@ -103,7 +103,8 @@ Pattern Parse(QStringView text) {
 
 std::string FixedText(const Decimal& decimal, const Pattern& pattern) {
   std::string text;
-  for (int power = std::max(decimal.digits.empty() ? -1 : decimal.exponent, pattern.integerZeros - 1);
+  for (int power =
+           std::max(decimal.digits.empty() ? -1 : decimal.exponent, pattern.integerZeros - 1);
        power >= 0; --power) {
     text += DigitAt(decimal, power);
   }
@@ -120,7 +121,8 @@ std::string FixedText(const Decimal& decimal, const Pattern& pattern) {
 std::string ExponentText(int exponent, int zeros) {
   const std::string digits = std::to_string(std::abs(exponent));
   const auto missing = std::max(zeros - static_cast<int>(digits.size()), 0);
-  return (exponent < 0 ? "E-" : "E+") + std::string(static_cast<std::size_t>(missing), '0') + digits;
+  return (exponent < 0 ? "E-" : "E+") + std::string(static_cast<std::size_t>(missing), '0') +
+         digits;
 }
 
 }  // namespace

@@ -47,8 +47,8 @@ Status frmComH8Ctrl::H8_MeasStart() {
   if (SendFrame(MeasureText(averagingCount_, secondCount_)) != 0) {
     return -1;
   }
-  const QString reply =
-      ReceiveReply(ReplyMode::kCommand, AwaitedStep::kMeasurement, samplingTimeMs_ * averagingCount_);
+  const QString reply = ReceiveReply(ReplyMode::kCommand, AwaitedStep::kMeasurement,
+                                     samplingTimeMs_ * averagingCount_);
   if (reply == QLatin1String("END")) {
     return 0;
   }
@@ -334,7 +334,9 @@ Status frmComH8Ctrl::AcquisitionSteps(LightFlag light, int settlingTimeMs) {
     status = StepStatus(H8_DataReq(), -4);
   }
   if (status != 0) {
-    RestShutters(light);
+    if (status != kTimeOut && linkAnswered_) {
+      RestShutters(light);
+    }
     return status;
   }
   if (status = StepStatus(EyeSht(false), -5); status != 0) {
@@ -348,10 +350,9 @@ Status frmComH8Ctrl::AcquisitionSteps(LightFlag light, int settlingTimeMs) {
 }
 
 void frmComH8Ctrl::RestShutters(LightFlag light) {
-  if (!linkAnswered_ || EyeSht(false) != 0 || light != LightFlag::kBackground) {
-    return;
+  if (EyeSht(false) == 0 && light == LightFlag::kBackground) {
+    lightOpenAtRest_ = LghtSht(false) == 0;
   }
-  lightOpenAtRest_ = LghtSht(false) == 0;
 }
 
 // The link was up before and was lost. Everything that Initialise sets back is set again.
@@ -382,8 +383,9 @@ void frmComH8Ctrl::OnBytesReceived() {
   Wake();
 }
 
-void frmComH8Ctrl::OnPortError(QSerialPort::SerialPortError error) {
-  switch (error) {
+// Looks at the error that the port has by now: an older one may lie before a successful opening.
+void frmComH8Ctrl::OnPortError() {
+  switch (H8Comm_.error()) {
     case QSerialPort::NoError:
     case QSerialPort::TimeoutError:
       return;

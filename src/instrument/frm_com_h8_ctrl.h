@@ -93,7 +93,7 @@ class frmComH8Ctrl : public Controller {
   void RestShutters(LightFlag light);
   Status Reconnect();
   void OnBytesReceived();
-  void OnPortError(QSerialPort::SerialPortError error);
+  void OnPortError();
   void OnTimeOut();
   void Wake();
 

@@ -10,10 +10,10 @@ namespace vexa {
 
 /// State of the controller's output bits.
 struct PortBits {
-  bool lightShutterClosed = false;     ///< bit 0
-  bool lightShutterOpen = false;       ///< bit 1, always the inverse of bit 0 once it was set
-  bool unused = false;                 ///< bit 2
-  bool eyepieceShutterOpen = false;    ///< bit 3
+  bool lightShutterClosed = false;   ///< bit 0
+  bool lightShutterOpen = false;     ///< bit 1, always the inverse of bit 0 once it was set
+  bool unused = false;               ///< bit 2
+  bool eyepieceShutterOpen = false;  ///< bit 3
 };
 
 /// The 4-byte frame of a command given as pairs of hexadecimal digits; bytes beyond the text are 0,

@@ -22,7 +22,8 @@ constexpr std::array kSixGapsNm{31.177, 110.241, 150.469, 41.85, 25.118};
 
 // Piece i runs from line i to line i + 1; the first reaches down to pixel 0 and is anchored at its
 // upper line, the last reaches up to the last pixel. At a line the later piece stands.
-PixelWavelengths WavelengthsOfPixels(std::span<const double> linesNm, std::span<const double> gapsNm,
+PixelWavelengths WavelengthsOfPixels(std::span<const double> linesNm,
+                                     std::span<const double> gapsNm,
                                      const LinePositions& positions) {
   PixelWavelengths wavelengths{};
   for (std::size_t piece = 0; piece < gapsNm.size(); ++piece) {

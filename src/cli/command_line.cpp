@@ -1,0 +1,105 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "cli/command_line.h"
+
+#include <QLocale>
+#include <algorithm>
+#include <array>
+
+#include "cli/console.h"
+
+namespace vexa::cli {
+namespace {
+
+const std::array kCommands{DecodeCommand, ReflectanceCommand, MeasureCommand};
+
+QString Overview() {
+  QString text = QStringLiteral("Usage: vexa-cli COMMAND [arguments] [options]\n\nCommands:\n");
+  for (const auto& make : kCommands) {
+    const Command command = make();
+    text += QStringLiteral("  %1 %2\n").arg(command.name, -12).arg(command.summary);
+  }
+  return text + QStringLiteral("\n\"vexa-cli COMMAND --help\" tells more about each.\n");
+}
+
+int RunCommand(const Command& command, const QStringList& arguments) {
+  QCommandLineParser parser;
+  parser.setApplicationDescription(command.summary);
+  parser.addOption(
+      {{QStringLiteral("h"), QStringLiteral("help")}, QStringLiteral("Shows this help.")});
+  parser.addOption({QStringLiteral("json"), QStringLiteral("Prints one JSON document.")});
+  command.declareOptions(parser);
+  if (!parser.parse(QStringList{QStringLiteral("vexa-cli")} + arguments)) {
+    Complain(command.name + QStringLiteral(": ") + parser.errorText());
+    return kUsageError;
+  }
+  if (parser.isSet(QStringLiteral("help"))) {
+    QString help = parser.helpText();
+    help.replace(0, help.indexOf(u'\n'),
+                 QStringLiteral("Usage: vexa-cli %1 %2").arg(command.name, command.arguments));
+    Print(help);
+    return kDone;
+  }
+  if (parser.positionalArguments().size() != command.files) {
+    Complain(QStringLiteral("usage: vexa-cli %1 %2").arg(command.name, command.arguments));
+    return kUsageError;
+  }
+  return command.run(parser);
+}
+
+template <typename Number>
+std::optional<Number> Checked(const QString& name, const QString& text, bool ok, Number value,
+                              Number minimum, Number maximum) {
+  if (ok && value >= minimum && value <= maximum) {
+    return value;
+  }
+  Complain(QStringLiteral("--%1 takes a number from %2 to %3, not \"%4\"")
+               .arg(name, QString::number(minimum), QString::number(maximum), text));
+  return std::nullopt;
+}
+
+}  // namespace
+
+int Run(const QStringList& arguments) {
+  if (arguments.isEmpty()) {
+    Complain(QStringLiteral("no command given; \"vexa-cli --help\" lists them"));
+    return kUsageError;
+  }
+  const QString& first = arguments.front();
+  if (first == QLatin1String("--help") || first == QLatin1String("-h")) {
+    Print(Overview());
+    return kDone;
+  }
+  if (first == QLatin1String("--version")) {
+    Print(QStringLiteral("vexa-cli " VEXA_VERSION "\n"));
+    return kDone;
+  }
+  for (const auto& make : kCommands) {
+    if (const Command command = make(); command.name == first) {
+      return RunCommand(command, arguments.sliced(1));
+    }
+  }
+  Complain(QStringLiteral("unknown command \"%1\"; \"vexa-cli --help\" lists them").arg(first));
+  return kUsageError;
+}
+
+std::optional<int> IntegerOption(const QCommandLineParser& parser, const QString& name,
+                                 int otherwise, int minimum, int maximum) {
+  if (!parser.isSet(name)) {
+    return otherwise;
+  }
+  bool ok = false;
+  const int value = parser.value(name).toInt(&ok);
+  return Checked(name, parser.value(name), ok, value, minimum, maximum);
+}
+
+std::optional<double> RealOption(const QCommandLineParser& parser, const QString& name,
+                                 double otherwise, double minimum, double maximum) {
+  if (!parser.isSet(name)) {
+    return otherwise;
+  }
+  bool ok = false;
+  const double value = parser.value(name).toDouble(&ok);
+  return Checked(name, parser.value(name), ok, value, minimum, maximum);
+}
+
+}  // namespace vexa::cli

@@ -1,0 +1,39 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <QCommandLineParser>
+#include <QString>
+#include <QStringList>
+#include <optional>
+
+namespace vexa::cli {
+
+/// Runs the command line (without the program's name) and returns the exit status.
+int Run(const QStringList& arguments);
+
+/// A command: its name, its arguments and what it does, and the function that does it.
+struct Command {
+  QString name;
+  QString arguments;
+  QString summary;
+  qsizetype files;  ///< how many arguments that are no options it takes
+  void (*declareOptions)(QCommandLineParser& parser);
+  int (*run)(const QCommandLineParser& parser);
+};
+
+[[nodiscard]] Command DecodeCommand();
+[[nodiscard]] Command ReflectanceCommand();
+[[nodiscard]] Command MeasureCommand();
+
+/// The value of a whole-number option, or `otherwise` when it was not given. Nothing, and a
+/// complaint, when it is no number within minimum..maximum.
+[[nodiscard]] std::optional<int> IntegerOption(const QCommandLineParser& parser,
+                                               const QString& name, int otherwise, int minimum,
+                                               int maximum);
+
+/// Likewise for a real number.
+[[nodiscard]] std::optional<double> RealOption(const QCommandLineParser& parser,
+                                               const QString& name, double otherwise,
+                                               double minimum, double maximum);
+
+}  // namespace vexa::cli

@@ -1,0 +1,63 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "cli/console.h"
+
+#include <QJsonDocument>
+#include <cmath>
+
+#include "base/number_text.h"
+
+namespace vexa::cli {
+namespace {
+
+void Write(std::FILE* stream, const QString& text) {
+  const QByteArray bytes = text.toUtf8();
+  std::fwrite(bytes.constData(), 1, static_cast<std::size_t>(bytes.size()), stream);
+  std::fflush(stream);
+}
+
+}  // namespace
+
+void Print(const QString& text) {
+  Write(stdout, text);
+}
+
+void PrintJson(const QJsonObject& object) {
+  Print(QString::fromUtf8(QJsonDocument(object).toJson(QJsonDocument::Compact)) + u'\n');
+}
+
+void Complain(const QString& text) {
+  Write(stderr, QStringLiteral("vexa-cli: %1\n").arg(text));
+}
+
+QJsonArray ToJson(std::span<const double> values) {
+  QJsonArray array;
+  for (const double value : values) {
+    array.append(std::isfinite(value) ? QJsonValue(value) : QJsonValue());
+  }
+  return array;
+}
+
+QString SpectrumText(int firstNm, std::span<const double> values) {
+  QString text;
+  int nm = firstNm;
+  for (const double value : values) {
+    text += QStringLiteral("%1 %2\n").arg(nm++, 4).arg(FormatNumber(value, u"0.0000"), 12);
+  }
+  return text;
+}
+
+MessageResult ConsoleMessages::MsgCall(const QString& text, std::int16_t type,
+                                       const QString& title) {
+  QString line = text;
+  line.replace(u'\r', u' ').replace(u'\n', u' ');
+  Write(stderr, title + QStringLiteral(": ") + line + u'\n');
+  switch (type & message_type::kButtonMask) {
+    case message_type::kYesNoCancel:
+    case message_type::kYesNo:
+      return MessageResult::kYes;
+    default:
+      return MessageResult::kOk;
+  }
+}
+
+}  // namespace vexa::cli

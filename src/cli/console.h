@@ -1,0 +1,40 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <QJsonArray>
+#include <QJsonObject>
+#include <QString>
+#include <cstdio>
+#include <span>
+
+#include "base/message.h"
+
+namespace vexa::cli {
+
+/// Exit statuses of every command.
+enum ExitStatus { kDone = 0, kFailed = 1, kUsageError = 2 };
+
+/// Standard output, as UTF-8.
+void Print(const QString& text);
+
+/// One JSON document on standard output; doubles in the shortest form that reads back.
+void PrintJson(const QJsonObject& object);
+
+/// One line "vexa-cli: TEXT" on standard error.
+void Complain(const QString& text);
+
+/// Values as a JSON array, those that are not finite as null.
+[[nodiscard]] QJsonArray ToJson(std::span<const double> values);
+
+/// Values 1 nm apart as lines "WAVELENGTH VALUE" in aligned columns.
+[[nodiscard]] QString SpectrumText(int firstNm, std::span<const double> values);
+
+/// Puts every message on standard error as one line "TITLE: TEXT", line breaks as blanks, and
+/// answers a question with its first button.
+class ConsoleMessages : public MessageService {
+ public:
+  MessageResult MsgCall(const QString& text, std::int16_t type, const QString& title) override;
+  void Beep() override {}
+};
+
+}  // namespace vexa::cli

@@ -1,0 +1,84 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include <algorithm>
+
+#include "cli/command_line.h"
+#include "cli/console.h"
+#include "cli/line_file.h"
+#include "instrument/wavelength_mapping.h"
+
+namespace vexa::cli {
+namespace {
+
+const QString kPositions = QStringLiteral("positions");
+const QString kStart = QStringLiteral("start");
+
+void DeclareOptions(QCommandLineParser& parser) {
+  parser.addPositionalArgument(QStringLiteral("LINES.bin"),
+                               QStringLiteral("1 to 16 detector lines of 1024 bytes."));
+  parser.addOption({kPositions,
+                    QStringLiteral("Pixel positions of the six spectral lines (default "
+                                   "138,325,378,409,469,0)."),
+                    QStringLiteral("P0,P1,P2,P3,P4,P5")});
+  parser.addOption(
+      {kStart, QStringLiteral("Start wavelength (default 440)."), QStringLiteral("NM")});
+}
+
+std::optional<LinePositions> PositionsOption(const QCommandLineParser& parser) {
+  LinePositions positions = kDefaultLinePositions;
+  if (!parser.isSet(kPositions)) {
+    return positions;
+  }
+  const QStringList fields = parser.value(kPositions).split(u',');
+  bool ok = fields.size() == static_cast<qsizetype>(positions.size());
+  for (qsizetype i = 0; ok && i < fields.size(); ++i) {
+    positions[static_cast<std::size_t>(i)] = fields[i].toShort(&ok);
+  }
+  if (!ok) {
+    Complain(QStringLiteral("--positions takes six pixel positions, not \"%1\"")
+                 .arg(parser.value(kPositions)));
+    return std::nullopt;
+  }
+  return positions;
+}
+
+int Decode(const QCommandLineParser& parser) {
+  const QString path = parser.positionalArguments().front();
+  const std::optional<LinePositions> positions = PositionsOption(parser);
+  const std::optional<int> startNm = IntegerOption(parser, kStart, kDetectorStartNm, 200, 1200);
+  if (!positions || !startNm) {
+    return kUsageError;
+  }
+  const std::optional<LineBuffers> lines = ReadLineFile(path);
+  if (!lines) {
+    return kFailed;
+  }
+  const MappedSpectrum mapped = LinesToWaves(*lines, *positions, *startNm);
+  if (mapped.values.empty()) {
+    Complain(QStringLiteral("two neighbouring line positions are equal"));
+    return kFailed;
+  }
+  if (mapped.status == 1) {
+    Complain(QStringLiteral("%1: saturated").arg(path));
+  }
+  if (parser.isSet(QStringLiteral("json"))) {
+    PrintJson({{QStringLiteral("status"), mapped.status},
+               {QStringLiteral("start"), mapped.startNm},
+               {QStringLiteral("values"), ToJson(mapped.values)}});
+  } else {
+    Print(SpectrumText(mapped.startNm, mapped.values));
+  }
+  return mapped.status == 0 ? kDone : kFailed;
+}
+
+}  // namespace
+
+Command DecodeCommand() {
+  return {QStringLiteral("decode"),
+          QStringLiteral("LINES.bin [options]"),
+          QStringLiteral("Averages raw detector lines and maps them to wavelengths."),
+          1,
+          DeclareOptions,
+          Decode};
+}
+
+}  // namespace vexa::cli

@@ -1,0 +1,17 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <QString>
+
+#include "measurement/vexatype.h"
+
+namespace vexa {
+
+/// Layout of a data file, by its place in the save dialog.
+enum class DataFileLayout { kCsv = 1 };
+
+/// Writes all ten slots, valid or not, as a data file in the program's code page with CR LF line
+/// ends. The file is replaced whole or, when anything fails, left as it was; true when written.
+[[nodiscard]] bool WriteDataFile(const QString& path, DataFileLayout layout, const VEXATYPE& state);
+
+}  // namespace vexa

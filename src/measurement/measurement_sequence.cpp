@@ -1,0 +1,133 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "measurement/measurement_sequence.h"
+
+#include <exception>
+#include <utility>
+
+#include "measurement/reflectance.h"
+
+namespace vexa {
+
+using namespace message_type;
+
+namespace {
+
+const QString kBackgroundRequest = QStringLiteral("ﾊﾞｯｸｸﾞﾗﾝﾄﾞを測定して下さい。");
+const QString kReferenceRequest = QStringLiteral("ﾘﾌｧﾚﾝｽを測定して下さい。");
+
+}  // namespace
+
+MeasurementSequence::MeasurementSequence(VEXATYPE& state, MessageService& messages, Clock clock,
+                                         QObject* parent)
+    : QObject(parent), state_(state), messages_(messages), clock_(std::move(clock)) {}
+
+std::optional<Status> MeasurementSequence::MeasureBackground() {
+  return Measure(MeasurementKind::kBackground, 0, state_.background);
+}
+
+std::optional<Status> MeasurementSequence::MeasureReference() {
+  if (!RequireMeasured(state_.backgroundMeasured, kBackgroundRequest)) {
+    return std::nullopt;
+  }
+  return Measure(MeasurementKind::kReference, 0, state_.reference);
+}
+
+std::optional<Status> MeasurementSequence::MeasureSample(int slotNumber) {
+  const MeasurementSlot* slot = state_.Slot(slotNumber);
+  if (slot == nullptr || running_) {
+    return std::nullopt;
+  }
+  if (slot->valid &&
+      messages_.MsgCall(QStringLiteral("すでに測定されてます。上書きしてもよろしいですか？"),
+                        kOkCancel + kQuestionIcon, message_title::kMessage) != MessageResult::kOk) {
+    return std::nullopt;
+  }
+  if (!RequireMeasured(state_.backgroundMeasured, kBackgroundRequest) ||
+      !RequireMeasured(state_.referenceMeasured, kReferenceRequest)) {
+    return std::nullopt;
+  }
+  return Measure(MeasurementKind::kSample, slotNumber, state_.sample);
+}
+
+bool MeasurementSequence::ClearAll() {
+  if (running_ || messages_.MsgCall(QStringLiteral("全てのデータをクリアします。よろしいですか？"),
+                                    kOkCancel + kQuestionIcon,
+                                    QStringLiteral("ALL CLEAR")) != MessageResult::kOk) {
+    return false;
+  }
+  state_.ClearSlots();
+  emit SlotsChanged();
+  return true;
+}
+
+std::optional<Status> MeasurementSequence::Measure(MeasurementKind kind, int slot,
+                                                   RawSpectrum& target) {
+  if (running_ || controller_ == nullptr) {
+    return std::nullopt;
+  }
+  running_ = true;
+  emit Began(kind, slot);
+  Status status = -1;
+  try {
+    status = AcquireInto(
+        kind == MeasurementKind::kBackground ? LightFlag::kBackground : LightFlag::kSample, target);
+    if (status == 0) {
+      switch (kind) {
+        case MeasurementKind::kBackground:
+          state_.backgroundMeasured = true;
+          break;
+        case MeasurementKind::kReference:
+          state_.referenceMeasured = true;
+          break;
+        case MeasurementKind::kSample:
+          StoreSample(*state_.Slot(slot));
+          break;
+      }
+    }
+  } catch (const std::exception& fault) {
+    messages_.MsgCall(
+        QStringLiteral("予期しないエラーが発生しました。\r") + QString::fromLocal8Bit(fault.what()),
+        kOk + kStopIcon, message_title::kError);
+  }
+  running_ = false;
+  emit Ended(kind, slot);
+  return status;
+}
+
+// A fresh array takes the place of the old one only when the acquisition succeeded.
+Status MeasurementSequence::AcquireInto(LightFlag light, RawSpectrum& target) {
+  const AcquisitionSettings settings{.linePositions = state_.instrument.linePositions,
+                                     .settlingTimeMs = state_.instrument.settlingTimeMs};
+  RawSpectrum fresh;
+  const Status status = controller_->Acquire(light, settings, fresh);
+  if (status == 0) {
+    target = fresh;
+    return status;
+  }
+  if (status == 1) {
+    messages_.Beep();
+  }
+  messages_.MsgCall(status == 1 ? QStringLiteral("取り込んだﾃﾞｰﾀが飽和しています。")
+                                : QStringLiteral("データ取得でエラーが発生しました。"),
+                    kOk + kWarningIcon, message_title::kWarning);
+  return status;
+}
+
+void MeasurementSequence::StoreSample(MeasurementSlot& slot) {
+  slot.reflectance =
+      ComputeReflectance(state_.sample, state_.background, state_.reference,
+                         state_.instrument.calibrationShiftNm, state_.referenceReflectance);
+  slot.info.measuredAt = clock_();
+  slot.thickness = 0.0;
+  slot.valid = true;
+  emit SlotsChanged();
+}
+
+bool MeasurementSequence::RequireMeasured(bool measured, const QString& request) {
+  if (!measured) {
+    messages_.MsgCall(request, kOk + kInformationIcon, message_title::kMessage);
+  }
+  return measured;
+}
+
+}  // namespace vexa

@@ -1,0 +1,227 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "instrument/frm_com_h8_ctrl.h"
+
+#include <gtest/gtest.h>
+
+#include <QElapsedTimer>
+#include <QTimer>
+
+#include "instrument/serial_port_path.h"
+#include "support/scripted_peer.h"
+
+namespace vexa {
+namespace {
+
+using test::PeerAction;
+using Frames = std::vector<std::string>;
+
+constexpr int kShortTimeoutMs = 100;
+const Frames kInitialiseFrames{"E1000000", "96009100", "87FF0000", "A5010000", "A5010000"};
+// With 30 ms the settling wait is 380 - 30 + 50 ms; the tests set it to nothing.
+constexpr int kNoSettling = 0;
+
+class H8Controller : public testing::Test {
+ protected:
+  void SetUp() override {
+    peer.SetLines(test::FlatLines(1, 100));
+    QString text;
+    ASSERT_EQ(controller.H8Init(5, text), 0);
+    EXPECT_EQ(text.toStdString(), "H8 READY");
+    EXPECT_EQ(peer.TakeFrames(), kInitialiseFrames);
+  }
+
+  Status Acquire(LightFlag light) {
+    return controller.H8GetData(light, spectrum, kDefaultLinePositions, kDetectorStartNm,
+                                kNoSettling);
+  }
+
+  test::ScriptedPeer peer;
+  frmComH8Ctrl controller{[this](int n) { return SerialPortPath(peer.Directory(), n); },
+                          kShortTimeoutMs};
+  RawSpectrum spectrum;
+};
+
+TEST_F(H8Controller, BackgroundClosesAndOpensTheLight) {
+  EXPECT_TRUE(controller.IsLightPathClosed());
+  EXPECT_EQ(Acquire(LightFlag::kBackground), 0);
+  EXPECT_EQ(peer.TakeFrames(),
+            (Frames{"A5010000", "A5010000", "C3010100", "B4000100", "A5090000", "A50A0000"}));
+  EXPECT_FALSE(controller.IsLightPathClosed());
+  EXPECT_EQ(spectrum[500], 100.0);
+
+  EXPECT_EQ(Acquire(LightFlag::kSample), 0);
+  EXPECT_EQ(peer.TakeFrames(), (Frames{"A5020000", "C3010100", "B4000100", "A50A0000"}));
+}
+
+TEST_F(H8Controller, AveragesUpToFifteenLines) {
+  ASSERT_EQ(controller.SampleInit(30, 15), 0);
+  peer.SetLines(test::FlatLines(14, 100) + test::FlatLines(1, 115));
+  EXPECT_EQ(Acquire(LightFlag::kSample), 0);
+  EXPECT_EQ(spectrum[500], 101.0);
+  // Lines of a larger averaging count that came earlier are never averaged in.
+  ASSERT_EQ(controller.SampleInit(30, 1), 0);
+  peer.SetLines(test::FlatLines(1, 7));
+  EXPECT_EQ(Acquire(LightFlag::kSample), 0);
+  EXPECT_EQ(spectrum[500], 7.0);
+  // Sixteen lines make a command text of odd length: no frame is sent.
+  ASSERT_EQ(controller.SampleInit(30, 16), 0);
+  peer.TakeFrames();
+  EXPECT_EQ(Acquire(LightFlag::kSample), -3);
+  EXPECT_EQ(peer.TakeFrames(), (Frames{"A5010000", "A5090000"}));
+}
+
+TEST_F(H8Controller, SamplingTimeThatNoTimerCountsSendsNothing) {
+  peer.TakeFrames();
+  EXPECT_EQ(controller.SampleInit(0, 1), -1);
+  EXPECT_EQ(controller.SampleInit(20000, 1), 0);
+  EXPECT_EQ(peer.TakeFrames(), Frames{"96BE8B01"});
+}
+
+struct FaultCase {
+  const char* name;
+  int frame;  ///< of the six frames of a background acquisition
+  PeerAction action;
+  Status status;
+  Frames framesAfter;  ///< what is sent after the frame of the fault
+};
+
+const FaultCase kFaultCases[] = {
+    {"light shutter silent", 1, PeerAction::kSilence, -15, {}},
+    {"eyepiece shutter silent", 2, PeerAction::kSilence, -15, {}},
+    {"measurement silent", 3, PeerAction::kSilence, -15, {"69000000"}},
+    {"data silent", 4, PeerAction::kSilence, -4, {}},
+    {"eyepiece opening silent", 5, PeerAction::kSilence, -15, {}},
+    {"light opening silent", 6, PeerAction::kSilence, -15, {}},
+    {"shutter error is no failure",
+     1,
+     PeerAction::kErrorReply,
+     0,
+     {"A5010000", "C3010100", "B4000100", "A5090000", "A50A0000"}},
+    {"measurement error", 3, PeerAction::kErrorReply, -3, {"A5090000", "A50A0000"}},
+    {"measurement says something else", 3, PeerAction::kOtherReply, -3, {"A5090000", "A50A0000"}},
+    {"noise before the measurement's end",
+     3,
+     PeerAction::kNoiseBefore,
+     -3,
+     {"A5090000", "A50A0000"}},
+    {"data error", 4, PeerAction::kErrorReply, -4, {}},
+    {"short line", 4, PeerAction::kShortLine, -4, {"A5090000", "A50A0000"}},
+    {"noise before the data", 4, PeerAction::kNoiseBefore, -4, {"A5090000", "A50A0000"}},
+    {"data byte by byte", 4, PeerAction::kByteByByte, 0, {"A5090000", "A50A0000"}},
+    {"data terminator split", 4, PeerAction::kSplitTerminator, 0, {"A5090000", "A50A0000"}},
+    {"measurement terminator split",
+     3,
+     PeerAction::kSplitTerminator,
+     0,
+     {"B4000100", "A5090000", "A50A0000"}},
+    // A lost port ends the wait at once; the next frame cannot be sent.
+    {"unplugged at the light shutter", 1, PeerAction::kUnplug, -2, {}},
+    {"unplugged at the measurement", 3, PeerAction::kUnplug, -3, {}},
+    {"unplugged at the data", 4, PeerAction::kUnplug, -4, {}},
+};
+
+TEST_F(H8Controller, EveryFaultHasItsStatusAndTheNextAcquisitionWorks) {
+  const std::size_t kAllFrames = 6;
+  for (const FaultCase& fault : kFaultCases) {
+    SCOPED_TRACE(fault.name);
+    ASSERT_EQ(Acquire(LightFlag::kBackground), 0);
+    peer.TakeFrames();
+    spectrum[440] = -1.0;
+    peer.At(fault.frame, fault.action);
+    EXPECT_EQ(Acquire(LightFlag::kBackground), fault.status);
+    EXPECT_EQ(spectrum[440] == -1.0, fault.status != 0) << "only a good frame is written";
+    const Frames frames = peer.TakeFrames();
+    ASSERT_GE(frames.size(), static_cast<std::size_t>(fault.frame));
+    EXPECT_EQ(Frames(frames.begin() + fault.frame, frames.end()), fault.framesAfter);
+
+    if (fault.action == PeerAction::kUnplug) {
+      EXPECT_EQ(Acquire(LightFlag::kSample), -2);
+      peer.Plug();
+      EXPECT_EQ(Acquire(LightFlag::kSample), 0);
+      Frames expected = kInitialiseFrames;
+      expected[3] = fault.frame == 1 ? "A5090000" : "A5010000";  // the eyepiece is as it was
+      expected.insert(expected.end(),
+                      {"96009100", "A5020000", "A5020000", "C3010100", "B4000100", "A50A0000"});
+      EXPECT_EQ(peer.TakeFrames(), expected) << "the light is open again after a reconnection";
+    }
+    EXPECT_EQ(Acquire(LightFlag::kBackground), 0);
+    EXPECT_GE(peer.TakeFrames().size(), kAllFrames);
+  }
+}
+
+TEST_F(H8Controller, QuitIsTriedTwice) {
+  peer.At(2, PeerAction::kSilence);
+  peer.At(3, PeerAction::kSilence);
+  peer.At(4, PeerAction::kSilence);
+  peer.TakeFrames();
+  EXPECT_EQ(Acquire(LightFlag::kSample), -3);
+  EXPECT_EQ(peer.TakeFrames(), (Frames{"A5010000", "C3010100", "69000000", "69000000"}));
+}
+
+TEST_F(H8Controller, BytesNobodyAskedForDoNotAnswerTheNextCommand) {
+  peer.Send("CHARENDREQEND");
+  QEventLoop loop;
+  QTimer::singleShot(20, &loop, &QEventLoop::quit);
+  loop.exec();
+  peer.At(1, PeerAction::kSilence);
+  EXPECT_EQ(controller.H8_MeasStart(), -15);
+}
+
+TEST_F(H8Controller, SaturatedFrameHasStatusOne) {
+  peer.SetLines(test::FlatLines(1, 4095));
+  EXPECT_EQ(Acquire(LightFlag::kSample), 1);
+}
+
+TEST_F(H8Controller, SecondAcquisitionReturnsAtOnce) {
+  Status second = 0;
+  QTimer::singleShot(0, &controller, [&] { second = Acquire(LightFlag::kSample); });
+  EXPECT_EQ(Acquire(LightFlag::kSample), 0);
+  EXPECT_EQ(second, frmComH8Ctrl::kBusy);
+  EXPECT_EQ(Acquire(LightFlag::kSample), 0);
+}
+
+TEST_F(H8Controller, WaitsForTheShutterToSettle) {
+  QElapsedTimer timer;
+  timer.start();
+  EXPECT_EQ(controller.H8GetData(LightFlag::kSample, spectrum, kDefaultLinePositions,
+                                 kDetectorStartNm, 60),
+            0);
+  EXPECT_GE(timer.elapsed(), 60 - 30 + 50);
+}
+
+TEST_F(H8Controller, CloseEndsAWait) {
+  peer.At(1, PeerAction::kSilence);
+  QTimer::singleShot(0, &controller, [this] { controller.Close(); });
+  EXPECT_EQ(controller.H8_MeasStart(), -4);
+  EXPECT_EQ(controller.H8_Quit(), -1);
+}
+
+TEST_F(H8Controller, UnpluggedPortRefusesTheNextCommand) {
+  peer.At(1, PeerAction::kUnplug);
+  EXPECT_EQ(controller.H8_HiScan(true), 0);
+  EXPECT_EQ(controller.H8_HiScan(true), -1);
+}
+
+TEST(H8ControllerStart, FailuresOfTheInitialisation) {
+  struct Case {
+    int frame;
+    Status status;
+  };
+  for (const Case& c : {Case{1, -15}, Case{2, -4}, Case{3, -5}, Case{4, -6}, Case{5, -7}}) {
+    test::ScriptedPeer peer;
+    frmComH8Ctrl controller([&peer](int) { return peer.Path(); }, kShortTimeoutMs);
+    peer.At(c.frame, PeerAction::kSilence);
+    QString text = QStringLiteral("before");
+    EXPECT_EQ(controller.H8Init(5, text), c.status);
+    EXPECT_EQ(text.isEmpty(), c.status == -15);
+    EXPECT_EQ(controller.H8Init(5, text), -1) << "the port is open already";
+  }
+  frmComH8Ctrl nowhere([](int) { return QStringLiteral("/nowhere/com5"); });
+  QString text;
+  EXPECT_EQ(nowhere.H8Init(5, text), -1);
+  EXPECT_EQ(nowhere.LghtSht(true), -1);
+  EXPECT_FALSE(nowhere.IsLightPathClosed());
+}
+
+}  // namespace
+}  // namespace vexa

@@ -1,0 +1,76 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <QByteArray>
+#include <QObject>
+#include <QSocketNotifier>
+#include <QString>
+#include <QTemporaryDir>
+#include <map>
+#include <memory>
+#include <vector>
+
+namespace vexa::test {
+
+/// What the peer does with a frame instead of answering it as a controller would.
+enum class PeerAction {
+  kAnswer,
+  kSilence,          ///< nothing is sent
+  kErrorReply,       ///< "REQERR"
+  kOtherReply,       ///< a command reply that says something else
+  kShortLine,        ///< the last byte before the terminator is missing
+  kByteByByte,       ///< every byte in a write of its own
+  kSplitTerminator,  ///< the terminator in two writes with a turn of the event loop between
+  kNoiseBefore,      ///< three bytes before the reply
+  kUnplug,           ///< the device goes away
+};
+
+/// A controller at the other end of a real pseudo-terminal, in the test's own event loop. It
+/// records every 4-byte frame and answers shutter, sampling, scan and initialise commands with
+/// "OK", a measurement with "END", a quit with "QUIT" and a data request with `lines`. An action
+/// can be set for the n-th frame from now on (counted from 1).
+class ScriptedPeer : public QObject {
+  Q_OBJECT
+
+ public:
+  ScriptedPeer();
+  ~ScriptedPeer() override;
+
+  /// Path of the link to the terminal, "com5" in a directory of blanks and Japanese letters.
+  [[nodiscard]] QString Path() const;
+  [[nodiscard]] QString Directory() const;
+
+  void At(int frame, PeerAction action) { actions_[received_ + frame] = action; }
+  void SetLines(QByteArray lines) { lines_ = std::move(lines); }
+
+  /// The frames since the last call, as upper-case hexadecimal texts.
+  std::vector<std::string> TakeFrames();
+
+  /// Sends bytes that nobody asked for.
+  void Send(const QByteArray& bytes);
+
+  /// Plugs a terminal in again after kUnplug.
+  void Plug();
+
+ private:
+  void Unplug();
+  void WritePending();
+  void OnReadable();
+  void Answer(const QByteArray& frame, PeerAction action);
+  [[nodiscard]] QByteArray ReplyTo(const QByteArray& frame) const;
+
+  QTemporaryDir directory_;
+  int master_ = -1;
+  std::unique_ptr<QSocketNotifier> notifier_;
+  QByteArray pending_;
+  QByteArray unsent_;
+  QByteArray lines_;
+  std::vector<std::string> frames_;
+  std::map<int, PeerAction> actions_;
+  int received_ = 0;
+};
+
+/// `count` detector lines in which every pixel has the same value.
+[[nodiscard]] QByteArray FlatLines(int count, int value);
+
+}  // namespace vexa::test
