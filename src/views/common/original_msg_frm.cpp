@@ -1,0 +1,144 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "views/common/original_msg_frm.h"
+
+#include <QApplication>
+#include <QHBoxLayout>
+#include <QStyle>
+#include <QVBoxLayout>
+
+namespace vexa {
+namespace {
+
+constexpr int kIconSize = 40;
+constexpr int kTextWidth = 520;
+
+bool Shows(std::int16_t type, MessageResult button) {
+  switch (type & message_type::kButtonMask) {
+    case message_type::kOkCancel:
+      return button == MessageResult::kOk || button == MessageResult::kCancel;
+    case message_type::kYesNoCancel:
+      return button != MessageResult::kOk;
+    case message_type::kYesNo:
+      return button == MessageResult::kYes || button == MessageResult::kNo;
+    default:
+      return button == MessageResult::kOk;
+  }
+}
+
+}  // namespace
+
+OriginalMsgFrm::OriginalMsgFrm(QWidget* parent)
+    : QDialog(parent), icon_(new QLabel), lblCmmnt_(new QLabel) {
+  const auto button = [this](const char* name, const QString& caption, MessageResult result) {
+    auto* widget = new QPushButton(caption);
+    widget->setObjectName(QLatin1String(name));
+    widget->setMinimumWidth(96);
+    connect(widget, &QPushButton::clicked, this, [this, result] {
+      result_ = result;
+      accept();
+    });
+    return Button{widget, result};
+  };
+  buttons_ = {button("btnOK", QStringLiteral("OK"), MessageResult::kOk),
+              button("btnYes", QStringLiteral("はい(&Y)"), MessageResult::kYes),
+              button("btnNo", QStringLiteral("いいえ(&N)"), MessageResult::kNo),
+              button("btnCancel", QStringLiteral("ｷｬﾝｾﾙ"), MessageResult::kCancel)};
+
+  lblCmmnt_->setObjectName(QStringLiteral("lblCmmnt"));
+  lblCmmnt_->setTextFormat(Qt::PlainText);
+  lblCmmnt_->setTextInteractionFlags(Qt::TextSelectableByMouse);
+  lblCmmnt_->setAlignment(Qt::AlignLeft | Qt::AlignVCenter);
+  icon_->setFixedSize(kIconSize, kIconSize);
+
+  auto* message = new QHBoxLayout;
+  message->setSpacing(18);
+  message->addWidget(icon_, 0, Qt::AlignTop);
+  message->addWidget(lblCmmnt_, 1);
+  auto* row = new QHBoxLayout;
+  row->setSpacing(10);
+  row->addStretch();
+  for (const Button& each : buttons_) {
+    row->addWidget(each.widget);
+  }
+  auto* layout = new QVBoxLayout(this);
+  layout->setContentsMargins(22, 20, 22, 16);
+  layout->setSpacing(20);
+  layout->addLayout(message);
+  layout->addLayout(row);
+  layout->setSizeConstraint(QLayout::SetFixedSize);
+}
+
+void OriginalMsgFrm::MsgCall(const QString& text, std::int16_t type, const QString& title) {
+  setWindowTitle(title);
+  QString lines = text;
+  lines.replace(QStringLiteral("\r\n"), QStringLiteral("\n")).replace(u'\r', u'\n');
+  lblCmmnt_->setText(lines);
+  lblCmmnt_->setWordWrap(false);
+  lblCmmnt_->setMinimumWidth(0);
+  if (lblCmmnt_->sizeHint().width() > kTextWidth) {
+    lblCmmnt_->setWordWrap(true);
+    lblCmmnt_->setMinimumWidth(kTextWidth);
+  }
+  ShowButtons(type);
+  ShowIcon(type);
+  exec();
+}
+
+void OriginalMsgFrm::reject() {
+  result_ = closedByFrame_;
+  QDialog::reject();
+}
+
+void OriginalMsgFrm::ShowButtons(std::int16_t type) {
+  QPushButton* first = nullptr;
+  for (const Button& button : buttons_) {
+    const bool shown = Shows(type, button.result);
+    button.widget->setVisible(shown);
+    button.widget->setDefault(false);
+    if (shown) {
+      // The last one in the row is Cancel where there is one, else No, else OK.
+      closedByFrame_ = button.result;
+      first = first == nullptr ? button.widget : first;
+    }
+  }
+  first->setDefault(true);
+  first->setFocus();
+}
+
+void OriginalMsgFrm::ShowIcon(std::int16_t type) {
+  QStyle::StandardPixmap pixmap{};
+  switch (type & message_type::kIconMask) {
+    case message_type::kStopIcon:
+      pixmap = QStyle::SP_MessageBoxCritical;
+      break;
+    case message_type::kQuestionIcon:
+      pixmap = QStyle::SP_MessageBoxQuestion;
+      break;
+    case message_type::kWarningIcon:
+      pixmap = QStyle::SP_MessageBoxWarning;
+      break;
+    case message_type::kInformationIcon:
+      pixmap = QStyle::SP_MessageBoxInformation;
+      break;
+    default:
+      icon_->hide();
+      return;
+  }
+  icon_->setPixmap(style()->standardIcon(pixmap).pixmap(kIconSize, kIconSize));
+  icon_->show();
+}
+
+MessageResult WindowMessages::MsgCall(const QString& text, std::int16_t type,
+                                      const QString& title) {
+  if (dialog_ == nullptr) {
+    dialog_ = new OriginalMsgFrm(window_);
+  }
+  dialog_->MsgCall(text, type, title);
+  return dialog_->Result();
+}
+
+void WindowMessages::Beep() {
+  QApplication::beep();
+}
+
+}  // namespace vexa

@@ -1,0 +1,59 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <QDialog>
+#include <QDialogButtonBox>
+#include <QLabel>
+#include <QPushButton>
+#include <array>
+
+#include "base/message.h"
+
+namespace vexa {
+
+/// The dialog through which every message of the system is shown. Made once and used again.
+/// Closing it by its frame means Cancel where there is one, else No, else OK.
+class OriginalMsgFrm : public QDialog {
+  Q_OBJECT
+
+ public:
+  explicit OriginalMsgFrm(QWidget* parent = nullptr);
+
+  /// Shows the message modally; the button pressed is Result() afterwards.
+  void MsgCall(const QString& text, std::int16_t type, const QString& title);
+
+  [[nodiscard]] MessageResult Result() const { return result_; }
+
+  void reject() override;
+
+ private:
+  struct Button {
+    QPushButton* widget;
+    MessageResult result;
+  };
+
+  void ShowButtons(std::int16_t type);
+  void ShowIcon(std::int16_t type);
+
+  QLabel* icon_;
+  QLabel* lblCmmnt_;
+  std::array<Button, 4> buttons_;
+  MessageResult closedByFrame_ = MessageResult::kOk;
+  MessageResult result_ = MessageResult::kOk;
+};
+
+/// Shows messages in an OriginalMsgFrm over a window.
+class WindowMessages : public MessageService {
+ public:
+  /// The window over which the next messages are centred; null for none.
+  void SetWindow(QWidget* window) { window_ = window; }
+
+  MessageResult MsgCall(const QString& text, std::int16_t type, const QString& title) override;
+  void Beep() override;
+
+ private:
+  QWidget* window_ = nullptr;
+  OriginalMsgFrm* dialog_ = nullptr;
+};
+
+}  // namespace vexa

@@ -1,0 +1,114 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "views/common/theme.h"
+
+#include <QFont>
+#include <QFontDatabase>
+#include <QPainter>
+#include <QPalette>
+#include <QPixmap>
+#include <QStyleFactory>
+#include <array>
+
+namespace vexa {
+namespace {
+
+constexpr std::array<QRgb, 10> kSlotColours{0x0d74e4, 0xe09502, 0x056565, 0xe78dd1, 0x9b3e00,
+                                            0x66ab76, 0x0924eb, 0x210375, 0x431000, 0x080026};
+constexpr int kFirstDashedSlot = 6;
+constexpr qreal kLineWidth = 1.6;
+
+QPixmap Canvas(QSize size) {
+  const qreal ratio = qApp->devicePixelRatio();
+  QPixmap pixmap(size * ratio);
+  pixmap.setDevicePixelRatio(ratio);
+  pixmap.fill(Qt::transparent);
+  return pixmap;
+}
+
+QPalette LightPalette() {
+  QPalette palette;
+  palette.setColor(QPalette::Window, theme::kWindow);
+  palette.setColor(QPalette::WindowText, theme::kText);
+  palette.setColor(QPalette::Base, theme::kPanel);
+  palette.setColor(QPalette::AlternateBase, QColor(0xf6, 0xf8, 0xfa));
+  palette.setColor(QPalette::Text, theme::kText);
+  palette.setColor(QPalette::Button, QColor(0xf8, 0xfa, 0xfb));
+  palette.setColor(QPalette::ButtonText, theme::kText);
+  palette.setColor(QPalette::ToolTipBase, theme::kPanel);
+  palette.setColor(QPalette::ToolTipText, theme::kText);
+  palette.setColor(QPalette::PlaceholderText, theme::kMutedText);
+  palette.setColor(QPalette::Highlight, theme::kAccent);
+  palette.setColor(QPalette::HighlightedText, Qt::white);
+  const QColor disabled(0x9a, 0xa4, 0xae);
+  for (const auto role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText}) {
+    palette.setColor(QPalette::Disabled, role, disabled);
+  }
+  palette.setColor(QPalette::Disabled, QPalette::Highlight, theme::kBorder);
+  return palette;
+}
+
+}  // namespace
+
+void ApplyTheme(QApplication& application) {
+  application.setStyle(QStyleFactory::create(QStringLiteral("Fusion")));
+  application.setPalette(LightPalette());
+  QFont font;
+  font.setFamilies({QStringLiteral("Noto Sans CJK JP"), QStringLiteral("IPAPGothic"),
+                    QStringLiteral("sans-serif")});
+  font.setPixelSize(13);
+  application.setFont(font);
+}
+
+QColor SlotColour(int slot) {
+  return QColor::fromRgb(kSlotColours.at(static_cast<std::size_t>(slot - 1)));
+}
+
+QPen SlotPen(int slot) {
+  QPen pen(SlotColour(slot), kLineWidth);
+  if (slot >= kFirstDashedSlot) {
+    pen.setDashPattern({5.0, 2.5});
+  }
+  return pen;
+}
+
+QIcon SlotIcon(int slot, bool valid) {
+  constexpr QSize kSize(22, 12);
+  QPixmap pixmap = Canvas(kSize);
+  QPainter painter(&pixmap);
+  painter.setRenderHint(QPainter::Antialiasing);
+  if (valid) {
+    QPen pen = SlotPen(slot);
+    pen.setWidthF(4.0);
+    if (pen.style() == Qt::CustomDashLine) {
+      pen.setDashPattern({1.7, 0.8});
+    }
+    pen.setCapStyle(Qt::FlatCap);
+    painter.setPen(pen);
+    painter.drawLine(QPointF(0.0, 6.0), QPointF(22.0, 6.0));
+  } else {
+    painter.setPen(QPen(theme::kBorder, 1.0));
+    painter.drawRect(QRectF(0.5, 3.5, 21.0, 5.0));
+  }
+  return QIcon(pixmap);
+}
+
+QIcon DoneIcon(bool done) {
+  constexpr QSize kSize(16, 16);
+  QPixmap pixmap = Canvas(kSize);
+  QPainter painter(&pixmap);
+  painter.setRenderHint(QPainter::Antialiasing);
+  const QRectF ring(1.5, 1.5, 13.0, 13.0);
+  if (done) {
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(theme::kGood);
+    painter.drawEllipse(ring);
+    painter.setPen(QPen(Qt::white, 2.0, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+    painter.drawPolyline(QPolygonF{{4.8, 8.3}, {7.1, 10.6}, {11.3, 5.6}});
+  } else {
+    painter.setPen(QPen(theme::kBorder.darker(115), 1.5));
+    painter.drawEllipse(ring);
+  }
+  return QIcon(pixmap);
+}
+
+}  // namespace vexa

@@ -1,0 +1,39 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <QApplication>
+#include <QColor>
+#include <QIcon>
+#include <QPen>
+
+namespace vexa {
+
+/// Gives the application its calm light look and a font with Japanese letters.
+void ApplyTheme(QApplication& application);
+
+/// The colour of slot 1..10. Any two of them stay at least 35 apart in CIE L*a*b* for normal,
+/// protanopic and deuteranopic eyes (simulated after Machado, Oliveira and Fernandes, 2009), and
+/// each has a contrast of 2.3 or more against white.
+[[nodiscard]] QColor SlotColour(int slot);
+
+/// The line of slot 1..10: its colour, solid for 1 to 5 and dashed for 6 to 10.
+[[nodiscard]] QPen SlotPen(int slot);
+
+/// A sample of the slot's line when the slot holds a spectrum, else an empty frame.
+[[nodiscard]] QIcon SlotIcon(int slot, bool valid);
+
+/// A filled mark with a tick when `done`, else an empty ring.
+[[nodiscard]] QIcon DoneIcon(bool done);
+
+namespace theme {
+inline constexpr QColor kText{0x1f, 0x29, 0x33};
+inline constexpr QColor kMutedText{0x5b, 0x68, 0x76};
+inline constexpr QColor kWindow{0xee, 0xf1, 0xf4};
+inline constexpr QColor kPanel{0xff, 0xff, 0xff};
+inline constexpr QColor kBorder{0xc3, 0xcb, 0xd3};
+inline constexpr QColor kGrid{0xe3, 0xe8, 0xec};
+inline constexpr QColor kAccent{0x1c, 0x64, 0xa8};
+inline constexpr QColor kGood{0x1d, 0x7a, 0x46};
+}  // namespace theme
+
+}  // namespace vexa

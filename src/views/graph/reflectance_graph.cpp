@@ -1,0 +1,156 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "views/graph/reflectance_graph.h"
+
+#include <algorithm>
+#include <cmath>
+
+#include "views/common/plot_style.h"
+#include "views/common/theme.h"
+
+namespace vexa {
+namespace {
+
+constexpr double kEmptyMaximumPercent = 4.0;
+constexpr double kHeadroom = 1.05;
+constexpr double kZoomStep = 0.8;
+constexpr double kMoveStep = 0.1;
+constexpr double kSelectedWidth = 2.4;
+
+// The next of 1, 2, 2.5, 5 x 10^n at or above the value.
+double RoundedUp(double value) {
+  const double decade = std::pow(10.0, std::floor(std::log10(value)));
+  for (const double step : {1.0, 1.5, 2.0, 2.5, 3.0, 4.0, 5.0, 6.0, 8.0}) {
+    if (value <= step * decade * (1.0 + 1e-9)) {
+      return step * decade;
+    }
+  }
+  return 10.0 * decade;
+}
+
+}  // namespace
+
+ReflectanceGraph::ReflectanceGraph(QWidget* parent) : QCustomPlot(parent) {
+  setObjectName(QStringLiteral("ReflectanceGraph"));
+  setFocusPolicy(Qt::StrongFocus);
+  ApplyPlotStyle(*this);
+  xAxis->setLabel(QStringLiteral("波長 [nm]"));
+  yAxis->setLabel(QStringLiteral("反射率 [%]"));
+  setInteractions(QCP::iRangeDrag | QCP::iRangeZoom);
+  for (int slot = 1; slot <= kSlotCount; ++slot) {
+    QCPGraph* line = addGraph();
+    line->setPen(SlotPen(slot));
+    line->setAdaptiveSampling(false);
+    line->setVisible(false);
+    lines_[static_cast<std::size_t>(slot - 1)] = line;
+  }
+  legend->setVisible(false);
+  axisRect()->insetLayout()->setInsetAlignment(0, Qt::AlignTop | Qt::AlignRight);
+
+  const auto leaveFullView = [this] { fullView_ = false; };
+  connect(this, &QCustomPlot::mouseWheel, this, leaveFullView);
+  connect(this, &QCustomPlot::mouseMove, this, [this](const QMouseEvent* event) {
+    if (event->buttons() & Qt::LeftButton) {
+      fullView_ = false;
+    }
+  });
+  connect(this, &QCustomPlot::mouseDoubleClick, this, [this] {
+    ShowFullView();
+    replot(rpQueuedReplot);
+  });
+  connect(this, &QCustomPlot::afterReplot, this, &ReflectanceGraph::Drawn);
+  ShowFullView();
+}
+
+void ReflectanceGraph::Show(const VEXATYPE& state, int selectedSlot) {
+  legend->clearItems();
+  for (int number = 1; number <= kSlotCount; ++number) {
+    const MeasurementSlot& slot = *state.Slot(number);
+    QCPGraph& line = *lines_[static_cast<std::size_t>(number - 1)];
+    line.setVisible(slot.valid);
+    if (!slot.valid) {
+      line.data()->clear();
+      continue;
+    }
+    QVector<QCPGraphData> points;
+    points.reserve(static_cast<qsizetype>(ReflectanceSpectrum::kCount));
+    for (int nm = ReflectanceSpectrum::kFirstNm; nm <= ReflectanceSpectrum::kLastNm; ++nm) {
+      points.append({static_cast<double>(nm), slot.reflectance[nm]});
+    }
+    line.data()->set(points, true);
+    QPen pen = SlotPen(number);
+    if (number == selectedSlot) {
+      pen.setWidthF(kSelectedWidth);
+    }
+    line.setPen(pen);
+    line.setName(slot.info.sampleNumber.isEmpty()
+                     ? QString::number(number)
+                     : QStringLiteral("%1  %2").arg(number).arg(slot.info.sampleNumber));
+    line.addToLegend();
+  }
+  legend->setVisible(state.HasValidSlot());
+  if (fullView_) {
+    ShowFullView();
+  }
+  replot(rpQueuedReplot);
+}
+
+void ReflectanceGraph::ShowFullView() {
+  fullView_ = true;
+  xAxis->setRange(ReflectanceSpectrum::kFirstNm, ReflectanceSpectrum::kLastNm);
+  const double largest = LargestReflectance();
+  yAxis->setRange(0.0, largest > 0.0 ? RoundedUp(largest * kHeadroom) : kEmptyMaximumPercent);
+}
+
+void ReflectanceGraph::keyPressEvent(QKeyEvent* event) {
+  const bool control = event->modifiers().testFlag(Qt::ControlModifier);
+  switch (event->key()) {
+    case Qt::Key_Plus:
+      return Zoom(kZoomStep);
+    case Qt::Key_Minus:
+      return Zoom(1.0 / kZoomStep);
+    case Qt::Key_Home:
+      ShowFullView();
+      return replot(rpQueuedReplot);
+    case Qt::Key_Left:
+    case Qt::Key_Right:
+      if (control) {
+        return Move(event->key() == Qt::Key_Left ? -kMoveStep : kMoveStep, 0.0);
+      }
+      break;
+    case Qt::Key_Up:
+    case Qt::Key_Down:
+      if (control) {
+        return Move(0.0, event->key() == Qt::Key_Down ? -kMoveStep : kMoveStep);
+      }
+      break;
+    default:
+      break;
+  }
+  QCustomPlot::keyPressEvent(event);
+}
+
+void ReflectanceGraph::Zoom(double factor) {
+  fullView_ = false;
+  xAxis->scaleRange(factor);
+  yAxis->scaleRange(factor);
+  replot(rpQueuedReplot);
+}
+
+void ReflectanceGraph::Move(double wavelengthPart, double reflectancePart) {
+  fullView_ = false;
+  xAxis->moveRange(wavelengthPart * xAxis->range().size());
+  yAxis->moveRange(reflectancePart * yAxis->range().size());
+  replot(rpQueuedReplot);
+}
+
+double ReflectanceGraph::LargestReflectance() const {
+  double largest = 0.0;
+  for (const QCPGraph* line : lines_) {
+    for (const QCPGraphData& point : *line->data()) {
+      largest = std::max(largest, point.value);
+    }
+  }
+  return largest;
+}
+
+}  // namespace vexa
