@@ -1,0 +1,142 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "simulator/instrument.h"
+
+#include <cerrno>
+#include <cstdio>
+#include <cstring>
+#include <utility>
+
+namespace vexa::simulator {
+namespace {
+
+using namespace Qt::StringLiterals;
+using namespace std::chrono_literals;
+
+// A frame that stops halfway for so long was cut off by its sender going away.
+constexpr auto kPartialFrameLife = 500ms;
+
+}  // namespace
+
+Instrument::Instrument(const Options& options, Announce announce)
+    : announce_(std::move(announce)),
+      replugAfter_(options.replugAfter),
+      generator_(options.seed),
+      noise_(options.noise),
+      stage_(options.stage,
+             [this](Sample sample) { announce_(u"stage %1"_s.arg(QString(SampleName(sample)))); }),
+      protocol_([this](const Exposure& exposure, int count) { return ReadLines(exposure, count); },
+                options.faults, options.lateBy),
+      queue_(options.paced),
+      sendTimer_([this] { SendDue(); }),
+      link_(options.directory, options.port) {
+  replugTimer_.setSingleShot(true);
+  QObject::connect(&replugTimer_, &QTimer::timeout, &replugTimer_, [this] {
+    const QString failure = PlugIn();
+    if (!failure.isEmpty()) {
+      std::fprintf(stderr, "vexa-simulator: %s\n", qUtf8Printable(failure));
+    }
+  });
+}
+
+QString Instrument::PlugIn() {
+  if (!terminal_.Open()) {
+    return u"cannot make a pseudo-terminal: %1"_s.arg(QString::fromLocal8Bit(std::strerror(errno)));
+  }
+  const QString failure = link_.Make(terminal_.DevicePath());
+  if (!failure.isEmpty()) {
+    terminal_.Close();
+    return failure;
+  }
+  received_ =
+      std::make_unique<QSocketNotifier>(terminal_.MasterDescriptor(), QSocketNotifier::Read);
+  QObject::connect(received_.get(), &QSocketNotifier::activated, received_.get(),
+                   [this] { ReadCommands(); });
+  writable_ =
+      std::make_unique<QSocketNotifier>(terminal_.MasterDescriptor(), QSocketNotifier::Write);
+  writable_->setEnabled(false);
+  QObject::connect(writable_.get(), &QSocketNotifier::activated, writable_.get(),
+                   [this] { SendBacklog(); });
+  announce_(u"ready %1"_s.arg(link_.Path()));
+  return {};
+}
+
+void Instrument::PutOnStage(const struct PutOnStage& command) {
+  if (command.sample) {
+    stage_.Fix(*command.sample);
+  } else {
+    stage_.LeaveUnattended();
+  }
+}
+
+void Instrument::ReadCommands() {
+  const auto now = ReplyQueue::Clock::now();
+  if (now - lastArrival_ > kPartialFrameLife) {
+    protocol_.ForgetPartialFrame();
+  }
+  lastArrival_ = now;
+  for (const Response& response : protocol_.Receive(terminal_.Read())) {
+    if (response.dropsPending) {
+      DropUnsent();
+    }
+    queue_.Add(now, response);
+    if (response.unplugs) {
+      Unplug();
+      return;
+    }
+  }
+  SendDue();
+}
+
+void Instrument::SendDue() {
+  const auto next = queue_.Pump(
+      ReplyQueue::Clock::now(), [this](QByteArrayView bytes) { Send(bytes); },
+      [this](Milestone milestone) {
+        protocol_.Reach(milestone);
+        stage_.Reach(milestone);
+      });
+  if (next) {
+    sendTimer_.Arm(*next);
+  }
+}
+
+void Instrument::Send(QByteArrayView bytes) {
+  backlog_.append(bytes);
+  SendBacklog();
+}
+
+void Instrument::SendBacklog() {
+  backlog_.remove(0, terminal_.Write(backlog_));
+  writable_->setEnabled(!backlog_.isEmpty());
+}
+
+void Instrument::DropUnsent() {
+  backlog_.clear();
+  terminal_.DiscardUnread();
+}
+
+void Instrument::Unplug() {
+  queue_.Clear();
+  DropUnsent();
+  sendTimer_.Disarm();
+  protocol_.ForgetPartialFrame();
+  // This runs inside the notifier's own signal, so it is deleted later; disabled, it is silent.
+  received_->setEnabled(false);
+  received_.release()->deleteLater();
+  writable_.reset();
+  link_.Remove();
+  terminal_.Close();
+  if (replugAfter_ > 0ms) {
+    replugTimer_.start(replugAfter_);
+  }
+}
+
+std::vector<SensorLine> Instrument::ReadLines(const Exposure& exposure, int count) {
+  const PixelCounts mean = MeanCounts(stage_.Current(), exposure);
+  std::vector<SensorLine> lines(static_cast<std::size_t>(count));
+  for (SensorLine& line : lines) {
+    line = ReadOut(mean, noise_ ? &generator_ : nullptr);
+  }
+  return lines;
+}
+
+}  // namespace vexa::simulator

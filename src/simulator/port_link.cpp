@@ -1,0 +1,62 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "simulator/port_link.h"
+
+#include <fcntl.h>
+#include <unistd.h>
+
+#include <QDir>
+#include <QFile>
+#include <array>
+#include <cerrno>
+#include <cstring>
+
+namespace vexa::simulator {
+namespace {
+
+using namespace Qt::StringLiterals;
+
+/// Where the link points; empty when it is no link.
+QByteArray LinkTarget(const QByteArray& path) {
+  std::array<char, 4096> target;
+  const ssize_t length = ::readlink(path.constData(), target.data(), target.size());
+  return length > 0 ? QByteArray(target.data(), length) : QByteArray();
+}
+
+}  // namespace
+
+PortLink::PortLink(const QString& directory, int port)
+    : path_(QDir(directory).absoluteFilePath(u"com%1"_s.arg(port))),
+      encodedPath_(QFile::encodeName(path_)) {}
+
+QString PortLink::Make(const QByteArray& devicePath) {
+  const QByteArray target = LinkTarget(encodedPath_);
+  if (!target.isEmpty() && (target == devicePath || MayReplace(target))) {
+    ::unlink(encodedPath_.constData());
+  }
+  if (::symlink(devicePath.constData(), encodedPath_.constData()) != 0) {
+    return errno == EEXIST
+               ? u"%1 exists and is in use"_s.arg(path_)
+               : u"cannot make %1: %2"_s.arg(path_, QString::fromLocal8Bit(std::strerror(errno)));
+  }
+  devicePath_ = devicePath;
+  return {};
+}
+
+void PortLink::Remove() {
+  if (!devicePath_.isEmpty() && LinkTarget(encodedPath_) == devicePath_) {
+    ::unlink(encodedPath_.constData());
+  }
+  devicePath_.clear();
+}
+
+bool PortLink::MayReplace(const QByteArray& target) const {
+  const int descriptor =
+      ::open(encodedPath_.constData(), O_RDWR | O_NOCTTY | O_NONBLOCK | O_CLOEXEC);
+  if (descriptor >= 0) {
+    ::close(descriptor);
+    return false;
+  }
+  return errno == ENOENT || (target.startsWith("/dev/pts/") && (errno == EIO || errno == ENXIO));
+}
+
+}  // namespace vexa::simulator

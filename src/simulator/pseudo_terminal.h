@@ -1,0 +1,43 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <QByteArray>
+#include <QByteArrayView>
+
+namespace vexa::simulator {
+
+/// A pseudo-terminal in raw mode whose master end is ours, read and written without waiting. The
+/// other end is held open here too, so that the program at the other end may close and open it
+/// again at will. Closed when made and when destroyed.
+class PseudoTerminal {
+ public:
+  PseudoTerminal() = default;
+  PseudoTerminal(const PseudoTerminal&) = delete;
+  PseudoTerminal& operator=(const PseudoTerminal&) = delete;
+  ~PseudoTerminal() { Close(); }
+
+  /// Makes the device; false (and closed, errno telling why) when the system cannot.
+  [[nodiscard]] bool Open();
+  void Close();
+
+  [[nodiscard]] int MasterDescriptor() const { return master_; }
+  /// Path of the device for the other program, such as /dev/pts/3; empty when closed.
+  [[nodiscard]] const QByteArray& DevicePath() const { return devicePath_; }
+
+  /// The bytes that have arrived; empty when there are none.
+  [[nodiscard]] QByteArray Read();
+
+  /// Sends the bytes and gives back how many of them the system's buffer took (some kilobytes fit
+  /// while nobody reads).
+  [[nodiscard]] qsizetype Write(QByteArrayView bytes);
+
+  /// Throws away what was sent and not read yet.
+  void DiscardUnread();
+
+ private:
+  int master_ = -1;
+  int device_ = -1;
+  QByteArray devicePath_;
+};
+
+}  // namespace vexa::simulator

@@ -1,0 +1,75 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "simulator/samples.h"
+
+#include <QStringView>
+#include <algorithm>
+
+#include "simulator/film_stack.h"
+
+namespace vexa::simulator {
+namespace {
+
+using namespace Qt::StringLiterals;
+
+constexpr double kReferencePercent = 4.0;
+constexpr double kQuarterWaveNm = 550.0;
+
+FilmStack MakeStack(Sample sample) {
+  switch (sample) {
+    case Sample::Reference:
+    case Sample::Glass:
+      return {CrownGlassIndex, {}};
+    case Sample::Mgf2:
+      return {CrownGlassIndex,
+              {{MagnesiumFluorideIndex,
+                kQuarterWaveNm / 4.0 / MagnesiumFluorideIndex(kQuarterWaveNm)}}};
+    case Sample::Ar4:
+      return {CrownGlassIndex,
+              {{MagnesiumFluorideIndex, 99.0},
+               {ZirconiaIndex, 133.0},
+               {MagnesiumFluorideIndex, 35.0},
+               {ZirconiaIndex, 15.0}}};
+    case Sample::HardCoat1500:
+      return {LensPlasticIndex, {{HardCoatIndex, 1500.0}}};
+    case Sample::HardCoat4000:
+      return {LensPlasticIndex, {{HardCoatIndex, 4000.0}}};
+    case Sample::Mirror:
+      return {CrownGlassIndex, {{MagnesiumFluorideIndex, 20.0}, {ZirconiaIndex, 203.0}}};
+  }
+  Q_UNREACHABLE();
+}
+
+}  // namespace
+
+const std::array<SampleInfo, 7>& AllSamples() {
+  static constexpr std::array<SampleInfo, 7> kSamples = {{
+      {Sample::Reference, "reference"_L1, "glass of 4.0 % reflectance at every wavelength"_L1},
+      {Sample::Glass, "glass"_L1, "bare crown glass"_L1},
+      {Sample::Mgf2, "mgf2"_L1, "crown glass, quarter wave of MgF2 at 550 nm"_L1},
+      {Sample::Ar4, "ar4"_L1, "crown glass, four-layer broadband antireflection coating"_L1},
+      {Sample::HardCoat1500, "hardcoat1.5"_L1, "lens plastic, 1500 nm of hard coat"_L1},
+      {Sample::HardCoat4000, "hardcoat4"_L1, "lens plastic, 4000 nm of hard coat"_L1},
+      {Sample::Mirror, "mirror"_L1, "crown glass, yellow mirror of at most 25 %"_L1},
+  }};
+  return kSamples;
+}
+
+QLatin1StringView SampleName(Sample sample) {
+  return AllSamples()[static_cast<std::size_t>(sample)].name;
+}
+
+std::optional<Sample> FindSample(QStringView name) {
+  const auto& all = AllSamples();
+  const auto found =
+      std::ranges::find_if(all, [name](const auto& info) { return name == info.name; });
+  return found == all.end() ? std::nullopt : std::optional(found->sample);
+}
+
+double TrueReflectancePercent(Sample sample, double wavelengthNm) {
+  if (sample == Sample::Reference) {
+    return kReferencePercent;
+  }
+  return 100.0 * SplitPower(MakeStack(sample), wavelengthNm).reflected;
+}
+
+}  // namespace vexa::simulator
