@@ -138,8 +138,12 @@ void MeasureAll(const Plan& plan, MeasurementSequence& sequence, Report& report)
 
 Status StartController(Controller& controller, const InstrumentSettings& settings,
                        MessageService& messages) {
-  const Status status = InitialiseController(controller, settings, messages);
-  return status == 0 ? SendSamplingSettings(controller, settings, messages) : status;
+  const Status status = controller.Initialise(settings.controllerPort);
+  if (status != 0) {
+    ReportControllerFailure(messages);
+    return status;
+  }
+  return SendSamplingSettings(controller, settings, messages);
 }
 
 void PrintReport(const Report& report, bool json) {

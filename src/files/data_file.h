@@ -14,8 +14,9 @@ enum class DataFileLayout {
   kFiveBlocks = 3,  ///< the same for the first five slots
 };
 
-/// Writes the slots of the layout, valid or not, as a data file in the program's code page with CR LF line
-/// ends. The file is replaced whole or, when anything fails, left as it was; true when written.
+/// Writes the slots of the layout, valid or not, as a data file in the program's code page with CR
+/// LF line ends. The file is replaced whole or, when anything fails, left as it was; true when
+/// written.
 [[nodiscard]] bool WriteDataFile(const QString& path, DataFileLayout layout, const VEXATYPE& state);
 
 }  // namespace vexa

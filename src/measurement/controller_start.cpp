@@ -3,14 +3,9 @@
 
 namespace vexa {
 
-Status InitialiseController(Controller& controller, const InstrumentSettings& settings,
-                            MessageService& messages) {
-  const Status status = controller.Initialise(settings.controllerPort);
-  if (status != 0) {
-    messages.MsgCall(QStringLiteral("通信でﾃﾞﾊﾞｲｽ･ｴﾗｰ発生しました。"),
-                     message_type::kOk + message_type::kStopIcon, QStringLiteral("ｺﾝﾄﾛｰﾗｴﾗｰ"));
-  }
-  return status;
+void ReportControllerFailure(MessageService& messages) {
+  messages.MsgCall(QStringLiteral("通信でﾃﾞﾊﾞｲｽ･ｴﾗｰ発生しました。"),
+                   message_type::kOk + message_type::kStopIcon, QStringLiteral("ｺﾝﾄﾛｰﾗｴﾗｰ"));
 }
 
 Status SendSamplingSettings(Controller& controller, const InstrumentSettings& settings,

@@ -7,11 +7,8 @@
 
 namespace vexa {
 
-/// Initialises the controller on its port; a failure shows the device error. Returns the
-/// controller's status, 0 when it is ready.
-[[nodiscard]] Status InitialiseController(Controller& controller,
-                                          const InstrumentSettings& settings,
-                                          MessageService& messages);
+/// Shows the device error of a controller that could not be initialised.
+void ReportControllerFailure(MessageService& messages);
 
 /// Sends sampling time and averaging count to the controller; a failure is shown. Returns the
 /// controller's status, 0 when they are set.

@@ -80,7 +80,7 @@ std::optional<Status> MeasurementSequence::Measure(MeasurementKind kind, int slo
           state_.referenceMeasured = true;
           break;
         case MeasurementKind::kSample:
-          StoreSample(*state_.Slot(slot));
+          StoreSample(slot);
           break;
       }
     }
@@ -113,14 +113,15 @@ Status MeasurementSequence::AcquireInto(LightFlag light, RawSpectrum& target) {
   return status;
 }
 
-void MeasurementSequence::StoreSample(MeasurementSlot& slot) {
+void MeasurementSequence::StoreSample(int slotNumber) {
+  MeasurementSlot& slot = *state_.Slot(slotNumber);
   slot.reflectance =
       ComputeReflectance(state_.sample, state_.background, state_.reference,
                          state_.instrument.calibrationShiftNm, state_.referenceReflectance);
   slot.info.measuredAt = clock_();
   slot.thickness = 0.0;
   slot.valid = true;
-  emit SlotsChanged();
+  emit SampleStored(slotNumber);
 }
 
 bool MeasurementSequence::RequireMeasured(bool measured, const QString& request) {

@@ -47,12 +47,14 @@ class MeasurementSequence : public QObject {
   /// `slot` is 0 for a background and a reference.
   void Began(vexa::MeasurementKind kind, int slot);
   void Ended(vexa::MeasurementKind kind, int slot);
+  /// A sample was measured into the slot and evaluated.
+  void SampleStored(int slot);
   void SlotsChanged();
 
  private:
   std::optional<Status> Measure(MeasurementKind kind, int slot, RawSpectrum& target);
   Status AcquireInto(LightFlag light, RawSpectrum& target);
-  void StoreSample(MeasurementSlot& slot);
+  void StoreSample(int slotNumber);
   bool RequireMeasured(bool measured, const QString& request);
 
   VEXATYPE& state_;

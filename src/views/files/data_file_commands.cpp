@@ -28,9 +28,9 @@ void SaveDataFileAs(VEXATYPE& state, MessageService& messages, FileDialogs& dial
     return;
   }
   const auto layout = static_cast<DataFileLayout>(choice->filterIndex);
-  const QString path = WithDefaultExtension(
-      choice->path,
-      layout == DataFileLayout::kCsv ? QStringLiteral(".csv") : QStringLiteral(".dat"));
+  const QString path =
+      WithDefaultExtension(choice->path, layout == DataFileLayout::kCsv ? QStringLiteral(".csv")
+                                                                        : QStringLiteral(".dat"));
   if (!MayReplace(path, messages)) {
     return;
   }

@@ -10,7 +10,8 @@
 namespace vexa {
 
 /// The reflectance of all valid slots over the wavelength, each slot with its own line and an entry
-/// in the legend. Wheel and drag zoom and move, a double click (or Home) goes back to the full view,
+/// in the legend. Wheel and drag zoom and move, a double click (or Home) goes back to the full
+/// view,
 /// "+" and "-" zoom, and Ctrl with an arrow key moves. A changed view stays until it is left.
 class ReflectanceGraph : public QCustomPlot {
   Q_OBJECT

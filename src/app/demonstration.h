@@ -1,0 +1,56 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <QProcess>
+#include <QString>
+#include <optional>
+
+#include "base/message.h"
+#include "views/common/file_dialogs.h"
+
+namespace vexa {
+
+class VEXA;
+
+/// The window drives itself: with its own buttons it measures background, reference and five
+/// samples on a virtual instrument, which runs as a process of its own, and leaves
+/// `measurement.csv` and `window.png` in a directory.
+class Demonstration {
+ public:
+  /// `directory` becomes the program directory of the run.
+  explicit Demonstration(QString directory);
+  ~Demonstration();
+
+  /// Starts the virtual instrument; false, with a line on standard error, when it does not come up.
+  [[nodiscard]] bool StartInstrument();
+
+  /// Presses the buttons of a loaded window; the exit status of the program.
+  [[nodiscard]] int Drive(VEXA& window);
+
+  [[nodiscard]] MessageService& Messages() { return messages_; }
+  [[nodiscard]] FileDialogs& Dialogs() { return dialogs_; }
+
+ private:
+  /// Answers questions so that the run goes on, and writes every message to standard error.
+  class Answers : public MessageService {
+   public:
+    MessageResult MsgCall(const QString& text, std::int16_t type, const QString& title) override;
+    void Beep() override {}
+    int faults = 0;
+  };
+
+  /// Names the file of the run wherever one is asked for.
+  class Names : public FileDialogs {
+   public:
+    std::optional<QString> AskOpen(const QString& title, const QString& filter) override;
+    std::optional<SaveChoice> AskSave(const QString& title, const QString& filter) override;
+    QString dataFile;
+  };
+
+  QString directory_;
+  QProcess instrument_;
+  Answers messages_;
+  Names dialogs_;
+};
+
+}  // namespace vexa

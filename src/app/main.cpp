@@ -1,0 +1,80 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include <QApplication>
+#include <QCommandLineParser>
+#include <QDir>
+#include <QTimer>
+#include <memory>
+
+#include "app/demonstration.h"
+#include "app/vexa.h"
+#include "instrument/frm_com_h8_ctrl.h"
+#include "instrument/serial_port_path.h"
+#include "views/common/original_msg_frm.h"
+#include "views/common/theme.h"
+
+namespace {
+
+std::unique_ptr<vexa::Controller> MakeController(const vexa::VEXATYPE& state) {
+  return std::make_unique<vexa::frmComH8Ctrl>([directory = state.programDirectory](int port) {
+    return vexa::SerialPortPath(directory, port);
+  });
+}
+
+int RunDemonstration(const QString& directory) {
+  vexa::Demonstration demonstration(directory);
+  if (!demonstration.StartInstrument()) {
+    return 1;
+  }
+  vexa::VEXA window({demonstration.Messages(), demonstration.Dialogs(), QDateTime::currentDateTime,
+                     MakeController},
+                    QDir(directory).absolutePath());
+  window.show();
+  window.Load();
+  const int status = demonstration.Drive(window);
+  window.close();
+  return status;
+}
+
+int RunWindow() {
+  vexa::WindowMessages messages;
+  vexa::WindowFileDialogs dialogs;
+  vexa::VEXA window({messages, dialogs, QDateTime::currentDateTime, MakeController},
+                    QDir::currentPath());
+  messages.SetWindow(&window);
+  dialogs.SetWindow(&window);
+  window.show();
+  QTimer::singleShot(0, &window, &vexa::VEXA::Load);
+  return QApplication::exec();
+}
+
+}  // namespace
+
+int main(int argc, char* argv[]) {
+  QApplication application(argc, argv);
+  QApplication::setApplicationName(QStringLiteral("vexa"));
+  QApplication::setApplicationVersion(QStringLiteral(VEXA_VERSION));
+  vexa::ApplyTheme(application);
+
+  QCommandLineParser parser;
+  parser.setApplicationDescription(QStringLiteral(
+      "Control and analysis program of the VEXA-KT reflectance micro-spectrophotometer."));
+  parser.addHelpOption();
+  parser.addVersionOption();
+  const QCommandLineOption demo(
+      QStringLiteral("demo"),
+      QStringLiteral("Measures five samples on the virtual instrument by itself and leaves "
+                     "measurement.csv and window.png in DIR."),
+      QStringLiteral("DIR"));
+  parser.addOption(demo);
+  if (!parser.parse(QApplication::arguments())) {
+    std::fprintf(stderr, "vexa: %s\n", qUtf8Printable(parser.errorText()));
+    return 2;
+  }
+  if (parser.isSet(QStringLiteral("help"))) {
+    parser.showHelp();
+  }
+  if (parser.isSet(QStringLiteral("version"))) {
+    parser.showVersion();
+  }
+  return parser.isSet(demo) ? RunDemonstration(parser.value(demo)) : RunWindow();
+}

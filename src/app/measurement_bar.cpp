@@ -1,0 +1,185 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "app/measurement_bar.h"
+
+#include <QButtonGroup>
+#include <QGridLayout>
+#include <QLocale>
+#include <QVBoxLayout>
+
+#include "views/common/theme.h"
+
+namespace vexa {
+namespace {
+
+constexpr int kWidth = 176;
+const QString kBackgroundAtRest = QStringLiteral("Background");
+const QString kReferenceAtRest = QStringLiteral("Reference");
+
+QPushButton* Button(const QString& caption, const QString& tip, int height) {
+  auto* button = new QPushButton(caption);
+  button->setObjectName(caption);
+  button->setToolTip(tip);
+  button->setMinimumHeight(height);
+  return button;
+}
+
+QPushButton* TwoStateButton(const QString& caption, const QString& tip, const QKeySequence& key) {
+  QPushButton* button = Button(
+      caption, QStringLiteral("%1 (%2)").arg(tip, key.toString(QKeySequence::NativeText)), 40);
+  button->setCheckable(true);
+  button->setShortcut(key);
+  button->setIconSize(QSize(16, 16));
+  return button;
+}
+
+QFrame* Line() {
+  auto* line = new QFrame;
+  line->setFrameShape(QFrame::HLine);
+  line->setForegroundRole(QPalette::Mid);
+  return line;
+}
+
+QString Tip(int slot) {
+  return QStringLiteral("ｻﾝﾌﾟﾙをｽﾛｯﾄ%1に測定 (Ctrl+%2)").arg(slot).arg(slot % 10);
+}
+
+}  // namespace
+
+MeasurementBar::MeasurementBar(QWidget* parent)
+    : QWidget(parent),
+      background_(TwoStateButton(kBackgroundAtRest, QStringLiteral("ﾊﾞｯｸｸﾞﾗﾝﾄﾞ測定"), Qt::Key_F5)),
+      reference_(TwoStateButton(kReferenceAtRest, QStringLiteral("ﾘﾌｧﾚﾝｽ測定"), Qt::Key_F6)),
+      allClear_(Button(QStringLiteral("ALL CLEAR"), QStringLiteral("全ｽﾛｯﾄをｸﾘｱ"), 30)),
+      data_(Button(QStringLiteral("Data"), QStringLiteral("試料情報"), 30)),
+      time_(new QLabel),
+      lightWarning_(
+          new QLabel(QStringLiteral("光路が閉じています。\nBackground を測定すると\n開きます。"))) {
+  setFixedWidth(kWidth);
+  connect(background_, &QPushButton::clicked, this, &MeasurementBar::BackgroundRequested);
+  connect(reference_, &QPushButton::clicked, this, &MeasurementBar::ReferenceRequested);
+  connect(allClear_, &QPushButton::clicked, this, &MeasurementBar::ClearRequested);
+  connect(data_, &QPushButton::clicked, this, &MeasurementBar::DataRequested);
+
+  lightWarning_->setObjectName(QStringLiteral("LightWarning"));
+  lightWarning_->setStyleSheet(
+      QStringLiteral("background:#fff6dd; border:1px solid #e3c877; border-radius:3px;"
+                     "color:#5f4700; padding:5px;"));
+  QSizePolicy keepsItsPlace = lightWarning_->sizePolicy();
+  keepsItsPlace.setRetainSizeWhenHidden(true);
+  lightWarning_->setSizePolicy(keepsItsPlace);
+  time_->setObjectName(QStringLiteral("Time"));
+  time_->setAlignment(Qt::AlignCenter);
+
+  auto* layout = new QVBoxLayout(this);
+  layout->setContentsMargins(0, 0, 0, 0);
+  layout->setSpacing(6);
+  layout->addWidget(background_);
+  layout->addWidget(reference_);
+  layout->addWidget(lightWarning_);
+  layout->addWidget(Line());
+
+  auto* grid = new QGridLayout;
+  grid->setHorizontalSpacing(6);
+  grid->setVerticalSpacing(5);
+  grid->setColumnStretch(1, 1);
+  auto* options = new QButtonGroup(this);
+  for (int slot = 1; slot <= kSlotCount; ++slot) {
+    const QString name = QStringLiteral("Mes%1").arg(slot);
+    auto* option = new QRadioButton(QString::number(slot));
+    option->setObjectName(name + QStringLiteral("Option"));
+    option->setToolTip(QStringLiteral("ｽﾛｯﾄ%1を表示").arg(slot));
+    option->setAccessibleName(option->toolTip());
+    option->setIconSize(QSize(22, 12));
+    QPushButton* measure = Button(name, Tip(slot), 28);
+    measure->setShortcut(QKeySequence(Qt::CTRL | static_cast<Qt::Key>(Qt::Key_0 + slot % 10)));
+    options->addButton(option, slot);
+    grid->addWidget(option, slot, 0);
+    grid->addWidget(measure, slot, 1);
+    rows_[static_cast<std::size_t>(slot - 1)] = {option, measure};
+    connect(measure, &QPushButton::clicked, this, [this, slot] { emit SampleRequested(slot); });
+    connect(option, &QRadioButton::clicked, this, [this, slot] { emit SlotSelected(slot); });
+  }
+  rows_.front().option->setChecked(true);
+  layout->addLayout(grid);
+  layout->addSpacing(2);
+  layout->addWidget(allClear_);
+  layout->addWidget(Line());
+  layout->addWidget(data_);
+  layout->addWidget(time_);
+  layout->addStretch();
+}
+
+int MeasurementBar::GetOption() const {
+  for (int slot = 1; slot <= kSlotCount; ++slot) {
+    if (rows_[static_cast<std::size_t>(slot - 1)].option->isChecked()) {
+      return slot;
+    }
+  }
+  return 0;
+}
+
+void MeasurementBar::SelectSlot(int slot) {
+  rows_.at(static_cast<std::size_t>(slot - 1)).option->setChecked(true);
+}
+
+void MeasurementBar::Show(const VEXATYPE& state) {
+  background_->setIcon(DoneIcon(state.backgroundMeasured));
+  reference_->setIcon(DoneIcon(state.referenceMeasured));
+  for (int slot = 1; slot <= kSlotCount; ++slot) {
+    rows_[static_cast<std::size_t>(slot - 1)].option->setIcon(
+        SlotIcon(slot, state.Slot(slot)->valid));
+  }
+  const MeasurementSlot* selected = state.Slot(GetOption());
+  time_->setText(DateTimeText(selected == nullptr ? QDateTime() : selected->info.measuredAt));
+}
+
+void MeasurementBar::ShowRunning(MeasurementKind kind, int slot) {
+  switch (kind) {
+    case MeasurementKind::kBackground:
+      background_->setText(QStringLiteral("*Backgroud*"));
+      background_->setChecked(true);
+      break;
+    case MeasurementKind::kReference:
+      reference_->setText(QStringLiteral("*Reference*"));
+      reference_->setChecked(true);
+      break;
+    case MeasurementKind::kSample:
+      rows_.at(static_cast<std::size_t>(slot - 1)).measure->setDown(true);
+      break;
+  }
+}
+
+void MeasurementBar::ShowAtRest() {
+  background_->setText(kBackgroundAtRest);
+  background_->setChecked(false);
+  reference_->setText(kReferenceAtRest);
+  reference_->setChecked(false);
+  for (const SlotRow& row : rows_) {
+    row.measure->setDown(false);
+  }
+}
+
+void MeasurementBar::SetAvailable(bool controller, bool idle) {
+  background_->setEnabled(controller && idle);
+  reference_->setEnabled(controller && idle);
+  for (const SlotRow& row : rows_) {
+    row.measure->setEnabled(idle);
+  }
+  allClear_->setEnabled(idle);
+  data_->setEnabled(false);
+}
+
+void MeasurementBar::ShowLightPathClosed(bool closed) {
+  lightWarning_->setVisible(closed);
+}
+
+QString DateTimeText(const QDateTime& time) {
+  if (!time.isValid()) {
+    return QStringLiteral("0:00:00");
+  }
+  const bool midnight = time.time() == QTime(0, 0);
+  return QLocale::c().toString(
+      time, midnight ? QStringLiteral("yyyy/M/d") : QStringLiteral("yyyy/M/d H:mm:ss"));
+}
+
+}  // namespace vexa

@@ -1,0 +1,66 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <QLabel>
+#include <QPushButton>
+#include <QRadioButton>
+#include <QWidget>
+#include <array>
+
+#include "measurement/measurement_sequence.h"
+
+namespace vexa {
+
+/// The buttons that measure: background, reference, the ten slots with the option boxes that
+/// select one of them, clearing, and the measurement time of the selected slot.
+class MeasurementBar : public QWidget {
+  Q_OBJECT
+
+ public:
+  explicit MeasurementBar(QWidget* parent = nullptr);
+
+  /// Number of the slot whose option box is selected, tested in order 1..10; 0 for none.
+  [[nodiscard]] int GetOption() const;
+  void SelectSlot(int slot);
+
+  /// Shows what has been measured, and the time of the selected slot.
+  void Show(const VEXATYPE& state);
+
+  /// Captions and state of the two-state buttons while a measurement runs, and after it.
+  void ShowRunning(MeasurementKind kind, int slot);
+  void ShowAtRest();
+
+  /// `controller`: background and reference can be measured. `idle`: nothing runs that keeps
+  /// the slots busy.
+  void SetAvailable(bool controller, bool idle);
+
+  /// The calm warning that the light path is closed.
+  void ShowLightPathClosed(bool closed);
+
+ signals:
+  void BackgroundRequested();
+  void ReferenceRequested();
+  void SampleRequested(int slot);
+  void SlotSelected(int slot);
+  void ClearRequested();
+  void DataRequested();
+
+ private:
+  struct SlotRow {
+    QRadioButton* option;
+    QPushButton* measure;
+  };
+
+  QPushButton* background_;
+  QPushButton* reference_;
+  std::array<SlotRow, kSlotCount> rows_{};
+  QPushButton* allClear_;
+  QPushButton* data_;
+  QLabel* time_;
+  QLabel* lightWarning_;
+};
+
+/// "yyyy/M/d H:mm:ss", midnight as the date alone, and "0:00:00" for no time.
+[[nodiscard]] QString DateTimeText(const QDateTime& time);
+
+}  // namespace vexa

@@ -1,0 +1,179 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "app/vexa.h"
+
+#include <QCloseEvent>
+#include <QDir>
+#include <QFrame>
+#include <QHBoxLayout>
+#include <QVBoxLayout>
+#include <utility>
+
+#include "app/measurement_bar.h"
+#include "app/progress_strip.h"
+#include "app/status_panels.h"
+#include "app/version_dialog.h"
+#include "measurement/controller_start.h"
+#include "views/colour/colour_panel.h"
+#include "views/files/data_file_commands.h"
+#include "views/graph/reflectance_graph.h"
+
+namespace vexa {
+
+VEXA::VEXA(Services services, const QString& programDirectory)
+    : services_(std::move(services)), sequence_(state_, services_.messages, services_.clock) {
+  state_.programDirectory = programDirectory;
+  BuildPanels();
+  ConnectCommands();
+  ConnectSequence();
+  Refresh();
+  UpdateCommands();
+}
+
+VEXA::~VEXA() = default;
+
+void VEXA::Load() {
+  loading_ = true;
+  setWindowTitle(QStringLiteral("MERIDOX ") + QStringLiteral("VEXA-KT-440 Ver3.21"));
+  state_.instrument.averagingCount = 1;
+  state_.instrument.serialController = state_.instrument.controllerPort != 0;
+  status_->ShowEnvironmentName(state_.envFileName);
+  StartController();
+  if (unloaded_) {
+    return;
+  }
+  loading_ = false;
+  setWindowTitle(QStringLiteral("MERIDOX VEXA-KT"));
+  UpdateCommands();
+}
+
+int VEXA::GetOption() const {
+  return bar_->GetOption();
+}
+
+void VEXA::closeEvent(QCloseEvent* event) {
+  if (sequence_.IsRunning() || (!unloaded_ && !Unload())) {
+    event->ignore();
+    return;
+  }
+  event->accept();
+}
+
+void VEXA::BuildPanels() {
+  setWindowTitle(QStringLiteral("MERIDOX VEXA-KT"));
+  commands_ = BuildMenu(*menuBar());
+  bar_ = new MeasurementBar;
+  graph_ = new ReflectanceGraph;
+  progress_ = new ProgressStrip;
+  colour_ = new ColourPanel;
+  status_ = new StatusPanels;
+  setStatusBar(status_);
+
+  auto* frame = new QFrame;
+  frame->setFrameShape(QFrame::StyledPanel);
+  auto* framed = new QVBoxLayout(frame);
+  framed->setContentsMargins(1, 1, 1, 1);
+  framed->addWidget(graph_);
+  auto* middle = new QVBoxLayout;
+  middle->setSpacing(4);
+  middle->addWidget(frame, 1);
+  middle->addWidget(progress_);
+
+  auto* central = new QWidget;
+  auto* layout = new QHBoxLayout(central);
+  layout->setContentsMargins(10, 8, 10, 6);
+  layout->setSpacing(10);
+  layout->addWidget(bar_);
+  layout->addLayout(middle, 1);
+  layout->addWidget(colour_);
+  setCentralWidget(central);
+  resize(1280, 800);
+}
+
+void VEXA::ConnectCommands() {
+  const auto enable = [this](QAction* action, auto&& run) {
+    action->setEnabled(true);
+    connect(action, &QAction::triggered, this, std::forward<decltype(run)>(run));
+  };
+  enable(commands_.saveFileAs, [this] {
+    SaveDataFileAs(state_, services_.messages, services_.dialogs);
+    Refresh();
+  });
+  enable(commands_.quit, &QWidget::close);
+  enable(commands_.version, [this] { ShowVersion(this); });
+  commands_.views->actions().constFirst()->setEnabled(true);
+}
+
+void VEXA::ConnectSequence() {
+  connect(bar_, &MeasurementBar::BackgroundRequested, &sequence_,
+          &MeasurementSequence::MeasureBackground);
+  connect(bar_, &MeasurementBar::ReferenceRequested, &sequence_,
+          &MeasurementSequence::MeasureReference);
+  connect(bar_, &MeasurementBar::SampleRequested, &sequence_, &MeasurementSequence::MeasureSample);
+  connect(bar_, &MeasurementBar::ClearRequested, &sequence_, &MeasurementSequence::ClearAll);
+  connect(bar_, &MeasurementBar::SlotSelected, this, &VEXA::Refresh);
+
+  connect(&sequence_, &MeasurementSequence::Began, this, [this](MeasurementKind kind, int slot) {
+    bar_->ShowRunning(kind, slot);
+    UpdateCommands();
+  });
+  connect(&sequence_, &MeasurementSequence::SampleStored, this,
+          [this](int slot) { bar_->SelectSlot(slot); });
+  connect(&sequence_, &MeasurementSequence::SlotsChanged, this, &VEXA::Refresh);
+  connect(&sequence_, &MeasurementSequence::Ended, this, [this] {
+    bar_->ShowAtRest();
+    UpdateCommands();
+    Refresh();
+  });
+}
+
+void VEXA::StartController() {
+  controller_ = services_.makeController(state_);
+  connect(controller_.get(), &Controller::WaitBegan, progress_, &ProgressStrip::BeginWait);
+  connect(controller_.get(), &Controller::WaitEnded, progress_, &ProgressStrip::EndWait);
+  UpdateCommands();
+  if (controller_->Initialise(state_.instrument.controllerPort) != 0 && !unloaded_) {
+    ReportControllerFailure(services_.messages);
+    return;
+  }
+  if (unloaded_ || SendSamplingSettings(*controller_, state_.instrument, services_.messages) != 0) {
+    return;
+  }
+  controllerReady_ = true;
+  sequence_.UseController(controller_.get());
+}
+
+bool VEXA::Unload() {
+  const QString envFileName = state_.envFileName.contains(u':') ||
+                                      state_.envFileName.contains(u'\\') ||
+                                      state_.envFileName.contains(u'/')
+                                  ? state_.envFileName
+                                  : QDir(state_.programDirectory).filePath(state_.envFileName);
+  state_.envFileName = envFileName;
+  const MessageResult answer = services_.messages.MsgCall(
+      envFileName + QStringLiteral("\r\r現在の環境をｾｰﾌﾞしますか。"),
+      message_type::kYesNoCancel + message_type::kQuestionIcon, message_title::kMessage);
+  if (answer == MessageResult::kCancel) {
+    return false;
+  }
+  unloaded_ = true;
+  if (controller_ != nullptr) {
+    controller_->Close();
+  }
+  return true;
+}
+
+void VEXA::Refresh() {
+  bar_->Show(state_);
+  graph_->Show(state_, GetOption());
+}
+
+void VEXA::UpdateCommands() {
+  const bool idle = !sequence_.IsRunning() && !loading_;
+  bar_->SetAvailable(controllerReady_, idle);
+  bar_->ShowLightPathClosed(controllerReady_ && controller_->IsLightPathClosed() &&
+                            !sequence_.IsRunning());
+  commands_.quit->setEnabled(!sequence_.IsRunning());
+  progress_->SetIdleText(loading_ || controllerReady_ ? QString() : QStringLiteral("ｺﾝﾄﾛｰﾗ未接続"));
+}
+
+}  // namespace vexa

@@ -1,0 +1,76 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <QMainWindow>
+#include <functional>
+#include <memory>
+
+#include "app/main_menu.h"
+#include "base/message.h"
+#include "instrument/controller.h"
+#include "measurement/measurement_sequence.h"
+#include "measurement/vexatype.h"
+#include "views/common/file_dialogs.h"
+
+namespace vexa {
+
+class ColourPanel;
+class MeasurementBar;
+class ProgressStrip;
+class ReflectanceGraph;
+class StatusPanels;
+
+/// What the main window is given from outside.
+struct Services {
+  MessageService& messages;
+  FileDialogs& dialogs;
+  MeasurementSequence::Clock clock;
+  /// Makes the controller that the settings name.
+  std::function<std::unique_ptr<Controller>(const VEXATYPE&)> makeController;
+};
+
+/// The main window: it owns the shared state and the controller, and puts the panels together.
+class VEXA : public QMainWindow {
+  Q_OBJECT
+
+ public:
+  /// `programDirectory` is where the settings files live.
+  VEXA(Services services, const QString& programDirectory);
+  ~VEXA() override;
+
+  /// Brings the program into a measurable state. Waits for the controller in the event loop, so
+  /// call it once the window is shown.
+  void Load();
+
+  [[nodiscard]] int GetOption() const;
+  [[nodiscard]] const VEXATYPE& State() const { return state_; }
+  [[nodiscard]] const MenuCommands& Commands() const { return commands_; }
+
+ protected:
+  void closeEvent(QCloseEvent* event) override;
+
+ private:
+  void BuildPanels();
+  void ConnectCommands();
+  void ConnectSequence();
+  void StartController();
+  [[nodiscard]] bool Unload();
+  void Refresh();
+  void UpdateCommands();
+
+  Services services_;
+  VEXATYPE state_;
+  std::unique_ptr<Controller> controller_;
+  MeasurementSequence sequence_;
+  MenuCommands commands_{};
+  MeasurementBar* bar_ = nullptr;
+  ReflectanceGraph* graph_ = nullptr;
+  ProgressStrip* progress_ = nullptr;
+  ColourPanel* colour_ = nullptr;
+  StatusPanels* status_ = nullptr;
+  bool loading_ = false;
+  bool controllerReady_ = false;
+  bool unloaded_ = false;
+};
+
+}  // namespace vexa
