@@ -125,6 +125,31 @@ std::string ExponentText(int exponent, int zeros) {
          digits;
 }
 
+struct Scan {
+  double value = 0.0;
+  bool inRange = true;
+  bool whole = false;  // nothing but the number was there
+};
+
+// from_chars knows neither a plus sign nor blanks, but also "inf" and "nan", which are no numbers
+// here.
+Scan ScanNumber(QStringView view) {
+  const std::string text = view.trimmed().toString().toStdString();
+  const char* begin = text.data();
+  const char* const end = begin + text.size();
+  const bool plus = begin != end && *begin == '+';
+  begin += plus ? 1 : 0;
+  const char* digits = begin != end && *begin == '-' && !plus ? begin + 1 : begin;
+  if (digits == end || !(*digits == '.' || (*digits >= '0' && *digits <= '9'))) {
+    return {};
+  }
+  Scan scan;
+  const auto result = std::from_chars(begin, end, scan.value);
+  scan.inRange = result.ec != std::errc::result_out_of_range;
+  scan.whole = result.ec == std::errc() && result.ptr == end;
+  return scan;
+}
+
 }  // namespace
 
 QString FormatNumber(double value, QStringView patternText) {
@@ -159,6 +184,16 @@ QString SignedText(double value) {
   const Pattern pattern{.integerZeros = 1, .fractionDigits = kSignificantDigits + 4};
   return QString::fromStdString((value < 0.0 ? "-" : " ") + FixedText(decimal, pattern) +
                                 (plain ? std::string() : ExponentText(exponent, 2)));
+}
+
+std::optional<double> LeadingNumber(QStringView text) {
+  const Scan scan = ScanNumber(text);
+  return scan.inRange ? std::optional(scan.value) : std::nullopt;
+}
+
+std::optional<double> ParseNumber(QStringView text) {
+  const Scan scan = ScanNumber(text);
+  return scan.whole ? std::optional(scan.value) : std::nullopt;
 }
 
 }  // namespace vexa

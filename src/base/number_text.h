@@ -3,6 +3,7 @@
 
 #include <QString>
 #include <QStringView>
+#include <optional>
 
 namespace vexa {
 
@@ -19,5 +20,13 @@ namespace vexa {
 /// a plus sign: 440 is " 440", -0.5 is "-0.5", 7.6E-05 is " 7.6E-05". An exponent is written, with
 /// its sign and two digits or more, below 1E-04 and from 1E+15. Not finite gives " 0".
 [[nodiscard]] QString SignedText(double value);
+
+/// The number that a text begins with: leading blanks are skipped, and what cannot continue a
+/// number ends it; "e" counts as "E". 0 when there is none; nothing when it is beyond a double's
+/// range.
+[[nodiscard]] std::optional<double> LeadingNumber(QStringView text);
+
+/// The number that the whole text is, blanks around it apart; nothing for any other text.
+[[nodiscard]] std::optional<double> ParseNumber(QStringView text);
 
 }  // namespace vexa
