@@ -43,6 +43,6 @@ function(vexa_test name)
   set_target_properties(${name}_test PROPERTIES AUTOMOC ON)
   gtest_discover_tests(${name}_test
     TEST_PREFIX "${name}."
-    PROPERTIES ENVIRONMENT "QT_QPA_PLATFORM=offscreen" TIMEOUT 120
+    PROPERTIES TIMEOUT 120
     DISCOVERY_TIMEOUT 60)
 endfunction()

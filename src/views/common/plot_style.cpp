@@ -32,4 +32,16 @@ void ApplyPlotStyle(QCustomPlot& plot) {
   plot.legend->setRowSpacing(0);
 }
 
+void PlaceLegendAbove(QCustomPlot& plot, int columns) {
+  plot.plotLayout()->insertRow(0);
+  plot.plotLayout()->addElement(0, 0, plot.legend);
+  plot.plotLayout()->setRowStretchFactor(0, 0.001);
+  plot.plotLayout()->setRowSpacing(0);
+  plot.legend->setFillOrder(QCPLegend::foColumnsFirst);
+  plot.legend->setWrap(columns);
+  plot.legend->setBorderPen(Qt::NoPen);
+  plot.legend->setColumnSpacing(18);
+  plot.legend->setMargins(QMargins(56, 8, 12, 0));
+}
+
 }  // namespace vexa

@@ -15,8 +15,9 @@ constexpr double kHeadroom = 1.05;
 constexpr double kZoomStep = 0.8;
 constexpr double kMoveStep = 0.1;
 constexpr double kSelectedWidth = 2.4;
+constexpr int kLegendColumns = 5;
 
-// The next of 1, 2, 2.5, 5 x 10^n at or above the value.
+// The next round number at or above the value.
 double RoundedUp(double value) {
   const double decade = std::pow(10.0, std::floor(std::log10(value)));
   for (const double step : {1.0, 1.5, 2.0, 2.5, 3.0, 4.0, 5.0, 6.0, 8.0}) {
@@ -25,6 +26,14 @@ double RoundedUp(double value) {
     }
   }
   return 10.0 * decade;
+}
+
+QString LegendText(int slot, const QString& sampleNumber) {
+  constexpr qsizetype kLongestName = 12;
+  const QString name = sampleNumber.size() > kLongestName
+                           ? sampleNumber.left(kLongestName - 1) + QStringLiteral("…")
+                           : sampleNumber;
+  return QStringLiteral("%1 %2").arg(slot).arg(name).trimmed();
 }
 
 }  // namespace
@@ -43,8 +52,7 @@ ReflectanceGraph::ReflectanceGraph(QWidget* parent) : QCustomPlot(parent) {
     line->setVisible(false);
     lines_[static_cast<std::size_t>(slot - 1)] = line;
   }
-  legend->setVisible(false);
-  axisRect()->insetLayout()->setInsetAlignment(0, Qt::AlignTop | Qt::AlignRight);
+  PlaceLegendAbove(*this, kLegendColumns);
 
   const auto leaveFullView = [this] { fullView_ = false; };
   connect(this, &QCustomPlot::mouseWheel, this, leaveFullView);
@@ -82,9 +90,7 @@ void ReflectanceGraph::Show(const VEXATYPE& state, int selectedSlot) {
       pen.setWidthF(kSelectedWidth);
     }
     line.setPen(pen);
-    line.setName(slot.info.sampleNumber.isEmpty()
-                     ? QString::number(number)
-                     : QStringLiteral("%1  %2").arg(number).arg(slot.info.sampleNumber));
+    line.setName(LegendText(number, slot.info.sampleNumber));
     line.addToLegend();
   }
   legend->setVisible(state.HasValidSlot());

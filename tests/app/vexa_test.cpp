@@ -1,0 +1,288 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "app/vexa.h"
+
+#include <gtest/gtest.h>
+
+#include <QDir>
+#include <QFile>
+#include <QLabel>
+#include <QPushButton>
+#include <QRadioButton>
+#include <QTimer>
+
+#include "instrument/frm_com_h8_ctrl.h"
+#include "instrument/serial_port_path.h"
+#include "support/prepared_answers.h"
+#include "support/prepared_files.h"
+#include "support/scripted_peer.h"
+
+namespace vexa {
+namespace {
+
+using test::PeerAction;
+using test::ShownMessage;
+
+constexpr int kReplyTimeoutMs = 100;
+const ShownMessage kAskBackground{"VEXA-KT ﾒｯｾｰｼﾞ: ﾊﾞｯｸｸﾞﾗﾝﾄﾞを測定して下さい。", 64};
+const ShownMessage kAskReference{"VEXA-KT ﾒｯｾｰｼﾞ: ﾘﾌｧﾚﾝｽを測定して下さい。", 64};
+const ShownMessage kSaturated{"VEXA-KT ﾜｰﾆﾝｸﾞ: 取り込んだﾃﾞｰﾀが飽和しています。", 48};
+const ShownMessage kFailed{"VEXA-KT ﾜｰﾆﾝｸﾞ: データ取得でエラーが発生しました。", 48};
+const ShownMessage kOverwrite{"VEXA-KT ﾒｯｾｰｼﾞ: すでに測定されてます。上書きしてもよろしいですか？",
+                              33};
+
+class MainWindow : public testing::Test {
+ protected:
+  MainWindow() {
+    window.show();
+    window.Load();
+  }
+
+  QPushButton* Button(const char* name) {
+    return window.findChild<QPushButton*>(QLatin1String(name));
+  }
+
+  // Presses a button while every pixel has the value.
+  void Press(const char* name, int pixels = 100) {
+    peer.SetLines(test::FlatLines(1, pixels));
+    Button(name)->click();
+  }
+
+  void MeasureThrough(int lastSlot) {
+    Press("Background", 100);
+    Press("Reference", 500);
+    for (int slot = 1; slot <= lastSlot; ++slot) {
+      Press(qPrintable(QStringLiteral("Mes%1").arg(slot)), 300);
+    }
+    ASSERT_EQ(messages.Take(), std::vector<ShownMessage>{});
+  }
+
+  double Reflectance(int slot) { return window.State().Slot(slot)->reflectance[550]; }
+
+  QString TimeText() { return window.findChild<QLabel*>(QStringLiteral("Time"))->text(); }
+
+  test::ScriptedPeer peer;
+  test::PreparedAnswers messages;
+  test::PreparedFiles files;
+  VEXA window{{messages, files,
+               [] {
+                 return QDateTime({2026, 3, 9}, {7, 5, 3});
+               },
+               [](const VEXATYPE& state) {
+                 return std::make_unique<frmComH8Ctrl>(
+                     [directory = state.programDirectory](int port) {
+                       return SerialPortPath(directory, port);
+                     },
+                     kReplyTimeoutMs);
+               }},
+              peer.Directory()};
+};
+
+TEST_F(MainWindow, MeasuresIntoASlot) {
+  EXPECT_EQ(window.windowTitle(), QStringLiteral("MERIDOX VEXA-KT"));
+  EXPECT_EQ(peer.TakeFrames().back(), "96392900") << "the sampling time of the settings, 3000 ms";
+  EXPECT_TRUE(window.findChild<QWidget*>(QStringLiteral("LightWarning"))->isVisible());
+  EXPECT_EQ(TimeText(), QStringLiteral("0:00:00"));
+
+  MeasureThrough(3);
+  EXPECT_FALSE(window.findChild<QWidget*>(QStringLiteral("LightWarning"))->isVisible());
+  EXPECT_DOUBLE_EQ(Reflectance(3), 2.0);  // (300 - 100) / (500 - 100) x 4 %
+  EXPECT_FALSE(window.State().Slot(4)->valid);
+  EXPECT_EQ(window.GetOption(), 3) << "the slot measured last is the one shown";
+  EXPECT_EQ(TimeText(), QStringLiteral("2026/3/9 7:05:03"));
+
+  Press("Mes10", 50);
+  EXPECT_EQ(Reflectance(10), 0.0) << "darker than the background";
+}
+
+TEST_F(MainWindow, ShowsWhatRunsAndKeepsEverythingElseWaiting) {
+  bool looked = false;
+  auto* controller = window.findChild<QPushButton*>(QStringLiteral("Background"));
+  QTimer::singleShot(0, &window, [&] {
+    looked = true;
+    EXPECT_EQ(controller->text(), QStringLiteral("*Backgroud*"));
+    for (const char* name : {"Background", "Reference", "Mes1", "Mes10", "ALL CLEAR"}) {
+      EXPECT_FALSE(Button(name)->isEnabled()) << name;
+    }
+    EXPECT_FALSE(window.Commands().quit->isEnabled());
+    EXPECT_FALSE(window.close()) << "the window stays while a measurement runs";
+  });
+  Press("Background");
+  EXPECT_TRUE(looked);
+  for (const char* name : {"Background", "Reference", "Mes1", "Mes10", "ALL CLEAR"}) {
+    EXPECT_TRUE(Button(name)->isEnabled()) << name;
+    EXPECT_FALSE(Button(name)->isChecked()) << name;
+  }
+  EXPECT_EQ(controller->text(), QStringLiteral("Background"));
+  EXPECT_TRUE(window.Commands().quit->isEnabled());
+}
+
+TEST_F(MainWindow, AsksForWhatIsMissingFirst) {
+  Press("Mes1");
+  EXPECT_EQ(messages.Take(), std::vector{kAskBackground});
+  Press("Reference");
+  EXPECT_EQ(messages.Take(), std::vector{kAskBackground});
+  Press("Background");
+  Press("Mes1");
+  EXPECT_EQ(messages.Take(), std::vector{kAskReference});
+  EXPECT_FALSE(window.State().HasValidSlot());
+  EXPECT_FALSE(window.State().referenceMeasured);
+}
+
+TEST_F(MainWindow, AsksBeforeItOverwrites) {
+  MeasureThrough(1);
+  messages.answers = {MessageResult::kCancel};
+  Press("Mes1", 500);
+  EXPECT_EQ(messages.Take(), std::vector{kOverwrite});
+  EXPECT_DOUBLE_EQ(Reflectance(1), 2.0);
+  Press("Mes1", 500);
+  EXPECT_EQ(messages.Take(), std::vector{kOverwrite});
+  EXPECT_DOUBLE_EQ(Reflectance(1), 4.0);
+}
+
+TEST_F(MainWindow, FailedMeasurementsLoseNothing) {
+  struct Case {
+    int frame;  ///< of the four of a sample acquisition
+    PeerAction action;
+    ShownMessage message;
+  };
+  const Case cases[] = {{1, PeerAction::kSilence, kFailed},
+                        {2, PeerAction::kErrorReply, kFailed},
+                        {3, PeerAction::kShortLine, kFailed}};
+  MeasureThrough(1);
+  for (const Case& c : cases) {
+    for (const char* name : {"Mes1", "Mes2", "Reference"}) {
+      peer.At(c.frame, c.action);
+      Press(name, 900);
+      const std::vector<ShownMessage> shown = messages.Take();
+      EXPECT_EQ(shown.back(), c.message) << name;
+      EXPECT_TRUE(Button(name)->isEnabled());
+      EXPECT_DOUBLE_EQ(Reflectance(1), 2.0);
+      EXPECT_FALSE(window.State().Slot(2)->valid);
+      EXPECT_EQ(window.State().reference[550], 500.0);
+    }
+  }
+  Press("Mes3", 4095);
+  EXPECT_EQ(messages.Take(), std::vector{kSaturated});
+  EXPECT_EQ(messages.beeps, 1);
+  EXPECT_FALSE(window.State().Slot(3)->valid);
+  Press("Mes3", 300);
+  EXPECT_DOUBLE_EQ(Reflectance(3), 2.0);
+}
+
+TEST_F(MainWindow, ClosedLightPathAfterAFailureIsShown) {
+  MeasureThrough(1);
+  const auto* warning = window.findChild<QWidget*>(QStringLiteral("LightWarning"));
+  peer.At(3, PeerAction::kSilence);
+  Press("Background");
+  EXPECT_TRUE(warning->isVisible());
+  EXPECT_EQ(window.State().background[550], 100.0);
+  Press("Background");
+  EXPECT_FALSE(warning->isVisible());
+}
+
+TEST_F(MainWindow, AllClearAsksFirst) {
+  MeasureThrough(2);
+  messages.answers = {MessageResult::kCancel};
+  Press("ALL CLEAR");
+  EXPECT_TRUE(window.State().Slot(2)->valid);
+  Press("ALL CLEAR");
+  const ShownMessage question{"ALL CLEAR: 全てのデータをクリアします。よろしいですか？", 33};
+  EXPECT_EQ(messages.Take(), (std::vector{question, question}));
+  EXPECT_FALSE(window.State().HasValidSlot());
+  EXPECT_EQ(TimeText(), QStringLiteral("0:00:00"));
+  EXPECT_TRUE(window.State().backgroundMeasured);
+}
+
+TEST_F(MainWindow, OptionBoxSelectsTheSlotShown) {
+  MeasureThrough(2);
+  window.findChild<QRadioButton*>(QStringLiteral("Mes7Option"))->click();
+  EXPECT_EQ(window.GetOption(), 7);
+  EXPECT_EQ(TimeText(), QStringLiteral("0:00:00"));
+  window.findChild<QRadioButton*>(QStringLiteral("Mes1Option"))->click();
+  EXPECT_EQ(TimeText(), QStringLiteral("2026/3/9 7:05:03"));
+}
+
+TEST_F(MainWindow, SavesTheSlots) {
+  QAction* save = window.Commands().saveFileAs;
+  save->trigger();
+  EXPECT_EQ(messages.Take(),
+            (std::vector<ShownMessage>{{"VEXA-KT 情報: 有効ﾃﾞｰﾀがありません。", 64}}));
+
+  MeasureThrough(2);
+  save->trigger();  // cancelled
+  EXPECT_EQ(window.State().currentDataFileName, QString());
+  const QString path = QDir(peer.Directory()).filePath(QStringLiteral("試料 1.csv"));
+  files.save = SaveChoice{path.chopped(4), 1};
+  save->trigger();
+  EXPECT_EQ(files.filter,
+            "Data File(*.csv)|*.csv|Data File(*.dat)|*.dat|Data File(5)(*.dat)|*.dat");
+  EXPECT_EQ(window.State().currentDataFileName, path);
+  QFile file(path);
+  ASSERT_TRUE(file.open(QIODevice::ReadOnly));
+  const QByteArray content = file.readAll();
+  EXPECT_TRUE(
+      content.startsWith("VEXA-KT 440-840 Ver 3.21 Data File\r\nwave,,,,,,,,,,\r\n 440,2.0000"))
+      << content.left(80).constData();
+  EXPECT_EQ(content.count("\r\n"), 403);
+
+  messages.answers = {MessageResult::kNo};
+  Press("Mes3", 500);
+  save->trigger();
+  EXPECT_EQ(messages.Take(),
+            (std::vector<ShownMessage>{
+                {"VEXA-KT ﾜｰﾆﾝｸﾞ: 同ﾌｧｲﾙ名が存在します。上書き保存しますか？", 52}}));
+  file.seek(0);
+  EXPECT_EQ(file.readAll(), content);
+}
+
+TEST_F(MainWindow, AsksAboutTheEnvironmentAtTheEnd) {
+  messages.answers = {MessageResult::kCancel, MessageResult::kNo};
+  EXPECT_FALSE(window.close());
+  EXPECT_TRUE(window.isVisible());
+  EXPECT_TRUE(window.close());
+  const ShownMessage question{
+      "VEXA-KT ﾒｯｾｰｼﾞ: " +
+          QDir(peer.Directory()).filePath(QStringLiteral("vexa.env")).toStdString() +
+          "\r\r現在の環境をｾｰﾌﾞしますか。",
+      35};
+  EXPECT_EQ(messages.Take(), (std::vector{question, question}));
+}
+
+class DeadController : public testing::Test {
+ protected:
+  DeadController() { peer.At(1, PeerAction::kSilence); }
+
+  test::ScriptedPeer peer;
+  test::PreparedAnswers messages;
+  test::PreparedFiles files;
+  VEXA window{{messages, files, QDateTime::currentDateTime,
+               [this](const VEXATYPE&) {
+                 return std::make_unique<frmComH8Ctrl>([this](int) { return peer.Path(); },
+                                                       kReplyTimeoutMs);
+               }},
+              peer.Directory()};
+};
+
+TEST_F(DeadController, LeavesTheProgramUsable) {
+  window.show();
+  window.Load();
+  EXPECT_EQ(messages.Take(),
+            (std::vector<ShownMessage>{{"ｺﾝﾄﾛｰﾗｴﾗｰ: 通信でﾃﾞﾊﾞｲｽ･ｴﾗｰ発生しました。", 16}}));
+  for (const char* name : {"Background", "Reference"}) {
+    EXPECT_FALSE(window.findChild<QPushButton*>(QLatin1String(name))->isEnabled()) << name;
+  }
+  EXPECT_FALSE(window.Commands().samplingSettings->isEnabled());
+  EXPECT_TRUE(window.Commands().saveFileAs->isEnabled());
+  EXPECT_EQ(window.windowTitle(), QStringLiteral("MERIDOX VEXA-KT"));
+}
+
+TEST_F(DeadController, CanBeLeftWhileItIsAwaited) {
+  window.show();
+  messages.answers = {MessageResult::kNo};
+  QTimer::singleShot(0, &window, [this] { EXPECT_TRUE(window.close()); });
+  window.Load();
+  EXPECT_EQ(messages.Take().size(), 1U) << "the question about the environment alone";
+}
+
+}  // namespace
+}  // namespace vexa
