@@ -65,7 +65,7 @@ std::unique_ptr<QSocketNotifier> Instrument::Watch(int descriptor, QSocketNotifi
   return notifier;
 }
 
-void Instrument::PutOnStage(const struct PutOnStage& command) {
+void Instrument::SetStage(const PutOnStage& command) {
   if (command.sample) {
     stage_.Fix(*command.sample);
   } else {

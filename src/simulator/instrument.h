@@ -32,7 +32,7 @@ class Instrument {
   /// empty when it succeeded.
   [[nodiscard]] QString PlugIn();
 
-  void PutOnStage(const struct PutOnStage& command);
+  void SetStage(const PutOnStage& command);
   void ShowNextSample() { stage_.Next(); }
   void AddFault(const Fault& fault) { protocol_.AddFault(fault); }
 
