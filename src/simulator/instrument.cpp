@@ -47,20 +47,25 @@ QString Instrument::PlugIn() {
     terminal_.Close();
     return failure;
   }
-  received_ =
-      std::make_unique<QSocketNotifier>(terminal_.MasterDescriptor(), QSocketNotifier::Read);
-  QObject::connect(received_.get(), &QSocketNotifier::activated, received_.get(),
-                   [this] { ReadCommands(); });
-  writable_ =
-      std::make_unique<QSocketNotifier>(terminal_.MasterDescriptor(), QSocketNotifier::Write);
+  received_ = Watch(terminal_.MasterDescriptor(), QSocketNotifier::Read, &Instrument::ReadCommands);
+  writable_ = Watch(terminal_.MasterDescriptor(), QSocketNotifier::Write, &Instrument::SendBacklog);
   writable_->setEnabled(false);
-  QObject::connect(writable_.get(), &QSocketNotifier::activated, writable_.get(),
-                   [this] { SendBacklog(); });
+  if (terminal_.VisitDescriptor() >= 0) {
+    visited_ = Watch(terminal_.VisitDescriptor(), QSocketNotifier::Read, &Instrument::FollowVisits);
+  }
   announce_(u"ready %1"_s.arg(link_.Path()));
   return {};
 }
 
-void Instrument::PutOnStage(const struct PutOnStage& command) {
+std::unique_ptr<QSocketNotifier> Instrument::Watch(int descriptor, QSocketNotifier::Type type,
+                                                   void (Instrument::*react)()) {
+  auto notifier = std::make_unique<QSocketNotifier>(descriptor, type);
+  QObject::connect(notifier.get(), &QSocketNotifier::activated, notifier.get(),
+                   [this, react] { (this->*react)(); });
+  return notifier;
+}
+
+void Instrument::SetStage(const PutOnStage& command) {
   if (command.sample) {
     stage_.Fix(*command.sample);
   } else {
@@ -100,8 +105,11 @@ void Instrument::SendDue() {
 }
 
 void Instrument::Send(QByteArrayView bytes) {
-  backlog_.append(bytes);
-  SendBacklog();
+  // On a wire that leads to nobody, bytes are lost.
+  if (terminal_.IsVisited()) {
+    backlog_.append(bytes);
+    SendBacklog();
+  }
 }
 
 void Instrument::SendBacklog() {
@@ -109,8 +117,16 @@ void Instrument::SendBacklog() {
   writable_->setEnabled(!backlog_.isEmpty());
 }
 
+void Instrument::FollowVisits() {
+  if (!terminal_.IsVisited()) {
+    backlog_.clear();
+    writable_->setEnabled(false);
+  }
+}
+
 void Instrument::DropUnsent() {
   backlog_.clear();
+  writable_->setEnabled(false);
   terminal_.DiscardUnread();
 }
 
@@ -123,6 +139,7 @@ void Instrument::Unplug() {
   received_->setEnabled(false);
   received_.release()->deleteLater();
   writable_.reset();
+  visited_.reset();
   link_.Remove();
   terminal_.Close();
   if (replugAfter_ > 0ms) {

@@ -32,7 +32,7 @@ class Instrument {
   /// empty when it succeeded.
   [[nodiscard]] QString PlugIn();
 
-  void PutOnStage(const struct PutOnStage& command);
+  void SetStage(const PutOnStage& command);
   void ShowNextSample() { stage_.Next(); }
   void AddFault(const Fault& fault) { protocol_.AddFault(fault); }
 
@@ -41,7 +41,10 @@ class Instrument {
   void SendDue();
   void Send(QByteArrayView bytes);
   void SendBacklog();
+  void FollowVisits();
   void DropUnsent();
+  [[nodiscard]] std::unique_ptr<QSocketNotifier> Watch(int descriptor, QSocketNotifier::Type type,
+                                                       void (Instrument::*react)());
   void Unplug();
   [[nodiscard]] std::vector<SensorLine> ReadLines(const Exposure& exposure, int count);
 
@@ -59,6 +62,7 @@ class Instrument {
   PortLink link_;
   std::unique_ptr<QSocketNotifier> received_;
   std::unique_ptr<QSocketNotifier> writable_;
+  std::unique_ptr<QSocketNotifier> visited_;
   QByteArray backlog_;  // sent, but not taken by the system yet
 };
 

@@ -11,7 +11,7 @@ using namespace vexa::simulator;
 
 void Carry(const ConsoleCommand& command, Instrument& instrument) {
   if (const auto* put = std::get_if<PutOnStage>(&command)) {
-    instrument.PutOnStage(*put);
+    instrument.SetStage(*put);
   } else if (std::holds_alternative<NextSample>(command)) {
     instrument.ShowNextSample();
   } else if (const auto* fault = std::get_if<Fault>(&command)) {

@@ -131,7 +131,7 @@ std::variant<Options, EarlyEnd> ReadOptions(const QStringList& arguments) {
   if (!parser.parse(arguments)) {
     return Wrong(parser.errorText());
   }
-  if (parser.isSet(u"help"_s)) {
+  if (parser.isSet(u"help"_s) || parser.isSet(u"help-all"_s)) {
     return EarlyEnd{parser.helpText(), 0};
   }
   if (parser.isSet(u"version"_s)) {

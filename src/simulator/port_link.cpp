@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "simulator/port_link.h"
 
-#include <fcntl.h>
 #include <unistd.h>
 
 #include <QDir>
@@ -30,7 +29,7 @@ PortLink::PortLink(const QString& directory, int port)
 
 QString PortLink::Make(const QByteArray& devicePath) {
   const QByteArray target = LinkTarget(encodedPath_);
-  if (!target.isEmpty() && (target == devicePath || MayReplace(target))) {
+  if (!target.isEmpty() && (target == devicePath || LeadsNowhere())) {
     ::unlink(encodedPath_.constData());
   }
   if (::symlink(devicePath.constData(), encodedPath_.constData()) != 0) {
@@ -49,14 +48,8 @@ void PortLink::Remove() {
   devicePath_.clear();
 }
 
-bool PortLink::MayReplace(const QByteArray& target) const {
-  const int descriptor =
-      ::open(encodedPath_.constData(), O_RDWR | O_NOCTTY | O_NONBLOCK | O_CLOEXEC);
-  if (descriptor >= 0) {
-    ::close(descriptor);
-    return false;
-  }
-  return errno == ENOENT || (target.startsWith("/dev/pts/") && (errno == EIO || errno == ENXIO));
+bool PortLink::LeadsNowhere() const {
+  return ::access(encodedPath_.constData(), F_OK) != 0 && errno == ENOENT;
 }
 
 }  // namespace vexa::simulator

@@ -18,15 +18,15 @@ class PortLink {
 
   [[nodiscard]] QString Path() const { return path_; }
 
-  /// Points the link at the device. A link to nothing, or to a terminal that nobody serves any
-  /// more, is replaced; anything else of that name stays. Gives back why it failed, empty when it
-  /// succeeded.
+  /// Points the link at the device. A link to nothing (a pseudo-terminal goes from the file
+  /// system once nobody serves it) is replaced; anything else of that name stays. Gives back why it
+  /// failed, empty when it succeeded.
   [[nodiscard]] QString Make(const QByteArray& devicePath);
 
   void Remove();
 
  private:
-  [[nodiscard]] bool MayReplace(const QByteArray& target) const;
+  [[nodiscard]] bool LeadsNowhere() const;
 
   QString path_;
   QByteArray encodedPath_;

@@ -3,11 +3,14 @@
 
 #include <fcntl.h>
 #include <stdlib.h>
+#include <sys/inotify.h>
 #include <termios.h>
 #include <unistd.h>
 
+#include <algorithm>
 #include <array>
 #include <cerrno>
+#include <utility>
 
 namespace vexa::simulator {
 
@@ -25,6 +28,10 @@ bool PseudoTerminal::Open() {
     ::cfsetspeed(&settings, B57600);
     if (::tcsetattr(device_, TCSANOW, &settings) == 0) {
       devicePath_ = path.data();
+      visits_ = ::inotify_init1(IN_NONBLOCK | IN_CLOEXEC);
+      if (visits_ >= 0 && ::inotify_add_watch(visits_, path.data(), IN_OPEN | IN_CLOSE) < 0) {
+        ::close(std::exchange(visits_, -1));
+      }
       return true;
     }
   }
@@ -35,13 +42,26 @@ bool PseudoTerminal::Open() {
 }
 
 void PseudoTerminal::Close() {
-  for (int* descriptor : {&device_, &master_}) {
+  for (int* descriptor : {&visits_, &device_, &master_}) {
     if (*descriptor >= 0) {
       ::close(*descriptor);
       *descriptor = -1;
     }
   }
   devicePath_.clear();
+  visitors_ = 0;
+}
+
+bool PseudoTerminal::IsVisited() {
+  // Events of a watched file itself have no name behind them.
+  inotify_event event{};
+  while (visits_ >= 0 && ::read(visits_, &event, sizeof event) == sizeof event) {
+    visitors_ = (event.mask & IN_OPEN) != 0 ? visitors_ + 1 : std::max(visitors_ - 1, 0);
+    if (visitors_ == 0) {
+      DiscardUnread();
+    }
+  }
+  return visits_ < 0 || visitors_ > 0;
 }
 
 QByteArray PseudoTerminal::Read() {
@@ -65,6 +85,8 @@ qsizetype PseudoTerminal::Write(QByteArrayView bytes) {
 }
 
 void PseudoTerminal::DiscardUnread() {
+  // On its way to the other end first, then what waits there.
+  ::tcflush(master_, TCOFLUSH);
   ::tcflush(device_, TCIFLUSH);
 }
 

@@ -8,7 +8,8 @@ namespace vexa::simulator {
 
 /// A pseudo-terminal in raw mode whose master end is ours, read and written without waiting. The
 /// other end is held open here too, so that the program at the other end may close and open it
-/// again at will. Closed when made and when destroyed.
+/// again at will; it finds the line empty then, as on a real port. Closed when made and when
+/// destroyed.
 class PseudoTerminal {
  public:
   PseudoTerminal() = default;
@@ -24,6 +25,13 @@ class PseudoTerminal {
   /// Path of the device for the other program, such as /dev/pts/3; empty when closed.
   [[nodiscard]] const QByteArray& DevicePath() const { return devicePath_; }
 
+  /// Becomes readable when a program opens or closes the other end; -1 when the system cannot tell.
+  [[nodiscard]] int VisitDescriptor() const { return visits_; }
+
+  /// Whether a program has the other end open, as of now; true when the system cannot tell. When
+  /// the last one has closed it, what it left unread is thrown away.
+  [[nodiscard]] bool IsVisited();
+
   /// The bytes that have arrived; empty when there are none.
   [[nodiscard]] QByteArray Read();
 
@@ -37,6 +45,8 @@ class PseudoTerminal {
  private:
   int master_ = -1;
   int device_ = -1;
+  int visits_ = -1;
+  int visitors_ = 0;
   QByteArray devicePath_;
 };
 

@@ -25,10 +25,10 @@ FilmStack MakeStack(Sample sample) {
                 kQuarterWaveNm / 4.0 / MagnesiumFluorideIndex(kQuarterWaveNm)}}};
     case Sample::Ar4:
       return {CrownGlassIndex,
-              {{MagnesiumFluorideIndex, 99.0},
-               {ZirconiaIndex, 133.0},
-               {MagnesiumFluorideIndex, 35.0},
-               {ZirconiaIndex, 15.0}}};
+              {{MagnesiumFluorideIndex, 95.0},
+               {ZirconiaIndex, 138.0},
+               {MagnesiumFluorideIndex, 30.0},
+               {ZirconiaIndex, 16.0}}};
     case Sample::HardCoat1500:
       return {LensPlasticIndex, {{HardCoatIndex, 1500.0}}};
     case Sample::HardCoat4000:

@@ -1,0 +1,268 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include <fcntl.h>
+#include <gtest/gtest.h>
+#include <poll.h>
+#include <signal.h>
+#include <unistd.h>
+
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+#include <QProcess>
+#include <QTemporaryDir>
+#include <array>
+
+namespace {
+
+using namespace Qt::StringLiterals;
+
+constexpr int kPatienceMs = 10000;
+
+/// The other end of the link, opened as a serial port would be.
+class Port {
+ public:
+  explicit Port(const QString& path)
+      : descriptor_(::open(QFile::encodeName(path).constData(), O_RDWR | O_NOCTTY)) {}
+  Port(const Port&) = delete;
+  Port& operator=(const Port&) = delete;
+  ~Port() { ::close(descriptor_); }
+
+  void Send(const char* frame) const {
+    const QByteArray bytes = QByteArray::fromHex(frame);
+    EXPECT_EQ(::write(descriptor_, bytes.constData(), static_cast<std::size_t>(bytes.size())),
+              bytes.size());
+  }
+
+  /// What comes until the terminator is last, or the port is gone.
+  QByteArray Receive(const char* terminator) const {
+    QByteArray received;
+    pollfd wait{descriptor_, POLLIN, 0};
+    while (!received.endsWith(terminator) && ::poll(&wait, 1, kPatienceMs) > 0) {
+      std::array<char, 4096> buffer;
+      const ssize_t count = ::read(descriptor_, buffer.data(), buffer.size());
+      if (count <= 0) {
+        return received + "<gone>";
+      }
+      received.append(buffer.data(), count);
+    }
+    return received;
+  }
+
+  char ReceiveByte() const {
+    char byte = 0;
+    EXPECT_EQ(::read(descriptor_, &byte, 1), 1);
+    return byte;
+  }
+
+  QByteArray Ask(const char* frame, const char* terminator = "REQEND") const {
+    Send(frame);
+    return Receive(terminator);
+  }
+
+ private:
+  int descriptor_;
+};
+
+class ProgramTest : public testing::Test {
+ protected:
+  void Start(QProcess& program, const QStringList& arguments) const {
+    program.start(QStringLiteral(VEXA_SIMULATOR_PROGRAM),
+                  QStringList{u"--dir"_s, directory_.path()} + arguments);
+    ASSERT_TRUE(program.waitForStarted(kPatienceMs));
+  }
+
+  void StartReady(QProcess& program, const QStringList& arguments = {}) const {
+    Start(program, QStringList{u"--pace"_s, u"none"_s} + arguments);
+    ASSERT_EQ(NextLine(program), u"ready "_s + link_);
+  }
+
+  static QString NextLine(QProcess& program) {
+    while (!program.canReadLine() && program.waitForReadyRead(kPatienceMs)) {
+    }
+    return QString::fromUtf8(program.readLine()).trimmed();
+  }
+
+  static int ExitStatus(QProcess& program) {
+    EXPECT_TRUE(program.waitForFinished(kPatienceMs));
+    EXPECT_EQ(program.exitStatus(), QProcess::NormalExit);
+    return program.exitCode();
+  }
+
+  bool LinkExists() const { return QFileInfo(link_).isSymLink(); }
+
+  QTemporaryDir directory_{QDir::tempPath() + u"/測定 仮想 XXXXXX"_s};
+  QString link_ = directory_.filePath(u"com5"_s);
+};
+
+TEST_F(ProgramTest, WrongOptionsEndWithStatus2AndOneLine) {
+  const QStringList cases[] = {{u"--unknown"_s},
+                               {u"extra"_s},
+                               {u"--pace"_s, u"fast"_s},
+                               {u"--port"_s, u"0"_s},
+                               {u"--port"_s, u"x"_s},
+                               {u"--port"_s, u"256"_s},
+                               {u"--stage"_s, u"gold"_s},
+                               {u"--seed"_s, u"-1"_s},
+                               {u"--noise"_s, u"1"_s},
+                               {u"--fault"_s, u"smoke"_s},
+                               {u"--late"_s, u"1.5"_s},
+                               {u"--fault"_s, u"no-reply@0"_s},
+                               {u"--replug"_s},
+                               {u"--fault"_s, u"no-reply@"_s},
+                               {u"--dir"_s, directory_.filePath(u"none"_s)}};
+  for (const QStringList& arguments : cases) {
+    QProcess program;
+    Start(program, arguments);
+    EXPECT_EQ(ExitStatus(program), 2) << arguments.join(u' ').toStdString();
+    const QByteArray error = program.readAllStandardError();
+    EXPECT_EQ(error.count('\n'), 1) << error.toStdString();
+    EXPECT_TRUE(error.startsWith("vexa-simulator: ")) << error.toStdString();
+    EXPECT_EQ(program.readAllStandardOutput(), "");
+    EXPECT_FALSE(LinkExists());
+  }
+}
+
+TEST_F(ProgramTest, ListNamesSamplesAndFaults) {
+  QProcess program;
+  Start(program, {u"--list"_s});
+  EXPECT_EQ(ExitStatus(program), 0);
+  const QByteArray list = program.readAllStandardOutput();
+  EXPECT_EQ(list.count('\n'), 1 + 7 + 1 + 9);
+  EXPECT_TRUE(list.contains("\n  hardcoat1.5 ") && list.contains("\n  split-terminator "));
+}
+
+TEST_F(ProgramTest, EverySignalAndQuitEndItAndRemoveTheLink) {
+  for (const int number : {SIGINT, SIGTERM, SIGHUP, 0}) {
+    QProcess program;
+    StartReady(program);
+    EXPECT_TRUE(LinkExists());
+    if (number == 0) {
+      program.write("quit\n");
+    } else {
+      ::kill(static_cast<pid_t>(program.processId()), number);
+    }
+    EXPECT_EQ(ExitStatus(program), 0);
+    EXPECT_FALSE(LinkExists()) << number;
+  }
+}
+
+TEST_F(ProgramTest, LeavesWhatItMustNotReplace) {
+  QProcess first;
+  StartReady(first);
+  QProcess second;
+  Start(second, {});
+  EXPECT_EQ(ExitStatus(second), 1);
+  EXPECT_EQ(second.readAllStandardError().count('\n'), 1);
+  EXPECT_EQ(Port(link_).Ask("69000000"), "CHARQUITREQEND");
+
+  // A link that somebody else put in the place of its own stays when it ends.
+  ASSERT_TRUE(QFile::remove(link_));
+  ASSERT_TRUE(QFile::link(directory_.path(), link_));
+  first.write("quit\n");
+  EXPECT_EQ(ExitStatus(first), 0);
+  EXPECT_TRUE(LinkExists());
+}
+
+TEST_F(ProgramTest, ReplacesALinkToNothing) {
+  ASSERT_TRUE(QFile::link(u"/dev/pts/9999999"_s, link_));
+  QProcess program;
+  StartReady(program);
+  EXPECT_EQ(Port(link_).Ask("69000000"), "CHARQUITREQEND");
+  program.kill();
+  program.waitForFinished(kPatienceMs);
+  EXPECT_TRUE(LinkExists());
+  QProcess next;
+  StartReady(next);
+  next.terminate();
+  EXPECT_EQ(ExitStatus(next), 0);
+}
+
+TEST_F(ProgramTest, MeasuresTheSamplesInTurnAndSurvivesReconnection) {
+  QProcess program;
+  StartReady(program, {u"--noise"_s, u"off"_s});
+  {
+    const Port port(link_);
+    EXPECT_EQ(port.Ask("E1000000"), "CHARVEXA-KT H8 1.00REQEND");
+    port.Ask("96392900");  // 3000 ms
+    port.Ask("A5010000");
+    port.Ask("C3010100");
+    // Dark: 60 + 18 counts on every pixel.
+    EXPECT_EQ(port.Ask("B4000100", "DATEND"),
+              "DATA" + QByteArray::fromHex("4E00").repeated(512) + "DATEND");
+    port.Ask("A5020000");
+    port.Ask("C30F0100");
+    // More than a pseudo-terminal takes at once.
+    EXPECT_EQ(port.Ask("B4000F00", "DATEND").size(), 4 + 15 * 1024 + 6);
+    port.Send("B4000F00");
+    EXPECT_EQ(port.ReceiveByte(), 'D');  // and leave with the rest unread
+  }
+  EXPECT_EQ(NextLine(program), u"stage glass"_s);
+  EXPECT_EQ(NextLine(program), u"stage mgf2"_s);
+  // Two rounds of its event loop, so that it has seen the port close.
+  for (const auto& next : {u"stage ar4"_s, u"stage hardcoat1.5"_s}) {
+    program.write("next\n");
+    EXPECT_EQ(NextLine(program), next);
+  }
+  const Port again(link_);
+  EXPECT_EQ(again.Ask("E1000000"), "CHARVEXA-KT H8 1.00REQEND");
+  again.Ask("C3010100");
+  EXPECT_EQ(NextLine(program), u"stage reference"_s);
+  program.terminate();
+  EXPECT_EQ(ExitStatus(program), 0);
+}
+
+TEST_F(ProgramTest, ObeysItsStandardInput) {
+  QProcess program;
+  StartReady(program, {u"--stage"_s, u"mirror"_s});
+  program.write("stage ar4\nnonsense\nnext\nfault error-reply\nstage glass\n");
+  EXPECT_EQ(NextLine(program), u"stage ar4"_s);
+  EXPECT_EQ(NextLine(program), u"stage hardcoat1.5"_s);
+  EXPECT_EQ(NextLine(program), u"stage glass"_s);
+  const Port port(link_);
+  EXPECT_EQ(port.Ask("69000000", "REQERR"), "CHARREFUSEDREQERR");
+  program.write("quit\n");
+  EXPECT_EQ(ExitStatus(program), 0);
+  EXPECT_EQ(program.readAllStandardError(), "vexa-simulator: unknown line \"nonsense\"\n");
+}
+
+TEST_F(ProgramTest, UnplugsAndComesBack) {
+  QProcess program;
+  StartReady(program, {u"--fault"_s, u"unplug@2"_s, u"--replug"_s, u"30"_s});
+  program.closeWriteChannel();  // the end of its input must not end it
+  {
+    const Port port(link_);
+    EXPECT_EQ(port.Ask("69000000"), "CHARQUITREQEND");
+    EXPECT_EQ(port.Ask("69000000"), "<gone>");
+  }
+  EXPECT_EQ(NextLine(program), u"ready "_s + link_);
+  EXPECT_EQ(Port(link_).Ask("69000000"), "CHARQUITREQEND");
+  program.terminate();
+  EXPECT_EQ(ExitStatus(program), 0);
+  EXPECT_FALSE(LinkExists());
+}
+
+TEST_F(ProgramTest, SameSeedSameLinesAndPacedRunsTakeTheirTime) {
+  QByteArray lines[3];
+  const QStringList runs[] = {
+      {u"--seed"_s, u"7"_s, u"--pace"_s, u"real"_s}, {u"--seed"_s, u"7"_s}, {u"--seed"_s, u"8"_s}};
+  for (std::size_t run = 0; run < 3; ++run) {
+    QProcess program;
+    StartReady(program, runs[run]);
+    const Port port(link_);
+    const auto start = std::chrono::steady_clock::now();
+    port.Ask("C3010100");
+    lines[run] = port.Ask("B4000100", "DATEND");
+    if (run == 0) {
+      // 30 ms of integration and 4 + 13 + 4 + 1034 bytes at 5760 a second.
+      const auto floor = std::chrono::microseconds(30000 + 183159);
+      EXPECT_GE(std::chrono::steady_clock::now() - start, floor);
+    }
+    program.terminate();
+    EXPECT_EQ(ExitStatus(program), 0);
+  }
+  EXPECT_EQ(lines[0].size(), 1034);
+  EXPECT_EQ(lines[0], lines[1]);
+  EXPECT_NE(lines[0], lines[2]);
+}
+
+}  // namespace

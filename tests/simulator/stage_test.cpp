@@ -1,0 +1,100 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "simulator/stage.h"
+
+#include <gtest/gtest.h>
+
+#include <QStringList>
+
+#include "simulator/console.h"
+
+namespace vexa::simulator {
+namespace {
+
+using namespace Qt::StringLiterals;
+
+constexpr Milestone kDark = Milestone::DarkMeasured;
+constexpr Milestone kMeasured = Milestone::LightMeasured;
+constexpr Milestone kSent = Milestone::LightLinesSent;
+
+class StageTest : public testing::Test {
+ protected:
+  Stage Make(std::optional<Sample> fixed) {
+    return Stage(fixed, [this](Sample sample) { seen_ << QString(SampleName(sample)); });
+  }
+
+  QStringList seen_;
+};
+
+TEST_F(StageTest, UnattendedShowsAllInTurnAndTheReferenceAfterABackground) {
+  Stage stage = Make({});
+  EXPECT_EQ(stage.Current(), Sample::Reference);
+  for (int lines = 0; lines < 8; ++lines) {
+    stage.Reach(kMeasured);
+    stage.Reach(kSent);
+  }
+  stage.Reach(kDark);
+  stage.Reach(kDark);
+  stage.Reach(kSent);
+  EXPECT_EQ(seen_.join(u' '),
+            u"glass mgf2 ar4 hardcoat1.5 hardcoat4 mirror glass mgf2 reference glass"_s);
+}
+
+TEST_F(StageTest, FixedStaysUntilToldOtherwise) {
+  Stage stage = Make(Sample::Mirror);
+  stage.Reach(kDark);
+  stage.Reach(kSent);
+  EXPECT_EQ(stage.Current(), Sample::Mirror);
+  stage.Next();
+  stage.Reach(kSent);
+  EXPECT_EQ(stage.Current(), Sample::Glass);
+  stage.LeaveUnattended();
+  stage.Reach(kSent);
+  stage.Fix(Sample::Ar4);
+  stage.Reach(kDark);
+  EXPECT_EQ(seen_.join(u' '), u"glass mgf2 ar4"_s);
+}
+
+QString Meaning(QStringView line) {
+  const auto command = ParseConsoleLine(line);
+  if (!command) {
+    return u"unknown"_s;
+  }
+  if (const auto* put = std::get_if<PutOnStage>(&*command)) {
+    return put->sample ? QString(SampleName(*put->sample)) : u"unattended"_s;
+  }
+  if (const auto* fault = std::get_if<Fault>(&*command)) {
+    return u"%1 at %2"_s.arg(QString(AllFaults()[static_cast<std::size_t>(fault->kind)].name))
+        .arg(fault->exchange);
+  }
+  return std::holds_alternative<NextSample>(*command) ? u"next"_s : u"quit"_s;
+}
+
+TEST(ConsoleLine, IsUnderstoodOrRefusedWhole) {
+  const struct {
+    QStringView line;
+    QStringView meaning;
+  } cases[] = {
+      {u"stage hardcoat1.5", u"hardcoat1.5"},
+      {u"  stage \t ar4\r", u"ar4"},
+      {u"stage auto", u"unattended"},
+      {u"next", u"next"},
+      {u"quit", u"quit"},
+      {u"fault no-reply", u"no-reply at 1"},
+      {u"fault late-bytes 12", u"late-bytes at 12"},
+      {u"", u"unknown"},
+      {u"stage", u"unknown"},
+      {u"stage Mirror", u"unknown"},
+      {u"stage ar4 now", u"unknown"},
+      {u"next 2", u"unknown"},
+      {u"fault no-reply 0", u"unknown"},
+      {u"fault no-reply x", u"unknown"},
+      {u"fault none", u"unknown"},
+      {u"ｑｕｉｔ", u"unknown"},
+  };
+  for (const auto& c : cases) {
+    EXPECT_EQ(Meaning(c.line), c.meaning) << c.line.toString().toStdString();
+  }
+}
+
+}  // namespace
+}  // namespace vexa::simulator
