@@ -6,6 +6,7 @@
 #include <QLocale>
 #include <QVBoxLayout>
 
+#include "views/common/slot_style.h"
 #include "views/common/theme.h"
 
 namespace vexa {

@@ -2,28 +2,12 @@
 #include "views/common/theme.h"
 
 #include <QFont>
-#include <QFontDatabase>
 #include <QPainter>
 #include <QPalette>
-#include <QPixmap>
 #include <QStyleFactory>
-#include <array>
 
 namespace vexa {
 namespace {
-
-constexpr std::array<QRgb, 10> kSlotColours{0x0d74e4, 0xe09502, 0x056565, 0xe78dd1, 0x9b3e00,
-                                            0x66ab76, 0x0924eb, 0x210375, 0x431000, 0x080026};
-constexpr int kFirstDashedSlot = 6;
-constexpr qreal kLineWidth = 1.6;
-
-QPixmap Canvas(QSize size) {
-  const qreal ratio = qApp->devicePixelRatio();
-  QPixmap pixmap(size * ratio);
-  pixmap.setDevicePixelRatio(ratio);
-  pixmap.fill(Qt::transparent);
-  return pixmap;
-}
 
 QPalette LightPalette() {
   QPalette palette;
@@ -49,6 +33,14 @@ QPalette LightPalette() {
 
 }  // namespace
 
+QPixmap IconCanvas(QSize size) {
+  const qreal ratio = qApp->devicePixelRatio();
+  QPixmap pixmap(size * ratio);
+  pixmap.setDevicePixelRatio(ratio);
+  pixmap.fill(Qt::transparent);
+  return pixmap;
+}
+
 void ApplyTheme(QApplication& application) {
   application.setStyle(QStyleFactory::create(QStringLiteral("Fusion")));
   application.setPalette(LightPalette());
@@ -59,42 +51,9 @@ void ApplyTheme(QApplication& application) {
   application.setFont(font);
 }
 
-QColor SlotColour(int slot) {
-  return QColor::fromRgb(kSlotColours.at(static_cast<std::size_t>(slot - 1)));
-}
-
-QPen SlotPen(int slot) {
-  QPen pen(SlotColour(slot), kLineWidth);
-  if (slot >= kFirstDashedSlot) {
-    pen.setDashPattern({5.0, 2.5});
-  }
-  return pen;
-}
-
-QIcon SlotIcon(int slot, bool valid) {
-  constexpr QSize kSize(22, 12);
-  QPixmap pixmap = Canvas(kSize);
-  QPainter painter(&pixmap);
-  painter.setRenderHint(QPainter::Antialiasing);
-  if (valid) {
-    QPen pen = SlotPen(slot);
-    pen.setWidthF(4.0);
-    if (pen.style() == Qt::CustomDashLine) {
-      pen.setDashPattern({1.7, 0.8});
-    }
-    pen.setCapStyle(Qt::FlatCap);
-    painter.setPen(pen);
-    painter.drawLine(QPointF(0.0, 6.0), QPointF(22.0, 6.0));
-  } else {
-    painter.setPen(QPen(theme::kBorder, 1.0));
-    painter.drawRect(QRectF(0.5, 3.5, 21.0, 5.0));
-  }
-  return QIcon(pixmap);
-}
-
 QIcon DoneIcon(bool done) {
   constexpr QSize kSize(16, 16);
-  QPixmap pixmap = Canvas(kSize);
+  QPixmap pixmap = IconCanvas(kSize);
   QPainter painter(&pixmap);
   painter.setRenderHint(QPainter::Antialiasing);
   const QRectF ring(1.5, 1.5, 13.0, 13.0);

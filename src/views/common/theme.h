@@ -4,23 +4,15 @@
 #include <QApplication>
 #include <QColor>
 #include <QIcon>
-#include <QPen>
+#include <QPixmap>
 
 namespace vexa {
 
 /// Gives the application its calm light look and a font with Japanese letters.
 void ApplyTheme(QApplication& application);
 
-/// The colour of slot 1..10. Any two of them stay at least 35 apart in CIE L*a*b* for normal,
-/// protanopic and deuteranopic eyes (simulated after Machado, Oliveira and Fernandes, 2009), and
-/// each has a contrast of 2.3 or more against white.
-[[nodiscard]] QColor SlotColour(int slot);
-
-/// The line of slot 1..10: its colour, solid for 1 to 5 and dashed for 6 to 10.
-[[nodiscard]] QPen SlotPen(int slot);
-
-/// A sample of the slot's line when the slot holds a spectrum, else an empty frame.
-[[nodiscard]] QIcon SlotIcon(int slot, bool valid);
+/// A transparent canvas for an icon of the size, as fine as the screen.
+[[nodiscard]] QPixmap IconCanvas(QSize size);
 
 /// A filled mark with a tick when `done`, else an empty ring.
 [[nodiscard]] QIcon DoneIcon(bool done);
