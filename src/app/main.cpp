@@ -3,6 +3,7 @@
 #include <QCommandLineParser>
 #include <QDir>
 #include <QTimer>
+#include <cstdio>
 #include <memory>
 
 #include "app/demonstration.h"
@@ -66,8 +67,10 @@ int main(int argc, char* argv[]) {
                      "measurement.csv and window.png in DIR."),
       QStringLiteral("DIR"));
   parser.addOption(demo);
-  if (!parser.parse(QApplication::arguments())) {
-    std::fprintf(stderr, "vexa: %s\n", qUtf8Printable(parser.errorText()));
+  const bool parsed = parser.parse(QApplication::arguments());
+  if (!parsed || !parser.positionalArguments().isEmpty()) {
+    std::fprintf(stderr, "vexa: %s\n",
+                 parsed ? "takes no arguments but options" : qUtf8Printable(parser.errorText()));
     return 2;
   }
   if (parser.isSet(QStringLiteral("help"))) {
