@@ -11,7 +11,7 @@
 namespace vexa {
 namespace {
 
-QProcess& Run(QProcess& process, const QStringList& arguments) {
+QProcess& RunVexa(QProcess& process, const QStringList& arguments) {
   process.start(QStringLiteral(VEXA_BIN_DIR "/vexa"), arguments);
   EXPECT_TRUE(process.waitForFinished(60000));
   return process;
@@ -21,7 +21,7 @@ TEST(Demonstration, MeasuresFiveSamplesAndLeavesAFileAndAPicture) {
   const QTemporaryDir parent(QDir::tempPath() + QStringLiteral("/実 演-XXXXXX"));
   const QDir directory(parent.filePath(QStringLiteral("新しい")));
   QProcess process;
-  EXPECT_EQ(Run(process, {QStringLiteral("--demo"), directory.path()}).exitCode(), 0)
+  EXPECT_EQ(RunVexa(process, {QStringLiteral("--demo"), directory.path()}).exitCode(), 0)
       << process.readAllStandardError().constData();
 
   QFile data(directory.filePath(QStringLiteral("measurement.csv")));
@@ -43,7 +43,7 @@ TEST(Demonstration, WrongOptionsAreOneLineAndStatusTwo) {
        {QStringList{QStringLiteral("--nonsense")}, QStringList{QStringLiteral("--demo")},
         QStringList{QStringLiteral("stray")}}) {
     QProcess process;
-    EXPECT_EQ(Run(process, arguments).exitCode(), 2);
+    EXPECT_EQ(RunVexa(process, arguments).exitCode(), 2);
     EXPECT_EQ(process.readAllStandardError().count("vexa: "), 1);
   }
 }
