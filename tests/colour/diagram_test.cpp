@@ -75,16 +75,16 @@ TEST(DiagramBackground, RedAndGreenRoundOtherwiseThanBlue) {
 // ends, where the functions are small, that moves them by up to 0.0004.
 TEST(SpectralLocus, PublishedChromaticities) {
   struct Case {
-    bool twoDegrees;
     std::size_t index;
     int nm;
+    bool twoDegrees;
     double x;
     double y;
   };
   const Case cases[] = {
-      {true, 0, 380, 0.17411, 0.00496},   {true, 28, 520, 0.07430, 0.83380},
-      {true, 64, 700, 0.73469, 0.26531},  {false, 0, 380, 0.18133, 0.01969},
-      {false, 64, 700, 0.72023, 0.27977},
+      {0, 380, true, 0.17411, 0.00496},   {28, 520, true, 0.07430, 0.83380},
+      {64, 700, true, 0.73469, 0.26531},  {0, 380, false, 0.18133, 0.01969},
+      {64, 700, false, 0.72023, 0.27977},
   };
   for (const Case& c : cases) {
     const std::vector<LocusPoint> locus = SpectralLocus(c.twoDegrees);
