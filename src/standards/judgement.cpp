@@ -1,0 +1,114 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "standards/judgement.h"
+
+#include <algorithm>
+#include <cmath>
+
+#include "base/arithmetic.h"
+#include "standards/reflectance_band.h"
+
+namespace vexa {
+namespace {
+
+struct PanelTexts {
+  QString pass;
+  QString fail;
+};
+
+const std::array<PanelTexts, kStandardGroupCount> kPanelTexts{{
+    {QStringLiteral("反射率:OK"), QStringLiteral("反射率:NG")},
+    {QStringLiteral("平均反射率:OK"), QStringLiteral("平均反射率:NG")},
+    {QStringLiteral("視感反射率:OK"), QStringLiteral("視感反射率:NG")},
+    {QStringLiteral("波長:OK"), QStringLiteral("波長:NG")},
+    {QStringLiteral("クロマC*:OK"), QStringLiteral("クロマC*:NG")},
+    {QStringLiteral("色相角h[deg]:OK"), QStringLiteral("色相角h[deg]:NG")},
+}};
+
+GroupJudgement JudgeValue(const StandardLimits& limits, double value) {
+  if (!limits.enabled) {
+    return {};
+  }
+  return {InRange(limits.lower, limits.upper, value),
+          std::min(limits.upper - value, value - limits.lower)};
+}
+
+bool HueInRange(const StandardLimits& limits, double hueDeg) {
+  if (limits.upper >= limits.lower) {
+    return InRange(limits.lower, limits.upper, hueDeg);
+  }
+  return InRange(limits.lower, 360.0, hueDeg) || InRange(0.0, limits.upper, hueDeg);
+}
+
+double CircleDistanceDeg(double one, double other) {
+  return std::abs(std::remainder(one - other, 360.0));
+}
+
+GroupJudgement JudgeHue(const StandardLimits& limits, double hueDeg) {
+  if (!limits.enabled) {
+    return {};
+  }
+  const bool passed = HueInRange(limits, hueDeg);
+  if (limits.upper - limits.lower >= 360.0) {
+    return {passed, std::nullopt};  // the whole circle has no limit to be near to
+  }
+  const double distance =
+      std::min(CircleDistanceDeg(hueDeg, limits.lower), CircleDistanceDeg(hueDeg, limits.upper));
+  return {passed, passed ? distance : -distance};
+}
+
+}  // namespace
+
+bool InRange(double lower, double upper, double value) {
+  return lower <= value && value <= upper;
+}
+
+void InterpolateLimit(double w1, double w2, double y1, double y2, double w, double& limit) {
+  if (w2 - w1 < 1.0) {
+    return;
+  }
+  const double slope = Divide(y2 - y1, w2 - w1);
+  limit = y1 + slope * (w - w1);
+}
+
+int FindPeakBottom(const ReflectanceSpectrum& reflectance, int from, int to,
+                   std::int16_t selector) {
+  const int last = std::clamp(to, ReflectanceSpectrum::kFirstNm, ReflectanceSpectrum::kLastNm);
+  int found = std::clamp(from, ReflectanceSpectrum::kFirstNm, ReflectanceSpectrum::kLastNm);
+  for (int nm = found + 1; nm <= last; ++nm) {
+    const bool better =
+        selector != 0 ? reflectance[nm] > reflectance[found] : reflectance[nm] < reflectance[found];
+    if (better) {
+      found = nm;
+    }
+  }
+  return found;
+}
+
+Judgement JudgeStandards(const ReflectanceSpectrum& reflectance, const ColourResult& colour,
+                         const StandardSet& standard) {
+  Judgement judgement;
+  const auto group = [&judgement](StandardGroup which) -> GroupJudgement& {
+    return judgement.groups[static_cast<std::size_t>(which)];
+  };
+  if (const auto band = JudgeReflectanceBand(reflectance, standard)) {
+    group(StandardGroup::kReflectance) = {band->passed, band->margin};
+    judgement.reflectancePassed = band->passed;
+    judgement.bandMarginNm = band->marginNm;
+  }
+  group(StandardGroup::kAverageReflectance) = JudgeValue(standard.averageReflectance, colour.Rm);
+  group(StandardGroup::kLuminousReflectance) = JudgeValue(standard.luminousReflectance, colour.Y);
+  group(StandardGroup::kWavelengthValue) =
+      JudgeValue(standard.wavelengthValue.limits,
+                 FindPeakBottom(reflectance, ReflectanceSpectrum::kFirstNm,
+                                ReflectanceSpectrum::kLastNm, standard.wavelengthValue.selector));
+  group(StandardGroup::kChroma) = JudgeValue(standard.chroma, colour.C);
+  group(StandardGroup::kHueAngle) = JudgeHue(standard.hueAngle, colour.h);
+  for (std::size_t i = 0; i < kStandardGroupCount; ++i) {
+    if (const auto passed = judgement.groups[i].passed) {
+      judgement.panelTexts[i] = *passed ? kPanelTexts[i].pass : kPanelTexts[i].fail;
+    }
+  }
+  return judgement;
+}
+
+}  // namespace vexa

@@ -1,0 +1,63 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <QString>
+#include <array>
+#include <optional>
+
+#include "base/spectrum.h"
+#include "colour/colorimetry.h"
+#include "standards/standard_set.h"
+
+namespace vexa {
+
+/// True when lower <= value <= upper.
+[[nodiscard]] bool InRange(double lower, double upper, double value);
+
+/// Sets `limit` to the value at w of the line from (w1, y1) to (w2, y2), as y1 + slope (w - w1).
+/// Leaves it as it is when w2 - w1 is below 1. Throws ArithmeticFault on an overflow of the slope.
+void InterpolateLimit(double w1, double w2, double y1, double y2, double w, double& limit);
+
+/// The wavelength in from..to nm of the highest reflectance (selector non-zero) or the lowest
+/// (zero), the shortest one among equals. Bounds outside 440..840 are moved to its ends.
+[[nodiscard]] int FindPeakBottom(const ReflectanceSpectrum& reflectance, int from, int to,
+                                 std::int16_t selector);
+
+/// The verdict on one group.
+struct GroupJudgement {
+  std::optional<bool> passed;  ///< nothing when the group is not judged
+  /// Distance to the nearest limit in the unit of the group, negative outside; hues are taken round
+  /// the circle. Nothing where no measured value stands against a limit.
+  std::optional<double> margin;
+};
+
+/// The groups in the order of their panels.
+enum class StandardGroup {
+  kReflectance,
+  kAverageReflectance,
+  kLuminousReflectance,
+  kWavelengthValue,
+  kChroma,
+  kHueAngle,
+};
+inline constexpr std::size_t kStandardGroupCount = 6;
+
+struct Judgement {
+  std::array<GroupJudgement, kStandardGroupCount> groups;
+  /// The text of each group's panel, label and verdict; empty when the group is not judged.
+  std::array<QString, kStandardGroupCount> panelTexts;
+  bool reflectancePassed = false;  ///< the reflectance band was judged and passed
+  int bandMarginNm = 0;            ///< where the band's margin is smallest; 0 without a margin
+};
+
+/// Judges a spectrum and its colour values; any content of `standard` is safe.
+///
+/// The band needs condition 1; with condition 2 off it is the limits at one wavelength, otherwise
+/// every condition that is on is joined to the one before it by number, and the lines between are
+/// the limits at every whole nanometre. A segment that runs backwards tests nothing, and a band of
+/// only such segments passes without a margin. Outside 440..840 nm there is no reflectance that
+/// could pass: such a wavelength fails the band, without a margin.
+[[nodiscard]] Judgement JudgeStandards(const ReflectanceSpectrum& reflectance,
+                                       const ColourResult& colour, const StandardSet& standard);
+
+}  // namespace vexa

@@ -1,0 +1,167 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "colour/colour_stock.h"
+
+#include <gtest/gtest.h>
+
+#include <QFile>
+#include <QTemporaryDir>
+
+#include "colour/stock_file.h"
+
+namespace vexa {
+namespace {
+
+const ColourResult kColour{.L = 70.0,
+                           .a = -1.5,
+                           .b = 2.5,
+                           .x = 0.31,
+                           .y = 0.33,
+                           .C = 3.0,
+                           .h = 120.0,
+                           .Rm = 50.0,
+                           .Y = 40.75};
+
+class StockFile : public testing::Test {
+ protected:
+  void Put(const QByteArray& bytes) const {
+    QFile file(path_);
+    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+    ASSERT_EQ(file.write(bytes), bytes.size());
+  }
+  [[nodiscard]] QByteArray Content() const {
+    QFile file(path_);
+    EXPECT_TRUE(file.open(QIODevice::ReadOnly));
+    return file.readAll();
+  }
+
+  QTemporaryDir directory_{QDir::tempPath() + QStringLiteral("/累 積-XXXXXX")};
+  QString path_ = directory_.filePath(QStringLiteral("色度 1.stc"));
+};
+
+TEST(ColourStock, TakesAHundredPointsAndNoMore) {
+  ColourStock stock;
+  for (int i = 1; i <= 99; ++i) {
+    EXPECT_EQ(stock.StockAdd(kColour, true), StockAddResult::kStored) << i;
+  }
+  EXPECT_EQ(stock.StockAdd(kColour, false), StockAddResult::kStoredLast);
+  const ColourStock full = stock;
+  EXPECT_EQ(stock.StockAdd({}, true), StockAddResult::kRefused);
+  EXPECT_EQ(stock, full);
+  EXPECT_EQ(stock.Count, 100);
+  EXPECT_EQ(stock.P1[98], 0.31);
+  EXPECT_EQ(stock.P2[98], 0.33);
+  EXPECT_EQ(stock.P3[98], 40.75);
+  EXPECT_EQ(stock.P1[99], -1.5);
+  EXPECT_EQ(stock.P2[99], 2.5);
+  EXPECT_EQ(stock.P3[99], 70.0);
+
+  stock.RemoveLast();
+  EXPECT_EQ(stock.Count, 99);
+  EXPECT_EQ(stock.P1[99], 0.0);
+  EXPECT_EQ(stock.P3[98], 40.75);
+  EXPECT_EQ(stock.StockAdd(kColour, false), StockAddResult::kStoredLast);
+  stock.RemoveAll();
+  EXPECT_EQ(stock, ColourStock{});
+  stock.RemoveLast();
+  EXPECT_EQ(stock, ColourStock{});
+}
+
+TEST(ColourStock, ConditionsDifferOnlyWhenThereArePoints) {
+  const StockConditions same{true, 4, false};
+  const StockConditions others[] = {{false, 4, false}, {true, 3, false}, {true, 4, true}};
+  ColourStock stock;
+  stock.Record(same);
+  for (const StockConditions& other : others) {
+    EXPECT_FALSE(stock.DiffersFrom(other));
+  }
+  (void)stock.StockAdd(kColour, true);
+  EXPECT_FALSE(stock.DiffersFrom(same));
+  for (const StockConditions& other : others) {
+    EXPECT_TRUE(stock.DiffersFrom(other));
+    stock.Record(other);
+    EXPECT_FALSE(stock.DiffersFrom(other));
+    stock.Record(same);
+  }
+}
+
+const QByteArray kGolden =
+    "VEXA-KT 440-840 Ver3.21 Stock File\r\n"
+    "False\r\n"
+    " 4 \r\n"
+    "True\r\n"
+    " 2 \r\n"
+    "-1.500000,2.500000,70.000000\r\n"
+    "0.123457,0.000000,-0.000001\r\n";
+
+TEST_F(StockFile, IsWrittenAndReadByteForByte) {
+  ColourStock stock;
+  stock.Record({false, 4, true});
+  (void)stock.StockAdd(kColour, false);
+  (void)stock.StockAdd({.L = -0.0000012, .a = 0.1234567, .b = 4e-7}, false);
+  ASSERT_TRUE(WriteStockFile(path_, stock));
+  EXPECT_EQ(Content(), kGolden);
+
+  for (const char* version : {"3.21", "3.00"}) {
+    Put(QByteArray(kGolden).replace("3.21", version));
+    ColourStock read;
+    (void)read.StockAdd(kColour, true);
+    (void)read.StockAdd(kColour, true);
+    (void)read.StockAdd(kColour, true);
+    ASSERT_TRUE(ReadStockFile(path_, read)) << version;
+    EXPECT_EQ(read.Count, 2);
+    EXPECT_EQ(read.P1[1], 0.123457);
+    EXPECT_EQ(read.P1[2], 0.0) << "no point of before is left";
+    ASSERT_TRUE(WriteStockFile(path_, read));
+    EXPECT_EQ(Content(), kGolden) << version;
+  }
+}
+
+TEST_F(StockFile, ABadFileEndsTheReadingAndKeepsWhatWasRead) {
+  struct Case {
+    const char* defect;
+    QByteArray bytes;
+    bool mode;                // afterwards; true before
+    std::int16_t illuminant;  // afterwards; 1 before
+    std::int16_t count;       // afterwards; 1 before
+  };
+  const QByteArray head = "VEXA-KT 440-840 Ver3.21 Stock File\r\n";
+  const QByteArray conditions = head + "False\r\n 4 \r\nFalse\r\n";
+  const Case cases[] = {
+      {"empty", "", true, 1, 1},
+      {"another version", QByteArray(kGolden).replace("3.21", "3.10"), true, 1, 1},
+      {"another kind", "VEXA-KT 440-840 Ver 3.21 Data File\r\nFalse\r\n", true, 1, 1},
+      {"header with a blank behind", QByteArray(kGolden).replace("File\r", "File \r"), true, 1, 1},
+      {"not text", QByteArray("\x00\xff\x81\x40\x0a\xff", 6), true, 1, 1},
+      {"header alone", head, true, 1, 1},
+      {"no flag", head + "Maybe\r\n 4 \r\n", true, 1, 1},
+      {"text for the illuminant", head + "False\r\nD65\r\n", false, 1, 1},
+      {"count 101", conditions + " 101 \r\n" + QByteArray("1,2,3\r\n").repeated(101), false, 4, 1},
+      {"count -1", conditions + "-1 \r\n", false, 4, 1},
+      {"count beyond 16 bits", conditions + " 65537 \r\n1,2,3\r\n", false, 4, 1},
+      {"text for the count", conditions + "two\r\n", false, 4, 1},
+      {"cut before the points", conditions + " 3 \r\n", false, 4, 0},
+      {"cut in the third point", conditions + " 3 \r\n1,2,3\r\n4,5,6\r\n7,8", false, 4, 2},
+      {"text in the second point", conditions + " 3 \r\n1,2,3\r\n4,x,6\r\n7,8,9\r\n", false, 4, 1},
+      {"number beyond a double", conditions + " 1 \r\n1,1E999,3\r\n", false, 4, 0},
+  };
+  for (const Case& c : cases) {
+    Put(c.bytes);
+    ColourStock stock;
+    (void)stock.StockAdd(kColour, true);
+    EXPECT_FALSE(ReadStockFile(path_, stock)) << c.defect;
+    EXPECT_EQ(stock.StockMode, c.mode) << c.defect;
+    EXPECT_EQ(stock.StockIlluminant, c.illuminant) << c.defect;
+    EXPECT_EQ(stock.Count, c.count) << c.defect;
+    EXPECT_EQ(stock.P1[2], 0.0) << c.defect;
+  }
+  ColourStock stock;
+  EXPECT_FALSE(ReadStockFile(directory_.filePath(QStringLiteral("none.stc")), stock));
+  EXPECT_FALSE(WriteStockFile(QStringLiteral("/nowhere/file.stc"), stock));
+  EXPECT_EQ(StockReadErrorText(),
+            QStringLiteral("ﾃﾞｰﾀ･ﾌｧｲﾙの読み込みでエラーが発生しました。\r\r"
+                           "VEXA-KT 440-840 Ver3.21 Stock Fileﾌｧｲﾙではありません\r\r"
+                           "ﾌｧｲﾙを確認してください。"));
+}
+
+}  // namespace
+}  // namespace vexa

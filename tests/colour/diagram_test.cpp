@@ -1,0 +1,99 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include <gtest/gtest.h>
+
+#include <array>
+
+#include "colour/chromaticity_diagram.h"
+#include "colour/diagram_background.h"
+
+namespace vexa {
+namespace {
+
+// Expected values: the same loops in a separate Python program, its loop variables rounded to
+// single precision at every step.
+TEST(DiagramBackground, IsCompleteAndTheSameInAnySteps) {
+  DiagramBackground background;
+  std::size_t steps = 0;
+  while (background.Step(10)) {
+    ++steps;
+    ASSERT_EQ(background.Points().size(), steps * 10);
+    ASSERT_LT(steps, 5000U);
+  }
+  EXPECT_TRUE(background.IsComplete());
+  EXPECT_FALSE(background.Step(10));
+  const std::vector<BackgroundPoint>& points = background.Points();
+  ASSERT_EQ(points.size(), 39684U);
+  std::array<long, 3> sums{};
+  for (const BackgroundPoint& point : points) {
+    sums[0] += point.r;
+    sums[1] += point.g;
+    sums[2] += point.b;
+  }
+  EXPECT_EQ(sums, (std::array<long, 3>{7009408, 7715594, 5518662}));
+
+  struct Case {
+    std::size_t index;
+    float x;
+    float y;
+    std::array<int, 3> rgb;
+  };
+  const Case cases[] = {
+      {0, 0.14F, 0.08F, {0, 0, 255}},
+      {5000, 0.208F, 0.508076F, {21, 255, 97}},
+      {12345, 0.26F, 0.470605F, {85, 255, 102}},
+      {20000, 0.322F, 0.48985F, {145, 255, 63}},
+      {30000, 0.426F, 0.444906F, {255, 248, 47}},
+      {39683, 0.67F, 0.33F, {255, 0, 0}},
+  };
+  for (const Case& c : cases) {
+    const BackgroundPoint& point = points[c.index];
+    EXPECT_NEAR(point.x, c.x, 2e-6) << c.index;
+    EXPECT_NEAR(point.y, c.y, 2e-6) << c.index;
+    EXPECT_EQ((std::array<int, 3>{point.r, point.g, point.b}), c.rgb) << c.index;
+  }
+}
+
+TEST(DiagramBackground, RedAndGreenRoundOtherwiseThanBlue) {
+  struct Case {
+    double value;
+    int redGreen;
+    int blue;
+  };
+  const Case cases[] = {
+      {1.0, 1, 2},       {2.0, 2, 2},      {1.2, 1, 2},   {1.5, 2, 2},
+      {1.6, 2, 2},       {-0.4, 0, 0},     {-3.0, 0, 0},  {254.4, 254, 255},
+      {255.7, 255, 255}, {1e30, 255, 255}, {-1e30, 0, 0},
+  };
+  for (const Case& c : cases) {
+    EXPECT_EQ(RedGreenComponent(c.value), c.redGreen) << c.value;
+    EXPECT_EQ(BlueComponent(c.value), c.blue) << c.value;
+  }
+}
+
+// Chromaticities of the spectrum as published in CIE 15:2004, Tables T.4 and T.5 (five decimals).
+// Those of 10 degrees were taken from functions of more digits than the six of the tables; at the
+// ends, where the functions are small, that moves them by up to 0.0004.
+TEST(SpectralLocus, PublishedChromaticities) {
+  struct Case {
+    std::size_t index;
+    int nm;
+    bool twoDegrees;
+    double x;
+    double y;
+  };
+  const Case cases[] = {
+      {0, 380, true, 0.17411, 0.00496},   {28, 520, true, 0.07430, 0.83380},
+      {64, 700, true, 0.73469, 0.26531},  {0, 380, false, 0.18133, 0.01969},
+      {64, 700, false, 0.72023, 0.27977},
+  };
+  for (const Case& c : cases) {
+    const std::vector<LocusPoint> locus = SpectralLocus(c.twoDegrees);
+    ASSERT_EQ(locus.size(), 65U);
+    EXPECT_EQ(locus[c.index].nm, c.nm);
+    EXPECT_NEAR(locus[c.index].at.x, c.x, c.twoDegrees ? 5e-5 : 5e-4) << c.nm;
+    EXPECT_NEAR(locus[c.index].at.y, c.y, c.twoDegrees ? 5e-5 : 5e-4) << c.nm;
+  }
+}
+
+}  // namespace
+}  // namespace vexa

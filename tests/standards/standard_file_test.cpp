@@ -1,0 +1,163 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "standards/standard_file.h"
+
+#include <gtest/gtest.h>
+
+#include <QFile>
+#include <QStringList>
+#include <QTemporaryDir>
+
+namespace vexa {
+namespace {
+
+class Messages : public MessageService {
+ public:
+  MessageResult MsgCall(const QString& text, std::int16_t, const QString& title) override {
+    shown << title + u'|' + text;
+    return MessageResult::kOk;
+  }
+  void Beep() override {}
+
+  QStringList shown;
+};
+
+class StandardFile : public testing::Test {
+ protected:
+  void Put(const QByteArray& bytes) const {
+    QFile file(path_);
+    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+    ASSERT_EQ(file.write(bytes), bytes.size());
+  }
+  [[nodiscard]] QByteArray Content() const {
+    QFile file(path_);
+    EXPECT_TRUE(file.open(QIODevice::ReadOnly));
+    return file.readAll();
+  }
+  bool Read() { return ReadStandardFile(path_, standard_, chroma_, hue_, messages_); }
+
+  QTemporaryDir directory_{QDir::tempPath() + QStringLiteral("/規 格-XXXXXX")};
+  QString path_ = directory_.filePath(QStringLiteral("レンズ 1.std"));
+  Messages messages_;
+  StandardSet standard_;
+  ReferenceMarker chroma_;
+  ReferenceMarker hue_;
+};
+
+const QByteArray kGolden =
+    "VEXA-KT 440-840 Ver 3.21 Standard File\r\n"
+    "#TRUE#\r\n"
+    "#TRUE#\r\n 450 \r\n 1.5 \r\n 0 \r\n"
+    "#TRUE#\r\n 700 \r\n 2.25 \r\n 0.1 \r\n"
+    "#FALSE#\r\n 440 \r\n 100 \r\n 0 \r\n"
+    "#FALSE#\r\n 440 \r\n 100 \r\n 0 \r\n"
+    "#FALSE#\r\n 440 \r\n 100 \r\n 0 \r\n"
+    "#FALSE#\r\n 440 \r\n 100 \r\n 0 \r\n"
+    "#FALSE#\r\n 440 \r\n 100 \r\n 0 \r\n"
+    "#FALSE#\r\n 440 \r\n 100 \r\n 0 \r\n"
+    "#FALSE#\r\n 440 \r\n 100 \r\n 0 \r\n"
+    "#TRUE#\r\n-7 \r\n-0.5 \r\n 7.6E-05 \r\n"
+    "#TRUE#\r\n 0.75 \r\n 0.25 \r\n"
+    "#FALSE#\r\n 0.8 \r\n 0.2 \r\n"
+    "#TRUE#\r\n0\r\n 560 \r\n 540.5 \r\n"
+    "#TRUE#\r\n 5 \r\n 1 \r\n"
+    "#TRUE#\r\n 10 \r\n 350 \r\n"
+    "#TRUE#\r\n 3.5 \r\n"
+    "#FALSE#\r\n 275 \r\n";
+
+TEST_F(StandardFile, IsWrittenAndReadByteForByte) {
+  StandardSet standard;
+  standard.useReflectance = true;
+  standard.wavelengths = {450, 700, 440, 440, 440, 440, 440, 440, 440, -7};
+  standard.conditions[0] = {true, 1.5, 0.0};
+  standard.conditions[1] = {true, 2.25, 0.1};
+  standard.conditions[9] = {true, -0.5, 7.6e-5};
+  standard.averageReflectance = {true, 0.75, 0.25};
+  standard.luminousReflectance = {false, 0.8, 0.2};
+  standard.wavelengthValue = {{true, 560.0, 540.5}, 0};
+  standard.chroma = {true, 5.0, 1.0};
+  standard.hueAngle = {true, 10.0, 350.0};
+  const ReferenceMarker chroma{true, 3.5};
+  const ReferenceMarker hue{false, 275.0};
+  ASSERT_TRUE(WriteStandardFile(path_, standard, chroma, hue));
+  EXPECT_EQ(Content(), kGolden);
+  EXPECT_EQ(kGolden.count('\n'), 62);
+
+  ASSERT_TRUE(Read());
+  EXPECT_EQ(standard_, standard);
+  EXPECT_EQ(chroma_, chroma);
+  EXPECT_EQ(hue_, hue);
+  EXPECT_FALSE(WriteStandardFile(QStringLiteral("/nowhere/file.std"), standard, chroma, hue));
+  EXPECT_TRUE(messages_.shown.isEmpty());
+}
+
+TEST_F(StandardFile, OldVersionsAndOtherKindsAreRefusedWithAMessage) {
+  struct Case {
+    const char* header;
+    bool read;
+  };
+  const Case cases[] = {
+      {"VEXA-KT 440-840 Ver 3.00 Standard File", true},
+      {"VEXA-KT 440-840 Ver 3.00 Standard File,,", true},
+      {"VEXA for Windows Ver 3.21 Standard File", true},
+      {"VEXA-KT 440-840 Ver 2.99 Standard File", false},
+      {"VEXA-KT 440-840 Ver 1.10 Standard File", false},
+      {"VEXA-KT 440-840 Ver 3.21 Data File", false},
+      {"", false},
+  };
+  for (const Case& c : cases) {
+    Put(QByteArray(kGolden).replace("VEXA-KT 440-840 Ver 3.21 Standard File", c.header));
+    standard_ = {};
+    messages_.shown.clear();
+    EXPECT_EQ(Read(), c.read) << c.header;
+    EXPECT_EQ(standard_ == StandardSet{}, !c.read) << c.header;
+    EXPECT_EQ(messages_.shown,
+              c.read ? QStringList()
+                     : QStringList(QStringLiteral("VEXA-KT|規格ﾌｧｲﾙ名:") + path_ +
+                                   QStringLiteral("\r\rVer1.10以前の規格ﾌｧｲﾙは読み込めません。")))
+        << c.header;
+  }
+}
+
+TEST_F(StandardFile, AnyCutEndsTheReadingAndKeepsWhatWasRead) {
+  const QList<QByteArray> lines = kGolden.chopped(2).split('\n');
+  for (qsizetype count = 1; count < lines.size(); ++count) {
+    Put(lines.first(count).join('\n'));
+    standard_ = {};
+    EXPECT_FALSE(Read()) << count;
+    EXPECT_EQ(standard_.useReflectance, count > 1) << count;
+    EXPECT_EQ(standard_.conditions[1].upper, count > 8 ? 2.25 : 100.0) << count;
+    EXPECT_EQ(standard_.hueAngle.lower, count > 57 ? 350.0 : 0.0) << count;
+  }
+}
+
+TEST_F(StandardFile, AValueOfAnotherKindEndsTheReading) {
+  struct Case {
+    const char* defect;
+    const char* from;
+    const char* to;
+    double firstUpper;  // afterwards; 100 before
+  };
+  const Case cases[] = {
+      {"text for a flag", "#TRUE#\r\n 450", "yes\r\n 450", 100.0},
+      {"text for a wavelength", " 450 ", "blue", 100.0},
+      {"wavelength beyond 16 bits", " 450 ", "65986", 100.0},
+      {"text for a limit", " 2.25 ", "2.25 %", 1.5},
+      {"limit beyond a double", " 2.25 ", "1E999", 1.5},
+      {"an empty line", " 2.25 ", "", 1.5},
+      {"text for the selector", "\r\n0\r\n", "\r\npeak\r\n", 1.5},
+      {"a flag for the last number", " 275 ", "#TRUE#", 1.5},
+  };
+  for (const Case& c : cases) {
+    Put(QByteArray(kGolden).replace(c.from, c.to));
+    standard_ = {};
+    EXPECT_FALSE(Read()) << c.defect;
+    EXPECT_EQ(standard_.conditions[0].upper, c.firstUpper) << c.defect;
+  }
+  Put("\xff\xfe\x00\x81");
+  EXPECT_FALSE(Read());
+  QFile::remove(path_);
+  EXPECT_FALSE(Read());
+}
+
+}  // namespace
+}  // namespace vexa
