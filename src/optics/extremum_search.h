@@ -12,7 +12,9 @@ enum class ExtremaWanted { kMaxima, kMinima, kBoth };
 /// The whole nanometre nearest to a wavelength, half to even, limited to 440..840.
 [[nodiscard]] int NearestNm(double wavelengthNm);
 
-/// The centred moving average over 11 points; near the ends over the points there are.
+/// The centred moving average over 11 points; near the ends over the points there are. Such a cut
+/// window can turn an extremum nearer than 7 nm to an end into two, with one of the other sort
+/// between.
 [[nodiscard]] ReflectanceSpectrum Smoothed(const ReflectanceSpectrum& spectrum);
 
 /// Walks over the slopes of `smoothed` and records the wanted extrema with their value in
