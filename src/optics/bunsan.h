@@ -1,0 +1,45 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <QString>
+
+#include "base/flag.h"
+#include "base/message.h"
+#include "base/spectrum.h"
+#include "base/status.h"
+#include "optics/dispersion_setting.h"
+
+namespace vexa {
+
+/// Results of GetBunsanArray besides 0.
+inline constexpr Status kDispersionFault = 1;     ///< a formula or a conversion has no result
+inline constexpr Status kIndexFileFault = 2;      ///< the index file could not be read
+inline constexpr Status kSubstrateFileFault = 3;  ///< the substrate's data file could not be read
+
+/// The spectrum of a setting at 440..840 nm: an index, or with `asReflectance` the reflectance in
+/// percent of a bare surface of the material at normal incidence. Only the formulas heed
+/// `asReflectance`: a fixed value and an index file give their numbers as they stand, a substrate
+/// always gives its index.
+///
+/// With any status but 0 `result` is as it was. An unknown kind is shown as a message and gives
+/// zeros with status 0; the only other message is the one of ReadSubstrateFile.
+///
+/// The two formulas are those of the glass makers' catalogues, with w in micrometres:
+/// Schott n^2 = A0 + A1 w^2 + A2 w^-2 + A3 w^-4 + A4 w^-6 + A5 w^-8,
+/// Sellmeier (1871) n^2 = 1 + the sum of Ai w^2 / (w^2 - Bi).
+/// Example: N-BK7 at 588 nm has the index 1.51678.
+[[nodiscard]] Status GetBunsanArray(Flag asReflectance, const DispersionSetting& setting,
+                                    ReflectanceSpectrum& result, MessageService& messages);
+
+/// What to tell the user about a status of GetBunsanArray; empty for success.
+[[nodiscard]] QString DispersionStatusText(Status status);
+
+/// Fresnel's reflectance of a bare surface at normal incidence: ((1 - n) / (1 + n))^2 in percent.
+/// Throws ArithmeticFault where that has no finite value (n = -1). Example: 1.5 gives 4.
+[[nodiscard]] double IndexToReflectance(double index);
+
+/// The index above 1 of a bare surface with a reflectance of 0..100 percent. Throws ArithmeticFault
+/// for 100 and for a negative one. Example: 4 gives 1.5.
+[[nodiscard]] double ReflectanceToIndex(double percent);
+
+}  // namespace vexa

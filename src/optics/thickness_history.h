@@ -1,0 +1,57 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <QString>
+#include <array>
+#include <cstdint>
+#include <optional>
+#include <span>
+
+#include "base/flag.h"
+
+namespace vexa {
+
+/// The thicknesses of successive measurements, oldest first.
+struct ThicknessHistory {
+  static constexpr std::int16_t kCapacity = 50;
+
+  std::int16_t count = 0;  ///< 0..50
+  Flag physical = true;    ///< the values are physical thicknesses, otherwise optical ones
+  std::array<double, kCapacity> values{};  ///< nm; points 1..count
+
+  [[nodiscard]] std::span<const double> Points() const {
+    return std::span(values).first(static_cast<std::size_t>(count));
+  }
+
+  /// Appends a point; false, and all as it was, when the history is full.
+  [[nodiscard]] bool Append(double thicknessNm);
+
+  /// Removes point 1..count, later points move down by one; false when there is no such point.
+  [[nodiscard]] bool Delete(int point);
+
+  void Clear();
+};
+
+/// Limits of the scale of the history graph, nm.
+struct ThicknessScale {
+  static constexpr double kLowestNm = 0.0;
+  static constexpr double kHighestNm = 20000.0;
+  static constexpr double kSmallestWidthNm = 100.0;
+
+  double minimumNm = kLowestNm;
+  double maximumNm = kSmallestWidthNm;
+
+  bool operator==(const ThicknessScale&) const = default;
+};
+
+/// The automatic scale around the points: both limits are multiples of a step of 20, 50, 100, ...
+/// 5000 nm, the smallest of which five span the points (and at least 100 nm). Limits that are
+/// nearer together than 100 nm move apart by a step on each side, within 0..20000. No points give
+/// 0..100. Nothing when a point lies outside 0..20000.
+/// Example: points at 1510 and 1630 nm give 1500..1650.
+[[nodiscard]] std::optional<ThicknessScale> AutoScale(std::span<const double> pointsNm);
+
+/// Writes a *.thk file in the place of the file; false, and the file as it was, when that fails.
+[[nodiscard]] bool WriteThicknessFile(const QString& path, const ThicknessHistory& history);
+
+}  // namespace vexa

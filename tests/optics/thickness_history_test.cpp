@@ -1,0 +1,80 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "optics/thickness_history.h"
+
+#include <gtest/gtest.h>
+
+#include <QDir>
+#include <QFile>
+#include <QTemporaryDir>
+#include <limits>
+#include <vector>
+
+namespace vexa {
+namespace {
+
+TEST(ThicknessHistory, HoldsFiftyPoints) {
+  ThicknessHistory history;
+  for (int i = 1; i <= 50; ++i) {
+    EXPECT_TRUE(history.Append(i));
+  }
+  EXPECT_FALSE(history.Append(51));
+  EXPECT_EQ(history.Points().back(), 50);
+  EXPECT_FALSE(history.Delete(0));
+  EXPECT_FALSE(history.Delete(51));
+  EXPECT_TRUE(history.Delete(50));
+  EXPECT_TRUE(history.Delete(2));
+  EXPECT_TRUE(history.Delete(1));
+  EXPECT_TRUE(history.Append(52));
+  EXPECT_EQ(history.count, 48);
+  EXPECT_EQ(history.Points()[0], 3);
+  EXPECT_EQ(history.Points()[46], 49);
+  EXPECT_EQ(history.Points()[47], 52);
+  history.Clear();
+  EXPECT_FALSE(history.Delete(1));
+}
+
+TEST(ThicknessHistory, AutoScaleHoldsEveryPoint) {
+  struct Case {
+    std::vector<double> points;
+    std::optional<ThicknessScale> scale;
+  };
+  constexpr double kNan = std::numeric_limits<double>::quiet_NaN();
+  const Case cases[] = {
+      {{}, ThicknessScale{0, 100}},
+      {{0}, ThicknessScale{0, 100}},
+      {{1500}, ThicknessScale{1440, 1560}},
+      {{1630, 1510, 1600}, ThicknessScale{1500, 1650}},
+      {{20000}, ThicknessScale{19900, 20000}},
+      {{0, 20000}, ThicknessScale{0, 20000}},
+      {{-0.1, 500}, {}},
+      {{500, 20000.1}, {}},
+      {{kNan}, {}},
+  };
+  for (const Case& c : cases) {
+    EXPECT_EQ(AutoScale(c.points), c.scale) << testing::PrintToString(c.points);
+  }
+}
+
+TEST(ThicknessHistory, FileHasItsExactForm) {
+  const QTemporaryDir directory(QDir::tempPath() + QStringLiteral("/膜 厚-XXXXXX"));
+  const QString path = directory.filePath(QStringLiteral("履歴 1.thk"));
+  const auto written = [&](const ThicknessHistory& history) {
+    EXPECT_TRUE(WriteThicknessFile(path, history));
+    QFile file(path);
+    EXPECT_TRUE(file.open(QIODevice::ReadOnly));
+    return file.readAll();
+  };
+  ThicknessHistory history;
+  const QByteArray header = "VEXA-KT 440-840 Ver 3.21 Thickness File\r\n";
+  EXPECT_EQ(written(history), header + " 0\r\n[nm]\r\n");
+  for (const double value : {1500.0, 2013.4567890123456, -12.5, 0.25}) {
+    EXPECT_TRUE(history.Append(value));
+  }
+  history.physical = false;
+  EXPECT_EQ(written(history),
+            header + " 4\r\n[nd]\r\n 1500\r\n 2013.45678901235\r\n-12.5\r\n 0.25\r\n");
+  EXPECT_FALSE(WriteThicknessFile(QStringLiteral("/nowhere/a.thk"), history));
+}
+
+}  // namespace
+}  // namespace vexa
