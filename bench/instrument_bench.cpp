@@ -13,7 +13,7 @@ void MapFifteenLines(benchmark::State& state) {
     }
     lines[n].complete = true;
   }
-  for (auto each : state) {
+  while (state.KeepRunning()) {
     benchmark::DoNotOptimize(
         vexa::LinesToWaves(lines, vexa::kDefaultLinePositions, vexa::kDetectorStartNm));
   }

@@ -36,7 +36,7 @@ void RedrawTenSlots(benchmark::State& state) {
   FillSlots(data);
   const auto graph = MakeGraph();
   graph->Show(data, 1);
-  for (auto each : state) {
+  while (state.KeepRunning()) {
     graph->replot(QCustomPlot::rpImmediateRefresh);
   }
 }
@@ -50,7 +50,7 @@ void LastByteToRedrawnGraph(benchmark::State& state) {
   const auto graph = MakeGraph();
   const std::vector<std::uint8_t> body(4 + 15 * vexa::kBytesPerLine, 0x05);
   std::ranges::fill(data.reference.Values(), 900.0);
-  for (auto each : state) {
+  while (state.KeepRunning()) {
     vexa::LineBuffers lines;
     if (!vexa::FillLines(body, lines)) {
       state.SkipWithError("lines");

@@ -8,6 +8,8 @@
 #include <cstdio>
 
 #include "app/vexa.h"
+#include "files/environment_file.h"
+#include "files/startup_file.h"
 
 namespace vexa {
 namespace {
@@ -21,7 +23,8 @@ void Report(const QString& line) {
 
 }  // namespace
 
-Demonstration::Demonstration(QString directory) : directory_(QDir(directory).absolutePath()) {
+Demonstration::Demonstration(const QString& directory)
+    : directory_(QDir(directory).absolutePath()) {
   dialogs_.dataFile = QDir(directory_).filePath(QStringLiteral("measurement.csv"));
 }
 
@@ -33,8 +36,13 @@ Demonstration::~Demonstration() {
 }
 
 bool Demonstration::StartInstrument() {
-  if (!QDir().mkpath(directory_)) {
-    Report(QStringLiteral("%1: cannot be made").arg(directory_));
+  VEXATYPE state;
+  state.programDirectory = directory_;
+  // The reference on its stage reflects 4 % at every wavelength.
+  state.referenceSetting.kind = DispersionKind::kFixedValue;
+  if (!QDir().mkpath(directory_) || !WriteStartupFile(state) ||
+      !WriteEnvFile(CompletePath(state, state.envFileName), state)) {
+    Report(QStringLiteral("%1: cannot be prepared").arg(directory_));
     return false;
   }
   instrument_.setProcessChannelMode(QProcess::ForwardedErrorChannel);

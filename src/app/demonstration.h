@@ -18,10 +18,10 @@ class VEXA;
 class Demonstration {
  public:
   /// `directory` becomes the program directory of the run.
-  explicit Demonstration(QString directory);
+  explicit Demonstration(const QString& directory);
   ~Demonstration();
 
-  /// Starts the virtual instrument; false, with a line on standard error, when it does not come up.
+  /// Puts settings for the virtual instrument into the directory and starts it; false, with a line on standard error, when it does not come up.
   [[nodiscard]] bool StartInstrument();
 
   /// Presses the buttons of a loaded window; the exit status of the program.

@@ -3,9 +3,9 @@
 
 #include <QButtonGroup>
 #include <QGridLayout>
-#include <QLocale>
 #include <QVBoxLayout>
 
+#include "base/date_text.h"
 #include "views/common/slot_style.h"
 #include "views/common/theme.h"
 
@@ -172,15 +172,6 @@ void MeasurementBar::SetAvailable(bool controller, bool idle) {
 
 void MeasurementBar::ShowLightPathClosed(bool closed) {
   lightWarning_->setVisible(closed);
-}
-
-QString DateTimeText(const QDateTime& time) {
-  if (!time.isValid()) {
-    return QStringLiteral("0:00:00");
-  }
-  const bool midnight = time.time() == QTime(0, 0);
-  return QLocale::c().toString(
-      time, midnight ? QStringLiteral("yyyy/M/d") : QStringLiteral("yyyy/M/d H:mm:ss"));
 }
 
 }  // namespace vexa

@@ -60,7 +60,4 @@ class MeasurementBar : public QWidget {
   QLabel* lightWarning_;
 };
 
-/// "yyyy/M/d H:mm:ss", midnight as the date alone, and "0:00:00" for no time.
-[[nodiscard]] QString DateTimeText(const QDateTime& time);
-
 }  // namespace vexa

@@ -2,7 +2,6 @@
 #include "app/vexa.h"
 
 #include <QCloseEvent>
-#include <QDir>
 #include <QFrame>
 #include <QHBoxLayout>
 #include <QVBoxLayout>
@@ -12,7 +11,11 @@
 #include "app/progress_strip.h"
 #include "app/status_panels.h"
 #include "app/version_dialog.h"
+#include "files/configuration.h"
+#include "files/environment_file.h"
+#include "files/startup_file.h"
 #include "measurement/controller_start.h"
+#include "measurement/dispersion_data.h"
 #include "views/colour/colour_panel.h"
 #include "views/files/data_file_commands.h"
 #include "views/graph/reflectance_graph.h"
@@ -34,12 +37,15 @@ VEXA::~VEXA() = default;
 void VEXA::Load() {
   loading_ = true;
   setWindowTitle(QStringLiteral("MERIDOX ") + QStringLiteral("VEXA-KT-440 Ver3.21"));
-  state_.instrument.averagingCount = 1;
-  state_.instrument.serialController = state_.instrument.controllerPort != 0;
-  status_->ShowEnvironmentName(state_.envFileName);
+  LoadConfiguration(state_, services_.messages);
+  ShowEnvironmentName();
   StartController();
   if (unloaded_) {
     return;
+  }
+  LoadDispersionData(state_, services_.messages);
+  if (controllerReady_) {
+    (void)SendSamplingSettings(*controller_, state_.instrument, services_.messages);
   }
   loading_ = false;
   setWindowTitle(QStringLiteral("MERIDOX VEXA-KT"));
@@ -135,31 +141,41 @@ void VEXA::StartController() {
     ReportControllerFailure(services_.messages);
     return;
   }
-  if (unloaded_ || SendSamplingSettings(*controller_, state_.instrument, services_.messages) != 0) {
-    return;
-  }
-  controllerReady_ = true;
+  controllerReady_ = !unloaded_;
   sequence_.UseController(controller_.get());
 }
 
 bool VEXA::Unload() {
-  const QString envFileName = state_.envFileName.contains(u':') ||
-                                      state_.envFileName.contains(u'\\') ||
-                                      state_.envFileName.contains(u'/')
-                                  ? state_.envFileName
-                                  : QDir(state_.programDirectory).filePath(state_.envFileName);
-  state_.envFileName = envFileName;
+  state_.envFileName = CompletePath(state_, state_.envFileName);
   const MessageResult answer = services_.messages.MsgCall(
-      envFileName + QStringLiteral("\r\r現在の環境をｾｰﾌﾞしますか。"),
+      state_.envFileName + QStringLiteral("\r\r現在の環境をｾｰﾌﾞしますか。"),
       message_type::kYesNoCancel + message_type::kQuestionIcon, message_title::kMessage);
   if (answer == MessageResult::kCancel) {
     return false;
+  }
+  if (answer == MessageResult::kYes && !SaveEnvironment(state_.envFileName)) {
+    return false;
+  }
+  if (!WriteStartupFile(state_)) {
+    ShowWriteError(CompletePath(state_, QStringLiteral("vexa.int")), services_.messages);
   }
   unloaded_ = true;
   if (controller_ != nullptr) {
     controller_->Close();
   }
   return true;
+}
+
+bool VEXA::SaveEnvironment(const QString& path) {
+  const bool written = WriteEnvFile(path, state_);
+  if (!written) {
+    ShowWriteError(path, services_.messages);
+  }
+  return written;
+}
+
+void VEXA::ShowEnvironmentName() {
+  status_->ShowEnvironmentName(state_.envFileName);
 }
 
 void VEXA::Refresh() {

@@ -55,6 +55,8 @@ class VEXA : public QMainWindow {
   void ConnectSequence();
   void StartController();
   [[nodiscard]] bool Unload();
+  [[nodiscard]] bool SaveEnvironment(const QString& path);
+  void ShowEnvironmentName();
   void Refresh();
   void UpdateCommands();
 

@@ -14,7 +14,8 @@ class WavelengthArray {
  public:
   static constexpr int kFirstNm = First;
   static constexpr int kLastNm = Last;
-  static constexpr std::size_t kCount = static_cast<std::size_t>(Last) - static_cast<std::size_t>(First) + 1;
+  static constexpr std::size_t kCount =
+      static_cast<std::size_t>(Last) - static_cast<std::size_t>(First) + 1;
 
   [[nodiscard]] static constexpr bool Contains(int nm) { return nm >= First && nm <= Last; }
 

@@ -6,6 +6,7 @@
 #include <array>
 
 #include "cli/console.h"
+#include "cli/program_settings.h"
 
 namespace vexa::cli {
 namespace {
@@ -26,7 +27,12 @@ int RunCommand(const Command& command, const QStringList& arguments) {
   parser.setApplicationDescription(command.summary);
   parser.addOption(
       {{QStringLiteral("h"), QStringLiteral("help")}, QStringLiteral("Shows this help.")});
-  parser.addOption({QStringLiteral("json"), QStringLiteral("Prints one JSON document.")});
+  parser.addOption({option::kJson, QStringLiteral("Prints one JSON document.")});
+  parser.addOption({option::kDir,
+                    QStringLiteral("Program directory, with the settings files (default: the "
+                                   "current one)."),
+                    QStringLiteral("DIR")});
+  parser.addOption({option::kNo, QStringLiteral("Answers every question with no.")});
   command.declareOptions(parser);
   if (!parser.parse(QStringList{QStringLiteral("vexa-cli")} + arguments)) {
     Complain(command.name + QStringLiteral(": ") + parser.errorText());

@@ -54,7 +54,9 @@ MessageResult ConsoleMessages::MsgCall(const QString& text, std::int16_t type,
   switch (type & message_type::kButtonMask) {
     case message_type::kYesNoCancel:
     case message_type::kYesNo:
-      return MessageResult::kYes;
+      return refusing_ ? MessageResult::kNo : MessageResult::kYes;
+    case message_type::kOkCancel:
+      return refusing_ ? MessageResult::kCancel : MessageResult::kOk;
     default:
       return MessageResult::kOk;
   }

@@ -30,11 +30,16 @@ void Complain(const QString& text);
 [[nodiscard]] QString SpectrumText(int firstNm, std::span<const double> values);
 
 /// Puts every message on standard error as one line "TITLE: TEXT", line breaks as blanks, and
-/// answers a question with its first button.
+/// answers a question with its first button, or, `refusing`, with No or Cancel.
 class ConsoleMessages : public MessageService {
  public:
+  explicit ConsoleMessages(bool refusing) : refusing_(refusing) {}
+
   MessageResult MsgCall(const QString& text, std::int16_t type, const QString& title) override;
   void Beep() override {}
+
+ private:
+  bool refusing_;
 };
 
 }  // namespace vexa::cli

@@ -4,6 +4,7 @@
 #include "cli/command_line.h"
 #include "cli/console.h"
 #include "cli/line_file.h"
+#include "cli/program_settings.h"
 #include "instrument/wavelength_mapping.h"
 
 namespace vexa::cli {
@@ -60,7 +61,7 @@ int Decode(const QCommandLineParser& parser) {
   if (mapped.status == 1) {
     Complain(QStringLiteral("%1: saturated").arg(path));
   }
-  if (parser.isSet(QStringLiteral("json"))) {
+  if (parser.isSet(option::kJson)) {
     PrintJson({{QStringLiteral("status"), mapped.status},
                {QStringLiteral("start"), mapped.startNm},
                {QStringLiteral("values"), ToJson(mapped.values)}});

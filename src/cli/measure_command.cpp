@@ -1,10 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include <QDir>
 #include <QTextStream>
-#include <algorithm>
 
 #include "cli/command_line.h"
 #include "cli/console.h"
+#include "cli/program_settings.h"
 #include "files/data_file.h"
 #include "instrument/frm_com_h8_ctrl.h"
 #include "instrument/serial_port_path.h"
@@ -17,12 +16,10 @@ namespace {
 const QString kPort = QStringLiteral("port");
 const QString kDevice = QStringLiteral("device");
 const QString kOut = QStringLiteral("out");
-const QString kDir = QStringLiteral("dir");
 const QString kSamplingTime = QStringLiteral("sampling-time");
 const QString kAveraging = QStringLiteral("averaging");
 const QString kSamples = QStringLiteral("samples");
 const QString kPrompt = QStringLiteral("prompt");
-const QString kReferenceReflectance = QStringLiteral("reference-reflectance");
 const QString kShift = QStringLiteral("shift");
 const QString kReplyTimeout = QStringLiteral("reply-timeout");
 
@@ -33,13 +30,13 @@ void DeclareOptions(QCommandLineParser& parser) {
   add(kPort, "Serial port number of the controller (default of the settings: 5).", "N");
   add(kDevice, "Device of the controller, instead of a port number.", "PATH");
   add(kOut, "Data file for the measured slots.", "FILE");
-  add(kDir, "Program directory (default: the current one).", "DIR");
-  add(kSamplingTime, "Integration time of a line, 30 to 20000 ms (default 3000).", "MS");
+  add(kSamplingTime, "Integration time of a line, 30 to 20000 ms (default: from the environment).",
+      "MS");
   add(kAveraging, "Lines averaged for a frame, 1 to 16 (default 1).", "N");
   add(kSamples, "Samples to measure, 1 to 10 (default 1).", "N");
   parser.addOption({kPrompt, QStringLiteral("Waits for Enter before each measurement.")});
-  add(kReferenceReflectance, "Reflectance of the reference in percent (default 4).", "V");
-  add(kShift, "Calibration shift, 0 to 7 nm (default 4).", "K");
+  DeclareReferenceReflectance(parser);
+  add(kShift, "Calibration shift, 0 to 7 nm (default: from vexa.cal, else 4).", "K");
   add(kReplyTimeout, "Longest wait for a reply of the controller (default 40000 ms).", "MS");
 }
 
@@ -47,7 +44,6 @@ void DeclareOptions(QCommandLineParser& parser) {
 struct Plan {
   int port = 0;
   QString device;
-  QString directory;
   QString out;
   int samples = 1;
   int replyTimeoutMs = frmComH8Ctrl::kReplyTimeoutMs;
@@ -59,16 +55,12 @@ bool ReadSettings(const QCommandLineParser& parser, VEXATYPE& state) {
   const auto timeMs = IntegerOption(parser, kSamplingTime, instrument.samplingTimeMs, 30, 20000);
   const auto averaging = IntegerOption(parser, kAveraging, instrument.averagingCount, 1, 16);
   const auto shift = IntegerOption(parser, kShift, instrument.calibrationShiftNm, 0, 7);
-  const auto percent =
-      RealOption(parser, kReferenceReflectance,
-                 state.referenceReflectance[ReflectanceSpectrum::kFirstNm], 0.1, 110);
-  if (!timeMs || !averaging || !shift || !percent) {
+  if (!timeMs || !averaging || !shift) {
     return false;
   }
   instrument.samplingTimeMs = static_cast<std::int16_t>(*timeMs);
   instrument.averagingCount = static_cast<std::int16_t>(*averaging);
   instrument.calibrationShiftNm = static_cast<std::int16_t>(*shift);
-  std::ranges::fill(state.referenceReflectance.Values(), *percent);
   return true;
 }
 
@@ -88,8 +80,7 @@ std::optional<Plan> ReadPlan(const QCommandLineParser& parser, const VEXATYPE& s
     Complain(QStringLiteral("measure needs --port N or --device PATH"));
     return std::nullopt;
   }
-  const QString directory = parser.isSet(kDir) ? parser.value(kDir) : QDir::currentPath();
-  return Plan{*port,      parser.value(kDevice), directory, parser.value(kOut), *samples,
+  return Plan{*port,      parser.value(kDevice), parser.value(kOut), *samples,
               *timeoutMs, parser.isSet(kPrompt)};
 }
 
@@ -173,21 +164,24 @@ void PrintReport(const Report& report, bool json) {
 }
 
 int Measure(const QCommandLineParser& parser) {
-  VEXATYPE state;
+  ConsoleMessages messages(parser.isSet(option::kNo));
+  VEXATYPE state = LoadSettings(parser, messages);
   if (!ReadSettings(parser, state)) {
     return kUsageError;
+  }
+  if (const ExitStatus taken = TakeReferenceReflectance(parser, state); taken != kDone) {
+    return taken;
   }
   const std::optional<Plan> plan = ReadPlan(parser, state);
   if (!plan) {
     return kUsageError;
   }
-  state.programDirectory = plan->directory;
   state.instrument.controllerPort = static_cast<std::int16_t>(plan->port);
 
-  ConsoleMessages messages;
   frmComH8Ctrl controller(
-      [&plan](int number) {
-        return plan->device.isEmpty() ? SerialPortPath(plan->directory, number) : plan->device;
+      [&plan, &state](int number) {
+        return plan->device.isEmpty() ? SerialPortPath(state.programDirectory, number)
+                                      : plan->device;
       },
       plan->replyTimeoutMs);
   MeasurementSequence sequence(state, messages, [] { return QDateTime::currentDateTime(); });
@@ -207,7 +201,7 @@ int Measure(const QCommandLineParser& parser) {
       Complain(QStringLiteral("%1: cannot be written").arg(plan->out));
     }
   }
-  PrintReport(report, parser.isSet(QStringLiteral("json")));
+  PrintReport(report, parser.isSet(option::kJson));
   return report.complete && saved ? kDone : kFailed;
 }
 

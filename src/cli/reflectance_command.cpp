@@ -4,15 +4,14 @@
 #include "cli/command_line.h"
 #include "cli/console.h"
 #include "cli/line_file.h"
+#include "cli/program_settings.h"
 #include "instrument/wavelength_mapping.h"
 #include "measurement/reflectance.h"
-#include "measurement/vexatype.h"
 
 namespace vexa::cli {
 namespace {
 
 const QString kShift = QStringLiteral("shift");
-const QString kReferenceReflectance = QStringLiteral("reference-reflectance");
 
 struct FrameOption {
   QString name;
@@ -26,21 +25,21 @@ void DeclareOptions(QCommandLineParser& parser) {
                       QStringLiteral("LINES.bin")});
   }
   parser.addOption(
-      {kShift, QStringLiteral("Calibration shift, 0 to 7 nm (default 4)."), QStringLiteral("K")});
-  parser.addOption({kReferenceReflectance,
-                    QStringLiteral("Reflectance of the reference in percent (default 4)."),
-                    QStringLiteral("V")});
+      {kShift, QStringLiteral("Calibration shift, 0 to 7 nm (default: from vexa.cal, else 4)."),
+       QStringLiteral("K")});
+  DeclareReferenceReflectance(parser);
 }
 
 int Reflectance(const QCommandLineParser& parser) {
-  const VEXATYPE defaults;
+  ConsoleMessages messages(parser.isSet(option::kNo));
+  VEXATYPE state = LoadSettings(parser, messages);
   const std::optional<int> shift =
-      IntegerOption(parser, kShift, defaults.instrument.calibrationShiftNm, 0, 7);
-  const std::optional<double> percent =
-      RealOption(parser, kReferenceReflectance,
-                 defaults.referenceReflectance[ReflectanceSpectrum::kFirstNm], 0.1, 110);
-  if (!shift || !percent) {
+      IntegerOption(parser, kShift, state.instrument.calibrationShiftNm, 0, 7);
+  if (!shift) {
     return kUsageError;
+  }
+  if (const ExitStatus taken = TakeReferenceReflectance(parser, state); taken != kDone) {
+    return taken;
   }
   std::array<FrameOption, 3> frames{{{QStringLiteral("background"), {}},
                                      {QStringLiteral("reference"), {}},
@@ -65,11 +64,10 @@ int Reflectance(const QCommandLineParser& parser) {
       status = mapped.status;
     }
   }
-  ReflectanceSpectrum referenceReflectance;
-  std::ranges::fill(referenceReflectance.Values(), *percent);
-  const ReflectanceSpectrum reflectance = ComputeReflectance(
-      frames[2].spectrum, frames[0].spectrum, frames[1].spectrum, *shift, referenceReflectance);
-  if (parser.isSet(QStringLiteral("json"))) {
+  const ReflectanceSpectrum reflectance =
+      ComputeReflectance(frames[2].spectrum, frames[0].spectrum, frames[1].spectrum, *shift,
+                         state.referenceReflectance);
+  if (parser.isSet(option::kJson)) {
     PrintJson({{QStringLiteral("status"), status},
                {QStringLiteral("first"), ReflectanceSpectrum::kFirstNm},
                {QStringLiteral("values"), ToJson(reflectance.Values())}});

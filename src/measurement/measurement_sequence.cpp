@@ -4,6 +4,7 @@
 #include <exception>
 #include <utility>
 
+#include "measurement/evaluation.h"
 #include "measurement/reflectance.h"
 
 namespace vexa {
@@ -119,7 +120,11 @@ void MeasurementSequence::StoreSample(int slotNumber) {
       ComputeReflectance(state_.sample, state_.background, state_.reference,
                          state_.instrument.calibrationShiftNm, state_.referenceReflectance);
   slot.info.measuredAt = clock_();
-  slot.thickness = 0.0;
+  EvaluateSlot(state_, slot, messages_);
+  slot.thickness = {};
+  if (state_.autoThickness && state_.thickness.enabled) {
+    ComputeSlotThickness(state_, slot, messages_);
+  }
   slot.valid = true;
   emit SampleStored(slotNumber);
 }

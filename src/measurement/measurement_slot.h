@@ -6,6 +6,9 @@
 
 #include "base/flag.h"
 #include "base/spectrum.h"
+#include "colour/colorimetry.h"
+#include "optics/thickness.h"
+#include "standards/judgement.h"
 
 namespace vexa {
 
@@ -21,8 +24,10 @@ struct SampleInfo {
 struct MeasurementSlot {
   ReflectanceSpectrum reflectance;  ///< percent, never negative
   SampleInfo info;
-  double thickness = 0.0;  ///< nm; 0 when none was computed
-  Flag valid;              ///< the slot holds a spectrum, measured or loaded
+  ColourResult colour;
+  Judgement judgement;
+  ThicknessResult thickness;  ///< zero when none was computed
+  Flag valid;                 ///< the slot holds a spectrum, measured or loaded
 };
 
 }  // namespace vexa

@@ -1,22 +1,16 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "measurement/vexatype.h"
 
+#include <QDir>
 #include <algorithm>
 
 namespace vexa {
-namespace {
 
-constexpr double kDefaultReferencePercent = 4.0;
-
-}  // namespace
-
-VEXATYPE::VEXATYPE() : envFileName(QStringLiteral("vexa.env")) {
-  std::ranges::fill(referenceReflectance.Values(), kDefaultReferencePercent);
-}
+VEXATYPE::VEXATYPE() : envFileName(QStringLiteral("vexa.env")) {}
 
 MeasurementSlot* VEXATYPE::Slot(int number) {
   return number >= 1 && number <= kSlotCount
-             ? &measurementSlots[static_cast<std::size_t>(number - 1)]
+             ? &measurementSlots[static_cast<std::size_t>(number) - 1]
              : nullptr;
 }
 
@@ -31,6 +25,15 @@ bool VEXATYPE::HasValidSlot() const {
 
 void VEXATYPE::ClearSlots() {
   measurementSlots.fill({});
+}
+
+StockConditions VEXATYPE::ColourConditions() const {
+  return {display.xyMode, colour.illuminant, colour.observer2Deg};
+}
+
+QString CompletePath(const VEXATYPE& state, const QString& name) {
+  const bool complete = name.contains(u':') || name.contains(u'\\') || name.contains(u'/');
+  return complete ? name : QDir(state.programDirectory).filePath(name);
 }
 
 }  // namespace vexa

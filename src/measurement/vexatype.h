@@ -3,25 +3,16 @@
 
 #include <QString>
 #include <array>
-#include <cstdint>
 
-#include "instrument/wavelength_mapping.h"
+#include "colour/colour_stock.h"
 #include "measurement/measurement_slot.h"
+#include "measurement/settings.h"
+#include "optics/thickness_history.h"
+#include "standards/standard_set.h"
 
 namespace vexa {
 
 inline constexpr int kSlotCount = 10;
-
-/// Settings of the instrument; the initial values are the built-in defaults.
-struct InstrumentSettings {
-  std::int16_t controllerPort = 5;  ///< serial port number; 0 is the GP-IB controller box
-  Flag serialController = true;     ///< the serial controller is in use
-  LinePositions linePositions = kDefaultLinePositions;
-  std::int16_t samplingTimeMs = 3000;  ///< integration time of a line, 30..20000
-  std::int16_t averagingCount = 1;     ///< lines averaged for a frame, 1..16
-  std::int16_t settlingTimeMs = 380;
-  std::int16_t calibrationShiftNm = 4;  ///< 0..7
-};
 
 /// The one measurement state that the whole program shares. The window, a command or a test owns
 /// it and hands it on by reference; only the measurement sequence, the start-up, the file readers
@@ -38,19 +29,45 @@ struct VEXATYPE {
   /// Empties all ten slots and their sample information.
   void ClearSlots();
 
+  /// The display conditions of colour points taken now.
+  [[nodiscard]] StockConditions ColourConditions() const;
+
   RawSpectrum background;
   RawSpectrum reference;
   RawSpectrum sample;
   Flag backgroundMeasured;
   Flag referenceMeasured;
+  std::array<MeasurementSlot, kSlotCount> measurementSlots;
+
+  InstrumentSettings instrument;
+  DisplaySettings display;
+  ColourSettings colour;
+  DispersionSetting referenceSetting = DefaultReferenceSetting();
+  ThicknessSettings thickness;
 
   ReflectanceSpectrum referenceReflectance;  ///< of the reference sample, percent
-  InstrumentSettings instrument;
-  std::array<MeasurementSlot, kSlotCount> measurementSlots;
+  ReflectanceSpectrum filmIndex;
+  ReflectanceSpectrum substrateIndex;
+
+  StandardSet standard;
+  ReferenceMarker chromaMarker;
+  ReferenceMarker hueMarker;
+  Flag standardsChanged;  ///< since they were saved or read
+
+  ColourStock stock;
+  Flag accumulate;  ///< evaluated colours are added to the stock
+  ThicknessHistory thicknessHistory;
+  ExtremumList extrema;  ///< of the thickness computed last
+  Flag autoThickness;    ///< compute the thickness after each measurement
 
   QString programDirectory;
   QString envFileName;
+  QString standardFileName;     ///< full path of the standard file in use
   QString currentDataFileName;  ///< full path of the data file opened or saved last
+  QString dataFileComment;      ///< second line of the block file read last
 };
+
+/// The name as a full path: as it is when it holds ":", "\" or "/", else in the program directory.
+[[nodiscard]] QString CompletePath(const VEXATYPE& state, const QString& name);
 
 }  // namespace vexa

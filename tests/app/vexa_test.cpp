@@ -56,7 +56,10 @@ class MainWindow : public testing::Test {
     ASSERT_EQ(messages.Take(), std::vector<ShownMessage>{});
   }
 
-  double Reflectance(int slot) { return window.State().Slot(slot)->reflectance[550]; }
+  // As a part of the reflectance of the reference.
+  double Reflectance(int slot) {
+    return window.State().Slot(slot)->reflectance[550] / window.State().referenceReflectance[550];
+  }
 
   QString TimeText() { return window.findChild<QLabel*>(QStringLiteral("Time"))->text(); }
 
@@ -85,7 +88,7 @@ TEST_F(MainWindow, MeasuresIntoASlot) {
 
   MeasureThrough(3);
   EXPECT_FALSE(window.findChild<QWidget*>(QStringLiteral("LightWarning"))->isVisible());
-  EXPECT_DOUBLE_EQ(Reflectance(3), 2.0);  // (300 - 100) / (500 - 100) x 4 %
+  EXPECT_DOUBLE_EQ(Reflectance(3), 0.5);  // (300 - 100) / (500 - 100)
   EXPECT_FALSE(window.State().Slot(4)->valid);
   EXPECT_EQ(window.GetOption(), 3) << "the slot measured last is the one shown";
   EXPECT_EQ(TimeText(), QStringLiteral("2026/3/9 7:05:03"));
@@ -133,10 +136,10 @@ TEST_F(MainWindow, AsksBeforeItOverwrites) {
   messages.answers = {MessageResult::kCancel};
   Press("Mes1", 500);
   EXPECT_EQ(messages.Take(), std::vector{kOverwrite});
-  EXPECT_DOUBLE_EQ(Reflectance(1), 2.0);
+  EXPECT_DOUBLE_EQ(Reflectance(1), 0.5);
   Press("Mes1", 500);
   EXPECT_EQ(messages.Take(), std::vector{kOverwrite});
-  EXPECT_DOUBLE_EQ(Reflectance(1), 4.0);
+  EXPECT_DOUBLE_EQ(Reflectance(1), 1.0);
 }
 
 TEST_F(MainWindow, FailedMeasurementsLoseNothing) {
@@ -156,7 +159,7 @@ TEST_F(MainWindow, FailedMeasurementsLoseNothing) {
       const std::vector<ShownMessage> shown = messages.Take();
       EXPECT_EQ(shown.back(), c.message) << name;
       EXPECT_TRUE(Button(name)->isEnabled());
-      EXPECT_DOUBLE_EQ(Reflectance(1), 2.0);
+      EXPECT_DOUBLE_EQ(Reflectance(1), 0.5);
       EXPECT_FALSE(window.State().Slot(2)->valid);
       EXPECT_EQ(window.State().reference[550], 500.0);
     }
@@ -166,7 +169,7 @@ TEST_F(MainWindow, FailedMeasurementsLoseNothing) {
   EXPECT_EQ(messages.beeps, 1);
   EXPECT_FALSE(window.State().Slot(3)->valid);
   Press("Mes3", 300);
-  EXPECT_DOUBLE_EQ(Reflectance(3), 2.0);
+  EXPECT_DOUBLE_EQ(Reflectance(3), 0.5);
 }
 
 TEST_F(MainWindow, ClosedLightPathAfterAFailureIsShown) {
@@ -220,8 +223,7 @@ TEST_F(MainWindow, SavesTheSlots) {
   QFile file(path);
   ASSERT_TRUE(file.open(QIODevice::ReadOnly));
   const QByteArray content = file.readAll();
-  EXPECT_TRUE(
-      content.startsWith("VEXA-KT 440-840 Ver 3.21 Data File\r\nwave,,,,,,,,,,\r\n 440,2.0000"))
+  EXPECT_TRUE(content.startsWith("VEXA-KT 440-840 Ver 3.21 Data File\r\nwave,,,,,,,,,,\r\n 440,2."))
       << content.left(80).constData();
   EXPECT_EQ(content.count("\r\n"), 403);
 

@@ -15,6 +15,11 @@ bool MayReplace(const QString& path, MessageService& messages) {
                           kYesNo + kWarningIcon, message_title::kWarning) == MessageResult::kYes;
 }
 
+void ShowWriteError(const QString& path, MessageService& messages) {
+  messages.MsgCall(QStringLiteral("ﾌｧｲﾙの書き込みでエラーが発生しました。\r\r") + path,
+                   kOk + kStopIcon, message_title::kError);
+}
+
 void SaveDataFileAs(VEXATYPE& state, MessageService& messages, FileDialogs& dialogs) {
   if (!state.HasValidSlot()) {
     messages.MsgCall(QStringLiteral("有効ﾃﾞｰﾀがありません。"), kOk + kInformationIcon,
@@ -37,8 +42,7 @@ void SaveDataFileAs(VEXATYPE& state, MessageService& messages, FileDialogs& dial
   if (WriteDataFile(path, layout, state)) {
     state.currentDataFileName = path;
   } else {
-    messages.MsgCall(QStringLiteral("ﾃﾞｰﾀ･ﾌｧｲﾙの書き込みでエラーが発生しました。\r\r") + path,
-                     kOk + kStopIcon, message_title::kError);
+    ShowWriteError(path, messages);
   }
 }
 

@@ -3,11 +3,11 @@
 
 #include "base/number_text.h"
 #include "base/text_file.h"
+#include "files/data_file_messages.h"
 
 namespace vexa {
 namespace {
 
-const QString kHeader = QStringLiteral("VEXA-KT 440-840 Ver 3.21 Data File");
 const QString kValuePattern = QStringLiteral("0.000000000000000");
 
 QString ValueText(double value) {
@@ -20,7 +20,7 @@ FileText CsvText(const VEXATYPE& state) {
     numbers << slot.info.sampleNumber;
   }
   FileText text;
-  text.Line(kHeader).Line(numbers.join(u','));
+  text.Line(kDataFileHeader).Line(numbers.join(u','));
   for (int nm = ReflectanceSpectrum::kFirstNm; nm <= ReflectanceSpectrum::kLastNm; ++nm) {
     QString row = SignedText(nm);
     for (const MeasurementSlot& slot : state.measurementSlots) {
@@ -39,7 +39,7 @@ FileText BlockText(const VEXATYPE& state, int blocks) {
     }
   }
   FileText text;
-  text.Line(kHeader).Line(state.Slot(1)->info.remark1).Line(SignedText(lastValid));
+  text.Line(kDataFileHeader).Line(state.Slot(1)->info.remark1).Line(SignedText(lastValid));
   for (int number = 1; number <= blocks; ++number) {
     const MeasurementSlot& slot = *state.Slot(number);
     text.Line(slot.info.sampleNumber);

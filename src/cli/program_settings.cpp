@@ -1,0 +1,51 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "cli/program_settings.h"
+
+#include <QDir>
+#include <algorithm>
+
+#include "base/number_text.h"
+#include "files/configuration.h"
+#include "measurement/dispersion_data.h"
+#include "optics/index_file.h"
+
+namespace vexa::cli {
+
+VEXATYPE LoadSettings(const QCommandLineParser& parser, MessageService& messages) {
+  VEXATYPE state;
+  state.programDirectory =
+      parser.isSet(option::kDir) ? parser.value(option::kDir) : QDir::currentPath();
+  LoadConfiguration(state, messages);
+  LoadDispersionData(state, messages);
+  return state;
+}
+
+void DeclareReferenceReflectance(QCommandLineParser& parser) {
+  parser.addOption({option::kReferenceReflectance,
+                    QStringLiteral("Reflectance of the reference: 0.1 to 110 percent, or a *.ref "
+                                   "file (default: from the environment)."),
+                    QStringLiteral("V|FILE.ref")});
+}
+
+ExitStatus TakeReferenceReflectance(const QCommandLineParser& parser, VEXATYPE& state) {
+  if (!parser.isSet(option::kReferenceReflectance)) {
+    return kDone;
+  }
+  const QString value = parser.value(option::kReferenceReflectance);
+  if (const std::optional<double> percent = ParseNumber(value)) {
+    if (*percent < 0.1 || *percent > 110.0) {
+      Complain(QStringLiteral("--%1 takes 0.1 to 110 percent, not \"%2\"")
+                   .arg(option::kReferenceReflectance, value));
+      return kUsageError;
+    }
+    std::ranges::fill(state.referenceReflectance.Values(), *percent);
+    return kDone;
+  }
+  if (!ReadIndexFile(value, state.referenceReflectance)) {
+    Complain(QStringLiteral("%1: neither a number nor a readable reference file").arg(value));
+    return kFailed;
+  }
+  return kDone;
+}
+
+}  // namespace vexa::cli

@@ -1,0 +1,31 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <QCommandLineParser>
+#include <optional>
+
+#include "cli/console.h"
+#include "measurement/vexatype.h"
+
+namespace vexa::cli {
+
+/// Options that every command takes.
+namespace option {
+inline const QString kJson = QStringLiteral("json");
+inline const QString kDir = QStringLiteral("dir");
+inline const QString kNo = QStringLiteral("no");
+inline const QString kReferenceReflectance = QStringLiteral("reference-reflectance");
+}  // namespace option
+
+/// The state with the settings of the program directory, as the window has it after its start.
+/// Messages of the files go to `messages`.
+[[nodiscard]] VEXATYPE LoadSettings(const QCommandLineParser& parser, MessageService& messages);
+
+void DeclareReferenceReflectance(QCommandLineParser& parser);
+
+/// Takes over the reference reflectance of its option, a number of percent or a *.ref file; kDone,
+/// or the exit status after a complaint.
+[[nodiscard]] ExitStatus TakeReferenceReflectance(const QCommandLineParser& parser,
+                                                  VEXATYPE& state);
+
+}  // namespace vexa::cli

@@ -1,0 +1,107 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "files/add_data_file.h"
+
+#include "base/date_text.h"
+#include "base/header_version.h"
+#include "base/number_text.h"
+#include "base/text_file.h"
+#include "files/data_file_messages.h"
+
+namespace vexa {
+namespace {
+
+constexpr double kOldestVersion = 2.99;
+
+struct ValueRow {
+  const char16_t* label;
+  double ColourResult::*value;
+};
+
+constexpr ValueRow kValueRows[] = {
+    {u"L*,", &ColourResult::L},         {u"a*,", &ColourResult::a},
+    {u"b*,", &ColourResult::b},         {u"x,", &ColourResult::x},
+    {u"y,", &ColourResult::y},          {u"色相角,", &ColourResult::h},
+    {u"クロマ,", &ColourResult::C},     {u"平均反射率,", &ColourResult::Rm},
+    {u"視感反射率,", &ColourResult::Y},
+};
+constexpr int kInformationRows = 4;
+
+QString ConditionText(const ColourSettings& settings) {
+  return QStringLiteral("光源:") + SignedText(settings.illuminant) +
+         QStringLiteral("(1:A,2:B,3:C,4:D65）,視野:") +
+         (settings.observer2Deg ? QStringLiteral("True") : QStringLiteral("False")) +
+         QStringLiteral("(True:2度視野,False:10度視野)");
+}
+
+// The first value stands unpadded after its label, as the label makes the two one text.
+QString ValueText(const ValueRow& row, const VEXATYPE& state) {
+  QString text = QString::fromUtf16(row.label) + SignedText(state.Slot(1)->colour.*row.value);
+  for (int number = 2; number <= kSlotCount; ++number) {
+    text += u',' + FormatNumber(state.Slot(number)->colour.*row.value, u"0.000000000000000");
+  }
+  return text;
+}
+
+template <typename Entry>
+QString InformationText(const QString& label, const VEXATYPE& state, Entry entry) {
+  QStringList entries{label};
+  for (const MeasurementSlot& slot : state.measurementSlots) {
+    entries << entry(slot.info);
+  }
+  return entries.join(u',');
+}
+
+}  // namespace
+
+bool WriteAddDataFile(const QString& path, const VEXATYPE& state) {
+  FileText text;
+  text.Line(QStringLiteral("VEXA-KT 440-840 Ver3.21 AddData File"))
+      .Line(ConditionText(state.colour));
+  for (const ValueRow& row : kValueRows) {
+    text.Line(ValueText(row, state));
+  }
+  text.Line(InformationText(QStringLiteral("試料No"), state,
+                            [](const SampleInfo& info) { return info.sampleNumber; }))
+      .Line(InformationText(QStringLiteral("備考1"), state,
+                            [](const SampleInfo& info) { return info.remark1; }))
+      .Line(InformationText(QStringLiteral("備考2"), state,
+                            [](const SampleInfo& info) { return info.remark2; }))
+      .Line(InformationText(QStringLiteral("測定日"), state,
+                            [](const SampleInfo& info) { return DateTimeText(info.measuredAt); }));
+  return text.WriteTo(path);
+}
+
+bool ReadAddDataFile(const QString& path, VEXATYPE& state, MessageService& messages) {
+  try {
+    TextReader reader = TextReader::Open(path);
+    if (ReadHeaderVersion(reader.Line(), QStringLiteral("ADD")) < kOldestVersion) {
+      throw ReadFault("version");
+    }
+    reader.Line();
+    for (std::size_t row = 0; row < std::size(kValueRows); ++row) {
+      reader.Row(1 + kSlotCount);
+    }
+    for (int row = 0; row < kInformationRows; ++row) {
+      const QStringList fields = reader.Row(1 + kSlotCount);
+      for (int number = 1; number <= kSlotCount; ++number) {
+        SampleInfo& info = state.Slot(number)->info;
+        if (row < kInformationRows - 1) {
+          QString* const texts[] = {&info.sampleNumber, &info.remark1, &info.remark2};
+          *texts[row] = fields[number];
+          continue;
+        }
+        const std::optional<QDateTime> time = ParseDateTime(fields[number]);
+        if (!time) {
+          throw ReadFault("date");
+        }
+        info.measuredAt = *time;
+      }
+    }
+    return true;
+  } catch (const ReadFault&) {
+    ShowDataReadError(kNoCurrentDataFile, messages);
+    return false;
+  }
+}
+
+}  // namespace vexa

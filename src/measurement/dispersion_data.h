@@ -1,0 +1,17 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "base/message.h"
+#include "measurement/vexatype.h"
+
+namespace vexa {
+
+/// Stores a spectrum computed for the coat's setting: as the index of the substrate when the
+/// setting is a substrate, else as the index of the film.
+void StoreCoatSpectrum(VEXATYPE& state, const ReflectanceSpectrum& spectrum);
+
+/// Builds the reference reflectance and the index arrays from their settings. Where one cannot be
+/// built, a message names the setting, and the array stays as it was.
+void LoadDispersionData(VEXATYPE& state, MessageService& messages);
+
+}  // namespace vexa

@@ -1,0 +1,54 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "views/common/number_field.h"
+
+#include <QRegularExpressionValidator>
+
+#include "base/number_text.h"
+
+namespace vexa {
+namespace {
+
+constexpr int kWidth = 132;
+
+void TakeOnly(QLineEdit& field, const QString& characters) {
+  field.setValidator(new QRegularExpressionValidator(
+      QRegularExpression(QStringLiteral("[%1]*").arg(characters)), &field));
+  field.setAlignment(Qt::AlignRight);
+  field.setMinimumWidth(kWidth);
+}
+
+}  // namespace
+
+NumberField::NumberField(const QString& pattern, QWidget* parent)
+    : QLineEdit(parent), pattern_(pattern) {
+  TakeOnly(*this, QStringLiteral("0-9.Ee+\\-"));
+  connect(this, &QLineEdit::editingFinished, this, [this] {
+    if (const std::optional<double> value = Value()) {
+      SetValue(*value);
+    }
+  });
+}
+
+void NumberField::SetValue(double value) {
+  setText(FormatNumber(value, pattern_).trimmed());
+}
+
+std::optional<double> NumberField::Value() const {
+  return ParseNumber(text());
+}
+
+IntegerField::IntegerField(QWidget* parent) : QLineEdit(parent) {
+  TakeOnly(*this, QStringLiteral("0-9"));
+}
+
+void IntegerField::SetValue(int value) {
+  setText(QString::number(value));
+}
+
+std::optional<int> IntegerField::Value() const {
+  bool ok = false;
+  const int value = text().toInt(&ok);
+  return ok ? std::optional(value) : std::nullopt;
+}
+
+}  // namespace vexa
