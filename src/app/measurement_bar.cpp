@@ -167,7 +167,7 @@ void MeasurementBar::SetAvailable(bool controller, bool idle) {
     row.measure->setEnabled(idle);
   }
   allClear_->setEnabled(idle);
-  data_->setEnabled(false);
+  data_->setEnabled(idle);
 }
 
 void MeasurementBar::ShowLightPathClosed(bool closed) {

@@ -12,13 +12,16 @@
 #include "app/status_panels.h"
 #include "app/version_dialog.h"
 #include "files/configuration.h"
-#include "files/environment_file.h"
 #include "files/startup_file.h"
 #include "measurement/controller_start.h"
 #include "measurement/dispersion_data.h"
 #include "views/colour/colour_panel.h"
+#include "views/files/addinp_frm.h"
 #include "views/files/data_file_commands.h"
+#include "views/files/environment_commands.h"
 #include "views/graph/reflectance_graph.h"
+#include "views/settings/calibration_dlg.h"
+#include "views/settings/sampling_dlg.h"
 
 namespace vexa {
 
@@ -38,7 +41,7 @@ void VEXA::Load() {
   loading_ = true;
   setWindowTitle(QStringLiteral("MERIDOX ") + QStringLiteral("VEXA-KT-440 Ver3.21"));
   LoadConfiguration(state_, services_.messages);
-  ShowEnvironmentName();
+  Refresh();
   StartController();
   if (unloaded_) {
     return;
@@ -96,15 +99,25 @@ void VEXA::BuildPanels() {
 }
 
 void VEXA::ConnectCommands() {
-  const auto enable = [this](QAction* action, auto&& run) {
+  MessageService& messages = services_.messages;
+  FileDialogs& dialogs = services_.dialogs;
+  const auto enable = [this](QAction* action, auto run) {
     action->setEnabled(true);
-    connect(action, &QAction::triggered, this, std::forward<decltype(run)>(run));
+    connect(action, &QAction::triggered, this, [this, run] {
+      run();
+      Refresh();
+    });
   };
-  enable(commands_.saveFileAs, [this] {
-    SaveDataFileAs(state_, services_.messages, services_.dialogs);
-    Refresh();
-  });
-  enable(commands_.quit, &QWidget::close);
+  enable(commands_.openFile, [&, this] { OpenDataFile(state_, messages, dialogs); });
+  enable(commands_.saveFileAs, [&, this] { SaveDataFileAs(state_, messages, dialogs); });
+  enable(commands_.openEnvironment, [&, this] { TakeOverEnvironment(); });
+  enable(commands_.saveEnvironment, [&, this] { SaveEnvironment(state_, messages); });
+  enable(commands_.saveEnvironmentAs, [&, this] { SaveEnvironmentAs(state_, messages, dialogs); });
+  enable(commands_.sampleInformation, [&, this] { AddinpFrm(state_, messages, this).exec(); });
+  enable(commands_.samplingSettings,
+         [&, this] { SamplingDlg(state_, *controller_, messages, this).exec(); });
+  enable(commands_.calibration, [&, this] { CalibrationDlg(state_, messages, this).exec(); });
+  enable(commands_.quit, [this] { close(); });
   enable(commands_.version, [this] { ShowVersion(this); });
   commands_.views->actions().constFirst()->setEnabled(true);
 }
@@ -116,6 +129,7 @@ void VEXA::ConnectSequence() {
           &MeasurementSequence::MeasureReference);
   connect(bar_, &MeasurementBar::SampleRequested, &sequence_, &MeasurementSequence::MeasureSample);
   connect(bar_, &MeasurementBar::ClearRequested, &sequence_, &MeasurementSequence::ClearAll);
+  connect(bar_, &MeasurementBar::DataRequested, commands_.sampleInformation, &QAction::trigger);
   connect(bar_, &MeasurementBar::SlotSelected, this, &VEXA::Refresh);
 
   connect(&sequence_, &MeasurementSequence::Began, this, [this](MeasurementKind kind, int slot) {
@@ -153,7 +167,7 @@ bool VEXA::Unload() {
   if (answer == MessageResult::kCancel) {
     return false;
   }
-  if (answer == MessageResult::kYes && !SaveEnvironment(state_.envFileName)) {
+  if (answer == MessageResult::kYes && !SaveEnvironment(state_, services_.messages)) {
     return false;
   }
   if (!WriteStartupFile(state_)) {
@@ -166,21 +180,16 @@ bool VEXA::Unload() {
   return true;
 }
 
-bool VEXA::SaveEnvironment(const QString& path) {
-  const bool written = WriteEnvFile(path, state_);
-  if (!written) {
-    ShowWriteError(path, services_.messages);
+void VEXA::TakeOverEnvironment() {
+  if (OpenEnvironment(state_, services_.messages, services_.dialogs) && controllerReady_) {
+    (void)SendSamplingSettings(*controller_, state_.instrument, services_.messages);
   }
-  return written;
-}
-
-void VEXA::ShowEnvironmentName() {
-  status_->ShowEnvironmentName(state_.envFileName);
 }
 
 void VEXA::Refresh() {
   bar_->Show(state_);
   graph_->Show(state_, GetOption());
+  status_->ShowEnvironmentName(state_.envFileName);
 }
 
 void VEXA::UpdateCommands() {
@@ -189,6 +198,11 @@ void VEXA::UpdateCommands() {
   bar_->ShowLightPathClosed(controllerReady_ && controller_->IsLightPathClosed() &&
                             !sequence_.IsRunning());
   commands_.quit->setEnabled(!sequence_.IsRunning());
+  for (QAction* action :
+       {commands_.openFile, commands_.openEnvironment, commands_.sampleInformation}) {
+    action->setEnabled(idle);
+  }
+  commands_.samplingSettings->setEnabled(idle && controllerReady_);
   progress_->SetIdleText(loading_ || controllerReady_ ? QString() : QStringLiteral("ｺﾝﾄﾛｰﾗ未接続"));
 }
 

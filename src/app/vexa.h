@@ -55,8 +55,7 @@ class VEXA : public QMainWindow {
   void ConnectSequence();
   void StartController();
   [[nodiscard]] bool Unload();
-  [[nodiscard]] bool SaveEnvironment(const QString& path);
-  void ShowEnvironmentName();
+  void TakeOverEnvironment();
   void Refresh();
   void UpdateCommands();
 

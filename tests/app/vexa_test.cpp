@@ -3,13 +3,17 @@
 
 #include <gtest/gtest.h>
 
+#include <QApplication>
 #include <QDir>
 #include <QFile>
 #include <QLabel>
+#include <QLineEdit>
 #include <QPushButton>
 #include <QRadioButton>
+#include <QTest>
 #include <QTimer>
 
+#include "files/environment_file.h"
 #include "instrument/frm_com_h8_ctrl.h"
 #include "instrument/serial_port_path.h"
 #include "support/prepared_answers.h"
@@ -238,16 +242,195 @@ TEST_F(MainWindow, SavesTheSlots) {
 }
 
 TEST_F(MainWindow, AsksAboutTheEnvironmentAtTheEnd) {
+  const QString environment = QDir(peer.Directory()).filePath(QStringLiteral("vexa.env"));
+  const QString startup = QDir(peer.Directory()).filePath(QStringLiteral("vexa.int"));
   messages.answers = {MessageResult::kCancel, MessageResult::kNo};
   EXPECT_FALSE(window.close());
   EXPECT_TRUE(window.isVisible());
+  EXPECT_FALSE(QFile::exists(startup));
   EXPECT_TRUE(window.close());
   const ShownMessage question{
-      "VEXA-KT ﾒｯｾｰｼﾞ: " +
-          QDir(peer.Directory()).filePath(QStringLiteral("vexa.env")).toStdString() +
-          "\r\r現在の環境をｾｰﾌﾞしますか。",
-      35};
+      "VEXA-KT ﾒｯｾｰｼﾞ: " + environment.toStdString() + "\r\r現在の環境をｾｰﾌﾞしますか。", 35};
   EXPECT_EQ(messages.Take(), (std::vector{question, question}));
+  EXPECT_TRUE(QFile::exists(startup));
+  EXPECT_FALSE(QFile::exists(environment));
+}
+
+TEST_F(MainWindow, SavesTheEnvironmentAtTheEnd) {
+  messages.answers = {MessageResult::kYes};
+  EXPECT_TRUE(window.close());
+  VEXATYPE state;
+  EXPECT_TRUE(
+      ReadEnvFile(QDir(peer.Directory()).filePath(QStringLiteral("vexa.env")), state, messages)
+          .read);
+}
+
+// Opens the window of a command, lets `act` use it, and closes it if `act` did not.
+template <typename Act>
+void InDialog(QAction* command, Act act) {
+  QTimer::singleShot(0, command, [&act] {
+    QWidget* dialog = QApplication::activeModalWidget();
+    ASSERT_NE(dialog, nullptr);
+    act(*dialog);
+    if (dialog->isVisible()) {
+      dialog->close();
+    }
+  });
+  command->trigger();
+}
+
+void Enter(QWidget& dialog, const char* field, const char* text) {
+  auto* edit = dialog.findChild<QLineEdit*>(QLatin1String(field));
+  ASSERT_NE(edit, nullptr) << field;
+  edit->selectAll();
+  QTest::keyClick(edit, Qt::Key_Delete);
+  const QString typed = QString::fromUtf8(text);
+  if (typed == QString::fromLatin1(typed.toLatin1()) && !typed.contains(u'\u00e9')) {
+    QTest::keyClicks(edit, typed);
+  } else {
+    edit->insert(typed);  // as an input method does
+  }
+}
+
+void Click(QWidget& dialog, const char* button) {
+  dialog.findChild<QAbstractButton*>(QLatin1String(button))->click();
+}
+
+TEST_F(MainWindow, SamplingSettingsAreCheckedAndSentAtOnce) {
+  const ShownMessage timeError{
+      "VEXA-KT ｴﾗｰ: ｻﾝﾌﾟﾘﾝｸﾞ時間が設定範囲を越えています。 (30 ≦ 設定値 ≦ 10000)", 16};
+  const ShownMessage countError{
+      "VEXA-KT ｴﾗｰ: 取り込み平均回数が設定範囲を越えています。 (1 ≦ 設定値 ≦ 16)", 16};
+  struct Case {
+    const char* time;
+    const char* averaging;
+    std::optional<ShownMessage> error;
+  };
+  const Case cases[] = {{"29", "1", timeError},  {"20001", "1", timeError}, {"", "1", timeError},
+                        {"30", "0", countError}, {"30", "17", countError},  {"2a0.0-00", "8", {}},
+                        {"30", "1", {}}};
+  peer.TakeFrames();
+  for (const Case& c : cases) {
+    bool closed = false;
+    InDialog(window.Commands().samplingSettings, [&](QWidget& dialog) {
+      Enter(dialog, "Time", c.time);
+      Enter(dialog, "Averaging", c.averaging);
+      Click(dialog, "OK");
+      closed = !dialog.isVisible();
+    });
+    EXPECT_EQ(closed, !c.error.has_value()) << c.time;
+    EXPECT_EQ(messages.Take(), c.error ? std::vector{*c.error} : std::vector<ShownMessage>{})
+        << c.time;
+  }
+  EXPECT_EQ(peer.TakeFrames(), (std::vector<std::string>{"96BE8B01", "96009100"}))
+      << "20000 ms, 30 ms";
+  EXPECT_EQ(window.State().instrument.averagingCount, 1);
+
+  InDialog(window.Commands().samplingSettings, [](QWidget& dialog) {
+    for (int i = 0; i < 20; ++i) {
+      Click(dialog, "Up");
+    }
+    EXPECT_EQ(dialog.findChild<QLineEdit*>(QStringLiteral("Averaging"))->text(),
+              QStringLiteral("16"));
+    for (int i = 0; i < 20; ++i) {
+      Click(dialog, "Down");
+    }
+    EXPECT_EQ(dialog.findChild<QLineEdit*>(QStringLiteral("Averaging"))->text(),
+              QStringLiteral("1"));
+  });
+}
+
+TEST_F(MainWindow, CalibrationShiftIsKeptInItsFile) {
+  const QString path = QDir(peer.Directory()).filePath(QStringLiteral("vexa.cal"));
+  const ShownMessage range{
+      "VEXA-KT ｴﾗｰ: ｷｬﾘﾌﾞﾚｰｼｮﾝのｼﾌﾄ値が設定範囲を越えています。 (0 ≦ 設定値 ≦ 7)", 16};
+  for (const char* shift : {"8", ""}) {
+    InDialog(window.Commands().calibration, [shift](QWidget& dialog) {
+      Enter(dialog, "Shift", shift);
+      Click(dialog, "OK");
+    });
+    EXPECT_EQ(messages.Take(), std::vector{range});
+  }
+  EXPECT_FALSE(QFile::exists(path));
+  InDialog(window.Commands().calibration, [](QWidget& dialog) {
+    Enter(dialog, "Shift", "7");
+    Click(dialog, "OK");
+  });
+  EXPECT_EQ(messages.Take(),
+            (std::vector<ShownMessage>{
+                {"VEXA-KT 情報: この設定は、再起動を含め次の測定から有効になります。"
+                 "\r\rｷｬﾘﾌﾞﾚｰｼｮﾝ･ﾌｧｲﾙ名:" +
+                     path.toStdString(),
+                 64}}));
+  QFile file(path);
+  ASSERT_TRUE(file.open(QIODevice::ReadOnly));
+  EXPECT_EQ(file.readAll(), "VEXA-KT 440-840 Ver 3.21 Calibration File\r\n 7 \r\n");
+  EXPECT_EQ(window.State().instrument.calibrationShiftNm, 7);
+}
+
+TEST_F(MainWindow, SampleInformationIsTakenOverAsTyped) {
+  InDialog(window.Commands().sampleInformation, [](QWidget& dialog) {
+    EXPECT_EQ(dialog.findChild<QLineEdit*>(QStringLiteral("MesDate_txt10"))->text(),
+              QStringLiteral("0:00:00"));
+    Enter(dialog, "SampNo_txt1", "A-1, 上");
+    Enter(dialog, "DevNo_txt10", "装置");
+    Enter(dialog, "MesDate_txt2", "2026/03/09 07:05:03");
+    Click(dialog, "OK_b");
+  });
+  EXPECT_EQ(messages.Take(), std::vector<ShownMessage>{});
+  EXPECT_EQ(window.State().Slot(1)->info.sampleNumber, QStringLiteral("A-1, 上"));
+  EXPECT_EQ(window.State().Slot(10)->info.remark2, QStringLiteral("装置"));
+  EXPECT_EQ(window.State().Slot(2)->info.measuredAt, QDateTime({2026, 3, 9}, {7, 5, 3}));
+
+  const std::pair<const char*, const char*> refused[] = {{"MesDate_txt2", "yesterday"},
+                                                         {"MesDate_txt3", ""},
+                                                         {"SampNo_txt1", "é"},
+                                                         {"MesPoint_txt4", "😀"}};
+  for (const auto& [field, text] : refused) {
+    InDialog(window.Commands().sampleInformation, [&, name = field, typed = text](QWidget& dialog) {
+      Enter(dialog, "SampNo_txt5", "other");
+      Enter(dialog, name, typed);
+      Click(dialog, "OK_b");
+      EXPECT_TRUE(dialog.isVisible());
+    });
+    EXPECT_EQ(messages.Take().size(), 1U) << field;
+    EXPECT_EQ(window.State().Slot(5)->info.sampleNumber, QString());
+  }
+}
+
+TEST_F(MainWindow, OpensDataFilesAndEnvironments) {
+  MeasureThrough(2);
+  const QDir directory(peer.Directory());
+  files.save = SaveChoice{directory.filePath(QStringLiteral("a.csv")), 1};
+  window.Commands().saveFileAs->trigger();
+  files.save = SaveChoice{directory.filePath(QStringLiteral("環境")), 1};
+  window.Commands().saveEnvironmentAs->trigger();
+  EXPECT_EQ(files.filter, "Enviroment File (*.env)|*.env");
+  const QString environment = directory.filePath(QStringLiteral("環境.env"));
+  EXPECT_EQ(window.State().envFileName, environment);
+  Press("ALL CLEAR");
+  messages.Take();
+
+  files.open = directory.filePath(QStringLiteral("a.csv"));
+  window.Commands().openFile->trigger();
+  EXPECT_EQ(files.filter, "ﾃﾞｰﾀ･ﾌｧｲﾙ(*.csv,*.dat)|*.csv;*.dat|");
+  EXPECT_NEAR(Reflectance(2), 0.5, 1e-14) << "the file has 15 digits";
+  EXPECT_EQ(window.State().currentDataFileName, *files.open);
+
+  peer.TakeFrames();
+  files.open = environment;
+  window.Commands().openEnvironment->trigger();
+  EXPECT_EQ(files.filter, "環境ﾃﾞｰﾀ･ﾌｧｲﾙ(*.env)|*.env|全てのﾌｧｲﾙ(*.*)|*.*|");
+  EXPECT_EQ(peer.TakeFrames(), std::vector<std::string>{"96392900"}) << "its sampling time is sent";
+  EXPECT_EQ(window.findChild<QLabel*>(QStringLiteral("StatusPanel1"))->text(),
+            QStringLiteral("環境ﾌｧｲﾙ名:") + environment);
+  window.Commands().saveEnvironment->trigger();
+  EXPECT_EQ(messages.Take(), std::vector<ShownMessage>{});
+
+  files.save = SaveChoice{directory.filePath(QStringLiteral("é.env")), 1};
+  window.Commands().saveEnvironmentAs->trigger();
+  EXPECT_EQ(messages.Take().size(), 1U) << "a name that the start-up file cannot hold";
+  EXPECT_EQ(window.State().envFileName, environment);
 }
 
 class DeadController : public testing::Test {

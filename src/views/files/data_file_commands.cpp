@@ -1,23 +1,18 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "views/files/data_file_commands.h"
 
-#include <QFileInfo>
-
 #include "files/data_file.h"
 
 namespace vexa {
 
 using namespace message_type;
 
-bool MayReplace(const QString& path, MessageService& messages) {
-  return !QFileInfo::exists(path) ||
-         messages.MsgCall(QStringLiteral("同ﾌｧｲﾙ名が存在します。上書き保存しますか？"),
-                          kYesNo + kWarningIcon, message_title::kWarning) == MessageResult::kYes;
-}
-
-void ShowWriteError(const QString& path, MessageService& messages) {
-  messages.MsgCall(QStringLiteral("ﾌｧｲﾙの書き込みでエラーが発生しました。\r\r") + path,
-                   kOk + kStopIcon, message_title::kError);
+void OpenDataFile(VEXATYPE& state, MessageService& messages, FileDialogs& dialogs) {
+  const std::optional<QString> path = dialogs.AskOpen(
+      QStringLiteral("ﾌｧｲﾙを開く"), QStringLiteral("ﾃﾞｰﾀ･ﾌｧｲﾙ(*.csv,*.dat)|*.csv;*.dat|"));
+  if (path && ReadDataFile(*path, state, messages)) {
+    state.currentDataFileName = *path;
+  }
 }
 
 void SaveDataFileAs(VEXATYPE& state, MessageService& messages, FileDialogs& dialogs) {

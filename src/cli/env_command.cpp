@@ -1,0 +1,68 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "cli/command_line.h"
+#include "cli/console.h"
+#include "cli/program_settings.h"
+#include "files/environment_file.h"
+
+namespace vexa::cli {
+namespace {
+
+const QString kOut = QStringLiteral("out");
+
+void DeclareOptions(QCommandLineParser& parser) {
+  parser.addPositionalArgument(QStringLiteral("FILE"), QStringLiteral("Environment file."));
+  parser.addOption(
+      {kOut, QStringLiteral("Writes it in the current layout."), QStringLiteral("FILE")});
+}
+
+struct JsonValue {
+  QJsonValue operator()(std::monostate) const { return {}; }
+  QJsonValue operator()(const std::int16_t* value) const { return *value; }
+  QJsonValue operator()(const double* value) const { return *value; }
+  QJsonValue operator()(const Flag* value) const { return bool{*value}; }
+  QJsonValue operator()(const QString* value) const { return *value; }
+};
+
+int Environment(const QCommandLineParser& parser) {
+  const QString path = parser.positionalArguments().front();
+  ConsoleMessages messages(parser.isSet(option::kNo));
+  VEXATYPE state;
+  const EnvironmentRead result = ReadEnvFile(path, state, messages);
+  if (!result.read) {
+    Complain(QStringLiteral("%1: not read").arg(path));
+  }
+  const auto lines = EnvironmentLines(state);
+  if (parser.isSet(option::kJson)) {
+    QJsonObject object;
+    for (std::size_t number = 2; result.read && number < lines.size(); ++number) {
+      object.insert(QString::number(number), std::visit(JsonValue{}, lines[number]));
+    }
+    PrintJson({{QStringLiteral("read"), result.read},
+               {QStringLiteral("version"), result.version},
+               {QStringLiteral("lines"), result.read ? QJsonValue(object) : QJsonValue()}});
+  } else if (result.read) {
+    for (std::size_t number = 2; number < lines.size(); ++number) {
+      Print(QStringLiteral("%1  %2\n")
+                .arg(number, 2)
+                .arg(std::visit(JsonValue{}, lines[number]).toVariant().toString()));
+    }
+  }
+  if (result.read && parser.isSet(kOut) && !WriteEnvFile(parser.value(kOut), state)) {
+    Complain(QStringLiteral("%1: cannot be written").arg(parser.value(kOut)));
+    return kFailed;
+  }
+  return result.read ? kDone : kFailed;
+}
+
+}  // namespace
+
+Command EnvCommand() {
+  return {QStringLiteral("env"),
+          QStringLiteral("FILE [--out FILE]"),
+          QStringLiteral("Shows an environment file of any accepted version."),
+          1,
+          DeclareOptions,
+          Environment};
+}
+
+}  // namespace vexa::cli

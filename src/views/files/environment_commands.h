@@ -1,0 +1,20 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "base/message.h"
+#include "measurement/vexatype.h"
+#include "views/common/file_dialogs.h"
+
+namespace vexa {
+
+/// Asks for an environment file and reads it, with the standards and dispersion data that it names.
+/// True when the settings changed, be it to the defaults after a file that cannot be read.
+[[nodiscard]] bool OpenEnvironment(VEXATYPE& state, MessageService& messages, FileDialogs& dialogs);
+
+/// Writes the environment file in use without asking; true when written.
+bool SaveEnvironment(VEXATYPE& state, MessageService& messages);
+
+/// Asks for a name, writes the environment under it and keeps it as the name in use.
+void SaveEnvironmentAs(VEXATYPE& state, MessageService& messages, FileDialogs& dialogs);
+
+}  // namespace vexa

@@ -1,0 +1,55 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "views/settings/calibration_dlg.h"
+
+#include <QFormLayout>
+
+#include "instrument/calibration_file.h"
+#include "views/common/dialog_buttons.h"
+#include "views/common/up_down_field.h"
+#include "views/files/data_file_commands.h"
+
+namespace vexa {
+
+using namespace message_type;
+
+CalibrationDlg::CalibrationDlg(VEXATYPE& state, MessageService& messages, QWidget* parent)
+    : QDialog(parent),
+      state_(state),
+      messages_(messages),
+      shift_(new UpDownField(0, kLargestCalibrationShiftNm)) {
+  setObjectName(QStringLiteral("CalibrationDlg"));
+  setWindowTitle(QStringLiteral("ｷｬﾘﾌﾞﾚｰｼｮﾝ"));
+  shift_->Field().setObjectName(QStringLiteral("Shift"));
+  shift_->Field().SetValue(state.instrument.calibrationShiftNm);
+  auto* form = new QFormLayout;
+  form->setHorizontalSpacing(24);
+  form->addRow(QStringLiteral("ｼﾌﾄ値"), shift_);
+  auto* layout = new QVBoxLayout(this);
+  layout->setContentsMargins(22, 20, 22, 16);
+  layout->setSpacing(20);
+  layout->addLayout(form);
+  layout->addWidget(OkCancelButtons(*this));
+  layout->setSizeConstraint(QLayout::SetFixedSize);
+}
+
+void CalibrationDlg::accept() {
+  const std::optional<int> shift = shift_->Field().Value();
+  if (!shift || *shift < 0 || *shift > kLargestCalibrationShiftNm) {
+    messages_.MsgCall(
+        QStringLiteral("ｷｬﾘﾌﾞﾚｰｼｮﾝのｼﾌﾄ値が設定範囲を越えています。 (0 ≦ 設定値 ≦ 7)"),
+        kOk + kStopIcon, message_title::kError);
+    return;
+  }
+  const QString path = CompletePath(state_, QStringLiteral("vexa.cal"));
+  messages_.MsgCall(QStringLiteral("この設定は、再起動を含め次の測定から有効になります。"
+                                   "\r\rｷｬﾘﾌﾞﾚｰｼｮﾝ･ﾌｧｲﾙ名:") +
+                        path,
+                    kOk + kInformationIcon, message_title::kInformation);
+  state_.instrument.calibrationShiftNm = static_cast<std::int16_t>(*shift);
+  if (!WriteCalibrationFile(path, state_.instrument.calibrationShiftNm)) {
+    ShowWriteError(path, messages_);
+  }
+  QDialog::accept();
+}
+
+}  // namespace vexa

@@ -1,0 +1,28 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <QDialog>
+
+#include "base/message.h"
+#include "measurement/vexatype.h"
+
+namespace vexa {
+
+class UpDownField;
+
+/// Sets the wavelength calibration shift and writes the calibration file.
+class CalibrationDlg : public QDialog {
+  Q_OBJECT
+
+ public:
+  CalibrationDlg(VEXATYPE& state, MessageService& messages, QWidget* parent = nullptr);
+
+  void accept() override;
+
+ private:
+  VEXATYPE& state_;
+  MessageService& messages_;
+  UpDownField* shift_;
+};
+
+}  // namespace vexa

@@ -1,0 +1,253 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "files/data_file.h"
+
+#include <gtest/gtest.h>
+
+#include "files/add_data_file.h"
+#include "support/prepared_answers.h"
+#include "support/temporary_files.h"
+
+namespace vexa {
+namespace {
+
+using test::ShownMessage;
+
+const ShownMessage kReadError{
+    "VEXA-KT ｴﾗｰ: ﾃﾞｰﾀ･ﾌｧｲﾙの読み込みでエラーが発生しました。\r\r"
+    "VEXA-KT 440-840 Ver 3.21 Data Fileﾌｧｲﾙではありません。\r\rﾌｧｲﾙを確認してください。",
+    16};
+const ShownMessage kOldVersion{
+    "VEXA-KT ｴﾗｰ: ﾃﾞｰﾀ･ﾌｧｲﾙの読み込みでエラーが発生しました。\r\r"
+    "VEXA-KT 旧Verのデータﾌｧｲﾙではありません。\r\rﾌｧｲﾙを確認してください。",
+    16};
+
+ShownMessage Erase(const char* count) {
+  return {std::string("VEXA-KT: ") + count + "ﾃﾞｰﾀをひらくためﾃﾞｰﾀ１～ﾃﾞｰﾀ" + count +
+              "までのﾃﾞｰﾀが消去されます。",
+          49};
+}
+
+// 401 lines of the text that `line` makes of a wavelength.
+template <typename Line>
+QByteArray Rows(Line line) {
+  QByteArray rows;
+  for (int nm = 440; nm <= 840; ++nm) {
+    rows += line(nm) + "\r\n";
+  }
+  return rows;
+}
+
+// Slot 1 is 12.3456789012346 everywhere, slot 2 the wavelength, the rest 0.
+QByteArray CsvText(const QByteArray& version = "3.21") {
+  return "VEXA-KT 440-840 Ver " + version + " Data File\r\nwave,A-1,\x95\x5c,,,,,,,,\r\n" +
+         Rows([](int nm) {
+           const QByteArray number = QByteArray::number(nm);
+           return " " + number + ",12.345678901234600," + number + ".000000000000000" +
+                  QByteArray(",0.000000000000000").repeated(8);
+         });
+}
+
+QByteArray DatText(const QByteArray& header, const QByteArray& count, int blocks) {
+  QByteArray text = header + "\r\n\x95\x5c\r\n" + count + "\r\n";
+  for (int slot = 1; slot <= blocks; ++slot) {
+    text += "S" + QByteArray::number(slot) + "\r\n" + Rows([slot](int nm) {
+              return QByteArray(slot == 1 && nm == 441 ? "0.500000000000000"
+                                : slot == 2            ? "7.000000000000000"
+                                                       : "0.000000000000000");
+            });
+  }
+  return text;
+}
+
+const QByteArray kHeader = "VEXA-KT 440-840 Ver 3.21 Data File";
+
+class DataFile : public testing::Test {
+ protected:
+  test::TemporaryFiles files;
+  test::PreparedAnswers messages;
+  VEXATYPE state;
+};
+
+TEST_F(DataFile, CsvGoesRoundUnchanged) {
+  EXPECT_TRUE(ReadDataFile(files.Write("a.csv", CsvText()), state, messages));
+  EXPECT_EQ(state.Slot(1)->reflectance[840], 12.3456789012346);
+  EXPECT_EQ(state.Slot(2)->reflectance[555], 555.0);
+  EXPECT_EQ(state.Slot(2)->info.sampleNumber, QStringLiteral("表"));
+  EXPECT_TRUE(state.Slot(2)->valid);
+  EXPECT_FALSE(state.Slot(3)->valid);
+  EXPECT_NEAR(state.Slot(1)->colour.Rm, 12.3456789012346, 1e-12) << "a loaded slot is evaluated";
+  EXPECT_TRUE(messages.Take().empty());
+  EXPECT_TRUE(WriteDataFile(files.Path("b.csv"), DataFileLayout::kCsv, state));
+  EXPECT_EQ(files.Read("b.csv").toStdString(), CsvText().toStdString());
+}
+
+TEST_F(DataFile, CsvLayouts) {
+  const auto rowsOf = [](const QByteArray& row) { return Rows([&row](int) { return row; }); };
+  struct Case {
+    const char* name;
+    QByteArray bytes;
+    double first;    ///< slot 1 at 500 nm
+    unsigned valid;  ///< bit k - 1 for slot k
+  };
+  const QByteArray head = kHeader + "\r\n";
+  const Case cases[] = {
+      {"quotes, blanks and LF alone",
+       QByteArray(head + "\"wave\" , a , \"b,c\" ,,,,,,,,\r\n" +
+                  rowsOf(" 1 , 2.5 , \"3\",0,0,0,0,0,0,0,0,left over"))
+           .replace("\r\n", "\n"),
+       2.5, 3},
+      {"no wavelength column", head + "a,b,c,d,e,f,g,h,i,j\r\n" + rowsOf("1,0,0,0,0,0,0,0,0,2"), 1,
+       0x201},
+      {"Wave in another case shifts the columns",
+       head + "Wave,b,c,d,e,f,g,h,i,j\r\n" + rowsOf("440,5,0,0,0,0,0,0,0,0"), 440, 3},
+      {"texts read as their leading number",
+       head + "a,,,,,,,,,\r\n" + rowsOf("1.5e1x,x,,+2,0,0,0,0,0,0"), 15, 9},
+      {"zero at 440, 450 and 840 alone is empty",
+       head + "a,,,,,,,,,\r\n" + Rows([](int nm) {
+         return QByteArray(nm == 440 || nm == 450 || nm == 840 ? "0,0,0,0,0,0,0,0,0,0"
+                                                               : "3,0,0,0,0,0,0,0,0,0");
+       }),
+       3, 0},
+      {"version 2.99", CsvText("2.99"), 12.3456789012346, 3},
+      {"version 3.00", CsvText("3.00"), 12.3456789012346, 3},
+  };
+  for (const Case& c : cases) {
+    state.Slot(7)->info.remark1 = QStringLiteral("old");
+    ASSERT_TRUE(ReadCsvDataFile(files.Write("a.csv", c.bytes), state, messages)) << c.name;
+    EXPECT_EQ(state.Slot(1)->reflectance[500], c.first) << c.name;
+    for (int slot = 1; slot <= kSlotCount; ++slot) {
+      EXPECT_EQ(bool{state.Slot(slot)->valid}, ((c.valid >> (slot - 1)) & 1U) != 0)
+          << c.name << slot;
+    }
+    EXPECT_EQ(state.Slot(7)->info.remark1, QString()) << c.name;
+  }
+}
+
+TEST_F(DataFile, BlocksGoRoundAndFiveStopAtSlotFive) {
+  EXPECT_TRUE(ReadDataFile(files.Write("a.DAT", DatText(kHeader, " 2", 10)), state, messages));
+  EXPECT_EQ(messages.Take(), std::vector{Erase(" 2")});
+  EXPECT_TRUE(state.Slot(1)->valid) << "a single value that is not 0";
+  EXPECT_EQ(state.Slot(1)->reflectance[441], 0.5);
+  EXPECT_EQ(state.Slot(2)->colour.Rm, 7.0);
+  EXPECT_EQ(state.dataFileComment, QStringLiteral("表"));
+  for (int slot = 1; slot <= kSlotCount; ++slot) {
+    state.Slot(slot)->info.sampleNumber = QStringLiteral("S%1").arg(slot);
+  }
+  state.Slot(1)->info.remark1 = QStringLiteral("表");
+  EXPECT_TRUE(WriteDataFile(files.Path("b.dat"), DataFileLayout::kTenBlocks, state));
+  EXPECT_EQ(files.Read("b.dat").toStdString(), DatText(kHeader, " 2", 10).toStdString());
+
+  state.Slot(7)->valid = true;
+  EXPECT_TRUE(WriteDataFile(files.Path("c.dat"), DataFileLayout::kFiveBlocks, state));
+  EXPECT_EQ(files.Read("c.dat").toStdString(), DatText(kHeader, " 2", 5).toStdString());
+  state.Slot(1)->valid = state.Slot(2)->valid = false;
+  EXPECT_TRUE(WriteDataFile(files.Path("d.dat"), DataFileLayout::kFiveBlocks, state));
+  EXPECT_TRUE(files.Read("d.dat").contains("\r\n 0\r\nS1\r\n0.000000000000000\r\n0.0"))
+      << "not valid is written as 0";
+}
+
+TEST_F(DataFile, BlockVersionsAndCounts) {
+  struct Case {
+    QByteArray header;
+    QByteArray count;
+    bool read;
+    std::vector<ShownMessage> shown;
+  };
+  const Case cases[] = {
+      {"VEXA-KT 440-840 Ver 3.00 Data File", " 2", false, {kOldVersion}},
+      {"VEXA-KT 440-840 Ver 3.20 Data File", " 2", false, {kOldVersion}},
+      {"VEXA-KT 440-840 Ver 2.99 Data File", " 2", true, {Erase(" 2")}},
+      {"VEXA-KT 440-840 Ver 3.22 Data File", "2", true, {Erase(" 2")}},
+      {"VEXA for Windows ver 1.10 Data File", "2", true, {Erase(" 2")}},
+      {"VEXA-KT 380-780 Ver 2.00 Data File", "2", true, {Erase(" 2")}},
+      {"anything", "2", true, {Erase(" 2")}},
+      {kHeader, " 0", true, {Erase(" 0")}},
+      {kHeader, "11", false, {kReadError}},
+      {kHeader, "-1", false, {kReadError}},
+      {kHeader, " 3", false, {Erase(" 3"), kReadError}},  // two blocks alone
+  };
+  for (const Case& c : cases) {
+    EXPECT_EQ(ReadDatDataFile(files.Write("a.dat", DatText(c.header, c.count, 2)), state, messages),
+              c.read)
+        << c.header.constData() << c.count.constData();
+    EXPECT_EQ(messages.Take(), c.shown) << c.header.constData() << c.count.constData();
+  }
+}
+
+TEST_F(DataFile, RefusedBlocksChangeNothingAndLaterSlotsStay) {
+  state.Slot(1)->reflectance[500] = 1.0;
+  state.Slot(3)->valid = true;
+  const QString path = files.Write("a.dat", DatText(kHeader, " 2", 2));
+  messages.answers = {MessageResult::kCancel};
+  EXPECT_FALSE(ReadDatDataFile(path, state, messages));
+  EXPECT_EQ(state.Slot(1)->reflectance[500], 1.0);
+  EXPECT_TRUE(ReadDatDataFile(path, state, messages));
+  EXPECT_EQ(state.Slot(1)->reflectance[500], 0.0);
+  EXPECT_TRUE(state.Slot(3)->valid);
+}
+
+TEST_F(DataFile, DefectiveCsvIsShownAndEndsTheRead) {
+  const QByteArray good = CsvText();
+  const std::pair<const char*, QByteArray> defects[] = {
+      {"empty", ""},
+      {"version 2.98", CsvText("2.98")},
+      {"another kind", QByteArray(good).replace("Data File", "Stock File")},
+      {"one row short", good.left(good.indexOf(" 840,"))},
+      {"a row with too few fields", QByteArray(good).replace(" 700,12.345678901234600,", "700,")},
+      {"a number out of range", QByteArray(good).replace("700.000000000000000", "1E999")},
+      {"binary", QByteArray("\x00\xff\x81\x00,\"\n\r", 8)},
+  };
+  for (const auto& [name, bytes] : defects) {
+    EXPECT_FALSE(ReadCsvDataFile(files.Write("a.csv", bytes), state, messages)) << name;
+    EXPECT_EQ(messages.Take(), std::vector{kReadError}) << name;
+  }
+  EXPECT_FALSE(ReadCsvDataFile(files.Path("missing.csv"), state, messages));
+  EXPECT_FALSE(ReadDatDataFile(files.Directory(), state, messages));
+  EXPECT_EQ(messages.Take(), (std::vector{kReadError, kReadError}));
+}
+
+TEST_F(DataFile, AdditionalDataHasItsOwnForm) {
+  ASSERT_TRUE(ReadCsvDataFile(files.Write("a.csv", CsvText()), state, messages));
+  for (MeasurementSlot& slot : state.measurementSlots) {
+    slot.colour = {
+        .L = 50.5, .a = -1.25, .b = 2, .x = 0.25, .y = 0.5, .C = 3, .h = 90, .Rm = 4, .Y = 5};
+  }
+  state.Slot(1)->info.remark1 = QStringLiteral("表");
+  state.Slot(2)->info.measuredAt = QDateTime({2026, 3, 9}, {7, 5, 3});
+  state.Slot(3)->info.measuredAt = QDateTime({2026, 3, 9}, {0, 0});
+  EXPECT_TRUE(WriteAddDataFile(files.Path("a.add"), state));
+  const auto padded = [](const char* value) {
+    return QByteArray(",").append(value).repeated(9) + "\r\n";
+  };
+  EXPECT_EQ(files.Read("a.add").toStdString(),
+            ("VEXA-KT 440-840 Ver3.21 AddData File\r\n"
+             "\x8c\xf5\x8c\xb9: "
+             "1(1:A,2:B,3:C,4:D65\x81\x6a,\x8e\x8b\x96\xec:True(True:2\x93x\x8e\x8b\x96\xec,"
+             "False:10\x93x\x8e\x8b\x96\xec)\r\n"
+             "L*, 50.5" +
+             padded("50.500000000000000") + "a*,-1.25" + padded("-1.250000000000000") + "b*, 2" +
+             padded("2.000000000000000") + "x, 0.25" + padded("0.250000000000000") + "y, 0.5" +
+             padded("0.500000000000000") + "\x90\x46\x91\x8a\x8ap, 90" +
+             padded("90.000000000000000") + "\x83N\x83\x8d\x83}, 3" + padded("3.000000000000000") +
+             "\x95\xbd\x8b\xcf\x94\xbd\x8e\xcb\x97\xa6, 4" + padded("4.000000000000000") +
+             "\x8e\x8b\x8a\xb4\x94\xbd\x8e\xcb\x97\xa6, 5" + padded("5.000000000000000") +
+             "\x8e\x8e\x97\xbfNo,A-1,\x95\\,,,,,,,,\r\n\x94\xf5\x8dl1,\x95\\,,,,,,,,,"
+             "\r\n\x94\xf5\x8dl2,,,,,,,,,,\r\n"
+             "\x91\xaa\x92\xe8\x93\xfa,0:00:00,2026/3/9 7:05:03,2026/3/9" +
+             QByteArray(",0:00:00").repeated(7) + "\r\n")
+                .toStdString());
+
+  const VEXATYPE before = state;
+  state.ClearSlots();
+  EXPECT_TRUE(ReadAddDataFile(files.Path("a.add"), state, messages));
+  EXPECT_EQ(state.Slot(2)->info.sampleNumber, QStringLiteral("表"));
+  EXPECT_EQ(state.Slot(2)->info.measuredAt, before.Slot(2)->info.measuredAt);
+  EXPECT_EQ(state.Slot(3)->info.measuredAt, before.Slot(3)->info.measuredAt);
+  EXPECT_FALSE(state.Slot(4)->info.measuredAt.isValid());
+  files.Write("b.add", files.Read("a.add").replace("2026/3/9 7:05:03", "soon"));
+  EXPECT_FALSE(ReadAddDataFile(files.Path("b.add"), state, messages));
+  EXPECT_EQ(messages.Take(), std::vector{kReadError});
+}
+
+}  // namespace
+}  // namespace vexa

@@ -1,0 +1,172 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "files/environment_file.h"
+
+#include <gtest/gtest.h>
+
+#include "files/startup_file.h"
+#include "support/prepared_answers.h"
+#include "support/temporary_files.h"
+
+namespace vexa {
+namespace {
+
+// Every value differs from its default; texts in Shift-JIS (表 is 95 5c).
+const char* const kGolden =
+    "VEXA-KT 440-840 Ver 3.21 Environment File\r\n 3 \r\n#TRUE#\r\n#FALSE#\r\n 450 \r\n 800.5 \r\n "
+    "50 \r\n"
+    "#FALSE#\r\n 12.5 \r\n 0.5 \r\n#FALSE#\r\n 0.25 \r\n 10 \r\n#FALSE#\r\n 4 \r\n#FALSE#\r\n 1 "
+    "\r\n"
+    "#FALSE#\r\n#FALSE#\r\nC:\\\x95\x5c.std\r\n 0 \r\n 4.25 \r\n"
+    " 2.5 \r\n-0.01 \r\n 0.02 \r\n-7.6123911E-05 \r\n 2.8558727E-05 \r\n-1.2566486E-06 \r\n"
+    " 1.1 \r\n 0.2 \r\n 1.3 \r\n 0.01 \r\n-0.02 \r\n 100 \r\na.ref\r\n 30 \r\n#TRUE#\r\n 2 \r\n 1 "
+    "\r\n"
+    " 4 \r\n 1.5 \r\n 1 \r\n 2 \r\n 3 \r\n 4 \r\n 5 \r\n 6 \r\n 7 \r\n 8 \r\n 9 \r\n 10 \r\n 11 "
+    "\r\n"
+    " 12 \r\nb.ind\r\nc d.csv\r\n 500 \r\n 600 \r\n";
+
+TEST(EnvironmentFile, EveryLineHasItsPlaceAndGoesRoundUnchanged) {
+  const test::TemporaryFiles files;
+  test::PreparedAnswers messages;
+  VEXATYPE state;
+  const EnvironmentRead result = ReadEnvFile(files.Write("a.env", kGolden), state, messages);
+  EXPECT_TRUE(result.read);
+  EXPECT_EQ(result.version, 3.21);
+  EXPECT_EQ(state.display.view, 3);
+  EXPECT_EQ(state.display.longestNm, 800.5);
+  EXPECT_EQ(state.display.textStepNm, 10);
+  EXPECT_EQ(state.display.labScale, 1);
+  EXPECT_EQ(state.colour.illuminant, 4);
+  EXPECT_EQ(state.standardFileName, QStringLiteral("C:\\表.std"));
+  EXPECT_EQ(state.referenceSetting.schott[3], -7.6123911E-05);
+  EXPECT_EQ(state.referenceSetting.sellmeier[5], 100.0);
+  EXPECT_EQ(state.instrument.samplingTimeMs, 30);
+  EXPECT_EQ(state.thickness.type, 2);
+  EXPECT_EQ(state.thickness.coat.kind, 4);
+  EXPECT_EQ(state.thickness.coat.sellmeier[0], 7.0);
+  EXPECT_EQ(state.thickness.coat.dataFileName, QStringLiteral("c d.csv"));
+  EXPECT_EQ(state.colour.avgTo, 600);
+  EXPECT_TRUE(WriteEnvFile(files.Path("b.env"), state));
+  EXPECT_EQ(files.Read("b.env").toStdString(), kGolden);
+  EXPECT_TRUE(messages.Take().empty());
+}
+
+TEST(EnvironmentFile, FullScaleSetsTheWavelengths) {
+  const test::TemporaryFiles files;
+  test::PreparedAnswers messages;
+  QByteArray full = kGolden;
+  full.replace("#TRUE#\r\n#FALSE#\r\n 450", "#TRUE#\r\n#TRUE#\r\n 450");
+  VEXATYPE state;
+  EXPECT_TRUE(ReadEnvFile(files.Write("a.env", full), state, messages).read);
+  EXPECT_EQ(state.display.shortestNm, 440.0);
+  EXPECT_EQ(state.display.longestNm, 840.0);
+}
+
+// The older layout, a line for each of its fields in their order.
+TEST(EnvironmentFile, OlderLayoutKeepsWhatItLacks) {
+  const test::TemporaryFiles files;
+  test::PreparedAnswers messages;
+  QByteArray old =
+      "VEXA for Windows ver 1.10 Environment "
+      "File\r\n#FALSE#\r\n1\r\n8\r\n2\r\n#FALSE#\r\n#FALSE#\r\n"
+      "460\r\n700\r\n20\r\n5\r\nskip\r\nskip\r\n#TRUE#\r\n#FALSE#\r\n2\r\n#FALSE#\r\n0\r\n"
+      "skip\r\nskip\r\nskip\r\n500\r\n1\r\n3."
+      "5\r\n21\r\n22\r\n23\r\n24\r\n25\r\n26\r\nskip\r\nskip\r\n"
+      "r.ref\r\n#TRUE#\r\n1\r\n1\r\n3\r\n1."
+      "25\r\n41\r\n42\r\n43\r\n44\r\n45\r\n46\r\nskip\r\nskip\r\n"
+      "i.ind\r\ns.csv\r\n";
+  VEXATYPE state;
+  state.standardFileName = QStringLiteral("kept.std");
+  state.display.view = 6;
+  const EnvironmentRead result = ReadEnvFile(files.Write("old.env", old), state, messages);
+  EXPECT_TRUE(result.read);
+  EXPECT_EQ(result.version, 1.1);
+  EXPECT_EQ(state.display.minimumPercent, 1.0);
+  EXPECT_EQ(state.display.maximumPercent, 8.0);
+  EXPECT_EQ(state.display.tickPercent, 2.0);
+  EXPECT_EQ(state.display.wavelengthTickNm, 20.0);
+  EXPECT_TRUE(state.display.showReferenceData);
+  EXPECT_FALSE(state.display.xyMode);
+  EXPECT_EQ(state.display.labScale, 0);
+  EXPECT_EQ(state.instrument.samplingTimeMs, 500);
+  EXPECT_EQ(state.referenceSetting.schott[5], 26.0);
+  EXPECT_EQ(state.referenceSetting.indexFileName, QStringLiteral("r.ref"));
+  EXPECT_EQ(state.thickness.coat.kind, 3);
+  EXPECT_EQ(state.thickness.coat.schott[0], 41.0);
+  EXPECT_EQ(state.thickness.coat.dataFileName, QStringLiteral("s.csv"));
+  EXPECT_EQ(state.standardFileName, QStringLiteral("kept.std"));
+  EXPECT_EQ(state.display.view, 6);
+}
+
+TEST(EnvironmentFile, DefectsEndTheRead) {
+  const test::TemporaryFiles files;
+  const QByteArray golden = kGolden;
+  struct Case {
+    const char* name;
+    QByteArray bytes;
+    bool read;
+    const char* version;  ///< in the message; null where there is none
+  };
+  const Case cases[] = {
+      {"version 3.00", QByteArray(golden).replace("3.21", "3.00"), true, nullptr},
+      {"version 0.5", QByteArray(golden).replace("3.21", "0.5"), false, "0.5"},
+      {"another model", QByteArray(golden).replace("VEXA", "OTHER"), false, "0"},
+      {"another kind", QByteArray(golden).replace("Environment", "Data"), false, "0"},
+      {"empty", "", false, "0"},
+      {"binary", QByteArray("\0\xff\x81\r\n\n,\"", 8), false, "0"},
+      {"cut short", golden.left(300), false, nullptr},
+      {"no flag", QByteArray(golden).replace("#TRUE#", "TRUE?"), false, nullptr},
+      {"number beyond 16 bits", QByteArray(golden).replace(" 3 \r\n#", " 40000 \r\n#"), false,
+       nullptr},
+  };
+  for (const Case& c : cases) {
+    test::PreparedAnswers messages;
+    VEXATYPE state;
+    const QString path = files.Write("x.env", c.bytes);
+    EXPECT_EQ(ReadEnvFile(path, state, messages).read, c.read) << c.name;
+    const auto shown = messages.Take();
+    ASSERT_EQ(shown.size(), c.version == nullptr ? 0U : 1U) << c.name;
+    if (c.version != nullptr) {
+      EXPECT_EQ(shown[0].text, "VEXA-KT ｴﾗｰ: 環境ﾌｧｲﾙのVerエラーが発生しました。\r\r環境ﾌｧｲﾙ名:" +
+                                   path.toStdString() + "\r\r環境ﾌｧｲﾙVer:" + c.version +
+                                   "\r\r環境ﾊﾟﾗﾒｰﾀｰはﾃﾞﾌｫﾙﾄ値に設定されます。");
+      EXPECT_EQ(shown[0].type, 16);
+    }
+  }
+}
+
+TEST(EnvironmentFile, AnUnreadableOneIsKeptWhenItIsOverwritten) {
+  const test::TemporaryFiles files;
+  const VEXATYPE state;
+  const QString path = files.Write("a.env", "precious but broken");
+  EXPECT_TRUE(WriteEnvFile(path, state));
+  EXPECT_EQ(files.Read("a.env.bad"), "precious but broken");
+  EXPECT_TRUE(WriteEnvFile(path, state));
+  EXPECT_EQ(files.Read("a.env.bad"), "precious but broken") << "a readable one needs no copy";
+}
+
+TEST(StartupFile, NineLines) {
+  const test::TemporaryFiles files;
+  const QByteArray golden =
+      "VEXA-KT 440-840 Ver 3.21 Environment File\r\nC:\\\x95\x5c.env\r\n 0 \r\n 130 \r\n 320 \r\n "
+      "370 \r\n 400 \r\n"
+      " 460 \r\n 380 \r\n";
+  files.Write("vexa.int", golden);
+  VEXATYPE state;
+  state.programDirectory = files.Directory();
+  EXPECT_TRUE(ReadStartupFile(state));
+  EXPECT_EQ(state.envFileName, QStringLiteral("C:\\表.env"));
+  EXPECT_EQ(state.instrument.controllerPort, 0);
+  EXPECT_EQ(state.instrument.linePositions, (LinePositions{130, 320, 370, 400, 460, 0}));
+  QFile::remove(files.Path("vexa.int"));
+  EXPECT_TRUE(WriteStartupFile(state));
+  EXPECT_EQ(files.Read("vexa.int"), golden);
+
+  for (const QByteArray& bytes :
+       {QByteArray(), golden.left(70), QByteArray(golden).replace("VEXA", "V")}) {
+    files.Write("vexa.int", bytes);
+    EXPECT_FALSE(ReadStartupFile(state));
+  }
+}
+
+}  // namespace
+}  // namespace vexa
