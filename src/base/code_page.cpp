@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "base/code_page.h"
 
-#include <QStringDecoder>
 #include <QStringEncoder>
+#include <algorithm>
 
 namespace vexa {
 namespace {
@@ -37,12 +37,18 @@ bool IsEncodable(const QString& text) {
   return !encoder.hasError();
 }
 
-QString Decode(QByteArrayView bytes) {
-  QStringDecoder decoder(kCodePage);
-  QString text = decoder.decode(bytes);
-  if (decoder.hasError()) {
+CodePageDecoder::CodePageDecoder() : decoder_(kCodePage, QStringConverter::Flag::Stateless) {}
+
+QString CodePageDecoder::Decode(QByteArrayView bytes) {
+  // Most fields are plain ASCII, which needs no converter.
+  if (std::all_of(bytes.begin(), bytes.end(), [](char c) { return c >= ' ' && c <= '~'; })) {
+    return QString::fromLatin1(bytes);
+  }
+  QString text = decoder_.decode(bytes);
+  if (decoder_.hasError()) {
     text.replace(kDecoderSubstitute, QChar(QChar::ReplacementCharacter));
   }
+  decoder_.resetState();
   return text;
 }
 

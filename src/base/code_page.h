@@ -4,6 +4,7 @@
 #include <QByteArray>
 #include <QByteArrayView>
 #include <QString>
+#include <QStringDecoder>
 
 namespace vexa {
 
@@ -14,7 +15,15 @@ namespace vexa {
 /// True when every character of the text has a place in the code page.
 [[nodiscard]] bool IsEncodable(const QString& text);
 
-/// The text of bytes in the code page; bytes that are no such text become U+FFFD.
-[[nodiscard]] QString Decode(QByteArrayView bytes);
+/// Turns bytes in the code page into text; bytes that are no such text become U+FFFD. Making one is
+/// dear, using it is cheap.
+class CodePageDecoder {
+ public:
+  CodePageDecoder();
+  QString Decode(QByteArrayView bytes);
+
+ private:
+  QStringDecoder decoder_;
+};
 
 }  // namespace vexa

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "base/number_text.h"
 
+#include <QVarLengthArray>
 #include <algorithm>
 #include <charconv>
 #include <cmath>
@@ -134,7 +135,11 @@ struct Scan {
 // from_chars knows neither a plus sign nor blanks, but also "inf" and "nan", which are no numbers
 // here.
 Scan ScanNumber(QStringView view) {
-  const std::string text = view.trimmed().toString().toStdString();
+  // A character beyond ASCII ends a number like any other letter.
+  QVarLengthArray<char, 64> text;
+  for (const QChar c : view.trimmed()) {
+    text.append(c.unicode() < 0x80 ? static_cast<char>(c.unicode()) : '?');
+  }
   const char* begin = text.data();
   const char* const end = begin + text.size();
   const bool plus = begin != end && *begin == '+';

@@ -7,13 +7,13 @@
 #include <limits>
 #include <optional>
 
-#include "base/code_page.h"
 #include "base/number_text.h"
 
 namespace vexa {
 namespace {
 
-constexpr qint64 kLargestFile = 64 * 1024 * 1024;
+constexpr qsizetype kLargestFile = 64 * 1024 * 1024;
+constexpr qint64 kChunk = 128 * 1024;
 
 std::int16_t ToInteger(double value) {
   const double rounded = std::nearbyint(value);
@@ -71,8 +71,14 @@ TextReader TextReader::Open(const QString& path) {
   if (!file.open(QIODevice::ReadOnly)) {
     throw ReadFault("file cannot be opened");
   }
-  QByteArray bytes = file.read(kLargestFile + 1);
-  if (file.error() != QFile::NoError || bytes.size() > kLargestFile) {
+  QByteArray bytes;
+  for (QByteArray chunk = file.read(kChunk); !chunk.isEmpty(); chunk = file.read(kChunk)) {
+    bytes += chunk;
+    if (bytes.size() > kLargestFile) {
+      throw ReadFault("file is too large");
+    }
+  }
+  if (file.error() != QFile::NoError) {
     throw ReadFault("file cannot be read");
   }
   return TextReader(std::move(bytes));
@@ -93,7 +99,7 @@ QByteArrayView TextReader::TakeLine() {
 }
 
 QString TextReader::Line() {
-  return Decode(TakeLine());
+  return decoder_.Decode(TakeLine());
 }
 
 QString TextReader::Field() {
@@ -102,7 +108,7 @@ QString TextReader::Field() {
   if (!rest.isNull()) {
     position_ = rest.data() - bytes_.constData();
   }
-  return Decode(field);
+  return decoder_.Decode(field);
 }
 
 QStringList TextReader::Row(qsizetype count) {
@@ -113,7 +119,7 @@ QStringList TextReader::Row(qsizetype count) {
     if (rest.isNull()) {
       throw ReadFault("too few fields");
     }
-    fields << Decode(CutField(rest));
+    fields << decoder_.Decode(CutField(rest));
   }
   return fields;
 }

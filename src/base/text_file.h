@@ -8,6 +8,8 @@
 #include <cstdint>
 #include <stdexcept>
 
+#include "base/code_page.h"
+
 namespace vexa {
 
 /// A file that does not hold what its reader expects. A reader catches it once and turns it into
@@ -57,6 +59,7 @@ class TextReader {
 
   QByteArray bytes_;
   qsizetype position_ = 0;
+  CodePageDecoder decoder_;
 };
 
 /// Collects the lines of a text file of the program.

@@ -46,7 +46,8 @@ int RunCommand(const Command& command, const QStringList& arguments) {
     Print(help);
     return kDone;
   }
-  if (parser.positionalArguments().size() != command.files) {
+  const qsizetype given = parser.positionalArguments().size();
+  if (command.files < 0 ? given < -command.files : given != command.files) {
     Complain(QStringLiteral("usage: vexa-cli %1 %2").arg(command.name, command.arguments));
     return kUsageError;
   }

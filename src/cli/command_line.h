@@ -16,7 +16,8 @@ struct Command {
   QString name;
   QString arguments;
   QString summary;
-  qsizetype files;  ///< how many arguments that are no options it takes
+  /// How many arguments that are no options it takes; a negative number -n is n or more.
+  qsizetype files;
   void (*declareOptions)(QCommandLineParser& parser);
   int (*run)(const QCommandLineParser& parser);
 };

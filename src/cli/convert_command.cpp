@@ -1,4 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include <QDir>
+#include <QFileInfo>
+
 #include "cli/command_line.h"
 #include "cli/console.h"
 #include "cli/program_settings.h"
@@ -10,49 +13,73 @@ namespace {
 const QString kLayout = QStringLiteral("layout");
 
 void DeclareOptions(QCommandLineParser& parser) {
-  parser.addPositionalArgument(QStringLiteral("IN"), QStringLiteral("Data file to read."));
-  parser.addPositionalArgument(QStringLiteral("OUT"), QStringLiteral("Data file to write."));
+  parser.addPositionalArgument(QStringLiteral("IN"),
+                               QStringLiteral("Data file to read, or several."));
+  parser.addPositionalArgument(QStringLiteral("OUT"),
+                               QStringLiteral("Data file to write, or a directory for several."));
   parser.addOption({kLayout,
                     QStringLiteral("1 csv, 2 dat with ten blocks, 3 dat with five (default: by the "
                                    "ending of OUT)."),
                     QStringLiteral("1|2|3")});
 }
 
-int Convert(const QCommandLineParser& parser) {
-  const QString in = parser.positionalArguments().front();
-  const QString out = parser.positionalArguments().back();
-  const bool dat = out.endsWith(QLatin1String("dat"), Qt::CaseInsensitive);
-  const std::optional<int> layout = IntegerOption(
-      parser, kLayout, static_cast<int>(dat ? DataFileLayout::kTenBlocks : DataFileLayout::kCsv), 1,
-      3);
-  if (!layout) {
-    return kUsageError;
-  }
-  ConsoleMessages messages(parser.isSet(option::kNo));
+DataFileLayout LayoutByEnding(const QString& path) {
+  return path.endsWith(QLatin1String("dat"), Qt::CaseInsensitive) ? DataFileLayout::kTenBlocks
+                                                                  : DataFileLayout::kCsv;
+}
+
+bool ConvertFile(const QString& in, const QString& out, DataFileLayout layout,
+                 MessageService& messages) {
   VEXATYPE state;
   if (!ReadDataFile(in, state, messages)) {
     Complain(QStringLiteral("%1: not read").arg(in));
-    return kFailed;
+    return false;
   }
-  if (!WriteDataFile(out, static_cast<DataFileLayout>(*layout), state)) {
+  if (!WriteDataFile(out, layout, state)) {
     Complain(QStringLiteral("%1: cannot be written").arg(out));
-    return kFailed;
+    return false;
+  }
+  return true;
+}
+
+int Convert(const QCommandLineParser& parser) {
+  QStringList files = parser.positionalArguments();
+  const QString out = files.takeLast();
+  const bool intoDirectory = QFileInfo(out).isDir();
+  if (files.size() > 1 && !intoDirectory) {
+    Complain(QStringLiteral("%1: several files go into a directory").arg(out));
+    return kUsageError;
+  }
+  const std::optional<int> number =
+      IntegerOption(parser, kLayout, static_cast<int>(LayoutByEnding(out)), 1, 3);
+  if (!number) {
+    return kUsageError;
+  }
+  const auto layout = static_cast<DataFileLayout>(*number);
+  const QString ending =
+      layout == DataFileLayout::kCsv ? QStringLiteral(".csv") : QStringLiteral(".dat");
+  ConsoleMessages messages(parser.isSet(option::kNo));
+  int written = 0;
+  for (const QString& in : files) {
+    const QString path =
+        intoDirectory ? QDir(out).filePath(QFileInfo(in).completeBaseName() + ending) : out;
+    written += ConvertFile(in, path, layout, messages) ? 1 : 0;
   }
   if (parser.isSet(option::kJson)) {
-    PrintJson({{QStringLiteral("in"), in},
-               {QStringLiteral("out"), out},
-               {QStringLiteral("layout"), *layout}});
+    PrintJson({{QStringLiteral("out"), out},
+               {QStringLiteral("layout"), *number},
+               {QStringLiteral("written"), written}});
   }
-  return kDone;
+  return written == files.size() ? kDone : kFailed;
 }
 
 }  // namespace
 
 Command ConvertCommand() {
   return {QStringLiteral("convert"),
-          QStringLiteral("IN OUT [--layout 1|2|3]"),
+          QStringLiteral("IN OUT [--layout 1|2|3] | IN... DIRECTORY [--layout 1|2|3]"),
           QStringLiteral("Reads a data file and writes it in another layout."),
-          2,
+          -2,
           DeclareOptions,
           Convert};
 }

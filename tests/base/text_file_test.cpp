@@ -95,6 +95,7 @@ TEST(TextReader, ValuesThatAreNoneAreFaults) {
   EXPECT_THROW(TextReader("1E999").RealLine(), ReadFault);
   EXPECT_THROW((void)TextReader::Open(QStringLiteral("/nowhere")), ReadFault);
   EXPECT_THROW((void)TextReader::Open(QStringLiteral("/")), ReadFault);
+  EXPECT_THROW((void)TextReader::Open(QStringLiteral("/dev/zero")), ReadFault) << "endless";
 }
 
 TEST(FileText, ReplacesItsFileWholeOrNotAtAll) {

@@ -143,6 +143,51 @@ TEST_F(CommandLine, ComputesReflectance) {
   EXPECT_EQ(ten.Json()[QLatin1String("values")].toArray()[0].toDouble(), 5.0);
 }
 
+TEST_F(CommandLine, ConvertsOneFileOrAThousand) {
+  QByteArray text = "VEXA-KT 440-840 Ver 3.21 Data File\r\nwave,a,,,,,,,,,\r\n";
+  for (int nm = 440; nm <= 840; ++nm) {
+    text += " " + QByteArray::number(nm) + ",1.250000000000000" +
+            QByteArray(",0.000000000000000").repeated(9) + "\r\n";
+  }
+  QStringList all{QStringLiteral("convert")};
+  for (int i = 0; i < 1000; ++i) {
+    QFile file(File(qPrintable(QStringLiteral("in%1.csv").arg(i))));
+    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+    file.write(text);
+    all << file.fileName();
+  }
+  ASSERT_TRUE(QDir(directory.path()).mkdir(QStringLiteral("出力")));
+  const QString output = directory.filePath(QStringLiteral("出力"));
+  const Outcome many = RunCli(all + QStringList{output, QStringLiteral("--json")});
+  EXPECT_EQ(many.status, 0) << many.err.constData();
+  EXPECT_EQ(many.Json()[QLatin1String("written")].toInt(), 1000);
+  QFile last(output + QStringLiteral("/in999.csv"));
+  ASSERT_TRUE(last.open(QIODevice::ReadOnly));
+  EXPECT_EQ(last.readAll().toStdString(), text.toStdString());
+
+  const QString blocks = File("out.dat");
+  EXPECT_EQ(RunCli({QStringLiteral("convert"), all[1], blocks}).status, 0);
+  const Outcome back = RunCli({QStringLiteral("convert"), blocks, File("back.csv")});
+  EXPECT_EQ(back.status, 0);
+  EXPECT_EQ(back.err.toStdString(),
+            "VEXA-KT:  1ﾃﾞｰﾀをひらくためﾃﾞｰﾀ１～ﾃﾞｰﾀ 1までのﾃﾞｰﾀが消去されます。\n");
+  EXPECT_EQ(
+      RunCli({QStringLiteral("convert"), blocks, File("x.csv"), QStringLiteral("--no")}).status, 1);
+  EXPECT_EQ(RunCli({QStringLiteral("convert"), all[1], all[2], File("x.csv")}).status, 2);
+  EXPECT_EQ(RunCli({QStringLiteral("convert"), File("missing.csv"), File("x.csv")}).status, 1);
+}
+
+TEST_F(CommandLine, ShowsAndRewritesEnvironments) {
+  const QString out = File("b.env");
+  QFile file(File("a.env"));
+  ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+  file.write("VEXA-KT 440-840 Ver 3.21 Environment File\r\nnone");
+  file.close();
+  const Outcome bad = RunCli({QStringLiteral("env"), file.fileName(), QStringLiteral("--json")});
+  EXPECT_EQ(bad.status, 1);
+  EXPECT_FALSE(bad.Json()[QLatin1String("read")].toBool(true));
+}
+
 class WithInstrument : public CommandLine {
  protected:
   void Start(const QStringList& options) {
