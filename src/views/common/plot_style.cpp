@@ -34,7 +34,12 @@ void ApplyPlotStyle(QCustomPlot& plot) {
 
 void PlaceLegendAbove(QCustomPlot& plot, int columns) {
   plot.plotLayout()->insertRow(0);
-  plot.plotLayout()->addElement(0, 0, plot.legend);
+  // Beside an element that takes the rest, so that an empty legend does not squeeze the axes.
+  auto* row = new QCPLayoutGrid;
+  plot.plotLayout()->addElement(0, 0, row);
+  row->addElement(0, 0, plot.legend);
+  row->addElement(0, 1, new QCPLayoutElement);
+  row->setColumnStretchFactor(0, 0.001);
   plot.plotLayout()->setRowStretchFactor(0, 0.001);
   plot.plotLayout()->setRowSpacing(0);
   plot.legend->setFillOrder(QCPLegend::foColumnsFirst);
