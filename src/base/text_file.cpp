@@ -12,8 +12,8 @@
 namespace vexa {
 namespace {
 
-constexpr qsizetype kLargestFile = 64 * 1024 * 1024;
-constexpr qint64 kChunk = 128 * 1024;
+constexpr qsizetype kLargestFile = qsizetype{64} * 1024 * 1024;
+constexpr qint64 kChunk = qint64{128} * 1024;
 
 std::int16_t ToInteger(double value) {
   const double rounded = std::nearbyint(value);
