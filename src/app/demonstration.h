@@ -21,7 +21,8 @@ class Demonstration {
   explicit Demonstration(const QString& directory);
   ~Demonstration();
 
-  /// Puts settings for the virtual instrument into the directory and starts it; false, with a line on standard error, when it does not come up.
+  /// Puts settings for the virtual instrument into the directory and starts it; false, with a line
+  /// on standard error, when it does not come up.
   [[nodiscard]] bool StartInstrument();
 
   /// Presses the buttons of a loaded window; the exit status of the program.
