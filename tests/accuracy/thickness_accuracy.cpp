@@ -148,26 +148,82 @@ void PrintHeader(const Conditions& conditions, const char* last) {
   std::printf("| coat nm | type | kind | %s\n", last);
 }
 
-// A row a result; the number of results outside their limit.
+// True extrema of the coat's reflectance, found on a fine grid.
+std::vector<double> TrueExtremaNm(double thicknessNm, ExtremaWanted wanted) {
+  constexpr double kStepNm = 0.02;
+  const simulator::ReflectanceCurve percent = HardCoat(thicknessNm);
+  std::vector<double> found;
+  for (double nm = ReflectanceSpectrum::kFirstNm; nm <= ReflectanceSpectrum::kLastNm;
+       nm += kStepNm) {
+    const double before = percent(nm - kStepNm);
+    const double at = percent(nm);
+    const double after = percent(nm + kStepNm);
+    const bool maximum = at > before && at >= after;
+    const bool minimum = at < before && at <= after;
+    if ((maximum && wanted != ExtremaWanted::kMinima) ||
+        (minimum && wanted != ExtremaWanted::kMaxima)) {
+      found.push_back(nm);
+    }
+  }
+  return found;
+}
+
+// The smoothing window, cut at the ends of the range, splits extrema nearer to an end than this.
+constexpr double kSplitReachNm = 7.0;
+
+bool NearAnEnd(double nm) {
+  return nm < ReflectanceSpectrum::kFirstNm + kSplitReachNm ||
+         nm > ReflectanceSpectrum::kLastNm - kSplitReachNm;
+}
+
+bool HasExtremumNearAnEnd(double thicknessNm) {
+  return std::ranges::any_of(TrueExtremaNm(thicknessNm, ExtremaWanted::kBoth), NearAnEnd);
+}
+
+void PrintTruth(const std::vector<double>& coatsNm) {
+  std::printf("| coat nm | extrema | minima | maxima | nearer than %.0f nm to an end |\n",
+              kSplitReachNm);
+  std::printf("|---|---|---|---|---|\n");
+  for (const double coatNm : coatsNm) {
+    std::printf("| %.0f | %zu | %zu | %zu |", coatNm,
+                TrueExtremaNm(coatNm, ExtremaWanted::kBoth).size(),
+                TrueExtremaNm(coatNm, ExtremaWanted::kMinima).size(),
+                TrueExtremaNm(coatNm, ExtremaWanted::kMaxima).size());
+    for (const auto& [wanted, name] : {std::pair(ExtremaWanted::kMinima, "minimum"),
+                                       std::pair(ExtremaWanted::kMaxima, "maximum")}) {
+      for (const double nm : TrueExtremaNm(coatNm, wanted)) {
+        if (NearAnEnd(nm)) {
+          std::printf(" %s at %.1f", name, nm);
+        }
+      }
+    }
+    std::printf(" |\n");
+  }
+}
+
+// A row a result; the number of results outside their limit though no extremum is near an end.
 int PrintOnce(const std::vector<double>& coatsNm, const Conditions& conditions) {
   PrintHeader(conditions, "extrema | from nm | to nm | truth | result | deviation | limit | |");
   std::printf("|---|---|---|---|---|---|---|---|---|---|---|\n");
   int outside = 0;
+  int unexplained = 0;
   for (const double coatNm : coatsNm) {
     std::mt19937_64 generator(kSeed);
+    const bool mayBeSplit = HasExtremumNearAnEnd(coatNm);
     const ReflectanceSpectrum spectrum = Measure(coatNm, conditions, generator);
     for (int type = 0; type < 3; ++type) {
       for (int kind = 0; kind < 2; ++kind) {
         const Outcome o = Evaluate(spectrum, type, kind, coatNm);
         outside += o.WithinLimit() ? 0 : 1;
+        unexplained += o.WithinLimit() || mayBeSplit ? 0 : 1;
         std::printf("| %.0f | %c | %s | %zu | %.1f | %.1f | %.1f | %.1f | %+.1f | %.1f | %s |\n",
                     coatNm, kTypes[type], kKinds[kind], o.extrema, o.firstNm, o.secondNm, o.truthNm,
                     o.resultNm, o.Deviation(), o.limitNm, o.WithinLimit() ? "" : "outside");
       }
     }
   }
-  std::printf("\n%d outside\n", outside);
-  return outside;
+  std::printf("\n%d outside, %d of them without an extremum near an end\n", outside, unexplained);
+  return unexplained;
 }
 
 // Many measurements with noise of the same coat, a row for each type.
@@ -203,10 +259,12 @@ void PrintRepeated(const std::vector<double>& coatsNm, const Conditions& conditi
 
 int main() {
   const std::vector<double> coatsNm{1000, 1500, 2000, 3000, 4000, 5000, 6000};
+  vexa::PrintTruth(coatsNm);
   vexa::PrintOnce(coatsNm, {3000.0, 1, false});
-  vexa::PrintOnce(coatsNm, {10000.0, 1, false});
+  const int unexplained = vexa::PrintOnce(coatsNm, {10000.0, 1, false});
   vexa::PrintOnce(coatsNm, {3000.0, 8, true});
+  vexa::PrintOnce(coatsNm, {10000.0, 8, true});
   vexa::PrintRepeated(coatsNm, {3000.0, 8, true});
   vexa::PrintRepeated(coatsNm, {10000.0, 8, true});
-  return 0;
+  return unexplained == 0 ? 0 : 1;
 }

@@ -40,9 +40,7 @@ class History : public testing::Test {
   QPushButton* Button(const char* name) {
     return window.findChild<QPushButton*>(QLatin1String(name));
   }
-  void Choose(const char* action) {
-    window.findChild<QAction*>(QLatin1String(action))->trigger();
-  }
+  void Choose(const char* action) { window.findChild<QAction*>(QLatin1String(action))->trigger(); }
   QCPRange Scale() {
     return window.findChild<HistoryPlot*>(QStringLiteral("HistoryPlot"))->yAxis->range();
   }
@@ -142,9 +140,9 @@ TEST_F(History, ClearsAfterAQuestion) {
 
 TEST_F(History, APointOffTheScaleKeepsTheScale) {
   Add({1510.0, 1630.0, 20001.0});
-  EXPECT_EQ(messages.Take(),
-            (std::vector{
-                ShownMessage{"VEXA-KT: 設定にｴﾗｰが発生しました。変更はされません。", 48}}));
+  EXPECT_EQ(
+      messages.Take(),
+      (std::vector{ShownMessage{"VEXA-KT: 設定にｴﾗｰが発生しました。変更はされません。", 48}}));
   EXPECT_EQ(Scale(), QCPRange(1500.0, 1650.0));
 }
 
@@ -159,14 +157,13 @@ TEST_F(History, IsSaved) {
   messages.answers = {MessageResult::kCancel};
   Choose("SaveAs");
   EXPECT_EQ(messages.Take(),
-            (std::vector{ShownMessage{
-                "VEXA-KT ﾜｰﾆﾝｸﾞ: 同ﾌｧｲﾙ名が存在します。上書き保存しますか？", 49}}));
+            (std::vector{
+                ShownMessage{"VEXA-KT ﾜｰﾆﾝｸﾞ: 同ﾌｧｲﾙ名が存在します。上書き保存しますか？", 49}}));
   EXPECT_TRUE(Bytes(File("履歴.thk")).endsWith("1512.25\r\n"));
   files.save = SaveChoice{File("missing/x"), 1};
   Choose("SaveAs");
   EXPECT_EQ(messages.Take(),
-            (std::vector{
-                ShownMessage{"VEXA-KT ｴﾗｰ: 膜厚履歴ﾌｧｲﾙの書き込みに失敗しました。", 16}}));
+            (std::vector{ShownMessage{"VEXA-KT ｴﾗｰ: 膜厚履歴ﾌｧｲﾙの書き込みに失敗しました。", 16}}));
 }
 
 TEST_F(History, ScaleDialogKeepsItsLimits) {
@@ -175,10 +172,9 @@ TEST_F(History, ScaleDialogKeepsItsLimits) {
     const char* maximum;
     bool accepted;
   } cases[] = {
-      {"0", "99", false},      {"0", "100", true},      {"0", "99.5", true},
-      {"0", "99.4", false},    {"-1", "500", false},    {"0", "20000", true},
-      {"0", "20001", false},   {"500", "400", false},   {"19900", "20000", true},
-      {"", "500", false},      {"1E3", "2E3", true},
+      {"0", "99", false},       {"0", "100", true},   {"0", "99.5", true},   {"0", "99.4", false},
+      {"-1", "500", false},     {"0", "20000", true}, {"0", "20001", false}, {"500", "400", false},
+      {"19900", "20000", true}, {"", "500", false},   {"1E3", "2E3", true},
   };
   for (const auto& c : cases) {
     ThickGSetDlg dialog({0.0, 100.0}, true, messages);

@@ -55,10 +55,10 @@ class Settings : public testing::Test {
 };
 
 TEST_F(Settings, HoldSevenPagesAndEnableTheFieldsOfTheKind) {
-  const QStringList captions{
-      QStringLiteral("膜厚測定"), QStringLiteral("分散設定"), QStringLiteral("固定値"),
-      QStringLiteral("分散式１"), QStringLiteral("分散式２"), QStringLiteral("ﾌｧｲﾙ"),
-      QStringLiteral("基板屈折率")};
+  const QStringList captions{QStringLiteral("膜厚測定"),  QStringLiteral("分散設定"),
+                             QStringLiteral("固定値"),    QStringLiteral("分散式１"),
+                             QStringLiteral("分散式２"),  QStringLiteral("ﾌｧｲﾙ"),
+                             QStringLiteral("基板屈折率")};
   const char* const fieldOfKind[] = {"FixedValue", "Schott5", "Sellmeier0", "IndexLoad",
                                      "SubstrateLoad"};
   for (const Mode mode : {Mode::kReference, Mode::kThickness}) {
@@ -104,11 +104,11 @@ TEST_F(Settings, FixedValuesHaveTheirRange) {
     const char* typed;
     std::vector<ShownMessage> shown;
   } cases[] = {
-      {Mode::kReference, "110", {}},    {Mode::kReference, "110.0001", {reflectance}},
-      {Mode::kReference, "0.1", {}},    {Mode::kReference, "0.0999", {reflectance}},
-      {Mode::kReference, "1E1", {}},    {Mode::kReference, "", {reflectance}},
-      {Mode::kThickness, "0.1", {}},    {Mode::kThickness, "0.0999", {index}},
-      {Mode::kThickness, "10", {}},     {Mode::kThickness, "10.0001", {index}},
+      {Mode::kReference, "110", {}},       {Mode::kReference, "110.0001", {reflectance}},
+      {Mode::kReference, "0.1", {}},       {Mode::kReference, "0.0999", {reflectance}},
+      {Mode::kReference, "1E1", {}},       {Mode::kReference, "", {reflectance}},
+      {Mode::kThickness, "0.1", {}},       {Mode::kThickness, "0.0999", {index}},
+      {Mode::kThickness, "10", {}},        {Mode::kThickness, "10.0001", {index}},
       {Mode::kThickness, "1.5+", {index}},
   };
   for (const auto& c : cases) {
@@ -210,8 +210,7 @@ TEST_F(Settings, FilesAreSavedAndLoaded) {
       {Mode::kThickness, "膜.ind", "VEXA-KT 440-840 Ver 3.21 Index File\r\n",
        "ｲﾝﾃﾞｯｸｽ･ﾃﾞｰﾀﾌｧｲﾙ(*.ind)|*.ind|"},
   };
-  const ShownMessage question{
-      "VEXA-KT ﾜｰﾆﾝｸﾞ: 同ﾌｧｲﾙ名が存在します。上書き保存しますか？", 49};
+  const ShownMessage question{"VEXA-KT ﾜｰﾆﾝｸﾞ: 同ﾌｧｲﾙ名が存在します。上書き保存しますか？", 49};
   for (const auto& c : cases) {
     Open(c.mode);
     Press("Kind0");
@@ -233,8 +232,8 @@ TEST_F(Settings, FilesAreSavedAndLoaded) {
     EXPECT_EQ(files.filter, c.filter);
     Press("OK");
     EXPECT_TRUE(messages.Take().empty());
-    EXPECT_EQ(
-        (c.mode == Mode::kReference ? state.referenceReflectance : state.filmIndex)[700], 1.75);
+    EXPECT_EQ((c.mode == Mode::kReference ? state.referenceReflectance : state.filmIndex)[700],
+              1.75);
   }
 }
 
@@ -277,7 +276,7 @@ TEST_F(Settings, BadFilesLeaveTheFieldsAsTheyWere) {
 TEST_F(Settings, SubstrateFilesGiveTheIndexOfTheSubstrate) {
   QFile file(File("基板.dat"));
   ASSERT_TRUE(file.open(QIODevice::WriteOnly));
-  file.write("VEXA-KT DAT Ver 1.00\r\na,b,c\r\n");
+  file.write("VEXA for Windows ver 1.10 Data File\r\na comment\r\n 1 \r\nsample\r\n");
   for (int nm = 440; nm <= 840; ++nm) {
     file.write("4\r\n");
   }

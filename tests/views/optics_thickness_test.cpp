@@ -24,8 +24,7 @@ class Thickness : public testing::Test {
   void Fill(int slot, double opticalNm) {
     state.Slot(slot)->valid = true;
     for (int nm = 440; nm <= 840; ++nm) {
-      state.Slot(slot)->reflectance[nm] =
-          5.0 - std::cos(4.0 * std::numbers::pi * opticalNm / nm);
+      state.Slot(slot)->reflectance[nm] = 5.0 - std::cos(4.0 * std::numbers::pi * opticalNm / nm);
     }
   }
   std::string Text(const char* name) {
@@ -70,8 +69,8 @@ TEST_F(Thickness, IsComputedForTheSelectedSlotAndShown) {
 TEST_F(Thickness, WithoutAResultThereIsAMessage) {
   const ShownMessage disabled{"VEXA-KT ｴﾗｰ: 膜厚測定設定が有効ではありません。", 16};
   const ShownMessage empty{"VEXA-KT 情報: 有効ﾃﾞｰﾀがありません。", 64};
-  const ShownMessage tooFew{
-      "VEXA-KT ｴﾗｰ: 検出ピーク数が２個以下で膜厚計算にｴﾗｰが発生しました。", 16};
+  const ShownMessage tooFew{"VEXA-KT ｴﾗｰ: 検出ピーク数が２個以下で膜厚計算にｴﾗｰが発生しました。",
+                            16};
   int computed = 0;
   QObject::connect(&panel, &ThicknessPanel::Computed, [&computed] { ++computed; });
   Press();

@@ -2,7 +2,6 @@
 #include "views/optics/wave_list_dlg.h"
 
 #include <QHBoxLayout>
-#include <QHeaderView>
 #include <QPushButton>
 #include <QTreeWidget>
 #include <QVBoxLayout>
@@ -11,6 +10,11 @@
 #include "views/optics/optics_print.h"
 
 namespace vexa {
+namespace {
+
+constexpr int kColumnWidth = 80;  // the last column takes what is left
+
+}  // namespace
 
 WaveListDlg::WaveListDlg(const VEXATYPE& state, MessageService& messages, QWidget* parent)
     : QDialog(parent) {
@@ -24,8 +28,8 @@ WaveListDlg::WaveListDlg(const VEXATYPE& state, MessageService& messages, QWidge
   list->setSelectionMode(QAbstractItemView::NoSelection);
   list->setFocusPolicy(Qt::NoFocus);
   list->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-  list->header()->setSectionResizeMode(QHeaderView::Stretch);
   for (int column = 0; column < list->columnCount(); ++column) {
+    list->setColumnWidth(column, kColumnWidth);
     list->headerItem()->setTextAlignment(column, Qt::AlignRight | Qt::AlignVCenter);
   }
   for (const QString& row : ExtremumRows(state.extrema)) {
