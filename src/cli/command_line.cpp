@@ -11,8 +11,8 @@
 namespace vexa::cli {
 namespace {
 
-const std::array kCommands{DecodeCommand, ReflectanceCommand, MeasureCommand, ConvertCommand,
-                           EnvCommand};
+const std::array kCommands{ConvertCommand, DecodeCommand,  DispersionCommand,
+                           EnvCommand,     MeasureCommand, ReflectanceCommand};
 
 QString Overview() {
   QString text = QStringLiteral("Usage: vexa-cli COMMAND [arguments] [options]\n\nCommands:\n");

@@ -22,11 +22,12 @@ struct Command {
   int (*run)(const QCommandLineParser& parser);
 };
 
-[[nodiscard]] Command DecodeCommand();
-[[nodiscard]] Command ReflectanceCommand();
-[[nodiscard]] Command MeasureCommand();
 [[nodiscard]] Command ConvertCommand();
+[[nodiscard]] Command DecodeCommand();
+[[nodiscard]] Command DispersionCommand();
 [[nodiscard]] Command EnvCommand();
+[[nodiscard]] Command MeasureCommand();
+[[nodiscard]] Command ReflectanceCommand();
 
 /// The value of a whole-number option, or `otherwise` when it was not given. Nothing, and a
 /// complaint, when it is no number within minimum..maximum.

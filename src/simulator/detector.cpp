@@ -63,6 +63,10 @@ double SpectralResponse(double wavelengthNm) {
 }
 
 PixelCounts MeanCounts(Sample sample, const Exposure& exposure) {
+  return MeanCounts([sample](double nm) { return TrueReflectancePercent(sample, nm); }, exposure);
+}
+
+PixelCounts MeanCounts(const ReflectanceCurve& percent, const Exposure& exposure) {
   const double lampPerPercent =
       exposure.lightShutterClosed
           ? 0.0
@@ -73,7 +77,7 @@ PixelCounts MeanCounts(Sample sample, const Exposure& exposure) {
     const double nm = PixelWavelengthNm(pixel);
     double countsPerMs = kDarkCountsPerMs + room * RoomLight(nm);
     if (lampPerPercent > 0.0) {
-      countsPerMs += lampPerPercent * LampSignal(nm) * TrueReflectancePercent(sample, nm);
+      countsPerMs += lampPerPercent * LampSignal(nm) * percent(nm);
     }
     counts[static_cast<std::size_t>(pixel)] =
         kDarkOffsetCounts + countsPerMs * exposure.integrationMs;

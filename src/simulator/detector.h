@@ -3,6 +3,7 @@
 
 #include <array>
 #include <cstdint>
+#include <functional>
 #include <random>
 
 #include "simulator/samples.h"
@@ -40,6 +41,12 @@ using SensorLine = std::array<std::uint16_t, kPixels>;
 /// sample (the 4 % reference peaks at 575 counts in 3000 ms) and, with the eyepiece open, room
 /// light (30 counts at its peak in 3000 ms). All but the 60 grow in proportion to the time.
 [[nodiscard]] PixelCounts MeanCounts(Sample sample, const Exposure& exposure);
+
+/// Reflectance in percent at a wavelength in nanometres.
+using ReflectanceCurve = std::function<double(double wavelengthNm)>;
+
+/// Likewise for a face of any reflectance, such as that of a FilmStack.
+[[nodiscard]] PixelCounts MeanCounts(const ReflectanceCurve& percent, const Exposure& exposure);
 
 /// Digitises a line: rounded, clipped to 0..4095. With a generator, shot noise (200 electrons a
 /// count, so a variance of counts / 200) and read noise (1 count) come first; the same generator

@@ -1,0 +1,49 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "views/optics/history_plot.h"
+
+#include "optics/thickness.h"
+#include "views/common/plot_style.h"
+#include "views/common/theme.h"
+
+namespace vexa {
+namespace {
+
+constexpr int kPointStep = 10;  // the axis grows by so many points
+
+}  // namespace
+
+HistoryPlot::HistoryPlot(QWidget* parent)
+    : QCustomPlot(parent), line_(addGraph()), cursorLine_(new QCPItemStraightLine(this)) {
+  setObjectName(QStringLiteral("HistoryPlot"));
+  ApplyPlotStyle(*this);
+  xAxis->setLabel(QStringLiteral("ﾃﾞｰﾀｲﾝﾃﾞｯｸｽ"));
+  xAxis->setSubTicks(false);
+  yAxis->setNumberFormat(QStringLiteral("f"));
+  yAxis->setNumberPrecision(0);
+  line_->setPen(QPen(theme::kAccent, 1.4));
+  line_->setScatterStyle(
+      QCPScatterStyle(QCPScatterStyle::ssDisc, QPen(theme::kAccent), theme::kAccent, 7));
+  line_->setAdaptiveSampling(false);
+  cursorLine_->setPen(QPen(theme::kMutedText, 1.0, Qt::DashLine));
+}
+
+void HistoryPlot::Show(const ThicknessHistory& history, const ThicknessScale& scale, int cursor) {
+  QVector<QCPGraphData> points;
+  for (const double thicknessNm : history.Points()) {
+    points.append({static_cast<double>(points.size() + 1), thicknessNm});
+  }
+  line_->data()->set(points, true);
+  const int tens = qMax(1, (history.count + kPointStep - 1) / kPointStep);
+  const QSharedPointer<QCPAxisTickerFixed> ticker(new QCPAxisTickerFixed);
+  ticker->setTickStep(tens);
+  xAxis->setTicker(ticker);
+  xAxis->setRange(0.0, tens * kPointStep + 0.5 * tens);
+  yAxis->setRange(scale.minimumNm, scale.maximumNm);
+  yAxis->setLabel(QStringLiteral("膜厚 ") + ThicknessUnit(history.physical));
+  cursorLine_->setVisible(cursor > 0);
+  cursorLine_->point1->setCoords(cursor, scale.minimumNm);
+  cursorLine_->point2->setCoords(cursor, scale.maximumNm);
+  replot(rpQueuedReplot);
+}
+
+}  // namespace vexa

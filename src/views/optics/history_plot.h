@@ -1,0 +1,25 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <qcustomplot.h>
+
+#include "optics/thickness_history.h"
+
+namespace vexa {
+
+/// The thicknesses of a history over their point numbers.
+class HistoryPlot : public QCustomPlot {
+  Q_OBJECT
+
+ public:
+  explicit HistoryPlot(QWidget* parent = nullptr);
+
+  /// `cursor` is the number of the marked point, 0 for none.
+  void Show(const ThicknessHistory& history, const ThicknessScale& scale, int cursor);
+
+ private:
+  QCPGraph* line_;
+  QCPItemStraightLine* cursorLine_;
+};
+
+}  // namespace vexa

@@ -1,0 +1,47 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "views/optics/jamp_wave.h"
+
+#include <QGridLayout>
+#include <QGroupBox>
+#include <QLabel>
+#include <QVBoxLayout>
+
+#include "views/common/dialog_buttons.h"
+
+namespace vexa {
+namespace {
+
+constexpr int kReciprocalView = 6;
+
+}  // namespace
+
+JampWave::JampWave(const VEXATYPE& state, QWidget* parent)
+    : QDialog(parent), wavelength_(new IntegerField) {
+  setObjectName(QStringLiteral("JampWave"));
+  setWindowTitle(QStringLiteral("ｼﾞｬﾝﾌﾟ"));
+  wavelength_->setObjectName(QStringLiteral("Wavelength"));
+  auto* unit = new QLabel(state.display.view == kReciprocalView ? QStringLiteral("[1/nm]")
+                                                                : QStringLiteral("[nm]"));
+  unit->setObjectName(QStringLiteral("Unit"));
+  auto* frame = new QGroupBox(QStringLiteral("ｼﾞｬﾝﾌﾟ設定"));
+  auto* grid = new QGridLayout(frame);
+  grid->setContentsMargins(16, 12, 16, 12);
+  grid->setHorizontalSpacing(12);
+  grid->setVerticalSpacing(10);
+  grid->setColumnStretch(2, 1);
+  grid->addWidget(new QLabel(QStringLiteral("移動先の波長を指定して下さい")), 0, 0, 1, 3);
+  grid->addWidget(wavelength_, 1, 0);
+  grid->addWidget(unit, 1, 1);
+  auto* layout = new QVBoxLayout(this);
+  layout->setContentsMargins(14, 14, 14, 12);
+  layout->setSpacing(12);
+  layout->addWidget(frame);
+  layout->addWidget(OkCancelButtons(*this));
+  wavelength_->setFocus();
+}
+
+QString JampWave::Outcome() const {
+  return OutcomeText(*this);
+}
+
+}  // namespace vexa

@@ -1,0 +1,39 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <QGroupBox>
+#include <QStringList>
+#include <span>
+#include <vector>
+
+#include "views/common/number_field.h"
+
+namespace vexa {
+
+/// A frame of labelled number fields. A number that was not edited keeps all its digits, however
+/// few of them the field shows.
+class NumberFieldsFrame : public QGroupBox {
+  Q_OBJECT
+
+ public:
+  struct Look {
+    QString caption;
+    QStringList labels;
+    QString pattern;    ///< of the numbers, as FormatNumber takes it
+    QString fieldName;  ///< of the field; of several, with the place 0, 1, ... behind it
+    QString unit;
+  };
+
+  /// `values` holds a number for each label.
+  NumberFieldsFrame(const Look& look, std::span<const double> values, QWidget* parent = nullptr);
+
+  /// Puts the edited numbers into `values`, which hold those that the frame was made with. False
+  /// when a text is no number; its value stays as it was.
+  [[nodiscard]] bool Take(std::span<double> values) const;
+
+ private:
+  std::vector<NumberField*> fields_;
+  QStringList shown_;
+};
+
+}  // namespace vexa

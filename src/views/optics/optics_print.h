@@ -1,0 +1,31 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <QRectF>
+#include <QStringList>
+#include <functional>
+
+#include "base/message.h"
+#include "optics/extremum_list.h"
+#include "optics/thickness_history.h"
+
+class QPainter;
+class QWidget;
+
+namespace vexa {
+
+/// Paints the history onto the page: caption, graph and the list of its points.
+void PaintHistoryPage(QPainter& painter, const QRectF& page, const ThicknessHistory& history,
+                      const ThicknessScale& scale);
+
+/// The titles of the columns of ExtremumRows.
+[[nodiscard]] QStringList WaveListTitles();
+
+/// Paints the wavelength list onto the page: caption and a row for each extremum.
+void PaintWaveListPage(QPainter& painter, const QRectF& page, const ExtremumList& list);
+
+/// Asks for a printer and has one page painted on it; a printer that fails is shown.
+void PrintPage(QWidget* window, MessageService& messages,
+               const std::function<void(QPainter& painter, const QRectF& page)>& paint);
+
+}  // namespace vexa

@@ -1,0 +1,301 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "views/optics/ref_set_dlg.h"
+
+#include <QAbstractButton>
+#include <QPushButton>
+#include <QVBoxLayout>
+
+#include "base/code_page.h"
+#include "measurement/dispersion_data.h"
+#include "optics/bunsan.h"
+#include "optics/index_file.h"
+#include "views/common/dialog_buttons.h"
+#include "views/files/file_questions.h"
+#include "views/optics/file_frame.h"
+#include "views/optics/number_fields_frame.h"
+#include "views/optics/option_frame.h"
+#include "views/optics/thickness_measurement_page.h"
+
+namespace vexa {
+
+using namespace message_type;
+
+namespace {
+
+const QString kTitle = QStringLiteral("VEXA-KT");
+const QString kInputTitle = QStringLiteral("設定入力");
+
+/// What differs between the two uses.
+struct ModeTexts {
+  QString caption;
+  QString kindFrame;
+  QString valueLabel;
+  QString unit;
+  QString rangeMessage;
+  double highestFixedValue;
+  QString fileFilter;
+  QString extension;
+  QString readFailure;
+  QString writeFailure;
+};
+
+constexpr double kLowestFixedValue = 0.1;
+
+const ModeTexts& Texts(RefSetDlg::Mode mode) {
+  static const ModeTexts kReference{
+      QStringLiteral("ﾘﾌｧﾚﾝｽ設定"),
+      QStringLiteral("ﾘﾌｧﾚﾝｽ設定"),
+      QStringLiteral("反射率"),
+      QStringLiteral("[%]"),
+      QStringLiteral("固定反射率値が設定範囲を越えています。 (0.1 ≦ 設定値 ≦ 110)"),
+      110.0,
+      QStringLiteral("ﾘﾌｧﾚﾝｽ･ﾃﾞｰﾀﾌｧｲﾙ(*.ref)|*.ref|"),
+      QStringLiteral(".ref"),
+      QStringLiteral("ﾘﾌｧﾚﾝｽ･ﾌｧｲﾙの読み込みに失敗しました。"),
+      QStringLiteral("ﾘﾌｧﾚﾝｽ･ﾌｧｲﾙの書き込みに失敗しました。")};
+  static const ModeTexts kThickness{
+      QStringLiteral("膜厚設定"),
+      QStringLiteral("ｺｰﾄ屈折率設定"),
+      QStringLiteral("屈折率"),
+      QStringLiteral("[n]"),
+      QStringLiteral("固定屈折率が設定範囲を越えています。 (0.1 ≦ 設定値 ≦ 10)"),
+      10.0,
+      QStringLiteral("ｲﾝﾃﾞｯｸｽ･ﾃﾞｰﾀﾌｧｲﾙ(*.ind)|*.ind|"),
+      QStringLiteral(".ind"),
+      QStringLiteral("屈折率ﾌｧｲﾙの読み込みに失敗しました。"),
+      QStringLiteral("屈折率ﾌｧｲﾙの書き込みに失敗しました。")};
+  return mode == RefSetDlg::Mode::kReference ? kReference : kThickness;
+}
+
+}  // namespace
+
+RefSetDlg::RefSetDlg(Mode mode, VEXATYPE& state, MessageService& messages, FileDialogs& dialogs,
+                     QWidget* parent)
+    : QDialog(parent),
+      mode_(mode),
+      state_(state),
+      messages_(messages),
+      dialogs_(dialogs),
+      original_(mode == Mode::kReference ? state.referenceSetting : state.thickness.coat),
+      pages_(new QTabWidget),
+      kind_(new QButtonGroup(this)) {
+  setObjectName(QStringLiteral("RefSetDlg"));
+  setWindowTitle(Texts(mode).caption);
+  BuildPages();
+  connect(kind_, &QButtonGroup::idToggled, this, &RefSetDlg::EnableFieldsOfKind);
+  EnableFieldsOfKind();
+  QPushButton* save = DialogButton(QStringLiteral("Save"));
+  connect(save, &QPushButton::clicked, this, &RefSetDlg::Save);
+  auto* layout = new QVBoxLayout(this);
+  layout->setContentsMargins(14, 14, 14, 12);
+  layout->setSpacing(12);
+  layout->addWidget(pages_);
+  layout->addWidget(OkCancelButtons(*this, save));
+}
+
+QString RefSetDlg::Outcome() const {
+  return OutcomeText(*this);
+}
+
+void RefSetDlg::accept() {
+  Edited edited;
+  if (!Apply(edited)) {
+    return;
+  }
+  if (mode_ == Mode::kReference) {
+    state_.referenceSetting = edited.setting;
+    state_.referenceReflectance = edited.spectrum;
+  } else {
+    state_.thickness = edited.thickness;
+    StoreCoatSpectrum(state_, edited.spectrum);
+  }
+  QDialog::accept();
+}
+
+void RefSetDlg::BuildPages() {
+  const ModeTexts& texts = Texts(mode_);
+  const bool thickness = mode_ == Mode::kThickness;
+  const QString coefficients = QStringLiteral("0.00000000E+00");
+  measurement_ = new ThicknessMeasurementPage(state_.thickness);
+  fixed_ = new NumberFieldsFrame({QStringLiteral("固定ﾘﾌｧﾚﾝｽ反射率"),
+                                  {texts.valueLabel},
+                                  QStringLiteral("0.000000"),
+                                  QStringLiteral("FixedValue"),
+                                  texts.unit},
+                                 std::span(&original_.fixedValue, 1));
+  schott_ =
+      new NumberFieldsFrame({QStringLiteral("Schott分散式ﾊﾟﾗﾒｰﾀ"),
+                             {QStringLiteral("A0"), QStringLiteral("A1"), QStringLiteral("A2"),
+                              QStringLiteral("A3"), QStringLiteral("A4"), QStringLiteral("A5")},
+                             coefficients,
+                             QStringLiteral("Schott"),
+                             {}},
+                            original_.schott);
+  sellmeier_ =
+      new NumberFieldsFrame({QStringLiteral("Sellmeier分散式ﾊﾟﾗﾒｰﾀ"),
+                             {QStringLiteral("Sellmeier  A1"), QStringLiteral("Sellmeier  A2"),
+                              QStringLiteral("Sellmeier  A3"), QStringLiteral("Sellmeier  B1"),
+                              QStringLiteral("Sellmeier  B2"), QStringLiteral("Sellmeier  B3")},
+                             coefficients,
+                             QStringLiteral("Sellmeier"),
+                             {}},
+                            original_.sellmeier);
+  indexFile_ = new FileFrame(QStringLiteral("分散ﾃﾞｰﾀﾌｧｲﾙ"), QStringLiteral("Index"),
+                             original_.indexFileName);
+  substrateFile_ = new FileFrame(QStringLiteral("基板屈折率"), QStringLiteral("Substrate"),
+                                 original_.dataFileName);
+  connect(indexFile_, &FileFrame::LoadRequested, this, &RefSetDlg::LoadIndexFile);
+  connect(substrateFile_, &FileFrame::LoadRequested, this, &RefSetDlg::LoadSubstrateFile);
+
+  pages_->setObjectName(QStringLiteral("Pages"));
+  pages_->setUsesScrollButtons(false);
+  AddPage(QStringLiteral("膜厚測定"), measurement_, thickness);
+  AddPage(QStringLiteral("分散設定"), BuildKinds(), true);
+  AddPage(QStringLiteral("固定値"), fixed_, true);
+  AddPage(QStringLiteral("分散式１"), schott_, true);
+  AddPage(QStringLiteral("分散式２"), sellmeier_, true);
+  AddPage(QStringLiteral("ﾌｧｲﾙ"), indexFile_, true);
+  AddPage(QStringLiteral("基板屈折率"), substrateFile_, thickness);
+  pages_->setCurrentIndex(thickness ? 0 : 1);
+}
+
+void RefSetDlg::AddPage(const QString& caption, QWidget* page, bool available) {
+  auto* holder = new QWidget;
+  auto* layout = new QVBoxLayout(holder);
+  layout->setContentsMargins(12, 14, 12, 12);
+  layout->addWidget(page);
+  layout->addStretch();
+  pages_->setTabEnabled(pages_->addTab(holder, caption), available);
+}
+
+QGroupBox* RefSetDlg::BuildKinds() {
+  QGroupBox* frame = OptionFrame(
+      Texts(mode_).kindFrame, QStringLiteral("Kind"),
+      {QStringLiteral("固定値設定"), QStringLiteral("分散式１"), QStringLiteral("分散式２"),
+       QStringLiteral("ﾌｧｲﾙ設定"), QStringLiteral("基板屈折率を使用し計算")},
+      *kind_, original_.kind);
+  // The index of a substrate is no reflectance.
+  kind_->button(DispersionKind::kSubstrate)->setEnabled(mode_ == Mode::kThickness);
+  return frame;
+}
+
+void RefSetDlg::EnableFieldsOfKind() {
+  const std::pair<QWidget*, std::int16_t> frames[] = {{fixed_, DispersionKind::kFixedValue},
+                                                      {schott_, DispersionKind::kSchott},
+                                                      {sellmeier_, DispersionKind::kSellmeier},
+                                                      {indexFile_, DispersionKind::kIndexFile},
+                                                      {substrateFile_, DispersionKind::kSubstrate}};
+  for (const auto& [frame, kind] : frames) {
+    frame->setEnabled(kind_->checkedId() == kind);
+  }
+}
+
+bool RefSetDlg::Apply(Edited& edited) {
+  edited.setting = original_;
+  edited.setting.kind = ChosenOption(*kind_, original_.kind);
+  edited.setting.indexFileName = indexFile_->Path();
+  edited.setting.dataFileName = substrateFile_->Path();
+  edited.thickness = state_.thickness;
+  measurement_->Take(edited.thickness);
+  if (!TakeNumbers(edited.setting)) {
+    return false;
+  }
+  edited.thickness.coat = edited.setting;
+  const bool thickness = mode_ == Mode::kThickness;
+  if (thickness && edited.thickness.type == ThicknessType::kC &&
+      edited.setting.kind == DispersionKind::kSubstrate) {
+    messages_.MsgCall(
+        QStringLiteral("’タイプＣ’と’基板屈折率を使用し計算’の組み合わせはできません。"),
+        kOk + kWarningIcon, kTitle);
+    return false;
+  }
+  const Status status = GetBunsanArray(!thickness, edited.setting, edited.spectrum, messages_);
+  if (status != 0) {
+    messages_.MsgCall(DispersionStatusText(status), kOk + kWarningIcon, kTitle);
+  }
+  return status == 0;
+}
+
+// Only what the chosen kind uses can be wrong: the other fields cannot be reached to mend them.
+bool RefSetDlg::TakeNumbers(DispersionSetting& setting) {
+  const ModeTexts& texts = Texts(mode_);
+  const bool fixed = fixed_->Take(std::span(&setting.fixedValue, 1));
+  if (setting.kind == DispersionKind::kFixedValue &&
+      !(fixed && setting.fixedValue >= kLowestFixedValue &&
+        setting.fixedValue <= texts.highestFixedValue)) {
+    messages_.MsgCall(texts.rangeMessage, kOk + kWarningIcon, kInputTitle);
+    return false;
+  }
+  const bool schott = schott_->Take(setting.schott);
+  const bool sellmeier = sellmeier_->Take(setting.sellmeier);
+  if ((setting.kind == DispersionKind::kSchott && !schott) ||
+      (setting.kind == DispersionKind::kSellmeier && !sellmeier)) {
+    messages_.MsgCall(QStringLiteral("係数が数値ではありません。"), kOk + kWarningIcon,
+                      kInputTitle);
+    return false;
+  }
+  return true;
+}
+
+void RefSetDlg::LoadIndexFile() {
+  const ModeTexts& texts = Texts(mode_);
+  const std::optional<QString> path = dialogs_.AskOpen(texts.caption, texts.fileFilter);
+  if (!path || !MayUseName(*path)) {
+    return;
+  }
+  ReflectanceSpectrum values;
+  if (ReadIndexFile(*path, values)) {
+    indexFile_->SetPath(*path);
+  } else {
+    messages_.MsgCall(texts.readFailure, kOk + kStopIcon, message_title::kError);
+  }
+}
+
+void RefSetDlg::LoadSubstrateFile() {
+  const std::optional<QString> path =
+      dialogs_.AskOpen(Texts(mode_).caption, QStringLiteral("ﾃﾞｰﾀ･ﾌｧｲﾙ(*.csv,*.dat)|*.csv;*.dat|"));
+  if (!path || !MayUseName(*path)) {
+    return;
+  }
+  ReflectanceSpectrum reflectance;
+  if (ReadSubstrateFile(*path, reflectance, messages_)) {
+    substrateFile_->SetPath(*path);
+  } else {
+    messages_.MsgCall(QStringLiteral("屈折率ﾌｧｲﾙの読み込みに失敗しました。"), kOk + kStopIcon,
+                      message_title::kError);
+  }
+}
+
+// The name goes into the environment file.
+bool RefSetDlg::MayUseName(const QString& path) {
+  const bool usable = IsEncodable(path);
+  if (!usable) {
+    messages_.MsgCall(QStringLiteral("ﾌｧｲﾙ名に使用できない文字があります。\r\r") + path,
+                      kOk + kStopIcon, message_title::kError);
+  }
+  return usable;
+}
+
+void RefSetDlg::Save() {
+  Edited edited;
+  if (!Apply(edited)) {
+    return;
+  }
+  const ModeTexts& texts = Texts(mode_);
+  const std::optional<SaveChoice> choice =
+      dialogs_.AskSave(texts.caption, QStringLiteral("全てのﾌｧｲﾙ(*.*)|*.*|") + texts.fileFilter);
+  if (!choice) {
+    return;
+  }
+  const QString path = WithDefaultExtension(choice->path, texts.extension);
+  if (!MayReplace(path, messages_, message_type::kOkCancel)) {
+    return;
+  }
+  const auto content = mode_ == Mode::kReference ? IndexFileContent::kReferenceReflectance
+                                                 : IndexFileContent::kIndex;
+  if (!WriteIndexFile(path, content, edited.spectrum)) {
+    messages_.MsgCall(texts.writeFailure, kOk + kStopIcon, message_title::kError);
+  }
+}
+
+}  // namespace vexa

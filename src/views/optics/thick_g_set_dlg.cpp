@@ -1,0 +1,86 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "views/optics/thick_g_set_dlg.h"
+
+#include <QGridLayout>
+#include <QGroupBox>
+#include <QLabel>
+#include <QVBoxLayout>
+#include <cmath>
+
+#include "views/common/dialog_buttons.h"
+
+namespace vexa {
+
+ThickGSetDlg::ThickGSetDlg(const ThicknessScale& scale, bool autoScale, MessageService& messages,
+                           QWidget* parent)
+    : QDialog(parent),
+      messages_(messages),
+      scale_(scale),
+      minimum_(new NumberField(QStringLiteral("###0"))),
+      maximum_(new NumberField(QStringLiteral("###0"))),
+      autoScale_(new QCheckBox(QStringLiteral("自動ｽｹｰﾙ"))) {
+  setObjectName(QStringLiteral("ThickGSetDlg"));
+  setWindowTitle(QStringLiteral("膜厚ｸﾞﾗﾌ設定"));
+  minimum_->setObjectName(QStringLiteral("Minimum"));
+  minimum_->SetValue(scale.minimumNm);
+  maximum_->setObjectName(QStringLiteral("Maximum"));
+  maximum_->SetValue(scale.maximumNm);
+  autoScale_->setObjectName(QStringLiteral("AutoScale"));
+  autoScale_->setChecked(autoScale);
+  EnableFields();
+  connect(autoScale_, &QCheckBox::toggled, this, [this](bool on) {
+    EnableFields();
+    if (!on) {
+      maximum_->setFocus();
+      maximum_->selectAll();
+    }
+  });
+
+  auto* frame = new QGroupBox(QStringLiteral("膜厚ｽｹｰﾙ"));
+  auto* grid = new QGridLayout(frame);
+  grid->setContentsMargins(16, 12, 16, 12);
+  grid->setHorizontalSpacing(12);
+  grid->setVerticalSpacing(8);
+  grid->addWidget(new QLabel(QStringLiteral("最大値")), 0, 0);
+  grid->addWidget(maximum_, 0, 1);
+  grid->addWidget(new QLabel(QStringLiteral("最小値")), 1, 0);
+  grid->addWidget(minimum_, 1, 1);
+  grid->addWidget(autoScale_, 2, 0, 1, 2);
+  auto* layout = new QVBoxLayout(this);
+  layout->setContentsMargins(14, 14, 14, 12);
+  layout->setSpacing(12);
+  layout->addWidget(frame);
+  layout->addWidget(OkCancelButtons(*this));
+}
+
+QString ThickGSetDlg::Outcome() const {
+  return OutcomeText(*this);
+}
+
+void ThickGSetDlg::accept() {
+  if (TakeScale()) {
+    QDialog::accept();
+    return;
+  }
+  messages_.MsgCall(QStringLiteral("ｽｹｰﾙ設定が設定範囲を越えています。(0 ≦ 設定値 ≦ 20000)"),
+                    message_type::kOk + message_type::kStopIcon, message_title::kError);
+}
+
+void ThickGSetDlg::EnableFields() {
+  minimum_->setEnabled(!autoScale_->isChecked());
+  maximum_->setEnabled(!autoScale_->isChecked());
+}
+
+bool ThickGSetDlg::TakeScale() {
+  const std::optional<double> minimum = minimum_->Value();
+  const std::optional<double> maximum = maximum_->Value();
+  if (!minimum || !maximum || *minimum < ThicknessScale::kLowestNm ||
+      *maximum > ThicknessScale::kHighestNm ||
+      std::round(*maximum - *minimum) < ThicknessScale::kSmallestWidthNm) {
+    return false;
+  }
+  scale_ = {*minimum, *maximum};
+  return true;
+}
+
+}  // namespace vexa

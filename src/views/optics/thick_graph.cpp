@@ -1,0 +1,245 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "views/optics/thick_graph.h"
+
+#include <QFormLayout>
+#include <QFrame>
+#include <QGroupBox>
+#include <QHBoxLayout>
+#include <QMenuBar>
+#include <QPushButton>
+#include <QVBoxLayout>
+#include <algorithm>
+
+#include "base/number_text.h"
+#include "views/files/file_questions.h"
+#include "views/optics/history_plot.h"
+#include "views/optics/optics_print.h"
+#include "views/optics/thick_g_set_dlg.h"
+
+namespace vexa {
+
+using namespace message_type;
+
+namespace {
+
+constexpr int kRepeatMs = 200;
+const QString kTitle = QStringLiteral("VEXA-KT");
+const QString kNothing = QStringLiteral("-");
+
+QLabel* Value(const char* name) {
+  auto* label = new QLabel;
+  label->setObjectName(QLatin1String(name));
+  label->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+  return label;
+}
+
+QPushButton* Button(const char* name, const QString& caption) {
+  auto* button = new QPushButton(caption);
+  button->setObjectName(QLatin1String(name));
+  return button;
+}
+
+}  // namespace
+
+ThickGraph::ThickGraph(VEXATYPE& state, MessageService& messages, FileDialogs& dialogs,
+                       QWidget* parent)
+    : QMainWindow(parent),
+      state_(state),
+      messages_(messages),
+      dialogs_(dialogs),
+      cursor_(state.thicknessHistory.count),
+      plot_(new HistoryPlot),
+      count_(Value("TotalCount")),
+      thickness_(Value("Thickness")),
+      index_(Value("DataIndex")) {
+  setObjectName(QStringLiteral("ThickGraph"));
+  setWindowTitle(QStringLiteral("膜厚ｸﾞﾗﾌ"));
+  BuildMenus();
+  auto* frame = new QFrame;
+  frame->setFrameShape(QFrame::StyledPanel);
+  auto* framed = new QVBoxLayout(frame);
+  framed->setContentsMargins(1, 1, 1, 1);
+  framed->addWidget(plot_);
+  auto* central = new QWidget;
+  auto* layout = new QHBoxLayout(central);
+  layout->setContentsMargins(10, 8, 10, 10);
+  layout->setSpacing(10);
+  layout->addWidget(frame, 1);
+  layout->addWidget(BuildInformation(), 0, Qt::AlignTop);
+  setCentralWidget(central);
+  resize(760, 460);
+  RecomputeScale();
+  ShowHistory();
+}
+
+void ThickGraph::AddPointProc(double thicknessNm) {
+  ThicknessHistory& history = state_.thicknessHistory;
+  const Flag physical = state_.thickness.kind != ThicknessKind::kOptical;
+  if (history.count == 0) {
+    history.physical = physical;
+  }
+  if (history.physical != physical) {
+    Warn(QStringLiteral("履歴の膜厚と種類（物理膜厚、光学膜厚）が異なります。\r"
+                        "全ﾃﾞｰﾀ･ｸﾘｱの後に追加して下さい。"),
+         kTitle);
+    return;
+  }
+  if (!history.Append(thicknessNm)) {
+    Warn(QStringLiteral("ｸﾞﾗﾌ･ﾃﾞｰﾀ数が最大ﾃﾞｰﾀ数を越えました。　(最大ﾃﾞｰﾀ数 50 ﾎﾟｲﾝﾄ)"), kTitle);
+    return;
+  }
+  cursor_ = history.count;
+  RecomputeScale();
+  ShowHistory();
+}
+
+void ThickGraph::BuildMenus() {
+  const auto add = [this](auto* to, const char* name, const QString& caption,
+                          void (ThickGraph::*run)()) {
+    QAction* action = to->addAction(caption);
+    action->setObjectName(QLatin1String(name));
+    connect(action, &QAction::triggered, this, run);
+  };
+  QMenu* file = menuBar()->addMenu(QStringLiteral("ﾌｧｲﾙ"));
+  add(file, "SaveAs", QStringLiteral("ﾌｧｲﾙの名前を付けて保存"), &ThickGraph::Save);
+  add(file, "Print", QStringLiteral("印刷"), &ThickGraph::Print);
+  add(menuBar(), "ClearAll", QStringLiteral("全ﾃﾞｰﾀ･ｸﾘｱ"), &ThickGraph::ClearAll);
+  QMenu* settings = menuBar()->addMenu(QStringLiteral("設定"));
+  add(settings, "GraphSettings", QStringLiteral("ｸﾞﾗﾌ設定"), &ThickGraph::AskScale);
+}
+
+QWidget* ThickGraph::BuildInformation() {
+  auto* group = new QGroupBox(QStringLiteral("ﾃﾞｰﾀ情報"));
+  group->setFixedWidth(190);
+  auto* values = new QFormLayout;
+  values->setVerticalSpacing(8);
+  values->addRow(QStringLiteral("全ﾃﾞｰﾀ数"), count_);
+  values->addRow(QStringLiteral("膜厚"), thickness_);
+  values->addRow(QStringLiteral("ﾃﾞｰﾀｲﾝﾃﾞｯｸｽ"), index_);
+
+  auto* cursors = new QHBoxLayout;
+  for (const int by : {-1, 1}) {
+    auto* button = Button(by < 0 ? "CursorLeft" : "CursorRight",
+                          by < 0 ? QStringLiteral("◀") : QStringLiteral("▶"));
+    button->setToolTip(by < 0 ? QStringLiteral("前のﾃﾞｰﾀ") : QStringLiteral("次のﾃﾞｰﾀ"));
+    button->setAutoRepeat(true);
+    button->setAutoRepeatDelay(kRepeatMs);
+    button->setAutoRepeatInterval(kRepeatMs);
+    // Comes at once and then with each repeat while the button is held.
+    connect(button, &QPushButton::pressed, this, [this, by] { MoveCursor(by); });
+    cursors->addWidget(button);
+  }
+  auto* add = Button("AddPoint", QStringLiteral("追加"));
+  auto* remove = Button("DeletePoint", QStringLiteral("削除"));
+  connect(add, &QPushButton::clicked, this, &ThickGraph::AddCurrent);
+  connect(remove, &QPushButton::clicked, this, &ThickGraph::DeletePoint);
+  auto* commands = new QHBoxLayout;
+  commands->addWidget(add);
+  commands->addWidget(remove);
+
+  auto* layout = new QVBoxLayout(group);
+  layout->setContentsMargins(10, 10, 10, 10);
+  layout->setSpacing(10);
+  layout->addLayout(values);
+  layout->addLayout(cursors);
+  layout->addLayout(commands);
+  return group;
+}
+
+void ThickGraph::AddCurrent() {
+  if (!state_.thickness.enabled) {
+    Warn(QStringLiteral("膜厚測定が設定されていません。"), message_title::kWarning);
+    return;
+  }
+  const MeasurementSlot* slot = state_.Slot(slot_);
+  if (slot == nullptr || !slot->valid || slot->thickness.first.wavelengthNm == 0.0) {
+    messages_.MsgCall(QStringLiteral("有効ﾃﾞｰﾀがありません。"), kOk + kInformationIcon,
+                      message_title::kInformation);
+    return;
+  }
+  AddPointProc(slot->thickness.thicknessNm);
+}
+
+void ThickGraph::DeletePoint() {
+  if (!state_.thicknessHistory.Delete(cursor_)) {
+    Warn(QStringLiteral("ﾃﾞｰﾀがありません。"), kTitle);
+    return;
+  }
+  RecomputeScale();
+  MoveCursor(0);
+}
+
+void ThickGraph::ClearAll() {
+  if (messages_.MsgCall(QStringLiteral("測定ﾃﾞｰﾀをｸﾘｱします。"), kOkCancel + kQuestionIcon,
+                        kTitle) != MessageResult::kOk) {
+    return;
+  }
+  state_.thicknessHistory.Clear();
+  RecomputeScale();
+  MoveCursor(0);
+}
+
+void ThickGraph::MoveCursor(int by) {
+  const int count = state_.thicknessHistory.count;
+  cursor_ = std::clamp(cursor_ + by, std::min(1, count), count);
+  ShowHistory();
+}
+
+void ThickGraph::Save() {
+  const std::optional<SaveChoice> choice = dialogs_.AskSave(
+      QStringLiteral("ﾌｧｲﾙの名前を付けて保存"), QStringLiteral("Data File (*.thk)|*.thk"));
+  if (!choice) {
+    return;
+  }
+  const QString path = WithDefaultExtension(choice->path, QStringLiteral(".thk"));
+  if (MayReplace(path, messages_, message_type::kOkCancel) &&
+      !WriteThicknessFile(path, state_.thicknessHistory)) {
+    messages_.MsgCall(QStringLiteral("膜厚履歴ﾌｧｲﾙの書き込みに失敗しました。"), kOk + kStopIcon,
+                      message_title::kError);
+  }
+}
+
+void ThickGraph::Print() {
+  PrintPage(this, messages_, [this](QPainter& painter, const QRectF& page) {
+    PaintHistoryPage(painter, page, state_.thicknessHistory, scale_);
+  });
+}
+
+void ThickGraph::AskScale() {
+  ThickGSetDlg dialog(scale_, autoScale_, messages_, this);
+  dialog.exec();
+  if (dialog.Outcome() != QStringLiteral("OK")) {
+    return;
+  }
+  autoScale_ = dialog.AutoScale();
+  scale_ = dialog.Scale();
+  RecomputeScale();
+  ShowHistory();
+}
+
+void ThickGraph::RecomputeScale() {
+  if (!autoScale_) {
+    return;
+  }
+  if (const std::optional<ThicknessScale> scale = AutoScale(state_.thicknessHistory.Points())) {
+    scale_ = *scale;
+  } else {
+    Warn(QStringLiteral("設定にｴﾗｰが発生しました。変更はされません。"), kTitle);
+  }
+}
+
+void ThickGraph::ShowHistory() {
+  const ThicknessHistory& history = state_.thicknessHistory;
+  plot_->Show(history, scale_, cursor_);
+  count_->setText(QString::number(history.count));
+  index_->setText(cursor_ > 0 ? QString::number(cursor_) : kNothing);
+  thickness_->setText(
+      cursor_ > 0 ? FormatNumber(history.Points()[static_cast<std::size_t>(cursor_ - 1)], u"###0.0")
+                  : kNothing);
+}
+
+void ThickGraph::Warn(const QString& text, const QString& title) {
+  messages_.MsgCall(text, kOk + kWarningIcon, title);
+}
+
+}  // namespace vexa

@@ -1,0 +1,49 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <QCheckBox>
+#include <QGroupBox>
+#include <QLabel>
+#include <array>
+
+#include "base/message.h"
+#include "measurement/vexatype.h"
+
+namespace vexa {
+
+/// The thickness of the selected slot, with the button that computes it and the choice of computing
+/// it after each measurement.
+class ThicknessPanel : public QGroupBox {
+  Q_OBJECT
+
+ public:
+  ThicknessPanel(VEXATYPE& state, MessageService& messages, QWidget* parent = nullptr);
+
+  /// Shows what the slot (1..10) holds; the button computes for this slot from now on.
+  void Show(int selectedSlot);
+
+  /// Computes the thickness of the slot shown, with a message when that is not possible.
+  void ComputeThickness();
+
+ signals:
+  /// The thickness of the slot shown was computed.
+  void Computed(double thicknessNm);
+
+ private:
+  struct ExtremumLine {
+    QLabel* wavelength;
+    QLabel* index;
+  };
+
+  void ShowExtremum(const ExtremumLine& line, const ExtremumPoint& point, bool indexKnown);
+  [[nodiscard]] bool IndexIsOf(const MeasurementSlot& slot) const;
+
+  VEXATYPE& state_;
+  MessageService& messages_;
+  int slot_ = 1;
+  QCheckBox* automatic_;
+  QLabel* thickness_;
+  std::array<ExtremumLine, 2> lines_{};
+};
+
+}  // namespace vexa

@@ -1,0 +1,270 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// Measures hard coats of known thickness over the whole path: film optics, light on the detector,
+// lines as the controller sends them, averaging, wavelength mapping, reflectance against the 4 %
+// reference, thickness. Prints truth, result and the method's own limit.
+#include <algorithm>
+#include <cmath>
+#include <cstdio>
+#include <random>
+#include <vector>
+
+#include "instrument/h8_reply.h"
+#include "instrument/wavelength_mapping.h"
+#include "measurement/reflectance.h"
+#include "optics/dispersion_setting.h"
+#include "optics/extremum_search.h"
+#include "optics/thickness.h"
+#include "simulator/detector.h"
+#include "simulator/film_stack.h"
+
+namespace vexa {
+namespace {
+
+constexpr int kShiftNm = 4;
+constexpr double kReferencePercent = 4.0;
+constexpr double kExtremumUncertaintyNm = 1.0;
+constexpr unsigned kSeed = 1;
+constexpr int kRepeats = 200;
+constexpr const char* kTypes = "ABC";
+constexpr const char* kKinds[] = {"physical", "optical"};
+
+/// How the frames are taken.
+struct Conditions {
+  double integrationMs;
+  int averaging;
+  bool noise;
+};
+
+simulator::ReflectanceCurve HardCoat(double thicknessNm) {
+  return [stack = simulator::FilmStack{simulator::LensPlasticIndex,
+                                       {{simulator::HardCoatIndex, thicknessNm}}}](double nm) {
+    return 100.0 * simulator::SplitPower(stack, nm).reflected;
+  };
+}
+
+ReflectanceSpectrum FilmIndex() {
+  ReflectanceSpectrum index;
+  for (int nm = ReflectanceSpectrum::kFirstNm; nm <= ReflectanceSpectrum::kLastNm; ++nm) {
+    index[nm] = simulator::HardCoatIndex(nm);
+  }
+  return index;
+}
+
+// One frame: the body of a data reply, taken apart and mapped as an acquisition does it.
+RawSpectrum Acquire(const simulator::ReflectanceCurve& percent, bool dark,
+                    const Conditions& conditions, std::mt19937_64& generator) {
+  const simulator::PixelCounts mean = simulator::MeanCounts(
+      percent, {.integrationMs = conditions.integrationMs, .lightShutterClosed = dark});
+  std::vector<std::uint8_t> body(4);
+  for (int n = 0; n < conditions.averaging; ++n) {
+    for (const std::uint16_t count :
+         simulator::ReadOut(mean, conditions.noise ? &generator : nullptr)) {
+      body.push_back(static_cast<std::uint8_t>(count & 0xff));
+      body.push_back(static_cast<std::uint8_t>(count >> 8));
+    }
+  }
+  LineBuffers lines;
+  RawSpectrum spectrum;
+  if (FillLines(body, lines)) {
+    const MappedSpectrum mapped = LinesToWaves(lines, kDefaultLinePositions, kDetectorStartNm);
+    if (mapped.status == 0) {
+      std::ranges::copy(mapped.values, spectrum.Values().begin());
+    }
+  }
+  return spectrum;
+}
+
+ReflectanceSpectrum Measure(double thicknessNm, const Conditions& conditions,
+                            std::mt19937_64& generator) {
+  const auto reference = [](double) { return kReferencePercent; };
+  ReflectanceSpectrum percent;
+  std::ranges::fill(percent.Values(), kReferencePercent);
+  const RawSpectrum background = Acquire(reference, true, conditions, generator);
+  const RawSpectrum bright = Acquire(reference, false, conditions, generator);
+  const RawSpectrum sample = Acquire(HardCoat(thicknessNm), false, conditions, generator);
+  return ComputeReflectance(sample, background, bright, kShiftNm, percent);
+}
+
+struct Outcome {
+  Status status = 0;
+  std::size_t extrema = 0;
+  double firstNm = 0.0;
+  double secondNm = 0.0;
+  double truthNm = 0.0;
+  double resultNm = 0.0;
+  double limitNm = 0.0;
+
+  [[nodiscard]] double Deviation() const { return resultNm - truthNm; }
+  [[nodiscard]] bool WithinLimit() const { return status == 0 && std::abs(Deviation()) <= limitNm; }
+};
+
+// The thickness of `halfOrders` between two extrema, with the index at whole nanometres or 1.
+double Formula(double halfOrders, double firstNm, double secondNm, bool physical,
+               const ReflectanceSpectrum& index) {
+  const double n1 = physical ? index[NearestNm(firstNm)] : 1.0;
+  const double n2 = physical ? index[NearestNm(secondNm)] : 1.0;
+  return halfOrders * 0.25 * firstNm * secondNm / (n1 * secondNm - n2 * firstNm);
+}
+
+Outcome Evaluate(const ReflectanceSpectrum& spectrum, int type, int kind, double thicknessNm) {
+  const ReflectanceSpectrum trueIndex = FilmIndex();
+  ReflectanceSpectrum index = trueIndex;
+  ThicknessResult result;
+  Outcome outcome;
+  outcome.status =
+      ComputeThickness(static_cast<std::int16_t>(type), static_cast<std::int16_t>(kind),
+                       DispersionKind::kIndexFile, {}, spectrum, index, result);
+  outcome.truthNm = thicknessNm;
+  if (outcome.status != 0) {
+    return outcome;
+  }
+  const bool physical = kind == ThicknessKind::kPhysical;
+  const double w1 = result.first.wavelengthNm;
+  const double w2 = result.second.wavelengthNm;
+  outcome.extrema = result.extrema.Found().size();
+  outcome.firstNm = w1;
+  outcome.secondNm = w2;
+  outcome.resultNm = result.thicknessNm;
+  if (!physical) {
+    // What the formula with one index means for a film whose index changes between the extrema.
+    outcome.truthNm = thicknessNm *
+                      (simulator::HardCoatIndex(w1) * w2 - simulator::HardCoatIndex(w2) * w1) /
+                      (w2 - w1);
+  }
+  const auto steps = static_cast<double>(outcome.extrema - 1);
+  const double halfOrders = type == ThicknessType::kA   ? 2.0
+                            : type == ThicknessType::kB ? 2.0 * steps
+                                                        : steps;
+  for (const double by : {-kExtremumUncertaintyNm, kExtremumUncertaintyNm}) {
+    const double shifted = Formula(halfOrders, w1 + by, w2 - by, physical, trueIndex);
+    outcome.limitNm = std::max(outcome.limitNm, std::abs(shifted - outcome.resultNm));
+  }
+  return outcome;
+}
+
+void PrintHeader(const Conditions& conditions, const char* last) {
+  std::printf("\n%.0f ms, averaging %d, %s\n\n", conditions.integrationMs, conditions.averaging,
+              conditions.noise ? "with noise" : "without noise");
+  std::printf("| coat nm | type | kind | %s\n", last);
+}
+
+// True extrema of the coat's reflectance, found on a fine grid.
+std::vector<double> TrueExtremaNm(double thicknessNm, ExtremaWanted wanted) {
+  constexpr double kStepNm = 0.02;
+  const simulator::ReflectanceCurve percent = HardCoat(thicknessNm);
+  std::vector<double> found;
+  for (double nm = ReflectanceSpectrum::kFirstNm; nm <= ReflectanceSpectrum::kLastNm;
+       nm += kStepNm) {
+    const double before = percent(nm - kStepNm);
+    const double at = percent(nm);
+    const double after = percent(nm + kStepNm);
+    const bool maximum = at > before && at >= after;
+    const bool minimum = at < before && at <= after;
+    if ((maximum && wanted != ExtremaWanted::kMinima) ||
+        (minimum && wanted != ExtremaWanted::kMaxima)) {
+      found.push_back(nm);
+    }
+  }
+  return found;
+}
+
+// The smoothing window, cut at the ends of the range, splits extrema nearer to an end than this.
+constexpr double kSplitReachNm = 7.0;
+
+bool NearAnEnd(double nm) {
+  return nm < ReflectanceSpectrum::kFirstNm + kSplitReachNm ||
+         nm > ReflectanceSpectrum::kLastNm - kSplitReachNm;
+}
+
+bool HasExtremumNearAnEnd(double thicknessNm) {
+  return std::ranges::any_of(TrueExtremaNm(thicknessNm, ExtremaWanted::kBoth), NearAnEnd);
+}
+
+void PrintTruth(const std::vector<double>& coatsNm) {
+  std::printf("| coat nm | extrema | minima | maxima | nearer than %.0f nm to an end |\n",
+              kSplitReachNm);
+  std::printf("|---|---|---|---|---|\n");
+  for (const double coatNm : coatsNm) {
+    std::printf("| %.0f | %zu | %zu | %zu |", coatNm,
+                TrueExtremaNm(coatNm, ExtremaWanted::kBoth).size(),
+                TrueExtremaNm(coatNm, ExtremaWanted::kMinima).size(),
+                TrueExtremaNm(coatNm, ExtremaWanted::kMaxima).size());
+    for (const auto& [wanted, name] : {std::pair(ExtremaWanted::kMinima, "minimum"),
+                                       std::pair(ExtremaWanted::kMaxima, "maximum")}) {
+      for (const double nm : TrueExtremaNm(coatNm, wanted)) {
+        if (NearAnEnd(nm)) {
+          std::printf(" %s at %.1f", name, nm);
+        }
+      }
+    }
+    std::printf(" |\n");
+  }
+}
+
+// A row a result; the number of results outside their limit though no extremum is near an end.
+int PrintOnce(const std::vector<double>& coatsNm, const Conditions& conditions) {
+  PrintHeader(conditions, "extrema | from nm | to nm | truth | result | deviation | limit | |");
+  std::printf("|---|---|---|---|---|---|---|---|---|---|---|\n");
+  int outside = 0;
+  int unexplained = 0;
+  for (const double coatNm : coatsNm) {
+    std::mt19937_64 generator(kSeed);
+    const bool mayBeSplit = HasExtremumNearAnEnd(coatNm);
+    const ReflectanceSpectrum spectrum = Measure(coatNm, conditions, generator);
+    for (int type = 0; type < 3; ++type) {
+      for (int kind = 0; kind < 2; ++kind) {
+        const Outcome o = Evaluate(spectrum, type, kind, coatNm);
+        outside += o.WithinLimit() ? 0 : 1;
+        unexplained += o.WithinLimit() || mayBeSplit ? 0 : 1;
+        std::printf("| %.0f | %c | %s | %zu | %.1f | %.1f | %.1f | %.1f | %+.1f | %.1f | %s |\n",
+                    coatNm, kTypes[type], kKinds[kind], o.extrema, o.firstNm, o.secondNm, o.truthNm,
+                    o.resultNm, o.Deviation(), o.limitNm, o.WithinLimit() ? "" : "outside");
+      }
+    }
+  }
+  std::printf("\n%d outside, %d of them without an extremum near an end\n", outside, unexplained);
+  return unexplained;
+}
+
+// Many measurements with noise of the same coat, a row for each type.
+void PrintRepeated(const std::vector<double>& coatsNm, const Conditions& conditions) {
+  PrintHeader(conditions, "within limit % | median deviation | middle 90 % from | to |");
+  std::printf("|---|---|---|---|---|---|---|\n");
+  for (const double coatNm : coatsNm) {
+    std::mt19937_64 generator(kSeed);
+    std::vector<ReflectanceSpectrum> spectra;
+    for (int i = 0; i < kRepeats; ++i) {
+      spectra.push_back(Measure(coatNm, conditions, generator));
+    }
+    for (int type = 0; type < 3; ++type) {
+      std::vector<double> deviations;
+      int within = 0;
+      for (const ReflectanceSpectrum& spectrum : spectra) {
+        const Outcome o = Evaluate(spectrum, type, ThicknessKind::kPhysical, coatNm);
+        within += o.WithinLimit() ? 1 : 0;
+        deviations.push_back(o.Deviation());
+      }
+      std::ranges::sort(deviations);
+      const auto at = [&deviations](double part) {
+        return deviations[static_cast<std::size_t>(std::lround(part * (kRepeats - 1)))];
+      };
+      std::printf("| %.0f | %c | physical | %.1f | %+.1f | %+.1f | %+.1f |\n", coatNm, kTypes[type],
+                  100.0 * within / kRepeats, at(0.5), at(0.05), at(0.95));
+    }
+  }
+}
+
+}  // namespace
+}  // namespace vexa
+
+int main() {
+  const std::vector<double> coatsNm{1000, 1500, 2000, 3000, 4000, 5000, 6000};
+  vexa::PrintTruth(coatsNm);
+  vexa::PrintOnce(coatsNm, {3000.0, 1, false});
+  const int unexplained = vexa::PrintOnce(coatsNm, {10000.0, 1, false});
+  vexa::PrintOnce(coatsNm, {3000.0, 8, true});
+  vexa::PrintOnce(coatsNm, {10000.0, 8, true});
+  vexa::PrintRepeated(coatsNm, {3000.0, 8, true});
+  vexa::PrintRepeated(coatsNm, {10000.0, 8, true});
+  return unexplained == 0 ? 0 : 1;
+}

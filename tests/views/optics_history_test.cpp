@@ -1,0 +1,255 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include <gtest/gtest.h>
+
+#include <QAction>
+#include <QCheckBox>
+#include <QFile>
+#include <QPdfWriter>
+#include <QPushButton>
+#include <QTemporaryDir>
+#include <QTest>
+#include <QTimer>
+
+#include "support/prepared_answers.h"
+#include "support/prepared_files.h"
+#include "views/optics/history_plot.h"
+#include "views/optics/optics_print.h"
+#include "views/optics/thick_g_set_dlg.h"
+#include "views/optics/thick_graph.h"
+
+namespace vexa {
+namespace {
+
+using test::ShownMessage;
+
+class History : public testing::Test {
+ protected:
+  void Add(const std::vector<double>& thicknesses) {
+    for (const double thickness : thicknesses) {
+      window.AddPointProc(thickness);
+    }
+  }
+  // Number of points, thickness at the cursor and its index, as shown.
+  std::string Labels() {
+    QStringList texts;
+    for (const char* name : {"TotalCount", "Thickness", "DataIndex"}) {
+      texts << window.findChild<QLabel*>(QLatin1String(name))->text();
+    }
+    return texts.join(u' ').toStdString();
+  }
+  QPushButton* Button(const char* name) {
+    return window.findChild<QPushButton*>(QLatin1String(name));
+  }
+  void Choose(const char* action) { window.findChild<QAction*>(QLatin1String(action))->trigger(); }
+  QCPRange Scale() {
+    return window.findChild<HistoryPlot*>(QStringLiteral("HistoryPlot"))->yAxis->range();
+  }
+  QString File(const char* name) const { return directory.filePath(QString::fromUtf8(name)); }
+  static QByteArray Bytes(const QString& path) {
+    QFile file(path);
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+  }
+
+  VEXATYPE state;
+  test::PreparedAnswers messages;
+  test::PreparedFiles files;
+  QTemporaryDir directory{QDir::tempPath() + QStringLiteral("/履 歴-XXXXXX")};
+  ThickGraph window{state, messages, files};
+};
+
+TEST_F(History, GrowsToFiftyPointsAndNoFurther) {
+  EXPECT_EQ(Labels(), "0 - -");
+  Add({1510.25, 1630.0});
+  EXPECT_EQ(Labels(), "2 1630.0 2");
+  EXPECT_EQ(Scale(), QCPRange(1500.0, 1650.0));
+  Add(std::vector<double>(48, 1600.0));
+  EXPECT_TRUE(messages.Take().empty());
+  Add({1700.0});
+  EXPECT_EQ(messages.Take(),
+            (std::vector{ShownMessage{
+                "VEXA-KT: ｸﾞﾗﾌ･ﾃﾞｰﾀ数が最大ﾃﾞｰﾀ数を越えました。　(最大ﾃﾞｰﾀ数 50 ﾎﾟｲﾝﾄ)", 48}}));
+  EXPECT_EQ(Labels(), "50 1600.0 50");
+}
+
+TEST_F(History, KeepsPhysicalAndOpticalThicknessesApart) {
+  state.thickness.kind = ThicknessKind::kOptical;
+  Add({2400.0});
+  EXPECT_FALSE(state.thicknessHistory.physical);
+  state.thickness.kind = ThicknessKind::kPhysical;
+  Add({1500.0});
+  EXPECT_EQ(messages.Take().size(), 1U);
+  EXPECT_EQ(state.thicknessHistory.count, 1);
+  Choose("ClearAll");
+  Add({1500.0});
+  EXPECT_TRUE(state.thicknessHistory.physical);
+}
+
+TEST_F(History, AddsTheThicknessOfTheCurrentSlot) {
+  const ShownMessage notSetUp{"VEXA-KT ﾜｰﾆﾝｸﾞ: 膜厚測定が設定されていません。", 48};
+  const ShownMessage nothing{"VEXA-KT 情報: 有効ﾃﾞｰﾀがありません。", 64};
+  Button("AddPoint")->click();
+  EXPECT_EQ(messages.Take(), std::vector{notSetUp});
+  state.thickness.enabled = true;
+  Button("AddPoint")->click();
+  EXPECT_EQ(messages.Take(), std::vector{nothing});
+  state.Slot(3)->valid = true;
+  state.Slot(3)->thickness = {{700.0, 4.0}, {800.0, 4.0}, 1750.0, {}};
+  window.SetCurrentSlot(3);
+  Button("AddPoint")->click();
+  EXPECT_EQ(Labels(), "1 1750.0 1");
+}
+
+TEST_F(History, CursorStepsAtOnceAndRepeatsWhileTheButtonIsHeld) {
+  window.show();
+  Add({100.0, 200.0, 300.0, 400.0});
+  QTest::mouseClick(Button("CursorLeft"), Qt::LeftButton);
+  EXPECT_EQ(Labels(), "4 300.0 3");
+  QTest::mousePress(Button("CursorLeft"), Qt::LeftButton);
+  EXPECT_EQ(Labels(), "4 200.0 2");
+  EXPECT_TRUE(QTest::qWaitFor([this] { return Labels() == "4 100.0 1"; }));
+  QTest::mouseRelease(Button("CursorLeft"), Qt::LeftButton);
+  for (int i = 0; i < 5; ++i) {
+    QTest::mouseClick(Button("CursorRight"), Qt::LeftButton);
+  }
+  EXPECT_EQ(Labels(), "4 400.0 4") << "the cursor stays on the points";
+}
+
+TEST_F(History, DeletesThePointAtTheCursor) {
+  Button("DeletePoint")->click();
+  EXPECT_EQ(messages.Take(), (std::vector{ShownMessage{"VEXA-KT: ﾃﾞｰﾀがありません。", 48}}));
+  Add({100.0, 2000.0, 300.0});
+  Button("CursorLeft")->pressed();
+  Button("DeletePoint")->click();
+  EXPECT_EQ(Labels(), "2 300.0 2");
+  EXPECT_EQ(Scale(), QCPRange(100.0, 300.0));
+  Button("DeletePoint")->click();
+  EXPECT_EQ(Labels(), "1 100.0 1");
+  Button("DeletePoint")->click();
+  EXPECT_EQ(Labels(), "0 - -");
+}
+
+TEST_F(History, ClearsAfterAQuestion) {
+  Add({100.0, 200.0});
+  messages.answers = {MessageResult::kCancel};
+  Choose("ClearAll");
+  EXPECT_EQ(messages.Take(), (std::vector{ShownMessage{"VEXA-KT: 測定ﾃﾞｰﾀをｸﾘｱします。", 33}}));
+  EXPECT_EQ(Labels(), "2 200.0 2");
+  Choose("ClearAll");
+  EXPECT_EQ(Labels(), "0 - -");
+}
+
+TEST_F(History, APointOffTheScaleKeepsTheScale) {
+  Add({1510.0, 1630.0, 20001.0});
+  EXPECT_EQ(
+      messages.Take(),
+      (std::vector{ShownMessage{"VEXA-KT: 設定にｴﾗｰが発生しました。変更はされません。", 48}}));
+  EXPECT_EQ(Scale(), QCPRange(1500.0, 1650.0));
+}
+
+TEST_F(History, IsSaved) {
+  Add({1500.0, 1512.25});
+  files.save = SaveChoice{File("履歴"), 1};
+  Choose("SaveAs");
+  EXPECT_EQ(files.filter, "Data File (*.thk)|*.thk");
+  EXPECT_EQ(Bytes(File("履歴.thk")),
+            "VEXA-KT 440-840 Ver 3.21 Thickness File\r\n 2\r\n[nm]\r\n 1500\r\n 1512.25\r\n");
+  Add({1600.0});
+  messages.answers = {MessageResult::kCancel};
+  Choose("SaveAs");
+  EXPECT_EQ(messages.Take(),
+            (std::vector{
+                ShownMessage{"VEXA-KT ﾜｰﾆﾝｸﾞ: 同ﾌｧｲﾙ名が存在します。上書き保存しますか？", 49}}));
+  EXPECT_TRUE(Bytes(File("履歴.thk")).endsWith("1512.25\r\n"));
+  files.save = SaveChoice{File("missing/x"), 1};
+  Choose("SaveAs");
+  EXPECT_EQ(messages.Take(),
+            (std::vector{ShownMessage{"VEXA-KT ｴﾗｰ: 膜厚履歴ﾌｧｲﾙの書き込みに失敗しました。", 16}}));
+}
+
+TEST_F(History, ScaleDialogKeepsItsLimits) {
+  const struct {
+    const char* minimum;
+    const char* maximum;
+    bool accepted;
+  } cases[] = {
+      {"0", "99", false},       {"0", "100", true},   {"0", "99.5", true},   {"0", "99.4", false},
+      {"-1", "500", false},     {"0", "20000", true}, {"0", "20001", false}, {"500", "400", false},
+      {"19900", "20000", true}, {"", "500", false},   {"1E3", "2E3", true},
+  };
+  for (const auto& c : cases) {
+    ThickGSetDlg dialog({0.0, 100.0}, true, messages);
+    dialog.show();
+    auto* minimum = dialog.findChild<QLineEdit*>(QStringLiteral("Minimum"));
+    auto* maximum = dialog.findChild<QLineEdit*>(QStringLiteral("Maximum"));
+    EXPECT_FALSE(maximum->isEnabled());
+    dialog.findChild<QCheckBox*>(QStringLiteral("AutoScale"))->click();
+    EXPECT_EQ(maximum->selectedText(), QStringLiteral("100"));
+    QTest::keyClicks(maximum, QLatin1String(c.maximum));
+    minimum->selectAll();
+    QTest::keyClick(minimum, Qt::Key_Delete);
+    QTest::keyClicks(minimum, QLatin1String(c.minimum));
+    dialog.findChild<QPushButton*>(QStringLiteral("OK"))->click();
+    EXPECT_EQ(dialog.Outcome(), c.accepted ? QStringLiteral("OK") : QStringLiteral("CANCEL"))
+        << c.minimum << ".." << c.maximum;
+    EXPECT_EQ(dialog.isVisible(), !c.accepted);
+    const ShownMessage refusal{
+        "VEXA-KT ｴﾗｰ: ｽｹｰﾙ設定が設定範囲を越えています。(0 ≦ 設定値 ≦ 20000)", 16};
+    EXPECT_EQ(messages.Take(), c.accepted ? std::vector<ShownMessage>{} : std::vector{refusal});
+  }
+}
+
+TEST_F(History, TakesTheScaleOfTheDialog) {
+  Add({1510.0, 1630.0});
+  const auto answer = [this](const char* button) {
+    QTimer::singleShot(0, &window, [this, button] {
+      auto* dialog = window.findChild<ThickGSetDlg*>();
+      dialog->findChild<QCheckBox*>(QStringLiteral("AutoScale"))->setChecked(false);
+      dialog->findChild<QLineEdit*>(QStringLiteral("Maximum"))->setText(QStringLiteral("3000"));
+      dialog->findChild<QPushButton*>(QLatin1String(button))->click();
+    });
+    Choose("GraphSettings");
+  };
+  answer("Cancel");
+  EXPECT_EQ(Scale(), QCPRange(1500.0, 1650.0));
+  answer("OK");
+  EXPECT_EQ(Scale(), QCPRange(1500.0, 3000.0));
+  Add({900.0});
+  EXPECT_EQ(Scale(), QCPRange(1500.0, 3000.0)) << "a scale by hand stays";
+}
+
+TEST_F(History, PagesFitOntoPaper) {
+  ExtremumList list;
+  list.count = ExtremumList::kLimit - 1;
+  Add(std::vector<double>(50, 1600.0));
+  const std::function<void(QPainter&, const QRectF&)> pages[] = {
+      [this](QPainter& painter, const QRectF& page) {
+        PaintHistoryPage(painter, page, state.thicknessHistory, {1500.0, 1700.0});
+      },
+      [&list](QPainter& painter, const QRectF& page) { PaintWaveListPage(painter, page, list); }};
+  for (const auto& paint : pages) {
+    QPdfWriter paper(File("頁.pdf"));
+    const QRectF page(0.0, 0.0, paper.width(), paper.height());
+    QPainter painter(&paper);
+    paint(painter, page);
+    EXPECT_TRUE(painter.end());
+    EXPECT_GT(Bytes(File("頁.pdf")).size(), 5000);
+
+    // On a white picture, ink keeps away from the last pixels on every side.
+    QImage image(800, 1130, QImage::Format_RGB32);
+    image.fill(Qt::white);
+    QPainter imagePainter(&image);
+    paint(imagePainter, QRectF(40.0, 40.0, 720.0, 1050.0));
+    imagePainter.end();
+    int outside = 0;
+    for (int y = 0; y < image.height(); ++y) {
+      for (int x = 0; x < image.width(); ++x) {
+        const bool inside = QRect(39, 39, 723, 1053).contains(x, y);
+        outside += !inside && image.pixelColor(x, y) != Qt::white ? 1 : 0;
+      }
+    }
+    EXPECT_EQ(outside, 0);
+  }
+}
+
+}  // namespace
+}  // namespace vexa

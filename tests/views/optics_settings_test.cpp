@@ -1,0 +1,297 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include <gtest/gtest.h>
+
+#include <QCheckBox>
+#include <QFile>
+#include <QGroupBox>
+#include <QPushButton>
+#include <QRadioButton>
+#include <QTemporaryDir>
+#include <QTest>
+
+#include "optics/index_file.h"
+#include "support/prepared_answers.h"
+#include "support/prepared_files.h"
+#include "views/common/number_field.h"
+#include "views/optics/ref_set_dlg.h"
+
+namespace vexa {
+namespace {
+
+using Mode = RefSetDlg::Mode;
+using test::ShownMessage;
+
+class Settings : public testing::Test {
+ protected:
+  RefSetDlg& Open(Mode mode) {
+    dialog = std::make_unique<RefSetDlg>(mode, state, messages, files);
+    dialog->show();
+    return *dialog;
+  }
+  template <typename Widget>
+  Widget& Find(const char* name) {
+    return *dialog->findChild<Widget*>(QLatin1String(name));
+  }
+  void Press(const char* name) { Find<QAbstractButton>(name).click(); }
+  // Replaces the text as a user does, key by key.
+  QString Type(const char* name, const char* keys) {
+    auto& field = Find<QLineEdit>(name);
+    field.selectAll();
+    QTest::keyClick(&field, Qt::Key_Delete);
+    QTest::keyClicks(&field, QLatin1String(keys));
+    return field.text();
+  }
+  QString File(const char* name) const { return directory.filePath(QString::fromUtf8(name)); }
+  QByteArray FirstLine(const char* name) const {
+    QFile file(File(name));
+    return file.open(QIODevice::ReadOnly) ? file.readLine() : QByteArray();
+  }
+
+  VEXATYPE state;
+  test::PreparedAnswers messages;
+  test::PreparedFiles files;
+  QTemporaryDir directory{QDir::tempPath() + QStringLiteral("/膜 厚-XXXXXX")};
+  std::unique_ptr<RefSetDlg> dialog;
+};
+
+TEST_F(Settings, HoldSevenPagesAndEnableTheFieldsOfTheKind) {
+  const QStringList captions{QStringLiteral("膜厚測定"),  QStringLiteral("分散設定"),
+                             QStringLiteral("固定値"),    QStringLiteral("分散式１"),
+                             QStringLiteral("分散式２"),  QStringLiteral("ﾌｧｲﾙ"),
+                             QStringLiteral("基板屈折率")};
+  const char* const fieldOfKind[] = {"FixedValue", "Schott5", "Sellmeier0", "IndexLoad",
+                                     "SubstrateLoad"};
+  for (const Mode mode : {Mode::kReference, Mode::kThickness}) {
+    const bool thickness = mode == Mode::kThickness;
+    Open(mode);
+    EXPECT_EQ(dialog->windowTitle(),
+              thickness ? QStringLiteral("膜厚設定") : QStringLiteral("ﾘﾌｧﾚﾝｽ設定"));
+    auto& pages = Find<QTabWidget>("Pages");
+    ASSERT_EQ(pages.count(), 7);
+    for (int i = 0; i < 7; ++i) {
+      EXPECT_EQ(pages.tabText(i), captions[i]);
+      EXPECT_EQ(pages.isTabEnabled(i), thickness || (i > 0 && i < 6)) << i;
+    }
+    EXPECT_EQ(Find<QRadioButton>("Kind4").isEnabled(), thickness);
+    for (int kind = 0; kind < (thickness ? 5 : 4); ++kind) {
+      Press(qPrintable(QStringLiteral("Kind%1").arg(kind)));
+      for (int field = 0; field < 5; ++field) {
+        EXPECT_EQ(Find<QWidget>(fieldOfKind[field]).isEnabledTo(dialog.get()), field == kind)
+            << kind << fieldOfKind[field];
+      }
+    }
+  }
+}
+
+TEST_F(Settings, FieldsTakeNumbersAloneAndShowThemInTheirPattern) {
+  Open(Mode::kReference);
+  Press("Kind0");
+  EXPECT_EQ(Type("FixedValue", "x5,2a.5 "), QStringLiteral("52.5"));
+  QTest::keyClick(&Find<QLineEdit>("FixedValue"), Qt::Key_Tab);
+  emit Find<QLineEdit>("FixedValue").editingFinished();
+  EXPECT_EQ(Find<QLineEdit>("FixedValue").text(), QStringLiteral("52.500000"));
+  EXPECT_EQ(Find<QLineEdit>("Sellmeier4").text(), QStringLiteral("-1.18225190E-02"));
+  EXPECT_EQ(Find<QLineEdit>("Schott3").text(), QStringLiteral("-7.61239110E-05"));
+}
+
+TEST_F(Settings, FixedValuesHaveTheirRange) {
+  const ShownMessage reflectance{
+      "設定入力: 固定反射率値が設定範囲を越えています。 (0.1 ≦ 設定値 ≦ 110)", 48};
+  const ShownMessage index{"設定入力: 固定屈折率が設定範囲を越えています。 (0.1 ≦ 設定値 ≦ 10)",
+                           48};
+  const struct {
+    Mode mode;
+    const char* typed;
+    std::vector<ShownMessage> shown;
+  } cases[] = {
+      {Mode::kReference, "110", {}},       {Mode::kReference, "110.0001", {reflectance}},
+      {Mode::kReference, "0.1", {}},       {Mode::kReference, "0.0999", {reflectance}},
+      {Mode::kReference, "1E1", {}},       {Mode::kReference, "", {reflectance}},
+      {Mode::kThickness, "0.1", {}},       {Mode::kThickness, "0.0999", {index}},
+      {Mode::kThickness, "10", {}},        {Mode::kThickness, "10.0001", {index}},
+      {Mode::kThickness, "1.5+", {index}},
+  };
+  for (const auto& c : cases) {
+    state = {};
+    Open(c.mode);
+    Press("Kind0");
+    Type("FixedValue", c.typed);
+    Press("OK");
+    EXPECT_EQ(messages.Take(), c.shown) << c.typed;
+    EXPECT_EQ(dialog->isVisible(), !c.shown.empty()) << c.typed;
+    EXPECT_EQ(dialog->Outcome(), c.shown.empty() ? QStringLiteral("OK") : QStringLiteral("CANCEL"));
+    const bool reference = c.mode == Mode::kReference;
+    const double stored = reference ? state.referenceReflectance[640] : state.filmIndex[640];
+    EXPECT_EQ(stored, c.shown.empty() ? QString::fromLatin1(c.typed).toDouble() : 0.0) << c.typed;
+    const DispersionSetting& setting = reference ? state.referenceSetting : state.thickness.coat;
+    EXPECT_EQ(setting.kind, c.shown.empty() ? 0 : 2) << c.typed;
+  }
+}
+
+TEST_F(Settings, NumbersThatWereNotEditedKeepTheirDigits) {
+  state.thickness.coat.sellmeier[0] = 1.151501912345678;
+  Open(Mode::kThickness);
+  Type("Sellmeier1", "0.25");
+  Press("OK");
+  EXPECT_EQ(state.thickness.coat.sellmeier[0], 1.151501912345678);
+  EXPECT_EQ(state.thickness.coat.sellmeier[1], 0.25);
+}
+
+TEST_F(Settings, RejectedSettingsChangeNothing) {
+  const ShownMessage computed{"VEXA-KT: 分散計算が発生しました。設定は無効となります。", 48};
+  const ShownMessage noFile{"VEXA-KT: 分散データが読み込まれていません。", 48};
+  const ShownMessage noSubstrate{"VEXA-KT: 基板屈折率データが読み込まれていません。", 48};
+  const ShownMessage typeC{
+      "VEXA-KT: ’タイプＣ’と’基板屈折率を使用し計算’の組み合わせはできません。", 48};
+  const ShownMessage noNumber{"設定入力: 係数が数値ではありません。", 48};
+  const struct {
+    const char* kind;
+    const char* type;
+    const char* field;
+    const char* typed;
+    ShownMessage shown;
+  } cases[] = {
+      {"Kind2", "Type0", "Sellmeier3", "0.36", computed},  // a pole at 600 nm
+      {"Kind1", "Type0", "Schott0", "-9", computed},
+      {"Kind1", "Type0", "Schott5", "1E", noNumber},
+      {"Kind3", "Type2", nullptr, "", noFile},
+      {"Kind4", "Type1", nullptr, "", noSubstrate},
+      {"Kind4", "Type2", nullptr, "", typeC},
+  };
+  for (const auto& c : cases) {
+    for (const char* button : {"OK", "Save"}) {
+      state = {};
+      Open(Mode::kThickness);
+      Press("ThicknessEnabled");
+      Press(c.kind);
+      Press(c.type);
+      if (c.field != nullptr) {
+        Type(c.field, c.typed);
+      }
+      files.filter.clear();
+      Press(button);
+      EXPECT_EQ(messages.Take(), std::vector{c.shown}) << c.kind << button;
+      EXPECT_TRUE(dialog->isVisible());
+      EXPECT_EQ(files.filter, "") << "no name is asked for";
+      EXPECT_FALSE(state.thickness.enabled);
+      EXPECT_EQ(state.thickness.coat, DefaultCoatSetting());
+      EXPECT_EQ(state.filmIndex, ReflectanceSpectrum());
+      Press("Cancel");
+      EXPECT_EQ(dialog->Outcome(), QStringLiteral("CANCEL"));
+    }
+  }
+}
+
+TEST_F(Settings, OkStoresTheThicknessMeasurement) {
+  Open(Mode::kThickness);
+  for (const char* choice : {"ThicknessEnabled", "Type1", "ThicknessKind1", "Kind2"}) {
+    Press(choice);
+  }
+  Press("OK");
+  EXPECT_TRUE(state.thickness.enabled);
+  EXPECT_EQ(state.thickness.type, ThicknessType::kB);
+  EXPECT_EQ(state.thickness.kind, ThicknessKind::kOptical);
+  EXPECT_GT(state.filmIndex[440], state.filmIndex[840]);
+
+  Open(Mode::kReference);
+  Press("OK");
+  EXPECT_NEAR(state.referenceReflectance[588], 4.2, 0.5) << "a glass, in percent";
+}
+
+TEST_F(Settings, FilesAreSavedAndLoaded) {
+  const struct {
+    Mode mode;
+    const char* name;
+    const char* header;
+    const char* filter;
+  } cases[] = {
+      {Mode::kReference, "基準.ref", "VEXA-KT 440-840 Ver 3.21 Reference File\r\n",
+       "ﾘﾌｧﾚﾝｽ･ﾃﾞｰﾀﾌｧｲﾙ(*.ref)|*.ref|"},
+      {Mode::kThickness, "膜.ind", "VEXA-KT 440-840 Ver 3.21 Index File\r\n",
+       "ｲﾝﾃﾞｯｸｽ･ﾃﾞｰﾀﾌｧｲﾙ(*.ind)|*.ind|"},
+  };
+  const ShownMessage question{"VEXA-KT ﾜｰﾆﾝｸﾞ: 同ﾌｧｲﾙ名が存在します。上書き保存しますか？", 49};
+  for (const auto& c : cases) {
+    Open(c.mode);
+    Press("Kind0");
+    Type("FixedValue", "1.75");
+    files.save = SaveChoice{File(c.name).section(u'.', 0, -2), 2};
+    Press("Save");
+    EXPECT_EQ(files.filter, std::string("全てのﾌｧｲﾙ(*.*)|*.*|") + c.filter);
+    EXPECT_EQ(FirstLine(c.name), c.header);
+    EXPECT_TRUE(messages.Take().empty());
+
+    Type("FixedValue", "2");
+    messages.answers = {MessageResult::kCancel};
+    Press("Save");
+    EXPECT_EQ(messages.Take(), std::vector{question});
+
+    Press("Kind3");
+    files.open = File(c.name);
+    Press("IndexLoad");
+    EXPECT_EQ(files.filter, c.filter);
+    Press("OK");
+    EXPECT_TRUE(messages.Take().empty());
+    EXPECT_EQ((c.mode == Mode::kReference ? state.referenceReflectance : state.filmIndex)[700],
+              1.75);
+  }
+}
+
+TEST_F(Settings, BadFilesLeaveTheFieldsAsTheyWere) {
+  const ShownMessage reference{"VEXA-KT ｴﾗｰ: ﾘﾌｧﾚﾝｽ･ﾌｧｲﾙの読み込みに失敗しました。", 16};
+  const ShownMessage index{"VEXA-KT ｴﾗｰ: 屈折率ﾌｧｲﾙの読み込みに失敗しました。", 16};
+  const struct {
+    Mode mode;
+    const char* kind;
+    const char* button;
+    const char* field;
+    ShownMessage shown;
+  } cases[] = {{Mode::kReference, "Kind3", "IndexLoad", "IndexFileName", reference},
+               {Mode::kThickness, "Kind3", "IndexLoad", "IndexFileName", index},
+               {Mode::kThickness, "Kind4", "SubstrateLoad", "SubstrateFileName", index}};
+  for (const auto& c : cases) {
+    state.referenceSetting.indexFileName = QStringLiteral("old");
+    state.thickness.coat.indexFileName = QStringLiteral("old");
+    state.thickness.coat.dataFileName = QStringLiteral("old");
+    Open(c.mode);
+    Press(c.kind);
+    files.open = File("missing");
+    Press(c.button);
+    EXPECT_EQ(messages.Take(), std::vector{c.shown}) << c.button;
+    EXPECT_EQ(Find<QLineEdit>(c.field).text(), QStringLiteral("old"));
+
+    files.open = File("한글.ind");
+    ASSERT_TRUE(WriteIndexFile(*files.open, IndexFileContent::kIndex, {}));
+    Press(c.button);
+    EXPECT_EQ(messages.Take().size(), 1U) << "the environment file cannot hold the name";
+    EXPECT_EQ(Find<QLineEdit>(c.field).text(), QStringLiteral("old"));
+  }
+  files.save = SaveChoice{File("missing/x"), 1};
+  Press("Kind2");
+  Press("Save");
+  EXPECT_EQ(messages.Take(),
+            (std::vector{ShownMessage{"VEXA-KT ｴﾗｰ: 屈折率ﾌｧｲﾙの書き込みに失敗しました。", 16}}));
+}
+
+TEST_F(Settings, SubstrateFilesGiveTheIndexOfTheSubstrate) {
+  QFile file(File("基板.dat"));
+  ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+  file.write("VEXA for Windows ver 1.10 Data File\r\na comment\r\n 1 \r\nsample\r\n");
+  for (int nm = 440; nm <= 840; ++nm) {
+    file.write("4\r\n");
+  }
+  file.close();
+  state.filmIndex[500] = 1.25;
+  Open(Mode::kThickness);
+  Press("Kind4");
+  files.open = file.fileName();
+  Press("SubstrateLoad");
+  EXPECT_EQ(files.filter, "ﾃﾞｰﾀ･ﾌｧｲﾙ(*.csv,*.dat)|*.csv;*.dat|");
+  Press("OK");
+  EXPECT_TRUE(messages.Take().empty());
+  EXPECT_NEAR(state.substrateIndex[500], 1.5, 1e-12);  // 4 % of a bare surface
+  EXPECT_EQ(state.filmIndex[500], 1.25);
+}
+
+}  // namespace
+}  // namespace vexa
