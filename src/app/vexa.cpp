@@ -20,6 +20,10 @@
 #include "views/files/data_file_commands.h"
 #include "views/files/environment_commands.h"
 #include "views/graph/reflectance_graph.h"
+#include "views/optics/ref_set_dlg.h"
+#include "views/optics/thick_graph.h"
+#include "views/optics/thickness_panel.h"
+#include "views/optics/wave_list_dlg.h"
 #include "views/settings/calibration_dlg.h"
 #include "views/settings/sampling_dlg.h"
 
@@ -74,6 +78,7 @@ void VEXA::BuildPanels() {
   graph_ = new ReflectanceGraph;
   progress_ = new ProgressStrip;
   colour_ = new ColourPanel;
+  thickness_ = new ThicknessPanel(state_, services_.messages);
   status_ = new StatusPanels;
   setStatusBar(status_);
 
@@ -93,7 +98,12 @@ void VEXA::BuildPanels() {
   layout->setSpacing(10);
   layout->addWidget(bar_);
   layout->addLayout(middle, 1);
-  layout->addWidget(colour_);
+  auto* right = new QVBoxLayout;
+  right->setSpacing(8);
+  right->addWidget(colour_);
+  right->addWidget(thickness_);
+  right->addStretch();
+  layout->addLayout(right);
   setCentralWidget(central);
   resize(1280, 800);
 }
@@ -114,6 +124,14 @@ void VEXA::ConnectCommands() {
   enable(commands_.saveEnvironment, [&, this] { SaveEnvironment(state_, messages); });
   enable(commands_.saveEnvironmentAs, [&, this] { SaveEnvironmentAs(state_, messages, dialogs); });
   enable(commands_.sampleInformation, [&, this] { AddinpFrm(state_, messages, this).exec(); });
+  enable(commands_.referenceSettings, [&, this] {
+    RefSetDlg(RefSetDlg::Mode::kReference, state_, messages, dialogs, this).exec();
+  });
+  enable(commands_.thicknessSettings, [&, this] {
+    RefSetDlg(RefSetDlg::Mode::kThickness, state_, messages, dialogs, this).exec();
+  });
+  enable(commands_.wavelengthList, [&, this] { WaveListDlg(state_, messages, this).exec(); });
+  enable(commands_.thicknessGraph, [this] { ShowThicknessGraph(); });
   enable(commands_.samplingSettings,
          [&, this] { SamplingDlg(state_, *controller_, messages, this).exec(); });
   enable(commands_.calibration, [&, this] { CalibrationDlg(state_, messages, this).exec(); });
@@ -186,9 +204,23 @@ void VEXA::TakeOverEnvironment() {
   }
 }
 
+void VEXA::ShowThicknessGraph() {
+  if (thicknessGraph_ == nullptr) {
+    thicknessGraph_ = new ThickGraph(state_, services_.messages, services_.dialogs, this);
+  }
+  thicknessGraph_->SetCurrentSlot(GetOption());
+  thicknessGraph_->show();
+  thicknessGraph_->raise();
+}
+
 void VEXA::Refresh() {
   bar_->Show(state_);
   graph_->Show(state_, GetOption());
+  thickness_->setVisible(state_.thickness.enabled);
+  thickness_->Show(GetOption());
+  if (thicknessGraph_ != nullptr) {
+    thicknessGraph_->SetCurrentSlot(GetOption());
+  }
   status_->ShowEnvironmentName(state_.envFileName);
 }
 

@@ -19,6 +19,8 @@ class MeasurementBar;
 class ProgressStrip;
 class ReflectanceGraph;
 class StatusPanels;
+class ThickGraph;
+class ThicknessPanel;
 
 /// What the main window is given from outside.
 struct Services {
@@ -56,6 +58,7 @@ class VEXA : public QMainWindow {
   void StartController();
   [[nodiscard]] bool Unload();
   void TakeOverEnvironment();
+  void ShowThicknessGraph();
   void Refresh();
   void UpdateCommands();
 
@@ -68,6 +71,8 @@ class VEXA : public QMainWindow {
   ReflectanceGraph* graph_ = nullptr;
   ProgressStrip* progress_ = nullptr;
   ColourPanel* colour_ = nullptr;
+  ThicknessPanel* thickness_ = nullptr;
+  ThickGraph* thicknessGraph_ = nullptr;
   StatusPanels* status_ = nullptr;
   bool loading_ = false;
   bool controllerReady_ = false;

@@ -23,7 +23,7 @@ ColourPanel::ColourPanel(QWidget* parent) : QWidget(parent) {
   layout->setSpacing(8);
   layout->addWidget(BuildDiagram());
   layout->addWidget(BuildValues());
-  layout->addStretch();
+
 }
 
 QWidget* ColourPanel::BuildDiagram() {
