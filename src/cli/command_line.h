@@ -24,6 +24,8 @@ struct Command {
 [[nodiscard]] Command DecodeCommand();
 [[nodiscard]] Command ReflectanceCommand();
 [[nodiscard]] Command MeasureCommand();
+[[nodiscard]] Command JudgeCommand();
+[[nodiscard]] Command StandardCommand();
 
 /// The value of a whole-number option, or `otherwise` when it was not given. Nothing, and a
 /// complaint, when it is no number within minimum..maximum.
