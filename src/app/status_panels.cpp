@@ -12,7 +12,7 @@ namespace vexa {
 namespace {
 
 constexpr int kEnvironmentWidth = 120;
-constexpr int kVerdictWidth = 146;
+constexpr int kVerdictWidth = 150;
 constexpr int kMarkSize = 16;
 constexpr QColor kGoodPaper{0xe3, 0xf3, 0xe8};
 constexpr QColor kBad{0xb3, 0x1b, 0x1b};
@@ -111,7 +111,7 @@ void StatusPanels::AddVerdictPanel(std::size_t group) {
   auto* mark = new QLabel;
   mark->setObjectName(panel->objectName() + QStringLiteral("Mark"));
   auto* row = new QHBoxLayout(panel);
-  row->setContentsMargins(6, 0, 0, 0);
+  row->setContentsMargins(0, 0, 0, 0);
   row->addWidget(mark, 0, Qt::AlignLeft | Qt::AlignVCenter);
   addPermanentWidget(panel);
   verdicts_[group] = {panel, mark};

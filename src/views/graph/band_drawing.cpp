@@ -12,6 +12,8 @@ namespace {
 constexpr int kAreaAlpha = 22;
 constexpr qreal kLineWidth = 1.2;
 constexpr double kBarWidth = 14.0;
+// A mark of this size draws its path as it stands; others scale it.
+constexpr double kPathSize = 6.0;
 const QString kLayer = QStringLiteral("band");
 
 QPen LimitPen() {
@@ -72,9 +74,9 @@ void BandDrawing::AddBar(const BandPoint& point) {
   const double nm = point.nm;
   QCPGraph* bar = AddLine({{nm, point.lower}, {nm, point.upper}});
   QPainterPath end;
-  end.moveTo(-kBarWidth / 2.0, 0.0);
-  end.lineTo(kBarWidth / 2.0, 0.0);
-  bar->setScatterStyle(QCPScatterStyle(end, QPen(theme::kMutedText, 2.0), Qt::NoBrush, kBarWidth));
+  end.moveTo(-kPathSize / 2.0, 0.0);
+  end.lineTo(kPathSize / 2.0, 0.0);
+  bar->setScatterStyle(QCPScatterStyle(end, QPen(theme::kMutedText, 1.0), Qt::NoBrush, kBarWidth));
 }
 
 }  // namespace vexa

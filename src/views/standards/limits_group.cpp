@@ -4,13 +4,21 @@
 #include <QLabel>
 
 namespace vexa {
+namespace {
+
+// Places of the grid.
+constexpr int kBeside = 3;
+constexpr int kBelow = 2;
+
+}  // namespace
 
 LimitsGroup::LimitsGroup(const QString& name, const QString& caption, const QString& unit)
     : QGroupBox(caption), range_(name), grid_(new QGridLayout(this)) {
   setObjectName(name);
   setCheckable(true);
   grid_->setVerticalSpacing(6);
-  grid_->setColumnStretch(3, 1);
+  grid_->setColumnStretch(kBeside, 1);
+  grid_->setRowStretch(kBelow + 1, 1);
   const auto add = [this, &unit](int row, const QString& text, RealEntry* field) {
     auto* label = new QLabel(text);
     label->setBuddy(field);
@@ -23,7 +31,11 @@ LimitsGroup::LimitsGroup(const QString& name, const QString& caption, const QStr
 }
 
 void LimitsGroup::AddBelow(QWidget* widget) {
-  grid_->addWidget(widget, grid_->rowCount(), 0, 1, grid_->columnCount());
+  grid_->addWidget(widget, kBelow, 0, 1, kBeside + 1);
+}
+
+void LimitsGroup::AddBeside(QWidget* widget) {
+  grid_->addWidget(widget, 0, kBeside, kBelow, 1);
 }
 
 void LimitsGroup::Show(const StandardLimits& limits) {

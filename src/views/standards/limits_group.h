@@ -18,6 +18,8 @@ class LimitsGroup : public QGroupBox {
 
   /// A line of its own below the limits.
   void AddBelow(QWidget* widget);
+  /// At the right of both limits.
+  void AddBeside(QWidget* widget);
 
   void Show(const StandardLimits& limits);
   /// See RangeFields.

@@ -85,14 +85,14 @@ QWidget* StandardFrm::BuildGroups() {
   range->setTextFormat(Qt::PlainText);
   range->setObjectName(QStringLiteral("hueRange"));
   hue_->AddBelow(range);
-  wavelengthValue_->AddBelow(BuildPeakChoice());
+  wavelengthValue_->AddBeside(BuildPeakChoice());
   auto* widget = new QWidget;
   auto* grid = new QGridLayout(widget);
   grid->setContentsMargins(0, 0, 0, 0);
   grid->setSpacing(12);
   grid->addWidget(average_, 0, 0);
   grid->addWidget(luminous_, 0, 1);
-  grid->addWidget(wavelengthValue_, 1, 0);
+  grid->addWidget(wavelengthValue_, 1, 0, 1, 2);
   grid->addWidget(chroma_, 2, 0);
   grid->addWidget(hue_, 2, 1);
   grid->addWidget(chromaMarker_, 3, 0);
@@ -108,8 +108,8 @@ QWidget* StandardFrm::BuildPeakChoice() {
   bottom_->setObjectName(QStringLiteral("bottom"));
   auto* widget = new QWidget;
   auto* row = new QHBoxLayout(widget);
-  row->setContentsMargins(0, 0, 0, 0);
-  row->setSpacing(16);
+  row->setContentsMargins(24, 0, 0, 0);
+  row->setSpacing(24);
   row->addWidget(peak_);
   row->addWidget(bottom_);
   row->addStretch();
