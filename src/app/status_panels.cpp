@@ -1,35 +1,139 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "app/status_panels.h"
 
+#include <QHBoxLayout>
+#include <QPainter>
+#include <cmath>
+
+#include "base/number_text.h"
 #include "views/common/theme.h"
 
 namespace vexa {
+namespace {
+
+constexpr int kEnvironmentWidth = 120;
+constexpr int kVerdictWidth = 150;
+constexpr int kMarkSize = 16;
+constexpr QColor kGoodPaper{0xe3, 0xf3, 0xe8};
+constexpr QColor kBad{0xb3, 0x1b, 0x1b};
+
+/// Unit and format of a group's margin.
+struct MarginText {
+  QString unit;
+  QString pattern;
+};
+
+const std::array<MarginText, kStandardGroupCount> kMarginTexts{{
+    {QStringLiteral(" %"), QStringLiteral("0.000#")},
+    {QStringLiteral(" %"), QStringLiteral("0.000#")},
+    {QStringLiteral(" %"), QStringLiteral("0.000#")},
+    {QStringLiteral(" nm"), QStringLiteral("0.###")},
+    {QString(), QStringLiteral("0.00##")},
+    {QStringLiteral("°"), QStringLiteral("0.00##")},
+}};
+
+QString PanelStyle(const QColor& paper, const QColor& border, const QColor& text, bool bold) {
+  return QStringLiteral(
+             "QLabel#%5 { background: %1; border: 1px solid %2; color: %3; font-weight: %4;"
+             "  padding: 2px 6px; margin: 1px; }")
+      .arg(paper.name(), border.name(), text.name(),
+           bold ? QStringLiteral("bold") : QStringLiteral("normal"));
+}
+
+QString StyleOf(const std::optional<bool>& passed) {
+  if (!passed) {
+    return PanelStyle(theme::kPanel, theme::kBorder, theme::kText, false);
+  }
+  return *passed ? PanelStyle(kGoodPaper, theme::kGood, theme::kText, false)
+                 : PanelStyle(kBad, kBad, Qt::white, true);
+}
+
+// A cross in a square: told from the tick in its disc by its shape.
+QPixmap CrossMark() {
+  QPixmap pixmap = IconCanvas(QSize(kMarkSize, kMarkSize));
+  QPainter painter(&pixmap);
+  painter.setRenderHint(QPainter::Antialiasing);
+  painter.setPen(Qt::NoPen);
+  painter.setBrush(Qt::white);
+  painter.drawRoundedRect(QRectF(1.5, 1.5, 13.0, 13.0), 2.0, 2.0);
+  painter.setPen(QPen(kBad, 2.4, Qt::SolidLine, Qt::RoundCap));
+  painter.drawLine(QLineF(5.0, 5.0, 11.0, 11.0));
+  painter.drawLine(QLineF(11.0, 5.0, 5.0, 11.0));
+  return pixmap;
+}
+
+QString Tip(const Judgement& judgement, std::size_t group) {
+  const GroupJudgement& verdict = judgement.groups[group];
+  if (!verdict.passed) {
+    return {};
+  }
+  if (!verdict.margin) {
+    return *verdict.passed ? QStringLiteral("限界と比べる値がありません。")
+                           : QStringLiteral("規格が440nm-840nmの範囲で判定できません。");
+  }
+  const MarginText& text = kMarginTexts[group];
+  const QString amount = FormatNumber(std::abs(*verdict.margin), text.pattern) + text.unit;
+  const QString place = group == static_cast<std::size_t>(StandardGroup::kReflectance)
+                            ? QStringLiteral(" (%1 nm)").arg(judgement.bandMarginNm)
+                            : QString();
+  return (*verdict.margin < 0.0 ? QStringLiteral("限界外: %1%2")
+                                : QStringLiteral("限界までの余裕: %1%2"))
+      .arg(amount, place);
+}
+
+}  // namespace
 
 StatusPanels::StatusPanels(QWidget* parent) : QStatusBar(parent) {
   setSizeGripEnabled(false);
-  setStyleSheet(QStringLiteral("QStatusBar::item { border: none; }"
-                               "QStatusBar > QLabel { background: %1; border: 1px solid %2;"
-                               "  padding: 2px 6px; margin: 1px; }")
-                    .arg(theme::kPanel.name(), theme::kBorder.name()));
-  for (std::size_t i = 0; i < panels_.size(); ++i) {
-    auto* panel = new QLabel;
-    panel->setObjectName(QStringLiteral("StatusPanel%1").arg(i + 1));
-    panel->setTextFormat(Qt::PlainText);
-    if (i == 0) {
-      panel->setMinimumWidth(120);
-      addWidget(panel, 1);
-    } else {
-      panel->setAlignment(Qt::AlignCenter);
-      panel->setFixedWidth(122);
-      addPermanentWidget(panel);
-    }
-    panels_[i] = panel;
+  setStyleSheet(QStringLiteral("QStatusBar::item { border: none; }"));
+  AddEnvironmentPanel();
+  for (std::size_t group = 0; group < kStandardGroupCount; ++group) {
+    AddVerdictPanel(group);
   }
+  ShowJudgement({});
+}
+
+void StatusPanels::AddEnvironmentPanel() {
+  environment_ = new QLabel;
+  environment_->setObjectName(QStringLiteral("StatusPanel1"));
+  environment_->setTextFormat(Qt::PlainText);
+  environment_->setMinimumWidth(kEnvironmentWidth);
+  environment_->setStyleSheet(StyleOf(std::nullopt).arg(environment_->objectName()));
+  addWidget(environment_, 1);
+}
+
+void StatusPanels::AddVerdictPanel(std::size_t group) {
+  auto* panel = new QLabel;
+  panel->setObjectName(QStringLiteral("StatusPanel%1").arg(group + 2));
+  panel->setTextFormat(Qt::PlainText);
+  panel->setFixedWidth(kVerdictWidth);
+  panel->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+  auto* mark = new QLabel;
+  mark->setObjectName(panel->objectName() + QStringLiteral("Mark"));
+  auto* row = new QHBoxLayout(panel);
+  row->setContentsMargins(0, 0, 0, 0);
+  row->addWidget(mark, 0, Qt::AlignLeft | Qt::AlignVCenter);
+  addPermanentWidget(panel);
+  verdicts_[group] = {panel, mark};
 }
 
 void StatusPanels::ShowEnvironmentName(const QString& name) {
-  panels_[0]->setText(QStringLiteral("環境ﾌｧｲﾙ名") + QStringLiteral(":") + name);
-  panels_[0]->setToolTip(name);
+  environment_->setText(QStringLiteral("環境ﾌｧｲﾙ名") + QStringLiteral(":") + name);
+  environment_->setToolTip(name);
+}
+
+void StatusPanels::ShowJudgement(const Judgement& judgement) {
+  for (std::size_t group = 0; group < kStandardGroupCount; ++group) {
+    const std::optional<bool> passed = judgement.groups[group].passed;
+    const VerdictPanel& panel = verdicts_[group];
+    panel.text->setText(judgement.panelTexts[group]);
+    panel.text->setToolTip(Tip(judgement, group));
+    panel.text->setStyleSheet(StyleOf(passed).arg(panel.text->objectName()));
+    panel.mark->setVisible(passed.has_value());
+    if (passed) {
+      panel.mark->setPixmap(*passed ? DoneIcon(true).pixmap(kMarkSize, kMarkSize) : CrossMark());
+    }
+  }
 }
 
 }  // namespace vexa

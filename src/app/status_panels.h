@@ -5,6 +5,8 @@
 #include <QStatusBar>
 #include <array>
 
+#include "standards/judgement.h"
+
 namespace vexa {
 
 /// The seven panels of the status bar: the environment file name, and one panel for the verdict of
@@ -17,8 +19,20 @@ class StatusPanels : public QStatusBar {
 
   void ShowEnvironmentName(const QString& name);
 
+  /// Shows the verdicts, each with a mark of its own for OK and NG, and in a panel's tip its
+  /// margin.
+  void ShowJudgement(const Judgement& judgement);
+
  private:
-  std::array<QLabel*, 7> panels_{};
+  void AddEnvironmentPanel();
+  void AddVerdictPanel(std::size_t group);
+
+  QLabel* environment_ = nullptr;
+  struct VerdictPanel {
+    QLabel* text;
+    QLabel* mark;
+  };
+  std::array<VerdictPanel, kStandardGroupCount> verdicts_{};
 };
 
 }  // namespace vexa

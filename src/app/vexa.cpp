@@ -15,6 +15,8 @@
 #include "files/startup_file.h"
 #include "measurement/controller_start.h"
 #include "measurement/dispersion_data.h"
+#include "measurement/evaluation.h"
+#include "standards/reflectance_band.h"
 #include "views/colour/colour_panel.h"
 #include "views/files/addinp_frm.h"
 #include "views/files/data_file_commands.h"
@@ -26,6 +28,8 @@
 #include "views/optics/wave_list_dlg.h"
 #include "views/settings/calibration_dlg.h"
 #include "views/settings/sampling_dlg.h"
+#include "views/standards/standard_files.h"
+#include "views/standards/standard_frm.h"
 
 namespace vexa {
 
@@ -130,6 +134,7 @@ void VEXA::ConnectCommands() {
   enable(commands_.thicknessSettings, [&, this] {
     RefSetDlg(RefSetDlg::Mode::kThickness, state_, messages, dialogs, this).exec();
   });
+  enable(commands_.standards, [&, this] { StandardFrm(state_, messages, dialogs, this).exec(); });
   enable(commands_.wavelengthList, [&, this] { WaveListDlg(state_, messages, this).exec(); });
   enable(commands_.thicknessGraph, [this] { ShowThicknessGraph(); });
   enable(commands_.samplingSettings,
@@ -148,7 +153,10 @@ void VEXA::ConnectSequence() {
   connect(bar_, &MeasurementBar::SampleRequested, &sequence_, &MeasurementSequence::MeasureSample);
   connect(bar_, &MeasurementBar::ClearRequested, &sequence_, &MeasurementSequence::ClearAll);
   connect(bar_, &MeasurementBar::DataRequested, commands_.sampleInformation, &QAction::trigger);
-  connect(bar_, &MeasurementBar::SlotSelected, this, &VEXA::Refresh);
+  connect(bar_, &MeasurementBar::SlotSelected, this, [this](int number) {
+    ComputeColours(state_.colour, *state_.Slot(number));
+    Refresh();
+  });
 
   connect(&sequence_, &MeasurementSequence::Began, this, [this](MeasurementKind kind, int slot) {
     bar_->ShowRunning(kind, slot);
@@ -178,6 +186,9 @@ void VEXA::StartController() {
 }
 
 bool VEXA::Unload() {
+  if (!SaveStandardsBeforeExit(state_, services_.messages, services_.dialogs)) {
+    return false;
+  }
   state_.envFileName = CompletePath(state_, state_.envFileName);
   const MessageResult answer = services_.messages.MsgCall(
       state_.envFileName + QStringLiteral("\r\r現在の環境をｾｰﾌﾞしますか。"),
@@ -216,6 +227,10 @@ void VEXA::ShowThicknessGraph() {
 void VEXA::Refresh() {
   bar_->Show(state_);
   graph_->Show(state_, GetOption());
+  const MeasurementSlot* selected = state_.Slot(GetOption());
+  graph_->ShowBand(ReflectanceBand(state_.standard));
+  status_->ShowJudgement(selected != nullptr && selected->valid ? selected->judgement
+                                                                : Judgement());
   thickness_->setVisible(state_.thickness.enabled);
   thickness_->Show(GetOption());
   if (thicknessGraph_ != nullptr) {

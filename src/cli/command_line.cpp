@@ -11,8 +11,8 @@
 namespace vexa::cli {
 namespace {
 
-const std::array kCommands{ConvertCommand, DecodeCommand,  DispersionCommand,
-                           EnvCommand,     MeasureCommand, ReflectanceCommand};
+const std::array kCommands{ConvertCommand, DecodeCommand,  DispersionCommand,  EnvCommand,
+                           JudgeCommand,   MeasureCommand, ReflectanceCommand, StandardCommand};
 
 QString Overview() {
   QString text = QStringLiteral("Usage: vexa-cli COMMAND [arguments] [options]\n\nCommands:\n");

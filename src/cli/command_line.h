@@ -26,8 +26,10 @@ struct Command {
 [[nodiscard]] Command DecodeCommand();
 [[nodiscard]] Command DispersionCommand();
 [[nodiscard]] Command EnvCommand();
+[[nodiscard]] Command JudgeCommand();
 [[nodiscard]] Command MeasureCommand();
 [[nodiscard]] Command ReflectanceCommand();
+[[nodiscard]] Command StandardCommand();
 
 /// The value of a whole-number option, or `otherwise` when it was not given. Nothing, and a
 /// complaint, when it is no number within minimum..maximum.

@@ -43,6 +43,15 @@ void JudgeSlot(const VEXATYPE& state, MeasurementSlot& slot) {
   slot.judgement = JudgeStandards(slot.reflectance, slot.colour, state.standard);
 }
 
+void EvaluateAgain(VEXATYPE& state) {
+  for (MeasurementSlot& slot : state.measurementSlots) {
+    if (slot.valid) {
+      ComputeColours(state.colour, slot);
+      JudgeSlot(state, slot);
+    }
+  }
+}
+
 Status ComputeSlotThickness(VEXATYPE& state, MeasurementSlot& slot, MessageService& messages) {
   // In substrate mode the index of the film is derived anew from each sample.
   const Status status =

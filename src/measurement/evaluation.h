@@ -17,6 +17,10 @@ void ComputeColours(const ColourSettings& settings, MeasurementSlot& slot);
 /// The slot's verdicts under the standards in force.
 void JudgeSlot(const VEXATYPE& state, MeasurementSlot& slot);
 
+/// Colours and verdicts of all valid slots after the settings or the standards changed; nothing is
+/// accumulated.
+void EvaluateAgain(VEXATYPE& state);
+
 /// Computes the thickness for the slot and makes its extrema the current ones. A failure is shown,
 /// leaves zeros and no extrema, and is the status returned.
 Status ComputeSlotThickness(VEXATYPE& state, MeasurementSlot& slot, MessageService& messages);

@@ -5,6 +5,7 @@
 #include <QHBoxLayout>
 #include <QStyle>
 #include <QVBoxLayout>
+#include <QWindow>
 
 namespace vexa {
 namespace {
@@ -132,6 +133,13 @@ MessageResult WindowMessages::MsgCall(const QString& text, std::int16_t type,
                                       const QString& title) {
   if (dialog_ == nullptr) {
     dialog_ = new OriginalMsgFrm(window_);
+  }
+  // Above the dialog that asks, where there is one.
+  const QWidget* above = QApplication::activeModalWidget();
+  above = above == nullptr ? window_ : above->window();
+  dialog_->winId();
+  if (above != nullptr) {
+    dialog_->windowHandle()->setTransientParent(above->windowHandle());
   }
   dialog_->MsgCall(text, type, title);
   return dialog_->Result();

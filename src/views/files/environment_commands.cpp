@@ -4,6 +4,7 @@
 #include "files/configuration.h"
 #include "files/environment_file.h"
 #include "measurement/dispersion_data.h"
+#include "measurement/evaluation.h"
 #include "views/files/file_questions.h"
 
 namespace vexa {
@@ -28,6 +29,7 @@ bool OpenEnvironment(VEXATYPE& state, MessageService& messages, FileDialogs& dia
   }
   (void)LoadEnvironment(*path, state, messages);
   LoadDispersionData(state, messages);
+  EvaluateAgain(state);
   return true;
 }
 

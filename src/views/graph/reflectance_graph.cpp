@@ -6,6 +6,7 @@
 
 #include "views/common/plot_style.h"
 #include "views/common/slot_style.h"
+#include "views/graph/band_drawing.h"
 
 namespace vexa {
 namespace {
@@ -17,6 +18,8 @@ constexpr double kMoveStep = 0.1;
 constexpr double kSelectedWidth = 2.4;
 constexpr int kLegendColumns = 5;
 constexpr int kMarkerSpacingNm = 40;
+// Limits further above the curves than this would press them flat.
+constexpr double kFarLimit = 3.0;
 
 // The next round number at or above the value.
 double RoundedUp(double value) {
@@ -56,6 +59,7 @@ ReflectanceGraph::ReflectanceGraph(QWidget* parent) : QCustomPlot(parent) {
     line->setVisible(false);
     lines_[static_cast<std::size_t>(slot - 1)] = line;
   }
+  band_ = std::make_unique<BandDrawing>(*this);
   PlaceLegendAbove(*this, kLegendColumns);
 
   const auto leaveFullView = [this] { fullView_ = false; };
@@ -72,6 +76,8 @@ ReflectanceGraph::ReflectanceGraph(QWidget* parent) : QCustomPlot(parent) {
   connect(this, &QCustomPlot::afterReplot, this, &ReflectanceGraph::Drawn);
   ShowFullView();
 }
+
+ReflectanceGraph::~ReflectanceGraph() = default;
 
 void ReflectanceGraph::Show(const VEXATYPE& state, int selectedSlot) {
   legend->clearItems();
@@ -98,6 +104,14 @@ void ReflectanceGraph::Show(const VEXATYPE& state, int selectedSlot) {
     line.addToLegend();
   }
   legend->setVisible(state.HasValidSlot());
+  if (fullView_) {
+    ShowFullView();
+  }
+  replot(rpQueuedReplot);
+}
+
+void ReflectanceGraph::ShowBand(const std::vector<std::vector<BandPoint>>& band) {
+  band_->Show(band);
   if (fullView_) {
     ShowFullView();
   }
@@ -160,7 +174,8 @@ double ReflectanceGraph::LargestReflectance() const {
       largest = std::max(largest, point.value);
     }
   }
-  return largest;
+  const double limit = band_->HighestLimit();
+  return largest > 0.0 && limit > kFarLimit * largest ? largest : std::max(largest, limit);
 }
 
 }  // namespace vexa

@@ -4,10 +4,15 @@
 #include <qcustomplot.h>
 
 #include <array>
+#include <memory>
+#include <vector>
 
 #include "measurement/vexatype.h"
+#include "standards/reflectance_band.h"
 
 namespace vexa {
+
+class BandDrawing;
 
 /// The reflectance of all valid slots over the wavelength, each slot with its own line and an entry
 /// in the legend. Wheel and drag zoom and move, a double click (or Home) goes back to the full
@@ -18,11 +23,16 @@ class ReflectanceGraph : public QCustomPlot {
 
  public:
   explicit ReflectanceGraph(QWidget* parent = nullptr);
+  ~ReflectanceGraph() override;
 
   /// Takes over the valid slots and draws them.
   void Show(const VEXATYPE& state, int selectedSlot);
 
-  /// The full wavelength range, and reflectance from 0 to the next round number.
+  /// Draws the limits of the reflectance behind the curves; an empty list takes them away.
+  void ShowBand(const std::vector<std::vector<BandPoint>>& band);
+
+  /// The full wavelength range, and reflectance from 0 to the next round number above all curves,
+  /// and above the limits unless these are far above the curves.
   void ShowFullView();
 
  signals:
@@ -38,6 +48,7 @@ class ReflectanceGraph : public QCustomPlot {
   [[nodiscard]] double LargestReflectance() const;
 
   std::array<QCPGraph*, kSlotCount> lines_{};
+  std::unique_ptr<BandDrawing> band_;
   bool fullView_ = true;
 };
 

@@ -1,0 +1,113 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "base/number_text.h"
+#include "cli/command_line.h"
+#include "cli/console.h"
+#include "cli/judgement_json.h"
+#include "cli/program_settings.h"
+#include "cli/text_columns.h"
+#include "files/data_file.h"
+#include "standards/standard_file.h"
+
+namespace vexa::cli {
+namespace {
+
+const QString kStandard = QStringLiteral("standard");
+const std::array<QString, kStandardGroupCount> kUnits{QStringLiteral(" %"),
+                                                      QStringLiteral(" %"),
+                                                      QStringLiteral(" %"),
+                                                      QStringLiteral(" nm"),
+                                                      QString(),
+                                                      QStringLiteral("°")};
+
+void DeclareOptions(QCommandLineParser& parser) {
+  parser.addOption(
+      {kStandard, QStringLiteral("The standards to judge by."), QStringLiteral("FILE.std")});
+}
+
+QString SignedMargin(double margin) {
+  const QString text = FormatNumber(margin, u"0.0000");
+  return margin < 0.0 ? text : u'+' + text;
+}
+
+// The panel's text, and the distance to the nearest limit where there is one.
+QString Verdict(const Judgement& judgement, std::size_t group) {
+  const QString& text = judgement.panelTexts[group];
+  const std::optional<double>& margin = judgement.groups[group].margin;
+  if (!margin) {
+    return text;
+  }
+  const QString place = group == static_cast<std::size_t>(StandardGroup::kReflectance)
+                            ? QStringLiteral(" (%1 nm)").arg(judgement.bandMarginNm)
+                            : QString();
+  return QStringLiteral("%1 %2%3%4").arg(text, SignedMargin(*margin), kUnits[group], place);
+}
+
+QString Report(const VEXATYPE& state) {
+  QList<QStringList> rows;
+  for (int number = 1; number <= kSlotCount; ++number) {
+    const MeasurementSlot& slot = *state.Slot(number);
+    if (!slot.valid) {
+      continue;
+    }
+    QStringList row{QStringLiteral("%1").arg(number, 2), slot.info.sampleNumber};
+    for (std::size_t group = 0; group < kStandardGroupCount; ++group) {
+      // What is judged is the same for every slot.
+      if (slot.judgement.groups[group].passed) {
+        row << Verdict(slot.judgement, group);
+      }
+    }
+    rows << row;
+  }
+  return TextColumns(rows);
+}
+
+QJsonArray SlotsJson(const VEXATYPE& state) {
+  QJsonArray array;
+  for (int number = 1; number <= kSlotCount; ++number) {
+    if (const MeasurementSlot& slot = *state.Slot(number); slot.valid) {
+      array.append(QJsonObject{{QStringLiteral("slot"), number},
+                               {QStringLiteral("sample"), slot.info.sampleNumber},
+                               {QStringLiteral("judgement"), JudgementJson(slot.judgement)}});
+    }
+  }
+  return array;
+}
+
+int Judge(const QCommandLineParser& parser) {
+  if (!parser.isSet(kStandard)) {
+    Complain(QStringLiteral("judge needs --standard FILE.std"));
+    return kUsageError;
+  }
+  ConsoleMessages messages(parser.isSet(option::kNo));
+  VEXATYPE state = LoadSettings(parser, messages);
+  const QString standard = parser.value(kStandard);
+  state.standard = {};
+  if (!ReadStandardFile(standard, state.standard, state.chromaMarker, state.hueMarker, messages)) {
+    Complain(QStringLiteral("%1: not a readable standard file").arg(standard));
+    return kFailed;
+  }
+  const QString path = parser.positionalArguments().constFirst();
+  if (!ReadDataFile(path, state, messages)) {
+    Complain(QStringLiteral("%1: no data file was read").arg(path));
+    return kFailed;
+  }
+  if (parser.isSet(option::kJson)) {
+    PrintJson({{QStringLiteral("file"), path}, {QStringLiteral("slots"), SlotsJson(state)}});
+  } else {
+    Print(Report(state));
+  }
+  return AnyNotGood(state) ? kJudgedNotGood : kDone;
+}
+
+}  // namespace
+
+Command JudgeCommand() {
+  return {QStringLiteral("judge"),
+          QStringLiteral("FILE --standard FILE.std [options]"),
+          QStringLiteral("Judges the slots of a data file; exit status 3 when a group is NG."),
+          1,
+          DeclareOptions,
+          Judge};
+}
+
+}  // namespace vexa::cli

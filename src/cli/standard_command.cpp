@@ -1,0 +1,125 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "base/number_text.h"
+#include "cli/command_line.h"
+#include "cli/console.h"
+#include "cli/program_settings.h"
+#include "cli/text_columns.h"
+#include "standards/standard_file.h"
+
+namespace vexa::cli {
+namespace {
+
+const QString kOut = QStringLiteral("out");
+
+void DeclareOptions(QCommandLineParser& parser) {
+  parser.addOption({kOut, QStringLiteral("Writes the standards in the current layout."),
+                    QStringLiteral("FILE")});
+}
+
+/// A standard with its markers.
+struct Contents {
+  StandardSet standard;
+  ReferenceMarker chromaMarker;
+  ReferenceMarker hueMarker;
+};
+
+QJsonObject LimitsJson(const StandardLimits& limits) {
+  return {{QStringLiteral("enabled"), bool{limits.enabled}},
+          {QStringLiteral("upper"), limits.upper},
+          {QStringLiteral("lower"), limits.lower}};
+}
+
+QJsonObject MarkerJson(const ReferenceMarker& marker) {
+  return {{QStringLiteral("show"), bool{marker.shown}}, {QStringLiteral("value"), marker.value}};
+}
+
+QJsonObject ToJson(const Contents& contents) {
+  const StandardSet& standard = contents.standard;
+  QJsonArray conditions;
+  for (std::size_t k = 0; k < kConditionCount; ++k) {
+    QJsonObject condition = LimitsJson(standard.conditions[k]);
+    condition.insert(QStringLiteral("wavelength"), standard.wavelengths[k]);
+    conditions.append(condition);
+  }
+  QJsonObject wavelengthValue = LimitsJson(standard.wavelengthValue.limits);
+  wavelengthValue.insert(QStringLiteral("peak"), standard.wavelengthValue.selector != 0);
+  return {{QStringLiteral("read"), true},
+          {QStringLiteral("useReflectance"), bool{standard.useReflectance}},
+          {QStringLiteral("conditions"), conditions},
+          {QStringLiteral("average"), LimitsJson(standard.averageReflectance)},
+          {QStringLiteral("luminous"), LimitsJson(standard.luminousReflectance)},
+          {QStringLiteral("wavelengthValue"), wavelengthValue},
+          {QStringLiteral("chroma"), LimitsJson(standard.chroma)},
+          {QStringLiteral("hue"), LimitsJson(standard.hueAngle)},
+          {QStringLiteral("chromaMarker"), MarkerJson(contents.chromaMarker)},
+          {QStringLiteral("hueMarker"), MarkerJson(contents.hueMarker)}};
+}
+
+QString OnOff(bool on) {
+  return on ? QStringLiteral("on") : QStringLiteral("off");
+}
+
+QStringList Row(const QString& caption, const StandardLimits& limits, const QString& remark = {}) {
+  return {caption, OnOff(limits.enabled), SignedText(limits.lower) + QStringLiteral(" .."),
+          SignedText(limits.upper), remark};
+}
+
+QString ToText(const Contents& contents) {
+  const StandardSet& standard = contents.standard;
+  QList<QStringList> rows{{QStringLiteral("反射率"), OnOff(standard.useReflectance)}};
+  for (std::size_t k = 0; k < kConditionCount; ++k) {
+    rows << Row(QStringLiteral("条件%1").arg(k + 1), standard.conditions[k],
+                QStringLiteral("%1 nm").arg(standard.wavelengths[k]));
+  }
+  rows << Row(QStringLiteral("平均反射率"), standard.averageReflectance)
+       << Row(QStringLiteral("視感反射率"), standard.luminousReflectance)
+       << Row(QStringLiteral("波長値"), standard.wavelengthValue.limits,
+              standard.wavelengthValue.selector != 0 ? QStringLiteral("ピーク")
+                                                     : QStringLiteral("ボトム"))
+       << Row(QStringLiteral("クロマ"), standard.chroma)
+       << Row(QStringLiteral("色相角"), standard.hueAngle);
+  const auto marker = [&rows](const QString& caption, const ReferenceMarker& each) {
+    rows << QStringList{caption, OnOff(each.shown), SignedText(each.value)};
+  };
+  marker(QStringLiteral("基準値C*"), contents.chromaMarker);
+  marker(QStringLiteral("基準値h°"), contents.hueMarker);
+  return TextColumns(rows);
+}
+
+int Standard(const QCommandLineParser& parser) {
+  ConsoleMessages messages(parser.isSet(option::kNo));
+  const QString path = parser.positionalArguments().constFirst();
+  Contents contents;
+  if (!ReadStandardFile(path, contents.standard, contents.chromaMarker, contents.hueMarker,
+                        messages)) {
+    Complain(QStringLiteral("%1: not a readable standard file").arg(path));
+    if (parser.isSet(option::kJson)) {
+      PrintJson({{QStringLiteral("read"), false}});
+    }
+    return kFailed;
+  }
+  if (parser.isSet(kOut) && !WriteStandardFile(parser.value(kOut), contents.standard,
+                                               contents.chromaMarker, contents.hueMarker)) {
+    Complain(QStringLiteral("%1: cannot be written").arg(parser.value(kOut)));
+    return kFailed;
+  }
+  if (parser.isSet(option::kJson)) {
+    PrintJson(ToJson(contents));
+  } else {
+    Print(ToText(contents));
+  }
+  return kDone;
+}
+
+}  // namespace
+
+Command StandardCommand() {
+  return {QStringLiteral("standard"),
+          QStringLiteral("FILE [options]"),
+          QStringLiteral("Shows a standard file, and writes it in the current layout."),
+          1,
+          DeclareOptions,
+          Standard};
+}
+
+}  // namespace vexa::cli

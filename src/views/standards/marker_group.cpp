@@ -1,0 +1,39 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "views/standards/marker_group.h"
+
+#include <QHBoxLayout>
+#include <QLabel>
+
+namespace vexa {
+
+MarkerGroup::MarkerGroup(const QString& name, const QString& caption, const QString& valueCaption)
+    : QGroupBox(caption),
+      shown_(new QCheckBox(QStringLiteral("表示する"))),
+      value_(new RealEntry(name + QStringLiteral("Value"))) {
+  setObjectName(name);
+  shown_->setObjectName(name + QStringLiteral("Shown"));
+  auto* label = new QLabel(valueCaption);
+  label->setBuddy(value_);
+  auto* row = new QHBoxLayout(this);
+  row->addWidget(shown_);
+  row->addStretch();
+  row->addWidget(label);
+  row->addWidget(value_);
+  label->setEnabled(false);
+  value_->setEnabled(false);
+  connect(shown_, &QCheckBox::toggled, label, &QWidget::setEnabled);
+  connect(shown_, &QCheckBox::toggled, value_, &QWidget::setEnabled);
+}
+
+void MarkerGroup::Show(const ReferenceMarker& marker) {
+  shown_->setChecked(marker.shown);
+  value_->Show(marker.value);
+}
+
+QLineEdit* MarkerGroup::TakeInto(ReferenceMarker& marker) const {
+  marker.shown = shown_->isChecked();
+  marker.value = value_->Entered().value_or(value_->Shown());
+  return marker.shown && !value_->Entered() ? value_ : nullptr;
+}
+
+}  // namespace vexa

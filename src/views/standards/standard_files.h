@@ -1,0 +1,47 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <QString>
+#include <optional>
+
+#include "base/message.h"
+#include "measurement/vexatype.h"
+#include "views/common/file_dialogs.h"
+
+namespace vexa {
+
+/// What a standard file holds.
+struct StandardContents {
+  StandardSet standard;
+  ReferenceMarker chromaMarker;
+  ReferenceMarker hueMarker;
+
+  bool operator==(const StandardContents&) const = default;
+};
+
+[[nodiscard]] StandardContents ContentsOf(const VEXATYPE& state);
+
+/// A standard file and its full path.
+struct StandardFile {
+  QString path;
+  StandardContents contents;
+};
+
+/// Asks for a standard file and reads it whole. Nothing when cancelled, and, shown, when it cannot
+/// be read.
+[[nodiscard]] std::optional<StandardFile> LoadStandardFile(MessageService& messages,
+                                                           FileDialogs& dialogs);
+
+/// Asks for a name under the filter and writes the standards. The path; nothing when cancelled,
+/// and, shown, when it cannot be written.
+[[nodiscard]] std::optional<QString> SaveStandardFile(const StandardContents& contents,
+                                                      const QString& filter,
+                                                      MessageService& messages,
+                                                      FileDialogs& dialogs);
+
+/// The question at the end of the program when the standards were changed and their file has a
+/// name. False when they were to be saved and are not: the program is to go on then.
+[[nodiscard]] bool SaveStandardsBeforeExit(VEXATYPE& state, MessageService& messages,
+                                           FileDialogs& dialogs);
+
+}  // namespace vexa

@@ -1,0 +1,250 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "views/standards/standard_frm.h"
+
+#include <QHBoxLayout>
+#include <QPushButton>
+#include <QVBoxLayout>
+
+#include "measurement/evaluation.h"
+#include "standards/standard_check.h"
+#include "views/common/theme.h"
+#include "views/standards/condition_caption.h"
+#include "views/standards/elided_label.h"
+
+namespace vexa {
+namespace {
+
+QPushButton* MakeButton(const char* name, const QString& caption) {
+  auto* button = new QPushButton(caption);
+  button->setObjectName(QLatin1String(name));
+  button->setMinimumWidth(96);
+  button->setAutoDefault(false);
+  return button;
+}
+
+}  // namespace
+
+StandardFrm::StandardFrm(VEXATYPE& state, MessageService& messages, FileDialogs& dialogs,
+                         QWidget* parent)
+    : QDialog(parent),
+      state_(state),
+      messages_(messages),
+      dialogs_(dialogs),
+      fileName_(state.standardFileName),
+      conditions_(new ConditionsGroup),
+      average_(new LimitsGroup(QStringLiteral("averageReflectance"),
+                               QStringLiteral("平均反射率を使用する"), QStringLiteral("%"))),
+      luminous_(new LimitsGroup(QStringLiteral("luminousReflectance"),
+                                QStringLiteral("視感反射率を使用する"), QStringLiteral("%"))),
+      wavelengthValue_(new LimitsGroup(QStringLiteral("wavelengthValue"),
+                                       QStringLiteral("波長値を使用する"), QStringLiteral("nm"))),
+      chroma_(new LimitsGroup(QStringLiteral("chroma"), QStringLiteral("クロマを使用する"),
+                              QStringLiteral("C*"))),
+      hue_(new LimitsGroup(QStringLiteral("hueAngle"), QStringLiteral("色相角を使用する"),
+                           QStringLiteral("°"))),
+      chromaMarker_(new MarkerGroup(QStringLiteral("chromaMarker"), QStringLiteral("基準値･クロマ"),
+                                    QStringLiteral("基準値C*"))),
+      hueMarker_(new MarkerGroup(QStringLiteral("hueMarker"), QStringLiteral("基準値･色相角"),
+                                 QStringLiteral("基準値h°"))),
+      peak_(new QRadioButton(QStringLiteral("ピーク"))),
+      bottom_(new QRadioButton(QStringLiteral("ボトム"))),
+      fileLabel_(new ElidedLabel),
+      fileHint_(new QLabel(QStringLiteral("保存されていない規格は終了時に失われます。"))) {
+  setObjectName(QStringLiteral("StandardFrm"));
+  setWindowTitle(QStringLiteral("規格設定"));
+  if (!state.standardsChanged) {
+    inFile_ = ContentsOf(state);
+  }
+  auto* ok = MakeButton("btnOK", QStringLiteral("OK"));
+  ok->setDefault(true);
+  auto* cancel = MakeButton("btnCancel", QStringLiteral("ｷｬﾝｾﾙ"));
+  connect(ok, &QPushButton::clicked, this, &QDialog::accept);
+  connect(cancel, &QPushButton::clicked, this, &QDialog::reject);
+
+  auto* groups = new QHBoxLayout;
+  groups->setSpacing(12);
+  groups->addWidget(conditions_);
+  groups->addWidget(BuildGroups(), 1);
+  auto* buttons = new QHBoxLayout;
+  buttons->setSpacing(10);
+  buttons->addStretch();
+  buttons->addWidget(ok);
+  buttons->addWidget(cancel);
+  auto* layout = new QVBoxLayout(this);
+  layout->setContentsMargins(16, 14, 16, 14);
+  layout->setSpacing(12);
+  layout->addLayout(groups, 1);
+  layout->addLayout(BuildFileRow());
+  layout->addLayout(buttons);
+  Show(ContentsOf(state));
+  ShowFileName();
+}
+
+QWidget* StandardFrm::BuildGroups() {
+  auto* range = new QLabel(QStringLiteral("<範囲:0°-360°>"));
+  range->setTextFormat(Qt::PlainText);
+  range->setObjectName(QStringLiteral("hueRange"));
+  hue_->AddBelow(range);
+  wavelengthValue_->AddBeside(BuildPeakChoice());
+  auto* widget = new QWidget;
+  auto* grid = new QGridLayout(widget);
+  grid->setContentsMargins(0, 0, 0, 0);
+  grid->setSpacing(12);
+  grid->addWidget(average_, 0, 0);
+  grid->addWidget(luminous_, 0, 1);
+  grid->addWidget(wavelengthValue_, 1, 0, 1, 2);
+  grid->addWidget(chroma_, 2, 0);
+  grid->addWidget(hue_, 2, 1);
+  grid->addWidget(chromaMarker_, 3, 0);
+  grid->addWidget(hueMarker_, 3, 1);
+  grid->setColumnStretch(0, 1);
+  grid->setColumnStretch(1, 1);
+  grid->setRowStretch(4, 1);
+  return widget;
+}
+
+QWidget* StandardFrm::BuildPeakChoice() {
+  peak_->setObjectName(QStringLiteral("peak"));
+  bottom_->setObjectName(QStringLiteral("bottom"));
+  auto* widget = new QWidget;
+  auto* row = new QHBoxLayout(widget);
+  row->setContentsMargins(24, 0, 0, 0);
+  row->setSpacing(24);
+  row->addWidget(peak_);
+  row->addWidget(bottom_);
+  row->addStretch();
+  return widget;
+}
+
+QLayout* StandardFrm::BuildFileRow() {
+  auto* load = MakeButton("load_bt", QStringLiteral("読み込み(&L)"));
+  auto* save = MakeButton("save_bt", QStringLiteral("保存(&S)"));
+  connect(load, &QPushButton::clicked, this, &StandardFrm::Load);
+  connect(save, &QPushButton::clicked, this, &StandardFrm::Save);
+  fileLabel_->setObjectName(QStringLiteral("fileName"));
+  fileHint_->setObjectName(QStringLiteral("fileHint"));
+  QPalette calm = fileHint_->palette();
+  calm.setColor(QPalette::WindowText, theme::kAccent);
+  fileHint_->setPalette(calm);
+  auto* row = new QHBoxLayout;
+  row->setSpacing(10);
+  row->addWidget(fileLabel_, 1);
+  row->addWidget(fileHint_);
+  row->addWidget(load);
+  row->addWidget(save);
+  return row;
+}
+
+void StandardFrm::Show(const StandardContents& contents) {
+  const StandardSet& standard = contents.standard;
+  conditions_->Show(standard);
+  average_->Show(standard.averageReflectance);
+  luminous_->Show(standard.luminousReflectance);
+  wavelengthValue_->Show(standard.wavelengthValue.limits);
+  shownSelector_ = standard.wavelengthValue.selector;
+  (shownSelector_ != 0 ? peak_ : bottom_)->setChecked(true);
+  chroma_->Show(standard.chroma);
+  hue_->Show(standard.hueAngle);
+  chromaMarker_->Show(contents.chromaMarker);
+  hueMarker_->Show(contents.hueMarker);
+}
+
+void StandardFrm::ShowFileName() {
+  fileLabel_->setText(QStringLiteral("規格ﾌｧｲﾙ名") + QStringLiteral(":") + fileName_);
+  fileLabel_->setToolTip(fileName_);
+  fileHint_->setVisible(fileName_.isEmpty());
+}
+
+QLineEdit* StandardFrm::TakeInto(StandardContents& contents, QString& where) const {
+  StandardSet& standard = contents.standard;
+  const std::int16_t peak = shownSelector_ != 0 ? shownSelector_ : std::int16_t{1};
+  standard.wavelengthValue.selector = peak_->isChecked() ? peak : std::int16_t{0};
+  const ConditionsGroup::Fault condition = conditions_->TakeInto(standard);
+  const struct {
+    QLineEdit* field;
+    QString where;
+  } faults[] = {
+      {condition.field, QStringLiteral("反射率規格・") + ConditionCaption(condition.condition)},
+      {average_->TakeInto(standard.averageReflectance), QStringLiteral("平均反射率規格")},
+      {wavelengthValue_->TakeInto(standard.wavelengthValue.limits), QStringLiteral("波長値規格")},
+      {chroma_->TakeInto(standard.chroma), QStringLiteral("クロマ規格")},
+      {hue_->TakeInto(standard.hueAngle), QStringLiteral("色相角規格")},
+      {luminous_->TakeInto(standard.luminousReflectance), QStringLiteral("視感反射率規格")},
+      {chromaMarker_->TakeInto(contents.chromaMarker), chromaMarker_->title()},
+      {hueMarker_->TakeInto(contents.hueMarker), hueMarker_->title()},
+  };
+  for (const auto& fault : faults) {
+    if (fault.field != nullptr) {
+      where = fault.where;
+      return fault.field;
+    }
+  }
+  return nullptr;
+}
+
+std::optional<StandardContents> StandardFrm::Entered() {
+  StandardContents contents;
+  QString where;
+  if (QLineEdit* field = TakeInto(contents, where); field != nullptr) {
+    Warn(where + QStringLiteral("数値入力エラー"));
+    field->setFocus();
+    field->selectAll();
+    return std::nullopt;
+  }
+  if (const std::optional<QString> fault = CheckStandardSet(contents.standard)) {
+    Warn(*fault);
+    return std::nullopt;
+  }
+  return contents;
+}
+
+void StandardFrm::Warn(const QString& text) {
+  messages_.MsgCall(text, message_type::kOk + message_type::kWarningIcon, message_title::kError);
+}
+
+void StandardFrm::Load() {
+  if (const std::optional<StandardFile> file = LoadStandardFile(messages_, dialogs_)) {
+    fileName_ = file->path;
+    inFile_ = file->contents;
+    Show(file->contents);
+    ShowFileName();
+  }
+}
+
+void StandardFrm::Save() {
+  const std::optional<StandardContents> contents = Entered();
+  if (!contents) {
+    return;
+  }
+  const std::optional<QString> path = SaveStandardFile(
+      *contents, QStringLiteral("Standard Files (*.std)|*.std"), messages_, dialogs_);
+  if (!path) {
+    return;
+  }
+  fileName_ = *path;
+  inFile_ = contents;
+  if (*path == state_.standardFileName) {
+    state_.standardsChanged = *contents != ContentsOf(state_);
+  }
+  ShowFileName();
+}
+
+void StandardFrm::accept() {
+  const std::optional<StandardContents> contents = Entered();
+  if (!contents) {
+    return;
+  }
+  state_.standardsChanged = contents != inFile_;
+  state_.standard = contents->standard;
+  state_.chromaMarker = contents->chromaMarker;
+  state_.hueMarker = contents->hueMarker;
+  state_.standardFileName = fileName_;
+  for (MeasurementSlot& slot : state_.measurementSlots) {
+    if (slot.valid) {
+      JudgeSlot(state_, slot);
+    }
+  }
+  QDialog::accept();
+}
+
+}  // namespace vexa
