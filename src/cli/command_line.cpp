@@ -11,7 +11,8 @@
 namespace vexa::cli {
 namespace {
 
-const std::array kCommands{DecodeCommand, ReflectanceCommand, MeasureCommand};
+const std::array kCommands{DecodeCommand, ReflectanceCommand, AnalyseCommand, StockCommand,
+                           MeasureCommand};
 
 QString Overview() {
   QString text = QStringLiteral("Usage: vexa-cli COMMAND [arguments] [options]\n\nCommands:\n");

@@ -23,6 +23,8 @@ struct Command {
 
 [[nodiscard]] Command DecodeCommand();
 [[nodiscard]] Command ReflectanceCommand();
+[[nodiscard]] Command AnalyseCommand();
+[[nodiscard]] Command StockCommand();
 [[nodiscard]] Command MeasureCommand();
 
 /// The value of a whole-number option, or `otherwise` when it was not given. Nothing, and a
