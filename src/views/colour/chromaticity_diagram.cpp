@@ -49,6 +49,35 @@ QFont SmallFont(const QCustomPlot& plot) {
   return font;
 }
 
+// A place between two points of the locus, `part` of the way, on a Catmull-Rom spline through their
+// neighbours too.
+double Between(double before, double from, double to, double after, double part) {
+  return from + 0.5 * part *
+                    (to - before +
+                     part * (2.0 * before - 5.0 * from + 4.0 * to - after +
+                             part * (3.0 * (from - to) + after - before)));
+}
+
+// The locus as a curve, without corners where its points are far apart.
+QVector<QPointF> SmoothCurve(const std::vector<LocusPoint>& points) {
+  constexpr int kPieces = 5;
+  const std::size_t last = points.size() - 1;
+  QVector<QPointF> curve;
+  for (std::size_t i = 0; i < last; ++i) {
+    const Chromaticity& before = points[i > 0 ? i - 1 : 0].at;
+    const Chromaticity& from = points[i].at;
+    const Chromaticity& to = points[i + 1].at;
+    const Chromaticity& after = points[std::min(i + 2, last)].at;
+    for (int piece = 0; piece < kPieces; ++piece) {
+      const double part = static_cast<double>(piece) / kPieces;
+      curve.append({Between(before.x, from.x, to.x, after.x, part),
+                    Between(before.y, from.y, to.y, after.y, part)});
+    }
+  }
+  curve.append({points[last].at.x, points[last].at.y});
+  return curve;
+}
+
 // Short wavelengths have their label on the outer side, at the left; 500 nm has no room there.
 QCPItemText* AddLocusLabel(QCustomPlot& plot, const LocusPoint& point) {
   auto* label = new QCPItemText(&plot);
@@ -81,7 +110,7 @@ QCPGraph* AddPoints(QCustomPlot& plot, const QColor& colour, double size) {
   QCPGraph* graph = plot.addGraph();
   graph->setLayer(QStringLiteral("marks"));
   graph->setLineStyle(QCPGraph::lsNone);
-  graph->setScatterStyle({QCPScatterStyle::ssDisc, QPen(Qt::white, 1.0), colour, size});
+  graph->setScatterStyle({QCPScatterStyle::ssCircle, QPen(Qt::white, 1.0), colour, size});
   return graph;
 }
 
@@ -94,6 +123,7 @@ ChromaticityDiagram::ChromaticityDiagram(std::shared_ptr<BackgroundPicture> pict
   ApplyPlotStyle(*this);
   axisRect()->setAutoMargins(QCP::msNone);
   addLayer(QStringLiteral("picture"), layer(QStringLiteral("grid")), limAbove);
+  addLayer(QStringLiteral("texts"), layer(QStringLiteral("main")), limAbove);
   addLayer(QStringLiteral("marks"), layer(QStringLiteral("axes")), limAbove);
   for (QCPAxis* axis : {xAxis, yAxis, xAxis2, yAxis2}) {
     axis->setSubTicks(false);
@@ -112,17 +142,18 @@ ChromaticityDiagram::ChromaticityDiagram(std::shared_ptr<BackgroundPicture> pict
   locus_ = new QCPCurve(xAxis, yAxis);
   locus_->setPen(QPen(theme::kText, 1.2));
   conditionsText_ = new QCPItemText(this);
-  conditionsText_->setLayer(QStringLiteral("axes"));
+  conditionsText_->setLayer(QStringLiteral("texts"));
   conditionsText_->setFont(SmallFont(*this));
   conditionsText_->setColor(theme::kMutedText);
-  conditionsText_->setPadding(QMargins(6, 5, 6, 5));
+  conditionsText_->setBrush(QColor(255, 255, 255, 210));
+  conditionsText_->setPadding(QMargins(6, 4, 6, 4));
   conditionsText_->setPositionAlignment(Qt::AlignRight | Qt::AlignTop);
   conditionsText_->position->setType(QCPItemPosition::ptAxisRectRatio);
   conditionsText_->position->setCoords(1.0, 0.0);
-  points_ = AddPoints(*this, theme::kText, 6.0);
-  lastPoint_ = AddPoints(*this, theme::kAccent, 10.0);
   marks_ = new DiagramMarks(this);
   marks_->setLayer(QStringLiteral("marks"));
+  points_ = AddPoints(*this, theme::kText, 6.0);
+  lastPoint_ = AddPoints(*this, theme::kAccent, 10.0);
 
   auto* escape = new QShortcut(Qt::Key_Escape, this);
   escape->setEnabled(picture_->IsBuilding());
@@ -137,7 +168,8 @@ void ChromaticityDiagram::ShowSlots(const VEXATYPE& state, int selectedSlot) {
   std::vector<SlotMark> marks;
   for (int number = 1; number <= kSlotCount; ++number) {
     const MeasurementSlot& slot = *state.Slot(number);
-    if (slot.valid) {
+    // A spectrum without a colour, as a black one, has no chromaticity either.
+    if (slot.valid && (slot.colour.x != 0.0 || slot.colour.y != 0.0)) {
       marks.push_back(
           {number,
            xyMode_ ? QPointF(slot.colour.x, slot.colour.y) : QPointF(slot.colour.a, slot.colour.b),
@@ -228,8 +260,10 @@ void ChromaticityDiagram::ShowLocus(Flag observer2Deg) {
     return;
   }
   const std::vector<LocusPoint> points = SpectralLocus(observer2Deg);
+  for (const QPointF& point : SmoothCurve(points)) {
+    locus_->addData(point.x(), point.y());
+  }
   for (const LocusPoint& point : points) {
-    locus_->addData(point.at.x, point.at.y);
     if (std::ranges::find(kLabelledNm, point.nm) != kLabelledNm.end()) {
       QCPItemEllipse* dot = AddEllipse(*this, point.at.x, point.at.y, 0.005);
       dot->setPen(Qt::NoPen);

@@ -138,7 +138,7 @@ QRectF DiagramMarks::DrawWhitePoint(QCPPainter& painter) const {
   }
   QPainterPath name;
   const QFontMetricsF metrics(painter.font());
-  name.addText(at + QPointF(-11.0 - metrics.horizontalAdvance(whiteName_), 4.0), painter.font(),
+  name.addText(at + QPointF(-13.0 - metrics.horizontalAdvance(whiteName_), 4.0), painter.font(),
                whiteName_);
   painter.strokePath(
       name, QPen(QColor(255, 255, 255, 220), 3.0, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
