@@ -10,6 +10,8 @@
 #include "app/vexa.h"
 #include "files/environment_file.h"
 #include "files/startup_file.h"
+#include "views/colour/background_picture.h"
+#include "views/colour/colour_panel.h"
 
 namespace vexa {
 namespace {
@@ -67,6 +69,9 @@ int Demonstration::Drive(VEXA& window) {
   }
   window.Commands().saveFileAs->trigger();
   const QString picture = QDir(directory_).filePath(QStringLiteral("window.png"));
+  while (window.findChild<ColourPanel*>()->Picture()->IsBuilding()) {
+    QApplication::processEvents();
+  }
   QApplication::processEvents();
   const bool drawn = window.grab().save(picture);
   if (!drawn) {

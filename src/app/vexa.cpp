@@ -17,6 +17,7 @@
 #include "measurement/dispersion_data.h"
 #include "measurement/evaluation.h"
 #include "standards/reflectance_band.h"
+#include "views/colour/colour_difference_window.h"
 #include "views/colour/colour_panel.h"
 #include "views/files/addinp_frm.h"
 #include "views/files/data_file_commands.h"
@@ -81,7 +82,7 @@ void VEXA::BuildPanels() {
   bar_ = new MeasurementBar;
   graph_ = new ReflectanceGraph;
   progress_ = new ProgressStrip;
-  colour_ = new ColourPanel;
+  colour_ = new ColourPanel(state_, services_.messages, services_.dialogs);
   thickness_ = new ThicknessPanel(state_, services_.messages);
   status_ = new StatusPanels;
   setStatusBar(status_);
@@ -134,6 +135,8 @@ void VEXA::ConnectCommands() {
   enable(commands_.thicknessSettings, [&, this] {
     RefSetDlg(RefSetDlg::Mode::kThickness, state_, messages, dialogs, this).exec();
   });
+  enable(commands_.colourDifference,
+         [this] { ColourDifferenceWindow(state_, GetOption(), this).exec(); });
   enable(commands_.standards, [&, this] { StandardFrm(state_, messages, dialogs, this).exec(); });
   enable(commands_.wavelengthList, [&, this] { WaveListDlg(state_, messages, this).exec(); });
   enable(commands_.thicknessGraph, [this] { ShowThicknessGraph(); });
@@ -228,6 +231,7 @@ void VEXA::Refresh() {
   bar_->Show(state_);
   graph_->Show(state_, GetOption());
   const MeasurementSlot* selected = state_.Slot(GetOption());
+  colour_->Show(GetOption());
   graph_->ShowBand(ReflectanceBand(state_.standard));
   status_->ShowJudgement(selected != nullptr && selected->valid ? selected->judgement
                                                                 : Judgement());

@@ -22,6 +22,7 @@ struct Command {
   int (*run)(const QCommandLineParser& parser);
 };
 
+[[nodiscard]] Command AnalyseCommand();
 [[nodiscard]] Command ConvertCommand();
 [[nodiscard]] Command DecodeCommand();
 [[nodiscard]] Command DispersionCommand();
@@ -30,6 +31,7 @@ struct Command {
 [[nodiscard]] Command MeasureCommand();
 [[nodiscard]] Command ReflectanceCommand();
 [[nodiscard]] Command StandardCommand();
+[[nodiscard]] Command StockCommand();
 
 /// The value of a whole-number option, or `otherwise` when it was not given. Nothing, and a
 /// complaint, when it is no number within minimum..maximum.

@@ -5,22 +5,75 @@
 #include <QGroupBox>
 #include <QLabel>
 #include <QPushButton>
-#include <array>
+#include <memory>
 
-class QCustomPlot;
+#include "base/message.h"
+#include "measurement/vexatype.h"
+#include "views/common/file_dialogs.h"
+
+class QGridLayout;
 
 namespace vexa {
 
-/// The chromaticity diagram and the colour values of the selected slot.
+class BackgroundPicture;
+class ChromaticityDiagram;
+class StockWindow;
+
+/// The chromaticity diagram, the colour values of the selected slot, and the accumulation with its
+/// window.
 class ColourPanel : public QWidget {
   Q_OBJECT
 
  public:
-  explicit ColourPanel(QWidget* parent = nullptr);
+  ColourPanel(VEXATYPE& state, MessageService& messages, FileDialogs& dialogs,
+              QWidget* parent = nullptr);
+
+  /// Shows the state as it is now.
+  void Show(int selectedSlot);
+
+  /// For further diagrams, so that they need not build it again.
+  [[nodiscard]] std::shared_ptr<BackgroundPicture> Picture() const { return picture_; }
+
+ signals:
+  /// Points or conditions of the accumulation were changed here or in its window.
+  void StockChanged();
 
  private:
+  struct Value {
+    QLabel* caption;
+    QLabel* text;
+    QLabel* unit;
+  };
+
   QWidget* BuildDiagram();
   QWidget* BuildValues();
+  QWidget* BuildStock();
+  static Value AddValue(QGridLayout& grid, const char* name, const QString& caption,
+                        const QString& unit);
+  void ShowValues(int selectedSlot);
+  void ShowStock();
+  void SetAccumulating(bool checked);
+  void OpenStockWindow();
+
+  VEXATYPE& state_;
+  MessageService& messages_;
+  FileDialogs& dialogs_;
+  std::shared_ptr<BackgroundPicture> picture_;
+  ChromaticityDiagram* diagram_ = nullptr;
+  QGroupBox* values_ = nullptr;
+  Value observer_{};
+  Value illuminant_{};
+  Value first_{};
+  Value second_{};
+  Value third_{};
+  Value chroma_{};
+  Value hue_{};
+  Value average_{};
+  Value luminous_{};
+  QCheckBox* accumulate_ = nullptr;
+  QLabel* count_ = nullptr;
+  QPushButton* clear_ = nullptr;
+  StockWindow* stockWindow_ = nullptr;
 };
 
 }  // namespace vexa

@@ -1,0 +1,216 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include <algorithm>
+#include <limits>
+#include <optional>
+#include <vector>
+
+#include "base/number_text.h"
+#include "cli/analysis_settings.h"
+#include "cli/command_line.h"
+#include "cli/console.h"
+#include "cli/judgement_json.h"
+#include "cli/program_settings.h"
+#include "files/data_file.h"
+#include "measurement/evaluation.h"
+
+namespace vexa::cli {
+namespace {
+
+/// What is told of one slot.
+struct SlotReport {
+  int number = 0;
+  const MeasurementSlot* slot = nullptr;
+  bool colourOk = false;
+  ColourResult colour;  ///< not a number where it could not be computed
+  std::optional<Status> thickness;
+};
+
+struct Part {
+  const char* name;
+  double ColourResult::*value;
+  const char16_t* pattern;
+  bool ofCalcColour;  ///< as all but the average reflectance
+};
+
+constexpr Part kColourParts[] = {
+    {"L", &ColourResult::L, u"##0.00", true},  {"a", &ColourResult::a, u"0.0000", true},
+    {"b", &ColourResult::b, u"0.0000", true},  {"x", &ColourResult::x, u"0.0000", true},
+    {"y", &ColourResult::y, u"0.0000", true},  {"C", &ColourResult::C, u"##0.000", true},
+    {"h", &ColourResult::h, u"##0.000", true}, {"Rm", &ColourResult::Rm, u"##0.0##", false},
+    {"Y", &ColourResult::Y, u"##0.0##", true},
+};
+
+void DeclareOptions(QCommandLineParser& parser) {
+  parser.addPositionalArgument(QStringLiteral("FILE"),
+                               QStringLiteral("A data file (*.csv or *.dat)."));
+  DeclareAnalysisOptions(parser);
+}
+
+// The slot itself does not tell whether its colour could be computed.
+void FillColour(const ColourSettings& settings, SlotReport& report) {
+  constexpr double kNone = std::numeric_limits<double>::quiet_NaN();
+  ColourResult colour;
+  report.colourOk = CalcColour(report.slot->reflectance, settings, colour);
+  colour.Rm = kNone;
+  (void)AverageReflectance(report.slot->reflectance, settings.avgFrom, settings.avgTo, colour.Rm);
+  for (const Part& part : kColourParts) {
+    if (part.ofCalcColour && !report.colourOk) {
+      colour.*part.value = kNone;
+    }
+  }
+  report.colour = colour;
+}
+
+std::vector<SlotReport> Evaluate(VEXATYPE& state, MessageService& messages) {
+  std::vector<SlotReport> reports;
+  for (int number = 1; number <= kSlotCount; ++number) {
+    MeasurementSlot& slot = *state.Slot(number);
+    if (!slot.valid) {
+      continue;
+    }
+    SlotReport& report = reports.emplace_back(SlotReport{number, &slot, false, {}, {}});
+    FillColour(state.colour, report);
+    if (state.thickness.enabled) {
+      report.thickness = ComputeSlotThickness(state, slot, messages);
+    }
+  }
+  return reports;
+}
+
+bool IsJudged(const VEXATYPE& state, const QCommandLineParser& parser) {
+  return parser.isSet(option::kStandard) || state.standard != StandardSet();
+}
+
+QJsonObject ColourJson(const SlotReport& report) {
+  QJsonObject object{{QStringLiteral("ok"), report.colourOk}};
+  for (const Part& part : kColourParts) {
+    object[QLatin1String(part.name)] = ToJson(std::array{report.colour.*part.value}).first();
+  }
+  return object;
+}
+
+QJsonObject ThicknessJson(Status status, const ThicknessResult& result) {
+  const auto number = [status](double value) {
+    return status == 0 ? QJsonValue(value) : QJsonValue();
+  };
+  const auto point = [&number](const ExtremumPoint& extremum) {
+    return QJsonObject{{QStringLiteral("wavelength"), number(extremum.wavelengthNm)},
+                       {QStringLiteral("value"), number(extremum.reflectance)}};
+  };
+  QJsonArray extrema;
+  for (const Extremum& extremum : result.extrema.Found()) {
+    extrema.append(QJsonObject{
+        {QStringLiteral("wavelength"), extremum.point.wavelengthNm},
+        {QStringLiteral("reflectance"), extremum.point.reflectance},
+        {QStringLiteral("kind"), extremum.maximum ? QStringLiteral("P") : QStringLiteral("V")}});
+  }
+  return {{QStringLiteral("status"), status},
+          {QStringLiteral("thickness"), number(result.thicknessNm)},
+          {QStringLiteral("first"), point(result.first)},
+          {QStringLiteral("second"), point(result.second)},
+          {QStringLiteral("extrema"), extrema}};
+}
+
+void PrintReportsJson(const QString& path, const std::vector<SlotReport>& reports, bool judged) {
+  QJsonArray slotList;
+  for (const SlotReport& report : reports) {
+    QJsonObject object{{QStringLiteral("slot"), report.number},
+                       {QStringLiteral("sample"), report.slot->info.sampleNumber},
+                       {QStringLiteral("colour"), ColourJson(report)}};
+    if (judged) {
+      object[QLatin1String("judgement")] = JudgementJson(report.slot->judgement);
+    }
+    if (report.thickness) {
+      object[QLatin1String("thickness")] = ThicknessJson(*report.thickness, report.slot->thickness);
+    }
+    slotList.append(object);
+  }
+  PrintJson({{QStringLiteral("file"), path}, {QStringLiteral("slots"), slotList}});
+}
+
+// Texts of any width stand last in their lines, so that all columns keep their places.
+void PrintColours(const std::vector<SlotReport>& reports) {
+  QString line = QStringLiteral("slot");
+  for (const Part& part : kColourParts) {
+    line += QStringLiteral(" %1").arg(QLatin1String(part.name), 9);
+  }
+  Print(line + QStringLiteral("  sample\n"));
+  for (const SlotReport& report : reports) {
+    line = QStringLiteral("%1").arg(report.number, 4);
+    for (const Part& part : kColourParts) {
+      line += QStringLiteral(" %1").arg(
+          FormatNumber(report.colour.*part.value, part.pattern).trimmed(), 9);
+    }
+    Print(line + QStringLiteral("  ") + report.slot->info.sampleNumber + u'\n');
+  }
+}
+
+void PrintJudgements(const std::vector<SlotReport>& reports) {
+  Print(QStringLiteral("\nslot judgement\n"));
+  for (const SlotReport& report : reports) {
+    QStringList texts;
+    for (const QString& text : report.slot->judgement.panelTexts) {
+      if (!text.isEmpty()) {
+        texts << text;
+      }
+    }
+    Print(QStringLiteral("%1 %2\n").arg(report.number, 4).arg(texts.join(QStringLiteral("  "))));
+  }
+}
+
+void PrintThicknesses(const std::vector<SlotReport>& reports, const QString& unit) {
+  Print(QStringLiteral("\nslot thickness%1    first[nm]   second[nm]  extrema\n").arg(unit));
+  for (const SlotReport& report : reports) {
+    const auto text = [&report](double value) {
+      return report.thickness == Status{0} ? FormatNumber(value, u"0.0").trimmed()
+                                           : QStringLiteral("-");
+    };
+    const ThicknessResult& result = report.slot->thickness;
+    Print(QStringLiteral("%1 %2 %3 %4 %5\n")
+              .arg(report.number, 4)
+              .arg(text(result.thicknessNm), 13)
+              .arg(text(result.first.wavelengthNm), 12)
+              .arg(text(result.second.wavelengthNm), 12)
+              .arg(result.extrema.count, 8));
+  }
+}
+
+int Analyse(const QCommandLineParser& parser) {
+  ConsoleMessages messages(parser.isSet(option::kNo));
+  VEXATYPE state = LoadSettings(parser, messages);
+  if (const ExitStatus taken = TakeAnalysisOptions(parser, state, messages); taken != kDone) {
+    return taken;
+  }
+  const QString path = parser.positionalArguments().front();
+  if (!ReadDataFile(path, state, messages)) {
+    Complain(QStringLiteral("%1: not read").arg(path));
+    return kFailed;
+  }
+  const std::vector<SlotReport> reports = Evaluate(state, messages);
+  const bool judged = IsJudged(state, parser);
+  if (parser.isSet(option::kJson)) {
+    PrintReportsJson(path, reports, judged);
+  } else {
+    PrintColours(reports);
+    if (judged) {
+      PrintJudgements(reports);
+    }
+    if (state.thickness.enabled) {
+      PrintThicknesses(reports, ThicknessUnit(state.thickness.kind == ThicknessKind::kPhysical));
+    }
+  }
+  return parser.isSet(option::kStandard) && AnyNotGood(state) ? kJudgedNotGood : int{kDone};
+}
+
+}  // namespace
+
+Command AnalyseCommand() {
+  return {QStringLiteral("analyse"),
+          QStringLiteral("FILE [options]"),
+          QStringLiteral("Colours, judgements and thicknesses of the slots of a data file."),
+          1,
+          DeclareOptions,
+          Analyse};
+}
+
+}  // namespace vexa::cli

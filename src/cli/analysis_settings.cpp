@@ -1,0 +1,159 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "cli/analysis_settings.h"
+
+#include <QRegularExpression>
+#include <functional>
+
+#include "base/number_text.h"
+#include "files/configuration.h"
+#include "measurement/dispersion_data.h"
+#include "optics/bunsan.h"
+#include "standards/standard_file.h"
+
+namespace vexa::cli {
+namespace {
+
+const QString kEnv = QStringLiteral("env");
+const QString kIlluminant = QStringLiteral("illuminant");
+const QString kObserver = QStringLiteral("observer");
+const QString kAverage = QStringLiteral("average");
+const QString kType = QStringLiteral("type");
+const QString kThicknessKind = QStringLiteral("thickness-kind");
+const QString kIndex = QStringLiteral("index");
+const QString kSubstrate = QStringLiteral("substrate");
+
+// Hands on the place of the option's value among the words that it takes. False, with a complaint,
+// for any other word.
+bool TakeWord(const QCommandLineParser& parser, const QString& name, const QStringList& words,
+              const std::function<void(qsizetype)>& take) {
+  if (!parser.isSet(name)) {
+    return true;
+  }
+  const qsizetype index = words.indexOf(parser.value(name));
+  if (index < 0) {
+    Complain(QStringLiteral("--%1 takes one of %2, not \"%3\"")
+                 .arg(name, words.join(QStringLiteral(", ")), parser.value(name)));
+    return false;
+  }
+  take(index);
+  return true;
+}
+
+bool TakeAverage(const QCommandLineParser& parser, ColourSettings& colour) {
+  if (!parser.isSet(kAverage)) {
+    return true;
+  }
+  static const QRegularExpression kRange(QStringLiteral("^(\\d{3})-(\\d{3})$"));
+  const QRegularExpressionMatch match = kRange.match(parser.value(kAverage));
+  const short from = match.captured(1).toShort();
+  const short to = match.captured(2).toShort();
+  if (!match.hasMatch() || from > to || !ReflectanceSpectrum::Contains(from) ||
+      !ReflectanceSpectrum::Contains(to)) {
+    Complain(QStringLiteral("--%1 takes FROM-TO within 440-840, not \"%2\"")
+                 .arg(kAverage, parser.value(kAverage)));
+    return false;
+  }
+  colour.avgFrom = from;
+  colour.avgTo = to;
+  return true;
+}
+
+bool TakeWords(const QCommandLineParser& parser, VEXATYPE& state) {
+  return TakeWord(
+             parser, kIlluminant, QStringLiteral("A B C D65").split(u' '),
+             [&](qsizetype i) { state.colour.illuminant = static_cast<std::int16_t>(i + 1); }) &&
+         TakeWord(parser, kObserver, QStringLiteral("2 10").split(u' '),
+                  [&](qsizetype i) { state.colour.observer2Deg = i == 0; }) &&
+         TakeAverage(parser, state.colour) &&
+         TakeWord(parser, kType, QStringLiteral("A B C").split(u' '),
+                  [&](qsizetype i) { state.thickness.type = static_cast<std::int16_t>(i); }) &&
+         TakeWord(parser, kThicknessKind, QStringLiteral("physical optical").split(u' '),
+                  [&](qsizetype i) { state.thickness.kind = static_cast<std::int16_t>(i); });
+}
+
+// The coat's setting of --index and --substrate; false when neither is given.
+bool TakeCoat(const QCommandLineParser& parser, DispersionSetting& coat) {
+  if (parser.isSet(kSubstrate)) {
+    coat.kind = DispersionKind::kSubstrate;
+    coat.dataFileName = parser.value(kSubstrate);
+  } else if (parser.isSet(kIndex)) {
+    const QString value = parser.value(kIndex);
+    if (const std::optional<double> index = ParseNumber(value)) {
+      coat.kind = DispersionKind::kFixedValue;
+      coat.fixedValue = *index;
+    } else {
+      coat.kind = DispersionKind::kIndexFile;
+      coat.indexFileName = value;
+    }
+  } else {
+    return false;
+  }
+  return true;
+}
+
+bool BuildCoat(VEXATYPE& state, MessageService& messages) {
+  ReflectanceSpectrum coat;
+  const Status status = GetBunsanArray(false, state.thickness.coat, coat, messages);
+  if (status != 0) {
+    messages.MsgCall(QStringLiteral("ｲﾝﾃﾞｯｸｽ\r") + DispersionStatusText(status),
+                     message_type::kOk + message_type::kWarningIcon, QStringLiteral("VEXA-KT"));
+    return false;
+  }
+  StoreCoatSpectrum(state, coat);
+  return true;
+}
+
+}  // namespace
+
+void DeclareAnalysisOptions(QCommandLineParser& parser) {
+  const auto add = [&parser](const QString& name, const char* text, const char* value) {
+    parser.addOption({name, QString::fromUtf8(text), QString::fromUtf8(value)});
+  };
+  add(kEnv, "Environment file (default: that of the program directory).", "FILE.env");
+  add(kIlluminant, "Illuminant: A, B, C or D65.", "NAME");
+  add(kObserver, "Observer: 2 or 10 degrees.", "DEGREES");
+  add(kAverage, "Range of the average reflectance in nm.", "FROM-TO");
+  add(option::kStandard, "Judges every slot; exit status 3 when a group is NG.", "FILE.std");
+  parser.addOption(
+      {option::kThickness, QStringLiteral("Computes the thickness even when the environment has it "
+                                          "disabled.")});
+  add(kType, "Extrema of the thickness: A (two minima), B (maxima) or C (both).", "TYPE");
+  add(kThicknessKind, "Thickness: physical or optical.", "KIND");
+  add(kIndex, "Index of the film: a number or an index file.", "V|FILE.ind");
+  add(kSubstrate, "Data file of the bare substrate.", "FILE");
+}
+
+ExitStatus TakeAnalysisOptions(const QCommandLineParser& parser, VEXATYPE& state,
+                               MessageService& messages) {
+  if (VEXATYPE scratch = state; !TakeWords(parser, scratch)) {
+    return kUsageError;
+  }
+  if (parser.isSet(kIndex) && parser.isSet(kSubstrate)) {
+    Complain(QStringLiteral("--%1 and --%2 exclude each other").arg(kIndex, kSubstrate));
+    return kUsageError;
+  }
+  if (parser.isSet(kEnv)) {
+    if (!LoadEnvironment(parser.value(kEnv), state, messages)) {
+      Complain(QStringLiteral("%1: no readable environment file").arg(parser.value(kEnv)));
+      return kFailed;
+    }
+    LoadDispersionData(state, messages);
+  }
+  (void)TakeWords(parser, state);
+  if (TakeCoat(parser, state.thickness.coat) && !BuildCoat(state, messages)) {
+    return kFailed;
+  }
+  if (parser.isSet(option::kThickness)) {
+    state.thickness.enabled = true;
+  }
+  if (parser.isSet(option::kStandard)) {
+    const QString path = parser.value(option::kStandard);
+    if (!ReadStandardFile(path, state.standard, state.chromaMarker, state.hueMarker, messages)) {
+      Complain(QStringLiteral("%1: no readable standard file").arg(path));
+      return kFailed;
+    }
+  }
+  return kDone;
+}
+
+}  // namespace vexa::cli

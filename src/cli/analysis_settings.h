@@ -1,0 +1,25 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <QCommandLineParser>
+
+#include "base/message.h"
+#include "cli/console.h"
+#include "measurement/vexatype.h"
+
+namespace vexa::cli {
+
+/// Options that change how a data file is analysed, each in the place of what the environment says.
+namespace option {
+inline const QString kStandard = QStringLiteral("standard");
+inline const QString kThickness = QStringLiteral("thickness");
+}  // namespace option
+
+void DeclareAnalysisOptions(QCommandLineParser& parser);
+
+/// Takes the options over into a state that has its settings; kDone, or the exit status after a
+/// complaint. The options are checked before a file is read.
+[[nodiscard]] ExitStatus TakeAnalysisOptions(const QCommandLineParser& parser, VEXATYPE& state,
+                                             MessageService& messages);
+
+}  // namespace vexa::cli

@@ -1,0 +1,326 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "views/colour/chromaticity_diagram.h"
+
+#include <QShortcut>
+#include <algorithm>
+#include <array>
+#include <cmath>
+
+#include "standards/tolerance_region.h"
+#include "views/colour/colour_texts.h"
+#include "views/common/plot_style.h"
+#include "views/common/theme.h"
+
+namespace vexa {
+namespace {
+
+constexpr QMargins kMargins(30, 10, 16, 24);
+constexpr QColor kGridColour(200, 200, 200);
+constexpr QColor kLimitColour(0xc2, 0x3b, 0x22);
+constexpr int kSmallPixels = 10;
+constexpr int kGridSteps = 8;
+constexpr double kPi = 3.141592654;
+constexpr std::array kLabReaches{10, 20, 40};
+constexpr std::array kLabelledNm{460, 480, 500, 540, 560, 580, 600, 620};
+
+struct AxisTexts {
+  QString lowerEnd;
+  QString name;  ///< stands in the middle, where it takes no room of its own
+  QString upperEnd;
+};
+
+void SetAxis(QCPAxis& axis, QCPAxis& opposite, double from, double to, const AxisTexts& texts) {
+  const QSharedPointer<QCPAxisTickerText> ticker(new QCPAxisTickerText);
+  for (int step = 0; step <= kGridSteps; ++step) {
+    ticker->addTick(from + (to - from) * step / kGridSteps, step == 0            ? texts.lowerEnd
+                                                            : step == kGridSteps ? texts.upperEnd
+                                                            : step == kGridSteps / 2 ? texts.name
+                                                                                     : QString());
+  }
+  for (QCPAxis* each : {&axis, &opposite}) {
+    each->setTicker(ticker);
+    each->setRange(from, to);
+  }
+}
+
+QFont SmallFont(const QCustomPlot& plot) {
+  QFont font = plot.font();
+  font.setPixelSize(kSmallPixels);
+  return font;
+}
+
+// A place between two points of the locus, `part` of the way, on a Catmull-Rom spline through their
+// neighbours too.
+double Between(double before, double from, double to, double after, double part) {
+  return from + 0.5 * part *
+                    (to - before +
+                     part * (2.0 * before - 5.0 * from + 4.0 * to - after +
+                             part * (3.0 * (from - to) + after - before)));
+}
+
+// The locus as a curve, without corners where its points are far apart.
+QVector<QPointF> SmoothCurve(const std::vector<LocusPoint>& points) {
+  constexpr int kPieces = 5;
+  const std::size_t last = points.size() - 1;
+  QVector<QPointF> curve;
+  for (std::size_t i = 0; i < last; ++i) {
+    const Chromaticity& before = points[i > 0 ? i - 1 : 0].at;
+    const Chromaticity& from = points[i].at;
+    const Chromaticity& to = points[i + 1].at;
+    const Chromaticity& after = points[std::min(i + 2, last)].at;
+    for (int piece = 0; piece < kPieces; ++piece) {
+      const double part = static_cast<double>(piece) / kPieces;
+      curve.append({Between(before.x, from.x, to.x, after.x, part),
+                    Between(before.y, from.y, to.y, after.y, part)});
+    }
+  }
+  curve.append({points[last].at.x, points[last].at.y});
+  return curve;
+}
+
+// Short wavelengths have their label on the outer side, at the left; 500 nm has no room there.
+QCPItemText* AddLocusLabel(QCustomPlot& plot, const LocusPoint& point) {
+  auto* label = new QCPItemText(&plot);
+  label->setLayer(QStringLiteral("main"));
+  label->setText(QString::number(point.nm));
+  label->setFont(SmallFont(plot));
+  label->setColor(theme::kMutedText);
+  label->setPadding(QMargins(5, 0, 5, 0));
+  label->setPositionAlignment((point.nm < 500 ? Qt::AlignRight : Qt::AlignLeft) | Qt::AlignVCenter);
+  label->position->setCoords(point.at.x, point.at.y);
+  return label;
+}
+
+QCPItemEllipse* AddEllipse(QCustomPlot& plot, double x, double y, double radius) {
+  auto* ellipse = new QCPItemEllipse(&plot);
+  ellipse->setLayer(QStringLiteral("main"));
+  ellipse->topLeft->setCoords(x - radius, y + radius);
+  ellipse->bottomRight->setCoords(x + radius, y - radius);
+  return ellipse;
+}
+
+void RemoveItems(QCustomPlot& plot, std::vector<QCPAbstractItem*>& items) {
+  for (QCPAbstractItem* item : items) {
+    plot.removeItem(item);
+  }
+  items.clear();
+}
+
+QCPGraph* AddPoints(QCustomPlot& plot, const QColor& colour, double size) {
+  QCPGraph* graph = plot.addGraph();
+  graph->setLayer(QStringLiteral("marks"));
+  graph->setLineStyle(QCPGraph::lsNone);
+  graph->setScatterStyle({QCPScatterStyle::ssCircle, QPen(Qt::white, 1.0), colour, size});
+  return graph;
+}
+
+}  // namespace
+
+ChromaticityDiagram::ChromaticityDiagram(std::shared_ptr<BackgroundPicture> picture,
+                                         QWidget* parent)
+    : QCustomPlot(parent), picture_(std::move(picture)) {
+  setObjectName(QStringLiteral("ChromaticityDiagram"));
+  ApplyPlotStyle(*this);
+  axisRect()->setAutoMargins(QCP::msNone);
+  addLayer(QStringLiteral("picture"), layer(QStringLiteral("grid")), limAbove);
+  addLayer(QStringLiteral("texts"), layer(QStringLiteral("main")), limAbove);
+  addLayer(QStringLiteral("marks"), layer(QStringLiteral("axes")), limAbove);
+  for (QCPAxis* axis : {xAxis, yAxis, xAxis2, yAxis2}) {
+    axis->setSubTicks(false);
+    axis->setTickLabelFont(SmallFont(*this));
+    axis->grid()->setPen(QPen(kGridColour, 0.0));
+    axis->grid()->setZeroLinePen(QPen(theme::kMutedText, 1.0));
+  }
+
+  background_ = new QCPItemPixmap(this);
+  background_->setLayer(QStringLiteral("picture"));
+  background_->setScaled(true, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
+  const double half = DiagramBackground::kPitch / 2.0;
+  background_->topLeft->setCoords(-half, BackgroundPicture::kEnd + half);
+  background_->bottomRight->setCoords(BackgroundPicture::kEnd + half, -half);
+
+  locus_ = new QCPCurve(xAxis, yAxis);
+  locus_->setPen(QPen(theme::kText, 1.2));
+  conditionsText_ = new QCPItemText(this);
+  conditionsText_->setLayer(QStringLiteral("texts"));
+  conditionsText_->setFont(SmallFont(*this));
+  conditionsText_->setColor(theme::kMutedText);
+  conditionsText_->setBrush(QColor(255, 255, 255, 210));
+  conditionsText_->setPadding(QMargins(6, 4, 6, 4));
+  conditionsText_->setPositionAlignment(Qt::AlignRight | Qt::AlignTop);
+  conditionsText_->position->setType(QCPItemPosition::ptAxisRectRatio);
+  conditionsText_->position->setCoords(1.0, 0.0);
+  marks_ = new DiagramMarks(this);
+  marks_->setLayer(QStringLiteral("marks"));
+  points_ = AddPoints(*this, theme::kText, 6.0);
+  lastPoint_ = AddPoints(*this, theme::kAccent, 10.0);
+
+  auto* escape = new QShortcut(Qt::Key_Escape, this);
+  escape->setEnabled(picture_->IsBuilding());
+  connect(escape, &QShortcut::activated, picture_.get(), &BackgroundPicture::RequestAbort);
+  connect(picture_.get(), &BackgroundPicture::BuildingChanged, escape, &QShortcut::setEnabled);
+  connect(picture_.get(), &BackgroundPicture::Grown, this, &ChromaticityDiagram::DrawPicture);
+  DrawPicture();
+}
+
+void ChromaticityDiagram::ShowSlots(const VEXATYPE& state, int selectedSlot) {
+  ShowFrame(state.ColourConditions(), state);
+  std::vector<SlotMark> marks;
+  for (int number = 1; number <= kSlotCount; ++number) {
+    const MeasurementSlot& slot = *state.Slot(number);
+    // A spectrum without a colour, as a black one, has no chromaticity either.
+    if (slot.valid && (slot.colour.x != 0.0 || slot.colour.y != 0.0)) {
+      marks.push_back(
+          {number,
+           xyMode_ ? QPointF(slot.colour.x, slot.colour.y) : QPointF(slot.colour.a, slot.colour.b),
+           number == selectedSlot});
+    }
+  }
+  std::ranges::stable_partition(marks, [](const SlotMark& mark) { return !mark.selected; });
+  marks_->SetSlots(std::move(marks));
+  replot(rpQueuedReplot);
+}
+
+void ChromaticityDiagram::ShowStock(const VEXATYPE& state) {
+  const ColourStock& stock = state.stock;
+  ShowFrame({stock.StockMode, stock.StockIlluminant, stock.StockObserver}, state);
+  points_->data()->clear();
+  lastPoint_->data()->clear();
+  for (int i = 0; i < stock.Count; ++i) {
+    const auto index = static_cast<std::size_t>(i);
+    (i + 1 < stock.Count ? points_ : lastPoint_)->addData(stock.P1[index], stock.P2[index]);
+  }
+  replot(rpQueuedReplot);
+}
+
+int ChromaticityDiagram::HeightFor(int width) {
+  return width - kMargins.left() - kMargins.right() + kMargins.top() + kMargins.bottom();
+}
+
+void ChromaticityDiagram::resizeEvent(QResizeEvent* event) {
+  const QRect room = rect().marginsRemoved(kMargins);
+  const int side = std::min(room.width(), room.height());
+  const int besides = std::max(0, (room.width() - side) / 2);
+  const int above = std::max(0, (room.height() - side) / 2);
+  axisRect()->setMargins(kMargins + QMargins(besides, above, room.width() - side - besides,
+                                             room.height() - side - above));
+  QCustomPlot::resizeEvent(event);
+}
+
+void ChromaticityDiagram::showEvent(QShowEvent* event) {
+  QCustomPlot::showEvent(event);
+  RequestPicture();
+}
+
+void ChromaticityDiagram::mousePressEvent(QMouseEvent* event) {
+  picture_->RequestAbort();
+  QCustomPlot::mousePressEvent(event);
+}
+
+void ChromaticityDiagram::ShowFrame(const StockConditions& conditions, const VEXATYPE& state) {
+  xyMode_ = conditions.xyMode;
+  ShowAxes(state.display.labScale);
+  ShowLocus(conditions.observer2Deg);
+  ShowTolerance(xyMode_ ? ToleranceRegion()
+                        : ToleranceRegionOf(state.standard, state.chromaMarker, state.hueMarker));
+  background_->setVisible(xyMode_);
+  const QString illuminant = IlluminantText(conditions.illuminant);
+  std::optional<QPointF> white;
+  if (const auto point = WhitePointOf(conditions.illuminant, conditions.observer2Deg);
+      point && xyMode_) {
+    white = QPointF(point->x, point->y);
+  }
+  marks_->SetWhitePoint(white, illuminant);
+  conditionsText_->setText(
+      QStringLiteral("%1 / %2°").arg(illuminant, ObserverText(conditions.observer2Deg)));
+  RequestPicture();
+}
+
+void ChromaticityDiagram::ShowAxes(int labScale) {
+  if (labScale >= 0 && labScale < static_cast<int>(kLabReaches.size())) {
+    labReach_ = kLabReaches[static_cast<std::size_t>(labScale)];
+  }
+  if (xyMode_) {
+    const QString end = QStringLiteral("0.8");
+    SetAxis(*xAxis, *xAxis2, 0.0, BackgroundPicture::kEnd,
+            {QStringLiteral("0"), QStringLiteral("x"), end});
+    SetAxis(*yAxis, *yAxis2, 0.0, BackgroundPicture::kEnd, {QString(), QStringLiteral("y"), end});
+  } else {
+    const QString lower = QString::number(-labReach_);
+    SetAxis(*xAxis, *xAxis2, -labReach_, labReach_,
+            {lower, QStringLiteral("a*"), QString::number(labReach_)});
+    SetAxis(*yAxis, *yAxis2, -labReach_, labReach_, {lower, QStringLiteral("b*"), QString()});
+  }
+}
+
+void ChromaticityDiagram::ShowLocus(Flag observer2Deg) {
+  RemoveItems(*this, locusItems_);
+  locus_->data()->clear();
+  if (!xyMode_) {
+    return;
+  }
+  const std::vector<LocusPoint> points = SpectralLocus(observer2Deg);
+  for (const QPointF& point : SmoothCurve(points)) {
+    locus_->addData(point.x(), point.y());
+  }
+  for (const LocusPoint& point : points) {
+    if (std::ranges::find(kLabelledNm, point.nm) != kLabelledNm.end()) {
+      QCPItemEllipse* dot = AddEllipse(*this, point.at.x, point.at.y, 0.005);
+      dot->setPen(Qt::NoPen);
+      dot->setBrush(theme::kText);
+      locusItems_.push_back(dot);
+      locusItems_.push_back(AddLocusLabel(*this, point));
+    }
+  }
+  locus_->addData(points.front().at.x, points.front().at.y);
+}
+
+void ChromaticityDiagram::ShowTolerance(const ToleranceRegion& region) {
+  RemoveItems(*this, tolerance_);
+  const QPen limit(kLimitColour, 1.4);
+  const QPen reference(kLimitColour, 1.4, Qt::DashLine);
+  for (const double radius : region.chromaRadii) {
+    AddCircle(radius, limit);
+  }
+  for (const double degrees : region.hueAnglesDeg) {
+    AddHueLine(degrees, limit);
+  }
+  if (region.referenceChroma) {
+    AddCircle(*region.referenceChroma, reference);
+  }
+  if (region.referenceHueDeg) {
+    AddHueLine(*region.referenceHueDeg, reference);
+  }
+}
+
+void ChromaticityDiagram::AddCircle(double radius, const QPen& pen) {
+  // Beyond the corners there is nothing to see, and a file may hold any number.
+  if (radius <= 1.5 * labReach_) {
+    QCPItemEllipse* circle = AddEllipse(*this, 0.0, 0.0, radius);
+    circle->setPen(pen);
+    tolerance_.push_back(circle);
+  }
+}
+
+void ChromaticityDiagram::AddHueLine(double degrees, const QPen& pen) {
+  const double angle = degrees * kPi / 180.0;
+  auto* line = new QCPItemLine(this);
+  line->setLayer(QStringLiteral("main"));
+  line->start->setCoords(0.0, 0.0);
+  line->end->setCoords(2.0 * labReach_ * std::cos(angle), 2.0 * labReach_ * std::sin(angle));
+  line->setPen(pen);
+  tolerance_.push_back(line);
+}
+
+void ChromaticityDiagram::DrawPicture() {
+  background_->setPixmap(QPixmap::fromImage(picture_->Image()));
+  replot(rpQueuedReplot);
+}
+
+void ChromaticityDiagram::RequestPicture() {
+  if (xyMode_ && isVisible()) {
+    picture_->Request();
+  }
+}
+
+}  // namespace vexa

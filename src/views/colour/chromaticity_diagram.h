@@ -1,0 +1,64 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <qcustomplot.h>
+
+#include <memory>
+#include <vector>
+
+#include "colour/chromaticity_diagram.h"
+#include "measurement/vexatype.h"
+#include "views/colour/background_picture.h"
+#include "views/colour/diagram_marks.h"
+
+namespace vexa {
+
+/// A chromaticity diagram: the xy diagram from 0 to 0.8 with its coloured background, or the a*b*
+/// plane with the tolerances of the standards. The axes always form a square. Esc in its window or
+/// a click on it, while the background is built, asks whether to stop that.
+class ChromaticityDiagram : public QCustomPlot {
+  Q_OBJECT
+
+ public:
+  explicit ChromaticityDiagram(std::shared_ptr<BackgroundPicture> picture,
+                               QWidget* parent = nullptr);
+
+  /// The valid slots that have a colour, under the display conditions.
+  void ShowSlots(const VEXATYPE& state, int selectedSlot);
+  /// The accumulated points under the conditions of their accumulation, the last one marked.
+  void ShowStock(const VEXATYPE& state);
+
+  [[nodiscard]] const DiagramMarks& Marks() const { return *marks_; }
+
+  /// The height at which the axes of a diagram of this width fill it.
+  [[nodiscard]] static int HeightFor(int width);
+
+ protected:
+  void resizeEvent(QResizeEvent* event) override;
+  void showEvent(QShowEvent* event) override;
+  void mousePressEvent(QMouseEvent* event) override;
+
+ private:
+  void ShowFrame(const StockConditions& conditions, const VEXATYPE& state);
+  void ShowAxes(int labScale);
+  void ShowLocus(Flag observer2Deg);
+  void ShowTolerance(const ToleranceRegion& region);
+  void AddCircle(double radius, const QPen& pen);
+  void AddHueLine(double degrees, const QPen& pen);
+  void DrawPicture();
+  void RequestPicture();
+
+  std::shared_ptr<BackgroundPicture> picture_;
+  QCPItemPixmap* background_;
+  QCPCurve* locus_;
+  QCPItemText* conditionsText_;
+  QCPGraph* points_;
+  QCPGraph* lastPoint_;
+  DiagramMarks* marks_;
+  std::vector<QCPAbstractItem*> locusItems_;
+  std::vector<QCPAbstractItem*> tolerance_;
+  bool xyMode_ = true;
+  int labReach_ = 40;
+};
+
+}  // namespace vexa

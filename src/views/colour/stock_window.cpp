@@ -1,0 +1,122 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "views/colour/stock_window.h"
+
+#include <QHBoxLayout>
+#include <QVBoxLayout>
+
+#include "colour/stock_file.h"
+#include "views/colour/chromaticity_diagram.h"
+#include "views/files/data_file_commands.h"
+
+namespace vexa {
+namespace {
+
+constexpr int kSmallestDiagram = 420;
+const QString kFilter = QStringLiteral("累積ﾃﾞｰﾀ･ﾌｧｲﾙ(*.stc)|*.stc|");
+
+}  // namespace
+
+StockWindow::StockWindow(VEXATYPE& state, MessageService& messages, FileDialogs& dialogs,
+                         std::shared_ptr<BackgroundPicture> picture, QWidget* parent)
+    : QDialog(parent),
+      state_(state),
+      messages_(messages),
+      dialogs_(dialogs),
+      diagram_(new ChromaticityDiagram(std::move(picture))),
+      count_(new QLabel),
+      load_(AddButton("StockLoad", QStringLiteral("読み込み"), &StockWindow::Load)),
+      save_(AddButton("StockSave", QStringLiteral("保存"), &StockWindow::Save)),
+      clear_(AddButton("StockClearOne", QStringLiteral("ｸﾘｱ"), &StockWindow::ClearLast)),
+      clearAll_(AddButton("StockClearAll", QStringLiteral("全ｸﾘｱ"), &StockWindow::ClearAll)),
+      close_(AddButton("StockClose", QStringLiteral("閉じる"), &StockWindow::CloseWindow)) {
+  setObjectName(QStringLiteral("StockWindow"));
+  setWindowTitle(QStringLiteral("累積色度図表示"));
+  diagram_->setMinimumSize(kSmallestDiagram, ChromaticityDiagram::HeightFor(kSmallestDiagram));
+  count_->setObjectName(QStringLiteral("StockWindowCount"));
+  count_->setAlignment(Qt::AlignCenter);
+  clear_->setToolTip(QStringLiteral("最後の累積データを取り消します。"));
+
+  auto* frame = new QFrame;
+  frame->setFrameShape(QFrame::StyledPanel);
+  auto* framed = new QVBoxLayout(frame);
+  framed->setContentsMargins(1, 1, 1, 1);
+  framed->addWidget(diagram_);
+  auto* column = new QVBoxLayout;
+  column->setSpacing(8);
+  column->addWidget(count_);
+  column->addSpacing(4);
+  for (QPushButton* button : {load_, save_, clear_, clearAll_}) {
+    column->addWidget(button);
+  }
+  column->addStretch();
+  column->addWidget(close_);
+  auto* layout = new QHBoxLayout(this);
+  layout->setContentsMargins(12, 12, 12, 12);
+  layout->setSpacing(12);
+  layout->addWidget(frame, 1);
+  layout->addLayout(column);
+  connect(this, &StockWindow::StockChanged, this, &StockWindow::Refresh);
+  Refresh();
+}
+
+void StockWindow::Refresh() {
+  diagram_->ShowStock(state_);
+  count_->setText(QStringLiteral("累積数  %1 / %2")
+                      .arg(state_.stock.Count)
+                      .arg(static_cast<int>(ColourStock::kCapacity)));
+  clear_->setEnabled(state_.stock.Count > 0);
+  clearAll_->setEnabled(state_.stock.Count > 0);
+}
+
+QPushButton* StockWindow::AddButton(const char* name, const QString& caption,
+                                    void (StockWindow::*run)()) {
+  auto* button = new QPushButton(caption);
+  button->setObjectName(QLatin1String(name));
+  button->setAutoDefault(false);
+  button->setMinimumWidth(116);
+  connect(button, &QPushButton::clicked, this, run);
+  return button;
+}
+
+void StockWindow::ClearAll() {
+  state_.stock.RemoveAll();
+  emit StockChanged();
+}
+
+void StockWindow::ClearLast() {
+  state_.stock.RemoveLast();
+  emit StockChanged();
+}
+
+void StockWindow::Load() {
+  const std::optional<QString> path =
+      dialogs_.AskOpen(QStringLiteral("累積ﾃﾞｰﾀ･ﾌｧｲﾙを開く"), kFilter);
+  if (!path) {
+    return;
+  }
+  // What was read before a fault stays, and is shown.
+  const bool read = ReadStockFile(*path, state_.stock);
+  emit StockChanged();
+  if (!read) {
+    messages_.MsgCall(StockReadErrorText(), message_type::kOk + message_type::kStopIcon,
+                      message_title::kError);
+  }
+}
+
+void StockWindow::Save() {
+  const std::optional<SaveChoice> choice =
+      dialogs_.AskSave(QStringLiteral("累積ﾃﾞｰﾀ･ﾌｧｲﾙの保存"), kFilter);
+  if (!choice) {
+    return;
+  }
+  const QString path = WithDefaultExtension(choice->path, QStringLiteral(".stc"));
+  if (MayReplace(path, messages_) && !WriteStockFile(path, state_.stock)) {
+    ShowWriteError(path, messages_);
+  }
+}
+
+void StockWindow::CloseWindow() {
+  close();
+}
+
+}  // namespace vexa

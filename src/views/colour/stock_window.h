@@ -1,0 +1,52 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <QDialog>
+#include <QLabel>
+#include <QPushButton>
+#include <memory>
+
+#include "base/message.h"
+#include "measurement/vexatype.h"
+#include "views/common/file_dialogs.h"
+
+namespace vexa {
+
+class BackgroundPicture;
+class ChromaticityDiagram;
+
+/// The accumulated colour points on a diagram of their own, and the stock file.
+class StockWindow : public QDialog {
+  Q_OBJECT
+
+ public:
+  StockWindow(VEXATYPE& state, MessageService& messages, FileDialogs& dialogs,
+              std::shared_ptr<BackgroundPicture> picture, QWidget* parent = nullptr);
+
+  /// Shows the stock as it is now.
+  void Refresh();
+
+ signals:
+  void StockChanged();
+
+ private:
+  QPushButton* AddButton(const char* name, const QString& caption, void (StockWindow::*run)());
+  void ClearAll();
+  void ClearLast();
+  void Load();
+  void Save();
+  void CloseWindow();
+
+  VEXATYPE& state_;
+  MessageService& messages_;
+  FileDialogs& dialogs_;
+  ChromaticityDiagram* diagram_;
+  QLabel* count_;
+  QPushButton* load_;
+  QPushButton* save_;
+  QPushButton* clear_;
+  QPushButton* clearAll_;
+  QPushButton* close_;
+};
+
+}  // namespace vexa

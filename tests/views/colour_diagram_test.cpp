@@ -1,0 +1,163 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "views/colour/chromaticity_diagram.h"
+
+#include <gtest/gtest.h>
+
+#include <QDeadlineTimer>
+#include <QTest>
+#include <cmath>
+#include <map>
+
+#include "support/prepared_answers.h"
+
+namespace vexa {
+namespace {
+
+using test::ShownMessage;
+
+const ShownMessage kQuestion{"確認: 色座標の作成を中止します。", 33};
+
+class Diagram : public testing::Test {
+ protected:
+  std::map<double, std::string> Labels(const QCPAxis* axis) {
+    std::map<double, std::string> labels;
+    const auto ticker = axis->ticker().dynamicCast<QCPAxisTickerText>();
+    for (const auto& [at, text] : ticker->ticks().toStdMap()) {
+      if (!text.isEmpty()) {
+        labels[at] = text.toStdString();
+      }
+    }
+    return labels;
+  }
+
+  // Turns the event loop without the pauses of a wait: each turn adds few pixels.
+  bool Complete() {
+    for (const QDeadlineTimer end(10000); !picture->IsComplete() && !end.hasExpired();) {
+      QApplication::processEvents();
+    }
+    return picture->IsComplete();
+  }
+
+  QColor PixelAt(double a, double b) {
+    diagram.resize(300, 300);
+    const QImage image = diagram.toPixmap(300, 300).toImage();
+    return image.pixelColor(static_cast<int>(diagram.xAxis->coordToPixel(a)),
+                            static_cast<int>(diagram.yAxis->coordToPixel(b)));
+  }
+
+  VEXATYPE state;
+  test::PreparedAnswers messages;
+  std::shared_ptr<BackgroundPicture> picture = std::make_shared<BackgroundPicture>(messages);
+  ChromaticityDiagram diagram{picture};
+};
+
+TEST_F(Diagram, AxesAreLabelledByModeAndScale) {
+  using Texts = std::map<double, std::string>;
+  struct Case {
+    bool xyMode;
+    std::int16_t labScale;
+    Texts x;
+    Texts y;
+  };
+  const Case cases[] = {
+      {true, 0, {{0, "0"}, {0.4, "x"}, {0.8, "0.8"}}, {{0.4, "y"}, {0.8, "0.8"}}},
+      {false, 0, {{-10, "-10"}, {0, "a*"}, {10, "10"}}, {{-10, "-10"}, {0, "b*"}}},
+      {false, 1, {{-20, "-20"}, {0, "a*"}, {20, "20"}}, {{-20, "-20"}, {0, "b*"}}},
+      {false, 2, {{-40, "-40"}, {0, "a*"}, {40, "40"}}, {{-40, "-40"}, {0, "b*"}}},
+      {false, 7, {{-40, "-40"}, {0, "a*"}, {40, "40"}}, {{-40, "-40"}, {0, "b*"}}},
+  };
+  for (const Case& c : cases) {
+    state.display.xyMode = c.xyMode;
+    state.display.labScale = c.labScale;
+    diagram.ShowSlots(state, 1);
+    EXPECT_EQ(Labels(diagram.xAxis), c.x);
+    EXPECT_EQ(Labels(diagram.yAxis), c.y);
+    EXPECT_EQ(diagram.xAxis->range().lower, c.x.begin()->first);
+    EXPECT_EQ(diagram.yAxis->range().upper, c.x.rbegin()->first);
+  }
+}
+
+TEST_F(Diagram, ToleranceIsDrawnWhereTheGroupIsOn) {
+  state.display.xyMode = false;
+  const auto isRed = [this](double a, double b) {
+    diagram.ShowSlots(state, 1);
+    const QColor colour = PixelAt(a, b);
+    return colour.red() > colour.green() + 40;
+  };
+  const double along30 = 25.0 * std::sqrt(0.75);
+  EXPECT_FALSE(isRed(0, -35) || isRed(0, -15) || isRed(along30, 12.5));
+  state.standard.chroma = {true, 35.0, -15.0};
+  EXPECT_TRUE(isRed(0, -35) && isRed(0, -15)) << "the radii are absolute values";
+  EXPECT_FALSE(isRed(along30, 12.5));
+  state.standard.hueAngle = {true, 30.0, 200.0};
+  EXPECT_TRUE(isRed(along30, 12.5));
+  state.standard.chroma = {true, 1e300, 1e300};
+  EXPECT_FALSE(isRed(0, -35));
+}
+
+TEST_F(Diagram, BackgroundIsBuiltInTurnsOfTheEventLoop) {
+  diagram.show();
+  ASSERT_TRUE(picture->IsBuilding());
+  ASSERT_TRUE(Complete());
+  EXPECT_FALSE(picture->IsBuilding());
+  DiagramBackground reference;
+  while (reference.Step(1000)) {
+  }
+  int opaque = 0;
+  for (int row = 0; row < picture->Image().height(); ++row) {
+    for (int column = 0; column < picture->Image().width(); ++column) {
+      opaque += qAlpha(picture->Image().pixel(column, row)) == 255 ? 1 : 0;
+    }
+  }
+  EXPECT_EQ(opaque, static_cast<int>(reference.Points().size())) << "no pixel hides another";
+  // x = 0.3, y = 0.3 at a luminance of 75: R = 6.0405 * 75 - 1.6839 * 75 - 0.9115 * 100 is above
+  // 255; G = -3.119 * 75 + 6.3182 * 75 - 0.0895 * 100 = 230.99; B is above 255.
+  const QColor colour = picture->Image().pixelColor(150, picture->Image().height() - 1 - 150);
+  EXPECT_EQ(colour.red(), 236);
+  EXPECT_NEAR(colour.green(), 231, 1);
+  EXPECT_EQ(colour.blue(), 255);
+  EXPECT_EQ(messages.Take().size(), 0U);
+
+  ChromaticityDiagram second(picture);
+  second.show();
+  EXPECT_FALSE(picture->IsBuilding()) << "kept";
+}
+
+TEST_F(Diagram, EscOrAClickAsksWhetherToStopTheBackground) {
+  struct Case {
+    bool click;
+    MessageResult answer;
+  };
+  const Case cases[] = {{false, MessageResult::kCancel},
+                        {true, MessageResult::kCancel},
+                        {false, MessageResult::kOk},
+                        {true, MessageResult::kOk}};
+  diagram.show();
+  ASSERT_TRUE(QTest::qWaitForWindowActive(&diagram));
+  ASSERT_FALSE(picture->IsComplete()) << "too fast for this test";
+  for (const Case& c : cases) {
+    picture->Request();
+    messages.answers = {c.answer};
+    if (c.click) {
+      QTest::mouseClick(&diagram, Qt::LeftButton);
+    } else {
+      QTest::keyClick(&diagram, Qt::Key_Escape);
+    }
+    std::vector<ShownMessage> shown;
+    ASSERT_TRUE(QTest::qWaitFor([&] {
+      shown = messages.Take();
+      return !shown.empty();
+    }));
+    EXPECT_EQ(shown, std::vector{kQuestion});
+    EXPECT_EQ(picture->IsBuilding(), c.answer != MessageResult::kOk);
+    EXPECT_FALSE(picture->IsComplete());
+  }
+  QTest::keyClick(&diagram, Qt::Key_Escape);
+  QTest::mouseClick(&diagram, Qt::LeftButton);
+  picture->Request();
+  ASSERT_TRUE(Complete());
+  EXPECT_EQ(messages.Take().size(), 0U) << "nothing to stop, nothing to ask";
+}
+
+}  // namespace
+}  // namespace vexa

@@ -1,0 +1,171 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "views/colour/colour_panel.h"
+
+#include <gtest/gtest.h>
+
+#include "support/prepared_answers.h"
+#include "support/prepared_files.h"
+#include "views/colour/background_picture.h"
+#include "views/colour/chromaticity_diagram.h"
+
+namespace vexa {
+namespace {
+
+using test::ShownMessage;
+
+class Panel : public testing::Test {
+ protected:
+  std::string Text(const char* name) {
+    return panel.findChild<QLabel*>(QLatin1String(name))->text().toStdString();
+  }
+  void Press(const char* name) { panel.findChild<QAbstractButton*>(QLatin1String(name))->click(); }
+  bool Checked() {
+    return panel.findChild<QCheckBox*>(QStringLiteral("AccumulateChk"))->isChecked();
+  }
+
+  VEXATYPE state;
+  test::PreparedAnswers messages;
+  test::PreparedFiles files;
+  ColourPanel panel{state, messages, files};
+};
+
+TEST_F(Panel, ShowsTheColourOfTheSelectedSlot) {
+  const char* const names[] = {"Coordinate1Caption",
+                               "Coordinate1",
+                               "Coordinate2Caption",
+                               "Coordinate2",
+                               "Coordinate3Caption",
+                               "Coordinate3",
+                               "Chroma",
+                               "Hue",
+                               "AverageReflectance",
+                               "LuminousReflectance",
+                               "Observer",
+                               "Illuminant"};
+  struct Case {
+    bool xyMode;
+    int slot;
+    std::int16_t illuminant;
+    bool observer2Deg;
+    std::array<const char*, std::size(names)> texts;
+  };
+  const Case cases[] = {
+      {true,
+       3,
+       1,
+       true,
+       {"x :", "0.3127", "y :", "0.3290", "Y :", "4.26", "1.235", "359.999", "4.1", "4.256", "2",
+        "A"}},
+      {false,
+       3,
+       4,
+       false,
+       {"a :", "-0.5000", "b :", "12.3457", "L :", "24.50", "1.235", "359.999", "4.1", "4.256",
+        "10", "D65"}},
+      {true, 4, 2, true, {"x :", "-", "y :", "-", "Y :", "-", "-", "-", "-", "-", "2", "B"}},
+  };
+  state.Slot(3)->valid = true;
+  state.Slot(3)->colour = {.L = 24.5,
+                           .a = -0.5,
+                           .b = 12.34567,
+                           .x = 0.3127,
+                           .y = 0.329,
+                           .C = 1.2346,
+                           .h = 359.9994,
+                           .Rm = 4.1,
+                           .Y = 4.2561};
+  for (const Case& c : cases) {
+    state.display.xyMode = c.xyMode;
+    state.colour.illuminant = c.illuminant;
+    state.colour.observer2Deg = c.observer2Deg;
+    panel.Show(c.slot);
+    for (std::size_t i = 0; i < std::size(names); ++i) {
+      EXPECT_EQ(Text(names[i]), c.texts[i]) << names[i] << " of slot " << c.slot;
+    }
+  }
+}
+
+TEST_F(Panel, AsksWhenTheStockWasTakenUnderOtherConditions) {
+  const ShownMessage question{
+      "VEXA-KT ﾒｯｾｰｼﾞ: "
+      "現在累積されている色度図データと表示条件が異なります。現累積データをクリアしますか？",
+      33};
+  struct Case {
+    int points;
+    StockConditions taken;
+    bool asked;
+    MessageResult answer;
+    bool checked;
+    int pointsLeft;
+  };
+  const StockConditions now{false, 4, true};
+  const Case cases[] = {
+      {2, now, false, MessageResult::kOk, true, 2},
+      {0, {true, 1, false}, false, MessageResult::kOk, true, 0},
+      {2, {true, 4, true}, true, MessageResult::kOk, true, 0},
+      {2, {false, 3, true}, true, MessageResult::kCancel, false, 2},
+      {2, {false, 4, false}, true, MessageResult::kCancel, false, 2},
+  };
+  state.display.xyMode = now.xyMode;
+  state.colour.illuminant = now.illuminant;
+  state.colour.observer2Deg = now.observer2Deg;
+  for (const Case& c : cases) {
+    state.stock = {};
+    state.stock.Record(c.taken);
+    for (int i = 0; i < c.points; ++i) {
+      (void)state.stock.StockAdd({.L = 50.0, .a = 1.0}, false);
+    }
+    state.accumulate = false;
+    panel.Show(1);
+    messages.answers = {c.answer};
+    Press("AccumulateChk");
+    EXPECT_EQ(messages.Take(), c.asked ? std::vector{question} : std::vector<ShownMessage>{});
+    EXPECT_EQ(Checked(), c.checked);
+    EXPECT_EQ(state.accumulate, c.checked);
+    EXPECT_EQ(Text("StockCount"), std::to_string(c.pointsLeft));
+    EXPECT_FALSE(state.stock.DiffersFrom(state.ColourConditions()))
+        << "the conditions are recorded whatever the answer";
+    EXPECT_EQ(state.stock.StockIlluminant, now.illuminant);
+    messages.answers.clear();
+  }
+}
+
+TEST_F(Panel, ClearTakesTheLastPointAway) {
+  int changes = 0;
+  QObject::connect(&panel, &ColourPanel::StockChanged, &panel, [&changes] { ++changes; });
+  (void)state.stock.StockAdd({.x = 0.1}, true);
+  (void)state.stock.StockAdd({.x = 0.2}, true);
+  panel.Show(1);
+  EXPECT_EQ(Text("StockCount"), "2");
+  for (const char* left : {"1", "0", "0"}) {
+    Press("StockClear");
+    EXPECT_EQ(Text("StockCount"), left);
+  }
+  EXPECT_EQ(changes, 2);
+  EXPECT_EQ(state.stock.P1[0], 0.0);
+}
+
+TEST_F(Panel, DiagramHasTheValidSlotsWithTheSelectedOneOnTop) {
+  for (const int slot : {2, 5, 9}) {
+    state.Slot(slot)->valid = true;
+    state.Slot(slot)->colour = {.a = 10.0 * slot, .b = 1.0, .x = 0.01 * slot, .y = 0.3};
+  }
+  const auto& marks = panel.findChild<ChromaticityDiagram*>()->Marks();
+  const auto shown = [&marks] {
+    std::vector<std::pair<int, QPointF>> result;
+    for (const SlotMark& mark : marks.Slots()) {
+      result.emplace_back(mark.slot, mark.at);
+    }
+    return result;
+  };
+  panel.Show(5);
+  EXPECT_EQ(shown(), (std::vector<std::pair<int, QPointF>>{
+                         {2, {0.02, 0.3}}, {9, {0.09, 0.3}}, {5, {0.05, 0.3}}}));
+  state.display.xyMode = false;
+  panel.Show(1);
+  EXPECT_EQ(shown(), (std::vector<std::pair<int, QPointF>>{
+                         {2, {20.0, 1.0}}, {5, {50.0, 1.0}}, {9, {90.0, 1.0}}}));
+}
+
+}  // namespace
+}  // namespace vexa

@@ -1,0 +1,161 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include <gtest/gtest.h>
+
+#include <QApplication>
+#include <QClipboard>
+#include <QDir>
+#include <QFile>
+#include <QTemporaryDir>
+
+#include "colour/stock_file.h"
+#include "support/prepared_answers.h"
+#include "support/prepared_files.h"
+#include "views/colour/background_picture.h"
+#include "views/colour/colour_difference_window.h"
+#include "views/colour/stock_window.h"
+
+namespace vexa {
+namespace {
+
+using test::ShownMessage;
+
+const ShownMessage kReadError{
+    "VEXA-KT ｴﾗｰ: ﾃﾞｰﾀ･ﾌｧｲﾙの読み込みでエラーが発生しました。\r\r"
+    "VEXA-KT 440-840 Ver3.21 Stock Fileﾌｧｲﾙではありません\r\rﾌｧｲﾙを確認してください。",
+    16};
+
+class Stock : public testing::Test {
+ protected:
+  void Press(const char* name) { window.findChild<QPushButton*>(QLatin1String(name))->click(); }
+  QByteArray Content(const QString& path) {
+    QFile file(path);
+    EXPECT_TRUE(file.open(QIODevice::ReadOnly));
+    return file.readAll();
+  }
+  QString Write(const char* name, const QByteArray& content) {
+    QFile file(directory.filePath(QLatin1String(name)));
+    EXPECT_TRUE(file.open(QIODevice::WriteOnly));
+    file.write(content);
+    return file.fileName();
+  }
+
+  QTemporaryDir directory{QDir::tempPath() + QStringLiteral("/累 積-XXXXXX")};
+  VEXATYPE state;
+  test::PreparedAnswers messages;
+  test::PreparedFiles files;
+  StockWindow window{state, messages, files, std::make_shared<BackgroundPicture>(messages)};
+};
+
+TEST_F(Stock, SavesLoadsAndClears) {
+  Press("StockSave");  // cancelled
+  Press("StockLoad");
+  (void)state.stock.StockAdd({.x = 0.3127, .y = 0.329, .Y = 4.5}, true);
+  (void)state.stock.StockAdd({.x = 0.25, .y = 0.3, .Y = 5.0}, true);
+  state.stock.Record({true, 4, false});
+  window.Refresh();
+  const QString path = directory.filePath(QStringLiteral("点 1.stc"));
+  files.save = SaveChoice{path.chopped(4), 1};
+  Press("StockSave");
+  EXPECT_EQ(files.filter, "累積ﾃﾞｰﾀ･ﾌｧｲﾙ(*.stc)|*.stc|");
+  const QByteArray content = Content(path);
+  EXPECT_EQ(content,
+            "VEXA-KT 440-840 Ver3.21 Stock File\r\nTrue\r\n 4 \r\nFalse\r\n 2 \r\n"
+            "0.312700,0.329000,4.500000\r\n0.250000,0.300000,5.000000\r\n");
+
+  Press("StockClearOne");
+  EXPECT_EQ(state.stock.Count, 1);
+  messages.answers = {MessageResult::kNo};
+  Press("StockSave");
+  EXPECT_EQ(messages.Take().size(), 1U);
+  EXPECT_EQ(Content(path), content) << "not replaced";
+  Press("StockClearAll");
+  EXPECT_EQ(state.stock.Count, 0);
+  EXPECT_EQ(state.stock.P1[0], 0.0);
+
+  int changes = 0;
+  QObject::connect(&window, &StockWindow::StockChanged, &window, [&changes] { ++changes; });
+  files.open = Write("old.stc", QByteArray(content).replace("3.21", "3.00"));
+  Press("StockLoad");
+  EXPECT_EQ(messages.Take(), std::vector<ShownMessage>{});
+  EXPECT_EQ(state.stock.Count, 2);
+  EXPECT_EQ(state.stock.P3[1], 5.0);
+  EXPECT_EQ(changes, 1);
+  EXPECT_TRUE(window.findChild<QLabel*>(QStringLiteral("StockWindowCount"))
+                  ->text()
+                  .endsWith(QStringLiteral("2 / 100")));
+  files.save = SaveChoice{directory.filePath(QStringLiteral("missing/x.stc")), 1};
+  Press("StockSave");
+  EXPECT_EQ(messages.Take().at(0).type, 16);
+}
+
+TEST_F(Stock, FaultyFilesAreShownAndWhatWasReadStays) {
+  struct Case {
+    const char* content;
+    int countLeft;
+  };
+  const Case cases[] = {
+      {"VEXA-KT 440-840 Ver3.21 Data File\r\n", 1},
+      {"VEXA-KT 440-840 Ver3.21 Stock File\r\nTrue\r\n 1 \r\nTrue\r\n 101 \r\n", 1},
+      {"VEXA-KT 440-840 Ver3.21 Stock File\r\nTrue\r\n 1 \r\nTrue\r\n-1 \r\n", 1},
+      {"VEXA-KT 440-840 Ver3.21 Stock File\r\nTrue\r\n 1 \r\nTrue\r\n 3 \r\n1,2,3\r\n4,5,6\r\n7,",
+       2},
+  };
+  for (const Case& c : cases) {
+    state.stock = {};
+    (void)state.stock.StockAdd({.x = 0.3}, true);
+    files.open = Write("x.stc", c.content);
+    Press("StockLoad");
+    EXPECT_EQ(messages.Take(), std::vector{kReadError}) << c.content;
+    EXPECT_EQ(state.stock.Count, c.countLeft) << c.content;
+  }
+}
+
+// A flat spectrum but for a bump in the green.
+void Fill(MeasurementSlot& slot, double level, double bump, const char* name) {
+  for (int nm = 440; nm <= 840; ++nm) {
+    slot.reflectance[nm] = level + (nm < 600 && nm > 520 ? bump : 0.0);
+  }
+  slot.info.sampleNumber = QString::fromUtf8(name);
+  slot.valid = true;
+}
+
+TEST(ColourDifferenceWindow, ComparesEveryOtherValidSlotWithTheStandard) {
+  VEXATYPE state;
+  Fill(*state.Slot(2), 50.0, 10.0, "試料\tA");
+  Fill(*state.Slot(4), 50.0, 10.0, "同じ");
+  Fill(*state.Slot(7), 0.0, 0.0, "黒");
+  Fill(*state.Slot(9), 60.0, 12.0, "明るい");
+  ColourDifferenceWindow window(state, 4);
+  window.findChild<QPushButton*>(QStringLiteral("CopyTable"))->click();
+  const QStringList rows = QApplication::clipboard()->text().split(u'\n', Qt::SkipEmptyParts);
+  ASSERT_EQ(rows.size(), 4);
+  EXPECT_EQ(rows[0], QStringLiteral("ｽﾛｯﾄ\t試料番号\tΔL*\tΔa*\tΔb*\tΔC*\tΔH*\tΔE*ab\tΔE00"));
+  EXPECT_EQ(rows[1],
+            QStringLiteral("Mes2\t試料 A\t0.000\t0.000\t0.000\t0.000\t0.000\t0.000\t0.000"));
+  EXPECT_EQ(rows[2], QStringLiteral("Mes7\t黒\t-\t-\t-\t-\t-\t-\t-"));
+  // 1.2 times the light: L* grows by (L* + 16) (1.2^(1/3) - 1) and C* by C* (1.2^(1/3) - 1).
+  ColourResult colour;
+  ASSERT_TRUE(CalcColour(state.Slot(4)->reflectance, state.colour, colour));
+  const QStringList brighter = rows[3].split(u'\t');
+  const double growth = std::cbrt(1.2) - 1.0;
+  EXPECT_NEAR(brighter[2].toDouble(), (colour.L + 16.0) * growth, 6e-4);
+  EXPECT_NEAR(brighter[5].toDouble(), colour.C * growth, 6e-4);
+  EXPECT_EQ(std::abs(brighter[6].toDouble()), 0.0);
+
+  auto* standard = window.findChild<QComboBox*>(QStringLiteral("StandardSlot"));
+  EXPECT_EQ(standard->count(), 4);
+  standard->setCurrentIndex(3);
+  const auto* table = window.findChild<QTableWidget*>(QStringLiteral("DifferenceTable"));
+  ASSERT_EQ(table->rowCount(), 3);
+  EXPECT_EQ(table->item(1, 0)->text(), QStringLiteral("Mes4"));
+  EXPECT_EQ(table->item(1, 2)->text().toDouble(), -brighter[2].toDouble());
+}
+
+TEST(ColourDifferenceWindow, IsEmptyWithoutSlots) {
+  const VEXATYPE state;
+  const ColourDifferenceWindow window(state, 1);
+  EXPECT_EQ(window.findChild<QTableWidget*>()->rowCount(), 0);
+}
+
+}  // namespace
+}  // namespace vexa
