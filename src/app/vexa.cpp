@@ -28,6 +28,7 @@
 #include "views/optics/thickness_panel.h"
 #include "views/optics/wave_list_dlg.h"
 #include "views/settings/calibration_dlg.h"
+#include "views/settings/dispset.h"
 #include "views/settings/sampling_dlg.h"
 #include "views/standards/standard_files.h"
 #include "views/standards/standard_frm.h"
@@ -135,6 +136,7 @@ void VEXA::ConnectCommands() {
   enable(commands_.thicknessSettings, [&, this] {
     RefSetDlg(RefSetDlg::Mode::kThickness, state_, messages, dialogs, this).exec();
   });
+  enable(commands_.displaySettings, [&, this] { dispset(state_, messages, this).exec(); });
   enable(commands_.colourDifference,
          [this] { ColourDifferenceWindow(state_, GetOption(), this).exec(); });
   enable(commands_.standards, [&, this] { StandardFrm(state_, messages, dialogs, this).exec(); });

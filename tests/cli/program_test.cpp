@@ -143,14 +143,14 @@ TEST_F(CommandLine, ComputesReflectance) {
   EXPECT_EQ(ten.Json()[QLatin1String("values")].toArray()[0].toDouble(), 5.0);
 }
 
-TEST_F(CommandLine, ConvertsOneFileOrAThousand) {
+TEST_F(CommandLine, ConvertsOneFileOrMany) {
   QByteArray text = "VEXA-KT 440-840 Ver 3.21 Data File\r\nwave,a,,,,,,,,,\r\n";
   for (int nm = 440; nm <= 840; ++nm) {
     text += " " + QByteArray::number(nm) + ",1.250000000000000" +
             QByteArray(",0.000000000000000").repeated(9) + "\r\n";
   }
   QStringList all{QStringLiteral("convert")};
-  for (int i = 0; i < 1000; ++i) {
+  for (int i = 0; i < 100; ++i) {
     QFile file(File(qPrintable(QStringLiteral("in%1.csv").arg(i))));
     ASSERT_TRUE(file.open(QIODevice::WriteOnly));
     file.write(text);
@@ -160,8 +160,8 @@ TEST_F(CommandLine, ConvertsOneFileOrAThousand) {
   const QString output = directory.filePath(QStringLiteral("出力"));
   const Outcome many = RunCli(all + QStringList{output, QStringLiteral("--json")});
   EXPECT_EQ(many.status, 0) << many.err.constData();
-  EXPECT_EQ(many.Json()[QLatin1String("written")].toInt(), 1000);
-  QFile last(output + QStringLiteral("/in999.csv"));
+  EXPECT_EQ(many.Json()[QLatin1String("written")].toInt(), 100);
+  QFile last(output + QStringLiteral("/in99.csv"));
   ASSERT_TRUE(last.open(QIODevice::ReadOnly));
   EXPECT_EQ(last.readAll().toStdString(), text.toStdString());
 

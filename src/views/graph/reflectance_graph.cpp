@@ -16,6 +16,7 @@ constexpr double kHeadroom = 1.05;
 constexpr double kZoomStep = 0.8;
 constexpr double kMoveStep = 0.1;
 constexpr double kSelectedWidth = 2.4;
+constexpr double kMostTicks = 100.0;
 constexpr int kLegendColumns = 5;
 constexpr int kMarkerSpacingNm = 40;
 // Limits further above the curves than this would press them flat.
@@ -30,6 +31,18 @@ double RoundedUp(double value) {
     }
   }
   return 10.0 * decade;
+}
+
+// Ticks at the interval, or, with 0 and where there would be too many of them, at round numbers.
+void SetTicks(QCPAxis& axis, double interval) {
+  if (interval <= 0.0 || axis.range().size() / interval > kMostTicks) {
+    axis.setTicker(QSharedPointer<QCPAxisTicker>::create());
+    return;
+  }
+  auto ticker = QSharedPointer<QCPAxisTickerFixed>::create();
+  ticker->setTickStep(interval);
+  ticker->setScaleStrategy(QCPAxisTickerFixed::ssNone);
+  axis.setTicker(ticker);
 }
 
 QString LegendText(int slot, const QString& sampleNumber) {
@@ -62,11 +75,11 @@ ReflectanceGraph::ReflectanceGraph(QWidget* parent) : QCustomPlot(parent) {
   band_ = std::make_unique<BandDrawing>(*this);
   PlaceLegendAbove(*this, kLegendColumns);
 
-  const auto leaveFullView = [this] { fullView_ = false; };
+  const auto leaveFullView = [this] { LeaveFullView(); };
   connect(this, &QCustomPlot::mouseWheel, this, leaveFullView);
   connect(this, &QCustomPlot::mouseMove, this, [this](const QMouseEvent* event) {
     if (event->buttons() & Qt::LeftButton) {
-      fullView_ = false;
+      LeaveFullView();
     }
   });
   connect(this, &QCustomPlot::mouseDoubleClick, this, [this] {
@@ -80,6 +93,7 @@ ReflectanceGraph::ReflectanceGraph(QWidget* parent) : QCustomPlot(parent) {
 ReflectanceGraph::~ReflectanceGraph() = default;
 
 void ReflectanceGraph::Show(const VEXATYPE& state, int selectedSlot) {
+  display_ = state.display;
   legend->clearItems();
   for (int number = 1; number <= kSlotCount; ++number) {
     const MeasurementSlot& slot = *state.Slot(number);
@@ -120,9 +134,15 @@ void ReflectanceGraph::ShowBand(const std::vector<std::vector<BandPoint>>& band)
 
 void ReflectanceGraph::ShowFullView() {
   fullView_ = true;
-  xAxis->setRange(ReflectanceSpectrum::kFirstNm, ReflectanceSpectrum::kLastNm);
-  const double largest = LargestReflectance();
-  yAxis->setRange(0.0, largest > 0.0 ? RoundedUp(largest * kHeadroom) : kEmptyMaximumPercent);
+  xAxis->setRange(display_.shortestNm, display_.longestNm);
+  SetTicks(*xAxis, display_.wavelengthTickNm);
+  if (display_.autoScale) {
+    const double largest = LargestReflectance();
+    yAxis->setRange(0.0, largest > 0.0 ? RoundedUp(largest * kHeadroom) : kEmptyMaximumPercent);
+  } else {
+    yAxis->setRange(display_.minimumPercent, display_.maximumPercent);
+  }
+  SetTicks(*yAxis, display_.autoTicks ? 0.0 : display_.tickPercent);
 }
 
 void ReflectanceGraph::keyPressEvent(QKeyEvent* event) {
@@ -153,15 +173,24 @@ void ReflectanceGraph::keyPressEvent(QKeyEvent* event) {
   QCustomPlot::keyPressEvent(event);
 }
 
+// A changed view has round ticks of its own, whatever the settings say.
+void ReflectanceGraph::LeaveFullView() {
+  if (fullView_) {
+    fullView_ = false;
+    SetTicks(*xAxis, 0.0);
+    SetTicks(*yAxis, 0.0);
+  }
+}
+
 void ReflectanceGraph::Zoom(double factor) {
-  fullView_ = false;
+  LeaveFullView();
   xAxis->scaleRange(factor);
   yAxis->scaleRange(factor);
   replot(rpQueuedReplot);
 }
 
 void ReflectanceGraph::Move(double wavelengthPart, double reflectancePart) {
-  fullView_ = false;
+  LeaveFullView();
   xAxis->moveRange(wavelengthPart * xAxis->range().size());
   yAxis->moveRange(reflectancePart * yAxis->range().size());
   replot(rpQueuedReplot);

@@ -43,12 +43,14 @@ class ReflectanceGraph : public QCustomPlot {
   void keyPressEvent(QKeyEvent* event) override;
 
  private:
+  void LeaveFullView();
   void Zoom(double factor);
   void Move(double wavelengthPart, double reflectancePart);
   [[nodiscard]] double LargestReflectance() const;
 
   std::array<QCPGraph*, kSlotCount> lines_{};
   std::unique_ptr<BandDrawing> band_;
+  DisplaySettings display_;
   bool fullView_ = true;
 };
 

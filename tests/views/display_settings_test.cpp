@@ -1,0 +1,84 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include <gtest/gtest.h>
+
+#include <QCheckBox>
+#include <QPushButton>
+#include <QRadioButton>
+
+#include "support/prepared_answers.h"
+#include "views/settings/dispset.h"
+
+namespace vexa {
+namespace {
+
+struct Case {
+  std::vector<std::pair<const char*, const char*>> typed;
+  const char* message;  ///< null when accepted
+};
+
+TEST(DisplaySettings, EntriesAreCheckedInTheirOrder) {
+  const char* const kWidth = "波長表示の幅が範囲を越えています。 (20 ≦ 設定値 ≦ 401)";
+  const char* const kMaximum = "反射率の最大値の設定範囲を越えています。 (0.01 ≦ 設定値 ≦ 100)";
+  const Case cases[] = {
+      {{{"Shortest", "439"}}, "波長表示の最短波長値が設定範囲外です。 (440<= 設定値 <=840)"},
+      {{{"Shortest", "500"}, {"Longest", "499"}},
+       "波長表示の最長波長値が設定範囲外です。 (500<= 設定値 <=840)"},
+      {{{"Shortest", "440"}, {"Longest", "459"}, {"WavelengthTick", "-"}}, kWidth},
+      {{{"WavelengthTick", "4.9"}},
+       "波長の目盛り間隔が設定範囲を越えています。 (5 ≦ 設定値 ≦ 1000)"},
+      {{{"Minimum", "-1"}, {"Maximum", "0"}},
+       "反射率の最小値の設定範囲を越えています。 (0 ≦ 設定値 ≦ 100)"},
+      {{{"Maximum", "0.009"}}, kMaximum},
+      {{{"Minimum", "5"}, {"Maximum", "5"}}, kMaximum},
+      {{{"Minimum", "0"}, {"Maximum", "10"}, {"Tick", "0.09"}},
+       "反射率の目盛り間隔が設定範囲を越えています。 (最大目盛り本数 100)"},
+      {{{"TextStep", "101"}}, "ﾃｷｽﾄ表示の表示ｽﾃｯﾌﾟが設定範囲を越えています。 (1 ≦ 設定値 ≦ 100)"},
+      {{{"TextStep", ""}}, "ﾃｷｽﾄ表示ｽﾃｯﾌﾟが設定範囲を越えています。 (1≦ 設定値 ≦ 100)"},
+      {{{"AverageShortest", "841"}},
+       "平均反射率の最短波長値が設定範囲外です。 (440<= 設定値 <=840)"},
+      {{{"AverageLongest", "-"}}, "平均反射率の最長波長値が設定範囲外です。 (440<= 設定値 <=840)"},
+      {{{"AverageShortest", "600"}, {"AverageLongest", "599"}},
+       "平均反射率の幅が範囲を越えています。 (1 ≦ 設定値 ≦ 401)"},
+      {{{"Shortest", "440"}, {"Longest", "460"}, {"Maximum", "0.01"}, {"Tick", "0.0001"}}, nullptr},
+  };
+  for (const Case& c : cases) {
+    VEXATYPE state;
+    test::PreparedAnswers messages;
+    dispset window(state, messages);
+    for (const char* flag : {"FullScale", "AutoScale", "AutoTicks"}) {
+      window.findChild<QCheckBox*>(QLatin1String(flag))->setChecked(false);
+    }
+    for (const auto& [field, text] : c.typed) {
+      window.findChild<QLineEdit*>(QLatin1String(field))->setText(QLatin1String(text));
+    }
+    window.show();
+    window.findChild<QPushButton*>(QStringLiteral("OK"))->click();
+    EXPECT_EQ(window.isVisible(), c.message != nullptr);
+    const auto shown = messages.Take();
+    ASSERT_EQ(shown.size(), c.message == nullptr ? 0U : 1U) << c.typed.front().first;
+    if (c.message != nullptr) {
+      EXPECT_EQ(shown[0].text, std::string("設定入力: ") + c.message);
+      EXPECT_EQ(state.display.maximumPercent, 4.0) << "nothing is stored";
+    }
+  }
+}
+
+TEST(DisplaySettings, ChangedConditionsOfferToClearTheStock) {
+  for (const MessageResult answer : {MessageResult::kYes, MessageResult::kNo}) {
+    VEXATYPE state;
+    (void)state.stock.StockAdd({}, true);
+    test::PreparedAnswers messages;
+    messages.answers = {answer};
+    dispset window(state, messages);
+    window.findChild<QRadioButton*>(QStringLiteral("Illuminant3"))->click();
+    window.findChild<QLineEdit*>(QStringLiteral("Shortest"))->setText(QStringLiteral("500"));
+    window.findChild<QPushButton*>(QStringLiteral("OK"))->click();
+    EXPECT_EQ(messages.Take().at(0).type, 36);
+    EXPECT_EQ(state.stock.Count, answer == MessageResult::kYes ? 0 : 1);
+    EXPECT_EQ(state.colour.illuminant, 4);
+    EXPECT_EQ(state.display.shortestNm, 440.0) << "full scale stands above what was typed";
+  }
+}
+
+}  // namespace
+}  // namespace vexa
