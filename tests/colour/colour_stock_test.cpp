@@ -66,24 +66,6 @@ TEST(ColourStock, TakesAHundredPointsAndNoMore) {
   EXPECT_EQ(stock, ColourStock{});
 }
 
-TEST(ColourStock, ConditionsDifferOnlyWhenThereArePoints) {
-  const StockConditions same{true, 4, false};
-  const StockConditions others[] = {{false, 4, false}, {true, 3, false}, {true, 4, true}};
-  ColourStock stock;
-  stock.Record(same);
-  for (const StockConditions& other : others) {
-    EXPECT_FALSE(stock.DiffersFrom(other));
-  }
-  (void)stock.StockAdd(kColour, true);
-  EXPECT_FALSE(stock.DiffersFrom(same));
-  for (const StockConditions& other : others) {
-    EXPECT_TRUE(stock.DiffersFrom(other));
-    stock.Record(other);
-    EXPECT_FALSE(stock.DiffersFrom(other));
-    stock.Record(same);
-  }
-}
-
 const QByteArray kGolden =
     "VEXA-KT 440-840 Ver3.21 Stock File\r\n"
     "False\r\n"

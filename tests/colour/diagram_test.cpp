@@ -70,30 +70,5 @@ TEST(DiagramBackground, RedAndGreenRoundOtherwiseThanBlue) {
   }
 }
 
-// Chromaticities of the spectrum as published in CIE 15:2004, Tables T.4 and T.5 (five decimals).
-// Those of 10 degrees were taken from functions of more digits than the six of the tables; at the
-// ends, where the functions are small, that moves them by up to 0.0004.
-TEST(SpectralLocus, PublishedChromaticities) {
-  struct Case {
-    std::size_t index;
-    int nm;
-    bool twoDegrees;
-    double x;
-    double y;
-  };
-  const Case cases[] = {
-      {0, 380, true, 0.17411, 0.00496},   {28, 520, true, 0.07430, 0.83380},
-      {64, 700, true, 0.73469, 0.26531},  {0, 380, false, 0.18133, 0.01969},
-      {64, 700, false, 0.72023, 0.27977},
-  };
-  for (const Case& c : cases) {
-    const std::vector<LocusPoint> locus = SpectralLocus(c.twoDegrees);
-    ASSERT_EQ(locus.size(), 65U);
-    EXPECT_EQ(locus[c.index].nm, c.nm);
-    EXPECT_NEAR(locus[c.index].at.x, c.x, c.twoDegrees ? 5e-5 : 5e-4) << c.nm;
-    EXPECT_NEAR(locus[c.index].at.y, c.y, c.twoDegrees ? 5e-5 : 5e-4) << c.nm;
-  }
-}
-
 }  // namespace
 }  // namespace vexa

@@ -39,21 +39,6 @@ TEST_F(StageTest, UnattendedShowsAllInTurnAndTheReferenceAfterABackground) {
             u"glass mgf2 ar4 hardcoat1.5 hardcoat4 mirror glass mgf2 reference glass"_s);
 }
 
-TEST_F(StageTest, FixedStaysUntilToldOtherwise) {
-  Stage stage = Make(Sample::Mirror);
-  stage.Reach(kDark);
-  stage.Reach(kSent);
-  EXPECT_EQ(stage.Current(), Sample::Mirror);
-  stage.Next();
-  stage.Reach(kSent);
-  EXPECT_EQ(stage.Current(), Sample::Glass);
-  stage.LeaveUnattended();
-  stage.Reach(kSent);
-  stage.Fix(Sample::Ar4);
-  stage.Reach(kDark);
-  EXPECT_EQ(seen_.join(u' '), u"glass mgf2 ar4"_s);
-}
-
 QString Meaning(QStringView line) {
   const auto command = ParseConsoleLine(line);
   if (!command) {

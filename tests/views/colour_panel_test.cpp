@@ -145,27 +145,5 @@ TEST_F(Panel, ClearTakesTheLastPointAway) {
   EXPECT_EQ(state.stock.P1[0], 0.0);
 }
 
-TEST_F(Panel, DiagramHasTheValidSlotsWithTheSelectedOneOnTop) {
-  for (const int slot : {2, 5, 9}) {
-    state.Slot(slot)->valid = true;
-    state.Slot(slot)->colour = {.a = 10.0 * slot, .b = 1.0, .x = 0.01 * slot, .y = 0.3};
-  }
-  const auto& marks = panel.findChild<ChromaticityDiagram*>()->Marks();
-  const auto shown = [&marks] {
-    std::vector<std::pair<int, QPointF>> result;
-    for (const SlotMark& mark : marks.Slots()) {
-      result.emplace_back(mark.slot, mark.at);
-    }
-    return result;
-  };
-  panel.Show(5);
-  EXPECT_EQ(shown(), (std::vector<std::pair<int, QPointF>>{
-                         {2, {0.02, 0.3}}, {9, {0.09, 0.3}}, {5, {0.05, 0.3}}}));
-  state.display.xyMode = false;
-  panel.Show(1);
-  EXPECT_EQ(shown(), (std::vector<std::pair<int, QPointF>>{
-                         {2, {20.0, 1.0}}, {5, {50.0, 1.0}}, {9, {90.0, 1.0}}}));
-}
-
 }  // namespace
 }  // namespace vexa

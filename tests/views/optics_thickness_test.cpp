@@ -85,22 +85,6 @@ TEST_F(Thickness, WithoutAResultThereIsAMessage) {
   EXPECT_EQ(computed, 0);
 }
 
-TEST_F(Thickness, AnIndexDerivedForAnotherSlotIsNotShown) {
-  state.thickness.enabled = true;
-  state.thickness.coat.kind = DispersionKind::kSubstrate;
-  std::ranges::fill(state.substrateIndex.Values(), 1.5);
-  Fill(1, 2400.0);
-  Fill(2, 3200.0);
-  for (const int slot : {1, 2}) {
-    panel.Show(slot);
-    Press();
-    EXPECT_NE(Text("Index1"), "-");
-  }
-  panel.Show(1);
-  EXPECT_NE(Text("Wavelength1"), "-");
-  EXPECT_EQ(Text("Index1"), "-");
-}
-
 TEST_F(Thickness, AutomaticMeasurementIsAChoice) {
   auto* automatic = panel.findChild<QCheckBox*>(QStringLiteral("AutoMesThickChk"));
   automatic->click();

@@ -55,21 +55,6 @@ TEST_F(GraphWithBand, DrawsTheLimitsWithoutTouchingTheLegend) {
   EXPECT_TRUE(IsPaper());
 }
 
-TEST_F(GraphWithBand, LimitsBelongToTheFullViewUnlessTheyPressTheCurves) {
-  struct Case {
-    double upper;
-    bool slot;
-    double maximum;
-  };
-  const Case cases[] = {{0.7, true, 1.5}, {2.0, true, 2.5}, {100.0, true, 1.5}, {1.0, false, 1.5}};
-  for (const Case& c : cases) {
-    state.Slot(1)->valid = c.slot;
-    graph.Show(state, 1);
-    graph.ShowBand(ReflectanceBand(Band(c.upper)));
-    EXPECT_DOUBLE_EQ(graph.yAxis->range().upper, c.maximum) << c.upper;
-  }
-}
-
 TEST_F(GraphWithBand, AnyStandardCanBeDrawn) {
   for (const std::int16_t nm : {std::int16_t{550}, std::int16_t{900}, std::int16_t{-32768}}) {
     StandardSet standard = Band(1e308);
