@@ -237,7 +237,7 @@ TEST_F(StandardsWindow, UnreadableFilesAreToldAndLeaveTheFields) {
       {"cut.std", unreadable + Path("cut.std").toStdString()},
       {"missing.std", unreadable + Path("missing.std").toStdString()},
       {"€.std",
-       "VEXA-KT ｴﾗｰ: ﾌｧｲﾙ名に使用できない文字が含まれています。\r\r" + Path("€.std").toStdString()},
+       "VEXA-KT ｴﾗｰ: ﾌｧｲﾙ名に、設定ﾌｧｲﾙに保存できない文字が含まれています。\r\r" + Path("€.std").toStdString()},
   };
   for (const auto& [name, message] : cases) {
     dialogs.open = Path(name);

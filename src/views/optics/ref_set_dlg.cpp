@@ -5,7 +5,6 @@
 #include <QPushButton>
 #include <QVBoxLayout>
 
-#include "base/code_page.h"
 #include "measurement/dispersion_data.h"
 #include "optics/bunsan.h"
 #include "optics/index_file.h"
@@ -240,7 +239,7 @@ bool RefSetDlg::TakeNumbers(DispersionSetting& setting) {
 void RefSetDlg::LoadIndexFile() {
   const ModeTexts& texts = Texts(mode_);
   const std::optional<QString> path = dialogs_.AskOpen(texts.caption, texts.fileFilter);
-  if (!path || !MayUseName(*path)) {
+  if (!path || !MayKeepName(*path, messages_)) {
     return;
   }
   ReflectanceSpectrum values;
@@ -254,7 +253,7 @@ void RefSetDlg::LoadIndexFile() {
 void RefSetDlg::LoadSubstrateFile() {
   const std::optional<QString> path =
       dialogs_.AskOpen(Texts(mode_).caption, QStringLiteral("ﾃﾞｰﾀ･ﾌｧｲﾙ(*.csv,*.dat)|*.csv;*.dat|"));
-  if (!path || !MayUseName(*path)) {
+  if (!path || !MayKeepName(*path, messages_)) {
     return;
   }
   ReflectanceSpectrum reflectance;
@@ -264,16 +263,6 @@ void RefSetDlg::LoadSubstrateFile() {
     messages_.MsgCall(QStringLiteral("屈折率ﾌｧｲﾙの読み込みに失敗しました。"), kOk + kStopIcon,
                       message_title::kError);
   }
-}
-
-// The name goes into the environment file.
-bool RefSetDlg::MayUseName(const QString& path) {
-  const bool usable = IsEncodable(path);
-  if (!usable) {
-    messages_.MsgCall(QStringLiteral("ﾌｧｲﾙ名に使用できない文字があります。\r\r") + path,
-                      kOk + kStopIcon, message_title::kError);
-  }
-  return usable;
 }
 
 void RefSetDlg::Save() {

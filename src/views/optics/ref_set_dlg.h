@@ -49,7 +49,6 @@ class RefSetDlg : public QDialog {
   [[nodiscard]] bool TakeNumbers(DispersionSetting& setting);
   void LoadIndexFile();
   void LoadSubstrateFile();
-  [[nodiscard]] bool MayUseName(const QString& path);
   void Save();
 
   Mode mode_;

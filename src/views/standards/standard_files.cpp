@@ -1,9 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "views/standards/standard_files.h"
 
-#include "base/code_page.h"
 #include "standards/standard_file.h"
-#include "views/files/data_file_commands.h"
+#include "views/files/file_questions.h"
 
 namespace vexa {
 
@@ -29,16 +28,6 @@ class NotedMessages : public MessageService {
   bool noted_ = false;
 };
 
-// The path goes into the environment file, in the program's code page.
-bool CanKeepName(const QString& path, MessageService& messages) {
-  if (IsEncodable(path)) {
-    return true;
-  }
-  messages.MsgCall(QStringLiteral("ﾌｧｲﾙ名に使用できない文字が含まれています。\r\r") + path,
-                   kOk + kStopIcon, message_title::kError);
-  return false;
-}
-
 }  // namespace
 
 StandardContents ContentsOf(const VEXATYPE& state) {
@@ -48,7 +37,7 @@ StandardContents ContentsOf(const VEXATYPE& state) {
 std::optional<StandardFile> LoadStandardFile(MessageService& messages, FileDialogs& dialogs) {
   const std::optional<QString> path = dialogs.AskOpen(
       QStringLiteral("規格ﾌｧｲﾙを開く"), QStringLiteral("Standard Files (*.std)|*.std"));
-  if (!path || !CanKeepName(*path, messages)) {
+  if (!path || !MayKeepName(*path, messages)) {
     return std::nullopt;
   }
   StandardFile file{*path, {}};
@@ -73,7 +62,7 @@ std::optional<QString> SaveStandardFile(const StandardContents& contents, const 
     return std::nullopt;
   }
   const QString path = WithDefaultExtension(choice->path, QStringLiteral(".std"));
-  if (!CanKeepName(path, messages) || !MayReplace(path, messages)) {
+  if (!MayKeepName(path, messages) || !MayReplace(path, messages)) {
     return std::nullopt;
   }
   if (!WriteStandardFile(path, contents.standard, contents.chromaMarker, contents.hueMarker)) {
