@@ -23,6 +23,7 @@
 #include "views/files/data_file_commands.h"
 #include "views/files/environment_commands.h"
 #include "views/graph/reflectance_graph.h"
+#include "views/optics/jamp_wave.h"
 #include "views/optics/ref_set_dlg.h"
 #include "views/optics/thick_graph.h"
 #include "views/optics/thickness_panel.h"
@@ -151,6 +152,13 @@ void VEXA::ConnectCommands() {
 }
 
 void VEXA::ConnectSequence() {
+  connect(graph_, &ReflectanceGraph::JumpRequested, this, [this] {
+    JampWave jump(state_, this);
+    jump.exec();
+    if (jump.Outcome() == QLatin1String("OK") && jump.Wavelength()) {
+      graph_->MoveCursor(*jump.Wavelength());
+    }
+  });
   connect(bar_, &MeasurementBar::BackgroundRequested, &sequence_,
           &MeasurementSequence::MeasureBackground);
   connect(bar_, &MeasurementBar::ReferenceRequested, &sequence_,

@@ -16,9 +16,12 @@
 #include "files/environment_file.h"
 #include "instrument/frm_com_h8_ctrl.h"
 #include "instrument/serial_port_path.h"
+#include "standards/standard_file.h"
 #include "support/prepared_answers.h"
 #include "support/prepared_files.h"
 #include "support/scripted_peer.h"
+#include "support/temporary_files.h"
+#include "views/graph/reflectance_graph.h"
 
 namespace vexa {
 namespace {
@@ -396,6 +399,43 @@ TEST_F(MainWindow, SampleInformationIsTakenOverAsTyped) {
     EXPECT_EQ(messages.Take().size(), 1U) << field;
     EXPECT_EQ(window.State().Slot(5)->info.sampleNumber, QString());
   }
+}
+
+TEST_F(MainWindow, CursorFollowsClickKeysAndJump) {
+  MeasureThrough(1);
+  auto* graph = window.findChild<ReflectanceGraph*>();
+  QTest::mouseClick(graph, Qt::LeftButton, {}, graph->axisRect()->rect().center());
+  EXPECT_NEAR(graph->CursorNm(), 640, 1);
+  const int before = graph->CursorNm();
+  QTest::keyClick(graph, Qt::Key_Right);
+  EXPECT_EQ(graph->CursorNm(), before + 1);
+  for (const auto& [typed, nm] : {std::pair{"700", 700}, {"9999", 840}, {"1", 440}}) {
+    InDialog(graph->actions().constFirst(), [text = typed](QWidget& dialog) {
+      QTest::keyClicks(dialog.findChild<QLineEdit*>(), QLatin1String(text));
+      Click(dialog, "OK");
+    });
+    EXPECT_EQ(graph->CursorNm(), nm);
+  }
+}
+
+TEST_F(MainWindow, VerdictsStandInTheStatusBar) {
+  test::TemporaryFiles standards;
+  StandardSet set;
+  set.averageReflectance = {true, 100.0, 0.0};
+  set.luminousReflectance = {true, 0.5, 0.0};
+  VEXATYPE state;
+  state.standardFileName = standards.Path("規格.std");
+  ASSERT_TRUE(WriteStandardFile(state.standardFileName, set, {}, {}));
+  ASSERT_TRUE(WriteEnvFile(standards.Path("a.env"), state));
+  MeasureThrough(1);
+  files.open = standards.Path("a.env");
+  window.Commands().openEnvironment->trigger();
+  const auto panel = [this](int number) {
+    return window.findChild<QLabel*>(QStringLiteral("StatusPanel%1").arg(number))->text();
+  };
+  EXPECT_EQ(panel(2), QString());
+  EXPECT_EQ(panel(3), QStringLiteral("平均反射率:OK"));
+  EXPECT_EQ(panel(4), QStringLiteral("視感反射率:NG"));
 }
 
 TEST_F(MainWindow, OpensDataFilesAndEnvironments) {

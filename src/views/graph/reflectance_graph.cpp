@@ -7,6 +7,7 @@
 #include "views/common/plot_style.h"
 #include "views/common/slot_style.h"
 #include "views/graph/band_drawing.h"
+#include "views/graph/wavelength_cursor.h"
 
 namespace vexa {
 namespace {
@@ -18,6 +19,7 @@ constexpr double kMoveStep = 0.1;
 constexpr double kSelectedWidth = 2.4;
 constexpr double kMostTicks = 100.0;
 constexpr int kLegendColumns = 5;
+constexpr int kClickDistance = 4;
 constexpr int kMarkerSpacingNm = 40;
 // Limits further above the curves than this would press them flat.
 constexpr double kFarLimit = 3.0;
@@ -73,12 +75,30 @@ ReflectanceGraph::ReflectanceGraph(QWidget* parent) : QCustomPlot(parent) {
     lines_[static_cast<std::size_t>(slot - 1)] = line;
   }
   band_ = std::make_unique<BandDrawing>(*this);
+  cursor_ = std::make_unique<WavelengthCursor>(*this);
   PlaceLegendAbove(*this, kLegendColumns);
+
+  auto* jump = new QAction(QStringLiteral("ｼﾞｬﾝﾌﾟ"), this);
+  jump->setShortcut(Qt::Key_J);
+  jump->setShortcutContext(Qt::WidgetShortcut);
+  addAction(jump);
+  setContextMenuPolicy(Qt::ActionsContextMenu);
+  connect(jump, &QAction::triggered, this, &ReflectanceGraph::JumpRequested);
+  // A click moves the cursor, a drag the view.
+  connect(this, &QCustomPlot::mousePress, this,
+          [this](const QMouseEvent* event) { pressedAt_ = event->pos(); });
+  connect(this, &QCustomPlot::mouseRelease, this, [this](const QMouseEvent* event) {
+    const bool click = (event->pos() - pressedAt_).manhattanLength() < kClickDistance;
+    if (click && event->button() == Qt::LeftButton && axisRect()->rect().contains(event->pos())) {
+      MoveCursor(static_cast<int>(std::lround(xAxis->pixelToCoord(event->pos().x()))));
+    }
+  });
 
   const auto leaveFullView = [this] { LeaveFullView(); };
   connect(this, &QCustomPlot::mouseWheel, this, leaveFullView);
   connect(this, &QCustomPlot::mouseMove, this, [this](const QMouseEvent* event) {
-    if (event->buttons() & Qt::LeftButton) {
+    const bool dragged = (event->pos() - pressedAt_).manhattanLength() >= kClickDistance;
+    if ((event->buttons() & Qt::LeftButton) && dragged) {
       LeaveFullView();
     }
   });
@@ -94,6 +114,7 @@ ReflectanceGraph::~ReflectanceGraph() = default;
 
 void ReflectanceGraph::Show(const VEXATYPE& state, int selectedSlot) {
   display_ = state.display;
+  cursor_->Show(state);
   legend->clearItems();
   for (int number = 1; number <= kSlotCount; ++number) {
     const MeasurementSlot& slot = *state.Slot(number);
@@ -132,6 +153,15 @@ void ReflectanceGraph::ShowBand(const std::vector<std::vector<BandPoint>>& band)
   replot(rpQueuedReplot);
 }
 
+void ReflectanceGraph::MoveCursor(int nm) {
+  cursor_->MoveTo(nm);
+  replot(rpQueuedReplot);
+}
+
+int ReflectanceGraph::CursorNm() const {
+  return cursor_->Position();
+}
+
 void ReflectanceGraph::ShowFullView() {
   fullView_ = true;
   xAxis->setRange(display_.shortestNm, display_.longestNm);
@@ -160,7 +190,7 @@ void ReflectanceGraph::keyPressEvent(QKeyEvent* event) {
       if (control) {
         return Move(event->key() == Qt::Key_Left ? -kMoveStep : kMoveStep, 0.0);
       }
-      break;
+      return MoveCursor(CursorNm() + (event->key() == Qt::Key_Left ? -1 : 1));
     case Qt::Key_Up:
     case Qt::Key_Down:
       if (control) {

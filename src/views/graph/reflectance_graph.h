@@ -13,11 +13,13 @@
 namespace vexa {
 
 class BandDrawing;
+class WavelengthCursor;
 
 /// The reflectance of all valid slots over the wavelength, each slot with its own line and an entry
-/// in the legend. Wheel and drag zoom and move, a double click (or Home) goes back to the full
-/// view,
-/// "+" and "-" zoom, and Ctrl with an arrow key moves. A changed view stays until it is left.
+/// in the legend, and a cursor with the values of all slots. Wheel and drag zoom and move, a double
+/// click (or Home) goes back to the full view; the keys "+" and "-" zoom, Ctrl with an arrow moves.
+/// A changed view stays until it is left. A click, Left and Right move the cursor; "J" or the
+/// context menu asks for a jump.
 class ReflectanceGraph : public QCustomPlot {
   Q_OBJECT
 
@@ -35,7 +37,13 @@ class ReflectanceGraph : public QCustomPlot {
   /// and above the limits unless these are far above the curves.
   void ShowFullView();
 
+  /// Moves the cursor to a whole nanometre, limited to 440..840.
+  void MoveCursor(int nm);
+  [[nodiscard]] int CursorNm() const;
+
  signals:
+  /// The user wants to enter the wavelength of the cursor.
+  void JumpRequested();
   /// The graph was drawn with the data of the last Show.
   void Drawn();
 
@@ -50,6 +58,8 @@ class ReflectanceGraph : public QCustomPlot {
 
   std::array<QCPGraph*, kSlotCount> lines_{};
   std::unique_ptr<BandDrawing> band_;
+  std::unique_ptr<WavelengthCursor> cursor_;
+  QPoint pressedAt_;
   DisplaySettings display_;
   bool fullView_ = true;
 };
