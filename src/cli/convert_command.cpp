@@ -23,11 +23,6 @@ void DeclareOptions(QCommandLineParser& parser) {
                     QStringLiteral("1|2|3")});
 }
 
-DataFileLayout LayoutByEnding(const QString& path) {
-  return path.endsWith(QLatin1String("dat"), Qt::CaseInsensitive) ? DataFileLayout::kTenBlocks
-                                                                  : DataFileLayout::kCsv;
-}
-
 bool ConvertFile(const QString& in, const QString& out, DataFileLayout layout,
                  MessageService& messages) {
   VEXATYPE state;

@@ -194,7 +194,7 @@ int Measure(const QCommandLineParser& parser) {
   }
   bool saved = true;
   if (state.HasValidSlot()) {
-    saved = WriteDataFile(plan->out, DataFileLayout::kCsv, state);
+    saved = WriteDataFile(plan->out, LayoutByEnding(plan->out), state);
     if (saved) {
       report.file = plan->out;
     } else {

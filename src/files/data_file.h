@@ -15,6 +15,9 @@ enum class DataFileLayout {
   kFiveBlocks = 3,  ///< the same for the first five slots
 };
 
+/// The layout of a file name: ten blocks when it ends in "dat" (in any case), else comma-separated.
+[[nodiscard]] DataFileLayout LayoutByEnding(const QString& path);
+
 /// Writes the slots of the layout, valid or not, as a data file in the program's code page with CR
 /// LF line ends. The file is replaced whole or, when anything fails, left as it was; true when
 /// written.

@@ -69,8 +69,8 @@ void ClearSpectra(VEXATYPE& state, int lastSlot) {
 }  // namespace
 
 bool ReadDataFile(const QString& path, VEXATYPE& state, MessageService& messages) {
-  return path.right(3).toLower() == QLatin1String("dat") ? ReadDatDataFile(path, state, messages)
-                                                         : ReadCsvDataFile(path, state, messages);
+  return LayoutByEnding(path) == DataFileLayout::kCsv ? ReadCsvDataFile(path, state, messages)
+                                                      : ReadDatDataFile(path, state, messages);
 }
 
 bool ReadCsvDataFile(const QString& path, VEXATYPE& state, MessageService& messages) {

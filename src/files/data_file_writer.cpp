@@ -64,6 +64,11 @@ FileText LayoutText(const VEXATYPE& state, DataFileLayout layout) {
 
 }  // namespace
 
+DataFileLayout LayoutByEnding(const QString& path) {
+  return path.endsWith(QLatin1String("dat"), Qt::CaseInsensitive) ? DataFileLayout::kTenBlocks
+                                                                  : DataFileLayout::kCsv;
+}
+
 bool WriteDataFile(const QString& path, DataFileLayout layout, const VEXATYPE& state) {
   return LayoutText(state, layout).WriteTo(path);
 }
