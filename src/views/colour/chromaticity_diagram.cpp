@@ -176,7 +176,8 @@ void ChromaticityDiagram::ShowSlots(const VEXATYPE& state, int selectedSlot) {
            number == selectedSlot});
     }
   }
-  std::ranges::stable_partition(marks, [](const SlotMark& mark) { return !mark.selected; });
+  std::stable_partition(marks.begin(), marks.end(),
+                        [](const SlotMark& mark) { return !mark.selected; });
   marks_->SetSlots(std::move(marks));
   replot(rpQueuedReplot);
 }

@@ -35,7 +35,9 @@ QRectF Around(QPointF centre, double radius) {
 QRectF FreePlace(QPointF disc, const QRectF& area, const std::vector<QRectF>& taken) {
   constexpr int kDirections = 12;
   QRectF box(QPointF(), kBadge);
-  for (double radius = 17.0; radius < 90.0; radius += 9.0) {
+  constexpr int kCircles = 9;
+  for (int circle = 0; circle < kCircles; ++circle) {
+    const double radius = 17.0 + 9.0 * circle;
     for (int direction = 0; direction < kDirections; ++direction) {
       const double angle = (0.25 - 2.0 * direction / kDirections) * std::numbers::pi;
       box.moveCenter(disc + radius * QPointF(std::cos(angle), -std::sin(angle)));

@@ -102,8 +102,10 @@ void OriginalMsgFrm::ShowButtons(std::int16_t type) {
       first = first == nullptr ? button.widget : first;
     }
   }
-  first->setDefault(true);
-  first->setFocus();
+  if (first != nullptr) {
+    first->setDefault(true);
+    first->setFocus();
+  }
 }
 
 void OriginalMsgFrm::ShowIcon(std::int16_t type) {

@@ -126,8 +126,9 @@ bool AddinpFrm::eventFilter(QObject* watched, QEvent* event) {
         const auto& entries = rows_[static_cast<std::size_t>(row)];
         const auto at = std::ranges::find(entries, entry);
         if (at != entries.end() && row + by >= 0 && row + by < kSlotCount) {
-          rows_[static_cast<std::size_t>(row + by)][static_cast<std::size_t>(at - entries.begin())]
-              ->setFocus();
+          const auto column = static_cast<std::size_t>(at - entries.begin());
+          const int next = row + by;
+          rows_[static_cast<std::size_t>(next)][column]->setFocus();
           return true;
         }
       }

@@ -82,7 +82,8 @@ void PaintHistoryPage(QPainter& painter, const QRectF& page, const ThicknessHist
   top += 1.5 * kRowHeight;
   int point = 0;
   for (const double thicknessNm : history.Points()) {
-    const QRectF row(point / kRows * kColumnWidth, top + point % kRows * kRowHeight, kColumnWidth,
+    const int column = point / kRows;
+    const QRectF row(column * kColumnWidth, top + point % kRows * kRowHeight, kColumnWidth,
                      kRowHeight);
     ++point;
     DrawRow(painter, row, {QString::number(point), FormatNumber(thicknessNm, u"###0.0")},

@@ -80,7 +80,7 @@ void ThicknessPanel::Show(int selectedSlot) {
   thickness_->setText(computed ? FormatNumber(result.thicknessNm, u"###0.0") + u' ' +
                                      ThicknessUnit(state_.thickness.kind != ThicknessKind::kOptical)
                                : kNothing);
-  const bool indexKnown = computed && IndexIsOf(*slot);
+  const bool indexKnown = computed && slot != nullptr && IndexIsOf(*slot);
   ShowExtremum(lines_[0], result.first, indexKnown);
   ShowExtremum(lines_[1], result.second, indexKnown);
 }

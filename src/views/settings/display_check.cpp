@@ -76,7 +76,7 @@ std::optional<QString> CheckAverage(const DisplayEntries& entries) {
 
 std::optional<QString> CheckDisplayEntries(const DisplayEntries& entries) {
   if (!entries.fullScale) {
-    if (const auto fault = CheckWavelengths(entries)) {
+    if (auto fault = CheckWavelengths(entries)) {
       return fault;
     }
   }
@@ -84,7 +84,7 @@ std::optional<QString> CheckDisplayEntries(const DisplayEntries& entries) {
     return QStringLiteral("波長の目盛り間隔が設定範囲を越えています。 (5 ≦ 設定値 ≦ 1000)");
   }
   if (!entries.autoScale) {
-    if (const auto fault = CheckReflectance(entries)) {
+    if (auto fault = CheckReflectance(entries)) {
       return fault;
     }
   }
