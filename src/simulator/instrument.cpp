@@ -42,7 +42,7 @@ QString Instrument::PlugIn() {
   if (!terminal_.Open()) {
     return u"cannot make a pseudo-terminal: %1"_s.arg(QString::fromLocal8Bit(std::strerror(errno)));
   }
-  const QString failure = link_.Make(terminal_.DevicePath());
+  QString failure = link_.Make(terminal_.DevicePath());
   if (!failure.isEmpty()) {
     terminal_.Close();
     return failure;

@@ -236,8 +236,8 @@ TEST_F(StandardsWindow, UnreadableFilesAreToldAndLeaveTheFields) {
                       "\r\rVer1.10以前の規格ﾌｧｲﾙは読み込めません。"},
       {"cut.std", unreadable + Path("cut.std").toStdString()},
       {"missing.std", unreadable + Path("missing.std").toStdString()},
-      {"€.std",
-       "VEXA-KT ｴﾗｰ: ﾌｧｲﾙ名に、設定ﾌｧｲﾙに保存できない文字が含まれています。\r\r" + Path("€.std").toStdString()},
+      {"€.std", "VEXA-KT ｴﾗｰ: ﾌｧｲﾙ名に、設定ﾌｧｲﾙに保存できない文字が含まれています。\r\r" +
+                    Path("€.std").toStdString()},
   };
   for (const auto& [name, message] : cases) {
     dialogs.open = Path(name);
