@@ -5,6 +5,7 @@
 
 #include <QDir>
 #include <QFile>
+#include <QFileInfo>
 #include <array>
 #include <cerrno>
 #include <cstring>
@@ -25,11 +26,19 @@ QByteArray LinkTarget(const QByteArray& path) {
 
 PortLink::PortLink(const QString& directory, int port)
     : path_(QDir(directory).absoluteFilePath(u"com%1"_s.arg(port))),
-      encodedPath_(QFile::encodeName(path_)) {}
+      encodedPath_(QFile::encodeName(path_)),
+      lock_(path_ + u".lock"_s) {
+  lock_.setStaleLockTime(0);
+}
 
 QString PortLink::Make(const QByteArray& devicePath) {
+  const bool abandoned = !lock_.isLocked() && QFileInfo::exists(lock_.fileName());
+  if (!lock_.isLocked() && !lock_.tryLock(0) && lock_.error() == QLockFile::LockFailedError) {
+    return u"%1 exists and is in use"_s.arg(path_);
+  }
   const QByteArray target = LinkTarget(encodedPath_);
-  if (!target.isEmpty() && (target == devicePath || LeadsNowhere())) {
+  const bool abandonedLink = abandoned && target.startsWith("/dev/pts/");
+  if (!target.isEmpty() && (target == devicePath || abandonedLink || LeadsNowhere())) {
     ::unlink(encodedPath_.constData());
   }
   if (::symlink(devicePath.constData(), encodedPath_.constData()) != 0) {
@@ -46,6 +55,7 @@ void PortLink::Remove() {
     ::unlink(encodedPath_.constData());
   }
   devicePath_.clear();
+  lock_.unlock();
 }
 
 bool PortLink::LeadsNowhere() const {

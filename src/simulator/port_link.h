@@ -2,6 +2,7 @@
 #pragma once
 
 #include <QByteArray>
+#include <QLockFile>
 #include <QString>
 
 namespace vexa::simulator {
@@ -19,8 +20,9 @@ class PortLink {
   [[nodiscard]] QString Path() const { return path_; }
 
   /// Points the link at the device. A link to nothing (a pseudo-terminal goes from the file
-  /// system once nobody serves it) is replaced; anything else of that name stays. Gives back why it
-  /// failed, empty when it succeeded.
+  /// system once nobody serves it) is replaced, and one whose maker died without removing it, which
+  /// its lock file tells: the number of its pseudo-terminal may be somebody else's by now. Anything
+  /// else of that name stays. Gives back why it failed, empty when it succeeded.
   [[nodiscard]] QString Make(const QByteArray& devicePath);
 
   void Remove();
@@ -31,6 +33,7 @@ class PortLink {
   QString path_;
   QByteArray encodedPath_;
   QByteArray devicePath_;
+  QLockFile lock_;  ///< held as long as the link is served
 };
 
 }  // namespace vexa::simulator
