@@ -7,6 +7,7 @@
 #include <memory>
 
 #include "app/demonstration.h"
+#include "app/gallery.h"
 #include "app/vexa.h"
 #include "instrument/frm_com_h8_ctrl.h"
 #include "instrument/serial_port_path.h"
@@ -21,7 +22,7 @@ std::unique_ptr<vexa::Controller> MakeController(const vexa::VEXATYPE& state) {
   });
 }
 
-int RunDemonstration(const QString& directory) {
+int RunDemonstration(const QString& directory, const QString& pictures) {
   vexa::Demonstration demonstration(directory);
   if (!demonstration.StartInstrument()) {
     return 1;
@@ -31,7 +32,10 @@ int RunDemonstration(const QString& directory) {
                     QDir(directory).absolutePath());
   window.show();
   window.Load();
-  const int status = demonstration.Drive(window);
+  int status = demonstration.Drive(window);
+  if (!pictures.isEmpty() && vexa::Gallery(pictures).Take(window) != 0) {
+    status = 1;
+  }
   window.close();
   return status;
 }
@@ -67,6 +71,11 @@ int main(int argc, char* argv[]) {
                      "measurement.csv and window.png in DIR."),
       QStringLiteral("DIR"));
   parser.addOption(demo);
+  const QCommandLineOption pictures(
+      QStringLiteral("pictures"),
+      QStringLiteral("With --demo: leaves a picture of every window and view in DIR."),
+      QStringLiteral("DIR"));
+  parser.addOption(pictures);
   const bool parsed = parser.parse(QApplication::arguments());
   if (!parsed || !parser.positionalArguments().isEmpty()) {
     std::fprintf(stderr, "vexa: %s\n",
@@ -79,5 +88,6 @@ int main(int argc, char* argv[]) {
   if (parser.isSet(QStringLiteral("version"))) {
     parser.showVersion();
   }
-  return parser.isSet(demo) ? RunDemonstration(parser.value(demo)) : RunWindow();
+  return parser.isSet(demo) ? RunDemonstration(parser.value(demo), parser.value(pictures))
+                            : RunWindow();
 }

@@ -2,7 +2,6 @@
 #include "app/vexa.h"
 
 #include <QCloseEvent>
-#include <QFrame>
 #include <QHBoxLayout>
 #include <QVBoxLayout>
 #include <utility>
@@ -16,14 +15,12 @@
 #include "measurement/controller_start.h"
 #include "measurement/dispersion_data.h"
 #include "measurement/evaluation.h"
-#include "standards/reflectance_band.h"
 #include "views/colour/colour_difference_window.h"
 #include "views/colour/colour_panel.h"
 #include "views/files/addinp_frm.h"
 #include "views/files/data_file_commands.h"
 #include "views/files/environment_commands.h"
-#include "views/graph/reflectance_graph.h"
-#include "views/optics/jamp_wave.h"
+#include "views/graph/main_views.h"
 #include "views/optics/ref_set_dlg.h"
 #include "views/optics/thick_graph.h"
 #include "views/optics/thickness_panel.h"
@@ -82,21 +79,16 @@ void VEXA::BuildPanels() {
   setWindowTitle(QStringLiteral("MERIDOX VEXA-KT"));
   commands_ = BuildMenu(*menuBar());
   bar_ = new MeasurementBar;
-  graph_ = new ReflectanceGraph;
   progress_ = new ProgressStrip;
   colour_ = new ColourPanel(state_, services_.messages, services_.dialogs);
+  views_ = new MainViews(state_, services_.messages, services_.dialogs, colour_->Picture());
   thickness_ = new ThicknessPanel(state_, services_.messages);
   status_ = new StatusPanels;
   setStatusBar(status_);
 
-  auto* frame = new QFrame;
-  frame->setFrameShape(QFrame::StyledPanel);
-  auto* framed = new QVBoxLayout(frame);
-  framed->setContentsMargins(1, 1, 1, 1);
-  framed->addWidget(graph_);
   auto* middle = new QVBoxLayout;
   middle->setSpacing(4);
-  middle->addWidget(frame, 1);
+  middle->addWidget(views_, 1);
   middle->addWidget(progress_);
 
   auto* central = new QWidget;
@@ -148,17 +140,13 @@ void VEXA::ConnectCommands() {
   enable(commands_.calibration, [&, this] { CalibrationDlg(state_, messages, this).exec(); });
   enable(commands_.quit, [this] { close(); });
   enable(commands_.version, [this] { ShowVersion(this); });
-  commands_.views->actions().constFirst()->setEnabled(true);
+  for (QAction* view : commands_.views->actions()) {
+    enable(view,
+           [this, view] { state_.display.view = static_cast<std::int16_t>(view->data().toInt()); });
+  }
 }
 
 void VEXA::ConnectSequence() {
-  connect(graph_, &ReflectanceGraph::JumpRequested, this, [this] {
-    JampWave jump(state_, this);
-    jump.exec();
-    if (jump.Outcome() == QLatin1String("OK") && jump.Wavelength()) {
-      graph_->MoveCursor(*jump.Wavelength());
-    }
-  });
   connect(bar_, &MeasurementBar::BackgroundRequested, &sequence_,
           &MeasurementSequence::MeasureBackground);
   connect(bar_, &MeasurementBar::ReferenceRequested, &sequence_,
@@ -239,10 +227,10 @@ void VEXA::ShowThicknessGraph() {
 
 void VEXA::Refresh() {
   bar_->Show(state_);
-  graph_->Show(state_, GetOption());
+  views_->Show(GetOption());
+  commands_.views->actions().at(views_->CurrentView())->setChecked(true);
   const MeasurementSlot* selected = state_.Slot(GetOption());
   colour_->Show(GetOption());
-  graph_->ShowBand(ReflectanceBand(state_.standard));
   status_->ShowJudgement(selected != nullptr && selected->valid ? selected->judgement
                                                                 : Judgement());
   thickness_->setVisible(state_.thickness.enabled);

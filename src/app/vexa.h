@@ -15,9 +15,9 @@
 namespace vexa {
 
 class ColourPanel;
+class MainViews;
 class MeasurementBar;
 class ProgressStrip;
-class ReflectanceGraph;
 class StatusPanels;
 class ThickGraph;
 class ThicknessPanel;
@@ -68,9 +68,9 @@ class VEXA : public QMainWindow {
   MeasurementSequence sequence_;
   MenuCommands commands_{};
   MeasurementBar* bar_ = nullptr;
-  ReflectanceGraph* graph_ = nullptr;
   ProgressStrip* progress_ = nullptr;
   ColourPanel* colour_ = nullptr;
+  MainViews* views_ = nullptr;
   ThicknessPanel* thickness_ = nullptr;
   ThickGraph* thicknessGraph_ = nullptr;
   StatusPanels* status_ = nullptr;

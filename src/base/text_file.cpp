@@ -2,12 +2,12 @@
 #include "base/text_file.h"
 
 #include <QFile>
-#include <QSaveFile>
 #include <cmath>
 #include <limits>
 #include <optional>
 
 #include "base/number_text.h"
+#include "base/replace_file.h"
 
 namespace vexa {
 namespace {
@@ -162,17 +162,7 @@ FileText& FileText::Flag(bool value) {
 }
 
 bool FileText::WriteTo(const QString& path) const {
-  QSaveFile file(path);
-  if (!file.open(QIODevice::WriteOnly)) {
-    return false;
-  }
-  // A device that takes only a part of the bytes is told by these two alone, not by the commit.
-  const QByteArray bytes = Encode(text_);
-  if (file.write(bytes) != bytes.size() || !file.flush()) {
-    file.cancelWriting();
-    return false;
-  }
-  return file.commit();
+  return ReplaceFile(path, Encode(text_));
 }
 
 }  // namespace vexa

@@ -8,7 +8,6 @@
 namespace vexa {
 namespace {
 
-constexpr std::int32_t kLargestUnsaturated = 4094;
 constexpr int kFiveLineStartNm = 390;
 constexpr int kBinOffsetNm = 4;
 constexpr int kLastPixel = static_cast<int>(kPixelsPerLine) - 1;

@@ -19,6 +19,8 @@ using LinePositions = std::array<std::int16_t, 6>;
 inline constexpr LinePositions kDefaultLinePositions{138, 325, 378, 409, 469, 0};
 inline constexpr int kDetectorStartNm = 440;
 inline constexpr int kMappedPoints = 409;
+/// The largest averaged count that is no saturation; the 12-bit converter ends at 4095.
+inline constexpr std::int32_t kLargestUnsaturated = 4094;
 
 /// Averaged counts by pixel in ascending wavelength (the reverse of the order in a line).
 using PixelFrame = std::array<std::int32_t, kPixelsPerLine>;
@@ -35,7 +37,7 @@ struct MappedSpectrum {
 /// line is complete.
 [[nodiscard]] std::optional<PixelFrame> AverageLines(std::span<const LineBuffer> lines);
 
-/// True when a pixel is above 4094, that is at the full scale of the 12-bit converter.
+/// True when a pixel is above kLargestUnsaturated.
 [[nodiscard]] bool IsSaturated(const PixelFrame& pixels);
 
 /// Averages the complete lines and maps pixels to whole nanometres from `startNm` on. The

@@ -403,7 +403,7 @@ TEST_F(MainWindow, SampleInformationIsTakenOverAsTyped) {
 
 TEST_F(MainWindow, CursorFollowsClickKeysAndJump) {
   MeasureThrough(1);
-  auto* graph = window.findChild<ReflectanceGraph*>();
+  auto* graph = window.findChild<ReflectanceGraph*>(QStringLiteral("ReflectanceGraph"));
   QTest::mouseClick(graph, Qt::LeftButton, {}, graph->axisRect()->rect().center());
   EXPECT_NEAR(graph->CursorNm(), 640, 1);
   const int before = graph->CursorNm();

@@ -10,6 +10,7 @@
 #include "views/colour/chromaticity_diagram.h"
 #include "views/colour/colour_texts.h"
 #include "views/colour/stock_window.h"
+#include "views/common/plot_export.h"
 #include "views/common/theme.h"
 
 namespace vexa {
@@ -48,6 +49,7 @@ void ColourPanel::Show(int selectedSlot) {
 QWidget* ColourPanel::BuildDiagram() {
   auto* group = new QGroupBox(QStringLiteral("色度図"));
   diagram_ = new ChromaticityDiagram(picture_);
+  AddExport(*diagram_, messages_, dialogs_);
   diagram_->setFixedHeight(ChromaticityDiagram::HeightFor(kDiagramWidth));
   auto* layout = new QVBoxLayout(group);
   layout->setContentsMargins(6, 4, 6, 6);

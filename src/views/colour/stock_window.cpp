@@ -6,6 +6,7 @@
 
 #include "colour/stock_file.h"
 #include "views/colour/chromaticity_diagram.h"
+#include "views/common/plot_export.h"
 #include "views/files/data_file_commands.h"
 
 namespace vexa {
@@ -32,6 +33,7 @@ StockWindow::StockWindow(VEXATYPE& state, MessageService& messages, FileDialogs&
   setObjectName(QStringLiteral("StockWindow"));
   setWindowTitle(QStringLiteral("累積色度図表示"));
   diagram_->setMinimumSize(kSmallestDiagram, ChromaticityDiagram::HeightFor(kSmallestDiagram));
+  AddExport(*diagram_, messages_, dialogs_);
   count_->setObjectName(QStringLiteral("StockWindowCount"));
   count_->setAlignment(Qt::AlignCenter);
   clear_->setToolTip(QStringLiteral("最後の累積データを取り消します。"));

@@ -22,7 +22,7 @@ QPen LimitPen() {
 
 }  // namespace
 
-BandDrawing::BandDrawing(QCustomPlot& plot) : plot_(plot) {
+BandDrawing::BandDrawing(QCustomPlot& plot, Abscissa abscissa) : plot_(plot), abscissa_(abscissa) {
   plot_.addLayer(kLayer, plot_.currentLayer(), QCustomPlot::limBelow);
   layer_ = plot_.layer(kLayer);
 }
@@ -42,7 +42,7 @@ void BandDrawing::Show(const std::vector<std::vector<BandPoint>>& band) {
     if (segment.size() == 1) {
       AddBar(segment.front());
     } else {
-      AddSegment(segment.front(), segment.back());
+      AddSegment(segment);
     }
   }
 }
@@ -52,18 +52,21 @@ QCPGraph* BandDrawing::AddLine(const QVector<QCPGraphData>& points) {
   line->removeFromLegend();
   line->setLayer(layer_);
   line->setPen(LimitPen());
-  line->data()->set(points, true);
+  line->data()->set(points, abscissa_ == Abscissa::kWavelength);
   line->setSelectable(QCP::stNone);
   lines_.push_back(line);
   return line;
 }
 
-// Between the ends of a segment the limits are straight lines.
-void BandDrawing::AddSegment(const BandPoint& first, const BandPoint& last) {
-  const double from = first.nm;
-  const double to = last.nm;
-  QCPGraph* lower = AddLine({{from, first.lower}, {to, last.lower}});
-  QCPGraph* upper = AddLine({{from, first.upper}, {to, last.upper}});
+void BandDrawing::AddSegment(const std::vector<BandPoint>& segment) {
+  QVector<QCPGraphData> lowest;
+  QVector<QCPGraphData> highest;
+  for (const BandPoint& point : segment) {
+    lowest.append({AbscissaOf(abscissa_, point.nm), point.lower});
+    highest.append({AbscissaOf(abscissa_, point.nm), point.upper});
+  }
+  QCPGraph* lower = AddLine(lowest);
+  QCPGraph* upper = AddLine(highest);
   QColor area = theme::kAccent;
   area.setAlpha(kAreaAlpha);
   upper->setBrush(area);
@@ -71,8 +74,8 @@ void BandDrawing::AddSegment(const BandPoint& first, const BandPoint& last) {
 }
 
 void BandDrawing::AddBar(const BandPoint& point) {
-  const double nm = point.nm;
-  QCPGraph* bar = AddLine({{nm, point.lower}, {nm, point.upper}});
+  const double place = AbscissaOf(abscissa_, point.nm);
+  QCPGraph* bar = AddLine({{place, point.lower}, {place, point.upper}});
   QPainterPath end;
   end.moveTo(-kPathSize / 2.0, 0.0);
   end.lineTo(kPathSize / 2.0, 0.0);

@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "standards/reflectance_band.h"
+#include "views/graph/abscissa.h"
 
 namespace vexa {
 
@@ -14,7 +15,7 @@ namespace vexa {
 class BandDrawing {
  public:
   /// Makes a layer of its own, below the plot's current one.
-  explicit BandDrawing(QCustomPlot& plot);
+  BandDrawing(QCustomPlot& plot, Abscissa abscissa);
 
   /// Takes the place of the band shown before; the caller redraws.
   void Show(const std::vector<std::vector<BandPoint>>& band);
@@ -24,10 +25,11 @@ class BandDrawing {
 
  private:
   QCPGraph* AddLine(const QVector<QCPGraphData>& points);
-  void AddSegment(const BandPoint& first, const BandPoint& last);
+  void AddSegment(const std::vector<BandPoint>& segment);
   void AddBar(const BandPoint& point);
 
   QCustomPlot& plot_;
+  Abscissa abscissa_;
   QCPLayer* layer_;
   std::vector<QCPGraph*> lines_;
   double highest_ = 0.0;

@@ -11,6 +11,7 @@
 #include <algorithm>
 
 #include "base/number_text.h"
+#include "views/common/plot_export.h"
 #include "views/files/file_questions.h"
 #include "views/optics/history_plot.h"
 #include "views/optics/optics_print.h"
@@ -55,6 +56,7 @@ ThickGraph::ThickGraph(VEXATYPE& state, MessageService& messages, FileDialogs& d
   setObjectName(QStringLiteral("ThickGraph"));
   setWindowTitle(QStringLiteral("膜厚ｸﾞﾗﾌ"));
   BuildMenus();
+  AddExport(*plot_, messages_, dialogs_);
   auto* frame = new QFrame;
   frame->setFrameShape(QFrame::StyledPanel);
   auto* framed = new QVBoxLayout(frame);

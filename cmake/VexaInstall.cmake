@@ -1,0 +1,28 @@
+# SPDX-License-Identifier: GPL-3.0-or-later
+# What goes where on a system, and the Debian package (run cpack in the build directory).
+include(GNUInstallDirs)
+
+install(TARGETS vexa-cli vexa-simulator)
+install(FILES share/man/vexa-cli.1 share/man/vexa-simulator.1 DESTINATION ${CMAKE_INSTALL_MANDIR}/man1)
+install(FILES README.md CHANGELOG.md share/packaging/copyright DESTINATION ${CMAKE_INSTALL_DOCDIR})
+install(FILES LICENSE share/packaging/60-vexa-adapter.rules DESTINATION ${CMAKE_INSTALL_DOCDIR})
+install(DIRECTORY docs/ DESTINATION ${CMAKE_INSTALL_DOCDIR}/docs)
+install(DIRECTORY share/virtual-instrument DESTINATION ${CMAKE_INSTALL_DATADIR}/vexa)
+if(NOT VEXA_CORE_ONLY)
+  install(TARGETS vexa)
+  install(FILES share/man/vexa.1 DESTINATION ${CMAKE_INSTALL_MANDIR}/man1)
+  install(FILES share/packaging/vexa.desktop DESTINATION ${CMAKE_INSTALL_DATADIR}/applications)
+  install(FILES share/packaging/vexa.svg DESTINATION ${CMAKE_INSTALL_DATADIR}/icons/hicolor/scalable/apps)
+endif()
+
+set(CPACK_GENERATOR DEB)
+set(CPACK_PACKAGE_NAME vexa)
+set(CPACK_PACKAGE_CONTACT "the developers of vexa <vexa@localhost>")
+set(CPACK_PACKAGE_DESCRIPTION_SUMMARY "control and analysis of the VEXA-KT reflectance micro-spectrophotometer")
+set(CPACK_PACKAGING_INSTALL_PREFIX /usr)
+set(CPACK_STRIP_FILES ON)
+set(CPACK_DEBIAN_FILE_NAME DEB-DEFAULT)
+set(CPACK_DEBIAN_PACKAGE_SECTION science)
+set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS ON)
+set(CPACK_DEBIAN_PACKAGE_DEPENDS "qt6-qpa-plugins, fonts-noto-cjk")
+include(CPack)

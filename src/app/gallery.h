@@ -1,0 +1,33 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <QAction>
+#include <QDir>
+#include <QString>
+
+namespace vexa {
+
+class VEXA;
+
+/// Pictures of every window and view for the manual, taken from a window that holds measurements.
+class Gallery {
+ public:
+  /// The pictures go into `directory`, one PNG a window, named after it.
+  explicit Gallery(const QString& directory);
+
+  /// Shows one after the other; the number of pictures that could not be taken.
+  [[nodiscard]] int Take(VEXA& window);
+
+ private:
+  void TakeViews(VEXA& window);
+  void TakeDialogs(VEXA& window);
+  void TakeDialog(QAction* command, const QString& name);
+  void TakeWindow(QAction* command, const QString& name, const QString& objectName);
+  void Save(QWidget& widget, const QString& name);
+  void Fail(const QString& name);
+
+  QDir directory_;
+  int missing_ = 0;
+};
+
+}  // namespace vexa

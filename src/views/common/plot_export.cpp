@@ -1,0 +1,82 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "views/common/plot_export.h"
+
+#include <QBuffer>
+#include <QClipboard>
+#include <QFileInfo>
+#include <QGuiApplication>
+#include <QPdfWriter>
+#include <QSvgGenerator>
+
+#include "base/replace_file.h"
+#include "views/files/file_questions.h"
+
+namespace vexa {
+namespace {
+
+constexpr double kPixelsPerDot = 2.0;
+
+void Paint(QCustomPlot& plot, QPaintDevice& device, double scale) {
+  QCPPainter painter(&device);
+  painter.setMode(QCPPainter::pmVectorized);
+  painter.setMode(QCPPainter::pmNoCaching);
+  painter.scale(scale, scale);
+  plot.toPainter(&painter, plot.width(), plot.height());
+}
+
+void SavePicture(QCustomPlot& plot, MessageService& messages, FileDialogs& dialogs) {
+  const std::optional<SaveChoice> choice =
+      dialogs.AskSave(QStringLiteral("ｸﾞﾗﾌの保存"),
+                      QStringLiteral("PNG(*.png)|*.png|SVG(*.svg)|*.svg|PDF(*.pdf)|*.pdf"));
+  if (!choice) {
+    return;
+  }
+  const QStringList suffixes{QStringLiteral(".png"), QStringLiteral(".svg"),
+                             QStringLiteral(".pdf")};
+  const QString path =
+      WithDefaultExtension(choice->path, suffixes.value(choice->filterIndex - 1, suffixes[0]));
+  if (MayReplace(path, messages) &&
+      !ReplaceFile(path, PlotPicture(plot, QFileInfo(path).suffix().toLower()))) {
+    ShowWriteError(path, messages);
+  }
+}
+
+}  // namespace
+
+void AddExport(QCustomPlot& plot, MessageService& messages, FileDialogs& dialogs) {
+  plot.setContextMenuPolicy(Qt::ActionsContextMenu);
+  auto* copy = new QAction(QStringLiteral("ｸﾞﾗﾌをｺﾋﾟｰ"), &plot);
+  copy->setShortcut(QKeySequence::Copy);
+  copy->setShortcutContext(Qt::WidgetShortcut);
+  QObject::connect(copy, &QAction::triggered, &plot, [&plot] {
+    QGuiApplication::clipboard()->setPixmap(plot.toPixmap(0, 0, kPixelsPerDot));
+  });
+  auto* save = new QAction(QStringLiteral("ｸﾞﾗﾌの保存..."), &plot);
+  QObject::connect(save, &QAction::triggered, &plot, [&] { SavePicture(plot, messages, dialogs); });
+  plot.addActions({copy, save});
+}
+
+QByteArray PlotPicture(QCustomPlot& plot, const QString& suffix) {
+  QByteArray bytes;
+  QBuffer buffer(&bytes);
+  buffer.open(QIODevice::WriteOnly);
+  if (suffix == QLatin1String("svg")) {
+    QSvgGenerator svg;
+    svg.setOutputDevice(&buffer);
+    svg.setSize(plot.size());
+    svg.setViewBox(plot.rect());
+    Paint(plot, svg, 1.0);
+  } else if (suffix == QLatin1String("pdf")) {
+    QPdfWriter pdf(&buffer);
+    const double pointsPerPixel = 72.0 / plot.logicalDpiX();
+    pdf.setPageMargins({});
+    pdf.setPageSize(QPageSize(QSizeF(plot.size()) * pointsPerPixel, QPageSize::Point, {},
+                              QPageSize::ExactMatch));
+    Paint(plot, pdf, static_cast<double>(pdf.width()) / plot.width());
+  } else {
+    plot.toPixmap(0, 0, kPixelsPerDot).save(&buffer, "PNG");
+  }
+  return bytes;
+}
+
+}  // namespace vexa

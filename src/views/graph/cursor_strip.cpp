@@ -1,0 +1,73 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "views/graph/cursor_strip.h"
+
+#include <QGridLayout>
+
+#include "base/number_text.h"
+
+namespace vexa {
+namespace {
+
+constexpr int kRepeatMs = 70;
+constexpr int kTicksBeforeRepeat = 3;
+// The ten slots and the reference data.
+constexpr int kMostCurves = kSlotCount + 1;
+constexpr int kRows = 2;
+constexpr int kColumns = (kMostCurves + kRows - 1) / kRows;
+
+}  // namespace
+
+CursorStrip::CursorStrip(QWidget* parent) : QWidget(parent), wavelength_(new QLabel) {
+  setObjectName(QStringLiteral("CursorStrip"));
+  wavelength_->setObjectName(QStringLiteral("CursorWavelength"));
+  wavelength_->setAlignment(Qt::AlignCenter);
+  wavelength_->setMinimumWidth(fontMetrics().horizontalAdvance(QStringLiteral("  840 nm  ")));
+  auto* layout = new QHBoxLayout(this);
+  layout->setContentsMargins(4, 0, 0, 0);
+  layout->addWidget(new QLabel(QStringLiteral("波長")));
+  layout->addWidget(StepButton("CursorDown", -1));
+  layout->addWidget(wavelength_);
+  layout->addWidget(StepButton("CursorUp", 1));
+  auto* values = new QGridLayout;
+  values->setVerticalSpacing(1);
+  layout->addLayout(values, 1);
+  setFixedHeight(kRows * (fontMetrics().height() + 3));
+  for (int i = 0; i < kMostCurves; ++i) {
+    auto* value = new QLabel;
+    value->setObjectName(QStringLiteral("CursorValue%1").arg(i + 1));
+    value->setTextFormat(Qt::RichText);
+    values->addWidget(value, i / kColumns, i % kColumns, Qt::AlignVCenter);
+    values->setColumnStretch(i % kColumns, 1);
+    values_.push_back(value);
+  }
+}
+
+void CursorStrip::Show(const std::vector<SpectrumCurve>& curves, int nm, QStringView pattern) {
+  wavelength_->setText(QStringLiteral("%1 nm").arg(nm));
+  for (std::size_t i = 0; i < values_.size(); ++i) {
+    values_[i]->setVisible(i < curves.size());
+    if (i >= curves.size()) {
+      continue;
+    }
+    values_[i]->setText(QStringLiteral("<span style='color:%1'>■</span> %2: %3")
+                            .arg(curves[i].pen.color().name(), curves[i].label.toHtmlEscaped(),
+                                 FormatNumber(curves[i].values[nm], pattern)));
+  }
+}
+
+QPushButton* CursorStrip::StepButton(const char* name, int by) {
+  auto* button = new QPushButton(by < 0 ? QStringLiteral("◀") : QStringLiteral("▶"));
+  button->setObjectName(QLatin1String(name));
+  button->setToolTip(by < 0 ? QStringLiteral("ｶｰｿﾙを短波長側へ")
+                            : QStringLiteral("ｶｰｿﾙを長波長側へ"));
+  button->setFocusPolicy(Qt::NoFocus);
+  button->setFixedWidth(34);
+  button->setAutoRepeat(true);
+  button->setAutoRepeatDelay(kTicksBeforeRepeat * kRepeatMs);
+  button->setAutoRepeatInterval(kRepeatMs);
+  // Comes at once and then with each repeat while the button is held.
+  connect(button, &QPushButton::pressed, this, [this, by] { emit StepRequested(by); });
+  return button;
+}
+
+}  // namespace vexa

@@ -1,0 +1,122 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "views/graph/main_views.h"
+
+#include <QStackedWidget>
+#include <QVBoxLayout>
+
+#include "standards/reflectance_band.h"
+#include "views/colour/chromaticity_diagram.h"
+#include "views/common/plot_export.h"
+#include "views/graph/cursor_strip.h"
+#include "views/graph/index_graph.h"
+#include "views/graph/light_graph.h"
+#include "views/graph/reflectance_graph.h"
+#include "views/graph/spectrum_table.h"
+#include "views/optics/jamp_wave.h"
+
+namespace vexa {
+namespace {
+
+constexpr QStringView kReflectancePattern = u"##0.000";
+constexpr QStringView kIndexPattern = u"0.0000";
+constexpr QStringView kLightPattern = u"###0.0";
+
+}  // namespace
+
+MainViews::MainViews(VEXATYPE& state, MessageService& messages, FileDialogs& dialogs,
+                     std::shared_ptr<BackgroundPicture> picture, QWidget* parent)
+    : QWidget(parent),
+      state_(state),
+      messages_(messages),
+      dialogs_(dialogs),
+      stack_(new QStackedWidget),
+      strip_(new CursorStrip) {
+  stack_->setFrameShape(QFrame::StyledPanel);
+  views_ = {ReflectanceView(false),
+            TableView(QStringLiteral("ReflectanceTable"), false),
+            GraphView(new IndexGraph, kIndexPattern),
+            GraphView(new LightGraph, kLightPattern),
+            TableView(QStringLiteral("LightTable"), true),
+            DiagramView(picture),
+            ReflectanceView(true)};
+  for (const View& view : views_) {
+    stack_->addWidget(view.widget);
+  }
+  connect(strip_, &CursorStrip::StepRequested, this,
+          [this](int by) { MoveCursor(cursorNm_ + by); });
+  auto* layout = new QVBoxLayout(this);
+  layout->setContentsMargins(0, 0, 0, 0);
+  layout->setSpacing(4);
+  layout->addWidget(stack_, 1);
+  layout->addWidget(strip_);
+}
+
+void MainViews::Show(int selectedSlot) {
+  const auto named = static_cast<std::size_t>(std::max<int>(state_.display.view, 0));
+  current_ = named < views_.size() ? named : 0;
+  const View& view = views_[current_];
+  view.show(selectedSlot);
+  if (view.graph != nullptr) {
+    view.graph->MoveCursor(cursorNm_);
+  }
+  stack_->setCurrentWidget(view.widget);
+  strip_->setVisible(view.graph != nullptr && state_.display.showCursor);
+}
+
+void MainViews::MoveCursor(int nm) {
+  if (SpectrumGraph* graph = views_[current_].graph) {
+    graph->MoveCursor(nm);
+  }
+}
+
+MainViews::View MainViews::GraphView(SpectrumGraph* graph, QStringView pattern) {
+  AddExport(*graph, messages_, dialogs_);
+  connect(graph, &SpectrumGraph::CursorMoved, this, [this](int nm) {
+    cursorNm_ = nm;
+    ShowCursor();
+  });
+  connect(graph, &SpectrumGraph::JumpRequested, this, &MainViews::AskJump);
+  return {graph, [this, graph](int slot) { graph->Show(state_, slot); }, graph, pattern};
+}
+
+MainViews::View MainViews::ReflectanceView(bool reciprocal) {
+  auto* graph = new ReflectanceGraph(reciprocal ? Abscissa::kReciprocal : Abscissa::kWavelength);
+  View view = GraphView(graph, kReflectancePattern);
+  view.show = [this, graph](int slot) {
+    graph->Show(state_, slot);
+    graph->ShowBand(ReflectanceBand(state_.standard));
+  };
+  return view;
+}
+
+MainViews::View MainViews::TableView(const QString& name, bool light) {
+  auto* table = new SpectrumTable;
+  table->setObjectName(name);
+  return {table, [this, table, light](int slot) {
+            table->Show(light ? LightCurves(state_) : ReflectanceCurves(state_, slot),
+                        state_.display, light ? kLightPattern : kReflectancePattern);
+          }};
+}
+
+MainViews::View MainViews::DiagramView(const std::shared_ptr<BackgroundPicture>& picture) {
+  auto* diagram = new ChromaticityDiagram(picture);
+  AddExport(*diagram, messages_, dialogs_);
+  return {diagram, [this, diagram](int slot) { diagram->ShowSlots(state_, slot); }};
+}
+
+void MainViews::ShowCursor() {
+  const View& view = views_[current_];
+  if (view.graph != nullptr) {
+    strip_->Show(view.graph->Curves(), cursorNm_, view.pattern);
+  }
+}
+
+void MainViews::AskJump() {
+  JampWave jump(state_, this);
+  jump.exec();
+  if (jump.Outcome() == QLatin1String("OK") && jump.Wavelength()) {
+    MoveCursor(*jump.Wavelength());
+  }
+}
+
+}  // namespace vexa

@@ -1,0 +1,67 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <QWidget>
+#include <functional>
+#include <memory>
+#include <vector>
+
+#include "base/message.h"
+#include "measurement/vexatype.h"
+#include "views/common/file_dialogs.h"
+
+class QStackedWidget;
+
+namespace vexa {
+
+class BackgroundPicture;
+class ChromaticityDiagram;
+class CursorStrip;
+class SpectrumGraph;
+
+/// The seven views of the view menu in one place, one of them shown, and the cursor that all graphs
+/// over the wavelength share.
+class MainViews : public QWidget {
+  Q_OBJECT
+
+ public:
+  MainViews(VEXATYPE& state, MessageService& messages, FileDialogs& dialogs,
+            std::shared_ptr<BackgroundPicture> picture, QWidget* parent = nullptr);
+
+  /// Brings the view that the display settings name to the front and up to date; an unknown number
+  /// shows the reflectance graph.
+  void Show(int selectedSlot);
+
+  /// 0..6, in the order of the view menu.
+  [[nodiscard]] int CurrentView() const { return static_cast<int>(current_); }
+
+  void MoveCursor(int nm);
+  [[nodiscard]] int CursorNm() const { return cursorNm_; }
+
+ private:
+  /// A view, how it takes over the state, and its graph and format of values when it has a cursor.
+  struct View {
+    QWidget* widget;
+    std::function<void(int selectedSlot)> show;
+    SpectrumGraph* graph = nullptr;
+    QStringView pattern = {};
+  };
+
+  View GraphView(SpectrumGraph* graph, QStringView pattern);
+  View ReflectanceView(bool reciprocal);
+  View TableView(const QString& name, bool light);
+  View DiagramView(const std::shared_ptr<BackgroundPicture>& picture);
+  void ShowCursor();
+  void AskJump();
+
+  VEXATYPE& state_;
+  MessageService& messages_;
+  FileDialogs& dialogs_;
+  QStackedWidget* stack_;
+  CursorStrip* strip_;
+  std::vector<View> views_;
+  std::size_t current_ = 0;
+  int cursorNm_ = 550;
+};
+
+}  // namespace vexa

@@ -1,0 +1,101 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "views/graph/spectrum_curves.h"
+
+#include <algorithm>
+
+#include "views/common/slot_style.h"
+#include "views/common/theme.h"
+
+namespace vexa {
+namespace {
+
+constexpr double kSelectedWidth = 2.4;
+constexpr double kLineWidth = 1.4;
+constexpr qsizetype kLongestName = 12;
+
+QString SlotName(int number, const QString& sampleNumber) {
+  const QString name = sampleNumber.size() > kLongestName
+                           ? sampleNumber.left(kLongestName - 1) + QStringLiteral("…")
+                           : sampleNumber;
+  return QStringLiteral("%1 %2").arg(number).arg(name).trimmed();
+}
+
+template <typename Array>
+bool HoldsValues(const Array& values) {
+  return std::ranges::any_of(values.Values(), [](double value) { return value != 0.0; });
+}
+
+SpectrumCurve NamedCurve(const QString& name, const QColor& colour, Qt::PenStyle style) {
+  SpectrumCurve curve;
+  curve.name = name;
+  curve.label = name;
+  curve.pen = QPen(colour, kLineWidth, style);
+  return curve;
+}
+
+}  // namespace
+
+std::vector<SpectrumCurve> ReflectanceCurves(const VEXATYPE& state, int selectedSlot) {
+  std::vector<SpectrumCurve> curves;
+  for (int number = 1; number <= kSlotCount; ++number) {
+    const MeasurementSlot& slot = *state.Slot(number);
+    if (!slot.valid) {
+      continue;
+    }
+    QPen pen = SlotPen(number);
+    if (number == selectedSlot) {
+      pen.setWidthF(kSelectedWidth);
+    }
+    curves.push_back({.name = SlotName(number, slot.info.sampleNumber),
+                      .label = QString::number(number),
+                      .pen = pen,
+                      .marker = SlotMarker(number),
+                      .values = slot.reflectance});
+  }
+  if (state.display.showReferenceData && HoldsValues(state.referenceReflectance)) {
+    curves.push_back(NamedCurve(QStringLiteral("理論反射率"), theme::kMutedText, Qt::DashLine));
+    curves.back().values = state.referenceReflectance;
+  }
+  return curves;
+}
+
+std::vector<SpectrumCurve> IndexCurves(const VEXATYPE& state) {
+  std::vector<SpectrumCurve> curves;
+  if (HoldsValues(state.filmIndex)) {
+    curves.push_back(NamedCurve(QStringLiteral("膜屈折率"), SlotColour(1), Qt::SolidLine));
+    curves.back().values = state.filmIndex;
+  }
+  if (HoldsValues(state.substrateIndex)) {
+    curves.push_back(NamedCurve(QStringLiteral("基板屈折率"), SlotColour(2), Qt::DashLine));
+    curves.back().values = state.substrateIndex;
+  }
+  return curves;
+}
+
+std::vector<SpectrumCurve> LightCurves(const VEXATYPE& state) {
+  struct Frame {
+    const RawSpectrum& light;
+    QString name;
+    QColor colour;
+    Qt::PenStyle style;
+  };
+  const Frame frames[] = {
+      {state.background, QStringLiteral("Background"), theme::kMutedText, Qt::DotLine},
+      {state.reference, QStringLiteral("Reference"), SlotColour(1), Qt::DashLine},
+      {state.sample, QStringLiteral("Sample"), SlotColour(2), Qt::SolidLine}};
+  const int shift = std::clamp<int>(state.instrument.calibrationShiftNm, 0,
+                                    RawSpectrum::kLastNm - ReflectanceSpectrum::kLastNm);
+  std::vector<SpectrumCurve> curves;
+  for (const Frame& frame : frames) {
+    if (!HoldsValues(frame.light)) {
+      continue;
+    }
+    curves.push_back(NamedCurve(frame.name, frame.colour, frame.style));
+    for (int nm = ReflectanceSpectrum::kFirstNm; nm <= ReflectanceSpectrum::kLastNm; ++nm) {
+      curves.back().values[nm] = frame.light[nm + shift];
+    }
+  }
+  return curves;
+}
+
+}  // namespace vexa

@@ -1,0 +1,176 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "views/graph/spectrum_graph.h"
+
+#include <algorithm>
+#include <cmath>
+
+#include "views/common/axis_scale.h"
+#include "views/common/plot_style.h"
+#include "views/common/theme.h"
+#include "views/graph/plot_navigation.h"
+
+namespace vexa {
+namespace {
+
+constexpr int kLegendColumns = 5;
+constexpr int kMarkerSpacingNm = 40;
+const QString kWavelengthLabel = QStringLiteral("波長 [nm]");
+const QString kCursorLayer = QStringLiteral("cursor");
+
+QVector<QCPGraphData> Points(const ReflectanceSpectrum& values, Abscissa abscissa) {
+  QVector<QCPGraphData> points;
+  points.reserve(static_cast<qsizetype>(ReflectanceSpectrum::kCount));
+  for (int nm = ReflectanceSpectrum::kFirstNm; nm <= ReflectanceSpectrum::kLastNm; ++nm) {
+    points.append({AbscissaOf(abscissa, nm), values[nm]});
+  }
+  if (abscissa == Abscissa::kReciprocal) {
+    std::ranges::reverse(points);
+  }
+  return points;
+}
+
+}  // namespace
+
+SpectrumGraph::SpectrumGraph(Abscissa abscissa, const QString& ordinateLabel, QWidget* parent)
+    : QCustomPlot(parent), abscissa_(abscissa) {
+  setFocusPolicy(Qt::StrongFocus);
+  ApplyPlotStyle(*this);
+  xAxis->setLabel(abscissa == Abscissa::kWavelength ? kWavelengthLabel
+                                                    : QStringLiteral("1/λ [1/µm]"));
+  yAxis->setLabel(ordinateLabel);
+  // Wide antialiased lines are drawn many times faster piece by piece.
+  setPlottingHint(QCP::phFastPolylines);
+  PlaceLegendAbove(*this, kLegendColumns);
+  if (abscissa == Abscissa::kReciprocal) {
+    xAxis2->setLabel(kWavelengthLabel);
+    xAxis2->setTickLabels(true);
+    connect(xAxis, qOverload<const QCPRange&>(&QCPAxis::rangeChanged), this,
+            &SpectrumGraph::TickWavelengths);
+  }
+  BuildCursor();
+
+  auto* jump = new QAction(QStringLiteral("ｼﾞｬﾝﾌﾟ"), this);
+  jump->setShortcut(Qt::Key_J);
+  jump->setShortcutContext(Qt::WidgetShortcut);
+  addAction(jump);
+  setContextMenuPolicy(Qt::ActionsContextMenu);
+  connect(jump, &QAction::triggered, this, &SpectrumGraph::JumpRequested);
+
+  auto* navigation = new PlotNavigation(*this);
+  connect(navigation, &PlotNavigation::Navigated, this, &SpectrumGraph::LeaveFullView);
+  connect(navigation, &PlotNavigation::FullViewRequested, this, [this] {
+    ShowFullView();
+    replot(rpQueuedReplot);
+  });
+  connect(navigation, &PlotNavigation::Clicked, this, [this](QPointF position) {
+    const double place = xAxis->pixelToCoord(position.x());
+    MoveCursor(static_cast<int>(std::lround(WavelengthAt(abscissa_, std::max(place, 1e-3)))));
+  });
+}
+
+// On a buffered layer of its own: a moved cursor leaves the curves as they are painted.
+void SpectrumGraph::BuildCursor() {
+  addLayer(kCursorLayer);
+  layer(kCursorLayer)->setMode(QCPLayer::lmBuffered);
+  cursor_ = new QCPItemStraightLine(this);
+  cursor_->setLayer(kCursorLayer);
+  cursor_->setPen(QPen(theme::kAccent, 1.0));
+  cursor_->setSelectable(false);
+  MoveCursor(cursorNm_);
+}
+
+void SpectrumGraph::ShowCurves(std::vector<SpectrumCurve> curves, const DisplaySettings& display) {
+  curves_ = std::move(curves);
+  display_ = display;
+  while (lines_.size() < curves_.size()) {
+    QCPGraph* line = addGraph();
+    line->setAdaptiveSampling(false);
+    line->setScatterSkip(kMarkerSpacingNm - 1);
+    lines_.push_back(line);
+  }
+  legend->clearItems();
+  for (std::size_t i = 0; i < lines_.size(); ++i) {
+    QCPGraph& line = *lines_[i];
+    line.setVisible(i < curves_.size());
+    if (!line.visible()) {
+      line.data()->clear();
+      continue;
+    }
+    const SpectrumCurve& curve = curves_[i];
+    line.data()->set(Points(curve.values, abscissa_), true);
+    line.setPen(curve.pen);
+    line.setScatterStyle(curve.marker);
+    line.setName(curve.name);
+    line.addToLegend();
+  }
+  legend->setVisible(!curves_.empty());
+  cursor_->setVisible(display.showCursor && !curves_.empty());
+  RefreshFullView();
+}
+
+void SpectrumGraph::RefreshFullView() {
+  if (fullView_) {
+    ShowFullView();
+  }
+  replot(rpQueuedReplot);
+}
+
+void SpectrumGraph::MoveCursor(int nm) {
+  cursorNm_ = std::clamp(nm, ReflectanceSpectrum::kFirstNm, ReflectanceSpectrum::kLastNm);
+  const double place = AbscissaOf(abscissa_, cursorNm_);
+  cursor_->point1->setCoords(place, 0.0);
+  cursor_->point2->setCoords(place, 1.0);
+  layer(kCursorLayer)->replot();
+  emit CursorMoved(cursorNm_);
+}
+
+void SpectrumGraph::ShowFullView() {
+  fullView_ = true;
+  ScaleAbscissa();
+  ScaleOrdinate(display_);
+}
+
+void SpectrumGraph::ScaleAbscissa() {
+  const double from = AbscissaOf(abscissa_, display_.shortestNm);
+  const double to = AbscissaOf(abscissa_, display_.longestNm);
+  xAxis->setRange(std::min(from, to), std::max(from, to));
+  SetTicks(*xAxis, abscissa_ == Abscissa::kWavelength ? display_.wavelengthTickNm : 0.0);
+}
+
+// The upper axis of the reciprocal view bears wavelengths, unevenly as they lie.
+void SpectrumGraph::TickWavelengths() {
+  constexpr double kMostTicks = 12.0;
+  constexpr double kLongestNm = 2000.0;
+  const QCPRange range = xAxis->range();
+  const double first = WavelengthAt(abscissa_, std::max(range.upper, 1e-3));
+  const double last = std::min(WavelengthAt(abscissa_, std::max(range.lower, 1e-3)), kLongestNm);
+  double interval = 1.0;
+  for (const double step : {2.0, 5.0, 10.0, 20.0, 50.0, 100.0, 200.0}) {
+    interval = (last - first) / interval > kMostTicks ? step : interval;
+  }
+  auto ticker = QSharedPointer<QCPAxisTickerText>::create();
+  for (double nm = std::ceil(first / interval) * interval; nm <= last; nm += interval) {
+    ticker->addTick(AbscissaOf(abscissa_, nm), QString::number(nm));
+  }
+  xAxis2->setTicker(ticker);
+}
+
+void SpectrumGraph::keyPressEvent(QKeyEvent* event) {
+  if (event->key() != Qt::Key_Left && event->key() != Qt::Key_Right) {
+    return QCustomPlot::keyPressEvent(event);
+  }
+  // Right is to the right, also where the wavelengths fall.
+  const bool up = (event->key() == Qt::Key_Right) == (abscissa_ == Abscissa::kWavelength);
+  MoveCursor(cursorNm_ + (up ? 1 : -1));
+}
+
+// A changed view has round ticks of its own, whatever the settings say.
+void SpectrumGraph::LeaveFullView() {
+  if (fullView_) {
+    fullView_ = false;
+    SetTicks(*xAxis, 0.0);
+    SetTicks(*yAxis, 0.0);
+  }
+}
+
+}  // namespace vexa
