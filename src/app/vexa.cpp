@@ -179,7 +179,7 @@ void VEXA::StartController() {
   connect(controller_.get(), &Controller::WaitEnded, progress_, &ProgressStrip::EndWait);
   UpdateCommands();
   if (controller_->Initialise(state_.instrument.controllerPort) != 0 && !unloaded_) {
-    ReportControllerFailure(services_.messages);
+    ReportControllerFailure(*controller_, services_.messages);
     return;
   }
   controllerReady_ = !unloaded_;

@@ -131,7 +131,7 @@ Status StartController(Controller& controller, const InstrumentSettings& setting
                        MessageService& messages) {
   const Status status = controller.Initialise(settings.controllerPort);
   if (status != 0) {
-    ReportControllerFailure(messages);
+    ReportControllerFailure(controller, messages);
     return status;
   }
   return SendSamplingSettings(controller, settings, messages);

@@ -54,6 +54,10 @@ class Controller : public QObject {
   /// Ends every wait and closes the link. Safe at any time.
   virtual void Close() = 0;
 
+  /// Why the controller could not be reached last, in a few sentences for the user; empty while the
+  /// link is well or when nothing is known.
+  [[nodiscard]] virtual QString FailureDetails() const { return {}; }
+
   /// True while the light shutter is known to block the measuring light at rest.
   [[nodiscard]] virtual bool IsLightPathClosed() const = 0;
 

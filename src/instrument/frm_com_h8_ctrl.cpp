@@ -6,6 +6,7 @@
 #include <utility>
 
 #include "instrument/h8_reply.h"
+#include "instrument/port_diagnosis.h"
 
 namespace vexa {
 namespace {
@@ -199,6 +200,13 @@ Status frmComH8Ctrl::Acquire(LightFlag light, const AcquisitionSettings& setting
 void frmComH8Ctrl::Close() {
   ClosePort();
   Wake();
+}
+
+QString frmComH8Ctrl::FailureDetails() const {
+  if (!H8Comm_.isOpen()) {
+    return ExplainClosedPort(portPath_(port_));
+  }
+  return linkAnswered_ ? QString() : ExplainSilentPort(portPath_(port_));
 }
 
 bool frmComH8Ctrl::IsLightPathClosed() const {

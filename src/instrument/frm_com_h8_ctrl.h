@@ -75,6 +75,7 @@ class frmComH8Ctrl : public Controller {
   [[nodiscard]] Status Acquire(LightFlag light, const AcquisitionSettings& settings,
                                RawSpectrum& spectrum) override;
   void Close() override;
+  [[nodiscard]] QString FailureDetails() const override;
   [[nodiscard]] bool IsLightPathClosed() const override;
 
  private:

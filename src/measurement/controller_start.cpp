@@ -3,9 +3,10 @@
 
 namespace vexa {
 
-void ReportControllerFailure(MessageService& messages) {
-  messages.MsgCall(QStringLiteral("通信でﾃﾞﾊﾞｲｽ･ｴﾗｰ発生しました。"),
-                   message_type::kOk + message_type::kStopIcon, QStringLiteral("ｺﾝﾄﾛｰﾗｴﾗｰ"));
+void ReportControllerFailure(const Controller& controller, MessageService& messages) {
+  messages.MsgCallWithDetails(QStringLiteral("通信でﾃﾞﾊﾞｲｽ･ｴﾗｰ発生しました。"),
+                              message_type::kOk + message_type::kStopIcon,
+                              QStringLiteral("ｺﾝﾄﾛｰﾗｴﾗｰ"), controller.FailureDetails());
 }
 
 Status SendSamplingSettings(Controller& controller, const InstrumentSettings& settings,

@@ -8,7 +8,7 @@
 namespace vexa {
 
 /// Shows the device error of a controller that could not be initialised.
-void ReportControllerFailure(MessageService& messages);
+void ReportControllerFailure(const Controller& controller, MessageService& messages);
 
 /// Sends sampling time and averaging count to the controller; a failure is shown. Returns the
 /// controller's status, 0 when they are set.

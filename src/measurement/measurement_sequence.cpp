@@ -108,9 +108,10 @@ Status MeasurementSequence::AcquireInto(LightFlag light, RawSpectrum& target) {
   if (status == 1) {
     messages_.Beep();
   }
-  messages_.MsgCall(status == 1 ? QStringLiteral("取り込んだﾃﾞｰﾀが飽和しています。")
-                                : QStringLiteral("データ取得でエラーが発生しました。"),
-                    kOk + kWarningIcon, message_title::kWarning);
+  messages_.MsgCallWithDetails(status == 1 ? QStringLiteral("取り込んだﾃﾞｰﾀが飽和しています。")
+                                           : QStringLiteral("データ取得でエラーが発生しました。"),
+                               kOk + kWarningIcon, message_title::kWarning,
+                               status == 1 ? QString() : controller_->FailureDetails());
   return status;
 }
 

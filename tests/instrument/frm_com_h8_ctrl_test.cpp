@@ -4,6 +4,7 @@
 #include <gtest/gtest.h>
 
 #include <QElapsedTimer>
+#include <QProcess>
 #include <QTimer>
 
 #include "instrument/serial_port_path.h"
@@ -221,6 +222,28 @@ TEST(H8ControllerStart, FailuresOfTheInitialisation) {
   EXPECT_EQ(nowhere.H8Init(5, text), -1);
   EXPECT_EQ(nowhere.LghtSht(true), -1);
   EXPECT_FALSE(nowhere.IsLightPathClosed());
+}
+
+TEST(H8ControllerStart, FailureIsExplained) {
+  frmComH8Ctrl nowhere([](int) { return QStringLiteral("/nowhere/com5"); });
+  EXPECT_NE(nowhere.Initialise(5), 0);
+  EXPECT_TRUE(nowhere.FailureDetails().startsWith(QStringLiteral("/nowhere/com5 という装置が")));
+
+  test::ScriptedPeer peer;
+  frmComH8Ctrl silent([&peer](int) { return peer.Path(); }, kShortTimeoutMs);
+  peer.At(1, PeerAction::kSilence);
+  EXPECT_NE(silent.Initialise(5), 0);
+  EXPECT_TRUE(silent.FailureDetails().contains(QStringLiteral("応答がありません")));
+  QProcess other;
+  other.setStandardInputFile(peer.Path());
+  other.start(QStringLiteral("sleep"), {QStringLiteral("60")});
+  ASSERT_TRUE(other.waitForStarted());
+  EXPECT_TRUE(
+      silent.FailureDetails().contains(QStringLiteral("sleep (PID %1)").arg(other.processId())));
+  other.kill();
+  other.waitForFinished();
+  EXPECT_EQ(silent.LghtSht(true), 0);
+  EXPECT_EQ(silent.FailureDetails(), QString());
 }
 
 }  // namespace

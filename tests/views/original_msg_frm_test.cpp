@@ -4,6 +4,7 @@
 #include <gtest/gtest.h>
 
 #include <QTimer>
+#include <QToolButton>
 #include <set>
 
 namespace vexa {
@@ -57,6 +58,23 @@ TEST(OriginalMsgFrm, ShowsTheButtonsOfItsTypeAndTellsWhichWasPressed) {
                 result);
     }
     EXPECT_EQ(Show(dialog, c.type, [&dialog] { dialog.close(); }), c.byFrame) << c.type;
+  }
+}
+
+TEST(OriginalMsgFrm, DetailsUnfoldUnderTheTextOfTheirMessageAlone) {
+  OriginalMsgFrm dialog;
+  for (const QString& details : {QString(), QStringLiteral("/dev/ttyS4"), QString()}) {
+    QTimer::singleShot(0, &dialog, [&] {
+      auto* unfold = dialog.findChild<QToolButton*>(QStringLiteral("Unfold"));
+      auto* text = dialog.findChild<QLabel*>(QStringLiteral("Details"));
+      EXPECT_EQ(unfold->isVisible(), !details.isEmpty());
+      EXPECT_FALSE(text->isVisible());
+      unfold->click();
+      EXPECT_EQ(text->text(), details);
+      EXPECT_TRUE(text->isVisible());
+      dialog.close();
+    });
+    dialog.MsgCall(QStringLiteral("x"), message_type::kOk, QStringLiteral("t"), details);
   }
 }
 

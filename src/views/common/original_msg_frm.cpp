@@ -4,6 +4,7 @@
 #include <QApplication>
 #include <QHBoxLayout>
 #include <QStyle>
+#include <QToolButton>
 #include <QVBoxLayout>
 #include <QWindow>
 
@@ -12,6 +13,7 @@ namespace {
 
 constexpr int kIconSize = 40;
 constexpr int kTextWidth = 520;
+constexpr int kDetailsWidth = 400;
 
 bool Shows(std::int16_t type, MessageResult button) {
   switch (type & message_type::kButtonMask) {
@@ -29,7 +31,11 @@ bool Shows(std::int16_t type, MessageResult button) {
 }  // namespace
 
 OriginalMsgFrm::OriginalMsgFrm(QWidget* parent)
-    : QDialog(parent), icon_(new QLabel), lblCmmnt_(new QLabel) {
+    : QDialog(parent),
+      icon_(new QLabel),
+      lblCmmnt_(new QLabel),
+      unfold_(new QToolButton),
+      details_(new QLabel) {
   const auto button = [this](const char* name, const QString& caption, MessageResult result) {
     auto* widget = new QPushButton(caption);
     widget->setObjectName(QLatin1String(name));
@@ -51,6 +57,21 @@ OriginalMsgFrm::OriginalMsgFrm(QWidget* parent)
   lblCmmnt_->setAlignment(Qt::AlignLeft | Qt::AlignVCenter);
   icon_->setFixedSize(kIconSize, kIconSize);
 
+  unfold_->setObjectName(QStringLiteral("Unfold"));
+  unfold_->setText(QStringLiteral("詳細"));
+  unfold_->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
+  unfold_->setCheckable(true);
+  unfold_->setAutoRaise(true);
+  details_->setObjectName(QStringLiteral("Details"));
+  details_->setTextFormat(Qt::PlainText);
+  details_->setTextInteractionFlags(Qt::TextSelectableByMouse);
+  details_->setWordWrap(true);
+  details_->setFixedWidth(kDetailsWidth);
+  connect(unfold_, &QToolButton::toggled, this, [this](bool unfolded) {
+    unfold_->setArrowType(unfolded ? Qt::DownArrow : Qt::RightArrow);
+    details_->setVisible(unfolded);
+  });
+
   auto* message = new QHBoxLayout;
   message->setSpacing(18);
   message->addWidget(icon_, 0, Qt::AlignTop);
@@ -65,11 +86,18 @@ OriginalMsgFrm::OriginalMsgFrm(QWidget* parent)
   layout->setContentsMargins(22, 20, 22, 16);
   layout->setSpacing(20);
   layout->addLayout(message);
+  auto* more = new QVBoxLayout;
+  more->setContentsMargins(kIconSize + 18, 0, 0, 0);
+  more->setSpacing(4);
+  more->addWidget(unfold_);
+  more->addWidget(details_);
+  layout->addLayout(more);
   layout->addLayout(row);
   layout->setSizeConstraint(QLayout::SetFixedSize);
 }
 
-void OriginalMsgFrm::MsgCall(const QString& text, std::int16_t type, const QString& title) {
+void OriginalMsgFrm::MsgCall(const QString& text, std::int16_t type, const QString& title,
+                             const QString& details) {
   setWindowTitle(title);
   QString lines = text;
   lines.replace(QStringLiteral("\r\n"), QStringLiteral("\n")).replace(u'\r', u'\n');
@@ -82,6 +110,7 @@ void OriginalMsgFrm::MsgCall(const QString& text, std::int16_t type, const QStri
   }
   ShowButtons(type);
   ShowIcon(type);
+  ShowDetails(details);
   exec();
 }
 
@@ -131,8 +160,22 @@ void OriginalMsgFrm::ShowIcon(std::int16_t type) {
   icon_->show();
 }
 
+// Folded at first: the text above says what happened.
+void OriginalMsgFrm::ShowDetails(const QString& details) {
+  details_->setText(details);
+  unfold_->setVisible(!details.isEmpty());
+  unfold_->setChecked(false);
+  unfold_->setArrowType(Qt::RightArrow);
+  details_->hide();
+}
+
 MessageResult WindowMessages::MsgCall(const QString& text, std::int16_t type,
                                       const QString& title) {
+  return MsgCallWithDetails(text, type, title, {});
+}
+
+MessageResult WindowMessages::MsgCallWithDetails(const QString& text, std::int16_t type,
+                                                 const QString& title, const QString& details) {
   if (dialog_ == nullptr) {
     dialog_ = new OriginalMsgFrm(window_);
   }
@@ -143,7 +186,7 @@ MessageResult WindowMessages::MsgCall(const QString& text, std::int16_t type,
   if (above != nullptr) {
     dialog_->windowHandle()->setTransientParent(above->windowHandle());
   }
-  dialog_->MsgCall(text, type, title);
+  dialog_->MsgCall(text, type, title, details);
   return dialog_->Result();
 }
 

@@ -9,6 +9,8 @@
 
 #include "base/message.h"
 
+class QToolButton;
+
 namespace vexa {
 
 /// The dialog through which every message of the system is shown. Made once and used again.
@@ -19,8 +21,10 @@ class OriginalMsgFrm : public QDialog {
  public:
   explicit OriginalMsgFrm(QWidget* parent = nullptr);
 
-  /// Shows the message modally; the button pressed is Result() afterwards.
-  void MsgCall(const QString& text, std::int16_t type, const QString& title);
+  /// Shows the message modally; the button pressed is Result() afterwards. Details, where there are
+  /// any, unfold below the text.
+  void MsgCall(const QString& text, std::int16_t type, const QString& title,
+               const QString& details = {});
 
   [[nodiscard]] MessageResult Result() const { return result_; }
 
@@ -34,9 +38,12 @@ class OriginalMsgFrm : public QDialog {
 
   void ShowButtons(std::int16_t type);
   void ShowIcon(std::int16_t type);
+  void ShowDetails(const QString& details);
 
   QLabel* icon_;
   QLabel* lblCmmnt_;
+  QToolButton* unfold_;
+  QLabel* details_;
   std::array<Button, 4> buttons_;
   MessageResult closedByFrame_ = MessageResult::kOk;
   MessageResult result_ = MessageResult::kOk;
@@ -49,6 +56,8 @@ class WindowMessages : public MessageService {
   void SetWindow(QWidget* window) { window_ = window; }
 
   MessageResult MsgCall(const QString& text, std::int16_t type, const QString& title) override;
+  MessageResult MsgCallWithDetails(const QString& text, std::int16_t type, const QString& title,
+                                   const QString& details) override;
   void Beep() override;
 
  private:
