@@ -3,6 +3,7 @@
 
 #include <QApplication>
 #include <QDir>
+#include <QFile>
 #include <QPixmap>
 #include <QPushButton>
 #include <cstdio>
@@ -18,15 +19,20 @@ namespace {
 
 constexpr int kStartTimeoutMs = 10000;
 constexpr int kSamples = 5;
+constexpr const char* kLibrary = "libU2GPLIB.so";
 
 void Report(const QString& line) {
   std::fprintf(stderr, "vexa: %s\n", qUtf8Printable(line));
 }
 
+QString ProgramFile(const char* name) {
+  return QDir(QCoreApplication::applicationDirPath()).filePath(QLatin1String(name));
+}
+
 }  // namespace
 
-Demonstration::Demonstration(const QString& directory)
-    : directory_(QDir(directory).absolutePath()) {
+Demonstration::Demonstration(const QString& directory, bool gpib)
+    : directory_(QDir(directory).absolutePath()), gpib_(gpib) {
   dialogs_.dataFile = QDir(directory_).filePath(QStringLiteral("measurement.csv"));
 }
 
@@ -40,6 +46,9 @@ Demonstration::~Demonstration() {
 bool Demonstration::StartInstrument() {
   VEXATYPE state;
   state.programDirectory = directory_;
+  if (gpib_) {
+    state.instrument.controllerPort = 0;
+  }
   // The reference on its stage reflects 4 % at every wavelength.
   state.referenceSetting.kind = DispersionKind::kFixedValue;
   if (!QDir().mkpath(directory_) || !WriteStartupFile(state) ||
@@ -47,16 +56,28 @@ bool Demonstration::StartInstrument() {
     Report(QStringLiteral("%1: cannot be prepared").arg(directory_));
     return false;
   }
+  const bool started = gpib_ ? PlaceLibrary() : StartProcess();
+  if (!started) {
+    Report(QStringLiteral("the virtual instrument did not start"));
+  }
+  return started;
+}
+
+bool Demonstration::StartProcess() {
   instrument_.setProcessChannelMode(QProcess::ForwardedErrorChannel);
   instrument_.start(
-      QDir(QCoreApplication::applicationDirPath()).filePath(QStringLiteral("vexa-simulator")),
+      ProgramFile("vexa-simulator"),
       {QStringLiteral("--dir"), directory_, QStringLiteral("--pace"), QStringLiteral("none")});
-  if (!instrument_.waitForReadyRead(kStartTimeoutMs) ||
-      !instrument_.readLine().startsWith("ready ")) {
-    Report(QStringLiteral("the virtual instrument did not start"));
-    return false;
-  }
-  return true;
+  return instrument_.waitForReadyRead(kStartTimeoutMs) &&
+         instrument_.readLine().startsWith("ready ");
+}
+
+// The program finds it there by itself, as it would find the interface's own.
+bool Demonstration::PlaceLibrary() {
+  const QString place = QDir(directory_).filePath(QLatin1String(kLibrary));
+  QFile::remove(place);
+  qputenv("U2GPLIB_OPTIONS", "--pace none");
+  return QFile::link(ProgramFile(kLibrary), place);
 }
 
 int Demonstration::Drive(VEXA& window) {

@@ -13,12 +13,12 @@ namespace vexa {
 class VEXA;
 
 /// The window drives itself: with its own buttons it measures background, reference and five
-/// samples on a virtual instrument, which runs as a process of its own, and leaves
-/// `measurement.csv` and `window.png` in a directory.
+/// samples on a virtual instrument, which runs as a process of its own or is a library loaded in
+/// the place of the GP-IB's, and leaves `measurement.csv` and `window.png` in a directory.
 class Demonstration {
  public:
   /// `directory` becomes the program directory of the run.
-  explicit Demonstration(const QString& directory);
+  Demonstration(const QString& directory, bool gpib);
   ~Demonstration();
 
   /// Puts settings for the virtual instrument into the directory and starts it; false, with a line
@@ -48,7 +48,11 @@ class Demonstration {
     QString dataFile;
   };
 
+  [[nodiscard]] bool StartProcess();
+  [[nodiscard]] bool PlaceLibrary();
+
   QString directory_;
+  bool gpib_;
   QProcess instrument_;
   Answers messages_;
   Names dialogs_;

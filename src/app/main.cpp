@@ -9,26 +9,24 @@
 #include "app/demonstration.h"
 #include "app/gallery.h"
 #include "app/vexa.h"
-#include "instrument/frm_com_h8_ctrl.h"
-#include "instrument/serial_port_path.h"
+#include "measurement/controller_start.h"
 #include "views/common/original_msg_frm.h"
 #include "views/common/theme.h"
 
 namespace {
 
-std::unique_ptr<vexa::Controller> MakeController(const vexa::VEXATYPE& state) {
-  return std::make_unique<vexa::frmComH8Ctrl>([directory = state.programDirectory](int port) {
-    return vexa::SerialPortPath(directory, port);
-  });
+vexa::Services MakeServices(vexa::MessageService& messages, vexa::FileDialogs& dialogs) {
+  return {messages, dialogs, QDateTime::currentDateTime, [&messages](const vexa::VEXATYPE& state) {
+            return vexa::MakeController(state, messages);
+          }};
 }
 
-int RunDemonstration(const QString& directory, const QString& pictures) {
-  vexa::Demonstration demonstration(directory);
+int RunDemonstration(const QString& directory, bool gpib, const QString& pictures) {
+  vexa::Demonstration demonstration(directory, gpib);
   if (!demonstration.StartInstrument()) {
     return 1;
   }
-  vexa::VEXA window({demonstration.Messages(), demonstration.Dialogs(), QDateTime::currentDateTime,
-                     MakeController},
+  vexa::VEXA window(MakeServices(demonstration.Messages(), demonstration.Dialogs()),
                     QDir(directory).absolutePath());
   window.show();
   window.Load();
@@ -43,8 +41,7 @@ int RunDemonstration(const QString& directory, const QString& pictures) {
 int RunWindow() {
   vexa::WindowMessages messages;
   vexa::WindowFileDialogs dialogs;
-  vexa::VEXA window({messages, dialogs, QDateTime::currentDateTime, MakeController},
-                    QDir::currentPath());
+  vexa::VEXA window(MakeServices(messages, dialogs), QDir::currentPath());
   messages.SetWindow(&window);
   dialogs.SetWindow(&window);
   window.show();
@@ -70,12 +67,14 @@ int main(int argc, char* argv[]) {
       QStringLiteral("Measures five samples on the virtual instrument by itself and leaves "
                      "measurement.csv and window.png in DIR."),
       QStringLiteral("DIR"));
-  parser.addOption(demo);
   const QCommandLineOption pictures(
       QStringLiteral("pictures"),
       QStringLiteral("With --demo: leaves a picture of every window and view in DIR."),
       QStringLiteral("DIR"));
-  parser.addOption(pictures);
+  const QCommandLineOption gpib(
+      QStringLiteral("gpib"),
+      QStringLiteral("With --demo: over the control box on the GP-IB instead of the serial port."));
+  parser.addOptions({demo, gpib, pictures});
   const bool parsed = parser.parse(QApplication::arguments());
   if (!parsed || !parser.positionalArguments().isEmpty()) {
     std::fprintf(stderr, "vexa: %s\n",
@@ -88,6 +87,7 @@ int main(int argc, char* argv[]) {
   if (parser.isSet(QStringLiteral("version"))) {
     parser.showVersion();
   }
-  return parser.isSet(demo) ? RunDemonstration(parser.value(demo), parser.value(pictures))
-                            : RunWindow();
+  return parser.isSet(demo)
+             ? RunDemonstration(parser.value(demo), parser.isSet(gpib), parser.value(pictures))
+             : RunWindow();
 }

@@ -22,6 +22,8 @@ QString StepText(AwaitedStep step) {
       return QStringLiteral("光ｼｬｯﾀの応答を待っています");
     case AwaitedStep::kEyepieceShutter:
       return QStringLiteral("接眼ｼｬｯﾀの応答を待っています");
+    case AwaitedStep::kLamp:
+      return QStringLiteral("ﾗﾝﾌﾟの応答を待っています");
     case AwaitedStep::kSettling:
       return QStringLiteral("安定するのを待っています");
     case AwaitedStep::kMeasurement:

@@ -6,7 +6,6 @@
 #include "cli/program_settings.h"
 #include "files/data_file.h"
 #include "instrument/frm_com_h8_ctrl.h"
-#include "instrument/serial_port_path.h"
 #include "measurement/controller_start.h"
 #include "measurement/measurement_sequence.h"
 
@@ -27,7 +26,7 @@ void DeclareOptions(QCommandLineParser& parser) {
   const auto add = [&parser](const QString& name, const char* text, const char* value) {
     parser.addOption({name, QLatin1String(text), QLatin1String(value)});
   };
-  add(kPort, "Serial port number of the controller (default of the settings: 5).", "N");
+  add(kPort, "Serial port number of the controller; 0 is the control box on the GP-IB.", "N");
   add(kDevice, "Device of the controller, instead of a port number.", "PATH");
   add(kOut, "Data file for the measured slots.", "FILE");
   add(kSamplingTime, "Integration time of a line, 30 to 20000 ms (default: from the environment).",
@@ -46,7 +45,7 @@ struct Plan {
   QString device;
   QString out;
   int samples = 1;
-  int replyTimeoutMs = frmComH8Ctrl::kReplyTimeoutMs;
+  int replyTimeoutMs = Controller::kReplyTimeoutMs;
   bool prompt = false;
 };
 
@@ -65,10 +64,10 @@ bool ReadSettings(const QCommandLineParser& parser, VEXATYPE& state) {
 }
 
 std::optional<Plan> ReadPlan(const QCommandLineParser& parser, const VEXATYPE& state) {
-  const auto port = IntegerOption(parser, kPort, state.instrument.controllerPort, 1, 256);
+  const auto port = IntegerOption(parser, kPort, state.instrument.controllerPort, 0, 256);
   const auto samples = IntegerOption(parser, kSamples, 1, 1, kSlotCount);
   const auto timeoutMs =
-      IntegerOption(parser, kReplyTimeout, frmComH8Ctrl::kReplyTimeoutMs, 1, 3600000);
+      IntegerOption(parser, kReplyTimeout, Controller::kReplyTimeoutMs, 1, 3600000);
   if (!port || !samples || !timeoutMs) {
     return std::nullopt;
   }
@@ -137,6 +136,15 @@ Status StartController(Controller& controller, const InstrumentSettings& setting
   return SendSamplingSettings(controller, settings, messages);
 }
 
+std::unique_ptr<Controller> ConnectTo(const Plan& plan, const VEXATYPE& state,
+                                      MessageService& messages) {
+  if (plan.device.isEmpty()) {
+    return MakeController(state, messages, plan.replyTimeoutMs);
+  }
+  return std::make_unique<frmComH8Ctrl>([device = plan.device](int) { return device; },
+                                        plan.replyTimeoutMs);
+}
+
 void PrintReport(const Report& report, bool json) {
   if (json) {
     PrintJson(
@@ -178,17 +186,12 @@ int Measure(const QCommandLineParser& parser) {
   }
   state.instrument.controllerPort = static_cast<std::int16_t>(plan->port);
 
-  frmComH8Ctrl controller(
-      [&plan, &state](int number) {
-        return plan->device.isEmpty() ? SerialPortPath(state.programDirectory, number)
-                                      : plan->device;
-      },
-      plan->replyTimeoutMs);
+  const std::unique_ptr<Controller> controller = ConnectTo(*plan, state, messages);
   MeasurementSequence sequence(state, messages, [] { return QDateTime::currentDateTime(); });
-  sequence.UseController(&controller);
+  sequence.UseController(controller.get());
 
   Report report;
-  report.initialise = StartController(controller, state.instrument, messages);
+  report.initialise = StartController(*controller, state.instrument, messages);
   if (report.initialise == 0) {
     MeasureAll(*plan, sequence, report);
   }

@@ -21,6 +21,7 @@ enum class AwaitedStep {
   kController,
   kLightShutter,
   kEyepieceShutter,
+  kLamp,
   kSettling,
   kMeasurement,
   kData,
@@ -33,12 +34,15 @@ struct AcquisitionSettings {
 };
 
 /// The instrument's controller, whichever way it is connected. All operations wait in the event
-/// loop and return a status: 0, or 1 for a saturated frame, or a negative failure. They show no
-/// messages of their own.
+/// loop and return a status: 0, or 1 for a saturated frame, or a negative failure. The caller shows
+/// the message of its own operation.
 class Controller : public QObject {
   Q_OBJECT
 
  public:
+  static constexpr Status kBusy = -7;  ///< Acquire was called while one runs
+  static constexpr int kReplyTimeoutMs = 40000;
+
   using QObject::QObject;
 
   /// Opens the link and brings the controller into its resting state.

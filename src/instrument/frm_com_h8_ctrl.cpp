@@ -2,7 +2,6 @@
 #include "instrument/frm_com_h8_ctrl.h"
 
 #include <QScopeGuard>
-#include <algorithm>
 #include <utility>
 
 #include "instrument/h8_reply.h"
@@ -174,12 +173,7 @@ Status frmComH8Ctrl::H8GetData(LightFlag light, RawSpectrum& spectrum,
 
 Status frmComH8Ctrl::LinesToWaves(RawSpectrum& spectrum, const LinePositions& positions,
                                   int startNm) const {
-  const MappedSpectrum mapped = vexa::LinesToWaves(lines_, positions, startNm);
-  if (mapped.startNm != RawSpectrum::kFirstNm || mapped.values.size() != RawSpectrum::kCount) {
-    return kNotMappable;
-  }
-  std::copy(mapped.values.begin(), mapped.values.end(), spectrum.Values().begin());
-  return mapped.status;
+  return FillSpectrum(lines_, positions, startNm, spectrum);
 }
 
 Status frmComH8Ctrl::Initialise(std::int16_t port) {

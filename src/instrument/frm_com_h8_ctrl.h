@@ -27,9 +27,6 @@ class frmComH8Ctrl : public Controller {
 
  public:
   static constexpr Status kTimeOut = -15;
-  static constexpr Status kBusy = -7;         ///< H8GetData was called while one runs
-  static constexpr Status kNotMappable = -8;  ///< the line positions cannot be mapped
-  static constexpr int kReplyTimeoutMs = 40000;
 
   /// `portPath` gives the device of a port number; `replyTimeoutMs` bounds every wait for a reply.
   explicit frmComH8Ctrl(std::function<QString(int)> portPath, int replyTimeoutMs = kReplyTimeoutMs,

@@ -108,4 +108,14 @@ MappedSpectrum LinesToWaves(std::span<const LineBuffer> lines, const LinePositio
   }
 }
 
+Status FillSpectrum(std::span<const LineBuffer> lines, const LinePositions& positions, int startNm,
+                    RawSpectrum& spectrum) {
+  const MappedSpectrum mapped = LinesToWaves(lines, positions, startNm);
+  if (mapped.startNm != RawSpectrum::kFirstNm || mapped.values.size() != RawSpectrum::kCount) {
+    return kNotMappable;
+  }
+  std::copy(mapped.values.begin(), mapped.values.end(), spectrum.Values().begin());
+  return mapped.status;
+}
+
 }  // namespace vexa

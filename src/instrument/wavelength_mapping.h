@@ -7,6 +7,7 @@
 #include <span>
 #include <vector>
 
+#include "base/spectrum.h"
 #include "base/status.h"
 #include "instrument/detector_line.h"
 
@@ -47,5 +48,12 @@ struct MappedSpectrum {
 /// the sixth line bypass the mapping. Two equal neighbouring positions give status -1.
 [[nodiscard]] MappedSpectrum LinesToWaves(std::span<const LineBuffer> lines,
                                           const LinePositions& positions, int startNm);
+
+inline constexpr Status kNotMappable = -8;
+
+/// Likewise into a spectrum: 0, 1 saturated, or kNotMappable, which leaves the spectrum alone, when
+/// the positions do not give one.
+[[nodiscard]] Status FillSpectrum(std::span<const LineBuffer> lines, const LinePositions& positions,
+                                  int startNm, RawSpectrum& spectrum);
 
 }  // namespace vexa

@@ -1,11 +1,20 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include <memory>
+
 #include "base/message.h"
 #include "instrument/controller.h"
 #include "measurement/vexatype.h"
 
 namespace vexa {
+
+/// The controller that the settings name: port 0 is the older control box on the GP-IB, which shows
+/// messages of its own, any other the board on that serial port. The devices are looked for in the
+/// program directory first.
+[[nodiscard]] std::unique_ptr<Controller> MakeController(
+    const VEXATYPE& state, MessageService& messages,
+    int replyTimeoutMs = Controller::kReplyTimeoutMs);
 
 /// Shows the device error of a controller that could not be initialised.
 void ReportControllerFailure(const Controller& controller, MessageService& messages);

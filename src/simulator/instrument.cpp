@@ -20,12 +20,11 @@ constexpr auto kPartialFrameLife = 500ms;
 Instrument::Instrument(const Options& options, Announce announce)
     : announce_(std::move(announce)),
       replugAfter_(options.replugAfter),
-      generator_(options.seed),
-      noise_(options.noise),
-      stage_(options.stage,
-             [this](Sample sample) { announce_(u"stage %1"_s.arg(QString(SampleName(sample)))); }),
-      protocol_([this](const Exposure& exposure, int count) { return ReadLines(exposure, count); },
-                options.faults, options.lateBy),
+      head_(options,
+            [this](Sample sample) { announce_(u"stage %1"_s.arg(QString(SampleName(sample)))); }),
+      protocol_(
+          [this](const Exposure& exposure, int count) { return head_.ReadLines(exposure, count); },
+          options.faults, options.lateBy),
       queue_(options.paced),
       sendTimer_([this] { SendDue(); }),
       link_(options.directory, options.port) {
@@ -67,9 +66,9 @@ std::unique_ptr<QSocketNotifier> Instrument::Watch(int descriptor, QSocketNotifi
 
 void Instrument::SetStage(const PutOnStage& command) {
   if (command.sample) {
-    stage_.Fix(*command.sample);
+    head_.UnderObjective().Fix(*command.sample);
   } else {
-    stage_.LeaveUnattended();
+    head_.UnderObjective().LeaveUnattended();
   }
 }
 
@@ -97,7 +96,7 @@ void Instrument::SendDue() {
       ReplyQueue::Clock::now(), [this](QByteArrayView bytes) { Send(bytes); },
       [this](Milestone milestone) {
         protocol_.Reach(milestone);
-        stage_.Reach(milestone);
+        head_.UnderObjective().Reach(milestone);
       });
   if (next) {
     sendTimer_.Arm(*next);
@@ -145,15 +144,6 @@ void Instrument::Unplug() {
   if (replugAfter_ > 0ms) {
     replugTimer_.start(replugAfter_);
   }
-}
-
-std::vector<SensorLine> Instrument::ReadLines(const Exposure& exposure, int count) {
-  const PixelCounts mean = MeanCounts(stage_.Current(), exposure);
-  std::vector<SensorLine> lines(static_cast<std::size_t>(count));
-  for (SensorLine& line : lines) {
-    line = ReadOut(mean, noise_ ? &generator_ : nullptr);
-  }
-  return lines;
 }
 
 }  // namespace vexa::simulator

@@ -5,16 +5,15 @@
 #include <QTimer>
 #include <functional>
 #include <memory>
-#include <random>
 
 #include "simulator/console.h"
 #include "simulator/controller_protocol.h"
 #include "simulator/deadline_timer.h"
+#include "simulator/optical_head.h"
 #include "simulator/options.h"
 #include "simulator/port_link.h"
 #include "simulator/pseudo_terminal.h"
 #include "simulator/reply_queue.h"
-#include "simulator/stage.h"
 
 namespace vexa::simulator {
 
@@ -33,7 +32,7 @@ class Instrument {
   [[nodiscard]] QString PlugIn();
 
   void SetStage(const PutOnStage& command);
-  void ShowNextSample() { stage_.Next(); }
+  void ShowNextSample() { head_.UnderObjective().Next(); }
   void AddFault(const Fault& fault) { protocol_.AddFault(fault); }
 
  private:
@@ -46,13 +45,10 @@ class Instrument {
   [[nodiscard]] std::unique_ptr<QSocketNotifier> Watch(int descriptor, QSocketNotifier::Type type,
                                                        void (Instrument::*react)());
   void Unplug();
-  [[nodiscard]] std::vector<SensorLine> ReadLines(const Exposure& exposure, int count);
 
   Announce announce_;
   std::chrono::milliseconds replugAfter_;
-  std::mt19937_64 generator_;
-  bool noise_;
-  Stage stage_;
+  OpticalHead head_;
   ControllerProtocol protocol_;
   ReplyQueue queue_;
   DeadlineTimer sendTimer_;

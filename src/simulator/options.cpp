@@ -30,6 +30,8 @@ void DeclareOptions(QCommandLineParser& parser) {
       {u"noise"_s, u"Shot noise and read noise."_s, u"on|off"_s, u"on"_s},
       {u"fault"_s, u"A fault, striking once, from the numbered command on. Repeatable."_s,
        u"NAME[@EXCHANGE]"_s},
+      {u"call-fault"_s, u"A fault of the library U2GPLIB, at the numbered call. Repeatable."_s,
+       u"CALL=NUMBER|none|short|hang[@N]"_s},
       {u"late"_s, u"Delay of late-bytes in milliseconds."_s, u"MS"_s, u"1500"_s},
       {u"replug"_s, u"Milliseconds after which unplug ends; 0: never."_s, u"MS"_s, u"0"_s},
       {u"list"_s, u"List the samples and the faults."_s},
@@ -101,6 +103,19 @@ class ValueReader {
     return plan;
   }
 
+  CallFaultPlan CallFaults() const {
+    CallFaultPlan plan;
+    for (const QString& text : parser_.values(u"call-fault"_s)) {
+      const auto fault = MakeCallFault(text);
+      if (!fault) {
+        throw WrongValue{u"call-fault"_s, text,
+                         u"CALL=NUMBER, none, short or hang, or that with @N"_s};
+      }
+      plan.Add(*fault);
+    }
+    return plan;
+  }
+
  private:
   const QCommandLineParser& parser_;
 };
@@ -115,6 +130,7 @@ Options ReadValues(const QCommandLineParser& parser) {
               reader.Number(u"seed"_s, 0, std::numeric_limits<int>::max())),
           .noise = reader.Choice(u"noise"_s, u"on"_s, u"off"_s),
           .faults = reader.Faults(),
+          .callFaults = reader.CallFaults(),
           .lateBy = std::chrono::milliseconds(reader.Number(u"late"_s, 0, kMostMs)),
           .replugAfter = std::chrono::milliseconds(reader.Number(u"replug"_s, 0, kMostMs))};
 }

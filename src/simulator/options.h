@@ -7,6 +7,7 @@
 #include <optional>
 #include <variant>
 
+#include "simulator/call_faults.h"
 #include "simulator/faults.h"
 #include "simulator/samples.h"
 
@@ -21,6 +22,7 @@ struct Options {
   unsigned int seed = 1;
   bool noise = true;
   FaultPlan faults;
+  CallFaultPlan callFaults;
   std::chrono::milliseconds lateBy{1500};
   std::chrono::milliseconds replugAfter{0};  // 0: never
 };

@@ -17,11 +17,17 @@ QProcess& RunVexa(QProcess& process, const QStringList& arguments) {
   return process;
 }
 
-TEST(Demonstration, MeasuresFiveSamplesAndLeavesAFileAndAPicture) {
+class DemonstrationPath : public testing::TestWithParam<const char*> {};
+INSTANTIATE_TEST_SUITE_P(Serial, DemonstrationPath, testing::Values("--demo"));
+INSTANTIATE_TEST_SUITE_P(Gpib, DemonstrationPath, testing::Values("--gpib --demo"));
+
+TEST_P(DemonstrationPath, MeasuresFiveSamplesAndLeavesAFileAndAPicture) {
   const QTemporaryDir parent(QDir::tempPath() + QStringLiteral("/実 演-XXXXXX"));
   const QDir directory(parent.filePath(QStringLiteral("新しい")));
   QProcess process;
-  EXPECT_EQ(RunVexa(process, {QStringLiteral("--demo"), directory.path()}).exitCode(), 0)
+  EXPECT_EQ(
+      RunVexa(process, QString::fromLatin1(GetParam()).split(u' ') << directory.path()).exitCode(),
+      0)
       << process.readAllStandardError().constData();
 
   QFile data(directory.filePath(QStringLiteral("measurement.csv")));

@@ -8,52 +8,18 @@
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
-#include <QProcess>
-#include <QTemporaryDir>
+
+#include "cli/running_programs.h"
 
 namespace vexa {
 namespace {
 
-constexpr int kTimeoutMs = 30000;
-
-QString Program(const char* name) {
-  return QStringLiteral(VEXA_BIN_DIR "/") + QLatin1String(name);
-}
-
-struct Outcome {
-  int status = -1;
-  QByteArray out;
-  QByteArray err;
-  [[nodiscard]] QJsonObject Json() const { return QJsonDocument::fromJson(out).object(); }
-};
-
-Outcome RunCli(const QStringList& arguments) {
-  QProcess process;
-  process.start(Program("vexa-cli"), arguments);
-  EXPECT_TRUE(process.waitForFinished(kTimeoutMs));
-  return {process.exitCode(), process.readAllStandardOutput(), process.readAllStandardError()};
-}
-
-QStringList Words(const char* text) {
-  return QString::fromUtf8(text).split(u' ', Qt::SkipEmptyParts);
-}
-
-class CommandLine : public testing::Test {
- protected:
-  QString File(const char* name) const { return directory.filePath(QLatin1String(name)); }
-
-  QString Lines(const char* name, int value, int count = 1) const {
-    QFile file(File(name));
-    EXPECT_TRUE(file.open(QIODevice::WriteOnly));
-    for (int i = 0; i < 512 * count; ++i) {
-      file.putChar(static_cast<char>(value & 0xff));
-      file.putChar(static_cast<char>(value >> 8));
-    }
-    return file.fileName();
-  }
-
-  QTemporaryDir directory{QDir::tempPath() + QStringLiteral("/測 定-XXXXXX")};
-};
+using test::CommandLine;
+using test::kTimeoutMs;
+using test::Outcome;
+using test::RunCli;
+using test::WithInstrument;
+using test::Words;
 
 TEST_F(CommandLine, WrongUsageIsOneLineAndStatusTwo) {
   const char* const cases[] = {
@@ -69,7 +35,7 @@ TEST_F(CommandLine, WrongUsageIsOneLineAndStatusTwo) {
       "reflectance --background a --reference b --sample c --shift 8",
       "measure --port 5",
       "measure --out x.csv",
-      "measure --port 0 --out x.csv --samples 1",
+      "measure --port -1 --out x.csv --samples 1",
       "measure --port 5 --out x.csv --samples 11",
       "measure --port 5 --out x.csv --averaging 17",
       "measure --port 5 --out x.csv --sampling-time 29",
@@ -187,34 +153,6 @@ TEST_F(CommandLine, ShowsAndRewritesEnvironments) {
   EXPECT_EQ(bad.status, 1);
   EXPECT_FALSE(bad.Json()[QLatin1String("read")].toBool(true));
 }
-
-class WithInstrument : public CommandLine {
- protected:
-  void Start(const QStringList& options) {
-    instrument.start(Program("vexa-simulator"),
-                     QStringList{QStringLiteral("--dir"), directory.path(),
-                                 QStringLiteral("--pace"), QStringLiteral("none")} +
-                         options);
-    ASSERT_TRUE(instrument.waitForReadyRead(kTimeoutMs))
-        << instrument.readAllStandardError().constData();
-  }
-  void Stop() {
-    instrument.terminate();
-    ASSERT_TRUE(instrument.waitForFinished(kTimeoutMs));
-  }
-  void TearDown() override {
-    if (instrument.state() != QProcess::NotRunning) {
-      Stop();
-    }
-  }
-  Outcome Measure(const char* options) {
-    return RunCli(QStringList{QStringLiteral("measure"), QStringLiteral("--port"),
-                              QStringLiteral("5"), QStringLiteral("--dir"), directory.path(),
-                              QStringLiteral("--out"), File("out.csv"), QStringLiteral("--json")} +
-                  Words(options));
-  }
-  QProcess instrument;
-};
 
 TEST_F(WithInstrument, MeasuresAWholeDayOfSamples) {
   Start({});
