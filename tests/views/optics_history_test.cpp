@@ -91,8 +91,11 @@ TEST_F(History, AddsTheThicknessOfTheCurrentSlot) {
   Button("AddPoint")->click();
   EXPECT_EQ(messages.Take(), std::vector{nothing});
   state.Slot(3)->valid = true;
-  state.Slot(3)->thickness = {
-      .first = {700.0, 4.0}, .second = {800.0, 4.0}, .thicknessNm = 2800.0, .physical = false};
+  state.Slot(3)->thickness = {.first = {700.0, 4.0},
+                              .second = {800.0, 4.0},
+                              .thicknessNm = 2800.0,
+                              .physical = false,
+                              .extrema = {}};
   window.SetCurrentSlot(3);
   Button("AddPoint")->click();
   EXPECT_EQ(Labels(), "1 2800.0 1");
