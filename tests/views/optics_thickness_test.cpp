@@ -75,7 +75,7 @@ TEST_F(Thickness, KeepsTheIndexDerivedFromASubstrateWithItsSlot) {
   state.Slot(5)->reflectance[800] = 3.9;
   panel.Show(5);
   Press();
-  EXPECT_EQ(Text("Index2"), "1.638") << "N(3.9 %) is 1.4921";
+  EXPECT_EQ(Text("Index2"), "1.639") << "N(3.9 %) is 1.49215";
   panel.Show(4);
   EXPECT_EQ(Text("Index2"), "1.643");
   EXPECT_TRUE(messages.Take().empty());
