@@ -159,10 +159,10 @@ ChromaticityDiagram::ChromaticityDiagram(std::shared_ptr<BackgroundPicture> pict
   conditionsText_->setPositionAlignment(Qt::AlignRight | Qt::AlignTop);
   conditionsText_->position->setType(QCPItemPosition::ptAxisRectRatio);
   conditionsText_->position->setCoords(1.0, 0.0);
-  points_ = AddPoints(*this, theme::kText, 6.0);
-  lastPoint_ = AddPoints(*this, theme::kAccent, 10.0);
   marks_ = new DiagramMarks(this);
   marks_->setLayer(QStringLiteral("marks"));
+  points_ = AddPoints(*this, theme::kText, 6.0);
+  lastPoint_ = AddPoints(*this, theme::kAccent, 10.0);
 
   auto* escape = new QShortcut(Qt::Key_Escape, this);
   escape->setEnabled(picture_->IsBuilding());
@@ -177,6 +177,7 @@ void ChromaticityDiagram::ShowSlots(const VEXATYPE& state, int selectedSlot) {
   ShowFrame(conditions, state);
   const bool accumulated = state.accumulate && !state.stock.DiffersFrom(conditions);
   SetPoints(*points_, state.stock, 0, accumulated ? state.stock.Count : 0);
+  points_->setLayer(QStringLiteral("texts"));  // below the slots
   std::vector<SlotMark> marks;
   for (int number = 1; number <= kSlotCount; ++number) {
     const MeasurementSlot& slot = *state.Slot(number);
