@@ -10,20 +10,11 @@
 
 #include "colour/colorimetry.h"
 #include "colour/diagram_background.h"
+#include "support/silent_messages.h"
 #include "views/colour/background_picture.h"
 #include "views/colour/chromaticity_diagram.h"
-#include "views/common/theme.h"
 
 namespace {
-
-class NoMessages : public vexa::MessageService {
- public:
-  vexa::MessageResult MsgCall(const QString& /*text*/, std::int16_t /*type*/,
-                              const QString& /*title*/) override {
-    return vexa::MessageResult::kOk;
-  }
-  void Beep() override {}
-};
 
 // Fringes of different height and order.
 std::vector<vexa::ReflectanceSpectrum> Spectra(int count) {
@@ -66,7 +57,7 @@ BENCHMARK(BackgroundPoints)->Unit(benchmark::kMillisecond);
 // time: the longest that the event loop was kept from its next event. The argument is the side of
 // the diagram.
 void BackgroundInTheWidget(benchmark::State& state) {
-  NoMessages messages;
+  vexa::bench::SilentMessages messages;
   double longestMs = 0.0;
   while (state.KeepRunning()) {
     state.PauseTiming();
@@ -95,12 +86,3 @@ void BackgroundInTheWidget(benchmark::State& state) {
 BENCHMARK(BackgroundInTheWidget)->Arg(280)->Arg(560)->Unit(benchmark::kMillisecond);
 
 }  // namespace
-
-int main(int argc, char* argv[]) {
-  qputenv("QT_QPA_PLATFORM", "offscreen");
-  QApplication application(argc, argv);
-  vexa::ApplyTheme(application);
-  benchmark::Initialize(&argc, argv);
-  benchmark::RunSpecifiedBenchmarks();
-  return 0;
-}

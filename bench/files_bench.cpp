@@ -2,34 +2,17 @@
 #include <benchmark/benchmark.h>
 
 #include <QTemporaryDir>
-#include <cmath>
 
 #include "files/data_file.h"
+#include "support/silent_messages.h"
+#include "support/ten_slots.h"
 
 namespace {
 
-class Silence : public vexa::MessageService {
- public:
-  vexa::MessageResult MsgCall(const QString&, std::int16_t, const QString&) override {
-    return vexa::MessageResult::kOk;
-  }
-  void Beep() override {}
-};
-
-vexa::VEXATYPE TenSlots() {
-  vexa::VEXATYPE state;
-  for (int slot = 1; slot <= vexa::kSlotCount; ++slot) {
-    for (int nm = 440; nm <= 840; ++nm) {
-      state.Slot(slot)->reflectance[nm] = 4.0 + std::sin(nm * 0.013 * slot);
-    }
-    state.Slot(slot)->valid = true;
-  }
-  return state;
-}
-
 void WriteTenSlots(benchmark::State& state) {
   const QTemporaryDir directory;
-  const vexa::VEXATYPE slots10 = TenSlots();
+  vexa::VEXATYPE slots10;
+  vexa::bench::FillSlots(slots10);
   const QString path = directory.filePath(QStringLiteral("a.csv"));
   while (state.KeepRunning()) {
     if (!vexa::WriteDataFile(path, vexa::DataFileLayout::kCsv, slots10)) {
@@ -42,9 +25,10 @@ BENCHMARK(WriteTenSlots)->Unit(benchmark::kMillisecond);
 // Reading with the evaluation of all ten slots.
 void ReadTenSlots(benchmark::State& state) {
   const QTemporaryDir directory;
-  vexa::VEXATYPE slots10 = TenSlots();
+  vexa::VEXATYPE slots10;
+  vexa::bench::FillSlots(slots10);
   const QString path = directory.filePath(QStringLiteral("a.csv"));
-  Silence messages;
+  vexa::bench::SilentMessages messages;
   if (!vexa::WriteDataFile(path, vexa::DataFileLayout::kCsv, slots10)) {
     state.SkipWithError("not written");
   }

@@ -6,6 +6,7 @@
 #include <cmath>
 #include <cstdio>
 #include <random>
+#include <string>
 #include <vector>
 
 #include "instrument/h8_reply.h"
@@ -201,6 +202,32 @@ void PrintTruth(const std::vector<double>& coatsNm) {
   }
 }
 
+// How many of the extrema that a result counted the coat does not have.
+int FalseExtrema(const Outcome& outcome, int type, double thicknessNm) {
+  constexpr double kMostOffNm = 4.0;  // less than from one extremum to the next
+  const ExtremaWanted wanted =
+      type == ThicknessType::kB ? ExtremaWanted::kMaxima : ExtremaWanted::kBoth;
+  const auto between = [&outcome](double nm) {
+    return nm > outcome.firstNm - kMostOffNm && nm < outcome.secondNm + kMostOffNm;
+  };
+  const auto found = static_cast<int>(outcome.extrema);
+  return found -
+         static_cast<int>(std::ranges::count_if(TrueExtremaNm(thicknessNm, wanted), between));
+}
+
+// Why a result is outside its limit; empty when it is within.
+std::string WhyOutside(const Outcome& outcome, int type, double thicknessNm, bool noise) {
+  if (outcome.WithinLimit()) {
+    return {};
+  }
+  // Type A takes two neighbours, however many there are.
+  const int extra = type == ThicknessType::kA ? 0 : FalseExtrema(outcome, type, thicknessNm);
+  if (extra > 0) {
+    return "outside: " + std::to_string(extra) + " false";
+  }
+  return noise ? "outside: noise" : "outside: digitising";
+}
+
 // A row a result; the number of results outside their limit though no extremum is near an end.
 int PrintOnce(const std::vector<double>& coatsNm, const Conditions& conditions) {
   PrintHeader(conditions, "extrema | from nm | to nm | truth | result | deviation | limit | |");
@@ -218,7 +245,8 @@ int PrintOnce(const std::vector<double>& coatsNm, const Conditions& conditions) 
         unexplained += o.WithinLimit() || mayBeSplit ? 0 : 1;
         std::printf("| %.0f | %c | %s | %zu | %.1f | %.1f | %.1f | %.1f | %+.1f | %.1f | %s |\n",
                     coatNm, kTypes[type], kKinds[kind], o.extrema, o.firstNm, o.secondNm, o.truthNm,
-                    o.resultNm, o.Deviation(), o.limitNm, o.WithinLimit() ? "" : "outside");
+                    o.resultNm, o.Deviation(), o.limitNm,
+                    WhyOutside(o, type, coatNm, conditions.noise).c_str());
       }
     }
   }

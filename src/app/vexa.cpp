@@ -165,6 +165,10 @@ void VEXA::ConnectSequence() {
   });
   connect(&sequence_, &MeasurementSequence::SampleStored, this,
           [this](int slot) { bar_->SelectSlot(slot); });
+  connect(&sequence_, &MeasurementSequence::ThicknessMeasured, this,
+          [this](const ThicknessResult& result) {
+            ThicknessGraph().AddPointProc(result.thicknessNm, result.physical);
+          });
   connect(&sequence_, &MeasurementSequence::SlotsChanged, this, &VEXA::Refresh);
   connect(&sequence_, &MeasurementSequence::Ended, this, [this] {
     bar_->ShowAtRest();
@@ -216,13 +220,18 @@ void VEXA::TakeOverEnvironment() {
   }
 }
 
-void VEXA::ShowThicknessGraph() {
+ThickGraph& VEXA::ThicknessGraph() {
   if (thicknessGraph_ == nullptr) {
     thicknessGraph_ = new ThickGraph(state_, services_.messages, services_.dialogs, this);
   }
-  thicknessGraph_->SetCurrentSlot(GetOption());
-  thicknessGraph_->show();
-  thicknessGraph_->raise();
+  return *thicknessGraph_;
+}
+
+void VEXA::ShowThicknessGraph() {
+  ThickGraph& graph = ThicknessGraph();
+  graph.SetCurrentSlot(GetOption());
+  graph.show();
+  graph.raise();
 }
 
 void VEXA::Refresh() {

@@ -58,6 +58,7 @@ class VEXA : public QMainWindow {
   void StartController();
   [[nodiscard]] bool Unload();
   void TakeOverEnvironment();
+  ThickGraph& ThicknessGraph();
   void ShowThicknessGraph();
   void Refresh();
   void UpdateCommands();

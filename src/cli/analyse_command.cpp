@@ -21,7 +21,7 @@ struct SlotReport {
   int number = 0;
   const MeasurementSlot* slot = nullptr;
   bool colourOk = false;
-  ColourResult colour;  ///< not a number where it could not be computed
+  ColourResult colour;  ///< not a number what could not be computed
   std::optional<Status> thickness;
 };
 
@@ -29,15 +29,14 @@ struct Part {
   const char* name;
   double ColourResult::*value;
   const char16_t* pattern;
-  bool ofCalcColour;  ///< as all but the average reflectance
 };
 
 constexpr Part kColourParts[] = {
-    {"L", &ColourResult::L, u"##0.00", true},  {"a", &ColourResult::a, u"0.0000", true},
-    {"b", &ColourResult::b, u"0.0000", true},  {"x", &ColourResult::x, u"0.0000", true},
-    {"y", &ColourResult::y, u"0.0000", true},  {"C", &ColourResult::C, u"##0.000", true},
-    {"h", &ColourResult::h, u"##0.000", true}, {"Rm", &ColourResult::Rm, u"##0.0##", false},
-    {"Y", &ColourResult::Y, u"##0.0##", true},
+    {"L", &ColourResult::L, u"##0.00"},  {"a", &ColourResult::a, u"0.0000"},
+    {"b", &ColourResult::b, u"0.0000"},  {"x", &ColourResult::x, u"0.0000"},
+    {"y", &ColourResult::y, u"0.0000"},  {"C", &ColourResult::C, u"##0.000"},
+    {"h", &ColourResult::h, u"##0.000"}, {"Rm", &ColourResult::Rm, u"##0.0##"},
+    {"Y", &ColourResult::Y, u"##0.0##"},
 };
 
 void DeclareOptions(QCommandLineParser& parser) {
@@ -46,19 +45,14 @@ void DeclareOptions(QCommandLineParser& parser) {
   DeclareAnalysisOptions(parser);
 }
 
-// The slot itself does not tell whether its colour could be computed.
+// The slot itself does not tell what of its colour could be computed.
 void FillColour(const ColourSettings& settings, SlotReport& report) {
-  constexpr double kNone = std::numeric_limits<double>::quiet_NaN();
-  ColourResult colour;
-  report.colourOk = CalcColour(report.slot->reflectance, settings, colour);
-  colour.Rm = kNone;
-  (void)AverageReflectance(report.slot->reflectance, settings.avgFrom, settings.avgTo, colour.Rm);
+  ColourResult& colour = report.colour;
   for (const Part& part : kColourParts) {
-    if (part.ofCalcColour && !report.colourOk) {
-      colour.*part.value = kNone;
-    }
+    colour.*part.value = std::numeric_limits<double>::quiet_NaN();
   }
-  report.colour = colour;
+  report.colourOk = CalcColour(report.slot->reflectance, settings, colour);
+  (void)AverageReflectance(report.slot->reflectance, settings.avgFrom, settings.avgTo, colour.Rm);
 }
 
 std::vector<SlotReport> Evaluate(VEXATYPE& state, MessageService& messages) {
@@ -196,7 +190,7 @@ int Analyse(const QCommandLineParser& parser) {
       PrintJudgements(reports);
     }
     if (state.thickness.enabled) {
-      PrintThicknesses(reports, ThicknessUnit(state.thickness.kind == ThicknessKind::kPhysical));
+      PrintThicknesses(reports, ThicknessUnit(state.thickness.kind != ThicknessKind::kOptical));
     }
   }
   return parser.isSet(option::kStandard) && AnyNotGood(state) ? kJudgedNotGood : int{kDone};

@@ -5,9 +5,9 @@
 #include <functional>
 
 #include "base/number_text.h"
+#include "cli/program_settings.h"
 #include "files/configuration.h"
 #include "measurement/dispersion_data.h"
-#include "optics/bunsan.h"
 #include "standards/standard_file.h"
 
 namespace vexa::cli {
@@ -17,6 +17,7 @@ const QString kEnv = QStringLiteral("env");
 const QString kIlluminant = QStringLiteral("illuminant");
 const QString kObserver = QStringLiteral("observer");
 const QString kAverage = QStringLiteral("average");
+const QString kThickness = QStringLiteral("thickness");
 const QString kType = QStringLiteral("type");
 const QString kThicknessKind = QStringLiteral("thickness-kind");
 const QString kIndex = QStringLiteral("index");
@@ -91,18 +92,6 @@ bool TakeCoat(const QCommandLineParser& parser, DispersionSetting& coat) {
   return true;
 }
 
-bool BuildCoat(VEXATYPE& state, MessageService& messages) {
-  ReflectanceSpectrum coat;
-  const Status status = GetBunsanArray(false, state.thickness.coat, coat, messages);
-  if (status != 0) {
-    messages.MsgCall(QStringLiteral("ｲﾝﾃﾞｯｸｽ\r") + DispersionStatusText(status),
-                     message_type::kOk + message_type::kWarningIcon, QStringLiteral("VEXA-KT"));
-    return false;
-  }
-  StoreCoatSpectrum(state, coat);
-  return true;
-}
-
 }  // namespace
 
 void DeclareAnalysisOptions(QCommandLineParser& parser) {
@@ -115,8 +104,8 @@ void DeclareAnalysisOptions(QCommandLineParser& parser) {
   add(kAverage, "Range of the average reflectance in nm.", "FROM-TO");
   add(option::kStandard, "Judges every slot; exit status 3 when a group is NG.", "FILE.std");
   parser.addOption(
-      {option::kThickness, QStringLiteral("Computes the thickness even when the environment has it "
-                                          "disabled.")});
+      {kThickness, QStringLiteral("Computes the thickness even when the environment has it "
+                                  "disabled.")});
   add(kType, "Extrema of the thickness: A (two minima), B (maxima) or C (both).", "TYPE");
   add(kThicknessKind, "Thickness: physical or optical.", "KIND");
   add(kIndex, "Index of the film: a number or an index file.", "V|FILE.ind");
@@ -140,10 +129,10 @@ ExitStatus TakeAnalysisOptions(const QCommandLineParser& parser, VEXATYPE& state
     LoadDispersionData(state, messages);
   }
   (void)TakeWords(parser, state);
-  if (TakeCoat(parser, state.thickness.coat) && !BuildCoat(state, messages)) {
+  if (TakeCoat(parser, state.thickness.coat) && !LoadCoatData(state, messages)) {
     return kFailed;
   }
-  if (parser.isSet(option::kThickness)) {
+  if (parser.isSet(kThickness)) {
     state.thickness.enabled = true;
   }
   if (parser.isSet(option::kStandard)) {

@@ -10,11 +10,6 @@
 namespace vexa::cli {
 
 /// Options that change how a data file is analysed, each in the place of what the environment says.
-namespace option {
-inline const QString kStandard = QStringLiteral("standard");
-inline const QString kThickness = QStringLiteral("thickness");
-}  // namespace option
-
 void DeclareAnalysisOptions(QCommandLineParser& parser);
 
 /// Takes the options over into a state that has its settings; kDone, or the exit status after a

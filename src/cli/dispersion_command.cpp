@@ -12,7 +12,6 @@ namespace vexa::cli {
 namespace {
 
 const QString kAsReflectance = QStringLiteral("as-reflectance");
-const QString kOut = QStringLiteral("out");
 
 struct Source {
   QString name;
@@ -44,7 +43,8 @@ void DeclareOptions(QCommandLineParser& parser) {
   parser.addOption(
       {kAsReflectance,
        QStringLiteral("Gives the reflectance of a bare surface in percent (formulas alone).")});
-  parser.addOption({kOut, QStringLiteral("Writes the spectrum as an index or a reference file."),
+  parser.addOption({option::kOut,
+                    QStringLiteral("Writes the spectrum as an index or a reference file."),
                     QStringLiteral("FILE.ind|FILE.ref")});
 }
 
@@ -139,8 +139,8 @@ int Dispersion(const QCommandLineParser& parser) {
   } else if (status == 0) {
     Print(SpectrumText(ReflectanceSpectrum::kFirstNm, spectrum.Values()));
   }
-  const bool written =
-      status != 0 || !parser.isSet(kOut) || WriteOut(parser.value(kOut), asReflectance, spectrum);
+  const bool written = status != 0 || !parser.isSet(option::kOut) ||
+                       WriteOut(parser.value(option::kOut), asReflectance, spectrum);
   return status == 0 && written ? kDone : kFailed;
 }
 

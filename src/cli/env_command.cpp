@@ -7,12 +7,10 @@
 namespace vexa::cli {
 namespace {
 
-const QString kOut = QStringLiteral("out");
-
 void DeclareOptions(QCommandLineParser& parser) {
   parser.addPositionalArgument(QStringLiteral("FILE"), QStringLiteral("Environment file."));
   parser.addOption(
-      {kOut, QStringLiteral("Writes it in the current layout."), QStringLiteral("FILE")});
+      {option::kOut, QStringLiteral("Writes it in the current layout."), QStringLiteral("FILE")});
 }
 
 struct JsonValue {
@@ -47,8 +45,9 @@ int Environment(const QCommandLineParser& parser) {
                 .arg(std::visit(JsonValue{}, lines[number]).toVariant().toString()));
     }
   }
-  if (result.read && parser.isSet(kOut) && !WriteEnvFile(parser.value(kOut), state)) {
-    Complain(QStringLiteral("%1: cannot be written").arg(parser.value(kOut)));
+  if (result.read && parser.isSet(option::kOut) &&
+      !WriteEnvFile(parser.value(option::kOut), state)) {
+    Complain(QStringLiteral("%1: cannot be written").arg(parser.value(option::kOut)));
     return kFailed;
   }
   return result.read ? kDone : kFailed;

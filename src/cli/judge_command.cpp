@@ -11,7 +11,6 @@
 namespace vexa::cli {
 namespace {
 
-const QString kStandard = QStringLiteral("standard");
 const std::array<QString, kStandardGroupCount> kUnits{QStringLiteral(" %"),
                                                       QStringLiteral(" %"),
                                                       QStringLiteral(" %"),
@@ -20,8 +19,10 @@ const std::array<QString, kStandardGroupCount> kUnits{QStringLiteral(" %"),
                                                       QStringLiteral("°")};
 
 void DeclareOptions(QCommandLineParser& parser) {
-  parser.addOption(
-      {kStandard, QStringLiteral("The standards to judge by."), QStringLiteral("FILE.std")});
+  parser.addPositionalArgument(QStringLiteral("FILE"),
+                               QStringLiteral("A data file (*.csv or *.dat)."));
+  parser.addOption({option::kStandard, QStringLiteral("The standards to judge by."),
+                    QStringLiteral("FILE.std")});
 }
 
 QString SignedMargin(double margin) {
@@ -74,13 +75,13 @@ QJsonArray SlotsJson(const VEXATYPE& state) {
 }
 
 int Judge(const QCommandLineParser& parser) {
-  if (!parser.isSet(kStandard)) {
+  if (!parser.isSet(option::kStandard)) {
     Complain(QStringLiteral("judge needs --standard FILE.std"));
     return kUsageError;
   }
   ConsoleMessages messages(parser.isSet(option::kNo));
   VEXATYPE state = LoadSettings(parser, messages);
-  const QString standard = parser.value(kStandard);
+  const QString standard = parser.value(option::kStandard);
   state.standard = {};
   if (!ReadStandardFile(standard, state.standard, state.chromaMarker, state.hueMarker, messages)) {
     Complain(QStringLiteral("%1: not a readable standard file").arg(standard));

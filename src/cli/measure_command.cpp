@@ -14,12 +14,10 @@ namespace {
 
 const QString kPort = QStringLiteral("port");
 const QString kDevice = QStringLiteral("device");
-const QString kOut = QStringLiteral("out");
 const QString kSamplingTime = QStringLiteral("sampling-time");
 const QString kAveraging = QStringLiteral("averaging");
 const QString kSamples = QStringLiteral("samples");
 const QString kPrompt = QStringLiteral("prompt");
-const QString kShift = QStringLiteral("shift");
 const QString kReplyTimeout = QStringLiteral("reply-timeout");
 
 void DeclareOptions(QCommandLineParser& parser) {
@@ -28,14 +26,14 @@ void DeclareOptions(QCommandLineParser& parser) {
   };
   add(kPort, "Serial port number of the controller; 0 is the control box on the GP-IB.", "N");
   add(kDevice, "Device of the controller, instead of a port number.", "PATH");
-  add(kOut, "Data file for the measured slots.", "FILE");
+  add(option::kOut, "Data file for the measured slots.", "FILE");
   add(kSamplingTime, "Integration time of a line, 30 to 20000 ms (default: from the environment).",
       "MS");
   add(kAveraging, "Lines averaged for a frame, 1 to 16 (default 1).", "N");
   add(kSamples, "Samples to measure, 1 to 10 (default 1).", "N");
   parser.addOption({kPrompt, QStringLiteral("Waits for Enter before each measurement.")});
   DeclareReferenceReflectance(parser);
-  add(kShift, "Calibration shift, 0 to 7 nm (default: from vexa.cal, else 4).", "K");
+  add(option::kShift, "Calibration shift, 0 to 7 nm (default: from vexa.cal, else 4).", "K");
   add(kReplyTimeout, "Longest wait for a reply of the controller (default 40000 ms).", "MS");
 }
 
@@ -53,7 +51,7 @@ bool ReadSettings(const QCommandLineParser& parser, VEXATYPE& state) {
   InstrumentSettings& instrument = state.instrument;
   const auto timeMs = IntegerOption(parser, kSamplingTime, instrument.samplingTimeMs, 30, 20000);
   const auto averaging = IntegerOption(parser, kAveraging, instrument.averagingCount, 1, 16);
-  const auto shift = IntegerOption(parser, kShift, instrument.calibrationShiftNm, 0, 7);
+  const auto shift = IntegerOption(parser, option::kShift, instrument.calibrationShiftNm, 0, 7);
   if (!timeMs || !averaging || !shift) {
     return false;
   }
@@ -71,7 +69,7 @@ std::optional<Plan> ReadPlan(const QCommandLineParser& parser, const VEXATYPE& s
   if (!port || !samples || !timeoutMs) {
     return std::nullopt;
   }
-  if (!parser.isSet(kOut) || parser.value(kOut).isEmpty()) {
+  if (!parser.isSet(option::kOut) || parser.value(option::kOut).isEmpty()) {
     Complain(QStringLiteral("measure needs --out FILE"));
     return std::nullopt;
   }
@@ -79,7 +77,7 @@ std::optional<Plan> ReadPlan(const QCommandLineParser& parser, const VEXATYPE& s
     Complain(QStringLiteral("measure needs --port N or --device PATH"));
     return std::nullopt;
   }
-  return Plan{*port,      parser.value(kDevice), parser.value(kOut), *samples,
+  return Plan{*port,      parser.value(kDevice), parser.value(option::kOut), *samples,
               *timeoutMs, parser.isSet(kPrompt)};
 }
 

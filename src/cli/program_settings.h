@@ -9,12 +9,15 @@
 
 namespace vexa::cli {
 
-/// Options that every command takes.
+/// Options of every command, and those of several.
 namespace option {
 inline const QString kJson = QStringLiteral("json");
 inline const QString kDir = QStringLiteral("dir");
 inline const QString kNo = QStringLiteral("no");
+inline const QString kOut = QStringLiteral("out");
 inline const QString kReferenceReflectance = QStringLiteral("reference-reflectance");
+inline const QString kShift = QStringLiteral("shift");
+inline const QString kStandard = QStringLiteral("standard");
 }  // namespace option
 
 /// The state with the settings of the program directory, as the window has it after its start.

@@ -11,8 +11,6 @@
 namespace vexa::cli {
 namespace {
 
-const QString kShift = QStringLiteral("shift");
-
 struct FrameOption {
   QString name;
   RawSpectrum spectrum;
@@ -25,7 +23,8 @@ void DeclareOptions(QCommandLineParser& parser) {
                       QStringLiteral("LINES.bin")});
   }
   parser.addOption(
-      {kShift, QStringLiteral("Calibration shift, 0 to 7 nm (default: from vexa.cal, else 4)."),
+      {option::kShift,
+       QStringLiteral("Calibration shift, 0 to 7 nm (default: from vexa.cal, else 4)."),
        QStringLiteral("K")});
   DeclareReferenceReflectance(parser);
 }
@@ -34,7 +33,7 @@ int Reflectance(const QCommandLineParser& parser) {
   ConsoleMessages messages(parser.isSet(option::kNo));
   VEXATYPE state = LoadSettings(parser, messages);
   const std::optional<int> shift =
-      IntegerOption(parser, kShift, state.instrument.calibrationShiftNm, 0, 7);
+      IntegerOption(parser, option::kShift, state.instrument.calibrationShiftNm, 0, 7);
   if (!shift) {
     return kUsageError;
   }

@@ -4,15 +4,15 @@
 #include "cli/console.h"
 #include "cli/program_settings.h"
 #include "cli/text_columns.h"
+#include "standards/condition_caption.h"
 #include "standards/standard_file.h"
 
 namespace vexa::cli {
 namespace {
 
-const QString kOut = QStringLiteral("out");
-
 void DeclareOptions(QCommandLineParser& parser) {
-  parser.addOption({kOut, QStringLiteral("Writes the standards in the current layout."),
+  parser.addPositionalArgument(QStringLiteral("FILE"), QStringLiteral("A standard file (*.std)."));
+  parser.addOption({option::kOut, QStringLiteral("Writes the standards in the current layout."),
                     QStringLiteral("FILE")});
 }
 
@@ -68,7 +68,7 @@ QString ToText(const Contents& contents) {
   const StandardSet& standard = contents.standard;
   QList<QStringList> rows{{QStringLiteral("反射率"), OnOff(standard.useReflectance)}};
   for (std::size_t k = 0; k < kConditionCount; ++k) {
-    rows << Row(QStringLiteral("条件%1").arg(k + 1), standard.conditions[k],
+    rows << Row(ConditionCaption(k), standard.conditions[k],
                 QStringLiteral("%1 nm").arg(standard.wavelengths[k]));
   }
   rows << Row(QStringLiteral("平均反射率"), standard.averageReflectance)
@@ -98,9 +98,10 @@ int Standard(const QCommandLineParser& parser) {
     }
     return kFailed;
   }
-  if (parser.isSet(kOut) && !WriteStandardFile(parser.value(kOut), contents.standard,
-                                               contents.chromaMarker, contents.hueMarker)) {
-    Complain(QStringLiteral("%1: cannot be written").arg(parser.value(kOut)));
+  if (parser.isSet(option::kOut) &&
+      !WriteStandardFile(parser.value(option::kOut), contents.standard, contents.chromaMarker,
+                         contents.hueMarker)) {
+    Complain(QStringLiteral("%1: cannot be written").arg(parser.value(option::kOut)));
     return kFailed;
   }
   if (parser.isSet(option::kJson)) {

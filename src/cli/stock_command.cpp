@@ -10,11 +10,10 @@
 namespace vexa::cli {
 namespace {
 
-const QString kOut = QStringLiteral("out");
-
 void DeclareOptions(QCommandLineParser& parser) {
   parser.addPositionalArgument(QStringLiteral("FILE"), QStringLiteral("A stock file (*.stc)."));
-  parser.addOption({kOut, QStringLiteral("Writes the points as a stock file of this version."),
+  parser.addOption({option::kOut,
+                    QStringLiteral("Writes the points as a stock file of this version."),
                     QStringLiteral("FILE")});
 }
 
@@ -65,8 +64,8 @@ int Stock(const QCommandLineParser& parser) {
   if (!read) {
     return kFailed;
   }
-  if (parser.isSet(kOut) && !WriteStockFile(parser.value(kOut), stock)) {
-    Complain(QStringLiteral("%1: cannot be written").arg(parser.value(kOut)));
+  if (parser.isSet(option::kOut) && !WriteStockFile(parser.value(option::kOut), stock)) {
+    Complain(QStringLiteral("%1: cannot be written").arg(parser.value(option::kOut)));
     return kFailed;
   }
   return kDone;

@@ -23,13 +23,19 @@ void StoreCoatSpectrum(VEXATYPE& state, const ReflectanceSpectrum& spectrum) {
                                                            : state.filmIndex) = spectrum;
 }
 
+bool LoadCoatData(VEXATYPE& state, MessageService& messages) {
+  ReflectanceSpectrum coat;
+  if (!Build(false, state.thickness.coat, QStringLiteral("ｲﾝﾃﾞｯｸｽ"), coat, messages)) {
+    return false;
+  }
+  StoreCoatSpectrum(state, coat);
+  return true;
+}
+
 void LoadDispersionData(VEXATYPE& state, MessageService& messages) {
   Build(true, state.referenceSetting, QStringLiteral("ﾘﾌｧﾚﾝｽ"), state.referenceReflectance,
         messages);
-  ReflectanceSpectrum coat;
-  if (Build(false, state.thickness.coat, QStringLiteral("ｲﾝﾃﾞｯｸｽ"), coat, messages)) {
-    StoreCoatSpectrum(state, coat);
-  }
+  LoadCoatData(state, messages);
 }
 
 }  // namespace vexa

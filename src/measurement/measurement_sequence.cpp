@@ -120,14 +120,16 @@ void MeasurementSequence::StoreSample(int slotNumber) {
   slot.reflectance =
       ComputeReflectance(state_.sample, state_.background, state_.reference,
                          state_.instrument.calibrationShiftNm, state_.referenceReflectance);
-  slot.info.measuredAt = clock_();
   EvaluateSlot(state_, slot, messages_);
+  slot.info.measuredAt = clock_();
   slot.thickness = {};
-  if (state_.autoThickness && state_.thickness.enabled) {
-    ComputeSlotThickness(state_, slot, messages_);
-  }
+  const bool thicknessMeasured = state_.autoThickness && state_.thickness.enabled &&
+                                 ComputeSlotThickness(state_, slot, messages_) == 0;
   slot.valid = true;
   emit SampleStored(slotNumber);
+  if (thicknessMeasured) {
+    emit ThicknessMeasured(slot.thickness);
+  }
 }
 
 bool MeasurementSequence::RequireMeasured(bool measured, const QString& request) {

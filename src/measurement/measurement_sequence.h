@@ -49,6 +49,8 @@ class MeasurementSequence : public QObject {
   void Ended(vexa::MeasurementKind kind, int slot);
   /// A sample was measured into the slot and evaluated.
   void SampleStored(int slot);
+  /// The thickness of the sample just stored was computed, too.
+  void ThicknessMeasured(const vexa::ThicknessResult& result);
   void SlotsChanged();
 
  private:

@@ -34,13 +34,11 @@ void DeriveFilmIndex(const ReflectanceSpectrum& substrateIndex, const Reflectanc
 }
 
 // `orders` is the number of interference orders between the two extrema.
-double Formula(std::int16_t kind, double orders, const ThicknessResult& pair,
-               const ReflectanceSpectrum& filmIndex) {
+double Formula(double orders, const ThicknessResult& pair) {
   const double w1 = pair.first.wavelengthNm;
   const double w2 = pair.second.wavelengthNm;
-  const bool physical = kind == ThicknessKind::kPhysical;
-  const double n1 = physical ? filmIndex[NearestNm(w1)] : 1.0;
-  const double n2 = physical ? filmIndex[NearestNm(w2)] : 1.0;
+  const double n1 = pair.physical ? pair.firstIndex : 1.0;
+  const double n2 = pair.physical ? pair.secondIndex : 1.0;
   return Divide(orders * 0.5 * w1 * w2, n1 * w2 - n2 * w1);
 }
 
@@ -66,12 +64,14 @@ Status Compute(std::int16_t type, std::int16_t kind, bool deriveIndex,
   if (deriveIndex) {
     DeriveFilmIndex(substrateIndex, spectrum, filmIndex);
   }
+  result.physical = kind != ThicknessKind::kOptical;
+  result.firstIndex = filmIndex[NearestNm(result.first.wavelengthNm)];
+  result.secondIndex = filmIndex[NearestNm(result.second.wavelengthNm)];
   if (kind != ThicknessKind::kPhysical && kind != ThicknessKind::kOptical) {
     return type == ThicknessType::kA ? kThicknessFault : Status{0};
   }
   const double steps = static_cast<double>(used.size() - 1);
-  result.thicknessNm =
-      Formula(kind, type == ThicknessType::kC ? steps / 2.0 : steps, result, filmIndex);
+  result.thicknessNm = Formula(type == ThicknessType::kC ? steps / 2.0 : steps, result);
   return 0;
 }
 

@@ -4,6 +4,7 @@
 #include <QString>
 #include <cstdint>
 
+#include "base/flag.h"
 #include "base/spectrum.h"
 #include "base/status.h"
 #include "optics/extremum_list.h"
@@ -33,7 +34,13 @@ struct ThicknessResult {
   ExtremumPoint first;  ///< the two extrema in the formula
   ExtremumPoint second;
   double thicknessNm = 0.0;
+  Flag physical = true;     ///< otherwise index times thickness
+  double firstIndex = 0.0;  ///< of the film at the two extrema
+  double secondIndex = 0.0;
   ExtremumList extrema;
+
+  /// Two extrema always have wavelengths.
+  [[nodiscard]] bool IsComputed() const { return first.wavelengthNm > 0.0; }
 };
 
 /// The thickness of a single film from the interference extrema of a reflectance spectrum.

@@ -12,6 +12,7 @@
 #include <QRadioButton>
 #include <QTest>
 #include <QTimer>
+#include <cmath>
 
 #include "files/environment_file.h"
 #include "instrument/frm_com_h8_ctrl.h"
@@ -416,6 +417,34 @@ TEST_F(MainWindow, CursorFollowsClickKeysAndJump) {
     });
     EXPECT_EQ(graph->CursorNm(), nm);
   }
+}
+
+TEST_F(MainWindow, AutomaticThicknessesGoIntoTheHistory) {
+  test::TemporaryFiles settings;
+  VEXATYPE state;
+  state.thickness.enabled = true;
+  state.thickness.type = ThicknessType::kC;
+  ASSERT_TRUE(WriteEnvFile(settings.Path("a.env"), state));
+  files.open = settings.Path("a.env");
+  window.Commands().openEnvironment->trigger();
+  MeasureThrough(1);
+  QByteArray fringes;
+  for (int pixel = 0; pixel < 512; ++pixel) {
+    fringes +=
+        test::FlatLines(1, 300 + static_cast<int>(std::lround(150.0 * std::sin(pixel / 20.0))))
+            .first(2);
+  }
+  window.findChild<QAbstractButton*>(QStringLiteral("AutoMesThickChk"))->click();
+  peer.SetLines(fringes);
+  Button("Mes2")->click();
+  EXPECT_EQ(messages.Take(), std::vector<ShownMessage>{});
+  const ThicknessHistory& history = window.State().thicknessHistory;
+  ASSERT_EQ(history.count, 1);
+  EXPECT_EQ(history.values[0], window.State().Slot(2)->thickness.thicknessNm);
+  EXPECT_GT(history.values[0], 0.0);
+  Press("Mes3", 300);
+  EXPECT_EQ(messages.Take().size(), 1U) << "a flat spectrum has no thickness";
+  EXPECT_EQ(history.count, 1);
 }
 
 TEST_F(MainWindow, VerdictsStandInTheStatusBar) {

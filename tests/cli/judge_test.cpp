@@ -144,7 +144,7 @@ TEST_F(Judging, StandardShowsAndRewritesAFile) {
 
   EXPECT_EQ(Run(command + QStringList{QStringLiteral("--out"), File("missing/b.std")}), 1);
   EXPECT_EQ(Run(command), 0);
-  EXPECT_TRUE(out.contains("条件2       on    0.5 ..       2    700 nm\n")) << out.constData();
+  EXPECT_TRUE(out.contains("条件２      on    0.5 ..       2    700 nm\n")) << out.constData();
 }
 
 }  // namespace

@@ -3,10 +3,8 @@
 
 #include <gtest/gtest.h>
 
-#include <QFile>
-#include <QTemporaryDir>
-
 #include "colour/stock_file.h"
+#include "support/temporary_files.h"
 
 namespace vexa {
 namespace {
@@ -21,21 +19,12 @@ const ColourResult kColour{.L = 70.0,
                            .Rm = 50.0,
                            .Y = 40.75};
 
+constexpr const char* kName = "色度 1.stc";
+
 class StockFile : public testing::Test {
  protected:
-  void Put(const QByteArray& bytes) const {
-    QFile file(path_);
-    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
-    ASSERT_EQ(file.write(bytes), bytes.size());
-  }
-  [[nodiscard]] QByteArray Content() const {
-    QFile file(path_);
-    EXPECT_TRUE(file.open(QIODevice::ReadOnly));
-    return file.readAll();
-  }
-
-  QTemporaryDir directory_{QDir::tempPath() + QStringLiteral("/累 積-XXXXXX")};
-  QString path_ = directory_.filePath(QStringLiteral("色度 1.stc"));
+  test::TemporaryFiles files_;
+  QString path_ = files_.Path(kName);
 };
 
 TEST(ColourStock, TakesAHundredPointsAndNoMore) {
@@ -81,10 +70,10 @@ TEST_F(StockFile, IsWrittenAndReadByteForByte) {
   (void)stock.StockAdd(kColour, false);
   (void)stock.StockAdd({.L = -0.0000012, .a = 0.1234567, .b = 4e-7}, false);
   ASSERT_TRUE(WriteStockFile(path_, stock));
-  EXPECT_EQ(Content(), kGolden);
+  EXPECT_EQ(files_.Read(kName), kGolden);
 
   for (const char* version : {"3.21", "3.00"}) {
-    Put(QByteArray(kGolden).replace("3.21", version));
+    files_.Write(kName, QByteArray(kGolden).replace("3.21", version));
     ColourStock read;
     (void)read.StockAdd(kColour, true);
     (void)read.StockAdd(kColour, true);
@@ -94,7 +83,7 @@ TEST_F(StockFile, IsWrittenAndReadByteForByte) {
     EXPECT_EQ(read.P1[1], 0.123457);
     EXPECT_EQ(read.P1[2], 0.0) << "no point of before is left";
     ASSERT_TRUE(WriteStockFile(path_, read));
-    EXPECT_EQ(Content(), kGolden) << version;
+    EXPECT_EQ(files_.Read(kName), kGolden) << version;
   }
 }
 
@@ -127,7 +116,7 @@ TEST_F(StockFile, ABadFileEndsTheReadingAndKeepsWhatWasRead) {
       {"number beyond a double", conditions + " 1 \r\n1,1E999,3\r\n", false, 4, 0},
   };
   for (const Case& c : cases) {
-    Put(c.bytes);
+    files_.Write(kName, c.bytes);
     ColourStock stock;
     (void)stock.StockAdd(kColour, true);
     EXPECT_FALSE(ReadStockFile(path_, stock)) << c.defect;
@@ -137,7 +126,7 @@ TEST_F(StockFile, ABadFileEndsTheReadingAndKeepsWhatWasRead) {
     EXPECT_EQ(stock.P1[2], 0.0) << c.defect;
   }
   ColourStock stock;
-  EXPECT_FALSE(ReadStockFile(directory_.filePath(QStringLiteral("none.stc")), stock));
+  EXPECT_FALSE(ReadStockFile(files_.Path("none.stc"), stock));
   EXPECT_FALSE(WriteStockFile(QStringLiteral("/nowhere/file.stc"), stock));
   EXPECT_EQ(StockReadErrorText(),
             QStringLiteral("ﾃﾞｰﾀ･ﾌｧｲﾙの読み込みでエラーが発生しました。\r\r"

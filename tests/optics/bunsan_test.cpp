@@ -3,27 +3,17 @@
 
 #include <gtest/gtest.h>
 
-#include <QDir>
-#include <QFile>
-#include <QTemporaryDir>
 #include <functional>
 
 #include "base/text_file.h"
 #include "optics/index_file.h"
+#include "support/prepared_answers.h"
+#include "support/temporary_files.h"
 
 namespace vexa {
 namespace {
 
-class MessageLog : public MessageService {
- public:
-  MessageResult MsgCall(const QString& text, std::int16_t type, const QString& title) override {
-    shown << title + u'|' + QString::number(type) + u'|' + text;
-    return MessageResult::kOk;
-  }
-  void Beep() override {}
-
-  QStringList shown;
-};
+constexpr const char* kName = "屈折 率 1.ind";
 
 ReflectanceSpectrum Sevens() {
   ReflectanceSpectrum spectrum;
@@ -44,7 +34,7 @@ TEST(Bunsan, GlassesHaveTheirCatalogueIndices) {
   bk7.kind = DispersionKind::kSchott;
   bk7.schott = {2.2718929, -1.0108077E-2, 1.0592509E-2, 2.0816965E-4, -7.6472538E-6, 4.9240991E-7};
   constexpr double kHalfLastDigit = 5.1E-6;
-  MessageLog messages;
+  test::PreparedAnswers messages;
   ReflectanceSpectrum result;
   for (const DispersionSetting& glass : {nbk7, bk7}) {
     ASSERT_EQ(GetBunsanArray(false, glass, result, messages), 0);
@@ -83,7 +73,7 @@ TEST(Bunsan, SettingsWithoutAResultLeaveTheArray) {
       {"pole at 835 nm in the last term", 2, {0, 0, -1, 0, 0, 0.697225}, false, 1, 7.0},
       {"fixed value stays", 0, {}, true, 0, 1.2},
   };
-  MessageLog messages;
+  test::PreparedAnswers messages;
   for (const Case& c : cases) {
     DispersionSetting setting = DefaultCoatSetting();
     setting.kind = c.kind;
@@ -93,31 +83,23 @@ TEST(Bunsan, SettingsWithoutAResultLeaveTheArray) {
     EXPECT_DOUBLE_EQ(result[440], c.at440) << c.name;
     EXPECT_DOUBLE_EQ(result[840], c.at440) << c.name;
   }
-  EXPECT_TRUE(messages.shown.isEmpty());
+  EXPECT_TRUE(messages.Take().empty());
 }
 
 TEST(Bunsan, UnknownKindIsShownAndGivesZeros) {
   DispersionSetting setting = DefaultReferenceSetting();
   setting.kind = 5;
-  MessageLog messages;
+  test::PreparedAnswers messages;
   ReflectanceSpectrum result = Sevens();
   EXPECT_EQ(GetBunsanArray(true, setting, result, messages), 0);
   EXPECT_EQ(result, ReflectanceSpectrum());
-  EXPECT_EQ(messages.shown,
-            QStringList(QStringLiteral("VEXA-KT|16|Erroro GetBunsanArray(Bunsan.Bas)")));
+  EXPECT_EQ(messages.Take(),
+            (std::vector<test::ShownMessage>{{"VEXA-KT: Erroro GetBunsanArray(Bunsan.Bas)", 16}}));
 }
 
 class BunsanFiles : public testing::Test {
  protected:
-  [[nodiscard]] QString Path() const {
-    return directory_.filePath(QStringLiteral("屈折 率 1.ind"));
-  }
-
-  void Write(const QByteArray& bytes) const {
-    QFile file(Path());
-    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
-    file.write(bytes);
-  }
+  [[nodiscard]] QString Path() const { return files.Path(kName); }
 
   // The status of the file read as `kind`; `result` is 7 everywhere before.
   Status Read(std::int16_t kind) {
@@ -125,15 +107,13 @@ class BunsanFiles : public testing::Test {
     setting.kind = kind;
     setting.indexFileName = setting.dataFileName = Path();
     result = Sevens();
-    messages.shown.clear();
+    messages.Take();
     return GetBunsanArray(true, setting, result, messages);
   }
 
-  MessageLog messages;
+  test::PreparedAnswers messages;
+  test::TemporaryFiles files;
   ReflectanceSpectrum result;
-
- private:
-  QTemporaryDir directory_{QDir::tempPath() + QStringLiteral("/光 学-XXXXXX")};
 };
 
 QByteArray Repeated(int count, const std::function<QByteArray(int)>& row) {
@@ -150,9 +130,7 @@ TEST_F(BunsanFiles, IndexFileHasItsExactForm) {
   values[441] = -0.000012345678949;
   values[840] = 110.0;
   ASSERT_TRUE(WriteIndexFile(Path(), IndexFileContent::kReferenceReflectance, values));
-  QFile file(Path());
-  ASSERT_TRUE(file.open(QIODevice::ReadOnly));
-  EXPECT_EQ(file.readAll(),
+  EXPECT_EQ(files.Read(kName),
             "VEXA-KT 440-840 Ver 3.21 Reference File\r\n1.51680000E+00\r\n"
             "-1.23456789E-05\r\n" +
                 QByteArray("0.00000000E+00\r\n").repeated(398) + "1.10000000E+02\r\n");
@@ -184,12 +162,12 @@ TEST_F(BunsanFiles, IndexFilesByTheirDefect) {
   };
   EXPECT_EQ(Read(DispersionKind::kIndexFile), 2) << "missing";
   for (const Case& c : cases) {
-    Write(c.bytes);
+    files.Write(kName, c.bytes);
     EXPECT_EQ(Read(DispersionKind::kIndexFile), c.status) << c.name;
     EXPECT_EQ(result[440], c.status == 0 ? 1.5 : 7.0) << c.name;
     EXPECT_EQ(result[840], c.status == 0 ? 1.5 : 7.0) << c.name;
   }
-  EXPECT_TRUE(messages.shown.isEmpty());
+  EXPECT_TRUE(messages.Take().empty());
 }
 
 TEST_F(BunsanFiles, SubstrateFilesOfAllLayouts) {
@@ -206,37 +184,37 @@ TEST_F(BunsanFiles, SubstrateFilesOfAllLayouts) {
   const QByteArray titles = "Wave,2,3,4,5,6,7,8,9,10\r\n";
   const QByteArray old = "VEXA for Windows ver 1.10 Data File\r\n";
   const QByteArray block = "a comment, with commas\r\n 1 \r\nsample\r\n";
-  const QByteArray message =
-      QStringLiteral("VEXA-KT|16|ﾃﾞｰﾀ･ﾌｧｲﾙの読み込みでエラーが発生しました。").toUtf8();
+  const test::ShownMessage message{"VEXA-KT: ﾃﾞｰﾀ･ﾌｧｲﾙの読み込みでエラーが発生しました。", 16};
   struct Case {
     const char* name;
     QByteArray bytes;
     Status status;
-    QByteArray shown;
+    bool told = false;
   };
   const Case cases[] = {
-      {"wavelength column", header + wave + Repeated(401, waveRow), 0, {}},
-      {"no wavelength column", header + titles + Repeated(401, slotRow), 0, {}},
-      {"old block", old + block + Repeated(401, line), 0, {}},
-      {"2.98 is a block", "VEXA 440 Ver2.98 DAT\n" + block + Repeated(401, line), 0, {}},
-      {"2.99 is a table", "VEXA 440 Ver2.99 DAT\n" + wave + Repeated(401, waveRow), 0, {}},
-      {"version 0.5", "VEXA-KT 440-840 Ver 0.5 Data File\r\n" + block, 3, message},
-      {"foreign", QByteArray("\x89PNG\r\n\x1a\n\0\xff", 10), 3, message},
-      {"empty", "", 3, {}},
-      {"400 rows", header + wave + Repeated(400, waveRow), 3, {}},
-      {"short block", old + block + Repeated(400, line), 3, {}},
-      {"a current block file", header + block + Repeated(401, line), 3, {}},
-      {"a word", old + block + "x\r\n" + Repeated(401, line), 3, {}},
-      {"full reflectance", old + block + "100\r\n" + Repeated(401, line), 1, {}},
-      {"negative reflectance", old + block + "-1\r\n" + Repeated(401, line), 1, {}},
+      {"wavelength column", header + wave + Repeated(401, waveRow), 0},
+      {"no wavelength column", header + titles + Repeated(401, slotRow), 0},
+      {"old block", old + block + Repeated(401, line), 0},
+      {"2.98 is a block", "VEXA 440 Ver2.98 DAT\n" + block + Repeated(401, line), 0},
+      {"2.99 is a table", "VEXA 440 Ver2.99 DAT\n" + wave + Repeated(401, waveRow), 0},
+      {"version 0.5", "VEXA-KT 440-840 Ver 0.5 Data File\r\n" + block, 3, true},
+      {"foreign", QByteArray("\x89PNG\r\n\x1a\n\0\xff", 10), 3, true},
+      {"empty", "", 3},
+      {"400 rows", header + wave + Repeated(400, waveRow), 3},
+      {"short block", old + block + Repeated(400, line), 3},
+      {"a current block file", header + block + Repeated(401, line), 3},
+      {"a word", old + block + "x\r\n" + Repeated(401, line), 3},
+      {"full reflectance", old + block + "100\r\n" + Repeated(401, line), 1},
+      {"negative reflectance", old + block + "-1\r\n" + Repeated(401, line), 1},
   };
   EXPECT_EQ(Read(DispersionKind::kSubstrate), 3) << "missing";
   for (const Case& c : cases) {
-    Write(c.bytes);
+    files.Write(kName, c.bytes);
     EXPECT_EQ(Read(DispersionKind::kSubstrate), c.status) << c.name;
     EXPECT_DOUBLE_EQ(result[440], c.status == 0 ? 1.5 : 7.0) << c.name;
     EXPECT_DOUBLE_EQ(result[840], c.status == 0 ? 3.0 : 7.0) << c.name;
-    EXPECT_EQ(messages.shown.join(u';').toUtf8(), c.shown) << c.name;
+    EXPECT_EQ(messages.Take(), c.told ? std::vector{message} : std::vector<test::ShownMessage>())
+        << c.name;
   }
 }
 

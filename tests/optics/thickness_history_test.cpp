@@ -3,11 +3,10 @@
 
 #include <gtest/gtest.h>
 
-#include <QDir>
-#include <QFile>
-#include <QTemporaryDir>
 #include <limits>
 #include <vector>
+
+#include "support/temporary_files.h"
 
 namespace vexa {
 namespace {
@@ -56,13 +55,10 @@ TEST(ThicknessHistory, AutoScaleHoldsEveryPoint) {
 }
 
 TEST(ThicknessHistory, FileHasItsExactForm) {
-  const QTemporaryDir directory(QDir::tempPath() + QStringLiteral("/膜 厚-XXXXXX"));
-  const QString path = directory.filePath(QStringLiteral("履歴 1.thk"));
-  const auto written = [&](const ThicknessHistory& history) {
-    EXPECT_TRUE(WriteThicknessFile(path, history));
-    QFile file(path);
-    EXPECT_TRUE(file.open(QIODevice::ReadOnly));
-    return file.readAll();
+  const test::TemporaryFiles files;
+  const auto written = [&files](const ThicknessHistory& history) {
+    EXPECT_TRUE(WriteThicknessFile(files.Path("履歴 1.thk"), history));
+    return files.Read("履歴 1.thk");
   };
   ThicknessHistory history;
   const QByteArray header = "VEXA-KT 440-840 Ver 3.21 Thickness File\r\n";

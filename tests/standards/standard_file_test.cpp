@@ -3,41 +3,21 @@
 
 #include <gtest/gtest.h>
 
-#include <QFile>
-#include <QStringList>
-#include <QTemporaryDir>
+#include "support/prepared_answers.h"
+#include "support/temporary_files.h"
 
 namespace vexa {
 namespace {
 
-class Messages : public MessageService {
- public:
-  MessageResult MsgCall(const QString& text, std::int16_t, const QString& title) override {
-    shown << title + u'|' + text;
-    return MessageResult::kOk;
-  }
-  void Beep() override {}
-
-  QStringList shown;
-};
+constexpr const char* kName = "レンズ 1.std";
 
 class StandardFile : public testing::Test {
  protected:
-  void Put(const QByteArray& bytes) const {
-    QFile file(path_);
-    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
-    ASSERT_EQ(file.write(bytes), bytes.size());
-  }
-  [[nodiscard]] QByteArray Content() const {
-    QFile file(path_);
-    EXPECT_TRUE(file.open(QIODevice::ReadOnly));
-    return file.readAll();
-  }
   bool Read() { return ReadStandardFile(path_, standard_, chroma_, hue_, messages_); }
 
-  QTemporaryDir directory_{QDir::tempPath() + QStringLiteral("/規 格-XXXXXX")};
-  QString path_ = directory_.filePath(QStringLiteral("レンズ 1.std"));
-  Messages messages_;
+  test::TemporaryFiles files_;
+  QString path_ = files_.Path(kName);
+  test::PreparedAnswers messages_;
   StandardSet standard_;
   ReferenceMarker chroma_;
   ReferenceMarker hue_;
@@ -79,7 +59,7 @@ TEST_F(StandardFile, IsWrittenAndReadByteForByte) {
   const ReferenceMarker chroma{true, 3.5};
   const ReferenceMarker hue{false, 275.0};
   ASSERT_TRUE(WriteStandardFile(path_, standard, chroma, hue));
-  EXPECT_EQ(Content(), kGolden);
+  EXPECT_EQ(files_.Read(kName), kGolden);
   EXPECT_EQ(kGolden.count('\n'), 62);
 
   ASSERT_TRUE(Read());
@@ -87,7 +67,7 @@ TEST_F(StandardFile, IsWrittenAndReadByteForByte) {
   EXPECT_EQ(chroma_, chroma);
   EXPECT_EQ(hue_, hue);
   EXPECT_FALSE(WriteStandardFile(QStringLiteral("/nowhere/file.std"), standard, chroma, hue));
-  EXPECT_TRUE(messages_.shown.isEmpty());
+  EXPECT_TRUE(messages_.Take().empty());
 }
 
 TEST_F(StandardFile, OldVersionsAndOtherKindsAreRefusedWithAMessage) {
@@ -104,16 +84,16 @@ TEST_F(StandardFile, OldVersionsAndOtherKindsAreRefusedWithAMessage) {
       {"VEXA-KT 440-840 Ver 3.21 Data File", false},
       {"", false},
   };
+  const test::ShownMessage refusal{
+      "VEXA-KT: 規格ﾌｧｲﾙ名:" + path_.toStdString() + "\r\rVer1.10以前の規格ﾌｧｲﾙは読み込めません。",
+      16};
   for (const Case& c : cases) {
-    Put(QByteArray(kGolden).replace("VEXA-KT 440-840 Ver 3.21 Standard File", c.header));
+    files_.Write(kName,
+                 QByteArray(kGolden).replace("VEXA-KT 440-840 Ver 3.21 Standard File", c.header));
     standard_ = {};
-    messages_.shown.clear();
     EXPECT_EQ(Read(), c.read) << c.header;
     EXPECT_EQ(standard_ == StandardSet{}, !c.read) << c.header;
-    EXPECT_EQ(messages_.shown,
-              c.read ? QStringList()
-                     : QStringList(QStringLiteral("VEXA-KT|規格ﾌｧｲﾙ名:") + path_ +
-                                   QStringLiteral("\r\rVer1.10以前の規格ﾌｧｲﾙは読み込めません。")))
+    EXPECT_EQ(messages_.Take(), c.read ? std::vector<test::ShownMessage>() : std::vector{refusal})
         << c.header;
   }
 }
@@ -121,7 +101,7 @@ TEST_F(StandardFile, OldVersionsAndOtherKindsAreRefusedWithAMessage) {
 TEST_F(StandardFile, AnyCutEndsTheReadingAndKeepsWhatWasRead) {
   const QList<QByteArray> lines = kGolden.chopped(2).split('\n');
   for (qsizetype count = 1; count < lines.size(); ++count) {
-    Put(lines.first(count).join('\n'));
+    files_.Write(kName, lines.first(count).join('\n'));
     standard_ = {};
     EXPECT_FALSE(Read()) << count;
     EXPECT_EQ(standard_.useReflectance, count > 1) << count;
@@ -148,12 +128,12 @@ TEST_F(StandardFile, AValueOfAnotherKindEndsTheReading) {
       {"a flag for the last number", " 275 ", "#TRUE#", 1.5},
   };
   for (const Case& c : cases) {
-    Put(QByteArray(kGolden).replace(c.from, c.to));
+    files_.Write(kName, QByteArray(kGolden).replace(c.from, c.to));
     standard_ = {};
     EXPECT_FALSE(Read()) << c.defect;
     EXPECT_EQ(standard_.conditions[0].upper, c.firstUpper) << c.defect;
   }
-  Put("\xff\xfe\x00\x81");
+  files_.Write(kName, "\xff\xfe\x00\x81");
   EXPECT_FALSE(Read());
   QFile::remove(path_);
   EXPECT_FALSE(Read());

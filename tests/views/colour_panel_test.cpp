@@ -145,5 +145,28 @@ TEST_F(Panel, ClearTakesTheLastPointAway) {
   EXPECT_EQ(state.stock.P1[0], 0.0);
 }
 
+TEST_F(Panel, AccumulatedPointsAreOnTheDiagramWhileColoursAreAccumulated) {
+  const auto points = [this] {
+    int count = 0;
+    const auto* diagram = panel.findChild<ChromaticityDiagram*>();
+    for (int i = 0; i < diagram->graphCount(); ++i) {
+      count += diagram->graph(i)->dataCount();
+    }
+    return count;
+  };
+  state.stock.Record(state.ColourConditions());
+  (void)state.stock.StockAdd({.x = 0.3, .y = 0.3}, true);
+  (void)state.stock.StockAdd({.x = 0.4, .y = 0.4}, true);
+  panel.Show(1);
+  EXPECT_EQ(points(), 0);
+  Press("AccumulateChk");
+  EXPECT_EQ(points(), 2);
+  Press("StockClear");
+  EXPECT_EQ(points(), 1);
+  state.colour.illuminant = 4;
+  panel.Show(1);
+  EXPECT_EQ(points(), 0) << "taken under another illuminant";
+}
+
 }  // namespace
 }  // namespace vexa

@@ -129,7 +129,7 @@ TEST(ColourDifferenceWindow, ComparesEveryOtherValidSlotWithTheStandard) {
   window.findChild<QPushButton*>(QStringLiteral("CopyTable"))->click();
   const QStringList rows = QApplication::clipboard()->text().split(u'\n', Qt::SkipEmptyParts);
   ASSERT_EQ(rows.size(), 4);
-  EXPECT_EQ(rows[0], QStringLiteral("ｽﾛｯﾄ\t試料番号\tΔL*\tΔa*\tΔb*\tΔC*\tΔH*\tΔE*ab\tΔE00"));
+  EXPECT_EQ(rows[0], QStringLiteral("ｽﾛｯﾄ\t試料No\tΔL*\tΔa*\tΔb*\tΔC*\tΔH*\tΔE*ab\tΔE00"));
   EXPECT_EQ(rows[1],
             QStringLiteral("Mes2\t試料 A\t0.000\t0.000\t0.000\t0.000\t0.000\t0.000\t0.000"));
   EXPECT_EQ(rows[2], QStringLiteral("Mes7\t黒\t-\t-\t-\t-\t-\t-\t-"));

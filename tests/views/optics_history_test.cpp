@@ -24,9 +24,9 @@ using test::ShownMessage;
 
 class History : public testing::Test {
  protected:
-  void Add(const std::vector<double>& thicknesses) {
+  void Add(const std::vector<double>& thicknesses, bool physical = true) {
     for (const double thickness : thicknesses) {
-      window.AddPointProc(thickness);
+      window.AddPointProc(thickness, physical);
     }
   }
   // Number of points, thickness at the cursor and its index, as shown.
@@ -72,10 +72,8 @@ TEST_F(History, GrowsToFiftyPointsAndNoFurther) {
 }
 
 TEST_F(History, KeepsPhysicalAndOpticalThicknessesApart) {
-  state.thickness.kind = ThicknessKind::kOptical;
-  Add({2400.0});
+  Add({2400.0}, false);
   EXPECT_FALSE(state.thicknessHistory.physical);
-  state.thickness.kind = ThicknessKind::kPhysical;
   Add({1500.0});
   EXPECT_EQ(messages.Take().size(), 1U);
   EXPECT_EQ(state.thicknessHistory.count, 1);
@@ -93,10 +91,15 @@ TEST_F(History, AddsTheThicknessOfTheCurrentSlot) {
   Button("AddPoint")->click();
   EXPECT_EQ(messages.Take(), std::vector{nothing});
   state.Slot(3)->valid = true;
-  state.Slot(3)->thickness = {{700.0, 4.0}, {800.0, 4.0}, 1750.0, {}};
+  state.Slot(3)->thickness = {.first = {700.0, 4.0},
+                              .second = {800.0, 4.0},
+                              .thicknessNm = 2800.0,
+                              .physical = false,
+                              .extrema = {}};
   window.SetCurrentSlot(3);
   Button("AddPoint")->click();
-  EXPECT_EQ(Labels(), "1 1750.0 1");
+  EXPECT_EQ(Labels(), "1 2800.0 1");
+  EXPECT_FALSE(state.thicknessHistory.physical) << "as it was computed, whatever is set now";
 }
 
 TEST_F(History, CursorStepsAtOnceAndRepeatsWhileTheButtonIsHeld) {

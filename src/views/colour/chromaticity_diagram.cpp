@@ -114,6 +114,15 @@ QCPGraph* AddPoints(QCustomPlot& plot, const QColor& colour, double size) {
   return graph;
 }
 
+// Shows the points first..end - 1 of the stock, counted from 0.
+void SetPoints(QCPGraph& graph, const ColourStock& stock, int first, int end) {
+  graph.data()->clear();
+  for (int i = first; i < end; ++i) {
+    const auto index = static_cast<std::size_t>(i);
+    graph.addData(stock.P1[index], stock.P2[index]);
+  }
+}
+
 }  // namespace
 
 ChromaticityDiagram::ChromaticityDiagram(std::shared_ptr<BackgroundPicture> picture,
@@ -164,7 +173,11 @@ ChromaticityDiagram::ChromaticityDiagram(std::shared_ptr<BackgroundPicture> pict
 }
 
 void ChromaticityDiagram::ShowSlots(const VEXATYPE& state, int selectedSlot) {
-  ShowFrame(state.ColourConditions(), state);
+  const StockConditions conditions = state.ColourConditions();
+  ShowFrame(conditions, state);
+  const bool accumulated = state.accumulate && !state.stock.DiffersFrom(conditions);
+  SetPoints(*points_, state.stock, 0, accumulated ? state.stock.Count : 0);
+  points_->setLayer(QStringLiteral("texts"));  // below the slots
   std::vector<SlotMark> marks;
   for (int number = 1; number <= kSlotCount; ++number) {
     const MeasurementSlot& slot = *state.Slot(number);
@@ -185,12 +198,9 @@ void ChromaticityDiagram::ShowSlots(const VEXATYPE& state, int selectedSlot) {
 void ChromaticityDiagram::ShowStock(const VEXATYPE& state) {
   const ColourStock& stock = state.stock;
   ShowFrame({stock.StockMode, stock.StockIlluminant, stock.StockObserver}, state);
-  points_->data()->clear();
-  lastPoint_->data()->clear();
-  for (int i = 0; i < stock.Count; ++i) {
-    const auto index = static_cast<std::size_t>(i);
-    (i + 1 < stock.Count ? points_ : lastPoint_)->addData(stock.P1[index], stock.P2[index]);
-  }
+  const int last = std::max(stock.Count - 1, 0);
+  SetPoints(*points_, stock, 0, last);
+  SetPoints(*lastPoint_, stock, last, stock.Count);
   replot(rpQueuedReplot);
 }
 

@@ -23,7 +23,8 @@ class ChromaticityDiagram : public QCustomPlot {
   explicit ChromaticityDiagram(std::shared_ptr<BackgroundPicture> picture,
                                QWidget* parent = nullptr);
 
-  /// The valid slots that have a colour, under the display conditions.
+  /// The valid slots that have a colour, under the display conditions; with them, while colours are
+  /// accumulated, the points that were taken under these conditions.
   void ShowSlots(const VEXATYPE& state, int selectedSlot);
   /// The accumulated points under the conditions of their accumulation, the last one marked.
   void ShowStock(const VEXATYPE& state);

@@ -70,9 +70,9 @@ ColourDifferenceWindow::ColourDifferenceWindow(const VEXATYPE& state, int select
   table_->setIconSize(QSize(22, 12));
   table_->verticalHeader()->hide();
   const QStringList headers{
-      QStringLiteral("ｽﾛｯﾄ"), QStringLiteral("試料番号"), QStringLiteral("ΔL*"),
-      QStringLiteral("Δa*"),  QStringLiteral("Δb*"),      QStringLiteral("ΔC*"),
-      QStringLiteral("ΔH*"),  QStringLiteral("ΔE*ab"),    QStringLiteral("ΔE00")};
+      QStringLiteral("ｽﾛｯﾄ"), QStringLiteral("試料No"), QStringLiteral("ΔL*"),
+      QStringLiteral("Δa*"),  QStringLiteral("Δb*"),    QStringLiteral("ΔC*"),
+      QStringLiteral("ΔH*"),  QStringLiteral("ΔE*ab"),  QStringLiteral("ΔE00")};
   table_->setColumnCount(static_cast<int>(headers.size()));
   table_->setHorizontalHeaderLabels(headers);
   table_->horizontalHeader()->setSectionResizeMode(QHeaderView::Stretch);

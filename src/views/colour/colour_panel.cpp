@@ -37,10 +37,11 @@ ColourPanel::ColourPanel(VEXATYPE& state, MessageService& messages, FileDialogs&
   layout->addWidget(BuildDiagram());
   layout->addWidget(BuildValues());
   layout->addWidget(BuildStock());
-  Show(1);
+  Show(slot_);
 }
 
 void ColourPanel::Show(int selectedSlot) {
+  slot_ = selectedSlot;
   diagram_->ShowSlots(state_, selectedSlot);
   ShowValues(selectedSlot);
   ShowStock();
@@ -120,7 +121,7 @@ QWidget* ColourPanel::BuildStock() {
     emit StockChanged();
   });
   connect(open, &QPushButton::clicked, this, &ColourPanel::OpenStockWindow);
-  connect(this, &ColourPanel::StockChanged, this, &ColourPanel::ShowStock);
+  connect(this, &ColourPanel::StockChanged, this, [this] { Show(slot_); });
   return group;
 }
 

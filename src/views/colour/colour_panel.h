@@ -59,6 +59,7 @@ class ColourPanel : public QWidget {
   MessageService& messages_;
   FileDialogs& dialogs_;
   std::shared_ptr<BackgroundPicture> picture_;
+  int slot_ = 1;
   ChromaticityDiagram* diagram_ = nullptr;
   QGroupBox* values_ = nullptr;
   Value observer_{};

@@ -74,9 +74,8 @@ ThickGraph::ThickGraph(VEXATYPE& state, MessageService& messages, FileDialogs& d
   ShowHistory();
 }
 
-void ThickGraph::AddPointProc(double thicknessNm) {
+void ThickGraph::AddPointProc(double thicknessNm, Flag physical) {
   ThicknessHistory& history = state_.thicknessHistory;
-  const Flag physical = state_.thickness.kind != ThicknessKind::kOptical;
   if (history.count == 0) {
     history.physical = physical;
   }
@@ -154,12 +153,12 @@ void ThickGraph::AddCurrent() {
     return;
   }
   const MeasurementSlot* slot = state_.Slot(slot_);
-  if (slot == nullptr || !slot->valid || slot->thickness.first.wavelengthNm == 0.0) {
+  if (slot == nullptr || !slot->valid || !slot->thickness.IsComputed()) {
     messages_.MsgCall(QStringLiteral("有効ﾃﾞｰﾀがありません。"), kOk + kInformationIcon,
                       message_title::kInformation);
     return;
   }
-  AddPointProc(slot->thickness.thicknessNm);
+  AddPointProc(slot->thickness.thicknessNm, slot->thickness.physical);
 }
 
 void ThickGraph::DeletePoint() {

@@ -24,9 +24,9 @@ class ThickGraph : public QMainWindow {
   void SetCurrentSlot(int slot) { slot_ = slot; }
 
   /// Appends a thickness and moves the cursor to it. The first point makes the history one of
-  /// physical or of optical thicknesses, after the settings; a point of the other kind is refused,
-  /// and so is one past the fiftieth, both with a message.
-  void AddPointProc(double thicknessNm);
+  /// physical or of optical thicknesses; a point of the other kind is refused, and so is one past
+  /// the fiftieth, both with a message.
+  void AddPointProc(double thicknessNm, Flag physical);
 
  private:
   void BuildMenus();

@@ -3,11 +3,9 @@
 
 #include <QGridLayout>
 #include <QPushButton>
-#include <algorithm>
 
 #include "base/number_text.h"
 #include "measurement/evaluation.h"
-#include "optics/extremum_search.h"
 
 namespace vexa {
 
@@ -75,14 +73,15 @@ void ThicknessPanel::Show(int selectedSlot) {
   const MeasurementSlot* slot = state_.Slot(selectedSlot);
   const ThicknessResult none;
   const ThicknessResult& result = slot == nullptr || !slot->valid ? none : slot->thickness;
-  // Zero stands for "none": two extrema always have wavelengths.
-  const bool computed = result.first.wavelengthNm > 0.0;
-  thickness_->setText(computed ? FormatNumber(result.thicknessNm, u"###0.0") + u' ' +
-                                     ThicknessUnit(state_.thickness.kind != ThicknessKind::kOptical)
-                               : kNothing);
-  const bool indexKnown = computed && slot != nullptr && IndexIsOf(*slot);
-  ShowExtremum(lines_[0], result.first, indexKnown);
-  ShowExtremum(lines_[1], result.second, indexKnown);
+  const auto text = [computed = result.IsComputed()](double value, QStringView pattern) {
+    return computed ? FormatNumber(value, pattern) : kNothing;
+  };
+  thickness_->setText(text(result.thicknessNm, u"###0.0") +
+                      (result.IsComputed() ? u' ' + ThicknessUnit(result.physical) : QString()));
+  lines_[0].wavelength->setText(text(result.first.wavelengthNm, u"###0"));
+  lines_[0].index->setText(text(result.firstIndex, u"###0.000"));
+  lines_[1].wavelength->setText(text(result.second.wavelengthNm, u"###0"));
+  lines_[1].index->setText(text(result.secondIndex, u"###0.000"));
 }
 
 void ThicknessPanel::ComputeThickness() {
@@ -97,28 +96,9 @@ void ThicknessPanel::ComputeThickness() {
                       message_title::kInformation);
     return;
   }
-  const Status status = ComputeSlotThickness(state_, *slot, messages_);
+  // A failure has had its message, and is shown as no thickness.
+  (void)ComputeSlotThickness(state_, *slot, messages_);
   Show(slot_);
-  if (status == 0) {
-    emit Computed(slot->thickness.thicknessNm);
-  }
-}
-
-void ThicknessPanel::ShowExtremum(const ExtremumLine& line, const ExtremumPoint& point,
-                                  bool indexKnown) {
-  line.wavelength->setText(point.wavelengthNm > 0.0 ? FormatNumber(point.wavelengthNm, u"###0")
-                                                    : kNothing);
-  line.index->setText(
-      indexKnown ? FormatNumber(state_.filmIndex[NearestNm(point.wavelengthNm)], u"###0.000")
-                 : kNothing);
-}
-
-// From a substrate, the film's index is derived anew for each computation: it belongs to the slot
-// that was computed last, whose extrema are the current ones.
-bool ThicknessPanel::IndexIsOf(const MeasurementSlot& slot) const {
-  return state_.thickness.coat.kind != DispersionKind::kSubstrate ||
-         std::ranges::equal(slot.thickness.extrema.Found(), state_.extrema.Found(), {},
-                            &Extremum::point, &Extremum::point);
 }
 
 }  // namespace vexa

@@ -25,18 +25,11 @@ class ThicknessPanel : public QGroupBox {
   /// Computes the thickness of the slot shown, with a message when that is not possible.
   void ComputeThickness();
 
- signals:
-  /// The thickness of the slot shown was computed.
-  void Computed(double thicknessNm);
-
  private:
   struct ExtremumLine {
     QLabel* wavelength;
     QLabel* index;
   };
-
-  void ShowExtremum(const ExtremumLine& line, const ExtremumPoint& point, bool indexKnown);
-  [[nodiscard]] bool IndexIsOf(const MeasurementSlot& slot) const;
 
   VEXATYPE& state_;
   MessageService& messages_;

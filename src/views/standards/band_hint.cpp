@@ -3,7 +3,7 @@
 
 #include <algorithm>
 
-#include "views/standards/condition_caption.h"
+#include "standards/condition_caption.h"
 
 namespace vexa {
 

@@ -3,9 +3,9 @@
 
 #include <limits>
 
+#include "standards/condition_caption.h"
 #include "views/common/theme.h"
 #include "views/standards/band_hint.h"
-#include "views/standards/condition_caption.h"
 
 namespace vexa {
 namespace {

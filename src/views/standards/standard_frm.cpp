@@ -6,9 +6,9 @@
 #include <QVBoxLayout>
 
 #include "measurement/evaluation.h"
+#include "standards/condition_caption.h"
 #include "standards/standard_check.h"
 #include "views/common/theme.h"
-#include "views/standards/condition_caption.h"
 #include "views/standards/elided_label.h"
 
 namespace vexa {
