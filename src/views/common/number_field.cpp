@@ -1,7 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "views/common/number_field.h"
 
+#include <QFocusEvent>
 #include <QRegularExpressionValidator>
+#include <QTimer>
 
 #include "base/number_text.h"
 
@@ -35,6 +37,15 @@ void NumberField::SetValue(double value) {
 
 std::optional<double> NumberField::Value() const {
   return ParseNumber(text());
+}
+
+void NumberField::focusInEvent(QFocusEvent* event) {
+  QLineEdit::focusInEvent(event);
+  // Back from a message, the entry goes on where it was.
+  if (event->reason() == Qt::MouseFocusReason) {
+    // The click sets the cursor after it has given the focus.
+    QTimer::singleShot(0, this, &QLineEdit::selectAll);
+  }
 }
 
 IntegerField::IntegerField(QWidget* parent) : QLineEdit(parent) {

@@ -7,7 +7,8 @@
 namespace vexa {
 
 /// An entry field for a real number: it takes digits, ".", "E", "e", "+" and "-" alone, typed or
-/// pasted, and shows its number after its pattern when it is left.
+/// pasted, selects its text when it is entered and shows its number after its pattern when it is
+/// left.
 class NumberField : public QLineEdit {
   Q_OBJECT
 
@@ -18,6 +19,9 @@ class NumberField : public QLineEdit {
   void SetValue(double value);
   /// The number as shown or typed; nothing when the text is none.
   [[nodiscard]] std::optional<double> Value() const;
+
+ protected:
+  void focusInEvent(QFocusEvent* event) override;
 
  private:
   QString pattern_;

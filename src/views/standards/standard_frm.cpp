@@ -7,9 +7,9 @@
 
 #include "measurement/evaluation.h"
 #include "standards/standard_check.h"
+#include "views/common/elided_label.h"
 #include "views/common/theme.h"
 #include "views/standards/condition_caption.h"
-#include "views/standards/elided_label.h"
 
 namespace vexa {
 namespace {
