@@ -46,12 +46,10 @@ dispset::dispset(VEXATYPE& state, MessageService& messages, QWidget* parent)
   BuildWavelengths(*left);
   BuildReflectance(*left);
   BuildText(*left);
-  left->addStretch();
   auto* right = new QVBoxLayout;
   BuildColours(*right);
   BuildMarks(*right);
   BuildAverage(*right);
-  right->addStretch();
   auto* columns = new QHBoxLayout;
   columns->setSpacing(14);
   columns->addLayout(left);

@@ -14,8 +14,13 @@
 namespace vexa {
 namespace {
 
-// The first group lies above three columns, which begin with these ones.
-constexpr std::array<std::size_t, 3> kColumns{1, 5, 8};
+// The first groups lie side by side above three columns, which begin with these ones.
+constexpr std::array<std::size_t, 3> kColumns{3, 6, 8};
+
+// In all groups of a column, so that their fields stand below one another.
+constexpr int kLabelWidth = 88;
+constexpr int kUnitWidth = 32;
+constexpr int kGap = 12;
 
 bool IsFirst(std::size_t group) {
   return std::find(kColumns.begin(), kColumns.end(), group) != kColumns.end();
@@ -39,6 +44,7 @@ QWidget* Field(const QString& text, bool number) {
 // The values down two columns, a single one over both.
 QLayout* Fields(const SettingsRow& row) {
   auto* grid = new QGridLayout;
+  grid->setHorizontalSpacing(6);
   grid->setVerticalSpacing(4);
   const int count = static_cast<int>(row.values.size());
   const int lines = (count + 1) / 2;
@@ -54,21 +60,19 @@ QLayout* Fields(const SettingsRow& row) {
   return grid;
 }
 
-QGroupBox* Box(const SettingsGroup& group) {
+QGroupBox* Box(const SettingsGroup& group, int labelWidth = 0, int unitWidth = 0) {
   auto* box = new QGroupBox(group.caption);
   auto* grid = new QGridLayout(box);
   grid->setContentsMargins(12, 8, 12, 8);
   grid->setVerticalSpacing(4);
   grid->setColumnStretch(1, 1);
-  // The fields of all groups of a column are of one width.
-  const QFontMetrics metrics = box->fontMetrics();
-  if (!group.rows.front().label.isEmpty()) {
-    grid->setColumnMinimumWidth(0, metrics.horizontalAdvance(QStringLiteral("ﾘﾌｧﾚﾝｽﾃﾞｰﾀを表示")));
-  }
-  grid->setColumnMinimumWidth(2, metrics.horizontalAdvance(QStringLiteral("[nm]")));
+  grid->setColumnMinimumWidth(0, labelWidth);
+  grid->setColumnMinimumWidth(2, unitWidth);
   int line = 0;
   for (const SettingsRow& row : group.rows) {
-    grid->addWidget(new QLabel(row.label), line, 0);
+    if (!row.label.isEmpty()) {
+      grid->addWidget(new QLabel(row.label), line, 0);
+    }
     grid->addLayout(Fields(row), line, 1);
     grid->addWidget(new QLabel(row.unit), line, 2);
     ++line;
@@ -77,24 +81,35 @@ QGroupBox* Box(const SettingsGroup& group) {
   return box;
 }
 
-}  // namespace
-
-table::table(const VEXATYPE& state, const Print& print, QWidget* parent) : QDialog(parent) {
-  setObjectName(QStringLiteral("table"));
-  setWindowTitle(QStringLiteral("VEXA設定一覧"));
-  const std::vector<SettingsGroup> groups = SettingsList(state);
+QLayout* Boxes(const std::vector<SettingsGroup>& groups) {
+  auto* top = new QHBoxLayout;
   auto* columns = new QHBoxLayout;
-  columns->setSpacing(12);
   QVBoxLayout* column = nullptr;
-  for (std::size_t i = kColumns[0]; i < groups.size(); ++i) {
+  for (std::size_t i = 0; i < groups.size(); ++i) {
+    if (i < kColumns[0]) {
+      top->addWidget(Box(groups[i]), i == 0 ? 1 : 0);
+      continue;
+    }
     if (IsFirst(i)) {
       column = new QVBoxLayout;
       columns->addLayout(column);
     }
     const bool last = i + 1 == groups.size() || IsFirst(i + 1);
-    column->addWidget(Box(groups[i]), last ? 1 : 0);
+    column->addWidget(Box(groups[i], kLabelWidth, kUnitWidth), last ? 1 : 0);
   }
+  top->setSpacing(kGap);
+  columns->setSpacing(kGap);
+  auto* all = new QVBoxLayout;
+  all->addLayout(top);
+  all->addLayout(columns, 1);
+  return all;
+}
 
+}  // namespace
+
+table::table(const VEXATYPE& state, const Print& print, QWidget* parent) : QDialog(parent) {
+  setObjectName(QStringLiteral("table"));
+  setWindowTitle(QStringLiteral("VEXA設定一覧"));
   QPushButton* printButton = DialogButton(QStringLiteral("印刷"));
   QPushButton* closeButton = DialogButton(QStringLiteral("閉じる"));
   closeButton->setDefault(true);
@@ -109,8 +124,7 @@ table::table(const VEXATYPE& state, const Print& print, QWidget* parent) : QDial
   auto* layout = new QVBoxLayout(this);
   layout->setContentsMargins(14, 14, 14, 12);
   layout->setSpacing(10);
-  layout->addWidget(Box(groups.front()));
-  layout->addLayout(columns, 1);
+  layout->addLayout(Boxes(SettingsList(state)), 1);
   layout->addLayout(buttons);
 }
 
