@@ -33,7 +33,7 @@ TEST(SettingsList, ShowsWhatIsSet) {
   state.thickness.coat.kind = DispersionKind::kSubstrate;
   state.thickness.coat.dataFileName = QStringLiteral("基板.csv");
   auto rows = Listed(state);
-  EXPECT_EQ(rows.size(), 28U) << "no label twice in a group";
+  EXPECT_EQ(rows.size(), 31U) << "no label twice in a group";
   EXPECT_EQ(rows["色度図/表示設定"], "L*a*b色度図");
   EXPECT_EQ(rows["色度図/L*a*bﾒﾓﾘ"], "40");
   EXPECT_EQ(rows["色度図/標準光源設定"], "D65");
