@@ -85,9 +85,11 @@ TEST(DisplaySettings, AClickSelectsAnEntryAndOtherCharactersAreRefused) {
   VEXATYPE state;
   state.colour.illuminant = 7;
   state.display.labScale = 5;
+  state.display.tickPercent = 0.00004;
   test::PreparedAnswers messages;
   dispset window(state, messages);
   window.show();
+  ASSERT_TRUE(QTest::qWaitForWindowActive(&window));
   auto* step = window.findChild<QLineEdit*>(QStringLiteral("TextStep"));
   QTest::mouseClick(step, Qt::LeftButton);
   QCoreApplication::processEvents();
@@ -99,6 +101,7 @@ TEST(DisplaySettings, AClickSelectsAnEntryAndOtherCharactersAreRefused) {
   EXPECT_EQ(state.display.textStepNm, 25);
   EXPECT_EQ(state.colour.illuminant, 7) << "not offered, so not replaced";
   EXPECT_EQ(state.display.labScale, 5);
+  EXPECT_EQ(state.display.tickPercent, 0.00004) << "not edited";
 }
 
 }  // namespace

@@ -26,17 +26,19 @@ NumberField::NumberField(const QString& pattern, QWidget* parent)
   TakeOnly(*this, QStringLiteral("0-9.Ee+\\-"));
   connect(this, &QLineEdit::editingFinished, this, [this] {
     if (const std::optional<double> value = Value()) {
-      SetValue(*value);
+      setText(FormatNumber(*value, pattern_).trimmed());
     }
   });
 }
 
 void NumberField::SetValue(double value) {
-  setText(FormatNumber(value, pattern_).trimmed());
+  value_ = value;
+  textOfValue_ = FormatNumber(value, pattern_).trimmed();
+  setText(textOfValue_);
 }
 
 std::optional<double> NumberField::Value() const {
-  return ParseNumber(text());
+  return !text().isEmpty() && text() == textOfValue_ ? value_ : ParseNumber(text());
 }
 
 void NumberField::focusInEvent(QFocusEvent* event) {
