@@ -17,10 +17,12 @@
 #include "measurement/evaluation.h"
 #include "views/colour/colour_difference_window.h"
 #include "views/colour/colour_panel.h"
+#include "views/common/quiet_messages.h"
 #include "views/files/addinp_frm.h"
 #include "views/files/data_file_commands.h"
 #include "views/files/environment_commands.h"
 #include "views/graph/main_views.h"
+#include "views/optics/optics_print.h"
 #include "views/optics/ref_set_dlg.h"
 #include "views/optics/thick_graph.h"
 #include "views/optics/thickness_panel.h"
@@ -28,6 +30,7 @@
 #include "views/settings/calibration_dlg.h"
 #include "views/settings/dispset.h"
 #include "views/settings/sampling_dlg.h"
+#include "views/settings/table.h"
 #include "views/standards/standard_files.h"
 #include "views/standards/standard_frm.h"
 
@@ -130,6 +133,11 @@ void VEXA::ConnectCommands() {
     RefSetDlg(RefSetDlg::Mode::kThickness, state_, messages, dialogs, this).exec();
   });
   enable(commands_.displaySettings, [&, this] { dispset(state_, messages, this).exec(); });
+  enable(commands_.settingsList, [&, this] {
+    QuietMessages quiet(messages);
+    const auto print = [&, this](const table::Paint& paint) { PrintPage(this, quiet, paint); };
+    table(state_, print, this).exec();
+  });
   enable(commands_.colourDifference,
          [this] { ColourDifferenceWindow(state_, GetOption(), this).exec(); });
   enable(commands_.standards, [&, this] { StandardFrm(state_, messages, dialogs, this).exec(); });

@@ -21,6 +21,8 @@ struct StockConditions {
   Flag xyMode = true;
   std::int16_t illuminant = 1;
   Flag observer2Deg = true;
+
+  bool operator==(const StockConditions&) const = default;
 };
 
 /// Up to 100 accumulated colour points; point k, counted from 1, is at index k - 1.

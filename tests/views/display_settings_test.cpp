@@ -4,6 +4,7 @@
 #include <QCheckBox>
 #include <QPushButton>
 #include <QRadioButton>
+#include <QTest>
 
 #include "support/prepared_answers.h"
 #include "views/settings/dispset.h"
@@ -78,6 +79,29 @@ TEST(DisplaySettings, ChangedConditionsOfferToClearTheStock) {
     EXPECT_EQ(state.colour.illuminant, 4);
     EXPECT_EQ(state.display.shortestNm, 440.0) << "full scale stands above what was typed";
   }
+}
+
+TEST(DisplaySettings, AClickSelectsAnEntryAndOtherCharactersAreRefused) {
+  VEXATYPE state;
+  state.colour.illuminant = 7;
+  state.display.labScale = 5;
+  state.display.tickPercent = 0.00004;
+  test::PreparedAnswers messages;
+  dispset window(state, messages);
+  window.show();
+  ASSERT_TRUE(QTest::qWaitForWindowActive(&window));
+  auto* step = window.findChild<QLineEdit*>(QStringLiteral("TextStep"));
+  QTest::mouseClick(step, Qt::LeftButton);
+  QCoreApplication::processEvents();
+  EXPECT_EQ(step->selectedText(), QStringLiteral("1.0"));
+  QTest::keyClicks(step, QStringLiteral("2x5"));
+  const test::ShownMessage refused{"VEXA-KT ｴﾗｰ: ﾃﾞｰﾀが入力できません。再入力して下さい。", 16};
+  EXPECT_EQ(messages.Take(), std::vector{refused});
+  window.accept();
+  EXPECT_EQ(state.display.textStepNm, 25);
+  EXPECT_EQ(state.colour.illuminant, 7) << "not offered, so not replaced";
+  EXPECT_EQ(state.display.labScale, 5);
+  EXPECT_EQ(state.display.tickPercent, 0.00004) << "not edited";
 }
 
 }  // namespace

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include <QString>
+#include <QStringList>
 
 #include "base/flag.h"
 
@@ -26,6 +26,16 @@ namespace vexa {
 /// "2" or "10", in degrees.
 [[nodiscard]] inline QString ObserverText(Flag observer2Deg) {
   return observer2Deg ? QStringLiteral("2") : QStringLiteral("10");
+}
+
+/// The kinds of chromaticity diagram: xy, a*b*.
+[[nodiscard]] inline QStringList DiagramTexts() {
+  return {QStringLiteral("XYZ色度図"), QStringLiteral("L*a*b色度図")};
+}
+
+/// How far the a*b* axes reach, by the scale 0, 1, 2.
+[[nodiscard]] inline QStringList LabScaleTexts() {
+  return {QStringLiteral("10"), QStringLiteral("20"), QStringLiteral("40")};
 }
 
 }  // namespace vexa

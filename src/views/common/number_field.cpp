@@ -1,7 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "views/common/number_field.h"
 
+#include <QFocusEvent>
 #include <QRegularExpressionValidator>
+#include <QTimer>
 
 #include "base/number_text.h"
 
@@ -24,17 +26,28 @@ NumberField::NumberField(const QString& pattern, QWidget* parent)
   TakeOnly(*this, QStringLiteral("0-9.Ee+\\-"));
   connect(this, &QLineEdit::editingFinished, this, [this] {
     if (const std::optional<double> value = Value()) {
-      SetValue(*value);
+      setText(FormatNumber(*value, pattern_).trimmed());
     }
   });
 }
 
 void NumberField::SetValue(double value) {
-  setText(FormatNumber(value, pattern_).trimmed());
+  value_ = value;
+  textOfValue_ = FormatNumber(value, pattern_).trimmed();
+  setText(textOfValue_);
 }
 
 std::optional<double> NumberField::Value() const {
-  return ParseNumber(text());
+  return !text().isEmpty() && text() == textOfValue_ ? value_ : ParseNumber(text());
+}
+
+void NumberField::focusInEvent(QFocusEvent* event) {
+  QLineEdit::focusInEvent(event);
+  // Back from a message, the entry goes on where it was.
+  if (event->reason() == Qt::MouseFocusReason) {
+    // The click sets the cursor after it has given the focus.
+    QTimer::singleShot(0, this, &QLineEdit::selectAll);
+  }
 }
 
 IntegerField::IntegerField(QWidget* parent) : QLineEdit(parent) {

@@ -7,7 +7,8 @@
 namespace vexa {
 
 /// An entry field for a real number: it takes digits, ".", "E", "e", "+" and "-" alone, typed or
-/// pasted, and shows its number after its pattern when it is left.
+/// pasted, selects its text when it is entered and shows its number after its pattern when it is
+/// left.
 class NumberField : public QLineEdit {
   Q_OBJECT
 
@@ -16,11 +17,19 @@ class NumberField : public QLineEdit {
   explicit NumberField(const QString& pattern, QWidget* parent = nullptr);
 
   void SetValue(double value);
-  /// The number as shown or typed; nothing when the text is none.
+  /// The number set last while its text stands, with all its digits, otherwise the number typed;
+  /// nothing when the text is none.
   [[nodiscard]] std::optional<double> Value() const;
+  /// The number set last; 0 before.
+  [[nodiscard]] double ValueSet() const { return value_; }
+
+ protected:
+  void focusInEvent(QFocusEvent* event) override;
 
  private:
   QString pattern_;
+  double value_ = 0.0;
+  QString textOfValue_;
 };
 
 /// An entry field for a whole number without a sign: it takes digits alone.

@@ -12,6 +12,7 @@ namespace vexa {
 namespace {
 
 constexpr int kReciprocalView = 6;
+constexpr int kMostDigits = 9;  // of a number that an int holds
 
 }  // namespace
 
@@ -20,6 +21,7 @@ JampWave::JampWave(const VEXATYPE& state, QWidget* parent)
   setObjectName(QStringLiteral("JampWave"));
   setWindowTitle(QStringLiteral("ｼﾞｬﾝﾌﾟ"));
   wavelength_->setObjectName(QStringLiteral("Wavelength"));
+  wavelength_->setMaxLength(kMostDigits);
   auto* unit = new QLabel(state.display.view == kReciprocalView ? QStringLiteral("[1/nm]")
                                                                 : QStringLiteral("[nm]"));
   unit->setObjectName(QStringLiteral("Unit"));

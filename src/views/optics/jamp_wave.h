@@ -20,7 +20,7 @@ class JampWave : public QDialog {
   /// "OK" or "CANCEL".
   [[nodiscard]] QString Outcome() const;
 
-  /// The number typed, of any size; nothing when there is none.
+  /// The number typed, in range or not; nothing when there is none.
   [[nodiscard]] std::optional<int> Wavelength() const { return wavelength_->Value(); }
 
  private:

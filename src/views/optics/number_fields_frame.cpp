@@ -28,7 +28,6 @@ NumberFieldsFrame::NumberFieldsFrame(const Look& look, std::span<const double> v
     grid->addWidget(field, row, 1);
     grid->addWidget(new QLabel(look.unit), row, 2);
     fields_.push_back(field);
-    shown_ << field->text();
     ++row;
   }
 }
@@ -36,9 +35,6 @@ NumberFieldsFrame::NumberFieldsFrame(const Look& look, std::span<const double> v
 bool NumberFieldsFrame::Take(std::span<double> values) const {
   bool allNumbers = true;
   for (std::size_t i = 0; i < fields_.size(); ++i) {
-    if (fields_[i]->text() == shown_[static_cast<qsizetype>(i)]) {
-      continue;
-    }
     if (const std::optional<double> value = fields_[i]->Value()) {
       values[i] = *value;
     } else {

@@ -10,8 +10,7 @@
 
 namespace vexa {
 
-/// A frame of labelled number fields. A number that was not edited keeps all its digits, however
-/// few of them the field shows.
+/// A frame of labelled number fields.
 class NumberFieldsFrame : public QGroupBox {
   Q_OBJECT
 
@@ -27,13 +26,11 @@ class NumberFieldsFrame : public QGroupBox {
   /// `values` holds a number for each label.
   NumberFieldsFrame(const Look& look, std::span<const double> values, QWidget* parent = nullptr);
 
-  /// Puts the edited numbers into `values`, which hold those that the frame was made with. False
-  /// when a text is no number; its value stays as it was.
+  /// Puts the numbers into `values`. False when a text is no number; its value stays as it was.
   [[nodiscard]] bool Take(std::span<double> values) const;
 
  private:
   std::vector<NumberField*> fields_;
-  QStringList shown_;
 };
 
 }  // namespace vexa

@@ -8,7 +8,9 @@
 #include <cmath>
 
 #include "measurement/evaluation.h"
+#include "views/colour/colour_texts.h"
 #include "views/common/dialog_buttons.h"
+#include "views/optics/option_frame.h"
 
 namespace vexa {
 
@@ -16,12 +18,15 @@ using namespace message_type;
 
 namespace {
 
+const QString kNm = QStringLiteral("[nm]");
+
 struct Group {
   explicit Group(const QString& caption) : box(new QGroupBox(caption)), grid(new QGridLayout(box)) {
     grid->setContentsMargins(12, 8, 12, 8);
     grid->setHorizontalSpacing(8);
     grid->setVerticalSpacing(5);
     grid->setColumnStretch(0, 1);
+    grid->setColumnMinimumWidth(2, box->fontMetrics().horizontalAdvance(kNm));
   }
   QGroupBox* box;
   QGridLayout* grid;
@@ -38,14 +43,13 @@ dispset::dispset(VEXATYPE& state, MessageService& messages, QWidget* parent)
   setObjectName(QStringLiteral("dispset"));
   setWindowTitle(QStringLiteral("表示設定"));
   auto* left = new QVBoxLayout;
-  left->addWidget(BuildWavelengths());
-  left->addWidget(BuildReflectance());
-  left->addStretch();
+  BuildWavelengths(*left);
+  BuildReflectance(*left);
+  BuildText(*left);
   auto* right = new QVBoxLayout;
-  right->addWidget(BuildDiagram());
-  right->addWidget(BuildConditions());
-  right->addWidget(BuildRest());
-  right->addStretch();
+  BuildColours(*right);
+  BuildMarks(*right);
+  BuildAverage(*right);
   auto* columns = new QHBoxLayout;
   columns->setSpacing(14);
   columns->addLayout(left);
@@ -64,17 +68,14 @@ void dispset::accept() {
     messages_.MsgCall(*fault, kOk + kWarningIcon, QStringLiteral("設定入力"));
     return;
   }
-  const StockConditions before = state_.ColourConditions();
-  Store(entries);
-  const StockConditions after = state_.ColourConditions();
-  const bool changed = before.xyMode != after.xyMode || before.illuminant != after.illuminant ||
-                       before.observer2Deg != after.observer2Deg;
-  if (changed && state_.stock.Count > 0 &&
+  const StockConditions conditions = Conditions();
+  if (conditions != state_.ColourConditions() && state_.stock.Count > 0 &&
       messages_.MsgCall(QStringLiteral("現在累積されている色度図データと表示条件が異なります。現累"
                                        "積データをクリアしますか？"),
                         kYesNo + kQuestionIcon, message_title::kMessage) == MessageResult::kYes) {
     state_.stock.RemoveAll();
   }
+  Store(entries, conditions);
   EvaluateAgain(state_);
   QDialog::accept();
 }
@@ -108,6 +109,7 @@ QButtonGroup* dispset::AddChoice(QGridLayout& grid, const char* name, const QStr
                                  int chosen) {
   auto* group = new QButtonGroup(grid.parentWidget());
   auto* row = new QHBoxLayout;
+  row->setSpacing(14);
   for (qsizetype i = 0; i < captions.size(); ++i) {
     auto* button = new QRadioButton(captions[i]);
     button->setObjectName(QStringLiteral("%1%2").arg(QLatin1String(name)).arg(i));
@@ -120,105 +122,97 @@ QButtonGroup* dispset::AddChoice(QGridLayout& grid, const char* name, const QStr
   return group;
 }
 
-QWidget* dispset::BuildWavelengths() {
+void dispset::BuildWavelengths(QBoxLayout& column) {
   const DisplaySettings& display = state_.display;
-  Group group(QStringLiteral("表示波長"));
-  const QString nm = QStringLiteral("[nm]");
-  fullScale_ = AddCheck(*group.grid, "FullScale", QStringLiteral("ﾌﾙｽｹｰﾙ"), display.fullScale);
+  const Group range(QStringLiteral("表示波長"));
+  fullScale_ = AddCheck(*range.grid, "FullScale", QStringLiteral("ﾌﾙｽｹｰﾙ"), display.fullScale);
   shortest_ =
-      AddNumber(*group.grid, "Shortest", QStringLiteral("最短波長"), display.shortestNm, nm);
-  longest_ = AddNumber(*group.grid, "Longest", QStringLiteral("最長波長"), display.longestNm, nm);
-  group.grid->addWidget(new QLabel(QStringLiteral("目盛り")), group.grid->rowCount(), 0);
-  wavelengthTick_ = AddNumber(*group.grid, "WavelengthTick", QStringLiteral("目盛り間隔"),
-                              display.wavelengthTickNm, nm);
+      AddNumber(*range.grid, "Shortest", QStringLiteral("最短波長"), display.shortestNm, kNm);
+  longest_ = AddNumber(*range.grid, "Longest", QStringLiteral("最長波長"), display.longestNm, kNm);
   for (QWidget* field : {shortest_, longest_}) {
     field->setDisabled(fullScale_->isChecked());
     connect(fullScale_, &QCheckBox::toggled, field, &QWidget::setDisabled);
   }
-  return group.box;
+  const Group ticks(QStringLiteral("目盛り"));
+  wavelengthTick_ = AddNumber(*ticks.grid, "WavelengthTick", QStringLiteral("目盛り間隔"),
+                              display.wavelengthTickNm, kNm);
+  column.addWidget(range.box);
+  column.addWidget(ticks.box);
 }
 
-QWidget* dispset::BuildReflectance() {
+void dispset::BuildReflectance(QBoxLayout& column) {
   const DisplaySettings& display = state_.display;
-  Group group(QStringLiteral("表示反射率"));
   const QString percent = QStringLiteral("[%]");
-  autoScale_ = AddCheck(*group.grid, "AutoScale", QStringLiteral("自動ｽｹｰﾙ"), display.autoScale);
+  const Group range(QStringLiteral("表示反射率"));
+  autoScale_ = AddCheck(*range.grid, "AutoScale", QStringLiteral("自動ｽｹｰﾙ"), display.autoScale);
   maximum_ =
-      AddNumber(*group.grid, "Maximum", QStringLiteral("最大"), display.maximumPercent, percent);
+      AddNumber(*range.grid, "Maximum", QStringLiteral("最大"), display.maximumPercent, percent);
   minimum_ =
-      AddNumber(*group.grid, "Minimum", QStringLiteral("最小"), display.minimumPercent, percent);
-  group.grid->addWidget(new QLabel(QStringLiteral("目盛り")), group.grid->rowCount(), 0);
-  autoTicks_ = AddCheck(*group.grid, "AutoTicks", QStringLiteral("自動目盛り"), display.autoTicks);
-  tick_ =
-      AddNumber(*group.grid, "Tick", QStringLiteral("目盛り間隔"), display.tickPercent, percent);
+      AddNumber(*range.grid, "Minimum", QStringLiteral("最小"), display.minimumPercent, percent);
   for (QWidget* field : {maximum_, minimum_}) {
     field->setDisabled(autoScale_->isChecked());
     connect(autoScale_, &QCheckBox::toggled, field, &QWidget::setDisabled);
   }
+  const Group ticks(QStringLiteral("目盛り"));
+  autoTicks_ = AddCheck(*ticks.grid, "AutoTicks", QStringLiteral("自動目盛り"), display.autoTicks);
+  tick_ =
+      AddNumber(*ticks.grid, "Tick", QStringLiteral("目盛り間隔"), display.tickPercent, percent);
   tick_->setDisabled(autoTicks_->isChecked());
   connect(autoTicks_, &QCheckBox::toggled, tick_, &QWidget::setDisabled);
-  return group.box;
+  column.addWidget(range.box);
+  column.addWidget(ticks.box);
 }
 
-QWidget* dispset::BuildDiagram() {
-  Group group(QStringLiteral("色度図"));
-  diagram_ = AddChoice(*group.grid, "Diagram",
-                       {QStringLiteral("XYZ色度図"), QStringLiteral("L*a*b色度図")},
-                       state_.display.xyMode ? 0 : 1);
-  group.grid->addWidget(new QLabel(QStringLiteral("L*a*bｽｹｰﾙ")), group.grid->rowCount(), 0);
-  labScale_ = AddChoice(*group.grid, "LabScale",
-                        {QStringLiteral("10"), QStringLiteral("20"), QStringLiteral("40")},
-                        state_.display.labScale);
-  return group.box;
+void dispset::BuildText(QBoxLayout& column) {
+  const Group text(QStringLiteral("ﾃｷｽﾄ表示"));
+  textStep_ = AddNumber(*text.grid, "TextStep", QStringLiteral("表示ｽﾃｯﾌﾟ"),
+                        state_.display.textStepNm, kNm);
+  column.addWidget(text.box);
 }
 
-QWidget* dispset::BuildConditions() {
-  auto* both = new QWidget;
-  auto* layout = new QVBoxLayout(both);
-  layout->setContentsMargins(0, 0, 0, 0);
-  Group illuminant(QStringLiteral("標準光源設定"));
-  illuminant_ = AddChoice(
-      *illuminant.grid, "Illuminant",
-      {QStringLiteral("A"), QStringLiteral("B"), QStringLiteral("C"), QStringLiteral("D65")},
-      state_.colour.illuminant - 1);
-  Group observer(QStringLiteral("視野設定"));
+void dispset::BuildColours(QBoxLayout& column) {
+  const Group diagram(QStringLiteral("色度図"));
+  diagram_ = AddChoice(*diagram.grid, "Diagram", DiagramTexts(), state_.display.xyMode ? 0 : 1);
+  diagram.grid->addWidget(new QLabel(QStringLiteral("L*a*bｽｹｰﾙ")), diagram.grid->rowCount(), 0);
+  labScale_ = AddChoice(*diagram.grid, "LabScale", LabScaleTexts(), state_.display.labScale);
+  const Group illuminant(QStringLiteral("標準光源設定"));
+  illuminant_ =
+      AddChoice(*illuminant.grid, "Illuminant",
+                {IlluminantText(1), IlluminantText(2), IlluminantText(3), IlluminantText(4)},
+                state_.colour.illuminant - 1);
+  const Group observer(QStringLiteral("視野設定"));
   observer_ =
       AddChoice(*observer.grid, "Observer", {QStringLiteral("2度視野"), QStringLiteral("10度視野")},
                 state_.colour.observer2Deg ? 0 : 1);
-  layout->addWidget(illuminant.box);
-  layout->addWidget(observer.box);
-  return both;
+  for (const Group& group : {diagram, illuminant, observer}) {
+    column.addWidget(group.box);
+  }
 }
 
-QWidget* dispset::BuildRest() {
-  auto* all = new QWidget;
-  auto* layout = new QVBoxLayout(all);
-  layout->setContentsMargins(0, 0, 0, 0);
-  Group text(QStringLiteral("ﾃｷｽﾄ表示"));
-  textStep_ = AddNumber(*text.grid, "TextStep", QStringLiteral("表示ｽﾃｯﾌﾟ"),
-                        state_.display.textStepNm, QStringLiteral("[nm]"));
-  Group shown(QStringLiteral("ﾘﾌｧﾚﾝｽﾃﾞｰﾀ"));
+void dispset::BuildMarks(QBoxLayout& column) {
+  const Group shown(QStringLiteral("ﾘﾌｧﾚﾝｽﾃﾞｰﾀ"));
   reference_ = AddCheck(*shown.grid, "ShowReference", QStringLiteral("ﾘﾌｧﾚﾝｽﾃﾞｰﾀを表示する"),
                         state_.display.showReferenceData);
-  Group cursor(QStringLiteral("ｶｰｿﾙ表示"));
+  const Group cursor(QStringLiteral("ｶｰｿﾙ表示"));
   cursor_ = AddCheck(*cursor.grid, "ShowCursor", QStringLiteral("ｶｰｿﾙを表示する"),
                      state_.display.showCursor);
-  Group minimum(QStringLiteral("Min表示"));
+  const Group minimum(QStringLiteral("Min表示"));
   minimumMark_ = AddCheck(*minimum.grid, "ShowMinimum", QStringLiteral("Min値に表示する"),
                           state_.display.showMinimum);
-  Group average(QStringLiteral("平均反射率"));
-  averageShortest_ = AddNumber(*average.grid, "AverageShortest", QStringLiteral("最短波長"),
-                               state_.colour.avgFrom, QStringLiteral("[nm]"));
-  averageLongest_ = AddNumber(*average.grid, "AverageLongest", QStringLiteral("最長波長"),
-                              state_.colour.avgTo, QStringLiteral("[nm]"));
   auto* marks = new QHBoxLayout;
   marks->addWidget(cursor.box);
   marks->addWidget(minimum.box);
-  layout->addWidget(text.box);
-  layout->addWidget(shown.box);
-  layout->addLayout(marks);
-  layout->addWidget(average.box);
-  return all;
+  column.addWidget(shown.box);
+  column.addLayout(marks);
+}
+
+void dispset::BuildAverage(QBoxLayout& column) {
+  const Group average(QStringLiteral("平均反射率"));
+  averageShortest_ = AddNumber(*average.grid, "AverageShortest", QStringLiteral("最短波長"),
+                               state_.colour.avgFrom, kNm);
+  averageLongest_ = AddNumber(*average.grid, "AverageLongest", QStringLiteral("最長波長"),
+                              state_.colour.avgTo, kNm);
+  column.addWidget(average.box);
 }
 
 DisplayEntries dispset::Entries() const {
@@ -236,8 +230,17 @@ DisplayEntries dispset::Entries() const {
           .averageLongestNm = averageLongest_->Value()};
 }
 
+// A choice of which nothing is checked stays as it was.
+StockConditions dispset::Conditions() const {
+  const StockConditions now = state_.ColourConditions();
+  return {.xyMode = diagram_->checkedId() == 0,
+          .illuminant = static_cast<std::int16_t>(
+              ChosenOption(*illuminant_, static_cast<std::int16_t>(now.illuminant - 1)) + 1),
+          .observer2Deg = observer_->checkedId() == 0};
+}
+
 // Entries that a flag replaces are stored where they are numbers, and kept as they were elsewhere.
-void dispset::Store(const DisplayEntries& entries) {
+void dispset::Store(const DisplayEntries& entries, const StockConditions& conditions) {
   DisplaySettings& display = state_.display;
   display.fullScale = entries.fullScale;
   display.shortestNm =
@@ -251,13 +254,13 @@ void dispset::Store(const DisplayEntries& entries) {
   display.autoTicks = entries.autoTicks;
   display.tickPercent = entries.tickPercent.value_or(display.tickPercent);
   display.textStepNm = Whole(*entries.textStepNm);
-  display.xyMode = diagram_->checkedId() == 0;
-  display.labScale = static_cast<std::int16_t>(std::max(labScale_->checkedId(), 0));
+  display.xyMode = conditions.xyMode;
+  display.labScale = ChosenOption(*labScale_, display.labScale);
   display.showReferenceData = reference_->isChecked();
   display.showCursor = cursor_->isChecked();
   display.showMinimum = minimumMark_->isChecked();
-  state_.colour.illuminant = static_cast<std::int16_t>(std::max(illuminant_->checkedId(), 0) + 1);
-  state_.colour.observer2Deg = observer_->checkedId() == 0;
+  state_.colour.illuminant = conditions.illuminant;
+  state_.colour.observer2Deg = conditions.observer2Deg;
   state_.colour.avgFrom = Whole(*entries.averageShortestNm);
   state_.colour.avgTo = Whole(*entries.averageLongestNm);
 }

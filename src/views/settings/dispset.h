@@ -30,13 +30,15 @@ class dispset : public QDialog {
                              bool checked);
   static QButtonGroup* AddChoice(QGridLayout& grid, const char* name, const QStringList& captions,
                                  int chosen);
-  QWidget* BuildWavelengths();
-  QWidget* BuildReflectance();
-  QWidget* BuildDiagram();
-  QWidget* BuildConditions();
-  QWidget* BuildRest();
+  void BuildWavelengths(QBoxLayout& column);
+  void BuildReflectance(QBoxLayout& column);
+  void BuildText(QBoxLayout& column);
+  void BuildColours(QBoxLayout& column);
+  void BuildMarks(QBoxLayout& column);
+  void BuildAverage(QBoxLayout& column);
   [[nodiscard]] DisplayEntries Entries() const;
-  void Store(const DisplayEntries& entries);
+  [[nodiscard]] StockConditions Conditions() const;
+  void Store(const DisplayEntries& entries, const StockConditions& conditions);
 
   VEXATYPE& state_;
   MessageService& messages_;

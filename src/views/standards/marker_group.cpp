@@ -27,13 +27,13 @@ MarkerGroup::MarkerGroup(const QString& name, const QString& caption, const QStr
 
 void MarkerGroup::Show(const ReferenceMarker& marker) {
   shown_->setChecked(marker.shown);
-  value_->Show(marker.value);
+  value_->SetValue(marker.value);
 }
 
 QLineEdit* MarkerGroup::TakeInto(ReferenceMarker& marker) const {
   marker.shown = shown_->isChecked();
-  marker.value = value_->Entered().value_or(value_->Shown());
-  return marker.shown && !value_->Entered() ? value_ : nullptr;
+  marker.value = value_->Value().value_or(value_->ValueSet());
+  return marker.shown && !value_->Value() ? value_ : nullptr;
 }
 
 }  // namespace vexa

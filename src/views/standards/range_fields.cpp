@@ -8,20 +8,20 @@ RangeFields::RangeFields(const QString& name)
       lower(new RealEntry(name + QStringLiteral("Lower"))) {}
 
 void RangeFields::Show(const StandardLimits& limits) {
-  upper->Show(limits.upper);
-  lower->Show(limits.lower);
+  upper->SetValue(limits.upper);
+  lower->SetValue(limits.lower);
 }
 
 QLineEdit* RangeFields::TakeInto(StandardLimits& limits) const {
-  limits.upper = upper->Entered().value_or(upper->Shown());
-  limits.lower = lower->Entered().value_or(lower->Shown());
+  limits.upper = upper->Value().value_or(upper->ValueSet());
+  limits.lower = lower->Value().value_or(lower->ValueSet());
   if (!limits.enabled) {
     return nullptr;
   }
-  if (!upper->Entered()) {
+  if (!upper->Value()) {
     return upper;
   }
-  return lower->Entered() ? nullptr : lower;
+  return lower->Value() ? nullptr : lower;
 }
 
 }  // namespace vexa

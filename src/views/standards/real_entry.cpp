@@ -14,14 +14,4 @@ RealEntry::RealEntry(const QString& name, QWidget* parent)
   setFixedWidth(kWidth);
 }
 
-void RealEntry::Show(double value) {
-  SetValue(value);
-  shown_ = value;
-  shownText_ = text();
-}
-
-std::optional<double> RealEntry::Entered() const {
-  return text() == shownText_ ? shown_ : Value();
-}
-
 }  // namespace vexa

@@ -8,8 +8,8 @@
 #include "measurement/evaluation.h"
 #include "standards/condition_caption.h"
 #include "standards/standard_check.h"
+#include "views/common/elided_label.h"
 #include "views/common/theme.h"
-#include "views/standards/elided_label.h"
 
 namespace vexa {
 namespace {

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "views/standards/elided_label.h"
+#include "views/common/elided_label.h"
 
 #include <QPainter>
 
@@ -16,7 +16,8 @@ QSize ElidedLabel::minimumSizeHint() const {
 
 void ElidedLabel::paintEvent(QPaintEvent* /*event*/) {
   QPainter painter(this);
-  const QRect area = contentsRect();
+  drawFrame(&painter);
+  const QRect area = contentsRect().adjusted(margin(), 0, -margin(), 0);
   painter.setPen(palette().color(QPalette::WindowText));
   painter.drawText(area, static_cast<int>(alignment()),
                    fontMetrics().elidedText(text(), Qt::ElideMiddle, area.width()));

@@ -5,7 +5,7 @@
 
 namespace vexa {
 
-/// A line of text that leaves out its middle where there is no room for it. Its tip is the whole.
+/// A line of text that leaves out its middle where there is no room for it.
 class ElidedLabel : public QLabel {
   Q_OBJECT
 
