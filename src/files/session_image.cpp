@@ -31,7 +31,7 @@ class Writer {
     return *this;
   }
   Writer& operator<<(const QString& text) {
-    stream_ << text.toUtf8();
+    stream_ << (text.isEmpty() ? QByteArrayLiteral("") : text.toUtf8());  // null is empty, too
     return *this;
   }
   // The time of the clock on the wall, which no change of the time zone moves.

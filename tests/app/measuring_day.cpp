@@ -97,7 +97,9 @@ void Step(VEXA& window, std::mt19937& random) {
 int Run(const QString& directory, unsigned seed, int steps) {
   Answers messages;
   NoFiles files;
-  VEXA window({messages, files, QDateTime::currentDateTime,
+  // Whole seconds, as the sample information shows and so keeps them.
+  VEXA window({messages, files,
+               [] { return QDateTime::fromSecsSinceEpoch(QDateTime::currentSecsSinceEpoch()); },
                [](const VEXATYPE& state) {
                  return std::make_unique<frmComH8Ctrl>(
                      [programDirectory = state.programDirectory](int port) {
