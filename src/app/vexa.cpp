@@ -186,6 +186,7 @@ void VEXA::ConnectSequence() {
     UpdateCommands();
   });
   connect(&sequence_, &MeasurementSequence::FrameKept, this, [this] { journal_.Write(); });
+  connect(thickness_, &ThicknessPanel::Computed, this, [this] { journal_.Update(); });
   connect(&ageTimer_, &QTimer::timeout, this,
           [this] { bar_->ShowAges(state_, services_.clock()); });
   ageTimer_.start(kAgeRefreshMs);

@@ -97,8 +97,8 @@ QString Journal::Path() const {
 
 QString Journal::PathOf(int number) const {
   return QDir(directory_)
-      .filePath(number == 1 ? QStringLiteral("vexa.jnl")
-                            : QStringLiteral("vexa-%1.jnl").arg(number));
+      .filePath(number == 1 ? QStringLiteral("vexa.journal")
+                            : QStringLiteral("vexa-%1.journal").arg(number));
 }
 
 // Opens and locks; false, with nothing held, when another program has it or it is gone meanwhile.

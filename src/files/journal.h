@@ -10,7 +10,7 @@
 
 namespace vexa {
 
-/// The journal of a running session: `vexa.jnl` in the program directory, or `vexa-2.jnl` and so on
+/// The journal of a running session: `vexa.journal` in the program directory, or `vexa-2.journal` and so on
 /// where that one is taken. It is locked as long as it is held, so that a journal without a lock is
 /// one that a crash has left. The file comes into being with the first record.
 class Journal {

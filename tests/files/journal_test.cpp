@@ -90,7 +90,7 @@ TEST(Journal, RunningProgramsKeepApart) {
     Journal second(files.Directory());
     EXPECT_FALSE(second.TakeLeft(setAside)) << "the first one's session is no left one";
     ASSERT_TRUE(second.Append(record));
-    EXPECT_EQ(second.Path(), files.Path("vexa-2.jnl"));
+    EXPECT_EQ(second.Path(), files.Path("vexa-2.journal"));
   }
   Journal third(files.Directory());
   const std::optional<JournalContent> left = third.TakeLeft(setAside);
@@ -98,24 +98,24 @@ TEST(Journal, RunningProgramsKeepApart) {
   EXPECT_EQ(left->image, moments[2]);
   ASSERT_TRUE(third.Append(ChangeRecord(moments[2], moments[3])));
   third.Release();
-  EXPECT_EQ(ReadJournal(files.Read("vexa-2.jnl")).image, moments[3]);
+  EXPECT_EQ(ReadJournal(files.Read("vexa-2.journal")).image, moments[3]);
   EXPECT_TRUE(first.IsInPlace());
   first.Remove();
-  EXPECT_FALSE(QFile::exists(files.Path("vexa.jnl")));
+  EXPECT_FALSE(QFile::exists(files.Path("vexa.journal")));
 }
 
 TEST(Journal, ForeignOnesGetOutOfTheWay) {
   const test::TemporaryFiles files;
-  files.Write("vexa.jnl", "VEXA-KT 440-840 Ver 4.00 Journal File\r\nabc");
-  files.Write("vexa.jnl.bad", "earlier");
-  files.Write("vexa-2.jnl", "VEXA-KT");
+  files.Write("vexa.journal", "VEXA-KT 440-840 Ver 4.00 Journal File\r\nabc");
+  files.Write("vexa.journal.bad", "earlier");
+  files.Write("vexa-2.journal", "VEXA-KT");
   QStringList setAside;
   Journal journal(files.Directory());
   EXPECT_FALSE(journal.TakeLeft(setAside));
-  EXPECT_EQ(setAside, QStringList{files.Path("vexa.jnl.bad2")});
-  EXPECT_TRUE(files.Read("vexa.jnl.bad2").endsWith("abc"));
-  EXPECT_EQ(files.Read("vexa.jnl.bad"), "earlier");
-  EXPECT_FALSE(QFile::exists(files.Path("vexa-2.jnl"))) << "ended before its first record";
+  EXPECT_EQ(setAside, QStringList{files.Path("vexa.journal.bad2")});
+  EXPECT_TRUE(files.Read("vexa.journal.bad2").endsWith("abc"));
+  EXPECT_EQ(files.Read("vexa.journal.bad"), "earlier");
+  EXPECT_FALSE(QFile::exists(files.Path("vexa-2.journal"))) << "ended before its first record";
 }
 
 TEST(Journal, FullDiskLosesNothingThatWasKept) {
@@ -132,10 +132,10 @@ TEST(Journal, FullDiskLosesNothingThatWasKept) {
   const bool written = journal.Append(ChangeRecord(moments[1], moments[2]));
   setrlimit(RLIMIT_FSIZE, &whole);
   EXPECT_FALSE(written);
-  EXPECT_EQ(ReadJournal(files.Read("vexa.jnl")).image, moments[1]);
+  EXPECT_EQ(ReadJournal(files.Read("vexa.journal")).image, moments[1]);
 
   ASSERT_TRUE(journal.Append(ChangeRecord(moments[1], moments[3])));
-  const JournalContent content = ReadJournal(files.Read("vexa.jnl"));
+  const JournalContent content = ReadJournal(files.Read("vexa.journal"));
   EXPECT_EQ(content.image, moments[3]);
   EXPECT_FALSE(content.damaged);
 }
