@@ -4,6 +4,7 @@
 #include <QTemporaryDir>
 
 #include "files/data_file.h"
+#include "files/journal.h"
 #include "support/silent_messages.h"
 #include "support/ten_slots.h"
 
@@ -39,5 +40,31 @@ void ReadTenSlots(benchmark::State& state) {
   }
 }
 BENCHMARK(ReadTenSlots)->Unit(benchmark::kMillisecond);
+
+// A slot that was measured anew: what has changed is found among ten, written, and on the disk.
+void AppendSlotToJournal(benchmark::State& state) {
+  const QTemporaryDir directory;
+  vexa::VEXATYPE slots10 = TenSlots();
+  vexa::Journal journal(directory.path());
+  vexa::SessionImage written = vexa::TakeImage(slots10);
+  while (state.KeepRunning()) {
+    slots10.Slot(5)->reflectance[440] += 1.0;
+    const vexa::SessionImage now = vexa::TakeImage(slots10);
+    if (!journal.Append(vexa::ChangeRecord(written, now))) {
+      state.SkipWithError("not written");
+    }
+    written = now;
+  }
+}
+BENCHMARK(AppendSlotToJournal)->Unit(benchmark::kMillisecond)->UseRealTime();
+
+void FindNoChangeInSession(benchmark::State& state) {
+  const vexa::VEXATYPE slots10 = TenSlots();
+  const vexa::SessionImage written = vexa::TakeImage(slots10);
+  while (state.KeepRunning()) {
+    benchmark::DoNotOptimize(vexa::TakeImage(slots10) == written);
+  }
+}
+BENCHMARK(FindNoChangeInSession)->Unit(benchmark::kMillisecond);
 
 }  // namespace

@@ -45,7 +45,10 @@ int RunWindow() {
   messages.SetWindow(&window);
   dialogs.SetWindow(&window);
   window.show();
-  QTimer::singleShot(0, &window, &vexa::VEXA::Load);
+  QTimer::singleShot(0, &window, [&window] {
+    window.Load();
+    window.OfferSession();
+  });
   return QApplication::exec();
 }
 

@@ -5,6 +5,7 @@
 #include <QGridLayout>
 #include <QVBoxLayout>
 
+#include "app/frame_age.h"
 #include "base/date_text.h"
 #include "views/common/slot_style.h"
 #include "views/common/theme.h"
@@ -49,25 +50,22 @@ QString Tip(int slot) {
 MeasurementBar::MeasurementBar(QWidget* parent)
     : QWidget(parent),
       background_(TwoStateButton(kBackgroundAtRest, QStringLiteral("ﾊﾞｯｸｸﾞﾗﾝﾄﾞ測定"), Qt::Key_F5)),
+      backgroundAge_(SmallLabel(QStringLiteral("BackgroundAge"))),
       reference_(TwoStateButton(kReferenceAtRest, QStringLiteral("ﾘﾌｧﾚﾝｽ測定"), Qt::Key_F6)),
+      referenceAge_(SmallLabel(QStringLiteral("ReferenceAge"))),
       allClear_(Button(QStringLiteral("ALL CLEAR"), QStringLiteral("全ｽﾛｯﾄをｸﾘｱ"), 30)),
       data_(Button(QStringLiteral("Data"), QStringLiteral("試料情報"), 30)),
       time_(new QLabel),
-      lightWarning_(
-          new QLabel(QStringLiteral("光路が閉じています。\nBackground を測定すると\n開きます。"))) {
+      lightWarning_(SmallLabel(QStringLiteral("LightWarning"))) {
   setFixedWidth(kWidth);
   connect(background_, &QPushButton::clicked, this, &MeasurementBar::BackgroundRequested);
   connect(reference_, &QPushButton::clicked, this, &MeasurementBar::ReferenceRequested);
   connect(allClear_, &QPushButton::clicked, this, &MeasurementBar::ClearRequested);
   connect(data_, &QPushButton::clicked, this, &MeasurementBar::DataRequested);
 
-  lightWarning_->setObjectName(QStringLiteral("LightWarning"));
-  lightWarning_->setStyleSheet(
-      QStringLiteral("background:#fff6dd; border:1px solid #e3c877; border-radius:3px;"
-                     "color:#5f4700; padding:5px;"));
-  QSizePolicy keepsItsPlace = lightWarning_->sizePolicy();
-  keepsItsPlace.setRetainSizeWhenHidden(true);
-  lightWarning_->setSizePolicy(keepsItsPlace);
+  lightWarning_->setText(QStringLiteral("光路が閉じています。\n測定すると開きます。"));
+  lightWarning_->setStyleSheet(kCalmWarning);
+  lightWarning_->hide();
   time_->setObjectName(QStringLiteral("Time"));
   time_->setAlignment(Qt::AlignCenter);
 
@@ -75,8 +73,10 @@ MeasurementBar::MeasurementBar(QWidget* parent)
   layout->setContentsMargins(0, 0, 0, 0);
   layout->setSpacing(6);
   layout->addWidget(background_);
-  layout->addWidget(reference_);
+  layout->addWidget(backgroundAge_);
   layout->addWidget(lightWarning_);
+  layout->addWidget(reference_);
+  layout->addWidget(referenceAge_);
   layout->addWidget(Line());
 
   auto* grid = new QGridLayout;
@@ -134,6 +134,15 @@ void MeasurementBar::Show(const VEXATYPE& state) {
   time_->setText(DateTimeText(selected == nullptr ? QDateTime() : selected->info.measuredAt));
 }
 
+void MeasurementBar::ShowAges(const VEXATYPE& state, const QDateTime& now) {
+  if (state.backgroundMeasured) {
+    ShowFrameAge(*backgroundAge_, state.backgroundTaken, state.instrument, now);
+  }
+  if (state.referenceMeasured) {
+    ShowFrameAge(*referenceAge_, state.referenceTaken, state.instrument, now);
+  }
+}
+
 void MeasurementBar::ShowRunning(MeasurementKind kind, int slot) {
   switch (kind) {
     case MeasurementKind::kBackground:
@@ -172,6 +181,7 @@ void MeasurementBar::SetAvailable(bool controller, bool idle) {
 
 void MeasurementBar::ShowLightPathClosed(bool closed) {
   lightWarning_->setVisible(closed);
+  backgroundAge_->setVisible(!closed);
 }
 
 }  // namespace vexa

@@ -26,6 +26,9 @@ class MeasurementBar : public QWidget {
   /// Shows what has been measured, and the time of the selected slot.
   void Show(const VEXATYPE& state);
 
+  /// Shows when background and reference were taken, and warns where they no longer fit.
+  void ShowAges(const VEXATYPE& state, const QDateTime& now);
+
   /// Captions and state of the two-state buttons while a measurement runs, and after it.
   void ShowRunning(MeasurementKind kind, int slot);
   void ShowAtRest();
@@ -34,7 +37,7 @@ class MeasurementBar : public QWidget {
   /// the slots busy.
   void SetAvailable(bool controller, bool idle);
 
-  /// The calm warning that the light path is closed.
+  /// The calm warning that the light path is closed, in the place of the background's age.
   void ShowLightPathClosed(bool closed);
 
  signals:
@@ -52,7 +55,9 @@ class MeasurementBar : public QWidget {
   };
 
   QPushButton* background_;
+  QLabel* backgroundAge_;
   QPushButton* reference_;
+  QLabel* referenceAge_;
   std::array<SlotRow, kSlotCount> rows_{};
   QPushButton* allClear_;
   QPushButton* data_;

@@ -35,9 +35,16 @@
 #include "views/standards/standard_frm.h"
 
 namespace vexa {
+namespace {
+
+constexpr int kAgeRefreshMs = 15000;
+
+}  // namespace
 
 VEXA::VEXA(Services services, const QString& programDirectory)
-    : services_(std::move(services)), sequence_(state_, services_.messages, services_.clock) {
+    : services_(std::move(services)),
+      sequence_(state_, services_.messages, services_.clock),
+      journal_(state_, services_.messages, programDirectory) {
   state_.programDirectory = programDirectory;
   BuildPanels();
   ConnectCommands();
@@ -64,6 +71,21 @@ void VEXA::Load() {
   loading_ = false;
   setWindowTitle(QStringLiteral("MERIDOX VEXA-KT"));
   UpdateCommands();
+}
+
+void VEXA::OfferSession() {
+  if (unloaded_ || !journal_.Offer()) {
+    return;
+  }
+  // A controller that has just been started keeps the light path closed until a background comes.
+  loading_ = true;
+  UpdateCommands();
+  if (controllerReady_ && state_.backgroundMeasured) {
+    (void)controller_->OpenLightPath();
+  }
+  loading_ = false;
+  UpdateCommands();
+  Refresh();
 }
 
 int VEXA::GetOption() const {
@@ -171,6 +193,11 @@ void VEXA::ConnectSequence() {
     bar_->ShowRunning(kind, slot);
     UpdateCommands();
   });
+  connect(&sequence_, &MeasurementSequence::FrameKept, this, [this] { journal_.Write(); });
+  connect(thickness_, &ThicknessPanel::Computed, this, [this] { journal_.Update(); });
+  connect(&ageTimer_, &QTimer::timeout, this,
+          [this] { bar_->ShowAges(state_, services_.clock()); });
+  ageTimer_.start(kAgeRefreshMs);
   connect(&sequence_, &MeasurementSequence::SampleStored, this,
           [this](int slot) { bar_->SelectSlot(slot); });
   connect(&sequence_, &MeasurementSequence::ThicknessMeasured, this,
@@ -216,6 +243,7 @@ bool VEXA::Unload() {
     ShowWriteError(CompletePath(state_, QStringLiteral("vexa.int")), services_.messages);
   }
   unloaded_ = true;
+  journal_.End();
   if (controller_ != nullptr) {
     controller_->Close();
   }
@@ -243,7 +271,9 @@ void VEXA::ShowThicknessGraph() {
 }
 
 void VEXA::Refresh() {
+  journal_.Update();
   bar_->Show(state_);
+  bar_->ShowAges(state_, services_.clock());
   views_->Show(GetOption());
   commands_.views->actions().at(views_->CurrentView())->setChecked(true);
   const MeasurementSlot* selected = state_.Slot(GetOption());

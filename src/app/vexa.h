@@ -2,10 +2,12 @@
 #pragma once
 
 #include <QMainWindow>
+#include <QTimer>
 #include <functional>
 #include <memory>
 
 #include "app/main_menu.h"
+#include "app/session_journal.h"
 #include "base/message.h"
 #include "instrument/controller.h"
 #include "measurement/measurement_sequence.h"
@@ -44,6 +46,9 @@ class VEXA : public QMainWindow {
   /// call it once the window is shown.
   void Load();
 
+  /// Offers what a crash has left; call it once Load has ended. Waits as Load does.
+  void OfferSession();
+
   [[nodiscard]] int GetOption() const;
   [[nodiscard]] const VEXATYPE& State() const { return state_; }
   [[nodiscard]] const MenuCommands& Commands() const { return commands_; }
@@ -67,6 +72,8 @@ class VEXA : public QMainWindow {
   VEXATYPE state_;
   std::unique_ptr<Controller> controller_;
   MeasurementSequence sequence_;
+  SessionJournal journal_;
+  QTimer ageTimer_;
   MenuCommands commands_{};
   MeasurementBar* bar_ = nullptr;
   ProgressStrip* progress_ = nullptr;

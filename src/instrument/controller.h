@@ -55,6 +55,10 @@ class Controller : public QObject {
   [[nodiscard]] virtual Status Acquire(LightFlag light, const AcquisitionSettings& settings,
                                        RawSpectrum& spectrum) = 0;
 
+  /// Opens the measuring light at rest, as a background measurement leaves it. 0, or the failure of
+  /// a controller that keeps it closed.
+  [[nodiscard]] virtual Status OpenLightPath() { return 0; }
+
   /// Ends every wait and closes the link. Safe at any time.
   virtual void Close() = 0;
 

@@ -191,6 +191,12 @@ Status frmComH8Ctrl::Acquire(LightFlag light, const AcquisitionSettings& setting
                    settings.settlingTimeMs);
 }
 
+Status frmComH8Ctrl::OpenLightPath() {
+  const Status status = LghtSht(false);
+  lightOpenAtRest_ = status == 0;
+  return status;
+}
+
 void frmComH8Ctrl::Close() {
   ClosePort();
   Wake();

@@ -71,6 +71,7 @@ class frmComH8Ctrl : public Controller {
   [[nodiscard]] Status SetSampling(std::int16_t timeMs, std::int16_t averagingCount) override;
   [[nodiscard]] Status Acquire(LightFlag light, const AcquisitionSettings& settings,
                                RawSpectrum& spectrum) override;
+  [[nodiscard]] Status OpenLightPath() override;
   void Close() override;
   [[nodiscard]] QString FailureDetails() const override;
   [[nodiscard]] bool IsLightPathClosed() const override;

@@ -5,6 +5,7 @@
 #include <array>
 
 #include "colour/colour_stock.h"
+#include "measurement/frame_conditions.h"
 #include "measurement/measurement_slot.h"
 #include "measurement/settings.h"
 #include "optics/thickness_history.h"
@@ -37,6 +38,8 @@ struct VEXATYPE {
   RawSpectrum sample;
   Flag backgroundMeasured;
   Flag referenceMeasured;
+  FrameConditions backgroundTaken;  ///< meaningful once it was measured
+  FrameConditions referenceTaken;
   std::array<MeasurementSlot, kSlotCount> measurementSlots;
 
   InstrumentSettings instrument;

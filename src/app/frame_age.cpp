@@ -1,0 +1,80 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "app/frame_age.h"
+
+#include <QStringList>
+#include <algorithm>
+
+namespace vexa {
+namespace {
+
+constexpr int kTextPixels = 12;
+constexpr int kPadding = 4;
+
+// "10:32", and its date where that is another day.
+QString TimeText(const QDateTime& time, const QDateTime& now) {
+  return time.toString(time.date() == now.date() ? QStringLiteral("H:mm")
+                                                 : QStringLiteral("M/d H:mm"));
+}
+
+QString AgeText(qint64 minutes) {
+  if (minutes < qint64{2} * 60) {
+    return QStringLiteral("%1分前").arg(minutes);
+  }
+  return minutes < qint64{48} * 60 ? QStringLiteral("%1時間前").arg(minutes / 60)
+                                   : QStringLiteral("%1日前").arg(minutes / (24 * 60));
+}
+
+QString ChangesText(const FrameChanges& changes) {
+  QStringList settings;
+  if (changes.samplingTime) {
+    settings << QStringLiteral("時間");
+  }
+  if (changes.averagingCount) {
+    settings << QStringLiteral("回数");
+  }
+  if (changes.calibrationShift) {
+    settings << QStringLiteral("ｼﾌﾄ");
+  }
+  QStringList texts;
+  if (!settings.isEmpty()) {
+    texts << settings.join(u'･') + QStringLiteral("変更");
+  }
+  if (changes.old) {
+    texts << QStringLiteral("%1分経過").arg(kFrameAgeLimitMinutes);
+  }
+  return texts.join(u' ');
+}
+
+QString SettingsText(const FrameConditions& frame) {
+  return QStringLiteral("%1 ms × %2, ｼﾌﾄ %3 nm")
+      .arg(frame.samplingTimeMs)
+      .arg(frame.averagingCount)
+      .arg(frame.calibrationShiftNm);
+}
+
+}  // namespace
+
+QLabel* SmallLabel(const QString& name) {
+  auto* label = new QLabel;
+  label->setObjectName(name);
+  QFont font = label->font();
+  font.setPixelSize(kTextPixels);
+  label->setFont(font);
+  label->setAlignment(Qt::AlignCenter);
+  label->setFixedHeight(2 * QFontMetrics(font).lineSpacing() + kPadding);
+  return label;
+}
+
+void ShowFrameAge(QLabel& label, const FrameConditions& frame, const InstrumentSettings& settings,
+                  const QDateTime& now) {
+  const FrameChanges changes = ChangedSince(frame, settings, now);
+  const bool warn = changes.SettingsDiffer() || changes.old;
+  const qint64 minutes = std::max(frame.takenAt.secsTo(now), qint64{0}) / 60;
+  const QString time =
+      QStringLiteral("%1 (%2)").arg(TimeText(frame.takenAt, now), AgeText(minutes));
+  label.setText(time + u'\n' + (warn ? ChangesText(changes) : SettingsText(frame)));
+  label.setToolTip(SettingsText(frame));
+  label.setStyleSheet(warn ? kCalmWarning : QString());
+}
+
+}  // namespace vexa

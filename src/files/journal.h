@@ -1,0 +1,55 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <QFile>
+#include <QString>
+#include <QStringList>
+#include <optional>
+
+#include "files/journal_records.h"
+
+namespace vexa {
+
+/// The journal of a running session: `vexa.journal` in the program directory, or `vexa-2.journal` and so on
+/// where that one is taken. It is locked as long as it is held, so that a journal without a lock is
+/// one that a crash has left. The file comes into being with the first record.
+class Journal {
+ public:
+  explicit Journal(QString directory) : directory_(std::move(directory)) {}
+
+  /// Takes the first journal that a crash has left and that holds something; nothing when there is
+  /// none. Empty ones are removed; one of another version gets the name NAME.bad (.bad2 and so on),
+  /// which is added to `setAside`.
+  std::optional<JournalContent> TakeLeft(QStringList& setAside);
+
+  /// Puts the record behind the last whole one and returns once the disk has it. False when it
+  /// could not be written; what it left of itself is overwritten by the next.
+  [[nodiscard]] bool Append(const QByteArray& record);
+
+  /// A file is held and still has its name: otherwise the next Append begins a new one.
+  [[nodiscard]] bool IsInPlace() const;
+
+  /// Copies the held file to NAME.bad (.bad2 and so on); its name, or empty when that failed.
+  [[nodiscard]] QString KeepCopy() const;
+
+  /// Lets go of the file and leaves it for the next start.
+  void Release();
+
+  /// Ends the journal: the file goes.
+  void Remove();
+
+  /// The file held, or the one that the next Append would begin with.
+  [[nodiscard]] QString Path() const;
+
+ private:
+  [[nodiscard]] QString PathOf(int number) const;
+  bool Hold(int number, QIODevice::OpenMode mode);
+  bool Begin();
+  [[nodiscard]] bool SyncDirectory() const;
+
+  QString directory_;
+  QFile file_;
+  qsizetype end_ = 0;
+};
+
+}  // namespace vexa

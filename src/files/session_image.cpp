@@ -1,0 +1,181 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "files/session_image.h"
+
+#include <QDataStream>
+#include <QIODevice>
+#include <algorithm>
+#include <cmath>
+#include <concepts>
+#include <span>
+
+namespace vexa {
+namespace {
+
+constexpr quint8 kValidBit = 1;
+
+class Writer {
+ public:
+  Writer() { stream_.setByteOrder(QDataStream::LittleEndian); }
+
+  template <std::integral Number>
+  Writer& operator<<(Number number) {
+    stream_ << number;
+    return *this;
+  }
+  Writer& operator<<(double number) {
+    stream_ << number;
+    return *this;
+  }
+  Writer& operator<<(std::span<const double> values) {
+    std::ranges::for_each(values, [this](double value) { *this << value; });
+    return *this;
+  }
+  Writer& operator<<(const QString& text) {
+    stream_ << (text.isEmpty() ? QByteArrayLiteral("") : text.toUtf8());  // null is empty, too
+    return *this;
+  }
+  // The time of the clock on the wall, which no change of the time zone moves.
+  Writer& operator<<(const QDateTime& time) {
+    stream_ << time.date().toJulianDay()
+            << qint32{time.isValid() ? time.time().msecsSinceStartOfDay() : -1};
+    return *this;
+  }
+
+  [[nodiscard]] const QByteArray& Bytes() const { return bytes_; }
+
+ private:
+  QByteArray bytes_;
+  QDataStream stream_{&bytes_, QIODevice::WriteOnly};
+};
+
+class Reader {
+ public:
+  explicit Reader(const QByteArray& bytes) : stream_(bytes) {
+    stream_.setByteOrder(QDataStream::LittleEndian);
+  }
+
+  template <std::integral Number>
+  Reader& operator>>(Number& number) {
+    stream_ >> number;
+    return *this;
+  }
+  Reader& operator>>(double& number) {
+    stream_ >> number;
+    finite_ = finite_ && std::isfinite(number);
+    return *this;
+  }
+  Reader& operator>>(std::span<double> values) {
+    std::ranges::for_each(values, [this](double& value) { *this >> value; });
+    return *this;
+  }
+  Reader& operator>>(QString& text) {
+    QByteArray bytes;
+    stream_ >> bytes;
+    text = QString::fromUtf8(bytes);
+    return *this;
+  }
+  Reader& operator>>(QDateTime& time) {
+    qint64 day = 0;
+    qint32 ms = -1;
+    stream_ >> day >> ms;
+    time = ms < 0 ? QDateTime()
+                  : QDateTime(QDate::fromJulianDay(day), QTime::fromMSecsSinceStartOfDay(ms));
+    return *this;
+  }
+
+  /// Everything was there, was a finite number where it was one, and nothing is left.
+  [[nodiscard]] bool ReadAll() const {
+    return stream_.status() == QDataStream::Ok && stream_.atEnd() && finite_;
+  }
+
+ private:
+  QDataStream stream_;
+  bool finite_ = true;
+};
+
+QByteArray FrameBytes(bool measured, const FrameConditions& taken, const RawSpectrum& spectrum) {
+  Writer out;
+  out << quint8{measured ? kValidBit : quint8{0}} << taken.takenAt << taken.samplingTimeMs
+      << taken.averagingCount << taken.calibrationShiftNm << spectrum.Values();
+  return out.Bytes();
+}
+
+bool PutFrame(const QByteArray& bytes, Flag& measured, FrameConditions& taken,
+              RawSpectrum& spectrum) {
+  Reader in(bytes);
+  quint8 flags = 0;
+  FrameConditions conditions;
+  RawSpectrum values;
+  in >> flags >> conditions.takenAt >> conditions.samplingTimeMs >> conditions.averagingCount >>
+      conditions.calibrationShiftNm >> values.Values();
+  if (in.ReadAll()) {
+    measured = flags == kValidBit;
+    taken = conditions;
+    spectrum = values;
+  }
+  return in.ReadAll();
+}
+
+QByteArray SlotBytes(const MeasurementSlot& slot) {
+  Writer out;
+  const ThicknessResult& thickness = slot.thickness;
+  out << quint8{slot.valid ? kValidBit : quint8{0}} << slot.info.measuredAt
+      << slot.info.sampleNumber << slot.info.remark1 << slot.info.remark2
+      << slot.reflectance.Values() << thickness.thicknessNm << thickness.first.wavelengthNm
+      << thickness.first.reflectance << thickness.second.wavelengthNm
+      << thickness.second.reflectance << thickness.extrema.count;
+  for (const Extremum& extremum : thickness.extrema.Found()) {
+    out << extremum.point.wavelengthNm << extremum.point.reflectance
+        << quint8{extremum.maximum ? kValidBit : quint8{0}};
+  }
+  return out.Bytes();
+}
+
+void ReadThickness(Reader& in, ThicknessResult& thickness) {
+  in >> thickness.thicknessNm >> thickness.first.wavelengthNm >> thickness.first.reflectance >>
+      thickness.second.wavelengthNm >> thickness.second.reflectance >> thickness.extrema.count;
+  // A count that no search gives leaves bytes unread, which the caller sees.
+  thickness.extrema.count =
+      std::clamp(thickness.extrema.count, std::int16_t{0}, ExtremumList::kLimit);
+  for (std::size_t i = 0; i < thickness.extrema.Found().size(); ++i) {
+    Extremum& extremum = thickness.extrema.entries[i];
+    quint8 maximum = 0;
+    in >> extremum.point.wavelengthNm >> extremum.point.reflectance >> maximum;
+    extremum.maximum = maximum == kValidBit;
+  }
+}
+
+bool PutSlot(const QByteArray& bytes, MeasurementSlot& slot) {
+  Reader in(bytes);
+  quint8 flags = 0;
+  MeasurementSlot read;
+  in >> flags >> read.info.measuredAt >> read.info.sampleNumber >> read.info.remark1 >>
+      read.info.remark2 >> read.reflectance.Values();
+  ReadThickness(in, read.thickness);
+  if (in.ReadAll()) {
+    read.valid = flags == kValidBit;
+    slot = read;
+  }
+  return in.ReadAll();
+}
+
+}  // namespace
+
+SessionImage TakeImage(const VEXATYPE& state) {
+  SessionImage image{FrameBytes(state.backgroundMeasured, state.backgroundTaken, state.background),
+                     FrameBytes(state.referenceMeasured, state.referenceTaken, state.reference)};
+  std::ranges::transform(state.measurementSlots, image.begin() + 2, SlotBytes);
+  return image;
+}
+
+bool PutImage(const SessionImage& image, VEXATYPE& state) {
+  bool whole =
+      PutFrame(image[0], state.backgroundMeasured, state.backgroundTaken, state.background);
+  whole &= PutFrame(image[1], state.referenceMeasured, state.referenceTaken, state.reference);
+  for (std::size_t i = 0; i < state.measurementSlots.size(); ++i) {
+    whole &= PutSlot(image[i + 2], state.measurementSlots[i]);
+  }
+  return whole;
+}
+
+}  // namespace vexa

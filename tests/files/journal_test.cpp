@@ -1,0 +1,144 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "files/journal.h"
+
+#include <gtest/gtest.h>
+#include <sys/resource.h>
+
+#include <algorithm>
+#include <csignal>
+
+#include "support/temporary_files.h"
+
+namespace vexa {
+namespace {
+
+// Three moments of a session: a background, a slot with everything, and all cleared.
+std::array<SessionImage, 4> Moments() {
+  VEXATYPE state;
+  std::array<SessionImage, 4> moments{EmptySession()};
+  state.backgroundMeasured = true;
+  state.backgroundTaken = {QDateTime({2026, 3, 29}, {2, 30, 0, 7}), 3000, 4, 5};
+  state.background[848] = 1.0 / 3.0;
+  moments[1] = TakeImage(state);
+  MeasurementSlot& slot = *state.Slot(10);
+  slot.valid = true;
+  slot.info = {QStringLiteral("№1, ﾚﾝｽﾞ"), QString(), QStringLiteral("\"備考\""),
+               QDateTime({1999, 12, 31}, {0, 0})};
+  slot.reflectance[840] = 4.2;
+  slot.thickness = {{500.5, 1.5}, {600.0, 2.5}, 1500.0, {}};
+  slot.thickness.extrema.count = 1;
+  slot.thickness.extrema.entries[0] = {{500.5, 1.5}, true};
+  moments[2] = TakeImage(state);
+  state.ClearSlots();
+  moments[3] = TakeImage(state);
+  return moments;
+}
+
+QByteArray JournalOf(const std::array<SessionImage, 4>& moments, std::vector<qsizetype>& ends) {
+  QByteArray bytes = kJournalHeader.toByteArray();
+  ends = {bytes.size()};
+  for (std::size_t i = 1; i < moments.size(); ++i) {
+    bytes += ChangeRecord(moments[i - 1], moments[i]);
+    ends.push_back(bytes.size());
+  }
+  return bytes;
+}
+
+TEST(Journal, KeepsEveryBitOfASession) {
+  for (const SessionImage& moment : Moments()) {
+    VEXATYPE restored;
+    ASSERT_TRUE(PutImage(moment, restored));
+    EXPECT_EQ(TakeImage(restored), moment);
+  }
+}
+
+TEST(Journal, CutAnywhereHoldsEveryWholeRecord) {
+  const auto moments = Moments();
+  std::vector<qsizetype> ends;
+  const QByteArray whole = JournalOf(moments, ends);
+  for (qsizetype size = 0; size <= whole.size(); ++size) {
+    const auto records =
+        static_cast<std::size_t>(std::ranges::upper_bound(ends, size) - ends.begin());
+    const JournalContent content = ReadJournal(whole.first(size));
+    ASSERT_TRUE(content.readable && !content.damaged) << size;
+    ASSERT_EQ(content.end, records == 0 ? 0 : ends[records - 1]) << size;
+    ASSERT_EQ(content.image, moments[records == 0 ? 0 : records - 1]) << size;
+  }
+}
+
+TEST(Journal, DamageCostsItsOwnRecordAlone) {
+  const auto moments = Moments();
+  std::vector<qsizetype> ends;
+  QByteArray bytes = JournalOf(moments, ends);
+  bytes[ends[0] + 5] = static_cast<char>(~bytes[ends[0] + 5]);  // the length of the first record
+  const JournalContent content = ReadJournal(bytes.first(ends[2]));
+  EXPECT_TRUE(content.damaged);
+  EXPECT_EQ(content.image[0], EmptySession()[0]);
+  EXPECT_EQ(content.image[11], moments[2][11]);
+  bytes[20] = '9';
+  EXPECT_FALSE(ReadJournal(bytes).readable) << "another version";
+}
+
+TEST(Journal, RunningProgramsKeepApart) {
+  const test::TemporaryFiles files;
+  const auto moments = Moments();
+  const QByteArray record = ChangeRecord(moments[0], moments[2]);
+  QStringList setAside;
+  Journal first(files.Directory());
+  ASSERT_TRUE(first.Append(record));
+  {
+    Journal second(files.Directory());
+    EXPECT_FALSE(second.TakeLeft(setAside)) << "the first one's session is no left one";
+    ASSERT_TRUE(second.Append(record));
+    EXPECT_EQ(second.Path(), files.Path("vexa-2.journal"));
+  }
+  Journal third(files.Directory());
+  const std::optional<JournalContent> left = third.TakeLeft(setAside);
+  ASSERT_TRUE(left);
+  EXPECT_EQ(left->image, moments[2]);
+  ASSERT_TRUE(third.Append(ChangeRecord(moments[2], moments[3])));
+  third.Release();
+  EXPECT_EQ(ReadJournal(files.Read("vexa-2.journal")).image, moments[3]);
+  EXPECT_TRUE(first.IsInPlace());
+  first.Remove();
+  EXPECT_FALSE(QFile::exists(files.Path("vexa.journal")));
+}
+
+TEST(Journal, ForeignOnesGetOutOfTheWay) {
+  const test::TemporaryFiles files;
+  files.Write("vexa.journal", "VEXA-KT 440-840 Ver 4.00 Journal File\r\nabc");
+  files.Write("vexa.journal.bad", "earlier");
+  files.Write("vexa-2.journal", "VEXA-KT");
+  QStringList setAside;
+  Journal journal(files.Directory());
+  EXPECT_FALSE(journal.TakeLeft(setAside));
+  EXPECT_EQ(setAside, QStringList{files.Path("vexa.journal.bad2")});
+  EXPECT_TRUE(files.Read("vexa.journal.bad2").endsWith("abc"));
+  EXPECT_EQ(files.Read("vexa.journal.bad"), "earlier");
+  EXPECT_FALSE(QFile::exists(files.Path("vexa-2.journal"))) << "ended before its first record";
+}
+
+TEST(Journal, FullDiskLosesNothingThatWasKept) {
+  const test::TemporaryFiles files;
+  const auto moments = Moments();
+  Journal journal(files.Directory());
+  ASSERT_TRUE(journal.Append(ChangeRecord(moments[0], moments[1])));
+
+  std::signal(SIGXFSZ, SIG_IGN);
+  rlimit whole{};
+  getrlimit(RLIMIT_FSIZE, &whole);
+  const rlimit small{5000, whole.rlim_max};
+  setrlimit(RLIMIT_FSIZE, &small);
+  const bool written = journal.Append(ChangeRecord(moments[1], moments[2]));
+  setrlimit(RLIMIT_FSIZE, &whole);
+  EXPECT_FALSE(written);
+  EXPECT_EQ(ReadJournal(files.Read("vexa.journal")).image, moments[1]);
+
+  ASSERT_TRUE(journal.Append(ChangeRecord(moments[1], moments[3])));
+  const JournalContent content = ReadJournal(files.Read("vexa.journal"));
+  EXPECT_EQ(content.image, moments[3]);
+  EXPECT_FALSE(content.damaged);
+}
+
+}  // namespace
+}  // namespace vexa
