@@ -123,7 +123,8 @@ QByteArray SlotBytes(const MeasurementSlot& slot) {
       << slot.info.sampleNumber << slot.info.remark1 << slot.info.remark2
       << slot.reflectance.Values() << thickness.thicknessNm << thickness.first.wavelengthNm
       << thickness.first.reflectance << thickness.second.wavelengthNm
-      << thickness.second.reflectance << thickness.extrema.count;
+      << thickness.second.reflectance << thickness.firstIndex << thickness.secondIndex
+      << quint8{thickness.physical ? kValidBit : quint8{0}} << thickness.extrema.count;
   for (const Extremum& extremum : thickness.extrema.Found()) {
     out << extremum.point.wavelengthNm << extremum.point.reflectance
         << quint8{extremum.maximum ? kValidBit : quint8{0}};
@@ -132,8 +133,11 @@ QByteArray SlotBytes(const MeasurementSlot& slot) {
 }
 
 void ReadThickness(Reader& in, ThicknessResult& thickness) {
+  quint8 physical = 0;
   in >> thickness.thicknessNm >> thickness.first.wavelengthNm >> thickness.first.reflectance >>
-      thickness.second.wavelengthNm >> thickness.second.reflectance >> thickness.extrema.count;
+      thickness.second.wavelengthNm >> thickness.second.reflectance >> thickness.firstIndex >>
+      thickness.secondIndex >> physical >> thickness.extrema.count;
+  thickness.physical = physical == kValidBit;
   // A count that no search gives leaves bytes unread, which the caller sees.
   thickness.extrema.count =
       std::clamp(thickness.extrema.count, std::int16_t{0}, ExtremumList::kLimit);

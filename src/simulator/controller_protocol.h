@@ -47,7 +47,10 @@ class ControllerProtocol {
   /// To be told when the bytes of a step with this milestone are out.
   void Reach(Milestone milestone);
 
-  void AddFault(const Fault& fault) { faults_.Add(fault); }
+  void AddFault(Fault fault) {
+    fault.exchange += fault.fromNow ? exchanges_ : 0;
+    faults_.Add(fault);
+  }
 
  private:
   using Frame = std::span<const unsigned char, 4>;

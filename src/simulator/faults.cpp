@@ -81,7 +81,7 @@ std::optional<Fault> MakeFault(QStringView name, QStringView exchange) {
   if (found == all.end() || !isNumber || number < 1 || number > kLastExchange) {
     return std::nullopt;
   }
-  return Fault{found->kind, number};
+  return Fault{found->kind, number, exchange.startsWith(u'+')};
 }
 
 std::vector<FaultKind> FaultPlan::Strike(int exchange, bool sendsLines) {

@@ -39,10 +39,11 @@ struct FaultInfo {
 struct Fault {
   FaultKind kind = FaultKind::NoReply;
   int exchange = 1;
+  bool fromNow = false;  ///< `exchange` counts from when the fault is added instead
 };
 
-/// A fault by its name and the text of its exchange number (empty means 1). Empty when the name is
-/// unknown or the text is not a number from 1 to 1000000.
+/// A fault by its name and the text of its exchange number: "7", "+7" from now on, empty for 1.
+/// Empty when the name is unknown or the number is not one from 1 to 1000000.
 [[nodiscard]] std::optional<Fault> MakeFault(QStringView name, QStringView exchange);
 
 /// The faults that have not struck yet.

@@ -25,7 +25,7 @@ std::array<SessionImage, 4> Moments() {
   slot.info = {QStringLiteral("№1, ﾚﾝｽﾞ"), QString(), QStringLiteral("\"備考\""),
                QDateTime({1999, 12, 31}, {0, 0})};
   slot.reflectance[840] = 4.2;
-  slot.thickness = {{500.5, 1.5}, {600.0, 2.5}, 1500.0, {}};
+  slot.thickness = {{500.5, 1.5}, {600.0, 2.5}, 1500.0, false, 1.5, 1.6, {}};
   slot.thickness.extrema.count = 1;
   slot.thickness.extrema.entries[0] = {{500.5, 1.5}, true};
   moments[2] = TakeImage(state);

@@ -99,6 +99,7 @@ void ThicknessPanel::ComputeThickness() {
   // A failure has had its message, and is shown as no thickness.
   (void)ComputeSlotThickness(state_, *slot, messages_);
   Show(slot_);
+  emit Computed();
 }
 
 }  // namespace vexa

@@ -25,6 +25,10 @@ class ThicknessPanel : public QGroupBox {
   /// Computes the thickness of the slot shown, with a message when that is not possible.
   void ComputeThickness();
 
+ signals:
+  /// A thickness was computed for the slot shown, whether it could be or not.
+  void Computed();
+
  private:
   struct ExtremumLine {
     QLabel* wavelength;

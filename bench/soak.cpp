@@ -1,0 +1,225 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// Measures again and again on the virtual instrument while faults strike at random commands, and
+// checks after each measurement what a user relies on: good data or one message, never both or
+// neither; a failed measurement changes nothing; the next one without a fault succeeds; the memory
+// stays. Usage: soak [MEASUREMENTS [SEED]]; exit status 1 when anything of this was not so.
+#include <unistd.h>
+
+#include <QCoreApplication>
+#include <QDir>
+#include <QElapsedTimer>
+#include <QFile>
+#include <QProcess>
+#include <QTemporaryDir>
+#include <algorithm>
+#include <cmath>
+#include <cstdio>
+#include <map>
+#include <random>
+#include <string>
+
+#include "instrument/frm_com_h8_ctrl.h"
+#include "instrument/serial_port_path.h"
+#include "measurement/measurement_sequence.h"
+
+namespace {
+
+constexpr int kPatienceMs = 10000;
+constexpr int kReplyTimeoutMs = 100;
+constexpr int kWarmUp = 1000;
+constexpr double kLargestGrowthKiB = 2048.0;
+// The sample on the stage is the reference itself, measured without noise.
+constexpr double kTruthPercent = 4.0;
+constexpr double kTolerancePercent = 0.05;
+
+enum class Outcome { kGood, kSaturated, kFailed, kGoodOrFailed };
+
+struct FaultKind {
+  const char* name;
+  bool atLines;  ///< strikes at the data reply only
+  Outcome outcome;
+};
+
+// Whether a fault hurts may depend on the command: a refused shutter is not told from a moved one.
+constexpr FaultKind kFaults[] = {{"error-reply", false, Outcome::kGoodOrFailed},
+                                 {"unplug", false, Outcome::kFailed},
+                                 {"saturation", true, Outcome::kSaturated},
+                                 {"short-line", true, Outcome::kFailed},
+                                 {"noise-before", false, Outcome::kGoodOrFailed},
+                                 {"split-terminator", false, Outcome::kGood},
+                                 {"byte-by-byte", false, Outcome::kGood},
+                                 {"late-bytes", false, Outcome::kFailed},
+                                 {"no-reply", false, Outcome::kFailed}};
+constexpr int kCommandsOfASample = 4;
+constexpr int kOneFaultIn = 8;
+
+class CountedMessages : public vexa::MessageService {
+ public:
+  vexa::MessageResult MsgCall(const QString& text, std::int16_t /*type*/,
+                              const QString& /*title*/) override {
+    // The question before a slot is overwritten is none of the outcomes.
+    shown += text.contains(QStringLiteral("上書き")) ? 0 : 1;
+    return vexa::MessageResult::kOk;
+  }
+  void Beep() override { ++beeps; }
+  int shown = 0;
+  int beeps = 0;
+};
+
+double ResidentKiB() {
+  QFile file(QStringLiteral("/proc/self/statm"));
+  const bool open = file.open(QIODevice::ReadOnly);
+  const double pages = open ? file.readAll().split(' ').value(1).toDouble() : 0.0;
+  return pages * static_cast<double>(::sysconf(_SC_PAGESIZE)) / 1024.0;
+}
+
+bool IsTrue(const vexa::ReflectanceSpectrum& spectrum) {
+  return std::ranges::all_of(spectrum.Values(), [](double value) {
+    return std::abs(value - kTruthPercent) <= kTolerancePercent;
+  });
+}
+
+class Soak {
+ public:
+  explicit Soak(unsigned seed)
+      : random_(seed),
+        controller_([this](int port) { return vexa::SerialPortPath(directory_.path(), port); },
+                    kReplyTimeoutMs),
+        sequence_(state_, messages_, QDateTime::currentDateTime) {}
+
+  ~Soak() {
+    instrument_.terminate();
+    instrument_.waitForFinished(kPatienceMs);
+  }
+
+  bool Start() {
+    state_.instrument.settlingTimeMs = 0;
+    std::ranges::fill(state_.referenceReflectance.Values(), kTruthPercent);
+    instrument_.start(
+        QDir(QCoreApplication::applicationDirPath()).filePath(QStringLiteral("vexa-simulator")),
+        {QStringLiteral("--dir"), directory_.path(), QStringLiteral("--pace"),
+         QStringLiteral("none"), QStringLiteral("--noise"), QStringLiteral("off"),
+         QStringLiteral("--late"), QStringLiteral("150"), QStringLiteral("--replug"),
+         QStringLiteral("20"), QStringLiteral("--stage"), QStringLiteral("reference")});
+    if (!instrument_.waitForReadyRead(kPatienceMs) || controller_.Initialise(5) != 0 ||
+        controller_.SetSampling(1000, 1) != 0) {
+      return false;
+    }
+    sequence_.UseController(&controller_);
+    return sequence_.MeasureBackground() == vexa::Status{0} &&
+           sequence_.MeasureReference() == vexa::Status{0};
+  }
+
+  /// One measurement, with or without a fault; false when something was not as it must be.
+  bool Measure(int number) {
+    const bool struck = number % kOneFaultIn == kOneFaultIn - 1;
+    const FaultKind* fault = struck ? &kFaults[random_() % std::size(kFaults)] : nullptr;
+    if (fault != nullptr) {
+      Prepare(*fault);
+    }
+    const int slot = 1 + number % vexa::kSlotCount;
+    const vexa::MeasurementSlot before = *state_.Slot(slot);
+    messages_.shown = 0;
+    messages_.beeps = 0;
+    const std::optional<vexa::Status> status = sequence_.MeasureSample(slot);
+    ++outcomes_[std::string(fault == nullptr ? "none" : fault->name) +
+                (status == vexa::Status{0}   ? ": good"
+                 : status == vexa::Status{1} ? ": saturated"
+                                             : ": failed")];
+    const bool right = status &&
+                       IsExpected(fault == nullptr ? Outcome::kGood : fault->outcome, *status) &&
+                       IsConsistent(*status, *state_.Slot(slot), before);
+    if (!right) {
+      std::fprintf(stderr, "soak: measurement %d, fault %s: status %d, %d messages, %d beeps\n",
+                   number, fault == nullptr ? "none" : fault->name, status.value_or(-99),
+                   messages_.shown, messages_.beeps);
+    }
+    WaitForPort();
+    return right;
+  }
+
+  void PrintOutcomes() const {
+    for (const auto& [name, count] : outcomes_) {
+      std::printf("%8d  %s\n", count, name.c_str());
+    }
+  }
+
+ private:
+  void Prepare(const FaultKind& fault) {
+    const unsigned command = fault.atLines ? 1 : 1 + random_() % kCommandsOfASample;
+    instrument_.write(QByteArray("fault ") + fault.name + " +" + QByteArray::number(command) +
+                      '\n');
+    instrument_.waitForBytesWritten(kPatienceMs);
+    // The line has to be read before the first command comes.
+    ::usleep(5000);
+  }
+
+  static bool IsExpected(Outcome outcome, vexa::Status status) {
+    switch (outcome) {
+      case Outcome::kGood:
+        return status == 0;
+      case Outcome::kSaturated:
+        return status == 1;
+      case Outcome::kFailed:
+        return status < 0;
+      case Outcome::kGoodOrFailed:
+        return status <= 0;
+    }
+    return false;
+  }
+
+  [[nodiscard]] bool IsConsistent(vexa::Status status, const vexa::MeasurementSlot& slot,
+                                  const vexa::MeasurementSlot& before) const {
+    if (status == 0) {
+      return slot.valid && IsTrue(slot.reflectance) && messages_.shown == 0;
+    }
+    return slot.reflectance == before.reflectance && slot.valid == before.valid &&
+           messages_.shown == 1 && messages_.beeps == (status == 1 ? 1 : 0);
+  }
+
+  void WaitForPort() const {
+    QElapsedTimer timer;
+    timer.start();
+    while (!QFile::exists(directory_.filePath(QStringLiteral("com5"))) &&
+           timer.elapsed() < kPatienceMs) {
+      ::usleep(1000);
+    }
+  }
+
+  std::mt19937 random_;
+  QTemporaryDir directory_;
+  QProcess instrument_;
+  vexa::VEXATYPE state_;
+  CountedMessages messages_;
+  vexa::frmComH8Ctrl controller_;
+  vexa::MeasurementSequence sequence_;
+  std::map<std::string, int> outcomes_;
+};
+
+}  // namespace
+
+int main(int argc, char* argv[]) {
+  const QCoreApplication application(argc, argv);
+  const int measurements = argc > 1 ? std::atoi(argv[1]) : 10000;
+  const unsigned seed = argc > 2 ? static_cast<unsigned>(std::atoi(argv[2])) : 1;
+  Soak soak(seed);
+  if (!soak.Start()) {
+    std::fputs("soak: the virtual instrument did not start\n", stderr);
+    return 1;
+  }
+  QElapsedTimer timer;
+  timer.start();
+  int wrong = 0;
+  double warm = 0.0;
+  for (int number = 0; number < measurements; ++number) {
+    wrong += soak.Measure(number) ? 0 : 1;
+    if (number == std::min(kWarmUp, measurements / 2)) {
+      warm = ResidentKiB();
+    }
+  }
+  const double growth = ResidentKiB() - warm;
+  soak.PrintOutcomes();
+  std::printf("%8d  measurements in %.0f s, %d wrong; memory %.0f KiB after warm-up, %+.0f KiB\n",
+              measurements, static_cast<double>(timer.elapsed()) / 1000.0, wrong, warm, growth);
+  return wrong == 0 && growth < kLargestGrowthKiB ? 0 : 1;
+}
