@@ -17,6 +17,7 @@
 #include <map>
 #include <random>
 #include <string>
+#include <vector>
 
 #include "instrument/frm_com_h8_ctrl.h"
 #include "instrument/serial_port_path.h"
@@ -36,21 +37,22 @@ enum class Outcome { kGood, kSaturated, kFailed, kGoodOrFailed };
 
 struct FaultKind {
   const char* name;
-  bool atLines;  ///< strikes at the data reply only
+  std::vector<int> commands;  ///< of a sample at which it may strike
   Outcome outcome;
 };
 
-// Whether a fault hurts may depend on the command: a refused shutter is not told from a moved one.
-constexpr FaultKind kFaults[] = {{"error-reply", false, Outcome::kGoodOrFailed},
-                                 {"unplug", false, Outcome::kFailed},
-                                 {"saturation", true, Outcome::kSaturated},
-                                 {"short-line", true, Outcome::kFailed},
-                                 {"noise-before", false, Outcome::kGoodOrFailed},
-                                 {"split-terminator", false, Outcome::kGood},
-                                 {"byte-by-byte", false, Outcome::kGood},
-                                 {"late-bytes", false, Outcome::kFailed},
-                                 {"no-reply", false, Outcome::kFailed}};
-constexpr int kCommandsOfASample = 4;
+// The commands of a sample: eyepiece shutter, measuring, data, eyepiece shutter. A refused shutter
+// is not told from a moved one, so that a refusal is tried where it is noticed; byte by byte the
+// data would come later than the reply is awaited here.
+const FaultKind kFaults[] = {{"error-reply", {2}, Outcome::kFailed},
+                             {"unplug", {1, 2, 3}, Outcome::kFailed},
+                             {"saturation", {3}, Outcome::kSaturated},
+                             {"short-line", {3}, Outcome::kFailed},
+                             {"noise-before", {1, 2, 3, 4}, Outcome::kGoodOrFailed},
+                             {"split-terminator", {1, 2, 3, 4}, Outcome::kGood},
+                             {"byte-by-byte", {1, 2, 4}, Outcome::kGood},
+                             {"late-bytes", {1, 2, 3, 4}, Outcome::kFailed},
+                             {"no-reply", {1, 2, 3, 4}, Outcome::kFailed}};
 constexpr int kOneFaultIn = 8;
 
 class CountedMessages : public vexa::MessageService {
@@ -146,12 +148,15 @@ class Soak {
 
  private:
   void Prepare(const FaultKind& fault) {
-    const unsigned command = fault.atLines ? 1 : 1 + random_() % kCommandsOfASample;
+    const int command = fault.commands[random_() % fault.commands.size()];
+    instrument_.readAll();
     instrument_.write(QByteArray("fault ") + fault.name + " +" + QByteArray::number(command) +
                       '\n');
-    instrument_.waitForBytesWritten(kPatienceMs);
-    // The line has to be read before the first command comes.
-    ::usleep(5000);
+    QByteArray line;
+    while (!line.startsWith("fault at ") &&
+           (instrument_.canReadLine() || instrument_.waitForReadyRead(kPatienceMs))) {
+      line = instrument_.readLine();
+    }
   }
 
   static bool IsExpected(Outcome outcome, vexa::Status status) {

@@ -43,8 +43,8 @@ class MessageService {
   /// Shows the text (single CR characters break its lines) and returns the button pressed.
   virtual MessageResult MsgCall(const QString& text, std::int16_t type, const QString& title) = 0;
 
-  /// The same with more about it, which a user may unfold below the text; a service without room for
-  /// that leaves the details out, as all do that are empty.
+  /// The same with more about it, which a user may unfold below the text; a service without room
+  /// for that leaves the details out, as all do that are empty.
   virtual MessageResult MsgCallWithDetails(const QString& text, std::int16_t type,
                                            const QString& title, const QString& /*details*/) {
     return MsgCall(text, type, title);

@@ -10,9 +10,9 @@
 
 namespace vexa {
 
-/// The journal of a running session: `vexa.journal` in the program directory, or `vexa-2.journal` and so on
-/// where that one is taken. It is locked as long as it is held, so that a journal without a lock is
-/// one that a crash has left. The file comes into being with the first record.
+/// The journal of a running session: `vexa.journal` in the program directory, or `vexa-2.journal`
+/// and so on where that one is taken. It is locked as long as it is held, so that a journal without
+/// a lock is one that a crash has left. The file comes into being with the first record.
 class Journal {
  public:
   explicit Journal(QString directory) : directory_(std::move(directory)) {}

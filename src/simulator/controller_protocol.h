@@ -47,9 +47,11 @@ class ControllerProtocol {
   /// To be told when the bytes of a step with this milestone are out.
   void Reach(Milestone milestone);
 
-  void AddFault(Fault fault) {
+  /// Gives back the number of the first exchange at which it may strike.
+  int AddFault(Fault fault) {
     fault.exchange += fault.fromNow ? exchanges_ : 0;
     faults_.Add(fault);
+    return fault.exchange;
   }
 
  private:

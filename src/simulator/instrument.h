@@ -33,7 +33,10 @@ class Instrument {
 
   void SetStage(const PutOnStage& command);
   void ShowNextSample() { head_.UnderObjective().Next(); }
-  void AddFault(const Fault& fault) { protocol_.AddFault(fault); }
+  /// Announces "fault at N" once it is in place.
+  void AddFault(const Fault& fault) {
+    announce_(QStringLiteral("fault at %1").arg(protocol_.AddFault(fault)));
+  }
 
  private:
   void ReadCommands();

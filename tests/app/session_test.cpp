@@ -53,7 +53,9 @@ class Session : public testing::Test {
     return window->findChild<QLabel*>(QLatin1String(name))->text();
   }
 
-  QStringList Journals() { return QDir(peer.Directory()).entryList({QStringLiteral("*.journal*")}); }
+  QStringList Journals() {
+    return QDir(peer.Directory()).entryList({QStringLiteral("*.journal*")});
+  }
 
   QDateTime now{{2026, 3, 9}, {7, 5, 3}};
   test::ScriptedPeer peer;

@@ -223,9 +223,10 @@ TEST_F(ProgramTest, MeasuresTheSamplesInTurnAndSurvivesReconnection) {
 TEST_F(ProgramTest, ObeysItsStandardInput) {
   QProcess program;
   StartReady(program, {u"--stage"_s, u"mirror"_s});
-  program.write("stage ar4\nnonsense\nnext\nfault error-reply\nstage glass\n");
+  program.write("stage ar4\nnonsense\nnext\nfault error-reply +1\nstage glass\n");
   EXPECT_EQ(NextLine(program), u"stage ar4"_s);
   EXPECT_EQ(NextLine(program), u"stage hardcoat1.5"_s);
+  EXPECT_EQ(NextLine(program), u"fault at 1"_s);
   EXPECT_EQ(NextLine(program), u"stage glass"_s);
   const Port port(link_);
   EXPECT_EQ(port.Ask("69000000", "REQERR"), "CHARREFUSEDREQERR");
