@@ -2,6 +2,7 @@
 #include "views/optics/optics_print.h"
 
 #include <QPainter>
+#include <QPicture>
 #include <algorithm>
 
 #include "base/number_text.h"
@@ -51,7 +52,7 @@ void DrawPlot(QPainter& painter, const QRectF& place, const ThicknessHistory& hi
               const ThicknessScale& scale) {
   HistoryPlot plot;
   plot.Show(history, scale, 0);
-  painter.drawPicture(place.topLeft(), PlotPicture(plot, place.size().toSize()));
+  DrawPlotPicture(painter, place.topLeft(), 1.0, PlotPicture(plot, place.size().toSize()));
 }
 
 }  // namespace

@@ -1,12 +1,14 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "views/print/current_printer.h"
 
+#include <QBuffer>
 #include <QPdfWriter>
 #include <QPrinter>
 #include <QPrinterInfo>
 #include <QSaveFile>
 
 #include "views/files/file_questions.h"
+#include "views/print/pdf_text.h"
 
 namespace vexa {
 namespace {
@@ -21,19 +23,20 @@ QString SettingsPath(const VEXATYPE& state) {
 
 bool WritePdf(const QString& path, const QString& title, const QPageLayout& layout,
               const PageMaker& pages) {
-  QSaveFile file(path);
-  if (!file.open(QIODevice::WriteOnly)) {
-    return false;
-  }
-  bool painted = false;
+  QBuffer buffer;
+  bool painted = buffer.open(QIODevice::WriteOnly);
   {
-    QPdfWriter paper(&file);
+    QPdfWriter paper(&buffer);
     paper.setTitle(title);
     paper.setCreator(QStringLiteral("VEXA-KT"));
     paper.setResolution(kPdfResolution);
-    painted = paper.setPageLayout(layout) && PaintPages(paper, pages);
+    painted = painted && paper.setPageLayout(layout) && PaintPages(paper, pages);
   }
-  return painted && file.commit();
+  QByteArray bytes = buffer.data();
+  NameIdeographs(bytes, QFont());
+  QSaveFile file(path);
+  return painted && file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size() &&
+         file.commit();
 }
 
 PrintSettings SavedPrintSettings(const VEXATYPE& state) {

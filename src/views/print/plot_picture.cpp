@@ -3,6 +3,8 @@
 
 #include <qcustomplot.h>
 
+#include <QPicture>
+
 namespace vexa {
 
 QPicture PlotPicture(QCustomPlot& plot, const QSize& size) {
@@ -14,6 +16,17 @@ QPicture PlotPicture(QCustomPlot& plot, const QSize& size) {
   plot.toPainter(&recorder, size.width(), size.height());
   recorder.end();
   return picture;
+}
+
+void DrawPlotPicture(QPainter& painter, const QPointF& corner, double scale,
+                     const QPicture& picture) {
+  painter.save();
+  painter.translate(corner);
+  // A picture is played larger on a finer device; the painter's scale has seen to that already.
+  scale *= static_cast<double>(picture.logicalDpiX()) / painter.device()->logicalDpiX();
+  painter.scale(scale, scale);
+  painter.drawPicture(QPointF(), picture);
+  painter.restore();
 }
 
 }  // namespace vexa

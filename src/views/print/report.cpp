@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "views/print/report.h"
 
-#include <QPainter>
+#include <QPicture>
 #include <algorithm>
 #include <memory>
 
@@ -38,11 +38,7 @@ void AddGraph(PageFlow& flow, const VEXATYPE& state, double height) {
   graph.ShowBand(ReflectanceBand(state.standard));
   const QPicture picture = PlotPicture(graph, (QSizeF(flow.Width(), height) / kPixel).toSize());
   flow.Add(height, [picture](QPainter& painter, const QRectF& place) {
-    painter.save();
-    painter.translate(place.topLeft());
-    painter.scale(kPixel, kPixel);
-    painter.drawPicture(QPointF(), picture);
-    painter.restore();
+    DrawPlotPicture(painter, place.topLeft(), kPixel, picture);
   });
 }
 
