@@ -14,7 +14,7 @@ using Row = std::vector<Table::Cell>;
 
 const QString kNone = QStringLiteral("-");
 constexpr double kNumberWidth = 70.0;
-constexpr double kNameWidth = 300.0;
+constexpr double kNameWidth = 340.0;
 
 struct ColourColumn {
   QString title;
@@ -103,8 +103,8 @@ Table SampleTable(const VEXATYPE& state) {
   Table table{.caption = QStringLiteral("試料"),
               .columns = {{QStringLiteral("No."), kNumberWidth},
                           {QStringLiteral("試料No"), kNameWidth, Qt::AlignLeft},
-                          {QStringLiteral("備考1"), 520.0, Qt::AlignLeft},
-                          {QStringLiteral("備考2"), 520.0, Qt::AlignLeft},
+                          {QStringLiteral("備考1"), 480.0, Qt::AlignLeft},
+                          {QStringLiteral("備考2"), 480.0, Qt::AlignLeft},
                           {QStringLiteral("測定日"), 340.0}},
               .rows = {}};
   AddRows(table, state, [](const MeasurementSlot& slot, Row& row) {

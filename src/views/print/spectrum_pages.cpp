@@ -53,9 +53,10 @@ Table MakeTable(const VEXATYPE& state, const std::vector<int>& numbers, int from
     if (stretch > 0) {
       table.columns.push_back({{}, kStretchGap});
     }
-    table.columns.push_back({QStringLiteral("nm"), kWavelengthWidth});
+    const bool used = ReflectanceSpectrum::Contains(fromNm + stretch * rows * stepNm);
+    table.columns.push_back({used ? QStringLiteral("nm") : QString(), kWavelengthWidth});
     for (const int number : numbers) {
-      table.columns.push_back({SlotTitle(state, number), kValueWidth});
+      table.columns.push_back({used ? SlotTitle(state, number) : QString(), kValueWidth});
     }
     for (int row = 0; row < rows; ++row) {
       std::vector<Table::Cell>& cells = table.rows[static_cast<std::size_t>(row)];
