@@ -48,18 +48,17 @@ QString ReportTitle(const ReportRequest& request) {
 PageHeader::PageHeader(const VEXATYPE& state, const ReportRequest& request)
     : title_(ReportTitle(request)) {
   const ColourSettings& colour = state.colour;
-  entries_ = {
-      {QStringLiteral("測定者"),
-       request.operatorName.trimmed().isEmpty() ? kNone : request.operatorName},
-      {QStringLiteral("環境ﾌｧｲﾙ"), FileText(state, state.envFileName)},
-      {QStringLiteral("日付"), DateTimeText(request.date.startOfDay())},
-      {QStringLiteral("規格ﾌｧｲﾙ"), FileText(state, state.standardFileName)},
-      {QStringLiteral("測色条件"),
-       QStringLiteral("光源 %1　視野 %2°　平均 %3-%4 nm")
-           .arg(IlluminantText(colour.illuminant), ObserverText(colour.observer2Deg))
-           .arg(colour.avgFrom)
-           .arg(colour.avgTo)},
-      {QStringLiteral("ﾃﾞｰﾀﾌｧｲﾙ"), FileText(state, state.currentDataFileName)}};
+  entries_ = {{QStringLiteral("測定者"),
+               request.operatorName.trimmed().isEmpty() ? kNone : request.operatorName},
+              {QStringLiteral("環境ﾌｧｲﾙ"), FileText(state, state.envFileName)},
+              {QStringLiteral("日付"), DateTimeText(request.date.startOfDay())},
+              {QStringLiteral("規格ﾌｧｲﾙ"), FileText(state, state.standardFileName)},
+              {QStringLiteral("測色条件"),
+               QStringLiteral("光源 %1　視野 %2°　平均 %3-%4 nm")
+                   .arg(IlluminantText(colour.illuminant), ObserverText(colour.observer2Deg))
+                   .arg(colour.avgFrom)
+                   .arg(colour.avgTo)},
+              {QStringLiteral("ﾃﾞｰﾀﾌｧｲﾙ"), FileText(state, state.currentDataFileName)}};
 }
 
 QRectF PageHeader::Body(const QSizeF& page) {

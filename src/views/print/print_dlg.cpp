@@ -105,10 +105,10 @@ QWidget* PrintDlg::BuildSlots() {
   const bool selectable = slot != nullptr && slot->valid;
   auto* group = new QGroupBox(QStringLiteral("印刷ﾃﾞｰﾀ"));
   auto* row = new QHBoxLayout(group);
-  slots_ = AddChoice(*row, "Slots", group,
-                     {{1, QStringLiteral("選択ﾃﾞｰﾀ (Mes%1)").arg(selectedSlot_)},
-                      {0, QStringLiteral("全ﾃﾞｰﾀ")}},
-                     request_.slot != 0 && selectable ? 1 : 0);
+  slots_ = AddChoice(
+      *row, "Slots", group,
+      {{1, QStringLiteral("選択ﾃﾞｰﾀ (Mes%1)").arg(selectedSlot_)}, {0, QStringLiteral("全ﾃﾞｰﾀ")}},
+      request_.slot != 0 && selectable ? 1 : 0);
   slots_->button(1)->setEnabled(selectable);
   return group;
 }

@@ -24,8 +24,8 @@ class PrintDlg : public QDialog {
 
  public:
   /// `request` holds what is offered, and, once printed, what was chosen.
-  PrintDlg(const VEXATYPE& state, int selectedSlot, ReportRequest& request,
-           CurrentPrinter& printer, MessageService& messages, QWidget* parent = nullptr);
+  PrintDlg(const VEXATYPE& state, int selectedSlot, ReportRequest& request, CurrentPrinter& printer,
+           MessageService& messages, QWidget* parent = nullptr);
 
   void accept() override;
 

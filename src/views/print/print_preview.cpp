@@ -17,6 +17,8 @@ PrintPreview::PrintPreview(const PrintSettings& settings, const PageMaker& pages
       next_(DialogButton(QStringLiteral("次頁"))),
       place_(new QLabel) {
   setObjectName(QStringLiteral("PrintPreview"));
+  back_->setObjectName(QStringLiteral("Back"));
+  next_->setObjectName(QStringLiteral("Next"));
   setWindowTitle(QStringLiteral("印刷ﾌﾟﾚﾋﾞｭｰ"));
   // The paper alone counts here, so that a printer which is away can be previewed too.
   auto* paper = new QPrinter(QPrinter::HighResolution);

@@ -28,6 +28,11 @@ QPageLayout PageLayoutOf(const PrintSettings& settings) {
           QPageLayout::Millimeter};
 }
 
+bool LeavesRoom(const PrintSettings& settings) {
+  const QSizeF room = PageLayoutOf(settings).paintRect(QPageLayout::Millimeter).size();
+  return std::min(room.width(), room.height()) >= kSmallestSideMm;
+}
+
 QString PrinterText(const QString& printerName) {
   return printerName.isEmpty() ? QStringLiteral("PDFﾌｧｲﾙ") : printerName;
 }
@@ -58,7 +63,7 @@ std::optional<PrintSettings> ReadPrintFile(const QString& path) {
     const double top = ReadMargin(reader);
     const double right = ReadMargin(reader);
     settings.marginsMm = {left, top, right, ReadMargin(reader)};
-    return settings;
+    return LeavesRoom(settings) ? std::optional(settings) : std::nullopt;
   } catch (const ReadFault&) {
     return std::nullopt;
   }

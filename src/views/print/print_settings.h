@@ -14,6 +14,7 @@ inline constexpr std::array kPapers{QPageSize::A4,    QPageSize::A3,    QPageSiz
                                     QPageSize::JisB4, QPageSize::JisB5, QPageSize::Letter};
 
 inline constexpr double kLargestMarginMm = 50.0;
+inline constexpr double kSmallestSideMm = 100.0;
 
 /// What pages are printed on.
 struct PrintSettings {
@@ -27,6 +28,9 @@ struct PrintSettings {
 
 /// The settings as a layout of pages.
 [[nodiscard]] QPageLayout PageLayoutOf(const PrintSettings& settings);
+
+/// True when the margins leave enough of the paper to print on: kSmallestSideMm on both axes.
+[[nodiscard]] bool LeavesRoom(const PrintSettings& settings);
 
 /// The printer's name, or what stands for a PDF file.
 [[nodiscard]] QString PrinterText(const QString& printerName);

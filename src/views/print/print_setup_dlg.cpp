@@ -117,6 +117,11 @@ void PrintSetupDlg::accept() {
   settings.paper = static_cast<QPageSize::PageSizeId>(papers_->currentData().toInt());
   settings.landscape = landscape_->isChecked();
   settings.marginsMm = {margins[0], margins[1], margins[2], margins[3]};
+  if (!LeavesRoom(settings)) {
+    messages_.MsgCall(QStringLiteral("余白が大きすぎます。 (印刷範囲は縦横とも100mm以上)"),
+                      kOk + kStopIcon, message_title::kError);
+    return;
+  }
   printer_.SetSettings(settings);
   QDialog::accept();
 }

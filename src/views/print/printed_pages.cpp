@@ -26,8 +26,7 @@ bool PaintPages(QPagedPaintDevice& device, const PageMaker& make) {
   if (!painter.begin(&device)) {
     return false;
   }
-  const QSizeF size =
-      device.pageLayout().paintRect(QPageLayout::Millimeter).size() * kTenthsPerMm;
+  const QSizeF size = device.pageLayout().paintRect(QPageLayout::Millimeter).size() * kTenthsPerMm;
   const double scale = device.width() / size.width();
   const PrintedPages pages = make(size);
   for (int page = 0; page < pages.count; ++page) {

@@ -169,10 +169,7 @@ std::optional<Table> VerdictTable(const VEXATYPE& state) {
 }
 
 QString SlotTitle(const VEXATYPE& state, int number) {
-  return QStringLiteral("%1 %2")
-      .arg(number)
-      .arg(state.Slot(number)->info.sampleNumber)
-      .trimmed();
+  return QStringLiteral("%1 %2").arg(number).arg(state.Slot(number)->info.sampleNumber).trimmed();
 }
 
 }  // namespace vexa

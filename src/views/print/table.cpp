@@ -23,8 +23,7 @@ void DrawRule(QPainter& painter, const QRectF& place, double y, const QColor& co
   painter.setPen(before);
 }
 
-void DrawText(QPainter& painter, const QRectF& cell, Qt::Alignment alignment,
-              const QString& text) {
+void DrawText(QPainter& painter, const QRectF& cell, Qt::Alignment alignment, const QString& text) {
   const QRectF inner = cell.adjusted(kCellPadding, 0.0, -kCellPadding, 0.0);
   const QFontMetricsF metrics(painter.font());
   painter.drawText(inner, static_cast<int>(alignment | Qt::AlignVCenter) | Qt::TextSingleLine,
