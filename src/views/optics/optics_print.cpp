@@ -9,7 +9,7 @@
 #include "optics/thickness.h"
 #include "views/common/theme.h"
 #include "views/optics/history_plot.h"
-#include "views/print/plot_picture.h"
+#include "views/print/plot_drawing.h"
 
 namespace vexa {
 namespace {
@@ -52,7 +52,7 @@ void DrawPlot(QPainter& painter, const QRectF& place, const ThicknessHistory& hi
               const ThicknessScale& scale) {
   HistoryPlot plot;
   plot.Show(history, scale, 0);
-  DrawPlotPicture(painter, place.topLeft(), 1.0, PlotPicture(plot, place.size().toSize()));
+  PlayDrawing(painter, place.topLeft(), 1.0, PlotDrawing(plot, place.size().toSize()));
 }
 
 }  // namespace

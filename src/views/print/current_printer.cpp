@@ -5,10 +5,10 @@
 #include <QPdfWriter>
 #include <QPrinter>
 #include <QPrinterInfo>
-#include <QSaveFile>
 
+#include "base/replace_file.h"
+#include "views/common/pdf_text.h"
 #include "views/files/file_questions.h"
-#include "views/print/pdf_text.h"
 
 namespace vexa {
 namespace {
@@ -33,10 +33,8 @@ bool WritePdf(const QString& path, const QString& title, const QPageLayout& layo
     painted = painted && paper.setPageLayout(layout) && PaintPages(paper, pages);
   }
   QByteArray bytes = buffer.data();
-  NameIdeographs(bytes, QFont());
-  QSaveFile file(path);
-  return painted && file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size() &&
-         file.commit();
+  NameCharacters(bytes, QFont());
+  return painted && ReplaceFile(path, bytes);
 }
 
 PrintSettings SavedPrintSettings(const VEXATYPE& state) {

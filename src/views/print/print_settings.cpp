@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "views/print/print_settings.h"
 
+#include <QRectF>
 #include <algorithm>
 
 #include "base/header_version.h"

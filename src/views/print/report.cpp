@@ -6,10 +6,12 @@
 #include <memory>
 
 #include "standards/reflectance_band.h"
+#include "views/graph/index_graph.h"
+#include "views/graph/light_graph.h"
 #include "views/graph/reflectance_graph.h"
 #include "views/print/page_flow.h"
 #include "views/print/page_header.h"
-#include "views/print/plot_picture.h"
+#include "views/print/plot_drawing.h"
 #include "views/print/slot_tables.h"
 #include "views/print/spectrum_pages.h"
 
@@ -32,13 +34,30 @@ VEXATYPE Selected(const VEXATYPE& state, int slot) {
   return selected;
 }
 
+// The graph of the view in force; the reflectance for the views that are no such graph.
+std::unique_ptr<SpectrumGraph> MakeGraph(const VEXATYPE& state) {
+  constexpr int kIndexView = 2;
+  constexpr int kLightView = 3;
+  constexpr int kReciprocalView = 6;
+  const int view = state.display.view;
+  if (view == kIndexView) {
+    return std::make_unique<IndexGraph>();
+  }
+  if (view == kLightView) {
+    return std::make_unique<LightGraph>();
+  }
+  auto graph = std::make_unique<ReflectanceGraph>(view == kReciprocalView ? Abscissa::kReciprocal
+                                                                          : Abscissa::kWavelength);
+  graph->ShowBand(ReflectanceBand(state.standard));
+  return graph;
+}
+
 void AddGraph(PageFlow& flow, const VEXATYPE& state, double height) {
-  ReflectanceGraph graph;
-  graph.Show(state, 0);
-  graph.ShowBand(ReflectanceBand(state.standard));
-  const QPicture picture = PlotPicture(graph, (QSizeF(flow.Width(), height) / kPixel).toSize());
+  const std::unique_ptr<SpectrumGraph> graph = MakeGraph(state);
+  graph->Show(state, 0);
+  const QPicture picture = PlotDrawing(*graph, (QSizeF(flow.Width(), height) / kPixel).toSize());
   flow.Add(height, [picture](QPainter& painter, const QRectF& place) {
-    DrawPlotPicture(painter, place.topLeft(), kPixel, picture);
+    PlayDrawing(painter, place.topLeft(), kPixel, picture);
   });
 }
 

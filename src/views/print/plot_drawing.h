@@ -10,10 +10,9 @@ class QPicture;
 namespace vexa {
 
 /// A plot of the size, in its own pixels, as lines and texts that stay sharp on paper.
-[[nodiscard]] QPicture PlotPicture(QCustomPlot& plot, const QSize& size);
+[[nodiscard]] QPicture PlotDrawing(QCustomPlot& plot, const QSize& size);
 
 /// Draws such a picture from the corner on; a pixel of the plot becomes `scale` wide.
-void DrawPlotPicture(QPainter& painter, const QPointF& corner, double scale,
-                     const QPicture& picture);
+void PlayDrawing(QPainter& painter, const QPointF& corner, double scale, const QPicture& picture);
 
 }  // namespace vexa

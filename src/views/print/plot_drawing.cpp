@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "views/print/plot_picture.h"
+#include "views/print/plot_drawing.h"
 
 #include <qcustomplot.h>
 
@@ -7,7 +7,7 @@
 
 namespace vexa {
 
-QPicture PlotPicture(QCustomPlot& plot, const QSize& size) {
+QPicture PlotDrawing(QCustomPlot& plot, const QSize& size) {
   QPicture picture;
   QCPPainter recorder;
   recorder.begin(&picture);
@@ -18,8 +18,7 @@ QPicture PlotPicture(QCustomPlot& plot, const QSize& size) {
   return picture;
 }
 
-void DrawPlotPicture(QPainter& painter, const QPointF& corner, double scale,
-                     const QPicture& picture) {
+void PlayDrawing(QPainter& painter, const QPointF& corner, double scale, const QPicture& picture) {
   painter.save();
   painter.translate(corner);
   // A picture is played larger on a finer device; the painter's scale has seen to that already.
