@@ -72,7 +72,9 @@ class Printing : public testing::Test {
 
 TEST_F(Printing, ReportHoldsWhatIsAskedFor) {
   Fill(4);
-  state.Slot(2)->thickness = {{700.0, 4.0}, {800.0, 4.0}, 1512.34, {}};
+  state.Slot(2)->thickness.first = {700.0, 4.0};
+  state.Slot(2)->thickness.thicknessNm = 1512.34;
+  state.Slot(2)->thickness.physical = false;
   state.Slot(3)->info.measuredAt = QDateTime({2026, 3, 8}, {7, 5, 3});
   const char* graph = "波長 [nm]";
   const char* values = " 2.2 2.";  // mean reflectance of slot 2, and the luminous one beside it
@@ -88,7 +90,7 @@ TEST_F(Printing, ReportHoldsWhatIsAskedFor) {
     std::vector<const char*> held;
     std::vector<const char*> missing;
   } cases[] = {
-      {ReportContent::kBoth, 0, 10, {graph, values, verdicts, tens, "1512.3"}, {ones}},
+      {ReportContent::kBoth, 0, 10, {graph, values, verdicts, tens, "1512.3 [nd]"}, {ones}},
       {ReportContent::kBoth, 0, 1, {graph, verdicts, tens, ones}, {}},
       {ReportContent::kGraph, 0, 1, {graph, verdicts, "A-004"}, {tens, ones}},
       {ReportContent::kText, 0, 10, {verdicts, tens}, {graph, ones}},

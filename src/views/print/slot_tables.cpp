@@ -124,8 +124,7 @@ Table ValueTable(const VEXATYPE& state) {
   for (const ColourColumn& column : ColourColumns()) {
     table.columns.push_back({column.title, 165.0});
   }
-  const bool physical = state.thickness.kind != ThicknessKind::kOptical;
-  table.columns.push_back({QStringLiteral("膜厚") + ThicknessUnit(physical), 195.0});
+  table.columns.push_back({QStringLiteral("膜厚"), 195.0});
   AddRows(table, state, [&state](const MeasurementSlot& slot, Row& row) {
     // The slot itself does not tell whether its colour could be computed.
     ColourResult ignored;
@@ -135,9 +134,10 @@ Table ValueTable(const VEXATYPE& state) {
                          ? FormatNumber(slot.colour.*column.value, column.pattern).trimmed()
                          : kNone});
     }
-    // Two extrema always have wavelengths.
-    row.push_back({slot.thickness.first.wavelengthNm > 0.0
-                       ? FormatNumber(slot.thickness.thicknessNm, u"###0.0").trimmed()
+    const ThicknessResult& thickness = slot.thickness;
+    row.push_back({thickness.IsComputed()
+                       ? FormatNumber(thickness.thicknessNm, u"###0.0").trimmed() + u' ' +
+                             ThicknessUnit(thickness.physical)
                        : kNone});
   });
   return table;
