@@ -6,7 +6,6 @@
 #include <QFile>
 #include <QPixmap>
 #include <QPushButton>
-#include <cstdio>
 
 #include "app/vexa.h"
 #include "files/environment_file.h"
@@ -20,10 +19,6 @@ namespace {
 constexpr int kStartTimeoutMs = 10000;
 constexpr int kSamples = 5;
 constexpr const char* kLibrary = "libU2GPLIB.so";
-
-void Report(const QString& line) {
-  std::fprintf(stderr, "vexa: %s\n", qUtf8Printable(line));
-}
 
 QString ProgramFile(const char* name) {
   return QDir(QCoreApplication::applicationDirPath()).filePath(QLatin1String(name));
@@ -53,12 +48,12 @@ bool Demonstration::StartInstrument() {
   state.referenceSetting.kind = DispersionKind::kFixedValue;
   if (!QDir().mkpath(directory_) || !WriteStartupFile(state) ||
       !WriteEnvFile(CompletePath(state, state.envFileName), state)) {
-    Report(QStringLiteral("%1: cannot be prepared").arg(directory_));
+    Complain(QStringLiteral("%1: cannot be prepared").arg(directory_));
     return false;
   }
   const bool started = gpib_ ? PlaceLibrary() : StartProcess();
   if (!started) {
-    Report(QStringLiteral("the virtual instrument did not start"));
+    Complain(QStringLiteral("the virtual instrument did not start"));
   }
   return started;
 }
@@ -96,26 +91,10 @@ int Demonstration::Drive(VEXA& window) {
   QApplication::processEvents();
   const bool drawn = window.grab().save(picture);
   if (!drawn) {
-    Report(QStringLiteral("%1: cannot be written").arg(picture));
+    Complain(QStringLiteral("%1: cannot be written").arg(picture));
   }
   const bool saved = window.State().currentDataFileName == dialogs_.dataFile;
   return drawn && saved && messages_.faults == 0 ? 0 : 1;
-}
-
-MessageResult Demonstration::Answers::MsgCall(const QString& text, std::int16_t type,
-                                              const QString& title) {
-  switch (type & message_type::kButtonMask) {
-    case message_type::kYesNoCancel:
-      return MessageResult::kNo;
-    case message_type::kYesNo:
-      return MessageResult::kYes;
-    case message_type::kOkCancel:
-      return MessageResult::kOk;
-    default:
-      Report(title + QStringLiteral(": ") + QString(text).replace(u'\r', u' '));
-      ++faults;
-      return MessageResult::kOk;
-  }
 }
 
 std::optional<QString> Demonstration::Names::AskOpen(const QString& /*title*/,

@@ -5,7 +5,7 @@
 #include <QString>
 #include <optional>
 
-#include "base/message.h"
+#include "app/unattended_messages.h"
 #include "views/common/file_dialogs.h"
 
 namespace vexa {
@@ -32,14 +32,6 @@ class Demonstration {
   [[nodiscard]] FileDialogs& Dialogs() { return dialogs_; }
 
  private:
-  /// Answers questions so that the run goes on, and writes every message to standard error.
-  class Answers : public MessageService {
-   public:
-    MessageResult MsgCall(const QString& text, std::int16_t type, const QString& title) override;
-    void Beep() override {}
-    int faults = 0;
-  };
-
   /// Names the file of the run wherever one is asked for.
   class Names : public FileDialogs {
    public:
@@ -54,7 +46,7 @@ class Demonstration {
   QString directory_;
   bool gpib_;
   QProcess instrument_;
-  Answers messages_;
+  UnattendedMessages messages_;
   Names dialogs_;
 };
 

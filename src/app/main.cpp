@@ -3,11 +3,13 @@
 #include <QCommandLineParser>
 #include <QDir>
 #include <QTimer>
-#include <cstdio>
+#include <algorithm>
 #include <memory>
 
 #include "app/demonstration.h"
 #include "app/gallery.h"
+#include "app/report_command.h"
+#include "app/unattended_messages.h"
 #include "app/vexa.h"
 #include "measurement/controller_start.h"
 #include "views/common/original_msg_frm.h"
@@ -52,9 +54,62 @@ int RunWindow() {
   return QApplication::exec();
 }
 
+// A report needs no display; the platform must be set before the application is made.
+bool AsksForReport(int argc, char* argv[]) {
+  return std::any_of(argv + 1, argv + argc,
+                     [](const char* word) { return QByteArray(word).startsWith("--report"); });
+}
+
+struct Options {
+  QCommandLineOption demo{
+      QStringLiteral("demo"),
+      QStringLiteral("Measures five samples on the virtual instrument by itself and leaves "
+                     "measurement.csv and window.png in DIR."),
+      QStringLiteral("DIR")};
+  QCommandLineOption pictures{
+      QStringLiteral("pictures"),
+      QStringLiteral("With --demo: leaves a picture of every window and view in DIR."),
+      QStringLiteral("DIR")};
+  QCommandLineOption gpib{
+      QStringLiteral("gpib"),
+      QStringLiteral("With --demo: over the control box on the GP-IB instead of the serial port.")};
+  QCommandLineOption report{
+      QStringLiteral("report"),
+      QStringLiteral("Prints the data file FILE as a PDF file, without a window."),
+      QStringLiteral("FILE")};
+  QCommandLineOption out{QStringLiteral("out"), QStringLiteral("The PDF file of --report."),
+                         QStringLiteral("FILE.pdf")};
+  QCommandLineOption title{QStringLiteral("title"), QStringLiteral("The title of --report."),
+                           QStringLiteral("TEXT")};
+  QCommandLineOption operatorName{QStringLiteral("operator"),
+                                  QStringLiteral("The operator named by --report."),
+                                  QStringLiteral("NAME")};
+};
+
+// What is wrong with the arguments; empty when nothing is.
+QString Fault(const QCommandLineParser& parser, const Options& options) {
+  if (!parser.positionalArguments().isEmpty()) {
+    return QStringLiteral("takes no arguments but options");
+  }
+  const bool report = parser.isSet(options.report);
+  if (report != parser.isSet(options.out)) {
+    return QStringLiteral("--report and --out belong together");
+  }
+  if (report && parser.isSet(options.demo)) {
+    return QStringLiteral("--report and --demo exclude each other");
+  }
+  if (!report && (parser.isSet(options.title) || parser.isSet(options.operatorName))) {
+    return QStringLiteral("--title and --operator belong to --report");
+  }
+  return {};
+}
+
 }  // namespace
 
 int main(int argc, char* argv[]) {
+  if (AsksForReport(argc, argv)) {
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+  }
   QApplication application(argc, argv);
   QApplication::setApplicationName(QStringLiteral("vexa"));
   QApplication::setApplicationVersion(QStringLiteral(VEXA_VERSION));
@@ -65,23 +120,13 @@ int main(int argc, char* argv[]) {
       "Control and analysis program of the VEXA-KT reflectance micro-spectrophotometer."));
   parser.addHelpOption();
   parser.addVersionOption();
-  const QCommandLineOption demo(
-      QStringLiteral("demo"),
-      QStringLiteral("Measures five samples on the virtual instrument by itself and leaves "
-                     "measurement.csv and window.png in DIR."),
-      QStringLiteral("DIR"));
-  const QCommandLineOption pictures(
-      QStringLiteral("pictures"),
-      QStringLiteral("With --demo: leaves a picture of every window and view in DIR."),
-      QStringLiteral("DIR"));
-  const QCommandLineOption gpib(
-      QStringLiteral("gpib"),
-      QStringLiteral("With --demo: over the control box on the GP-IB instead of the serial port."));
-  parser.addOptions({demo, gpib, pictures});
+  const Options options;
+  parser.addOptions({options.demo, options.gpib, options.pictures, options.report, options.out,
+                     options.title, options.operatorName});
   const bool parsed = parser.parse(QApplication::arguments());
-  if (!parsed || !parser.positionalArguments().isEmpty()) {
-    std::fprintf(stderr, "vexa: %s\n",
-                 parsed ? "takes no arguments but options" : qUtf8Printable(parser.errorText()));
+  const QString fault = parsed ? Fault(parser, options) : parser.errorText();
+  if (!fault.isEmpty()) {
+    vexa::Complain(fault);
     return 2;
   }
   if (parser.isSet(QStringLiteral("help"))) {
@@ -90,7 +135,15 @@ int main(int argc, char* argv[]) {
   if (parser.isSet(QStringLiteral("version"))) {
     parser.showVersion();
   }
-  return parser.isSet(demo)
-             ? RunDemonstration(parser.value(demo), parser.isSet(gpib), parser.value(pictures))
+  if (parser.isSet(options.report)) {
+    return vexa::RunReport({.dataFile = parser.value(options.report),
+                            .pdfFile = parser.value(options.out),
+                            .title = parser.value(options.title),
+                            .operatorName = parser.value(options.operatorName)},
+                           QDir::currentPath());
+  }
+  return parser.isSet(options.demo)
+             ? RunDemonstration(parser.value(options.demo), parser.isSet(options.gpib),
+                                parser.value(options.pictures))
              : RunWindow();
 }

@@ -15,7 +15,6 @@ constexpr int kEnvironmentWidth = 120;
 constexpr int kVerdictWidth = 150;
 constexpr int kMarkSize = 16;
 constexpr QColor kGoodPaper{0xe3, 0xf3, 0xe8};
-constexpr QColor kBad{0xb3, 0x1b, 0x1b};
 
 /// Unit and format of a group's margin.
 struct MarginText {
@@ -45,7 +44,7 @@ QString StyleOf(const std::optional<bool>& passed) {
     return PanelStyle(theme::kPanel, theme::kBorder, theme::kText, false);
   }
   return *passed ? PanelStyle(kGoodPaper, theme::kGood, theme::kText, false)
-                 : PanelStyle(kBad, kBad, Qt::white, true);
+                 : PanelStyle(theme::kBad, theme::kBad, Qt::white, true);
 }
 
 // A cross in a square: told from the tick in its disc by its shape.
@@ -56,7 +55,7 @@ QPixmap CrossMark() {
   painter.setPen(Qt::NoPen);
   painter.setBrush(Qt::white);
   painter.drawRoundedRect(QRectF(1.5, 1.5, 13.0, 13.0), 2.0, 2.0);
-  painter.setPen(QPen(kBad, 2.4, Qt::SolidLine, Qt::RoundCap));
+  painter.setPen(QPen(theme::kBad, 2.4, Qt::SolidLine, Qt::RoundCap));
   painter.drawLine(QLineF(5.0, 5.0, 11.0, 11.0));
   painter.drawLine(QLineF(11.0, 5.0, 5.0, 11.0));
   return pixmap;

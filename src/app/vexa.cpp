@@ -22,11 +22,13 @@
 #include "views/files/data_file_commands.h"
 #include "views/files/environment_commands.h"
 #include "views/graph/main_views.h"
-#include "views/optics/optics_print.h"
 #include "views/optics/ref_set_dlg.h"
 #include "views/optics/thick_graph.h"
 #include "views/optics/thickness_panel.h"
 #include "views/optics/wave_list_dlg.h"
+#include "views/print/print_dlg.h"
+#include "views/print/print_setup_dlg.h"
+#include "views/print/report.h"
 #include "views/settings/calibration_dlg.h"
 #include "views/settings/dispset.h"
 #include "views/settings/sampling_dlg.h"
@@ -44,7 +46,8 @@ constexpr int kAgeRefreshMs = 15000;
 VEXA::VEXA(Services services, const QString& programDirectory)
     : services_(std::move(services)),
       sequence_(state_, services_.messages, services_.clock),
-      journal_(state_, services_.messages, programDirectory) {
+      journal_(state_, services_.messages, programDirectory),
+      printer_(state_, services_.messages, services_.dialogs) {
   state_.programDirectory = programDirectory;
   BuildPanels();
   ConnectCommands();
@@ -147,6 +150,8 @@ void VEXA::ConnectCommands() {
   enable(commands_.openEnvironment, [&, this] { TakeOverEnvironment(); });
   enable(commands_.saveEnvironment, [&, this] { SaveEnvironment(state_, messages); });
   enable(commands_.saveEnvironmentAs, [&, this] { SaveEnvironmentAs(state_, messages, dialogs); });
+  enable(commands_.printSettings, [&, this] { PrintSetupDlg(printer_, messages, this).exec(); });
+  enable(commands_.print, [this] { Print(); });
   enable(commands_.sampleInformation, [&, this] { AddinpFrm(state_, messages, this).exec(); });
   enable(commands_.referenceSettings, [&, this] {
     RefSetDlg(RefSetDlg::Mode::kReference, state_, messages, dialogs, this).exec();
@@ -157,13 +162,16 @@ void VEXA::ConnectCommands() {
   enable(commands_.displaySettings, [&, this] { dispset(state_, messages, this).exec(); });
   enable(commands_.settingsList, [&, this] {
     QuietMessages quiet(messages);
-    const auto print = [&, this](const table::Paint& paint) { PrintPage(this, quiet, paint); };
+    CurrentPrinter printer(state_, quiet, dialogs);
+    const auto print = [&printer](const table::Paint& paint) {
+      (void)printer.Print(QStringLiteral("VEXA設定一覧"), SinglePage(paint));
+    };
     table(state_, print, this).exec();
   });
   enable(commands_.colourDifference,
          [this] { ColourDifferenceWindow(state_, GetOption(), this).exec(); });
   enable(commands_.standards, [&, this] { StandardFrm(state_, messages, dialogs, this).exec(); });
-  enable(commands_.wavelengthList, [&, this] { WaveListDlg(state_, messages, this).exec(); });
+  enable(commands_.wavelengthList, [&, this] { WaveListDlg(state_, printer_, this).exec(); });
   enable(commands_.thicknessGraph, [this] { ShowThicknessGraph(); });
   enable(commands_.samplingSettings,
          [&, this] { SamplingDlg(state_, *controller_, messages, this).exec(); });
@@ -256,9 +264,18 @@ void VEXA::TakeOverEnvironment() {
   }
 }
 
+void VEXA::Print() {
+  const QDate today = services_.clock().date();
+  if (!report_.date.isValid()) {
+    report_ = UsualReport(state_, today);
+  }
+  report_.date = today;
+  PrintSlots(state_, GetOption(), report_, printer_, services_.messages, this);
+}
+
 ThickGraph& VEXA::ThicknessGraph() {
   if (thicknessGraph_ == nullptr) {
-    thicknessGraph_ = new ThickGraph(state_, services_.messages, services_.dialogs, this);
+    thicknessGraph_ = new ThickGraph(state_, services_.messages, services_.dialogs, printer_, this);
   }
   return *thicknessGraph_;
 }

@@ -13,6 +13,8 @@
 #include "measurement/measurement_sequence.h"
 #include "measurement/vexatype.h"
 #include "views/common/file_dialogs.h"
+#include "views/print/current_printer.h"
+#include "views/print/report_request.h"
 
 namespace vexa {
 
@@ -64,6 +66,7 @@ class VEXA : public QMainWindow {
   [[nodiscard]] bool Unload();
   void TakeOverEnvironment();
   ThickGraph& ThicknessGraph();
+  void Print();
   void ShowThicknessGraph();
   void Refresh();
   void UpdateCommands();
@@ -74,6 +77,8 @@ class VEXA : public QMainWindow {
   MeasurementSequence sequence_;
   SessionJournal journal_;
   QTimer ageTimer_;
+  CurrentPrinter printer_;
+  ReportRequest report_;  ///< as printed last
   MenuCommands commands_{};
   MeasurementBar* bar_ = nullptr;
   ProgressStrip* progress_ = nullptr;

@@ -4,18 +4,20 @@
 #include <QAction>
 #include <QCheckBox>
 #include <QFile>
-#include <QPdfWriter>
+#include <QPainter>
 #include <QPushButton>
 #include <QTemporaryDir>
 #include <QTest>
 #include <QTimer>
 
+#include "support/pdf_words.h"
 #include "support/prepared_answers.h"
 #include "support/prepared_files.h"
 #include "views/optics/history_plot.h"
 #include "views/optics/optics_print.h"
 #include "views/optics/thick_g_set_dlg.h"
 #include "views/optics/thick_graph.h"
+#include "views/print/current_printer.h"
 
 namespace vexa {
 namespace {
@@ -54,7 +56,8 @@ class History : public testing::Test {
   test::PreparedAnswers messages;
   test::PreparedFiles files;
   QTemporaryDir directory{QDir::tempPath() + QStringLiteral("/履 歴-XXXXXX")};
-  ThickGraph window{state, messages, files};
+  CurrentPrinter printer{state, messages, files};
+  ThickGraph window{state, messages, files, printer};
 };
 
 TEST_F(History, GrowsToFiftyPointsAndNoFurther) {
@@ -230,12 +233,12 @@ TEST_F(History, PagesFitOntoPaper) {
       },
       [&list](QPainter& painter, const QRectF& page) { PaintWaveListPage(painter, page, list); }};
   for (const auto& paint : pages) {
-    QPdfWriter paper(File("頁.pdf"));
-    const QRectF page(0.0, 0.0, paper.width(), paper.height());
-    QPainter painter(&paper);
-    paint(painter, page);
-    EXPECT_TRUE(painter.end());
-    EXPECT_GT(Bytes(File("頁.pdf")).size(), 5000);
+    EXPECT_TRUE(WritePdf(File("頁.pdf"), {}, PageLayoutOf({}), SinglePage(paint)));
+    const std::vector<QRectF> words = test::PdfWordPlaces(File("頁.pdf"));
+    EXPECT_GT(words.size(), 100U);
+    for (const QRectF& word : words) {
+      EXPECT_TRUE(QRectF(0.05, 0.03, 0.9, 0.94).contains(word)) << word.x() << ' ' << word.y();
+    }
 
     // On a white picture, ink keeps away from the last pixels on every side.
     QImage image(800, 1130, QImage::Format_RGB32);

@@ -9,9 +9,11 @@
 #include <numbers>
 
 #include "support/prepared_answers.h"
+#include "support/prepared_files.h"
 #include "views/optics/jamp_wave.h"
 #include "views/optics/thickness_panel.h"
 #include "views/optics/wave_list_dlg.h"
+#include "views/print/current_printer.h"
 
 namespace vexa {
 namespace {
@@ -34,6 +36,8 @@ class Thickness : public testing::Test {
 
   VEXATYPE state;
   test::PreparedAnswers messages;
+  test::PreparedFiles files;
+  CurrentPrinter printer{state, messages, files};
   ThicknessPanel panel{state, messages};
 };
 
@@ -110,7 +114,7 @@ TEST_F(Thickness, AutomaticMeasurementIsAChoice) {
 
 TEST_F(Thickness, WavelengthListHasARowForEachExtremum) {
   const auto rows = [this] {
-    const WaveListDlg dialog(state, messages);
+    const WaveListDlg dialog(state, printer);
     const auto* list = dialog.findChild<QTreeWidget*>(QStringLiteral("WaveList"));
     std::vector<std::string> texts;
     for (int row = 0; row < list->topLevelItemCount(); ++row) {

@@ -9,6 +9,7 @@
 #include <QSvgGenerator>
 
 #include "base/replace_file.h"
+#include "views/common/pdf_text.h"
 #include "views/files/file_questions.h"
 
 namespace vexa {
@@ -73,6 +74,7 @@ QByteArray PlotPicture(QCustomPlot& plot, const QString& suffix) {
     pdf.setPageSize(QPageSize(QSizeF(plot.size()) * pointsPerPixel, QPageSize::Point, {},
                               QPageSize::ExactMatch));
     Paint(plot, pdf, static_cast<double>(pdf.width()) / plot.width());
+    NameCharacters(bytes, plot.font());
   } else {
     plot.toPixmap(0, 0, kPixelsPerDot).save(&buffer, "PNG");
   }

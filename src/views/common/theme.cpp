@@ -48,6 +48,9 @@ void ApplyTheme(QApplication& application) {
   font.setFamilies({QStringLiteral("Noto Sans CJK JP"), QStringLiteral("IPAPGothic"),
                     QStringLiteral("sans-serif")});
   font.setPixelSize(13);
+  // The shaper would choose digits by the language of the locale, and those that it takes for other
+  // languages than Japanese a PDF file cannot name: they would be missing when it is searched.
+  font.setStyleStrategy(QFont::PreferNoShaping);
   application.setFont(font);
 }
 

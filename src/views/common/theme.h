@@ -26,6 +26,7 @@ inline constexpr QColor kBorder{0xc3, 0xcb, 0xd3};
 inline constexpr QColor kGrid{0xe3, 0xe8, 0xec};
 inline constexpr QColor kAccent{0x1c, 0x64, 0xa8};
 inline constexpr QColor kGood{0x1d, 0x7a, 0x46};
+inline constexpr QColor kBad{0xb3, 0x1b, 0x1b};
 }  // namespace theme
 
 }  // namespace vexa

@@ -3,14 +3,13 @@
 
 #include <QPainter>
 #include <QPicture>
-#include <QPrintDialog>
-#include <QPrinter>
 #include <algorithm>
 
 #include "base/number_text.h"
 #include "optics/thickness.h"
 #include "views/common/theme.h"
 #include "views/optics/history_plot.h"
+#include "views/print/plot_drawing.h"
 
 namespace vexa {
 namespace {
@@ -53,14 +52,7 @@ void DrawPlot(QPainter& painter, const QRectF& place, const ThicknessHistory& hi
               const ThicknessScale& scale) {
   HistoryPlot plot;
   plot.Show(history, scale, 0);
-  QPicture picture;
-  QCPPainter recorder;
-  recorder.begin(&picture);
-  recorder.setMode(QCPPainter::pmVectorized);
-  recorder.setMode(QCPPainter::pmNoCaching);
-  plot.toPainter(&recorder, static_cast<int>(place.width()), static_cast<int>(place.height()));
-  recorder.end();
-  painter.drawPicture(place.topLeft(), picture);
+  PlayDrawing(painter, place.topLeft(), 1.0, PlotDrawing(plot, place.size().toSize()));
 }
 
 }  // namespace
@@ -113,22 +105,6 @@ void PaintWaveListPage(QPainter& painter, const QRectF& page, const ExtremumList
     DrawRow(painter, row, text.split(u'\t'), kColumnWidth);
   }
   painter.restore();
-}
-
-void PrintPage(QWidget* window, MessageService& messages,
-               const std::function<void(QPainter& painter, const QRectF& page)>& paint) {
-  QPrinter printer(QPrinter::HighResolution);
-  QPrintDialog dialog(&printer, window);
-  if (dialog.exec() != QDialog::Accepted) {
-    return;
-  }
-  QPainter painter;
-  if (!painter.begin(&printer)) {
-    messages.MsgCall(QStringLiteral("印刷でｴﾗｰが発生しました。"),
-                     message_type::kOk + message_type::kStopIcon, message_title::kError);
-    return;
-  }
-  paint(painter, QRectF(QPointF(), printer.pageRect(QPrinter::DevicePixel).size()));
 }
 
 }  // namespace vexa

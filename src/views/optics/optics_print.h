@@ -3,14 +3,11 @@
 
 #include <QRectF>
 #include <QStringList>
-#include <functional>
 
-#include "base/message.h"
 #include "optics/extremum_list.h"
 #include "optics/thickness_history.h"
 
 class QPainter;
-class QWidget;
 
 namespace vexa {
 
@@ -23,9 +20,5 @@ void PaintHistoryPage(QPainter& painter, const QRectF& page, const ThicknessHist
 
 /// Paints the wavelength list onto the page: caption and a row for each extremum.
 void PaintWaveListPage(QPainter& painter, const QRectF& page, const ExtremumList& list);
-
-/// Asks for a printer and has one page painted on it; a printer that fails is shown.
-void PrintPage(QWidget* window, MessageService& messages,
-               const std::function<void(QPainter& painter, const QRectF& page)>& paint);
 
 }  // namespace vexa

@@ -16,6 +16,7 @@
 #include "views/optics/history_plot.h"
 #include "views/optics/optics_print.h"
 #include "views/optics/thick_g_set_dlg.h"
+#include "views/print/current_printer.h"
 
 namespace vexa {
 
@@ -43,11 +44,12 @@ QPushButton* Button(const char* name, const QString& caption) {
 }  // namespace
 
 ThickGraph::ThickGraph(VEXATYPE& state, MessageService& messages, FileDialogs& dialogs,
-                       QWidget* parent)
+                       CurrentPrinter& printer, QWidget* parent)
     : QMainWindow(parent),
       state_(state),
       messages_(messages),
       dialogs_(dialogs),
+      printer_(printer),
       cursor_(state.thicknessHistory.count),
       plot_(new HistoryPlot),
       count_(Value("TotalCount")),
@@ -201,9 +203,9 @@ void ThickGraph::Save() {
 }
 
 void ThickGraph::Print() {
-  PrintPage(this, messages_, [this](QPainter& painter, const QRectF& page) {
-    PaintHistoryPage(painter, page, state_.thicknessHistory, scale_);
-  });
+  printer_.Print(windowTitle(), SinglePage([this](QPainter& painter, const QRectF& page) {
+                   PaintHistoryPage(painter, page, state_.thicknessHistory, scale_);
+                 }));
 }
 
 void ThickGraph::AskScale() {

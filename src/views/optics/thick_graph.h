@@ -10,6 +10,7 @@
 
 namespace vexa {
 
+class CurrentPrinter;
 class HistoryPlot;
 
 /// The window of the thickness history: its graph with a cursor over the points.
@@ -18,7 +19,7 @@ class ThickGraph : public QMainWindow {
 
  public:
   ThickGraph(VEXATYPE& state, MessageService& messages, FileDialogs& dialogs,
-             QWidget* parent = nullptr);
+             CurrentPrinter& printer, QWidget* parent = nullptr);
 
   /// The slot (1..10) whose thickness the add button appends.
   void SetCurrentSlot(int slot) { slot_ = slot; }
@@ -45,6 +46,7 @@ class ThickGraph : public QMainWindow {
   VEXATYPE& state_;
   MessageService& messages_;
   FileDialogs& dialogs_;
+  CurrentPrinter& printer_;
   int slot_ = 1;
   int cursor_;  ///< 1..count, 0 without points
   bool autoScale_ = true;

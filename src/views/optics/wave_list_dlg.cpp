@@ -8,6 +8,7 @@
 
 #include "views/common/dialog_buttons.h"
 #include "views/optics/optics_print.h"
+#include "views/print/current_printer.h"
 
 namespace vexa {
 namespace {
@@ -16,7 +17,7 @@ constexpr int kColumnWidth = 80;  // the last column takes what is left
 
 }  // namespace
 
-WaveListDlg::WaveListDlg(const VEXATYPE& state, MessageService& messages, QWidget* parent)
+WaveListDlg::WaveListDlg(const VEXATYPE& state, CurrentPrinter& printer, QWidget* parent)
     : QDialog(parent) {
   setObjectName(QStringLiteral("WaveListDlg"));
   setWindowTitle(QStringLiteral("波長リスト"));
@@ -45,10 +46,10 @@ WaveListDlg::WaveListDlg(const VEXATYPE& state, MessageService& messages, QWidge
   close->setObjectName(QStringLiteral("Close"));
   close->setDefault(true);
   connect(close, &QPushButton::clicked, this, &QDialog::accept);
-  connect(print, &QPushButton::clicked, this, [this, &state, &messages] {
-    PrintPage(this, messages, [&state](QPainter& painter, const QRectF& page) {
-      PaintWaveListPage(painter, page, state.extrema);
-    });
+  connect(print, &QPushButton::clicked, this, [this, &state, &printer] {
+    printer.Print(windowTitle(), SinglePage([&state](QPainter& painter, const QRectF& page) {
+                    PaintWaveListPage(painter, page, state.extrema);
+                  }));
   });
   auto* row = new QHBoxLayout;
   row->addWidget(print);

@@ -3,17 +3,18 @@
 
 #include <QDialog>
 
-#include "base/message.h"
 #include "measurement/vexatype.h"
 
 namespace vexa {
+
+class CurrentPrinter;
 
 /// The extrema that the last thickness computation found.
 class WaveListDlg : public QDialog {
   Q_OBJECT
 
  public:
-  WaveListDlg(const VEXATYPE& state, MessageService& messages, QWidget* parent = nullptr);
+  WaveListDlg(const VEXATYPE& state, CurrentPrinter& printer, QWidget* parent = nullptr);
 };
 
 }  // namespace vexa

@@ -1,0 +1,48 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <optional>
+
+#include "base/message.h"
+#include "measurement/vexatype.h"
+#include "views/common/file_dialogs.h"
+#include "views/print/print_settings.h"
+#include "views/print/printed_pages.h"
+
+namespace vexa {
+
+/// Writes the pages as a PDF file: the file is replaced whole or, when anything fails, left as it
+/// was. True when written.
+[[nodiscard]] bool WritePdf(const QString& path, const QString& title, const QPageLayout& layout,
+                            const PageMaker& pages);
+
+/// The print settings of the program directory, its `vexa.prt`; a PDF file on A4 without that file.
+[[nodiscard]] PrintSettings SavedPrintSettings(const VEXATYPE& state);
+
+/// The printer that every window prints on.
+class CurrentPrinter {
+ public:
+  CurrentPrinter(const VEXATYPE& state, MessageService& messages, FileDialogs& dialogs);
+
+  [[nodiscard]] const PrintSettings& Settings();
+
+  /// Takes the settings over and keeps them for the next run; a file that cannot be written is
+  /// shown, and the settings then hold for this run.
+  void SetSettings(const PrintSettings& settings);
+
+  /// Prints the pages, or asks for a file name where the printer is a PDF file. False when
+  /// cancelled and, shown, when the printer is missing or fails or the file cannot be written.
+  bool Print(const QString& title, const PageMaker& pages, int copies = 1);
+
+ private:
+  bool PrintToFile(const QString& title, const PageMaker& pages);
+  bool PrintOnPaper(const QString& title, const PageMaker& pages, int copies);
+  void ShowError(const QString& text);
+
+  const VEXATYPE& state_;
+  MessageService& messages_;
+  FileDialogs& dialogs_;
+  std::optional<PrintSettings> settings_;  ///< read when first asked for
+};
+
+}  // namespace vexa

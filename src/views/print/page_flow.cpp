@@ -1,0 +1,50 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "views/print/page_flow.h"
+
+#include <algorithm>
+
+namespace vexa {
+
+PageFlow::PageFlow(const QRectF& body) : body_(body), y_(body.top()) {}
+
+void PageFlow::NewPage() {
+  if (!pages_.back().empty()) {
+    pages_.emplace_back();
+    y_ = body_.top();
+  }
+}
+
+void PageFlow::Add(double height, const Paint& paint) {
+  if (height > Left()) {
+    NewPage();
+  }
+  pages_.back().push_back({QRectF(body_.left(), y_, body_.width(), height), paint});
+  y_ += height + kGap;
+}
+
+void PageFlow::Add(const Table& table) {
+  if (table.Height() > Left() && table.Height() <= PageHeight()) {
+    NewPage();
+  }
+  auto row = table.rows.begin();
+  while (row != table.rows.end()) {
+    if (Left() < table.HeadHeight() + table.rowHeight) {
+      NewPage();
+    }
+    const auto fit = static_cast<std::ptrdiff_t>((Left() - table.HeadHeight()) / table.rowHeight);
+    const auto end = row + std::clamp(fit, std::ptrdiff_t{1}, table.rows.end() - row);
+    Table part = table;
+    part.rows.assign(row, end);
+    Add(part.Height(),
+        [part](QPainter& painter, const QRectF& place) { part.Paint(painter, place); });
+    row = end;
+  }
+}
+
+void PageFlow::PaintPage(QPainter& painter, int page) const {
+  for (const Piece& piece : pages_[static_cast<std::size_t>(page)]) {
+    piece.paint(painter, piece.place);
+  }
+}
+
+}  // namespace vexa

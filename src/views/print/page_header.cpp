@@ -1,0 +1,96 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "views/print/page_header.h"
+
+#include <QDir>
+#include <QPainter>
+
+#include "base/date_text.h"
+#include "views/colour/colour_texts.h"
+#include "views/common/theme.h"
+#include "views/print/printed_pages.h"
+
+namespace vexa {
+namespace {
+
+constexpr double kTitleHeight = 76.0;
+constexpr double kRowHeight = 42.0;
+constexpr double kRows = 3.0;
+constexpr double kHeaderHeight = kTitleHeight + kRows * kRowHeight + 44.0;
+constexpr double kFooterHeight = 60.0;
+constexpr double kLabelWidth = 170.0;
+constexpr double kColumnGap = 40.0;
+constexpr int kTitleSize = 50;
+constexpr int kTextSize = 28;
+const QString kNone = QStringLiteral("-");
+
+QString FileText(const VEXATYPE& state, const QString& name) {
+  return name.isEmpty() ? kNone : QDir::toNativeSeparators(CompletePath(state, name));
+}
+
+void DrawText(QPainter& painter, const QRectF& place, Qt::Alignment alignment, const QString& text,
+              Qt::TextElideMode elide) {
+  const QFontMetricsF metrics(painter.font());
+  painter.drawText(place, static_cast<int>(alignment | Qt::AlignVCenter) | Qt::TextSingleLine,
+                   metrics.elidedText(text, elide, place.width()));
+}
+
+void DrawRule(QPainter& painter, double y, double width) {
+  painter.setPen(QPen(theme::kText, 4.0));
+  painter.drawLine(QLineF(0.0, y, width, y));
+}
+
+}  // namespace
+
+QString ReportTitle(const ReportRequest& request) {
+  return request.title.trimmed().isEmpty() ? QStringLiteral("反射率測定結果") : request.title;
+}
+
+PageHeader::PageHeader(const VEXATYPE& state, const ReportRequest& request)
+    : title_(ReportTitle(request)) {
+  const ColourSettings& colour = state.colour;
+  entries_ = {{QStringLiteral("測定者"),
+               request.operatorName.trimmed().isEmpty() ? kNone : request.operatorName},
+              {QStringLiteral("環境ﾌｧｲﾙ"), FileText(state, state.envFileName)},
+              {QStringLiteral("日付"), DateTimeText(request.date.startOfDay())},
+              {QStringLiteral("規格ﾌｧｲﾙ"), FileText(state, state.standardFileName)},
+              {QStringLiteral("測色条件"),
+               QStringLiteral("光源 %1　視野 %2°　平均 %3-%4 nm")
+                   .arg(IlluminantText(colour.illuminant), ObserverText(colour.observer2Deg))
+                   .arg(colour.avgFrom)
+                   .arg(colour.avgTo)},
+              {QStringLiteral("ﾃﾞｰﾀﾌｧｲﾙ"), FileText(state, state.currentDataFileName)}};
+}
+
+QRectF PageHeader::Body(const QSizeF& page) {
+  return {0.0, kHeaderHeight, page.width(), page.height() - kHeaderHeight - kFooterHeight};
+}
+
+void PageHeader::Paint(QPainter& painter, const QSizeF& page, int number, int count) const {
+  const double width = page.width();
+  SetPageFont(painter, kTitleSize, true);
+  DrawText(painter, {0.0, 0.0, width, kTitleHeight - 10.0}, Qt::AlignLeft, title_, Qt::ElideRight);
+  DrawRule(painter, kTitleHeight, width);
+
+  const double columnWidth = (width - kColumnGap) / 2.0;
+  double y = kTitleHeight + 10.0;
+  for (std::size_t i = 0; i < entries_.size(); ++i) {
+    const double x = i % 2 == 0 ? 0.0 : columnWidth + kColumnGap;
+    SetPageFont(painter, kTextSize);
+    painter.setPen(theme::kMutedText);
+    DrawText(painter, {x, y, kLabelWidth, kRowHeight}, Qt::AlignLeft, entries_[i].label,
+             Qt::ElideRight);
+    painter.setPen(theme::kText);
+    // Of a path both ends tell most.
+    DrawText(painter, {x + kLabelWidth, y, columnWidth - kLabelWidth, kRowHeight}, Qt::AlignLeft,
+             entries_[i].text, Qt::ElideMiddle);
+    y += i % 2 == 0 ? 0.0 : kRowHeight;
+  }
+
+  SetPageFont(painter, kTextSize);
+  const QRectF footer(0.0, page.height() - kFooterHeight + 20.0, width, kFooterHeight - 20.0);
+  DrawText(painter, footer, Qt::AlignLeft, QStringLiteral("VEXA-KT"), Qt::ElideRight);
+  DrawText(painter, footer, Qt::AlignRight, QStringLiteral("%1 / %2").arg(number).arg(count),
+           Qt::ElideRight);
+}
+
+}  // namespace vexa

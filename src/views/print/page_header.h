@@ -1,0 +1,39 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <QRectF>
+
+#include "measurement/vexatype.h"
+#include "views/print/report_request.h"
+
+class QPainter;
+
+namespace vexa {
+
+/// What stands above and below the content of every page of a report: title, operator, date, the
+/// files of the settings and of the data, the conditions of the colours, and the page number.
+/// Lengths are tenths of a millimetre.
+class PageHeader {
+ public:
+  PageHeader(const VEXATYPE& state, const ReportRequest& request);
+
+  /// What it leaves of a page.
+  [[nodiscard]] static QRectF Body(const QSizeF& page);
+
+  /// `number` is 1..count.
+  void Paint(QPainter& painter, const QSizeF& page, int number, int count) const;
+
+ private:
+  struct Entry {
+    QString label;
+    QString text;
+  };
+
+  QString title_;
+  std::vector<Entry> entries_;  ///< two in a row
+};
+
+/// The title of the request, or the usual one.
+[[nodiscard]] QString ReportTitle(const ReportRequest& request);
+
+}  // namespace vexa

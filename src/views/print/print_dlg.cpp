@@ -1,0 +1,194 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "views/print/print_dlg.h"
+
+#include <QButtonGroup>
+#include <QDateEdit>
+#include <QFormLayout>
+#include <QGroupBox>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QRadioButton>
+#include <QSpinBox>
+
+#include "views/common/dialog_buttons.h"
+#include "views/print/page_header.h"
+#include "views/print/print_preview.h"
+#include "views/print/print_setup_dlg.h"
+#include "views/print/report.h"
+
+namespace vexa {
+
+using namespace message_type;
+
+namespace {
+
+constexpr int kLongestText = 100;
+constexpr int kMostCopies = 99;
+
+QLineEdit* TextField(const char* name, const QString& text) {
+  auto* field = new QLineEdit(text);
+  field->setObjectName(QLatin1String(name));
+  field->setMaxLength(kLongestText);
+  field->setMinimumWidth(280);
+  return field;
+}
+
+// Radio buttons in a row, each named after its group and its number.
+QButtonGroup* AddChoice(QHBoxLayout& row, const char* name, QWidget* owner,
+                        const QList<std::pair<int, QString>>& choices, int chosen) {
+  auto* group = new QButtonGroup(owner);
+  for (const auto& [id, caption] : choices) {
+    auto* button = new QRadioButton(caption);
+    button->setObjectName(QStringLiteral("%1%2").arg(QLatin1String(name)).arg(id));
+    button->setChecked(id == chosen);
+    group->addButton(button, id);
+    row.addWidget(button);
+  }
+  row.setSpacing(18);
+  row.addStretch();
+  return group;
+}
+
+}  // namespace
+
+PrintDlg::PrintDlg(const VEXATYPE& state, int selectedSlot, ReportRequest& request,
+                   CurrentPrinter& printer, MessageService& messages, QWidget* parent)
+    : QDialog(parent),
+      state_(state),
+      selectedSlot_(selectedSlot),
+      request_(request),
+      printer_(printer),
+      messages_(messages),
+      title_(TextField("Title", request.title)),
+      operator_(TextField("Operator", request.operatorName)),
+      date_(new QDateEdit(request.date)),
+      printerText_(new QLabel),
+      copies_(new QSpinBox) {
+  setObjectName(QStringLiteral("PrintDlg"));
+  setWindowTitle(QStringLiteral("印刷"));
+  auto* preview = DialogButton(QStringLiteral("ﾌﾟﾚﾋﾞｭｰ"));
+  preview->setObjectName(QStringLiteral("Preview"));
+  connect(preview, &QPushButton::clicked, this, [this] {
+    PrintPreview(printer_.Settings(), MakeReport(state_, Entries()), this).exec();
+  });
+  QWidget* buttons = OkCancelButtons(*this, preview);
+  buttons->findChild<QPushButton*>(QStringLiteral("OK"))->setText(QStringLiteral("印刷"));
+  auto* layout = new QVBoxLayout(this);
+  layout->setContentsMargins(18, 14, 18, 14);
+  layout->setSpacing(12);
+  layout->addWidget(BuildHeader());
+  layout->addWidget(BuildSlots());
+  layout->addWidget(BuildContent());
+  layout->addWidget(BuildPrinter());
+  layout->addWidget(buttons);
+  layout->setSizeConstraint(QLayout::SetFixedSize);
+  ShowPrinter();
+}
+
+QWidget* PrintDlg::BuildHeader() {
+  date_->setObjectName(QStringLiteral("Date"));
+  date_->setLocale(QLocale::c());
+  date_->setDisplayFormat(QStringLiteral("yyyy/M/d"));
+  date_->setCalendarPopup(true);
+  title_->setPlaceholderText(ReportTitle({}));
+  auto* group = new QGroupBox(QStringLiteral("見出し"));
+  auto* form = new QFormLayout(group);
+  form->addRow(QStringLiteral("ﾀｲﾄﾙ"), title_);
+  form->addRow(QStringLiteral("測定者"), operator_);
+  form->addRow(QStringLiteral("日付"), date_);
+  return group;
+}
+
+QWidget* PrintDlg::BuildSlots() {
+  const MeasurementSlot* slot = state_.Slot(selectedSlot_);
+  const bool selectable = slot != nullptr && slot->valid;
+  auto* group = new QGroupBox(QStringLiteral("印刷ﾃﾞｰﾀ"));
+  auto* row = new QHBoxLayout(group);
+  slots_ = AddChoice(
+      *row, "Slots", group,
+      {{1, QStringLiteral("選択ﾃﾞｰﾀ (Mes%1)").arg(selectedSlot_)}, {0, QStringLiteral("全ﾃﾞｰﾀ")}},
+      request_.slot != 0 && selectable ? 1 : 0);
+  slots_->button(1)->setEnabled(selectable);
+  return group;
+}
+
+QWidget* PrintDlg::BuildContent() {
+  const auto id = [](ReportContent content) { return static_cast<int>(content); };
+  auto* group = new QGroupBox(QStringLiteral("印刷内容"));
+  auto* form = new QFormLayout(group);
+  auto* contents = new QHBoxLayout;
+  content_ = AddChoice(*contents, "Content", group,
+                       {{id(ReportContent::kGraph), QStringLiteral("ｸﾞﾗﾌ")},
+                        {id(ReportContent::kText), QStringLiteral("ﾃｷｽﾄ")},
+                        {id(ReportContent::kBoth), QStringLiteral("ｸﾞﾗﾌとﾃｷｽﾄ")}},
+                       id(request_.content));
+  auto* steps = new QHBoxLayout;
+  step_ = AddChoice(*steps, "Step", group,
+                    {{1, QStringLiteral("1 nm")}, {10, QStringLiteral("10 nm")}}, request_.stepNm);
+  form->addRow(contents);
+  form->addRow(QStringLiteral("ﾃｷｽﾄｽﾃｯﾌﾟ"), steps);
+  const auto enableSteps = [this](int content) {
+    for (QAbstractButton* button : step_->buttons()) {
+      button->setEnabled(content != static_cast<int>(ReportContent::kGraph));
+    }
+  };
+  connect(content_, &QButtonGroup::idClicked, this, enableSteps);
+  enableSteps(content_->checkedId());
+  return group;
+}
+
+QWidget* PrintDlg::BuildPrinter() {
+  printerText_->setObjectName(QStringLiteral("PrinterText"));
+  printerText_->setTextFormat(Qt::PlainText);
+  QPushButton* settings = DialogButton(QStringLiteral("印刷設定"));
+  connect(settings, &QPushButton::clicked, this, [this] {
+    PrintSetupDlg(printer_, messages_, this).exec();
+    ShowPrinter();
+  });
+  copies_->setObjectName(QStringLiteral("Copies"));
+  copies_->setRange(1, kMostCopies);
+  copies_->setFixedWidth(80);
+  auto* group = new QGroupBox(QStringLiteral("ﾌﾟﾘﾝﾀ"));
+  auto* row = new QHBoxLayout;
+  row->addWidget(printerText_, 1);
+  row->addWidget(settings);
+  auto* form = new QFormLayout(group);
+  form->addRow(row);
+  form->addRow(QStringLiteral("部数"), copies_);
+  return group;
+}
+
+ReportRequest PrintDlg::Entries() const {
+  return {.title = title_->text(),
+          .operatorName = operator_->text(),
+          .date = date_->date(),
+          .slot = slots_->checkedId() == 0 ? 0 : selectedSlot_,
+          .content = static_cast<ReportContent>(content_->checkedId()),
+          .stepNm = step_->checkedId()};
+}
+
+void PrintDlg::ShowPrinter() {
+  printerText_->setText(PrintSettingsText(printer_.Settings()));
+  copies_->setEnabled(!printer_.Settings().printerName.isEmpty());
+}
+
+void PrintDlg::accept() {
+  const ReportRequest entries = Entries();
+  if (printer_.Print(ReportTitle(entries), MakeReport(state_, entries), copies_->value())) {
+    request_ = entries;
+    QDialog::accept();
+  }
+}
+
+void PrintSlots(const VEXATYPE& state, int selectedSlot, ReportRequest& request,
+                CurrentPrinter& printer, MessageService& messages, QWidget* parent) {
+  if (!state.HasValidSlot()) {
+    messages.MsgCall(QStringLiteral("有効ﾃﾞｰﾀがありません。"), kOk + kInformationIcon,
+                     message_title::kInformation);
+    return;
+  }
+  PrintDlg(state, selectedSlot, request, printer, messages, parent).exec();
+}
+
+}  // namespace vexa

@@ -1,0 +1,87 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "views/print/print_settings.h"
+
+#include <QRectF>
+#include <algorithm>
+
+#include "base/header_version.h"
+#include "base/text_file.h"
+
+namespace vexa {
+namespace {
+
+const QString kHeader = QStringLiteral("VEXA-KT 440-840 Ver 3.21 Print File");
+const QString kKind = QStringLiteral("PRINT");
+
+double ReadMargin(TextReader& reader) {
+  const double margin = reader.RealField();
+  if (!(margin >= 0.0 && margin <= kLargestMarginMm)) {
+    throw ReadFault("margin");
+  }
+  return margin;
+}
+
+}  // namespace
+
+QPageLayout PageLayoutOf(const PrintSettings& settings) {
+  return {QPageSize(settings.paper),
+          settings.landscape ? QPageLayout::Landscape : QPageLayout::Portrait, settings.marginsMm,
+          QPageLayout::Millimeter};
+}
+
+bool LeavesRoom(const PrintSettings& settings) {
+  const QSizeF room = PageLayoutOf(settings).paintRect(QPageLayout::Millimeter).size();
+  return std::min(room.width(), room.height()) >= kSmallestSideMm;
+}
+
+QString PrinterText(const QString& printerName) {
+  return printerName.isEmpty() ? QStringLiteral("PDFﾌｧｲﾙ") : printerName;
+}
+
+QString PrintSettingsText(const PrintSettings& settings) {
+  return QStringLiteral("%1　%2 %3")
+      .arg(PrinterText(settings.printerName), QPageSize::name(settings.paper),
+           settings.landscape ? QStringLiteral("横") : QStringLiteral("縦"));
+}
+
+std::optional<PrintSettings> ReadPrintFile(const QString& path) {
+  try {
+    TextReader reader = TextReader::Open(path);
+    if (ReadHeaderVersion(reader.Line(), kKind) <= 0.0) {
+      return std::nullopt;
+    }
+    PrintSettings settings;
+    settings.printerName = reader.Line();
+    const QString paper = reader.Line();
+    const auto* const known =
+        std::ranges::find(kPapers, paper, [](auto id) { return QPageSize::key(id); });
+    if (known == kPapers.end()) {
+      return std::nullopt;
+    }
+    settings.paper = *known;
+    settings.landscape = reader.FlagLine();
+    const double left = ReadMargin(reader);
+    const double top = ReadMargin(reader);
+    const double right = ReadMargin(reader);
+    settings.marginsMm = {left, top, right, ReadMargin(reader)};
+    return LeavesRoom(settings) ? std::optional(settings) : std::nullopt;
+  } catch (const ReadFault&) {
+    return std::nullopt;
+  }
+}
+
+bool WritePrintFile(const QString& path, const PrintSettings& settings) {
+  const QMarginsF& margins = settings.marginsMm;
+  return FileText()
+      .Line(kHeader)
+      .Line(settings.printerName)
+      .Line(QPageSize::key(settings.paper))
+      .Flag(settings.landscape)
+      .Number(margins.left())
+      .Number(margins.top())
+      .Number(margins.right())
+      .Number(margins.bottom())
+      .WriteTo(path);
+}
+
+}  // namespace vexa

@@ -1,0 +1,115 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "views/print/report.h"
+
+#include <QPicture>
+#include <algorithm>
+#include <memory>
+
+#include "standards/reflectance_band.h"
+#include "views/graph/index_graph.h"
+#include "views/graph/light_graph.h"
+#include "views/graph/reflectance_graph.h"
+#include "views/print/page_flow.h"
+#include "views/print/page_header.h"
+#include "views/print/plot_drawing.h"
+#include "views/print/slot_tables.h"
+#include "views/print/spectrum_pages.h"
+
+namespace vexa {
+namespace {
+
+constexpr double kLowestGraph = 950.0;
+constexpr double kHighestGraph = 1350.0;
+constexpr double kPixel = 2.5;  // of the graph, on paper
+
+// The state with nothing but what is printed.
+VEXATYPE Selected(const VEXATYPE& state, int slot) {
+  VEXATYPE selected = state;
+  for (int number = 1; slot != 0 && number <= kSlotCount; ++number) {
+    if (number != slot) {
+      *selected.Slot(number) = {};
+    }
+  }
+  selected.display.showCursor = false;
+  return selected;
+}
+
+// The graph of the view in force; the reflectance for the views that are no such graph.
+std::unique_ptr<SpectrumGraph> MakeGraph(const VEXATYPE& state) {
+  constexpr int kIndexView = 2;
+  constexpr int kLightView = 3;
+  constexpr int kReciprocalView = 6;
+  const int view = state.display.view;
+  if (view == kIndexView) {
+    return std::make_unique<IndexGraph>();
+  }
+  if (view == kLightView) {
+    return std::make_unique<LightGraph>();
+  }
+  auto graph = std::make_unique<ReflectanceGraph>(view == kReciprocalView ? Abscissa::kReciprocal
+                                                                          : Abscissa::kWavelength);
+  graph->ShowBand(ReflectanceBand(state.standard));
+  return graph;
+}
+
+void AddGraph(PageFlow& flow, const VEXATYPE& state, double height) {
+  const std::unique_ptr<SpectrumGraph> graph = MakeGraph(state);
+  graph->Show(state, 0);
+  const QPicture picture = PlotDrawing(*graph, (QSizeF(flow.Width(), height) / kPixel).toSize());
+  flow.Add(height, [picture](QPainter& painter, const QRectF& place) {
+    PlayDrawing(painter, place.topLeft(), kPixel, picture);
+  });
+}
+
+std::vector<Table> Summary(const VEXATYPE& state) {
+  std::vector<Table> tables{SampleTable(state), ValueTable(state)};
+  if (const std::optional<Table> verdicts = VerdictTable(state)) {
+    tables.push_back(*verdicts);
+  }
+  return tables;
+}
+
+PageFlow LayOut(const VEXATYPE& state, const ReportRequest& request, const QSizeF& page) {
+  PageFlow flow(PageHeader::Body(page));
+  const std::vector<Table> summary = Summary(state);
+  if (request.content != ReportContent::kText) {
+    double tables = 0.0;
+    for (const Table& table : summary) {
+      tables += PageFlow::kGap + table.Height();
+    }
+    AddGraph(flow, state,
+             std::min(flow.PageHeight(),
+                      std::clamp(flow.PageHeight() - tables, kLowestGraph, kHighestGraph)));
+  }
+  for (const Table& table : summary) {
+    flow.Add(table);
+  }
+  if (request.content != ReportContent::kGraph) {
+    AddSpectra(flow, state, request.stepNm);
+  }
+  return flow;
+}
+
+}  // namespace
+
+PageMaker MakeReport(const VEXATYPE& state, const ReportRequest& request) {
+  const auto selected = std::make_shared<const VEXATYPE>(Selected(state, request.slot));
+  return [selected, request](const QSizeF& page) {
+    const auto flow = std::make_shared<const PageFlow>(LayOut(*selected, request, page));
+    const PageHeader header(*selected, request);
+    return PrintedPages{flow->PageCount(), [flow, header, page](QPainter& painter, int number) {
+                          header.Paint(painter, page, number + 1, flow->PageCount());
+                          flow->PaintPage(painter, number);
+                        }};
+  };
+}
+
+ReportRequest UsualReport(const VEXATYPE& state, const QDate& date) {
+  constexpr int kCoarseNm = 10;
+  ReportRequest request;
+  request.date = date;
+  request.stepNm = state.display.textStepNm >= kCoarseNm ? kCoarseNm : 1;
+  return request;
+}
+
+}  // namespace vexa

@@ -1,0 +1,21 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <QDate>
+#include <QString>
+
+namespace vexa {
+
+enum class ReportContent { kGraph, kText, kBoth };
+
+/// What a report of the slots is to hold.
+struct ReportRequest {
+  QString title;
+  QString operatorName;
+  QDate date;
+  int slot = 0;  ///< 1..10; 0: all valid slots
+  ReportContent content = ReportContent::kBoth;
+  int stepNm = 1;  ///< of the spectra as text, 1 or 10
+};
+
+}  // namespace vexa

@@ -1,0 +1,175 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "views/print/slot_tables.h"
+
+#include <algorithm>
+
+#include "base/date_text.h"
+#include "base/number_text.h"
+
+namespace vexa {
+namespace {
+
+using Column = Table::Column;
+using Row = std::vector<Table::Cell>;
+
+const QString kNone = QStringLiteral("-");
+constexpr double kNumberWidth = 70.0;
+constexpr double kNameWidth = 340.0;
+
+struct ColourColumn {
+  QString title;
+  double ColourResult::*value;
+  QString pattern;
+  bool ofCalcColour;  // as all but the average reflectance
+};
+
+const std::vector<ColourColumn>& ColourColumns() {
+  static const std::vector<ColourColumn> kColumns{
+      {QStringLiteral("x"), &ColourResult::x, QStringLiteral("0.0000"), true},
+      {QStringLiteral("y"), &ColourResult::y, QStringLiteral("0.0000"), true},
+      {QStringLiteral("L*"), &ColourResult::L, QStringLiteral("##0.00"), true},
+      {QStringLiteral("a*"), &ColourResult::a, QStringLiteral("0.0000"), true},
+      {QStringLiteral("b*"), &ColourResult::b, QStringLiteral("0.0000"), true},
+      {QStringLiteral("C*"), &ColourResult::C, QStringLiteral("##0.000"), true},
+      {QStringLiteral("h[°]"), &ColourResult::h, QStringLiteral("##0.000"), true},
+      {QStringLiteral("平均[%]"), &ColourResult::Rm, QStringLiteral("##0.0##"), false},
+      {QStringLiteral("視感[%]"), &ColourResult::Y, QStringLiteral("##0.0##"), true}};
+  return kColumns;
+}
+
+template <typename MakeRow>
+void AddRows(Table& table, const VEXATYPE& state, MakeRow makeRow) {
+  for (int number = 1; number <= kSlotCount; ++number) {
+    const MeasurementSlot& slot = *state.Slot(number);
+    if (slot.valid) {
+      Row row{{QString::number(number)}};
+      makeRow(slot, row);
+      table.rows.push_back(std::move(row));
+    }
+  }
+}
+
+QString LimitsText(const StandardLimits& limits) {
+  if (!limits.enabled) {
+    return kNone;
+  }
+  const QString pattern = QStringLiteral("##0.0##");
+  return FormatNumber(limits.lower, pattern).trimmed() + QStringLiteral("～") +
+         FormatNumber(limits.upper, pattern).trimmed();
+}
+
+Row LimitsRow(const StandardSet& standard) {
+  const auto points = std::ranges::count_if(
+      standard.conditions, [](const StandardLimits& limits) { return bool{limits.enabled}; });
+  const QString band = standard.useReflectance && standard.conditions.front().enabled
+                           ? QStringLiteral("%1点").arg(points)
+                           : kNone;
+  const WavelengthValueLimits& wavelength = standard.wavelengthValue;
+  const QString kind = !wavelength.limits.enabled ? QString()
+                       : wavelength.selector != 0 ? QStringLiteral("P ")
+                                                  : QStringLiteral("V ");
+  return {{},
+          {QStringLiteral("規格")},
+          {band},
+          {LimitsText(standard.averageReflectance)},
+          {LimitsText(standard.luminousReflectance)},
+          {kind + LimitsText(wavelength.limits)},
+          {LimitsText(standard.chroma)},
+          {LimitsText(standard.hueAngle)},
+          {}};
+}
+
+// "OK" or "NG"; nothing was judged where there is no verdict.
+Table::Cell VerdictCell(const std::optional<bool>& passed) {
+  if (!passed) {
+    return {kNone};
+  }
+  return {*passed ? QStringLiteral("OK") : QStringLiteral("NG"), !*passed};
+}
+
+std::optional<bool> Overall(const Judgement& judgement) {
+  std::optional<bool> overall;
+  for (const GroupJudgement& group : judgement.groups) {
+    if (group.passed) {
+      overall = overall.value_or(true) && *group.passed;
+    }
+  }
+  return overall;
+}
+
+}  // namespace
+
+Table SampleTable(const VEXATYPE& state) {
+  Table table{.caption = QStringLiteral("試料"),
+              .columns = {{QStringLiteral("No."), kNumberWidth},
+                          {QStringLiteral("試料No"), kNameWidth, Qt::AlignLeft},
+                          {QStringLiteral("備考1"), 480.0, Qt::AlignLeft},
+                          {QStringLiteral("備考2"), 480.0, Qt::AlignLeft},
+                          {QStringLiteral("測定日"), 340.0}},
+              .rows = {}};
+  AddRows(table, state, [](const MeasurementSlot& slot, Row& row) {
+    const SampleInfo& info = slot.info;
+    row.push_back({info.sampleNumber});
+    row.push_back({info.remark1});
+    row.push_back({info.remark2});
+    row.push_back({info.measuredAt.isValid() ? DateTimeText(info.measuredAt) : kNone});
+  });
+  return table;
+}
+
+Table ValueTable(const VEXATYPE& state) {
+  Table table{.caption = QStringLiteral("測定値"),
+              .columns = {{QStringLiteral("No."), kNumberWidth}},
+              .rows = {}};
+  for (const ColourColumn& column : ColourColumns()) {
+    table.columns.push_back({column.title, 165.0});
+  }
+  table.columns.push_back({QStringLiteral("膜厚"), 195.0});
+  AddRows(table, state, [&state](const MeasurementSlot& slot, Row& row) {
+    // The slot itself does not tell whether its colour could be computed.
+    ColourResult ignored;
+    const bool coloured = CalcColour(slot.reflectance, state.colour, ignored);
+    for (const ColourColumn& column : ColourColumns()) {
+      row.push_back({coloured || !column.ofCalcColour
+                         ? FormatNumber(slot.colour.*column.value, column.pattern).trimmed()
+                         : kNone});
+    }
+    const ThicknessResult& thickness = slot.thickness;
+    row.push_back({thickness.IsComputed()
+                       ? FormatNumber(thickness.thicknessNm, u"###0.0").trimmed() + u' ' +
+                             ThicknessUnit(thickness.physical)
+                       : kNone});
+  });
+  return table;
+}
+
+std::optional<Table> VerdictTable(const VEXATYPE& state) {
+  constexpr double kWidth = 225.0;
+  Table table{.caption = QStringLiteral("合否判定"),
+              .columns = {{QStringLiteral("No."), kNumberWidth},
+                          {QStringLiteral("試料No"), kNameWidth, Qt::AlignLeft},
+                          {QStringLiteral("反射率"), 150.0, Qt::AlignHCenter},
+                          {QStringLiteral("平均反射率"), kWidth, Qt::AlignHCenter},
+                          {QStringLiteral("視感反射率"), kWidth, Qt::AlignHCenter},
+                          {QStringLiteral("波長"), kWidth, Qt::AlignHCenter},
+                          {QStringLiteral("クロマC*"), kWidth, Qt::AlignHCenter},
+                          {QStringLiteral("色相角h[deg]"), kWidth, Qt::AlignHCenter},
+                          {QStringLiteral("総合"), 120.0, Qt::AlignHCenter}},
+              .rows = {LimitsRow(state.standard)}};
+  bool judged = false;
+  AddRows(table, state, [&judged](const MeasurementSlot& slot, Row& row) {
+    row.push_back({slot.info.sampleNumber});
+    for (const GroupJudgement& group : slot.judgement.groups) {
+      row.push_back(VerdictCell(group.passed));
+    }
+    row.push_back(VerdictCell(Overall(slot.judgement)));
+    judged = judged || Overall(slot.judgement).has_value();
+  });
+  return judged ? std::optional(table) : std::nullopt;
+}
+
+QString SlotTitle(const VEXATYPE& state, int number) {
+  return QStringLiteral("%1 %2").arg(number).arg(state.Slot(number)->info.sampleNumber).trimmed();
+}
+
+}  // namespace vexa

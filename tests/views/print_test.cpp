@@ -1,0 +1,264 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include <gtest/gtest.h>
+
+#include <QComboBox>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QRadioButton>
+#include <QTest>
+
+#include "measurement/evaluation.h"
+#include "support/pdf_words.h"
+#include "support/prepared_answers.h"
+#include "support/prepared_files.h"
+#include "support/temporary_files.h"
+#include "views/print/print_dlg.h"
+#include "views/print/print_preview.h"
+#include "views/print/print_setup_dlg.h"
+#include "views/print/report.h"
+
+namespace vexa {
+namespace {
+
+using test::ShownMessage;
+
+class Printing : public testing::Test {
+ protected:
+  Printing() {
+    state.programDirectory = directory.Directory();
+    state.standardFileName = QStringLiteral("出荷規格.std");
+    state.standard.averageReflectance = {true, 3.5, 0.0};
+    state.thickness.enabled = true;
+    request.title = QStringLiteral("反射防止膜検査");
+    request.operatorName = QStringLiteral("山田長青");
+    request.date = {2026, 3, 9};
+    request.stepNm = 10;
+  }
+
+  // Slot n reflects n + (wavelength - 440) / 1000 percent.
+  void Fill(int count) {
+    for (int number = 1; number <= count; ++number) {
+      MeasurementSlot& slot = *state.Slot(number);
+      for (int nm = 440; nm <= 840; ++nm) {
+        slot.reflectance[nm] = number + (nm - 440) / 1000.0;
+      }
+      slot.info.sampleNumber = QStringLiteral("A-00%1").arg(number);
+      slot.valid = true;
+    }
+    EvaluateAgain(state);
+  }
+
+  QStringList Pages() {
+    EXPECT_TRUE(
+        WritePdf(Path(), request.title, PageLayoutOf(settings), MakeReport(state, request)));
+    return test::PdfPages(Path());
+  }
+  [[nodiscard]] QString Path() const { return directory.Path("報告.pdf"); }
+
+  template <typename Widget>
+  static Widget* Find(QWidget& window, const char* name) {
+    return window.findChild<Widget*>(QLatin1String(name));
+  }
+
+  const test::TemporaryFiles directory;
+  VEXATYPE state;
+  test::PreparedAnswers messages;
+  test::PreparedFiles files;
+  PrintSettings settings;
+  ReportRequest request;
+  CurrentPrinter printer{state, messages, files};
+};
+
+TEST_F(Printing, ReportHoldsWhatIsAskedFor) {
+  Fill(4);
+  state.Slot(2)->thickness.first = {700.0, 4.0};
+  state.Slot(2)->thickness.thicknessNm = 1512.34;
+  state.Slot(2)->thickness.physical = false;
+  state.Slot(3)->info.measuredAt = QDateTime({2026, 3, 8}, {7, 5, 3});
+  const char* graph = "波長 [nm]";
+  const char* values = " 2.2 2.";  // mean reflectance of slot 2, and the luminous one beside it
+  const char* verdicts =
+      "規格 - 0.0～3.5 - - - -\n 1 A-001 - OK - - - - OK\n 2 A-002 - OK - - - - OK\n"
+      " 3 A-003 - OK - - - - OK\n 4 A-004 - NG - - - - NG";
+  const char* tens = "440 1.000 2.000 3.000 4.000";
+  const char* ones = "441 1.001 2.001 3.001 4.001";
+  const struct {
+    ReportContent content;
+    int slot;
+    int stepNm;
+    std::vector<const char*> held;
+    std::vector<const char*> missing;
+  } cases[] = {
+      {ReportContent::kBoth, 0, 10, {graph, values, verdicts, tens, "1512.3 [nd]"}, {ones}},
+      {ReportContent::kBoth, 0, 1, {graph, verdicts, tens, ones}, {}},
+      {ReportContent::kGraph, 0, 1, {graph, verdicts, "A-004"}, {tens, ones}},
+      {ReportContent::kText, 0, 10, {verdicts, tens}, {graph, ones}},
+      {ReportContent::kText, 3, 10, {"3 A-003", "2026/3/8 7:05:03", "440 3.000"}, {"A-002", tens}},
+  };
+  for (const auto& c : cases) {
+    request.content = c.content;
+    request.slot = c.slot;
+    request.stepNm = c.stepNm;
+    const QStringList pages = Pages();
+    const QString all = pages.join(QString());
+    const auto where = testing::Message() << "case " << (&c - cases) << ":\n" << all.toStdString();
+    for (const char* text : c.held) {
+      EXPECT_TRUE(all.contains(QString::fromUtf8(text))) << text << where;
+    }
+    for (const char* text : c.missing) {
+      EXPECT_FALSE(all.contains(QString::fromUtf8(text))) << text << where;
+    }
+    int number = 0;
+    for (const QString& page : pages) {
+      for (const QString& text :
+           {QStringLiteral("反射防止膜検査"), QStringLiteral("測定者 山田長青"),
+            QStringLiteral("日付 2026/3/9"), QStringLiteral("vexa.env"),
+            QStringLiteral("出荷規格.std"),
+            QStringLiteral("%1 / %2").arg(++number).arg(pages.size())}) {
+        EXPECT_TRUE(page.contains(text)) << text.toStdString() << where;
+      }
+    }
+  }
+}
+
+TEST_F(Printing, EveryWavelengthIsPrintedOnce) {
+  request.content = ReportContent::kText;
+  for (const int count : {1, 3, 10}) {
+    state.ClearSlots();
+    Fill(count);
+    for (const int stepNm : {1, 10}) {
+      request.stepNm = stepNm;
+      const QString all = Pages().join(QString());
+      for (int nm = 440; nm <= 840; nm += stepNm) {
+        const QString cell =
+            QStringLiteral("%1 %2").arg(nm).arg(1.0 + (nm - 440) / 1000.0, 0, 'f', 3);
+        EXPECT_EQ(all.count(cell), 1) << count << " slots, " << cell.toStdString();
+      }
+    }
+  }
+}
+
+TEST_F(Printing, NothingLeavesThePaper) {
+  Fill(10);
+  state.Slot(7)->info.remark1 = QString(200, u'長');
+  request.title = QString(100, u'題');
+  const PrintSettings papers[] = {{{}, QPageSize::A4, false, {15, 15, 15, 15}},
+                                  {{}, QPageSize::A4, true, {0, 0, 0, 0}},
+                                  {{}, QPageSize::A5, true, {20, 20, 20, 20}},
+                                  {{}, QPageSize::A3, false, {5, 50, 5, 50}}};
+  for (const PrintSettings& paper : papers) {
+    settings = paper;
+    const QPageLayout layout = PageLayoutOf(paper);
+    const QRectF whole = layout.fullRect();
+    const QRectF inner = layout.paintRect();
+    const QRectF allowed = QRectF(inner.left() / whole.width(), inner.top() / whole.height(),
+                                  inner.width() / whole.width(), inner.height() / whole.height())
+                               .adjusted(-0.002, -0.002, 0.002, 0.002);
+    EXPECT_GE(Pages().size(), 1);
+    for (const QRectF& word : test::PdfWordPlaces(Path())) {
+      EXPECT_TRUE(allowed.contains(word))
+          << PrintSettingsText(paper).toStdString() << ": " << word.x() << ' ' << word.y() << ' '
+          << word.right() << ' ' << word.bottom();
+    }
+  }
+}
+
+TEST_F(Printing, DialogPrintsIntoAFileAndRemembersWhatWasPrinted) {
+  PrintSlots(state, 2, request, printer, messages, nullptr);
+  EXPECT_EQ(messages.Take(),
+            (std::vector{ShownMessage{"VEXA-KT 情報: 有効ﾃﾞｰﾀがありません。", 64}}));
+  Fill(2);
+  PrintDlg dialog(state, 2, request, printer, messages);
+  dialog.show();
+  auto* print = Find<QPushButton>(dialog, "OK");
+  Find<QLineEdit>(dialog, "Title")->setText(QStringLiteral("ロット12"));
+  Find<QRadioButton>(dialog, "Slots1")->click();
+  print->click();
+  EXPECT_TRUE(dialog.isVisible()) << "no file was named";
+  EXPECT_EQ(request.title, QStringLiteral("反射防止膜検査"));
+
+  files.save = SaveChoice{directory.Path("missing/x"), 1};
+  print->click();
+  EXPECT_EQ(messages.Take().size(), 1U) << "cannot be written";
+  files.save = SaveChoice{directory.Write("報告.pdf", "old"), 1};
+  messages.answers = {MessageResult::kNo};
+  print->click();
+  EXPECT_EQ(directory.Read("報告.pdf"), "old");
+  EXPECT_TRUE(dialog.isVisible());
+
+  files.save = SaveChoice{directory.Path("報告"), 1};
+  print->click();
+  EXPECT_FALSE(dialog.isVisible());
+  EXPECT_EQ(request.title, QStringLiteral("ロット12"));
+  EXPECT_EQ(request.slot, 2);
+  const QString text = test::PdfPages(Path()).join(QString());
+  EXPECT_TRUE(text.contains(QStringLiteral("ロット12")));
+  EXPECT_FALSE(text.contains(QStringLiteral("A-001")));
+}
+
+TEST_F(Printing, SettingsStayForTheNextRun) {
+  const QString kept = directory.Path("vexa.prt");
+  PrintSetupDlg dialog(printer, messages);
+  dialog.show();
+  auto* left = Find<QLineEdit>(dialog, "Left");
+  for (const char* refused : {"", "51", "-1"}) {
+    left->setText(QLatin1String(refused));
+    Find<QPushButton>(dialog, "OK")->click();
+    EXPECT_EQ(messages.Take().size(), 1U) << refused;
+    EXPECT_FALSE(QFile::exists(kept));
+  }
+  auto* paper = Find<QComboBox>(dialog, "Paper");
+  paper->setCurrentIndex(paper->findText(QStringLiteral("A5")));
+  left->setText(QStringLiteral("50"));
+  Find<QPushButton>(dialog, "OK")->click();
+  EXPECT_EQ(messages.Take().size(), 1U) << "98 mm are left of the width";
+  left->setText(QStringLiteral("12.5"));
+  Find<QRadioButton>(dialog, "Landscape")->click();
+  paper->setCurrentIndex(paper->findText(QStringLiteral("A3")));
+  Find<QPushButton>(dialog, "OK")->click();
+  EXPECT_FALSE(dialog.isVisible());
+  const PrintSettings chosen{{}, QPageSize::A3, true, {12.5, 15.0, 15.0, 15.0}};
+  EXPECT_EQ(CurrentPrinter(state, messages, files).Settings(), chosen);
+
+  const QByteArray good = directory.Read("vexa.prt");
+  for (const QByteArray& bad :
+       {QByteArray(), good.left(good.size() / 2), QByteArray(good).replace("A3", "A9"),
+        QByteArray(good).replace("12.5", "1E9")}) {
+    directory.Write("vexa.prt", bad);
+    EXPECT_EQ(CurrentPrinter(state, messages, files).Settings(), PrintSettings())
+        << bad.constData();
+  }
+}
+
+TEST_F(Printing, AMissingPrinterIsToldAndStaysChosen) {
+  settings.printerName = QStringLiteral("倉庫の印刷機");
+  printer.SetSettings(settings);
+  Fill(1);
+  EXPECT_FALSE(printer.Print(request.title, MakeReport(state, request)));
+  EXPECT_EQ(
+      messages.Take(),
+      (std::vector{ShownMessage{"VEXA-KT ｴﾗｰ: ﾌﾟﾘﾝﾀが見つかりません。\r\r倉庫の印刷機", 16}}));
+  PrintSetupDlg dialog(printer, messages);
+  EXPECT_EQ(Find<QComboBox>(dialog, "Printer")->currentText(), settings.printerName);
+}
+
+TEST_F(Printing, PreviewTurnsThePages) {
+  Fill(10);
+  request.stepNm = 1;
+  PrintPreview preview(settings, MakeReport(state, request));
+  preview.show();
+  auto* place = Find<QLabel>(preview, "Place");
+  EXPECT_TRUE(QTest::qWaitFor([place] { return place->text().startsWith(u"1 / "); }));
+  const int count = place->text().mid(4).toInt();
+  EXPECT_EQ(count, Pages().size());
+  EXPECT_FALSE(Find<QPushButton>(preview, "Back")->isEnabled());
+  for (int page = 1; page < count; ++page) {
+    Find<QPushButton>(preview, "Next")->click();
+  }
+  EXPECT_EQ(place->text(), QStringLiteral("%1 / %1").arg(count));
+  EXPECT_FALSE(Find<QPushButton>(preview, "Next")->isEnabled());
+}
+
+}  // namespace
+}  // namespace vexa
