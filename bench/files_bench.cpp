@@ -44,7 +44,8 @@ BENCHMARK(ReadTenSlots)->Unit(benchmark::kMillisecond);
 // A slot that was measured anew: what has changed is found among ten, written, and on the disk.
 void AppendSlotToJournal(benchmark::State& state) {
   const QTemporaryDir directory;
-  vexa::VEXATYPE slots10 = TenSlots();
+  vexa::VEXATYPE slots10;
+  vexa::bench::FillSlots(slots10);
   vexa::Journal journal(directory.path());
   vexa::SessionImage written = vexa::TakeImage(slots10);
   while (state.KeepRunning()) {
@@ -59,7 +60,8 @@ void AppendSlotToJournal(benchmark::State& state) {
 BENCHMARK(AppendSlotToJournal)->Unit(benchmark::kMillisecond)->UseRealTime();
 
 void FindNoChangeInSession(benchmark::State& state) {
-  const vexa::VEXATYPE slots10 = TenSlots();
+  vexa::VEXATYPE slots10;
+  vexa::bench::FillSlots(slots10);
   const vexa::SessionImage written = vexa::TakeImage(slots10);
   while (state.KeepRunning()) {
     benchmark::DoNotOptimize(vexa::TakeImage(slots10) == written);
