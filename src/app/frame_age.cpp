@@ -17,11 +17,12 @@ QString TimeText(const QDateTime& time, const QDateTime& now) {
 }
 
 QString AgeText(qint64 minutes) {
-  if (minutes < qint64{2} * 60) {
+  const qint64 hours = minutes / 60;
+  if (hours < 2) {
     return QStringLiteral("%1分前").arg(minutes);
   }
-  return minutes < qint64{48} * 60 ? QStringLiteral("%1時間前").arg(minutes / 60)
-                                   : QStringLiteral("%1日前").arg(minutes / (24 * 60));
+  return hours < 48 ? QStringLiteral("%1時間前").arg(hours)
+                    : QStringLiteral("%1日前").arg(hours / 24);
 }
 
 QString ChangesText(const FrameChanges& changes) {

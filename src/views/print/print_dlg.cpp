@@ -117,6 +117,7 @@ QWidget* PrintDlg::BuildContent() {
   const auto id = [](ReportContent content) { return static_cast<int>(content); };
   auto* group = new QGroupBox(QStringLiteral("印刷内容"));
   auto* form = new QFormLayout(group);
+  form->setHorizontalSpacing(18);
   auto* contents = new QHBoxLayout;
   content_ = AddChoice(*contents, "Content", group,
                        {{id(ReportContent::kGraph), QStringLiteral("ｸﾞﾗﾌ")},

@@ -29,7 +29,10 @@ PrintPreview::PrintPreview(const PrintSettings& settings, const PageMaker& pages
   connect(preview_, &QPrintPreviewWidget::paintRequested, this,
           [pages](QPrinter* printer) { (void)PaintPages(*printer, pages); });
   connect(preview_, &QPrintPreviewWidget::previewChanged, this, &PrintPreview::ShowPlace);
-  const auto turn = [this](int by) { preview_->setCurrentPage(preview_->currentPage() + by); };
+  const auto turn = [this](int by) {
+    preview_->setCurrentPage(preview_->currentPage() + by);
+    ShowPlace();
+  };
   connect(back_, &QPushButton::clicked, this, [turn] { turn(-1); });
   connect(next_, &QPushButton::clicked, this, [turn] { turn(1); });
 

@@ -72,6 +72,7 @@ QWidget* PrintSetupDlg::BuildPaper(const PrintSettings& settings) {
   orientation->addStretch();
   auto* group = new QGroupBox(QStringLiteral("用紙"));
   auto* form = new QFormLayout(group);
+  form->setHorizontalSpacing(18);
   form->addRow(QStringLiteral("ｻｲｽﾞ"), papers_);
   form->addRow(QStringLiteral("向き"), orientation);
   return group;
