@@ -10,6 +10,7 @@
 #include "app/vexa.h"
 #include "files/environment_file.h"
 #include "files/startup_file.h"
+#include "standards/standard_file.h"
 #include "views/colour/background_picture.h"
 #include "views/colour/colour_panel.h"
 
@@ -22,6 +23,19 @@ constexpr const char* kLibrary = "libU2GPLIB.so";
 
 QString ProgramFile(const char* name) {
   return QDir(QCoreApplication::applicationDirPath()).filePath(QLatin1String(name));
+}
+
+// What the hard coats of the virtual instrument meet, and its antireflection coats do not.
+StandardSet HardCoatStandard() {
+  StandardSet standard;
+  standard.useReflectance = true;
+  standard.wavelengths[0] = 500;
+  standard.wavelengths[1] = 700;
+  standard.conditions[0] = {true, 7.6, 3.4};
+  standard.conditions[1] = {true, 7.2, 3.6};
+  standard.averageReflectance = {true, 6.0, 5.0};
+  standard.luminousReflectance = {true, 6.0, 5.0};
+  return standard;
 }
 
 }  // namespace
@@ -46,8 +60,11 @@ bool Demonstration::StartInstrument() {
   }
   // The reference on its stage reflects 4 % at every wavelength.
   state.referenceSetting.kind = DispersionKind::kFixedValue;
+  state.thickness.enabled = true;
+  state.standardFileName = QDir(directory_).filePath(QStringLiteral("demonstration.std"));
   if (!QDir().mkpath(directory_) || !WriteStartupFile(state) ||
-      !WriteEnvFile(CompletePath(state, state.envFileName), state)) {
+      !WriteEnvFile(CompletePath(state, state.envFileName), state) ||
+      !WriteStandardFile(state.standardFileName, HardCoatStandard(), {}, {})) {
     Complain(QStringLiteral("%1: cannot be prepared").arg(directory_));
     return false;
   }

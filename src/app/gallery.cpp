@@ -3,6 +3,7 @@
 
 #include <QApplication>
 #include <QPixmap>
+#include <QPushButton>
 #include <QTabWidget>
 #include <QTimer>
 #include <cstdio>
@@ -11,6 +12,7 @@
 #include "views/colour/background_picture.h"
 #include "views/colour/colour_panel.h"
 #include "views/common/original_msg_frm.h"
+#include "views/graph/reflectance_graph.h"
 
 namespace vexa {
 namespace {
@@ -22,6 +24,11 @@ void LetDraw() {
   }
 }
 
+void Press(const QWidget& window, const char* button) {
+  window.findChild<QAbstractButton*>(QLatin1String(button))->click();
+  LetDraw();
+}
+
 }  // namespace
 
 Gallery::Gallery(const QString& directory) : directory_(directory) {}
@@ -31,8 +38,11 @@ int Gallery::Take(VEXA& window) {
     Fail(directory_.path());
     return missing_;
   }
+  Press(window, "ThicknessButton");
   TakeViews(window);
   TakeDialogs(window);
+  TakeWindows(window);
+  TakeMessage();
   return missing_;
 }
 
@@ -56,29 +66,66 @@ void Gallery::TakeViews(VEXA& window) {
 
 void Gallery::TakeDialogs(VEXA& window) {
   const MenuCommands& commands = window.Commands();
-  TakeDialog(commands.displaySettings, QStringLiteral("display-settings"));
-  TakeDialog(commands.settingsList, QStringLiteral("settings-list"));
-  TakeDialog(commands.sampleInformation, QStringLiteral("sample-information"));
-  TakeDialog(commands.printSettings, QStringLiteral("print-settings"));
-  TakeDialog(commands.print, QStringLiteral("print"));
-  TakeDialog(commands.standards, QStringLiteral("standards"));
-  TakeDialog(commands.thicknessSettings, QStringLiteral("thickness-settings"));
-  TakeDialog(commands.wavelengthList, QStringLiteral("wavelength-list"));
-  TakeDialog(commands.colourDifference, QStringLiteral("colour-difference"));
-  TakeDialog(commands.referenceSettings, QStringLiteral("reference-settings"));
-  TakeDialog(commands.samplingSettings, QStringLiteral("sampling-settings"));
-  TakeDialog(commands.calibration, QStringLiteral("calibration"));
-  TakeDialog(commands.version, QStringLiteral("version"));
-  TakeWindow(commands.thicknessGraph, QStringLiteral("thickness-history"),
-             QStringLiteral("ThickGraph"));
+  const std::pair<QAction*, const char*> dialogs[] = {
+      {commands.displaySettings, "display-settings"},
+      {commands.settingsList, "settings-list"},
+      {commands.sampleInformation, "sample-information"},
+      {commands.printSettings, "print-settings"},
+      {commands.standards, "standards"},
+      {commands.thicknessSettings, "thickness-settings"},
+      {commands.wavelengthList, "wavelength-list"},
+      {commands.colourDifference, "colour-difference"},
+      {commands.referenceSettings, "reference-settings"},
+      {commands.samplingSettings, "sampling-settings"},
+      {commands.calibration, "calibration"},
+      {commands.version, "version"}};
+  for (const auto& [command, name] : dialogs) {
+    TakeDialog([action = command] { action->trigger(); }, QLatin1String(name));
+  }
+  TakeDialog([&] { commands.print->trigger(); }, QStringLiteral("print"),
+             [this](QWidget& dialog) {
+               TakeDialog([&] { Press(dialog, "Preview"); }, QStringLiteral("print-preview"));
+             });
+  auto* graph = window.findChild<ReflectanceGraph*>(QStringLiteral("ReflectanceGraph"));
+  TakeDialog([graph] { emit graph->JumpRequested(); }, QStringLiteral("jump"));
+}
+
+void Gallery::TakeWindows(VEXA& window) {
+  Press(window, "StockShow");
+  TakeWindow(QStringLiteral("StockWindow"), QStringLiteral("accumulation"));
+  window.Commands().thicknessGraph->trigger();
+  LetDraw();
+  for (const QWidget* history : QApplication::topLevelWidgets()) {
+    if (history->objectName() == QLatin1String("ThickGraph")) {
+      Press(*history, "AddPoint");
+      TakeDialog([&] { history->findChild<QAction*>(QStringLiteral("GraphSettings"))->trigger(); },
+                 QStringLiteral("thickness-history-settings"));
+    }
+  }
+  TakeWindow(QStringLiteral("ThickGraph"), QStringLiteral("thickness-history"));
+}
+
+void Gallery::TakeMessage() {
+  OriginalMsgFrm message;
+  const auto show = [&message] {
+    message.MsgCall(QStringLiteral("通信でﾃﾞﾊﾞｲｽ･ｴﾗｰ発生しました。"),
+                    message_type::kOk + message_type::kStopIcon, QStringLiteral("ｺﾝﾄﾛｰﾗｴﾗｰ"),
+                    QStringLiteral("com5 (/dev/ttyUSB0) という装置がありません。"));
+  };
+  TakeDialog(show, QStringLiteral("message"), [this](QWidget& dialog) {
+    Press(dialog, "Unfold");
+    Save(dialog, QStringLiteral("message-unfolded"));
+  });
 }
 
 // A dialog runs its own event loop: the picture is taken from within it.
-void Gallery::TakeDialog(QAction* command, const QString& name) {
+void Gallery::TakeDialog(const std::function<void()>& open, const QString& name,
+                         const std::function<void(QWidget&)>& inside) {
   bool taken = false;
+  const QWidget* below = QApplication::activeModalWidget();
   QTimer::singleShot(0, [&] {
     QWidget* dialog = QApplication::activeModalWidget();
-    if (dialog == nullptr) {
+    if (dialog == below) {
       return;
     }
     LetDraw();
@@ -90,18 +137,20 @@ void Gallery::TakeDialog(QAction* command, const QString& name) {
       }
       Save(*dialog, page == 0 ? name : QStringLiteral("%1-%2").arg(name).arg(page + 1));
     }
+    if (inside) {
+      inside(*dialog);
+    }
     taken = true;
     dialog->close();
   });
-  command->trigger();
+  open();
   LetDraw();
   if (!taken) {
     Fail(name);
   }
 }
 
-void Gallery::TakeWindow(QAction* command, const QString& name, const QString& objectName) {
-  command->trigger();
+void Gallery::TakeWindow(const QString& objectName, const QString& name) {
   LetDraw();
   for (QWidget* window : QApplication::topLevelWidgets()) {
     if (window->isVisible() && window->objectName() == objectName) {

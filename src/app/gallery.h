@@ -4,6 +4,7 @@
 #include <QAction>
 #include <QDir>
 #include <QString>
+#include <functional>
 
 namespace vexa {
 
@@ -21,8 +22,12 @@ class Gallery {
  private:
   void TakeViews(VEXA& window);
   void TakeDialogs(VEXA& window);
-  void TakeDialog(QAction* command, const QString& name);
-  void TakeWindow(QAction* command, const QString& name, const QString& objectName);
+  void TakeWindows(VEXA& window);
+  void TakeMessage();
+  /// The dialog that `open` runs, each of its pages; `inside` may do more in it before it closes.
+  void TakeDialog(const std::function<void()>& open, const QString& name,
+                  const std::function<void(QWidget&)>& inside = {});
+  void TakeWindow(const QString& objectName, const QString& name);
   void Save(QWidget& widget, const QString& name);
   void Fail(const QString& name);
 

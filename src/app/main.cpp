@@ -30,6 +30,8 @@ int RunDemonstration(const QString& directory, bool gpib, const QString& picture
   }
   vexa::VEXA window(MakeServices(demonstration.Messages(), demonstration.Dialogs()),
                     QDir(directory).absolutePath());
+  // Whatever the screen, or none: all of it in the picture.
+  window.resize(1280, 900);
   window.show();
   window.Load();
   int status = demonstration.Drive(window);

@@ -3,6 +3,9 @@
 
 #include <QCloseEvent>
 #include <QHBoxLayout>
+#include <QScreen>
+#include <QScrollArea>
+#include <QScrollBar>
 #include <QVBoxLayout>
 #include <utility>
 
@@ -125,14 +128,27 @@ void VEXA::BuildPanels() {
   layout->setSpacing(10);
   layout->addWidget(bar_);
   layout->addLayout(middle, 1);
-  auto* right = new QVBoxLayout;
-  right->setSpacing(8);
-  right->addWidget(colour_);
-  right->addWidget(thickness_);
-  right->addStretch();
-  layout->addLayout(right);
+  layout->addWidget(BuildResults());
   setCentralWidget(central);
-  resize(1280, 800);
+  resize(QSize(1280, 900).boundedTo(screen()->availableSize()));
+}
+
+// Scrolls where a low screen has no room for all of it.
+QWidget* VEXA::BuildResults() {
+  auto* results = new QWidget;
+  auto* column = new QVBoxLayout(results);
+  column->setContentsMargins(0, 0, 0, 0);
+  column->setSpacing(8);
+  column->addWidget(colour_);
+  column->addWidget(thickness_);
+  column->addStretch();
+  auto* area = new QScrollArea;
+  area->setFrameShape(QFrame::NoFrame);
+  area->setWidgetResizable(true);
+  area->setWidget(results);
+  area->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+  area->setFixedWidth(results->sizeHint().width() + area->verticalScrollBar()->sizeHint().width());
+  return area;
 }
 
 void VEXA::ConnectCommands() {

@@ -60,6 +60,7 @@ class VEXA : public QMainWindow {
 
  private:
   void BuildPanels();
+  QWidget* BuildResults();
   void ConnectCommands();
   void ConnectSequence();
   void StartController();
