@@ -5,7 +5,10 @@
 
 #include "instrument/h8_reply.h"
 #include "measurement/reflectance.h"
+#include "support/silent_messages.h"
 #include "support/ten_slots.h"
+#include "views/colour/background_picture.h"
+#include "views/graph/main_views.h"
 #include "views/graph/reflectance_graph.h"
 
 namespace {
@@ -54,5 +57,53 @@ void LastByteToRedrawnGraph(benchmark::State& state) {
   }
 }
 BENCHMARK(LastByteToRedrawnGraph)->Unit(benchmark::kMillisecond);
+
+// Ten slots in all seven views.
+struct ShownViews {
+  ShownViews() {
+    vexa::bench::FillSlots(data);
+    std::ranges::fill(data.reference.Values(), 900.0);
+    std::ranges::fill(data.filmIndex.Values(), 1.5);
+    views.resize(766, 760);
+    views.show();
+    Show(0);
+  }
+
+  void Show(int view) {
+    data.display.view = static_cast<std::int16_t>(view);
+    views.Show(1);
+    QApplication::processEvents();
+  }
+
+  vexa::VEXATYPE data;
+  vexa::bench::SilentMessages messages;
+  vexa::WindowFileDialogs dialogs;
+  vexa::MainViews views{data, messages, dialogs,
+                        std::make_shared<vexa::BackgroundPicture>(messages)};
+};
+
+// One frame of a moving cursor: its line, and the readout of ten slots.
+void MoveCursorOverTenSlots(benchmark::State& state) {
+  ShownViews shown;
+  int nm = 440;
+  while (state.KeepRunning()) {
+    nm = nm == 840 ? 440 : nm + 1;
+    shown.views.MoveCursor(nm);
+    QApplication::processEvents();
+  }
+}
+BENCHMARK(MoveCursorOverTenSlots)->Unit(benchmark::kMillisecond);
+
+// From the painted reflectance graph to the painted view of this number.
+void SwitchToView(benchmark::State& state) {
+  ShownViews shown;
+  while (state.KeepRunning()) {
+    state.PauseTiming();
+    shown.Show(0);
+    state.ResumeTiming();
+    shown.Show(static_cast<int>(state.range(0)));
+  }
+}
+BENCHMARK(SwitchToView)->DenseRange(1, 6)->Unit(benchmark::kMillisecond);
 
 }  // namespace

@@ -40,7 +40,7 @@ TEST_P(DemonstrationPath, MeasuresFiveSamplesAndLeavesAFileAndAPicture) {
   // Bare crown glass, n = 1.5185 at 550 nm: ((n - 1) / (n + 1))^2 = 4.24 %. Its noise at one line
   // is a few hundredths of a percent.
   EXPECT_NEAR(row[1].toDouble(), 4.24, 0.25);
-  EXPECT_EQ(QImage(directory.filePath(QStringLiteral("window.png"))).size(), QSize(1280, 800));
+  EXPECT_EQ(QImage(directory.filePath(QStringLiteral("window.png"))).size(), QSize(1280, 900));
   EXPECT_FALSE(QFileInfo(directory.filePath(QStringLiteral("com5"))).isSymLink());
 }
 
