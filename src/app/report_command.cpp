@@ -27,7 +27,9 @@ void ComputeThicknesses(VEXATYPE& state, MessageService& messages) {
 }  // namespace
 
 int RunReport(const ReportCommand& command, const QString& programDirectory) {
-  if (QFileInfo(command.pdfFile) == QFileInfo(command.dataFile)) {
+  // Two files that do not exist would count as the same.
+  const QFileInfo pdf(command.pdfFile);
+  if (pdf.exists() && pdf == QFileInfo(command.dataFile)) {
     Complain(QStringLiteral("%1: is the data file itself").arg(command.pdfFile));
     return 1;
   }
