@@ -33,7 +33,7 @@ constexpr double kLargestGrowthKiB = 2048.0;
 constexpr double kTruthPercent = 4.0;
 constexpr double kTolerancePercent = 0.05;
 
-enum class Outcome { kGood, kSaturated, kFailed, kGoodOrFailed };
+enum class Outcome { kGood, kSaturated, kFailed, kUnplugged, kGoodOrFailed };
 
 struct FaultKind {
   const char* name;
@@ -45,7 +45,7 @@ struct FaultKind {
 // is not told from a moved one, so that a refusal is tried where it is noticed; byte by byte the
 // data would come later than the reply is awaited here.
 const FaultKind kFaults[] = {{"error-reply", {2}, Outcome::kFailed},
-                             {"unplug", {1, 2, 3}, Outcome::kFailed},
+                             {"unplug", {1, 2, 3}, Outcome::kUnplugged},
                              {"saturation", {3}, Outcome::kSaturated},
                              {"short-line", {3}, Outcome::kFailed},
                              {"noise-before", {1, 2, 3, 4}, Outcome::kGoodOrFailed},
@@ -132,11 +132,15 @@ class Soak {
                        IsExpected(fault == nullptr ? Outcome::kGood : fault->outcome, *status) &&
                        IsConsistent(*status, *state_.Slot(slot), before);
     if (!right) {
-      std::fprintf(stderr, "soak: measurement %d, fault %s: status %d, %d messages, %d beeps\n",
-                   number, fault == nullptr ? "none" : fault->name, status.value_or(-99),
+      std::fprintf(stderr,
+                   "soak: measurement %d, fault %s, last %s: status %d, %d messages, %d beeps\n",
+                   number, fault == nullptr ? "none" : fault->name, last_, status.value_or(-99),
                    messages_.shown, messages_.beeps);
     }
-    WaitForPort();
+    last_ = fault == nullptr ? last_ : fault->name;
+    if (fault != nullptr && fault->outcome == Outcome::kUnplugged) {
+      WaitForLine("ready ");
+    }
     return right;
   }
 
@@ -152,11 +156,7 @@ class Soak {
     instrument_.readAll();
     instrument_.write(QByteArray("fault ") + fault.name + " +" + QByteArray::number(command) +
                       '\n');
-    QByteArray line;
-    while (!line.startsWith("fault at ") &&
-           (instrument_.canReadLine() || instrument_.waitForReadyRead(kPatienceMs))) {
-      line = instrument_.readLine();
-    }
+    WaitForLine("fault at ");
   }
 
   static bool IsExpected(Outcome outcome, vexa::Status status) {
@@ -166,6 +166,7 @@ class Soak {
       case Outcome::kSaturated:
         return status == 1;
       case Outcome::kFailed:
+      case Outcome::kUnplugged:
         return status < 0;
       case Outcome::kGoodOrFailed:
         return status <= 0;
@@ -182,16 +183,16 @@ class Soak {
            messages_.shown == 1 && messages_.beeps == (status == 1 ? 1 : 0);
   }
 
-  void WaitForPort() const {
-    QElapsedTimer timer;
-    timer.start();
-    while (!QFile::exists(directory_.filePath(QStringLiteral("com5"))) &&
-           timer.elapsed() < kPatienceMs) {
-      ::usleep(1000);
+  void WaitForLine(QByteArrayView beginning) {
+    QByteArray line;
+    while (!line.startsWith(beginning) &&
+           (instrument_.canReadLine() || instrument_.waitForReadyRead(kPatienceMs))) {
+      line = instrument_.readLine();
     }
   }
 
   std::mt19937 random_;
+  const char* last_ = "none";  ///< fault that struck before
   QTemporaryDir directory_;
   QProcess instrument_;
   vexa::VEXATYPE state_;

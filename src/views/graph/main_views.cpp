@@ -24,7 +24,7 @@ constexpr QStringView kLightPattern = u"###0.0";
 }  // namespace
 
 MainViews::MainViews(VEXATYPE& state, MessageService& messages, FileDialogs& dialogs,
-                     std::shared_ptr<BackgroundPicture> picture, QWidget* parent)
+                     const std::shared_ptr<BackgroundPicture>& picture, QWidget* parent)
     : QWidget(parent),
       state_(state),
       messages_(messages),

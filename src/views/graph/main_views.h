@@ -26,7 +26,7 @@ class MainViews : public QWidget {
 
  public:
   MainViews(VEXATYPE& state, MessageService& messages, FileDialogs& dialogs,
-            std::shared_ptr<BackgroundPicture> picture, QWidget* parent = nullptr);
+            const std::shared_ptr<BackgroundPicture>& picture, QWidget* parent = nullptr);
 
   /// Brings the view that the display settings name to the front and up to date; an unknown number
   /// shows the reflectance graph.

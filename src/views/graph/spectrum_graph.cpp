@@ -14,6 +14,8 @@ namespace {
 
 constexpr int kLegendColumns = 5;
 constexpr int kMarkerSpacingNm = 40;
+// No end of a wide view in 1/λ lies farther.
+constexpr double kLongestNm = 2000.0;
 const QString kWavelengthLabel = QStringLiteral("波長 [nm]");
 const QString kCursorLayer = QStringLiteral("cursor");
 
@@ -139,17 +141,19 @@ void SpectrumGraph::ScaleAbscissa() {
 
 // The upper axis of the reciprocal view bears wavelengths, unevenly as they lie.
 void SpectrumGraph::TickWavelengths() {
-  constexpr double kMostTicks = 12.0;
-  constexpr double kLongestNm = 2000.0;
+  constexpr int kMostTicks = 12;
   const QCPRange range = xAxis->range();
-  const double first = WavelengthAt(abscissa_, std::max(range.upper, 1e-3));
-  const double last = std::min(WavelengthAt(abscissa_, std::max(range.lower, 1e-3)), kLongestNm);
-  double interval = 1.0;
-  for (const double step : {2.0, 5.0, 10.0, 20.0, 50.0, 100.0, 200.0}) {
+  const auto wavelength = [this](double place) {
+    return std::min(WavelengthAt(abscissa_, std::max(place, 1e-3)), kLongestNm);
+  };
+  const int first = static_cast<int>(std::ceil(wavelength(range.upper)));
+  const int last = static_cast<int>(wavelength(range.lower));
+  int interval = 1;
+  for (const int step : {2, 5, 10, 20, 50, 100, 200}) {
     interval = (last - first) / interval > kMostTicks ? step : interval;
   }
   auto ticker = QSharedPointer<QCPAxisTickerText>::create();
-  for (double nm = std::ceil(first / interval) * interval; nm <= last; nm += interval) {
+  for (int nm = (first + interval - 1) / interval * interval; nm <= last; nm += interval) {
     ticker->addTick(AbscissaOf(abscissa_, nm), QString::number(nm));
   }
   xAxis2->setTicker(ticker);
