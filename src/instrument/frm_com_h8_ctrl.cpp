@@ -240,8 +240,9 @@ Status frmComH8Ctrl::SendFrame(const QString& hexText) {
   if (!H8Comm_.isOpen() || waiting_ != nullptr) {
     return 1;
   }
-  // What came late from an earlier exchange must not answer this one.
-  H8Comm_.readAll();
+  // What came late from an earlier exchange must not answer this one, whether it is read already or
+  // still lies in the system's buffer.
+  H8Comm_.clear(QSerialPort::Input);
   ForgetReply();
   if (H8Comm_.write(*frame) != frame->size()) {
     return 1;
