@@ -54,6 +54,7 @@ def start_seconds(command, title, env, directory, starts):
         process, needed = start(command, title, env, directory)
         seconds.append(needed)
         stop(process)
+        time.sleep(0.5)  # the instrument has to see that its port was closed
     return sorted(seconds[1:])
 
 
