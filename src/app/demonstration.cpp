@@ -100,6 +100,7 @@ int Demonstration::Drive(VEXA& window) {
   for (const QString& name : buttons) {
     window.findChild<QPushButton*>(name)->click();
   }
+  window.findChild<QPushButton*>(QStringLiteral("ThicknessButton"))->click();
   window.Commands().saveFileAs->trigger();
   const QString picture = QDir(directory_).filePath(QStringLiteral("window.png"));
   while (window.findChild<ColourPanel*>()->Picture()->IsBuilding()) {

@@ -38,7 +38,6 @@ int Gallery::Take(VEXA& window) {
     Fail(directory_.path());
     return missing_;
   }
-  Press(window, "ThicknessButton");
   TakeViews(window);
   TakeDialogs(window);
   TakeWindows(window);

@@ -124,13 +124,13 @@ void MeasurementSequence::StoreSample(int slotNumber) {
   slot.reflectance =
       ComputeReflectance(state_.sample, state_.background, state_.reference,
                          state_.instrument.calibrationShiftNm, state_.referenceReflectance);
+  EvaluateSlot(state_, slot, messages_);
   slot.info.measuredAt = clock_();
   slot.thickness = {};
-  slot.valid = true;
-  emit FrameKept(MeasurementKind::kSample, slotNumber);
-  EvaluateSlot(state_, slot, messages_);
   const bool thicknessMeasured = state_.autoThickness && state_.thickness.enabled &&
                                  ComputeSlotThickness(state_, slot, messages_) == 0;
+  slot.valid = true;
+  emit FrameKept(MeasurementKind::kSample, slotNumber);
   emit SampleStored(slotNumber);
   if (thicknessMeasured) {
     emit ThicknessMeasured(slot.thickness);

@@ -47,8 +47,7 @@ class MeasurementSequence : public QObject {
   /// `slot` is 0 for a background and a reference.
   void Began(vexa::MeasurementKind kind, int slot);
   void Ended(vexa::MeasurementKind kind, int slot);
-  /// A frame has come into the state: the background, the reference, or the spectrum and the date
-  /// of the slot, whose evaluation, with its messages, is still to come.
+  /// A frame has come into the state: the background, the reference, or the evaluated slot.
   void FrameKept(vexa::MeasurementKind kind, int slot);
   /// A sample was measured into the slot and evaluated.
   void SampleStored(int slot);
