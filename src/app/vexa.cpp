@@ -107,7 +107,6 @@ void VEXA::closeEvent(QCloseEvent* event) {
 }
 
 void VEXA::BuildPanels() {
-  setWindowTitle(QStringLiteral("MERIDOX VEXA-KT"));
   commands_ = BuildMenu(*menuBar());
   bar_ = new MeasurementBar;
   progress_ = new ProgressStrip;

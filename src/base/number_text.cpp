@@ -136,10 +136,11 @@ struct Scan {
 // here.
 Scan ScanNumber(QStringView view) {
   // A character beyond ASCII ends a number like any other letter.
-  QVarLengthArray<char, 64> text;
-  for (const QChar c : view.trimmed()) {
-    text.append(c.unicode() < 0x80 ? static_cast<char>(c.unicode()) : '?');
-  }
+  const QStringView trimmed = view.trimmed();
+  QVarLengthArray<char, 64> text(trimmed.size());
+  std::ranges::transform(trimmed, text.begin(), [](QChar c) {
+    return c.unicode() < 0x80 ? static_cast<char>(c.unicode()) : '?';
+  });
   const char* begin = text.data();
   const char* const end = begin + text.size();
   const bool plus = begin != end && *begin == '+';

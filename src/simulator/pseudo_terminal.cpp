@@ -4,6 +4,7 @@
 #include <fcntl.h>
 #include <stdlib.h>
 #include <sys/inotify.h>
+#include <sys/ioctl.h>
 #include <termios.h>
 #include <unistd.h>
 
@@ -59,6 +60,9 @@ bool PseudoTerminal::IsVisited() {
     visitors_ = (event.mask & IN_OPEN) != 0 ? visitors_ + 1 : std::max(visitors_ - 1, 0);
     if (visitors_ == 0) {
       DiscardUnread();
+      // Our own descriptor keeps the device open, and with it the claim of a visitor that was
+      // killed.
+      ::ioctl(device_, TIOCNXCL);
     }
   }
   return visits_ < 0 || visitors_ > 0;

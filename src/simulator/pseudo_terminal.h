@@ -29,7 +29,8 @@ class PseudoTerminal {
   [[nodiscard]] int VisitDescriptor() const { return visits_; }
 
   /// Whether a program has the other end open, as of now; true when the system cannot tell. When
-  /// the last one has closed it, what it left unread is thrown away.
+  /// the last one has closed it, what it left unread is thrown away, and it is free for anybody
+  /// again.
   [[nodiscard]] bool IsVisited();
 
   /// The bytes that have arrived; empty when there are none.

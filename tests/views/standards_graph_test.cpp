@@ -22,7 +22,7 @@ class GraphWithBand : public testing::Test {
   GraphWithBand() {
     state.Slot(1)->valid = true;
     state.Slot(1)->reflectance[550] = 1.0;
-    graph.resize(600, 400);
+    graph.setViewport({0, 0, 600, 400});
   }
 
   // Whether a mid-height pixel at the middle of the wavelengths is paper.

@@ -8,7 +8,6 @@
 
 #include "standards/tolerance_region.h"
 #include "views/colour/colour_texts.h"
-#include "views/common/plot_style.h"
 #include "views/common/theme.h"
 
 namespace vexa {
@@ -17,6 +16,7 @@ namespace {
 constexpr QMargins kMargins(30, 10, 16, 24);
 constexpr QColor kGridColour(200, 200, 200);
 constexpr QColor kLimitColour(0xc2, 0x3b, 0x22);
+const QString kPictureLayer = QStringLiteral("picture");
 constexpr int kSmallPixels = 10;
 constexpr int kGridSteps = 8;
 constexpr double kPi = 3.141592654;
@@ -127,11 +127,12 @@ void SetPoints(QCPGraph& graph, const ColourStock& stock, int first, int end) {
 
 ChromaticityDiagram::ChromaticityDiagram(std::shared_ptr<BackgroundPicture> picture,
                                          QWidget* parent)
-    : QCustomPlot(parent), picture_(std::move(picture)) {
+    : Plot(parent), picture_(std::move(picture)) {
   setObjectName(QStringLiteral("ChromaticityDiagram"));
-  ApplyPlotStyle(*this);
+  setPlottingHint(QCP::phFastPolylines);
   axisRect()->setAutoMargins(QCP::msNone);
-  addLayer(QStringLiteral("picture"), layer(QStringLiteral("grid")), limAbove);
+  addLayer(kPictureLayer, layer(QStringLiteral("grid")), limAbove);
+  layer(kPictureLayer)->setMode(QCPLayer::lmBuffered);  // grows while the rest stays as it is
   addLayer(QStringLiteral("texts"), layer(QStringLiteral("main")), limAbove);
   addLayer(QStringLiteral("marks"), layer(QStringLiteral("axes")), limAbove);
   for (QCPAxis* axis : {xAxis, yAxis, xAxis2, yAxis2}) {
@@ -142,7 +143,7 @@ ChromaticityDiagram::ChromaticityDiagram(std::shared_ptr<BackgroundPicture> pict
   }
 
   background_ = new QCPItemPixmap(this);
-  background_->setLayer(QStringLiteral("picture"));
+  background_->setLayer(kPictureLayer);
   background_->setScaled(true, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
   const double half = DiagramBackground::kPitch / 2.0;
   background_->topLeft->setCoords(-half, BackgroundPicture::kEnd + half);
@@ -215,17 +216,17 @@ void ChromaticityDiagram::resizeEvent(QResizeEvent* event) {
   const int above = std::max(0, (room.height() - side) / 2);
   axisRect()->setMargins(kMargins + QMargins(besides, above, room.width() - side - besides,
                                              room.height() - side - above));
-  QCustomPlot::resizeEvent(event);
+  Plot::resizeEvent(event);
 }
 
 void ChromaticityDiagram::showEvent(QShowEvent* event) {
-  QCustomPlot::showEvent(event);
+  Plot::showEvent(event);
   RequestPicture();
 }
 
 void ChromaticityDiagram::mousePressEvent(QMouseEvent* event) {
   picture_->RequestAbort();
-  QCustomPlot::mousePressEvent(event);
+  Plot::mousePressEvent(event);
 }
 
 void ChromaticityDiagram::ShowFrame(const StockConditions& conditions, const VEXATYPE& state) {
@@ -325,7 +326,7 @@ void ChromaticityDiagram::AddHueLine(double degrees, const QPen& pen) {
 
 void ChromaticityDiagram::DrawPicture() {
   background_->setPixmap(QPixmap::fromImage(picture_->Image()));
-  replot(rpQueuedReplot);
+  RepaintLayer(kPictureLayer);
 }
 
 void ChromaticityDiagram::RequestPicture() {

@@ -1,8 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include <qcustomplot.h>
-
 #include <memory>
 #include <vector>
 
@@ -10,13 +8,14 @@
 #include "measurement/vexatype.h"
 #include "views/colour/background_picture.h"
 #include "views/colour/diagram_marks.h"
+#include "views/common/plot.h"
 
 namespace vexa {
 
 /// A chromaticity diagram: the xy diagram from 0 to 0.8 with its coloured background, or the a*b*
 /// plane with the tolerances of the standards. The axes always form a square. Esc in its window or
 /// a click on it, while the background is built, asks whether to stop that.
-class ChromaticityDiagram : public QCustomPlot {
+class ChromaticityDiagram : public Plot {
   Q_OBJECT
 
  public:

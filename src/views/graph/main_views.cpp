@@ -3,6 +3,8 @@
 
 #include <QStackedWidget>
 #include <QVBoxLayout>
+#include <algorithm>
+#include <utility>
 
 #include "standards/reflectance_band.h"
 #include "views/colour/chromaticity_diagram.h"
@@ -24,24 +26,15 @@ constexpr QStringView kLightPattern = u"###0.0";
 }  // namespace
 
 MainViews::MainViews(VEXATYPE& state, MessageService& messages, FileDialogs& dialogs,
-                     const std::shared_ptr<BackgroundPicture>& picture, QWidget* parent)
+                     std::shared_ptr<BackgroundPicture> picture, QWidget* parent)
     : QWidget(parent),
       state_(state),
       messages_(messages),
       dialogs_(dialogs),
+      picture_(std::move(picture)),
       stack_(new QStackedWidget),
       strip_(new CursorStrip) {
   stack_->setFrameShape(QFrame::StyledPanel);
-  views_ = {ReflectanceView(false),
-            TableView(QStringLiteral("ReflectanceTable"), false),
-            GraphView(new IndexGraph, kIndexPattern),
-            GraphView(new LightGraph, kLightPattern),
-            TableView(QStringLiteral("LightTable"), true),
-            DiagramView(picture),
-            ReflectanceView(true)};
-  for (const View& view : views_) {
-    stack_->addWidget(view.widget);
-  }
   connect(strip_, &CursorStrip::StepRequested, this,
           [this](int by) { MoveCursor(cursorNm_ + by); });
   auto* layout = new QVBoxLayout(this);
@@ -54,7 +47,11 @@ MainViews::MainViews(VEXATYPE& state, MessageService& messages, FileDialogs& dia
 void MainViews::Show(int selectedSlot) {
   const auto named = static_cast<std::size_t>(std::max<int>(state_.display.view, 0));
   current_ = named < views_.size() ? named : 0;
-  const View& view = views_[current_];
+  View& view = views_[current_];
+  if (view.widget == nullptr) {
+    view = BuildView(current_);
+    stack_->addWidget(view.widget);
+  }
   view.show(selectedSlot);
   if (view.graph != nullptr) {
     view.graph->MoveCursor(cursorNm_);
@@ -66,6 +63,25 @@ void MainViews::Show(int selectedSlot) {
 void MainViews::MoveCursor(int nm) {
   if (SpectrumGraph* graph = views_[current_].graph) {
     graph->MoveCursor(nm);
+  }
+}
+
+MainViews::View MainViews::BuildView(std::size_t number) {
+  switch (number) {
+    case 1:
+      return TableView(QStringLiteral("ReflectanceTable"), false);
+    case 2:
+      return GraphView(new IndexGraph, kIndexPattern);
+    case 3:
+      return GraphView(new LightGraph, kLightPattern);
+    case 4:
+      return TableView(QStringLiteral("LightTable"), true);
+    case 5:
+      return DiagramView();
+    case 6:
+      return ReflectanceView(true);
+    default:
+      return ReflectanceView(false);
   }
 }
 
@@ -98,8 +114,8 @@ MainViews::View MainViews::TableView(const QString& name, bool light) {
           }};
 }
 
-MainViews::View MainViews::DiagramView(const std::shared_ptr<BackgroundPicture>& picture) {
-  auto* diagram = new ChromaticityDiagram(picture);
+MainViews::View MainViews::DiagramView() {
+  auto* diagram = new ChromaticityDiagram(picture_);
   AddExport(*diagram, messages_, dialogs_);
   return {diagram, [this, diagram](int slot) { diagram->ShowSlots(state_, slot); }};
 }

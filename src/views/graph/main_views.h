@@ -2,9 +2,9 @@
 #pragma once
 
 #include <QWidget>
+#include <array>
 #include <functional>
 #include <memory>
-#include <vector>
 
 #include "base/message.h"
 #include "measurement/vexatype.h"
@@ -20,13 +20,13 @@ class CursorStrip;
 class SpectrumGraph;
 
 /// The seven views of the view menu in one place, one of them shown, and the cursor that all graphs
-/// over the wavelength share.
+/// over the wavelength share. A view is built when it is shown for the first time.
 class MainViews : public QWidget {
   Q_OBJECT
 
  public:
   MainViews(VEXATYPE& state, MessageService& messages, FileDialogs& dialogs,
-            const std::shared_ptr<BackgroundPicture>& picture, QWidget* parent = nullptr);
+            std::shared_ptr<BackgroundPicture> picture, QWidget* parent = nullptr);
 
   /// Brings the view that the display settings name to the front and up to date; an unknown number
   /// shows the reflectance graph.
@@ -41,25 +41,27 @@ class MainViews : public QWidget {
  private:
   /// A view, how it takes over the state, and its graph and format of values when it has a cursor.
   struct View {
-    QWidget* widget;
+    QWidget* widget = nullptr;
     std::function<void(int selectedSlot)> show;
     SpectrumGraph* graph = nullptr;
     QStringView pattern = {};
   };
 
+  View BuildView(std::size_t number);
   View GraphView(SpectrumGraph* graph, QStringView pattern);
   View ReflectanceView(bool reciprocal);
   View TableView(const QString& name, bool light);
-  View DiagramView(const std::shared_ptr<BackgroundPicture>& picture);
+  View DiagramView();
   void ShowCursor();
   void AskJump();
 
   VEXATYPE& state_;
   MessageService& messages_;
   FileDialogs& dialogs_;
+  std::shared_ptr<BackgroundPicture> picture_;
   QStackedWidget* stack_;
   CursorStrip* strip_;
-  std::vector<View> views_;
+  std::array<View, 7> views_;
   std::size_t current_ = 0;
   int cursorNm_ = 550;
 };

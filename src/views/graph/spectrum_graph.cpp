@@ -5,7 +5,6 @@
 #include <cmath>
 
 #include "views/common/axis_scale.h"
-#include "views/common/plot_style.h"
 #include "views/common/theme.h"
 #include "views/graph/plot_navigation.h"
 
@@ -17,7 +16,7 @@ constexpr int kMarkerSpacingNm = 40;
 // No end of a wide view in 1/λ lies farther.
 constexpr double kLongestNm = 2000.0;
 const QString kWavelengthLabel = QStringLiteral("波長 [nm]");
-const QString kCursorLayer = QStringLiteral("cursor");
+const QString kCursorLayer = QStringLiteral("overlay");
 
 QVector<QCPGraphData> Points(const ReflectanceSpectrum& values, Abscissa abscissa) {
   QVector<QCPGraphData> points;
@@ -34,15 +33,14 @@ QVector<QCPGraphData> Points(const ReflectanceSpectrum& values, Abscissa absciss
 }  // namespace
 
 SpectrumGraph::SpectrumGraph(Abscissa abscissa, const QString& ordinateLabel, QWidget* parent)
-    : QCustomPlot(parent), abscissa_(abscissa) {
+    : Plot(parent), abscissa_(abscissa) {
   setFocusPolicy(Qt::StrongFocus);
-  ApplyPlotStyle(*this);
   xAxis->setLabel(abscissa == Abscissa::kWavelength ? kWavelengthLabel
                                                     : QStringLiteral("1/λ [1/µm]"));
   yAxis->setLabel(ordinateLabel);
   // Wide antialiased lines are drawn many times faster piece by piece.
   setPlottingHint(QCP::phFastPolylines);
-  PlaceLegendAbove(*this, kLegendColumns);
+  PlaceLegendAbove(kLegendColumns);
   if (abscissa == Abscissa::kReciprocal) {
     xAxis2->setLabel(kWavelengthLabel);
     xAxis2->setTickLabels(true);
@@ -70,15 +68,19 @@ SpectrumGraph::SpectrumGraph(Abscissa abscissa, const QString& ordinateLabel, QW
   });
 }
 
-// On a buffered layer of its own: a moved cursor leaves the curves as they are painted.
+// On the plot's buffered layer: a moved cursor leaves the curves as they are painted.
 void SpectrumGraph::BuildCursor() {
-  addLayer(kCursorLayer);
-  layer(kCursorLayer)->setMode(QCPLayer::lmBuffered);
   cursor_ = new QCPItemStraightLine(this);
   cursor_->setLayer(kCursorLayer);
   cursor_->setPen(QPen(theme::kAccent, 1.0));
   cursor_->setSelectable(false);
-  MoveCursor(cursorNm_);
+  PlaceCursor();
+}
+
+void SpectrumGraph::PlaceCursor() {
+  const double place = AbscissaOf(abscissa_, cursorNm_);
+  cursor_->point1->setCoords(place, 0.0);
+  cursor_->point2->setCoords(place, 1.0);
 }
 
 void SpectrumGraph::ShowCurves(std::vector<SpectrumCurve> curves, const DisplaySettings& display) {
@@ -119,10 +121,8 @@ void SpectrumGraph::RefreshFullView() {
 
 void SpectrumGraph::MoveCursor(int nm) {
   cursorNm_ = std::clamp(nm, ReflectanceSpectrum::kFirstNm, ReflectanceSpectrum::kLastNm);
-  const double place = AbscissaOf(abscissa_, cursorNm_);
-  cursor_->point1->setCoords(place, 0.0);
-  cursor_->point2->setCoords(place, 1.0);
-  layer(kCursorLayer)->replot();
+  PlaceCursor();
+  RepaintLayer(kCursorLayer);
   emit CursorMoved(cursorNm_);
 }
 
@@ -161,7 +161,7 @@ void SpectrumGraph::TickWavelengths() {
 
 void SpectrumGraph::keyPressEvent(QKeyEvent* event) {
   if (event->key() != Qt::Key_Left && event->key() != Qt::Key_Right) {
-    return QCustomPlot::keyPressEvent(event);
+    return Plot::keyPressEvent(event);
   }
   // Right is to the right, also where the wavelengths fall.
   const bool up = (event->key() == Qt::Key_Right) == (abscissa_ == Abscissa::kWavelength);

@@ -1,11 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include <qcustomplot.h>
-
 #include <vector>
 
 #include "measurement/vexatype.h"
+#include "views/common/plot.h"
 #include "views/graph/abscissa.h"
 #include "views/graph/spectrum_curves.h"
 
@@ -15,7 +14,7 @@ namespace vexa {
 /// nanometre. What is drawn, and its scale, is the matter of the derived graphs. PlotNavigation
 /// zooms and moves; a changed view stays until it is left. A click, Left and Right move the cursor;
 /// "J" or the context menu asks for a jump.
-class SpectrumGraph : public QCustomPlot {
+class SpectrumGraph : public Plot {
   Q_OBJECT
 
  public:
@@ -49,6 +48,7 @@ class SpectrumGraph : public QCustomPlot {
 
  private:
   void BuildCursor();
+  void PlaceCursor();
   void LeaveFullView();
   void ScaleAbscissa();
   void TickWavelengths();

@@ -2,7 +2,6 @@
 #include "views/optics/history_plot.h"
 
 #include "optics/thickness.h"
-#include "views/common/plot_style.h"
 #include "views/common/theme.h"
 
 namespace vexa {
@@ -13,9 +12,8 @@ constexpr int kPointStep = 10;  // the axis grows by so many points
 }  // namespace
 
 HistoryPlot::HistoryPlot(QWidget* parent)
-    : QCustomPlot(parent), line_(addGraph()), cursorLine_(new QCPItemStraightLine(this)) {
+    : Plot(parent), line_(addGraph()), cursorLine_(new QCPItemStraightLine(this)) {
   setObjectName(QStringLiteral("HistoryPlot"));
-  ApplyPlotStyle(*this);
   xAxis->setLabel(QStringLiteral("ﾃﾞｰﾀｲﾝﾃﾞｯｸｽ"));
   xAxis->setSubTicks(false);
   yAxis->setNumberFormat(QStringLiteral("f"));

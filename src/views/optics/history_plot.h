@@ -1,14 +1,13 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include <qcustomplot.h>
-
 #include "optics/thickness_history.h"
+#include "views/common/plot.h"
 
 namespace vexa {
 
 /// The thicknesses of a history over their point numbers.
-class HistoryPlot : public QCustomPlot {
+class HistoryPlot : public Plot {
   Q_OBJECT
 
  public:
