@@ -4,6 +4,7 @@
 #include <poll.h>
 #include <signal.h>
 #include <stdlib.h>
+#include <sys/ioctl.h>
 #include <unistd.h>
 
 #include <QDir>
@@ -19,11 +20,17 @@ using namespace Qt::StringLiterals;
 
 constexpr int kPatienceMs = 10000;
 
-/// The other end of the link, opened as a serial port would be.
+/// The other end of the link, opened as a serial port would be: for this program alone, until the
+/// end, however that comes.
 class Port {
  public:
   explicit Port(const QString& path)
-      : descriptor_(::open(QFile::encodeName(path).constData(), O_RDWR | O_NOCTTY)) {}
+      : descriptor_(::open(QFile::encodeName(path).constData(), O_RDWR | O_NOCTTY)) {
+    int claimed = 0;
+    ::ioctl(descriptor_, TIOCGEXCL, &claimed);
+    EXPECT_EQ(claimed, 0) << "a user without privileges could not have opened it";
+    ::ioctl(descriptor_, TIOCEXCL);
+  }
   Port(const Port&) = delete;
   Port& operator=(const Port&) = delete;
   ~Port() { ::close(descriptor_); }
