@@ -3,8 +3,7 @@
 include(GNUInstallDirs)
 
 install(TARGETS vexa-cli vexa-simulator)
-# The virtual control box stays away from the places where the program looks for the real one.
-install(TARGETS U2GPLIB LIBRARY DESTINATION ${CMAKE_INSTALL_LIBDIR}/vexa)
+install(TARGETS U2GPLIB LIBRARY DESTINATION lib/vexa)
 install(FILES share/man/vexa-cli.1 share/man/vexa-simulator.1 DESTINATION ${CMAKE_INSTALL_MANDIR}/man1)
 install(FILES README.md CHANGELOG.md share/packaging/copyright DESTINATION ${CMAKE_INSTALL_DOCDIR})
 install(FILES LICENSE share/packaging/60-vexa-adapter.rules DESTINATION ${CMAKE_INSTALL_DOCDIR})

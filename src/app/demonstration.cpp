@@ -4,6 +4,7 @@
 #include <QApplication>
 #include <QDir>
 #include <QFile>
+#include <QFileInfo>
 #include <QPixmap>
 #include <QPushButton>
 
@@ -19,10 +20,14 @@ namespace {
 
 constexpr int kStartTimeoutMs = 10000;
 constexpr int kSamples = 5;
-constexpr const char* kLibrary = "libU2GPLIB.so";
+// Both as built and as installed.
+constexpr const char* kSimulator = "vexa-simulator";
+constexpr const char* kLibrary = "../lib/vexa/libU2GPLIB.so";
 
-QString ProgramFile(const char* name) {
-  return QDir(QCoreApplication::applicationDirPath()).filePath(QLatin1String(name));
+// A place named as seen from the program's own directory.
+QString BesideProgram(const char* path) {
+  return QDir::cleanPath(
+      QDir(QCoreApplication::applicationDirPath()).filePath(QLatin1String(path)));
 }
 
 // What the hard coats of the virtual instrument meet, and its antireflection coats do not.
@@ -77,19 +82,19 @@ bool Demonstration::StartInstrument() {
 
 bool Demonstration::StartProcess() {
   instrument_.setProcessChannelMode(QProcess::ForwardedErrorChannel);
-  instrument_.start(
-      ProgramFile("vexa-simulator"),
-      {QStringLiteral("--dir"), directory_, QStringLiteral("--pace"), QStringLiteral("none")});
+  instrument_.start(BesideProgram(kSimulator), {QStringLiteral("--dir"), directory_,
+                                                QStringLiteral("--pace"), QStringLiteral("none")});
   return instrument_.waitForReadyRead(kStartTimeoutMs) &&
          instrument_.readLine().startsWith("ready ");
 }
 
 // The program finds it there by itself, as it would find the interface's own.
 bool Demonstration::PlaceLibrary() {
-  const QString place = QDir(directory_).filePath(QLatin1String(kLibrary));
+  const QString library = BesideProgram(kLibrary);
+  const QString place = QDir(directory_).filePath(QFileInfo(library).fileName());
   QFile::remove(place);
   qputenv("U2GPLIB_OPTIONS", "--pace none");
-  return QFile::link(ProgramFile(kLibrary), place);
+  return QFileInfo::exists(library) && QFile::link(library, place);
 }
 
 int Demonstration::Drive(VEXA& window) {

@@ -16,7 +16,7 @@ using test::Words;
 
 class OverGpib : public test::WithInstrument {
  protected:
-  void SetUp() override { Place(QStringLiteral(VEXA_BIN_DIR "/libU2GPLIB.so")); }
+  void SetUp() override { Place(QStringLiteral(VEXA_CONTROL_BOX)); }
   void Place(const QString& library) const {
     QFile::remove(File("libU2GPLIB.so"));
     ASSERT_TRUE(QFile::link(library, File("libU2GPLIB.so")));

@@ -31,7 +31,7 @@ class ControlBox : public testing::Test {
   // What the sensor sees at 555 nm, asked of the library itself: pixel 363 of the line.
   static int LookThrough(const char* before = nullptr) {
     GpLibrary gp;
-    EXPECT_EQ(BindGpLibrary(QStringLiteral(VEXA_BIN_DIR), gp), QString());
+    EXPECT_EQ(BindGpLibrary(QStringLiteral(VEXA_LIBRARY_DIR), gp), QString());
     if (before != nullptr) {
       EXPECT_EQ(gp.gp_wrt(1, before), 0);
     }
@@ -61,7 +61,7 @@ TEST_F(ControlBox, AfterEveryFailureTheLightIsAtRestAndTheNextFrameIsRight) {
   for (const char* fault : faults) {
     SCOPED_TRACE(fault);
     SetOptions(QByteArray("--pace none --call-fault ") + fault);
-    GpibControlBox box(QStringLiteral(VEXA_BIN_DIR), messages);
+    GpibControlBox box(QStringLiteral(VEXA_LIBRARY_DIR), messages);
     ASSERT_EQ(box.Initialise(0), 0);
     ASSERT_EQ(box.SetSampling(kSamplingMs, 1), 0);
     EXPECT_LT(Acquire(LightFlag::kBackground, box), 0);
@@ -79,7 +79,7 @@ TEST_F(ControlBox, AfterEveryFailureTheLightIsAtRestAndTheNextFrameIsRight) {
 
 TEST_F(ControlBox, TheEventLoopRunsWhileTheBoxIsAwaited) {
   SetOptions("--pace real");
-  GpibControlBox box(QStringLiteral(VEXA_BIN_DIR), messages);
+  GpibControlBox box(QStringLiteral(VEXA_LIBRARY_DIR), messages);
   ASSERT_EQ(box.Initialise(0), 0);
   ASSERT_EQ(box.SetSampling(150, 2), 0);
   QTimer ticks;
@@ -100,7 +100,7 @@ TEST_F(ControlBox, TheEventLoopRunsWhileTheBoxIsAwaited) {
 
 TEST_F(ControlBox, ACallThatNeverComesBackIsGivenUp) {
   SetOptions("--pace none --call-fault gp_trg=hang");
-  GpibControlBox box(QStringLiteral(VEXA_BIN_DIR), messages, 200);
+  GpibControlBox box(QStringLiteral(VEXA_LIBRARY_DIR), messages, 200);
   ASSERT_EQ(box.Initialise(0), 0);
   const ShownMessage overdue{"VEXA-KT ｴﾗｰ: GP-IB通信でﾀｲﾑｱｳﾄ･ｴﾗｰ発生しました。(gp_trg 502)", 16};
   EXPECT_EQ(Acquire(LightFlag::kSample, box), -502);
@@ -110,7 +110,7 @@ TEST_F(ControlBox, ACallThatNeverComesBackIsGivenUp) {
 
 TEST_F(ControlBox, ClosingEndsAWaitWithoutAMessage) {
   SetOptions("--pace none --call-fault gp_wsrq=hang");
-  GpibControlBox box(QStringLiteral(VEXA_BIN_DIR), messages);
+  GpibControlBox box(QStringLiteral(VEXA_LIBRARY_DIR), messages);
   QTimer::singleShot(20, &box, &GpibControlBox::Close);
   EXPECT_EQ(box.Initialise(0), GpibControlBox::kClosed);
   EXPECT_TRUE(messages.Take().empty());
