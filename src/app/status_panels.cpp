@@ -3,9 +3,7 @@
 
 #include <QHBoxLayout>
 #include <QPainter>
-#include <cmath>
 
-#include "base/number_text.h"
 #include "views/common/theme.h"
 
 namespace vexa {
@@ -15,21 +13,6 @@ constexpr int kEnvironmentWidth = 120;
 constexpr int kVerdictWidth = 150;
 constexpr int kMarkSize = 16;
 constexpr QColor kGoodPaper{0xe3, 0xf3, 0xe8};
-
-/// Unit and format of a group's margin.
-struct MarginText {
-  QString unit;
-  QString pattern;
-};
-
-const std::array<MarginText, kStandardGroupCount> kMarginTexts{{
-    {QStringLiteral(" %"), QStringLiteral("0.000#")},
-    {QStringLiteral(" %"), QStringLiteral("0.000#")},
-    {QStringLiteral(" %"), QStringLiteral("0.000#")},
-    {QStringLiteral(" nm"), QStringLiteral("0.###")},
-    {QString(), QStringLiteral("0.00##")},
-    {QStringLiteral("°"), QStringLiteral("0.00##")},
-}};
 
 QString PanelStyle(const QColor& paper, const QColor& border, const QColor& text, bool bold) {
   return QStringLiteral(
@@ -70,14 +53,8 @@ QString Tip(const Judgement& judgement, std::size_t group) {
     return *verdict.passed ? QStringLiteral("限界と比べる値がありません。")
                            : QStringLiteral("規格が440nm-840nmの範囲で判定できません。");
   }
-  const MarginText& text = kMarginTexts[group];
-  const QString amount = FormatNumber(std::abs(*verdict.margin), text.pattern) + text.unit;
-  const QString place = group == static_cast<std::size_t>(StandardGroup::kReflectance)
-                            ? QStringLiteral(" (%1 nm)").arg(judgement.bandMarginNm)
-                            : QString();
-  return (*verdict.margin < 0.0 ? QStringLiteral("限界外: %1%2")
-                                : QStringLiteral("限界までの余裕: %1%2"))
-      .arg(amount, place);
+  return (*verdict.margin < 0.0 ? QStringLiteral("限界外: ") : QStringLiteral("限界までの余裕: ")) +
+         MarginText(judgement, group);
 }
 
 }  // namespace

@@ -1,5 +1,4 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "base/number_text.h"
 #include "cli/command_line.h"
 #include "cli/console.h"
 #include "cli/judgement_json.h"
@@ -11,23 +10,11 @@
 namespace vexa::cli {
 namespace {
 
-const std::array<QString, kStandardGroupCount> kUnits{QStringLiteral(" %"),
-                                                      QStringLiteral(" %"),
-                                                      QStringLiteral(" %"),
-                                                      QStringLiteral(" nm"),
-                                                      QString(),
-                                                      QStringLiteral("°")};
-
 void DeclareOptions(QCommandLineParser& parser) {
   parser.addPositionalArgument(QStringLiteral("FILE"),
                                QStringLiteral("A data file (*.csv or *.dat)."));
   parser.addOption({option::kStandard, QStringLiteral("The standards to judge by."),
                     QStringLiteral("FILE.std")});
-}
-
-QString SignedMargin(double margin) {
-  const QString text = FormatNumber(margin, u"0.0000");
-  return margin < 0.0 ? text : u'+' + text;
 }
 
 // The panel's text, and the distance to the nearest limit where there is one.
@@ -37,10 +24,7 @@ QString Verdict(const Judgement& judgement, std::size_t group) {
   if (!margin) {
     return text;
   }
-  const QString place = group == static_cast<std::size_t>(StandardGroup::kReflectance)
-                            ? QStringLiteral(" (%1 nm)").arg(judgement.bandMarginNm)
-                            : QString();
-  return QStringLiteral("%1 %2%3%4").arg(text, SignedMargin(*margin), kUnits[group], place);
+  return text + QLatin1String(*margin < 0.0 ? " -" : " +") + MarginText(judgement, group);
 }
 
 QString Report(const VEXATYPE& state) {

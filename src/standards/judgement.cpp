@@ -5,23 +5,32 @@
 #include <cmath>
 
 #include "base/arithmetic.h"
+#include "base/number_text.h"
 #include "standards/reflectance_band.h"
 
 namespace vexa {
 namespace {
 
-struct PanelTexts {
+struct GroupTexts {
   QString pass;
   QString fail;
+  QString marginPattern;
+  QString unit;
 };
 
-const std::array<PanelTexts, kStandardGroupCount> kPanelTexts{{
-    {QStringLiteral("反射率:OK"), QStringLiteral("反射率:NG")},
-    {QStringLiteral("平均反射率:OK"), QStringLiteral("平均反射率:NG")},
-    {QStringLiteral("視感反射率:OK"), QStringLiteral("視感反射率:NG")},
-    {QStringLiteral("波長:OK"), QStringLiteral("波長:NG")},
-    {QStringLiteral("クロマC*:OK"), QStringLiteral("クロマC*:NG")},
-    {QStringLiteral("色相角h[deg]:OK"), QStringLiteral("色相角h[deg]:NG")},
+const std::array<GroupTexts, kStandardGroupCount> kTexts{{
+    {QStringLiteral("反射率:OK"), QStringLiteral("反射率:NG"), QStringLiteral("0.000#"),
+     QStringLiteral(" %")},
+    {QStringLiteral("平均反射率:OK"), QStringLiteral("平均反射率:NG"), QStringLiteral("0.000#"),
+     QStringLiteral(" %")},
+    {QStringLiteral("視感反射率:OK"), QStringLiteral("視感反射率:NG"), QStringLiteral("0.000#"),
+     QStringLiteral(" %")},
+    {QStringLiteral("波長:OK"), QStringLiteral("波長:NG"), QStringLiteral("0.###"),
+     QStringLiteral(" nm")},
+    {QStringLiteral("クロマC*:OK"), QStringLiteral("クロマC*:NG"), QStringLiteral("0.00##"),
+     QString()},
+    {QStringLiteral("色相角h[deg]:OK"), QStringLiteral("色相角h[deg]:NG"), QStringLiteral("0.00##"),
+     QStringLiteral("°")},
 }};
 
 GroupJudgement JudgeValue(const StandardLimits& limits, double value) {
@@ -105,10 +114,22 @@ Judgement JudgeStandards(const ReflectanceSpectrum& reflectance, const ColourRes
   group(StandardGroup::kHueAngle) = JudgeHue(standard.hueAngle, colour.h);
   for (std::size_t i = 0; i < kStandardGroupCount; ++i) {
     if (const auto passed = judgement.groups[i].passed) {
-      judgement.panelTexts[i] = *passed ? kPanelTexts[i].pass : kPanelTexts[i].fail;
+      judgement.panelTexts[i] = *passed ? kTexts[i].pass : kTexts[i].fail;
     }
   }
   return judgement;
+}
+
+QString MarginText(const Judgement& judgement, std::size_t group) {
+  const std::optional<double>& margin = judgement.groups[group].margin;
+  if (!margin) {
+    return {};
+  }
+  const QString place = group == static_cast<std::size_t>(StandardGroup::kReflectance)
+                            ? QStringLiteral(" (%1 nm)").arg(judgement.bandMarginNm)
+                            : QString();
+  const GroupTexts& texts = kTexts[group];
+  return FormatNumber(std::abs(*margin), texts.marginPattern) + texts.unit + place;
 }
 
 }  // namespace vexa

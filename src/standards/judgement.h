@@ -60,4 +60,8 @@ struct Judgement {
 [[nodiscard]] Judgement JudgeStandards(const ReflectanceSpectrum& reflectance,
                                        const ColourResult& colour, const StandardSet& standard);
 
+/// The amount of a group's margin, inside or outside, with its unit, and of the band also where it
+/// is, as "0.031 % (550 nm)"; empty without a margin. The group is 0..5.
+[[nodiscard]] QString MarginText(const Judgement& judgement, std::size_t group);
+
 }  // namespace vexa

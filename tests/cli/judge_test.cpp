@@ -70,8 +70,8 @@ TEST_F(Judging, TellsVerdictsAndMargins) {
   EXPECT_EQ(Judge("data.csv"), 3);
   EXPECT_EQ(err, "");
   EXPECT_EQ(out.toStdString(),
-            " 1  ﾚﾝｽﾞ1  反射率:OK +0.5000 % (700 nm)\n"
-            " 3  ﾚﾝｽﾞ3  反射率:NG -1.0000 % (600 nm)\n");
+            " 1  ﾚﾝｽﾞ1  反射率:OK +0.500 % (700 nm)\n"
+            " 3  ﾚﾝｽﾞ3  反射率:NG -1.000 % (600 nm)\n");
   EXPECT_EQ(Judge("data.csv", {QStringLiteral("--json")}), 3);
   const QJsonArray slots_ = Json()[QLatin1String("slots")].toArray();
   ASSERT_EQ(slots_.size(), 2);
@@ -83,7 +83,7 @@ TEST_F(Judging, TellsVerdictsAndMargins) {
   state.standard.averageReflectance = {true, 5.0, 0.0};
   WriteStandard();
   EXPECT_EQ(Judge("data.csv"), 0) << "an inclusive limit";
-  EXPECT_TRUE(out.contains("反射率:OK +0.0000 % (600 nm)  平均反射率:OK +"));
+  EXPECT_TRUE(out.contains("反射率:OK +0.000 % (600 nm)  平均反射率:OK +"));
 }
 
 TEST_F(Judging, StandardsThatAreOffOrOddAreSafe) {
