@@ -8,6 +8,7 @@
 #include "files/data_file.h"
 #include "measurement/dispersion_data.h"
 #include "measurement/evaluation.h"
+#include "views/common/quiet_messages.h"
 #include "views/print/current_printer.h"
 #include "views/print/page_header.h"
 #include "views/print/report.h"
@@ -18,7 +19,7 @@ namespace {
 void ComputeThicknesses(VEXATYPE& state, MessageService& messages) {
   for (MeasurementSlot& slot : state.measurementSlots) {
     if (slot.valid && state.thickness.enabled) {
-      // A failure has its message, and the report shows no thickness.
+      // The report shows no thickness where there is none.
       (void)ComputeSlotThickness(state, slot, messages);
     }
   }
@@ -43,7 +44,8 @@ int RunReport(const ReportCommand& command, const QString& programDirectory) {
     return 1;
   }
   state.currentDataFileName = QFileInfo(command.dataFile).absoluteFilePath();
-  ComputeThicknesses(state, messages);
+  QuietMessages quiet(messages);
+  ComputeThicknesses(state, quiet);
 
   ReportRequest request = UsualReport(state, QDate::currentDate());
   request.title = command.title;
