@@ -4,7 +4,6 @@
 #include <QShortcut>
 #include <algorithm>
 #include <array>
-#include <cmath>
 
 #include "standards/tolerance_region.h"
 #include "views/colour/colour_texts.h"
@@ -15,13 +14,10 @@ namespace {
 
 constexpr QMargins kMargins(30, 10, 16, 24);
 constexpr QColor kGridColour(200, 200, 200);
-constexpr QColor kLimitColour(0xc2, 0x3b, 0x22);
 const QString kPictureLayer = QStringLiteral("picture");
 constexpr int kSmallPixels = 10;
 constexpr int kGridSteps = 8;
-constexpr double kPi = 3.141592654;
 constexpr std::array kLabReaches{10, 20, 40};
-constexpr std::array kLabelledNm{460, 480, 500, 540, 560, 580, 600, 620};
 
 struct AxisTexts {
   QString lowerEnd;
@@ -49,63 +45,6 @@ QFont SmallFont(const QCustomPlot& plot) {
   return font;
 }
 
-// A place between two points of the locus, `part` of the way, on a Catmull-Rom spline through their
-// neighbours too.
-double Between(double before, double from, double to, double after, double part) {
-  return from + 0.5 * part *
-                    (to - before +
-                     part * (2.0 * before - 5.0 * from + 4.0 * to - after +
-                             part * (3.0 * (from - to) + after - before)));
-}
-
-// The locus as a curve, without corners where its points are far apart.
-QVector<QPointF> SmoothCurve(const std::vector<LocusPoint>& points) {
-  constexpr int kPieces = 5;
-  const std::size_t last = points.size() - 1;
-  QVector<QPointF> curve;
-  for (std::size_t i = 0; i < last; ++i) {
-    const Chromaticity& before = points[i > 0 ? i - 1 : 0].at;
-    const Chromaticity& from = points[i].at;
-    const Chromaticity& to = points[i + 1].at;
-    const Chromaticity& after = points[std::min(i + 2, last)].at;
-    for (int piece = 0; piece < kPieces; ++piece) {
-      const double part = static_cast<double>(piece) / kPieces;
-      curve.append({Between(before.x, from.x, to.x, after.x, part),
-                    Between(before.y, from.y, to.y, after.y, part)});
-    }
-  }
-  curve.append({points[last].at.x, points[last].at.y});
-  return curve;
-}
-
-// Short wavelengths have their label on the outer side, at the left; 500 nm has no room there.
-QCPItemText* AddLocusLabel(QCustomPlot& plot, const LocusPoint& point) {
-  auto* label = new QCPItemText(&plot);
-  label->setLayer(QStringLiteral("main"));
-  label->setText(QString::number(point.nm));
-  label->setFont(SmallFont(plot));
-  label->setColor(theme::kMutedText);
-  label->setPadding(QMargins(5, 0, 5, 0));
-  label->setPositionAlignment((point.nm < 500 ? Qt::AlignRight : Qt::AlignLeft) | Qt::AlignVCenter);
-  label->position->setCoords(point.at.x, point.at.y);
-  return label;
-}
-
-QCPItemEllipse* AddEllipse(QCustomPlot& plot, double x, double y, double radius) {
-  auto* ellipse = new QCPItemEllipse(&plot);
-  ellipse->setLayer(QStringLiteral("main"));
-  ellipse->topLeft->setCoords(x - radius, y + radius);
-  ellipse->bottomRight->setCoords(x + radius, y - radius);
-  return ellipse;
-}
-
-void RemoveItems(QCustomPlot& plot, std::vector<QCPAbstractItem*>& items) {
-  for (QCPAbstractItem* item : items) {
-    plot.removeItem(item);
-  }
-  items.clear();
-}
-
 QCPGraph* AddPoints(QCustomPlot& plot, const QColor& colour, double size) {
   QCPGraph* graph = plot.addGraph();
   graph->setLayer(QStringLiteral("marks"));
@@ -127,7 +66,10 @@ void SetPoints(QCPGraph& graph, const ColourStock& stock, int first, int end) {
 
 ChromaticityDiagram::ChromaticityDiagram(std::shared_ptr<BackgroundPicture> picture,
                                          QWidget* parent)
-    : Plot(parent), picture_(std::move(picture)) {
+    : Plot(parent),
+      picture_(std::move(picture)),
+      locus_(*this, SmallFont(*this)),
+      tolerance_(*this) {
   setObjectName(QStringLiteral("ChromaticityDiagram"));
   setPlottingHint(QCP::phFastPolylines);
   axisRect()->setAutoMargins(QCP::msNone);
@@ -149,8 +91,6 @@ ChromaticityDiagram::ChromaticityDiagram(std::shared_ptr<BackgroundPicture> pict
   background_->topLeft->setCoords(-half, BackgroundPicture::kEnd + half);
   background_->bottomRight->setCoords(BackgroundPicture::kEnd + half, -half);
 
-  locus_ = new QCPCurve(xAxis, yAxis);
-  locus_->setPen(QPen(theme::kText, 1.2));
   conditionsText_ = new QCPItemText(this);
   conditionsText_->setLayer(QStringLiteral("texts"));
   conditionsText_->setFont(SmallFont(*this));
@@ -232,9 +172,10 @@ void ChromaticityDiagram::mousePressEvent(QMouseEvent* event) {
 void ChromaticityDiagram::ShowFrame(const StockConditions& conditions, const VEXATYPE& state) {
   xyMode_ = conditions.xyMode;
   ShowAxes(state.display.labScale);
-  ShowLocus(conditions.observer2Deg);
-  ShowTolerance(xyMode_ ? ToleranceRegion()
-                        : ToleranceRegionOf(state.standard, state.chromaMarker, state.hueMarker));
+  locus_.Show(xyMode_ ? SpectralLocus(conditions.observer2Deg) : std::vector<LocusPoint>());
+  tolerance_.Show(xyMode_ ? ToleranceRegion()
+                          : ToleranceRegionOf(state.standard, state.chromaMarker, state.hueMarker),
+                  labReach_);
   background_->setVisible(xyMode_);
   const QString illuminant = IlluminantText(conditions.illuminant);
   std::optional<QPointF> white;
@@ -263,65 +204,6 @@ void ChromaticityDiagram::ShowAxes(int labScale) {
             {lower, QStringLiteral("a*"), QString::number(labReach_)});
     SetAxis(*yAxis, *yAxis2, -labReach_, labReach_, {lower, QStringLiteral("b*"), QString()});
   }
-}
-
-void ChromaticityDiagram::ShowLocus(Flag observer2Deg) {
-  RemoveItems(*this, locusItems_);
-  locus_->data()->clear();
-  if (!xyMode_) {
-    return;
-  }
-  const std::vector<LocusPoint> points = SpectralLocus(observer2Deg);
-  for (const QPointF& point : SmoothCurve(points)) {
-    locus_->addData(point.x(), point.y());
-  }
-  for (const LocusPoint& point : points) {
-    if (std::ranges::find(kLabelledNm, point.nm) != kLabelledNm.end()) {
-      QCPItemEllipse* dot = AddEllipse(*this, point.at.x, point.at.y, 0.005);
-      dot->setPen(Qt::NoPen);
-      dot->setBrush(theme::kText);
-      locusItems_.push_back(dot);
-      locusItems_.push_back(AddLocusLabel(*this, point));
-    }
-  }
-  locus_->addData(points.front().at.x, points.front().at.y);
-}
-
-void ChromaticityDiagram::ShowTolerance(const ToleranceRegion& region) {
-  RemoveItems(*this, tolerance_);
-  const QPen limit(kLimitColour, 1.4);
-  const QPen reference(kLimitColour, 1.4, Qt::DashLine);
-  for (const double radius : region.chromaRadii) {
-    AddCircle(radius, limit);
-  }
-  for (const double degrees : region.hueAnglesDeg) {
-    AddHueLine(degrees, limit);
-  }
-  if (region.referenceChroma) {
-    AddCircle(*region.referenceChroma, reference);
-  }
-  if (region.referenceHueDeg) {
-    AddHueLine(*region.referenceHueDeg, reference);
-  }
-}
-
-void ChromaticityDiagram::AddCircle(double radius, const QPen& pen) {
-  // Beyond the corners there is nothing to see, and a file may hold any number.
-  if (radius <= 1.5 * labReach_) {
-    QCPItemEllipse* circle = AddEllipse(*this, 0.0, 0.0, radius);
-    circle->setPen(pen);
-    tolerance_.push_back(circle);
-  }
-}
-
-void ChromaticityDiagram::AddHueLine(double degrees, const QPen& pen) {
-  const double angle = degrees * kPi / 180.0;
-  auto* line = new QCPItemLine(this);
-  line->setLayer(QStringLiteral("main"));
-  line->start->setCoords(0.0, 0.0);
-  line->end->setCoords(2.0 * labReach_ * std::cos(angle), 2.0 * labReach_ * std::sin(angle));
-  line->setPen(pen);
-  tolerance_.push_back(line);
 }
 
 void ChromaticityDiagram::DrawPicture() {

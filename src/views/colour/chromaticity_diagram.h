@@ -2,12 +2,12 @@
 #pragma once
 
 #include <memory>
-#include <vector>
 
-#include "colour/chromaticity_diagram.h"
 #include "measurement/vexatype.h"
 #include "views/colour/background_picture.h"
 #include "views/colour/diagram_marks.h"
+#include "views/colour/locus_drawing.h"
+#include "views/colour/tolerance_drawing.h"
 #include "views/common/plot.h"
 
 namespace vexa {
@@ -41,22 +41,17 @@ class ChromaticityDiagram : public Plot {
  private:
   void ShowFrame(const StockConditions& conditions, const VEXATYPE& state);
   void ShowAxes(int labScale);
-  void ShowLocus(Flag observer2Deg);
-  void ShowTolerance(const ToleranceRegion& region);
-  void AddCircle(double radius, const QPen& pen);
-  void AddHueLine(double degrees, const QPen& pen);
   void DrawPicture();
   void RequestPicture();
 
   std::shared_ptr<BackgroundPicture> picture_;
+  LocusDrawing locus_;
+  ToleranceDrawing tolerance_;
   QCPItemPixmap* background_;
-  QCPCurve* locus_;
   QCPItemText* conditionsText_;
   QCPGraph* points_;
   QCPGraph* lastPoint_;
   DiagramMarks* marks_;
-  std::vector<QCPAbstractItem*> locusItems_;
-  std::vector<QCPAbstractItem*> tolerance_;
   bool xyMode_ = true;
   int labReach_ = 40;
 };
