@@ -27,6 +27,12 @@ QString ContentText(const VEXATYPE& session) {
   if (!numbers.isEmpty()) {
     lines << QStringLiteral("ｽﾛｯﾄ: ") + numbers.join(QStringLiteral(", "));
   }
+  if (session.stock.Count > 0) {
+    lines << QStringLiteral("累積数: %1").arg(session.stock.Count);
+  }
+  if (session.thicknessHistory.count > 0) {
+    lines << QStringLiteral("膜厚ｸﾞﾗﾌ: %1").arg(session.thicknessHistory.count);
+  }
   return lines.join(u'\r');
 }
 

@@ -218,8 +218,10 @@ void VEXA::ConnectSequence() {
   });
   connect(&sequence_, &MeasurementSequence::FrameKept, this, [this] { journal_.Write(); });
   connect(thickness_, &ThicknessPanel::Computed, this, [this] { journal_.Update(); });
-  connect(&ageTimer_, &QTimer::timeout, this,
-          [this] { bar_->ShowAges(state_, services_.clock()); });
+  connect(&ageTimer_, &QTimer::timeout, this, [this] {
+    bar_->ShowAges(state_, services_.clock());
+    journal_.Update();  // what was changed in the windows beside this one
+  });
   ageTimer_.start(kAgeRefreshMs);
   connect(&sequence_, &MeasurementSequence::SampleStored, this,
           [this](int slot) { bar_->SelectSlot(slot); });

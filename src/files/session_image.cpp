@@ -12,6 +12,13 @@ namespace vexa {
 namespace {
 
 constexpr quint8 kValidBit = 1;
+constexpr std::size_t kFirstSlotPlace = 2;
+constexpr std::size_t kStockPlace = kFirstSlotPlace + kSlotCount;
+constexpr std::size_t kHistoryPlace = kStockPlace + 1;
+
+quint8 FlagByte(bool flag) {
+  return flag ? kValidBit : quint8{0};
+}
 
 class Writer {
  public:
@@ -95,8 +102,8 @@ class Reader {
 
 QByteArray FrameBytes(bool measured, const FrameConditions& taken, const RawSpectrum& spectrum) {
   Writer out;
-  out << quint8{measured ? kValidBit : quint8{0}} << taken.takenAt << taken.samplingTimeMs
-      << taken.averagingCount << taken.calibrationShiftNm << spectrum.Values();
+  out << FlagByte(measured) << taken.takenAt << taken.samplingTimeMs << taken.averagingCount
+      << taken.calibrationShiftNm << spectrum.Values();
   return out.Bytes();
 }
 
@@ -119,15 +126,13 @@ bool PutFrame(const QByteArray& bytes, Flag& measured, FrameConditions& taken,
 QByteArray SlotBytes(const MeasurementSlot& slot) {
   Writer out;
   const ThicknessResult& thickness = slot.thickness;
-  out << quint8{slot.valid ? kValidBit : quint8{0}} << slot.info.measuredAt
-      << slot.info.sampleNumber << slot.info.remark1 << slot.info.remark2
-      << slot.reflectance.Values() << thickness.thicknessNm << thickness.first.wavelengthNm
-      << thickness.first.reflectance << thickness.second.wavelengthNm
-      << thickness.second.reflectance << thickness.firstIndex << thickness.secondIndex
-      << quint8{thickness.physical ? kValidBit : quint8{0}} << thickness.extrema.count;
+  out << FlagByte(slot.valid) << slot.info.measuredAt << slot.info.sampleNumber << slot.info.remark1
+      << slot.info.remark2 << slot.reflectance.Values() << thickness.thicknessNm
+      << thickness.first.wavelengthNm << thickness.first.reflectance
+      << thickness.second.wavelengthNm << thickness.second.reflectance << thickness.firstIndex
+      << thickness.secondIndex << FlagByte(thickness.physical) << thickness.extrema.count;
   for (const Extremum& extremum : thickness.extrema.Found()) {
-    out << extremum.point.wavelengthNm << extremum.point.reflectance
-        << quint8{extremum.maximum ? kValidBit : quint8{0}};
+    out << extremum.point.wavelengthNm << extremum.point.reflectance << FlagByte(extremum.maximum);
   }
   return out.Bytes();
 }
@@ -163,12 +168,63 @@ bool PutSlot(const QByteArray& bytes, MeasurementSlot& slot) {
   return in.ReadAll();
 }
 
+QByteArray StockBytes(bool accumulate, const ColourStock& stock) {
+  Writer out;
+  const auto count = static_cast<std::size_t>(stock.Count);
+  out << FlagByte(accumulate) << FlagByte(stock.StockMode) << stock.StockIlluminant
+      << FlagByte(stock.StockObserver) << stock.Count << std::span(stock.P1).first(count)
+      << std::span(stock.P2).first(count) << std::span(stock.P3).first(count);
+  return out.Bytes();
+}
+
+bool PutStock(const QByteArray& bytes, Flag& accumulate, ColourStock& stock) {
+  Reader in(bytes);
+  quint8 flags = 0;
+  quint8 mode = 0;
+  quint8 observer = 0;
+  ColourStock read;
+  in >> flags >> mode >> read.StockIlluminant >> observer >> read.Count;
+  read.Count = std::clamp<std::int16_t>(read.Count, 0, ColourStock::kCapacity);
+  const auto count = static_cast<std::size_t>(read.Count);
+  in >> std::span(read.P1).first(count) >> std::span(read.P2).first(count) >>
+      std::span(read.P3).first(count);
+  if (in.ReadAll()) {
+    read.StockMode = mode == kValidBit;
+    read.StockObserver = observer == kValidBit;
+    accumulate = flags == kValidBit;
+    stock = read;
+  }
+  return in.ReadAll();
+}
+
+QByteArray HistoryBytes(const ThicknessHistory& history) {
+  Writer out;
+  out << FlagByte(history.physical) << history.count << history.Points();
+  return out.Bytes();
+}
+
+bool PutHistory(const QByteArray& bytes, ThicknessHistory& history) {
+  Reader in(bytes);
+  quint8 physical = 0;
+  ThicknessHistory read;
+  in >> physical >> read.count;
+  read.count = std::clamp<std::int16_t>(read.count, 0, ThicknessHistory::kCapacity);
+  in >> std::span(read.values).first(static_cast<std::size_t>(read.count));
+  if (in.ReadAll()) {
+    read.physical = physical == kValidBit;
+    history = read;
+  }
+  return in.ReadAll();
+}
+
 }  // namespace
 
 SessionImage TakeImage(const VEXATYPE& state) {
   SessionImage image{FrameBytes(state.backgroundMeasured, state.backgroundTaken, state.background),
                      FrameBytes(state.referenceMeasured, state.referenceTaken, state.reference)};
-  std::ranges::transform(state.measurementSlots, image.begin() + 2, SlotBytes);
+  std::ranges::transform(state.measurementSlots, image.begin() + kFirstSlotPlace, SlotBytes);
+  image[kStockPlace] = StockBytes(state.accumulate, state.stock);
+  image[kHistoryPlace] = HistoryBytes(state.thicknessHistory);
   return image;
 }
 
@@ -177,8 +233,10 @@ bool PutImage(const SessionImage& image, VEXATYPE& state) {
       PutFrame(image[0], state.backgroundMeasured, state.backgroundTaken, state.background);
   whole &= PutFrame(image[1], state.referenceMeasured, state.referenceTaken, state.reference);
   for (std::size_t i = 0; i < state.measurementSlots.size(); ++i) {
-    whole &= PutSlot(image[i + 2], state.measurementSlots[i]);
+    whole &= PutSlot(image[kFirstSlotPlace + i], state.measurementSlots[i]);
   }
+  whole &= PutStock(image[kStockPlace], state.accumulate, state.stock);
+  whole &= PutHistory(image[kHistoryPlace], state.thicknessHistory);
   return whole;
 }
 

@@ -9,8 +9,9 @@
 namespace vexa {
 
 /// What was measured and typed in a session, as the bytes that its journal keeps of it: background,
-/// reference, and slots 1..10. Their layout is told in docs/files.md.
-using SessionImage = std::array<QByteArray, 2 + kSlotCount>;
+/// reference, slots 1..10, accumulated colours, thickness history. Their layout is told in
+/// docs/files.md.
+using SessionImage = std::array<QByteArray, 2 + kSlotCount + 2>;
 
 [[nodiscard]] SessionImage TakeImage(const VEXATYPE& state);
 

@@ -2,6 +2,7 @@
 #include <gtest/gtest.h>
 #include <sys/resource.h>
 
+#include <QCheckBox>
 #include <QDir>
 #include <QLabel>
 #include <QPushButton>
@@ -68,6 +69,7 @@ TEST_F(Session, IsRestoredAndGoesOn) {
   EXPECT_EQ(Journals(), QStringList());
   Press("Background", 100);
   Press("Reference", 500);
+  window->findChild<QCheckBox*>(QStringLiteral("AccumulateChk"))->click();
   Press("Mes2", 300);
   const SessionImage before = TakeImage(window->State());
   const ColourResult colour = window->State().Slot(2)->colour;
@@ -79,7 +81,7 @@ TEST_F(Session, IsRestoredAndGoesOn) {
       messages.Take(),
       (std::vector<ShownMessage>{
           {"VEXA-KT ﾒｯｾｰｼﾞ: 前回のﾌﾟﾛｸﾞﾗﾑは正常に終了していません。測定ﾃﾞｰﾀを復元しますか。\r\r"
-           "ﾊﾞｯｸｸﾞﾗﾝﾄﾞ: 2026/3/9 7:05:03\rﾘﾌｧﾚﾝｽ: 2026/3/9 7:05:03\rｽﾛｯﾄ: 2\r\r"
+           "ﾊﾞｯｸｸﾞﾗﾝﾄﾞ: 2026/3/9 7:05:03\rﾘﾌｧﾚﾝｽ: 2026/3/9 7:05:03\rｽﾛｯﾄ: 2\r累積数: 1\r\r"
            "いいえ: 破棄します。\rｷｬﾝｾﾙ: 次の起動まで残します。",
            35}}));
 

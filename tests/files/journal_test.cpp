@@ -30,6 +30,12 @@ std::array<SessionImage, 4> Moments() {
   slot.thickness.extrema.entries[0] = {{500.5, 1.5}, true};
   moments[2] = TakeImage(state);
   state.ClearSlots();
+  state.accumulate = true;
+  state.stock.Record({false, 3, false});
+  (void)state.stock.StockAdd({}, false);
+  state.stock.P2[0] = 12.5;
+  state.thicknessHistory.physical = false;
+  (void)state.thicknessHistory.Append(1500.25);
   moments[3] = TakeImage(state);
   return moments;
 }
