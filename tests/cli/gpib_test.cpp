@@ -12,19 +12,13 @@ namespace vexa {
 namespace {
 
 using test::Outcome;
-using test::Words;
 
 class OverGpib : public test::WithInstrument {
  protected:
   void SetUp() override { Place(QStringLiteral(VEXA_CONTROL_BOX)); }
   void Place(const QString& library) const {
-    QFile::remove(File("libU2GPLIB.so"));
-    ASSERT_TRUE(QFile::link(library, File("libU2GPLIB.so")));
-  }
-  QByteArray Result() const {
-    QFile file(File("out.csv"));
-    EXPECT_TRUE(file.open(QIODevice::ReadOnly));
-    return file.readAll();
+    QFile::remove(files.Path("libU2GPLIB.so"));
+    ASSERT_TRUE(QFile::link(library, files.Path("libU2GPLIB.so")));
   }
 };
 
@@ -34,17 +28,17 @@ double Percent(const QByteArray& file, int nm, int slot) {
 }
 
 TEST_F(OverGpib, TheSameSamplesReflectTheSameAsOverTheSerialLine) {
-  constexpr const char* kJob = "--samples 3 --averaging 6 --sampling-time 3000";
+  const QByteArray job = "--samples 3 --averaging 6 --sampling-time 3000";
   const auto overBoth = [&](const QByteArray& serialOptions, const QByteArray& gpibOptions) {
-    Start(Words(serialOptions));
-    EXPECT_EQ(Measure(kJob).status, 0);
+    Start(serialOptions);
+    EXPECT_EQ(Measure(job).status, 0);
     Stop();
-    const QByteArray serial = Result();
+    const QByteArray serial = files.Read("out.csv");
     qputenv("U2GPLIB_OPTIONS", "--pace none " + gpibOptions);
-    const Outcome gpib = Measure((QByteArray("--port 0 ") + kJob).constData());
+    const Outcome gpib = Measure("--port 0 " + job);
     EXPECT_EQ(gpib.status, 0) << gpib.err.constData();
     EXPECT_EQ(gpib.err, "");
-    return std::pair(serial, Result());
+    return std::pair(serial, files.Read("out.csv"));
   };
   const auto [serial, gpib] = overBoth("--noise off", "--noise off");
   EXPECT_GT(serial.size(), 10000);
@@ -108,8 +102,7 @@ TEST_F(OverGpib, EveryFailingCallIsToldWithItsTextStepAndCode) {
     EXPECT_EQ(outcome.err.toStdString(),
               std::string("VEXA-KT ｴﾗｰ: ") + fault.text + '(' + fault.place + ")\n" + caller);
     EXPECT_EQ(outcome.status, 1);
-    EXPECT_EQ(outcome.Json()[QLatin1String(step)].toInt(),
-              -QByteArray(fault.place).split(' ').last().toInt());
+    EXPECT_EQ(outcome[step].toInt(), -QByteArray(fault.place).split(' ').last().toInt());
   };
   for (const CallFaultCase& fault : initialising) {
     check(fault, "initialise", "ｺﾝﾄﾛｰﾗｴﾗｰ: 通信でﾃﾞﾊﾞｲｽ･ｴﾗｰ発生しました。\n");
@@ -120,11 +113,9 @@ TEST_F(OverGpib, EveryFailingCallIsToldWithItsTextStepAndCode) {
 }
 
 TEST_F(OverGpib, AMissingLibraryOrCallIsAFailedInitialisation) {
-  const QString text = File("text");
-  ASSERT_TRUE(QFile(text).open(QIODevice::WriteOnly));
   const std::pair<QString, const char*> cases[] = {
-      {File("nothing"), "U2GPLIB"},
-      {text, "U2GPLIB"},
+      {files.Path("nothing"), "U2GPLIB"},
+      {files.Write("text", ""), "U2GPLIB"},
       {QStringLiteral("/lib/x86_64-linux-gnu/libm.so.6"), "gp_init"},
   };
   for (const auto& [library, missing] : cases) {

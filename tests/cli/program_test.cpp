@@ -4,10 +4,6 @@
 #include <gtest/gtest.h>
 
 #include <QDir>
-#include <QFile>
-#include <QJsonArray>
-#include <QJsonDocument>
-#include <QJsonObject>
 
 #include "cli/running_programs.h"
 
@@ -15,11 +11,15 @@ namespace vexa {
 namespace {
 
 using test::CommandLine;
-using test::kTimeoutMs;
+using test::Object;
 using test::Outcome;
-using test::RunCli;
 using test::WithInstrument;
-using test::Words;
+
+// Detector lines of one value.
+QByteArray Lines(int value, int count = 1) {
+  const char pixel[] = {static_cast<char>(value & 0xff), static_cast<char>(value >> 8)};
+  return QByteArray(pixel, 2).repeated(512 * count);
+}
 
 TEST_F(CommandLine, WrongUsageIsOneLineAndStatusTwo) {
   const char* const cases[] = {
@@ -40,9 +40,28 @@ TEST_F(CommandLine, WrongUsageIsOneLineAndStatusTwo) {
       "measure --port 5 --out x.csv --averaging 17",
       "measure --port 5 --out x.csv --sampling-time 29",
       "measure --port 5 --out x.csv stray",
+      "judge a.csv",
+      "convert a.csv b.csv x.csv",
+      "dispersion --json",
+      "dispersion --fixed 1 --file x",
+      "dispersion --fixed 1 --fixed 2",
+      "dispersion --fixed x",
+      "dispersion --fixed 1,2",
+      "dispersion --schott 1,2,3,4,5",
+      "dispersion --schott 1,2,3,4,5,",
+      "dispersion --sellmeier 1,2,3,4,5,6,7",
+      "dispersion --fixed 1 x",
+      "analyse a --illuminant E",
+      "analyse a --observer 5",
+      "analyse a --average 500",
+      "analyse a --average 600-500",
+      "analyse a --average 439-500",
+      "analyse a --type D",
+      "analyse a --thickness-kind x",
+      "analyse a --index 1.5 --substrate x",
   };
   for (const char* arguments : cases) {
-    const Outcome outcome = RunCli(Words(arguments));
+    const Outcome outcome = Run(arguments);
     EXPECT_EQ(outcome.status, 2) << arguments;
     EXPECT_EQ(outcome.out, "") << arguments;
     EXPECT_TRUE(outcome.err.startsWith("vexa-cli: ")) << arguments;
@@ -51,62 +70,53 @@ TEST_F(CommandLine, WrongUsageIsOneLineAndStatusTwo) {
 }
 
 TEST_F(CommandLine, DecodesLines) {
-  const Outcome json =
-      RunCli({QStringLiteral("decode"), Lines("flat.bin", 0x123, 16), QStringLiteral("--json")});
+  files.Write("many.bin", Lines(0x123, 16));
+  files.Write("one.bin", Lines(7));
+  files.Write("full.bin", Lines(4095));
+  const Outcome json = Run("decode @many.bin --json");
   EXPECT_EQ(json.status, 0);
   EXPECT_EQ(json.err, "");
   EXPECT_EQ(json.out.count('\n'), 1);
-  EXPECT_EQ(json.Json()[QLatin1String("start")].toInt(), 440);
-  const QJsonArray values = json.Json()[QLatin1String("values")].toArray();
-  ASSERT_EQ(values.size(), 409);
-  EXPECT_EQ(values[100].toDouble(), 0x123);
+  EXPECT_EQ(json["start"].toInt(), 440);
+  ASSERT_EQ(json["values"].toArray().size(), 409);
+  EXPECT_EQ(json["values"].toArray()[100].toDouble(), 0x123);
 
-  const Outcome text = RunCli({QStringLiteral("decode"), Lines("flat.bin", 7)});
+  const Outcome text = Run("decode @one.bin");
   EXPECT_TRUE(text.out.startsWith(" 440       7.0000\n")) << text.out.left(40).constData();
 
-  const Outcome raw =
-      RunCli({QStringLiteral("decode"), Lines("flat.bin", 7), QStringLiteral("--json"),
-              QStringLiteral("--positions"), QStringLiteral("0,1,2,3,4,511")});
-  EXPECT_EQ(raw.Json()[QLatin1String("start")].toInt(-1), 0);
-  EXPECT_EQ(raw.Json()[QLatin1String("values")].toArray().size(), 512);
+  const Outcome raw = Run("decode @one.bin --json --positions 0,1,2,3,4,511");
+  EXPECT_EQ(raw["start"].toInt(-1), 0);
+  EXPECT_EQ(raw["values"].toArray().size(), 512);
 
-  const Outcome saturated =
-      RunCli({QStringLiteral("decode"), Lines("s.bin", 4095), QStringLiteral("--json")});
+  const Outcome saturated = Run("decode @full.bin --json");
   EXPECT_EQ(saturated.status, 1);
-  EXPECT_EQ(saturated.Json()[QLatin1String("status")].toInt(), 1);
+  EXPECT_EQ(saturated["status"].toInt(), 1);
 }
 
 TEST_F(CommandLine, RefusesFilesThatAreNoLines) {
-  QFile odd(File("odd.bin"));
-  ASSERT_TRUE(odd.open(QIODevice::WriteOnly));
-  odd.write(QByteArray(1025, 'x'));
-  odd.close();
-  for (const QString& path : {File("missing.bin"), odd.fileName(), Lines("many.bin", 1, 17),
-                              Lines("none.bin", 1, 0), directory.path()}) {
-    const Outcome outcome = RunCli({QStringLiteral("decode"), path, QStringLiteral("--json")});
-    EXPECT_EQ(outcome.status, 1) << qPrintable(path);
+  files.Write("odd.bin", QByteArray(1025, 'x'));
+  files.Write("many.bin", Lines(1, 17));
+  files.Write("none.bin", "");
+  for (const char* name : {"missing.bin", "odd.bin", "many.bin", "none.bin", ""}) {
+    const Outcome outcome = Run(QByteArray("decode --json @") + name);
+    EXPECT_EQ(outcome.status, 1) << name;
     EXPECT_EQ(outcome.out, "");
-    EXPECT_TRUE(outcome.err.contains(path.toUtf8()));
+    EXPECT_TRUE(outcome.err.contains(files.Path(name).toUtf8())) << name;
   }
 }
 
 TEST_F(CommandLine, ComputesReflectance) {
-  const QStringList frames{QStringLiteral("reflectance"),
-                           QStringLiteral("--background"),
-                           Lines("b", 100),
-                           QStringLiteral("--reference"),
-                           Lines("r", 500),
-                           QStringLiteral("--sample"),
-                           Lines("s", 300),
-                           QStringLiteral("--json")};
+  files.Write("b", Lines(100));
+  files.Write("r", Lines(500));
+  files.Write("s", Lines(300));
+  const QByteArray frames = "reflectance --background @b --reference @r --sample @s --json ";
   // The built-in reference is a glass of nd 1.51633: 4.21 % at 588 nm, of which this is the half.
-  const Outcome glass = RunCli(frames + QStringList{QStringLiteral("--dir"), directory.path()});
+  const Outcome glass = Run(frames + "--dir @");
   EXPECT_EQ(glass.status, 0);
-  EXPECT_NEAR(glass.Json()[QLatin1String("values")].toArray()[588 - 440].toDouble(), 2.105, 0.002);
-  EXPECT_EQ(glass.Json()[QLatin1String("first")].toInt(), 440);
-  const Outcome ten =
-      RunCli(frames + QStringList{QStringLiteral("--reference-reflectance"), QStringLiteral("10")});
-  EXPECT_EQ(ten.Json()[QLatin1String("values")].toArray()[0].toDouble(), 5.0);
+  EXPECT_NEAR(glass["values"].toArray()[588 - 440].toDouble(), 2.105, 0.002);
+  EXPECT_EQ(glass["first"].toInt(), 440);
+  const Outcome ten = Run(frames + "--reference-reflectance 10");
+  EXPECT_EQ(ten["values"].toArray()[0].toDouble(), 5.0);
 }
 
 TEST_F(CommandLine, ConvertsOneFileOrMany) {
@@ -115,43 +125,32 @@ TEST_F(CommandLine, ConvertsOneFileOrMany) {
     text += " " + QByteArray::number(nm) + ",1.250000000000000" +
             QByteArray(",0.000000000000000").repeated(9) + "\r\n";
   }
-  QStringList all{QStringLiteral("convert")};
+  QByteArray all;
   for (int i = 0; i < 100; ++i) {
-    QFile file(File(qPrintable(QStringLiteral("in%1.csv").arg(i))));
-    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
-    file.write(text);
-    all << file.fileName();
+    const QByteArray name = "in" + QByteArray::number(i) + ".csv";
+    files.Write(name, text);
+    all += " @" + name;
   }
-  ASSERT_TRUE(QDir(directory.path()).mkdir(QStringLiteral("出力")));
-  const QString output = directory.filePath(QStringLiteral("出力"));
-  const Outcome many = RunCli(all + QStringList{output, QStringLiteral("--json")});
+  ASSERT_TRUE(QDir(files.Directory()).mkdir(QStringLiteral("出力")));
+  const Outcome many = Run("convert" + all + " @出力 --json");
   EXPECT_EQ(many.status, 0) << many.err.constData();
-  EXPECT_EQ(many.Json()[QLatin1String("written")].toInt(), 100);
-  QFile last(output + QStringLiteral("/in99.csv"));
-  ASSERT_TRUE(last.open(QIODevice::ReadOnly));
-  EXPECT_EQ(last.readAll().toStdString(), text.toStdString());
+  EXPECT_EQ(many["written"].toInt(), 100);
+  EXPECT_EQ(files.Read("出力/in99.csv").toStdString(), text.toStdString());
 
-  const QString blocks = File("out.dat");
-  EXPECT_EQ(RunCli({QStringLiteral("convert"), all[1], blocks}).status, 0);
-  const Outcome back = RunCli({QStringLiteral("convert"), blocks, File("back.csv")});
+  EXPECT_EQ(Run("convert @in0.csv @out.dat").status, 0);
+  const Outcome back = Run("convert @out.dat @back.csv");
   EXPECT_EQ(back.status, 0);
   EXPECT_EQ(back.err.toStdString(),
             "VEXA-KT:  1ﾃﾞｰﾀをひらくためﾃﾞｰﾀ１～ﾃﾞｰﾀ 1までのﾃﾞｰﾀが消去されます。\n");
-  EXPECT_EQ(
-      RunCli({QStringLiteral("convert"), blocks, File("x.csv"), QStringLiteral("--no")}).status, 1);
-  EXPECT_EQ(RunCli({QStringLiteral("convert"), all[1], all[2], File("x.csv")}).status, 2);
-  EXPECT_EQ(RunCli({QStringLiteral("convert"), File("missing.csv"), File("x.csv")}).status, 1);
+  EXPECT_EQ(Run("convert @out.dat @x.csv --no").status, 1);
+  EXPECT_EQ(Run("convert @missing.csv @x.csv").status, 1);
 }
 
-TEST_F(CommandLine, ShowsAndRewritesEnvironments) {
-  const QString out = File("b.env");
-  QFile file(File("a.env"));
-  ASSERT_TRUE(file.open(QIODevice::WriteOnly));
-  file.write("VEXA-KT 440-840 Ver 3.21 Environment File\r\nnone");
-  file.close();
-  const Outcome bad = RunCli({QStringLiteral("env"), file.fileName(), QStringLiteral("--json")});
+TEST_F(CommandLine, TellsThatAnEnvironmentIsUnreadable) {
+  files.Write("a.env", "VEXA-KT 440-840 Ver 3.21 Environment File\r\nnone");
+  const Outcome bad = Run("env @a.env --json");
   EXPECT_EQ(bad.status, 1);
-  EXPECT_FALSE(bad.Json()[QLatin1String("read")].toBool(true));
+  EXPECT_FALSE(bad["read"].toBool(true));
 }
 
 TEST_F(WithInstrument, MeasuresAWholeDayOfSamples) {
@@ -159,10 +158,8 @@ TEST_F(WithInstrument, MeasuresAWholeDayOfSamples) {
   const Outcome outcome = Measure("--samples 10 --averaging 15 --sampling-time 400");
   EXPECT_EQ(outcome.status, 0) << outcome.err.constData();
   EXPECT_EQ(outcome.err, "");
-  EXPECT_EQ(outcome.Json()[QLatin1String("samples")].toArray().size(), 10);
-  QFile file(File("out.csv"));
-  ASSERT_TRUE(file.open(QIODevice::ReadOnly));
-  EXPECT_EQ(file.readAll().count("\r\n"), 403);
+  EXPECT_EQ(outcome["samples"].toArray().size(), 10);
+  EXPECT_EQ(files.Read("out.csv").count("\r\n"), 403);
 }
 
 struct FaultCase {
@@ -200,20 +197,19 @@ TEST_F(WithInstrument, EveryFaultEndsInItsStatusAndMessageAndTheNextRunWorks) {
   };
   for (const FaultCase& fault : cases) {
     SCOPED_TRACE(fault.options);
-    Start({QStringLiteral("--fault"), QLatin1String(fault.options), QStringLiteral("--replug"),
-           QStringLiteral("50")});
+    Start(QByteArray("--replug 50 --fault ") + fault.options);
     const Outcome outcome = Measure("--reply-timeout 400 --sampling-time 400");
     QJsonObject report = outcome.Json();
     report.remove(QLatin1String("file"));
-    EXPECT_EQ(report, QJsonDocument::fromJson(fault.json).object()) << outcome.out.constData();
+    EXPECT_EQ(report, Object(fault.json)) << outcome.out.constData();
     EXPECT_EQ(outcome.err.toStdString(), fault.messages);
     EXPECT_EQ(outcome.status, *fault.messages == '\0' ? 0 : 1);
-    while (!QFile::exists(File("com5"))) {
-      ASSERT_TRUE(instrument.waitForReadyRead(kTimeoutMs)) << "the port comes back";
+    while (!files.Has("com5")) {
+      ASSERT_TRUE(instrument.waitForReadyRead(test::kTimeoutMs)) << "the port comes back";
     }
     EXPECT_EQ(Measure("--sampling-time 400").status, 0);
     Stop();
-    EXPECT_FALSE(QFile::exists(File("com5")));
+    EXPECT_FALSE(files.Has("com5"));
   }
 }
 

@@ -3,12 +3,12 @@
 
 #include <gtest/gtest.h>
 
-#include <QDir>
-#include <QFile>
+#include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
 #include <QProcess>
-#include <QTemporaryDir>
+
+#include "support/temporary_files.h"
 
 namespace vexa::test {
 
@@ -18,48 +18,49 @@ inline QString Program(const char* name) {
   return QStringLiteral(VEXA_BIN_DIR "/") + QLatin1String(name);
 }
 
+inline QJsonObject Object(const char* text) {
+  return QJsonDocument::fromJson(text).object();
+}
+
+/// How vexa-cli ended.
 struct Outcome {
   int status = -1;
   QByteArray out;
   QByteArray err;
+
   [[nodiscard]] QJsonObject Json() const { return QJsonDocument::fromJson(out).object(); }
+  QJsonValue operator[](const char* name) const { return Json()[QLatin1String(name)]; }
 };
 
-inline Outcome RunCli(const QStringList& arguments) {
-  QProcess process;
-  process.start(Program("vexa-cli"), arguments);
-  EXPECT_TRUE(process.waitForFinished(kTimeoutMs));
-  return {process.exitCode(), process.readAllStandardOutput(), process.readAllStandardError()};
-}
-
-inline QStringList Words(const char* text) {
-  return QString::fromUtf8(text).split(u' ', Qt::SkipEmptyParts);
-}
-
+/// vexa-cli as a program, and files for it in a directory of their own.
 class CommandLine : public testing::Test {
  protected:
-  QString File(const char* name) const { return directory.filePath(QLatin1String(name)); }
-
-  QString Lines(const char* name, int value, int count = 1) const {
-    QFile file(File(name));
-    EXPECT_TRUE(file.open(QIODevice::WriteOnly));
-    for (int i = 0; i < 512 * count; ++i) {
-      file.putChar(static_cast<char>(value & 0xff));
-      file.putChar(static_cast<char>(value >> 8));
+  /// The words of a text; "@NAME" is the file of that name, "@" the directory itself.
+  [[nodiscard]] QStringList Words(const QByteArray& text) const {
+    QStringList words = QString::fromUtf8(text).split(u' ', Qt::SkipEmptyParts);
+    for (QString& word : words) {
+      if (word.startsWith(u'@')) {
+        word = files.Path(word.sliced(1).toUtf8());
+      }
     }
-    return file.fileName();
+    return words;
   }
 
-  QTemporaryDir directory{QDir::tempPath() + QStringLiteral("/測 定-XXXXXX")};
+  [[nodiscard]] Outcome Run(const QByteArray& arguments) const {
+    QProcess process;
+    process.start(Program("vexa-cli"), Words(arguments));
+    EXPECT_TRUE(process.waitForFinished(kTimeoutMs));
+    return {process.exitCode(), process.readAllStandardOutput(), process.readAllStandardError()};
+  }
+
+  TemporaryFiles files;
 };
 
+/// With the virtual instrument at the other end of the link.
 class WithInstrument : public CommandLine {
  protected:
-  void Start(const QStringList& options) {
-    instrument.start(Program("vexa-simulator"),
-                     QStringList{QStringLiteral("--dir"), directory.path(),
-                                 QStringLiteral("--pace"), QStringLiteral("none")} +
-                         options);
+  void Start(const QByteArray& options) {
+    instrument.start(Program("vexa-simulator"), Words("--dir @ --pace none " + options));
     ASSERT_TRUE(instrument.waitForReadyRead(kTimeoutMs))
         << instrument.readAllStandardError().constData();
   }
@@ -72,12 +73,10 @@ class WithInstrument : public CommandLine {
       Stop();
     }
   }
-  Outcome Measure(const char* options) {
-    return RunCli(QStringList{QStringLiteral("measure"), QStringLiteral("--port"),
-                              QStringLiteral("5"), QStringLiteral("--dir"), directory.path(),
-                              QStringLiteral("--out"), File("out.csv"), QStringLiteral("--json")} +
-                  Words(options));
+  [[nodiscard]] Outcome Measure(const QByteArray& options) const {
+    return Run("measure --port 5 --dir @ --out @out.csv --json " + options);
   }
+
   QProcess instrument;
 };
 

@@ -26,6 +26,8 @@ class TemporaryFiles {
     return file.fileName();
   }
 
+  [[nodiscard]] bool Has(const char* name) const { return QFile::exists(Path(name)); }
+
   [[nodiscard]] QByteArray Read(const char* name) const {
     QFile file(Path(name));
     EXPECT_TRUE(file.open(QIODevice::ReadOnly)) << name;
