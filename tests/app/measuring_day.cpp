@@ -16,6 +16,7 @@
 #include "files/session_image.h"
 #include "instrument/frm_com_h8_ctrl.h"
 #include "instrument/serial_port_path.h"
+#include "support/prepared_files.h"
 #include "views/common/theme.h"
 
 namespace vexa {
@@ -38,16 +39,6 @@ class Answers : public MessageService {
     return MessageResult::kOk;
   }
   void Beep() override {}
-};
-
-class NoFiles : public FileDialogs {
- public:
-  std::optional<QString> AskOpen(const QString& /*title*/, const QString& /*filter*/) override {
-    return std::nullopt;
-  }
-  std::optional<SaveChoice> AskSave(const QString& /*title*/, const QString& /*filter*/) override {
-    return std::nullopt;
-  }
 };
 
 void TellState(const char* what, const VEXATYPE& state) {
@@ -96,7 +87,7 @@ void Step(VEXA& window, std::mt19937& random) {
 
 int Run(const QString& directory, unsigned seed, int steps) {
   Answers messages;
-  NoFiles files;
+  test::PreparedFiles files;  // none: every file dialog is cancelled
   // Whole seconds, as the sample information shows and so keeps them.
   VEXA window({messages, files,
                [] { return QDateTime::fromSecsSinceEpoch(QDateTime::currentSecsSinceEpoch()); },

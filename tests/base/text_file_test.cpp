@@ -2,15 +2,13 @@
 #include "base/text_file.h"
 
 #include <gtest/gtest.h>
-#include <sys/resource.h>
 
 #include <QDir>
-#include <QFile>
-#include <QTemporaryDir>
-#include <csignal>
 
 #include "base/header_version.h"
 #include "base/number_text.h"
+#include "support/full_disk.h"
+#include "support/temporary_files.h"
 
 namespace vexa {
 namespace {
@@ -99,34 +97,25 @@ TEST(TextReader, ValuesThatAreNoneAreFaults) {
 }
 
 TEST(FileText, ReplacesItsFileWholeOrNotAtAll) {
-  const QTemporaryDir directory(QDir::tempPath() + QStringLiteral("/表 示-XXXXXX"));
-  const QString path = directory.filePath(QStringLiteral("設定 1.env"));
-  const auto content = [&path] {
-    QFile file(path);
-    EXPECT_TRUE(file.open(QIODevice::ReadOnly));
-    return file.readAll();
-  };
+  const test::TemporaryFiles files;
+  const char* const name = "設定 1.env";
   FileText old;
   old.Line(QStringLiteral("ﾌｧｲﾙ")).Number(440).Number(-7.6123911E-05).Flag(true).Flag(false);
-  ASSERT_TRUE(old.WriteTo(path));
+  ASSERT_TRUE(old.WriteTo(files.Path(name)));
   const QByteArray before = "\xcc\xa7\xb2\xd9\r\n 440 \r\n-7.6123911E-05 \r\n#TRUE#\r\n#FALSE#\r\n";
-  EXPECT_EQ(content(), before);
+  EXPECT_EQ(files.Read(name), before);
 
   FileText longer;
   for (int i = 0; i < 2000; ++i) {
     longer.Number(i);
   }
-  // The device takes only so many bytes.
-  std::signal(SIGXFSZ, SIG_IGN);
   for (const rlim_t limit : {0UL, 1UL, 100UL, 4096UL, 5000UL}) {
-    rlimit whole{};
-    getrlimit(RLIMIT_FSIZE, &whole);
-    const rlimit small{limit, whole.rlim_max};
-    setrlimit(RLIMIT_FSIZE, &small);
-    EXPECT_FALSE(longer.WriteTo(path)) << limit;
-    setrlimit(RLIMIT_FSIZE, &whole);
-    EXPECT_EQ(content(), before) << limit;
-    EXPECT_EQ(QDir(directory.path()).entryList(QDir::Files).size(), 1) << "nothing is left behind";
+    {
+      const test::FullDisk disk(limit);
+      EXPECT_FALSE(longer.WriteTo(files.Path(name))) << limit;
+    }
+    EXPECT_EQ(files.Read(name), before) << limit;
+    EXPECT_EQ(QDir(files.Directory()).entryList(QDir::Files).size(), 1) << "nothing is left behind";
   }
   EXPECT_FALSE(longer.WriteTo(QStringLiteral("/nowhere/file")));
 }

@@ -2,11 +2,10 @@
 #include "files/journal.h"
 
 #include <gtest/gtest.h>
-#include <sys/resource.h>
 
 #include <algorithm>
-#include <csignal>
 
+#include "support/full_disk.h"
 #include "support/temporary_files.h"
 
 namespace vexa {
@@ -130,14 +129,10 @@ TEST(Journal, FullDiskLosesNothingThatWasKept) {
   Journal journal(files.Directory());
   ASSERT_TRUE(journal.Append(ChangeRecord(moments[0], moments[1])));
 
-  std::signal(SIGXFSZ, SIG_IGN);
-  rlimit whole{};
-  getrlimit(RLIMIT_FSIZE, &whole);
-  const rlimit small{5000, whole.rlim_max};
-  setrlimit(RLIMIT_FSIZE, &small);
-  const bool written = journal.Append(ChangeRecord(moments[1], moments[2]));
-  setrlimit(RLIMIT_FSIZE, &whole);
-  EXPECT_FALSE(written);
+  {
+    const test::FullDisk disk(5000);
+    EXPECT_FALSE(journal.Append(ChangeRecord(moments[1], moments[2])));
+  }
   EXPECT_EQ(ReadJournal(files.Read("vexa.journal")).image, moments[1]);
 
   ASSERT_TRUE(journal.Append(ChangeRecord(moments[1], moments[3])));

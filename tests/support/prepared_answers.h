@@ -21,6 +21,8 @@ inline void PrintTo(const ShownMessage& message, std::ostream* out) {
   *out << '"' << message.text << "\" (" << message.type << ')';
 }
 
+using Shown = std::vector<ShownMessage>;
+
 /// Keeps every message and gives the prepared answers one after another, then OK.
 class PreparedAnswers : public MessageService {
  public:
@@ -33,13 +35,13 @@ class PreparedAnswers : public MessageService {
   }
   void Beep() override { ++beeps; }
 
-  std::vector<ShownMessage> Take() { return std::exchange(shown_, {}); }
+  Shown Take() { return std::exchange(shown_, {}); }
 
   std::deque<MessageResult> answers;
   int beeps = 0;
 
  private:
-  std::vector<ShownMessage> shown_;
+  Shown shown_;
 };
 
 }  // namespace vexa::test

@@ -7,13 +7,11 @@
 #include <termios.h>
 #include <unistd.h>
 
-#include <QDir>
-#include <QFile>
 #include <QTimer>
 
 namespace vexa::test {
 
-ScriptedPeer::ScriptedPeer() : directory_(QDir::tempPath() + QStringLiteral("/測定 器-XXXXXX")) {
+ScriptedPeer::ScriptedPeer() {
   Plug();
 }
 
@@ -21,12 +19,8 @@ ScriptedPeer::~ScriptedPeer() {
   Unplug();
 }
 
-QString ScriptedPeer::Directory() const {
-  return directory_.path();
-}
-
 QString ScriptedPeer::Path() const {
-  return directory_.filePath(QStringLiteral("com5"));
+  return files.Path("com5");
 }
 
 std::vector<std::string> ScriptedPeer::TakeFrames() {

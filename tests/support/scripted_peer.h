@@ -5,10 +5,11 @@
 #include <QObject>
 #include <QSocketNotifier>
 #include <QString>
-#include <QTemporaryDir>
 #include <map>
 #include <memory>
 #include <vector>
+
+#include "support/temporary_files.h"
 
 namespace vexa::test {
 
@@ -36,9 +37,9 @@ class ScriptedPeer : public QObject {
   ScriptedPeer();
   ~ScriptedPeer() override;
 
-  /// Path of the link to the terminal, "com5" in a directory of blanks and Japanese letters.
+  /// Path of the link to the terminal, "com5" among `files`.
   [[nodiscard]] QString Path() const;
-  [[nodiscard]] QString Directory() const;
+  [[nodiscard]] QString Directory() const { return files.Directory(); }
 
   void At(int frame, PeerAction action) { actions_[received_ + frame] = action; }
   void SetLines(QByteArray lines) { lines_ = std::move(lines); }
@@ -52,6 +53,8 @@ class ScriptedPeer : public QObject {
   /// Plugs a terminal in again after kUnplug.
   void Plug();
 
+  const TemporaryFiles files;
+
  private:
   void Unplug();
   void WritePending();
@@ -59,7 +62,6 @@ class ScriptedPeer : public QObject {
   void Answer(const QByteArray& frame, PeerAction action);
   [[nodiscard]] QByteArray ReplyTo(const QByteArray& frame) const;
 
-  QTemporaryDir directory_;
   int master_ = -1;
   std::unique_ptr<QSocketNotifier> notifier_;
   QByteArray pending_;

@@ -3,13 +3,9 @@
 
 #include <QApplication>
 #include <QClipboard>
-#include <QDir>
-#include <QFile>
-#include <QTemporaryDir>
 
 #include "colour/stock_file.h"
-#include "support/prepared_answers.h"
-#include "support/prepared_files.h"
+#include "support/window_test.h"
 #include "views/colour/background_picture.h"
 #include "views/colour/colour_difference_window.h"
 #include "views/colour/stock_window.h"
@@ -17,6 +13,7 @@
 namespace vexa {
 namespace {
 
+using test::Shown;
 using test::ShownMessage;
 
 const ShownMessage kReadError{
@@ -24,26 +21,11 @@ const ShownMessage kReadError{
     "VEXA-KT 440-840 Ver3.21 Stock Fileﾌｧｲﾙではありません\r\rﾌｧｲﾙを確認してください。",
     16};
 
-class Stock : public testing::Test {
+class Stock : public test::WindowTest {
  protected:
-  void Press(const char* name) { window.findChild<QPushButton*>(QLatin1String(name))->click(); }
-  QByteArray Content(const QString& path) {
-    QFile file(path);
-    EXPECT_TRUE(file.open(QIODevice::ReadOnly));
-    return file.readAll();
-  }
-  QString Write(const char* name, const QByteArray& content) {
-    QFile file(directory.filePath(QLatin1String(name)));
-    EXPECT_TRUE(file.open(QIODevice::WriteOnly));
-    file.write(content);
-    return file.fileName();
-  }
+  QWidget& Window() override { return window; }
 
-  QTemporaryDir directory{QDir::tempPath() + QStringLiteral("/累 積-XXXXXX")};
-  VEXATYPE state;
-  test::PreparedAnswers messages;
-  test::PreparedFiles files;
-  StockWindow window{state, messages, files, std::make_shared<BackgroundPicture>(messages)};
+  StockWindow window{state, messages, dialogs, std::make_shared<BackgroundPicture>(messages)};
 };
 
 TEST_F(Stock, SavesLoadsAndClears) {
@@ -53,11 +35,10 @@ TEST_F(Stock, SavesLoadsAndClears) {
   (void)state.stock.StockAdd({.x = 0.25, .y = 0.3, .Y = 5.0}, true);
   state.stock.Record({true, 4, false});
   window.Refresh();
-  const QString path = directory.filePath(QStringLiteral("点 1.stc"));
-  files.save = SaveChoice{path.chopped(4), 1};
+  dialogs.save = SaveChoice{files.Path("点 1"), 1};
   Press("StockSave");
-  EXPECT_EQ(files.filter, "累積ﾃﾞｰﾀ･ﾌｧｲﾙ(*.stc)|*.stc|");
-  const QByteArray content = Content(path);
+  EXPECT_EQ(dialogs.filter, "累積ﾃﾞｰﾀ･ﾌｧｲﾙ(*.stc)|*.stc|");
+  const QByteArray content = files.Read("点 1.stc");
   EXPECT_EQ(content,
             "VEXA-KT 440-840 Ver3.21 Stock File\r\nTrue\r\n 4 \r\nFalse\r\n 2 \r\n"
             "0.312700,0.329000,4.500000\r\n0.250000,0.300000,5.000000\r\n");
@@ -67,23 +48,21 @@ TEST_F(Stock, SavesLoadsAndClears) {
   messages.answers = {MessageResult::kNo};
   Press("StockSave");
   EXPECT_EQ(messages.Take().size(), 1U);
-  EXPECT_EQ(Content(path), content) << "not replaced";
+  EXPECT_EQ(files.Read("点 1.stc"), content) << "not replaced";
   Press("StockClearAll");
   EXPECT_EQ(state.stock.Count, 0);
   EXPECT_EQ(state.stock.P1[0], 0.0);
 
   int changes = 0;
   QObject::connect(&window, &StockWindow::StockChanged, &window, [&changes] { ++changes; });
-  files.open = Write("old.stc", QByteArray(content).replace("3.21", "3.00"));
+  dialogs.open = files.Write("old.stc", QByteArray(content).replace("3.21", "3.00"));
   Press("StockLoad");
-  EXPECT_EQ(messages.Take(), std::vector<ShownMessage>{});
+  EXPECT_EQ(messages.Take(), Shown{});
   EXPECT_EQ(state.stock.Count, 2);
   EXPECT_EQ(state.stock.P3[1], 5.0);
   EXPECT_EQ(changes, 1);
-  EXPECT_TRUE(window.findChild<QLabel*>(QStringLiteral("StockWindowCount"))
-                  ->text()
-                  .endsWith(QStringLiteral("2 / 100")));
-  files.save = SaveChoice{directory.filePath(QStringLiteral("missing/x.stc")), 1};
+  EXPECT_TRUE(Text("StockWindowCount").ends_with("2 / 100"));
+  dialogs.save = SaveChoice{files.Path("missing/x.stc"), 1};
   Press("StockSave");
   EXPECT_EQ(messages.Take().at(0).type, 16);
 }
@@ -103,7 +82,7 @@ TEST_F(Stock, FaultyFilesAreShownAndWhatWasReadStays) {
   for (const Case& c : cases) {
     state.stock = {};
     (void)state.stock.StockAdd({.x = 0.3}, true);
-    files.open = Write("x.stc", c.content);
+    dialogs.open = files.Write("x.stc", c.content);
     Press("StockLoad");
     EXPECT_EQ(messages.Take(), std::vector{kReadError}) << c.content;
     EXPECT_EQ(state.stock.Count, c.countLeft) << c.content;
@@ -126,7 +105,7 @@ TEST(ColourDifferenceWindow, ComparesEveryOtherValidSlotWithTheStandard) {
   Fill(*state.Slot(7), 0.0, 0.0, "黒");
   Fill(*state.Slot(9), 60.0, 12.0, "明るい");
   ColourDifferenceWindow window(state, 4);
-  window.findChild<QPushButton*>(QStringLiteral("CopyTable"))->click();
+  test::Click(window, "CopyTable");
   const QStringList rows = QApplication::clipboard()->text().split(u'\n', Qt::SkipEmptyParts);
   ASSERT_EQ(rows.size(), 4);
   EXPECT_EQ(rows[0], QStringLiteral("ｽﾛｯﾄ\t試料No\tΔL*\tΔa*\tΔb*\tΔC*\tΔH*\tΔE*ab\tΔE00"));

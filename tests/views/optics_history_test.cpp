@@ -2,17 +2,11 @@
 #include <gtest/gtest.h>
 
 #include <QAction>
-#include <QCheckBox>
-#include <QFile>
 #include <QPainter>
-#include <QPushButton>
-#include <QTemporaryDir>
-#include <QTest>
 #include <QTimer>
 
 #include "support/pdf_words.h"
-#include "support/prepared_answers.h"
-#include "support/prepared_files.h"
+#include "support/window_test.h"
 #include "views/optics/history_plot.h"
 #include "views/optics/optics_print.h"
 #include "views/optics/thick_g_set_dlg.h"
@@ -22,10 +16,15 @@
 namespace vexa {
 namespace {
 
+using test::Child;
+using test::Click;
+using test::Shown;
 using test::ShownMessage;
 
-class History : public testing::Test {
+class History : public test::WindowTest {
  protected:
+  QWidget& Window() override { return window; }
+
   void Add(const std::vector<double>& thicknesses, bool physical = true) {
     for (const double thickness : thicknesses) {
       window.AddPointProc(thickness, physical);
@@ -33,31 +32,13 @@ class History : public testing::Test {
   }
   // Number of points, thickness at the cursor and its index, as shown.
   std::string Labels() {
-    QStringList texts;
-    for (const char* name : {"TotalCount", "Thickness", "DataIndex"}) {
-      texts << window.findChild<QLabel*>(QLatin1String(name))->text();
-    }
-    return texts.join(u' ').toStdString();
+    return Text("TotalCount") + ' ' + Text("Thickness") + ' ' + Text("DataIndex");
   }
-  QPushButton* Button(const char* name) {
-    return window.findChild<QPushButton*>(QLatin1String(name));
-  }
-  void Choose(const char* action) { window.findChild<QAction*>(QLatin1String(action))->trigger(); }
-  QCPRange Scale() {
-    return window.findChild<HistoryPlot*>(QStringLiteral("HistoryPlot"))->yAxis->range();
-  }
-  QString File(const char* name) const { return directory.filePath(QString::fromUtf8(name)); }
-  static QByteArray Bytes(const QString& path) {
-    QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-  }
+  void Choose(const char* action) { Find<QAction>(action).trigger(); }
+  QCPRange Scale() { return Find<HistoryPlot>("HistoryPlot").yAxis->range(); }
 
-  VEXATYPE state;
-  test::PreparedAnswers messages;
-  test::PreparedFiles files;
-  QTemporaryDir directory{QDir::tempPath() + QStringLiteral("/履 歴-XXXXXX")};
-  CurrentPrinter printer{state, messages, files};
-  ThickGraph window{state, messages, files, printer};
+  CurrentPrinter printer{state, messages, dialogs};
+  ThickGraph window{state, messages, dialogs, printer};
 };
 
 TEST_F(History, GrowsToFiftyPointsAndNoFurther) {
@@ -69,8 +50,7 @@ TEST_F(History, GrowsToFiftyPointsAndNoFurther) {
   EXPECT_TRUE(messages.Take().empty());
   Add({1700.0});
   EXPECT_EQ(messages.Take(),
-            (std::vector{ShownMessage{
-                "VEXA-KT: ｸﾞﾗﾌ･ﾃﾞｰﾀ数が最大ﾃﾞｰﾀ数を越えました。　(最大ﾃﾞｰﾀ数 50 ﾎﾟｲﾝﾄ)", 48}}));
+            (Shown{{"VEXA-KT: ｸﾞﾗﾌ･ﾃﾞｰﾀ数が最大ﾃﾞｰﾀ数を越えました。　(最大ﾃﾞｰﾀ数 50 ﾎﾟｲﾝﾄ)", 48}}));
   EXPECT_EQ(Labels(), "50 1600.0 50");
 }
 
@@ -88,10 +68,10 @@ TEST_F(History, KeepsPhysicalAndOpticalThicknessesApart) {
 TEST_F(History, AddsTheThicknessOfTheCurrentSlot) {
   const ShownMessage notSetUp{"VEXA-KT ﾜｰﾆﾝｸﾞ: 膜厚測定が設定されていません。", 48};
   const ShownMessage nothing{"VEXA-KT 情報: 有効ﾃﾞｰﾀがありません。", 64};
-  Button("AddPoint")->click();
+  Press("AddPoint");
   EXPECT_EQ(messages.Take(), std::vector{notSetUp});
   state.thickness.enabled = true;
-  Button("AddPoint")->click();
+  Press("AddPoint");
   EXPECT_EQ(messages.Take(), std::vector{nothing});
   state.Slot(3)->valid = true;
   state.Slot(3)->thickness = {.first = {700.0, 4.0},
@@ -100,7 +80,7 @@ TEST_F(History, AddsTheThicknessOfTheCurrentSlot) {
                               .physical = false,
                               .extrema = {}};
   window.SetCurrentSlot(3);
-  Button("AddPoint")->click();
+  Press("AddPoint");
   EXPECT_EQ(Labels(), "1 2800.0 1");
   EXPECT_FALSE(state.thicknessHistory.physical) << "as it was computed, whatever is set now";
 }
@@ -108,29 +88,30 @@ TEST_F(History, AddsTheThicknessOfTheCurrentSlot) {
 TEST_F(History, CursorStepsAtOnceAndRepeatsWhileTheButtonIsHeld) {
   window.show();
   Add({100.0, 200.0, 300.0, 400.0});
-  QTest::mouseClick(Button("CursorLeft"), Qt::LeftButton);
+  auto* left = &Find<QAbstractButton>("CursorLeft");
+  QTest::mouseClick(left, Qt::LeftButton);
   EXPECT_EQ(Labels(), "4 300.0 3");
-  QTest::mousePress(Button("CursorLeft"), Qt::LeftButton);
+  QTest::mousePress(left, Qt::LeftButton);
   EXPECT_EQ(Labels(), "4 200.0 2");
   EXPECT_TRUE(QTest::qWaitFor([this] { return Labels() == "4 100.0 1"; }));
-  QTest::mouseRelease(Button("CursorLeft"), Qt::LeftButton);
+  QTest::mouseRelease(left, Qt::LeftButton);
   for (int i = 0; i < 5; ++i) {
-    QTest::mouseClick(Button("CursorRight"), Qt::LeftButton);
+    QTest::mouseClick(&Find<QAbstractButton>("CursorRight"), Qt::LeftButton);
   }
   EXPECT_EQ(Labels(), "4 400.0 4") << "the cursor stays on the points";
 }
 
 TEST_F(History, DeletesThePointAtTheCursor) {
-  Button("DeletePoint")->click();
-  EXPECT_EQ(messages.Take(), (std::vector{ShownMessage{"VEXA-KT: ﾃﾞｰﾀがありません。", 48}}));
+  Press("DeletePoint");
+  EXPECT_EQ(messages.Take(), (Shown{{"VEXA-KT: ﾃﾞｰﾀがありません。", 48}}));
   Add({100.0, 2000.0, 300.0});
-  Button("CursorLeft")->pressed();
-  Button("DeletePoint")->click();
+  emit Find<QAbstractButton>("CursorLeft").pressed();
+  Press("DeletePoint");
   EXPECT_EQ(Labels(), "2 300.0 2");
   EXPECT_EQ(Scale(), QCPRange(100.0, 300.0));
-  Button("DeletePoint")->click();
+  Press("DeletePoint");
   EXPECT_EQ(Labels(), "1 100.0 1");
-  Button("DeletePoint")->click();
+  Press("DeletePoint");
   EXPECT_EQ(Labels(), "0 - -");
 }
 
@@ -138,7 +119,7 @@ TEST_F(History, ClearsAfterAQuestion) {
   Add({100.0, 200.0});
   messages.answers = {MessageResult::kCancel};
   Choose("ClearAll");
-  EXPECT_EQ(messages.Take(), (std::vector{ShownMessage{"VEXA-KT: 測定ﾃﾞｰﾀをｸﾘｱします。", 33}}));
+  EXPECT_EQ(messages.Take(), (Shown{{"VEXA-KT: 測定ﾃﾞｰﾀをｸﾘｱします。", 33}}));
   EXPECT_EQ(Labels(), "2 200.0 2");
   Choose("ClearAll");
   EXPECT_EQ(Labels(), "0 - -");
@@ -146,18 +127,16 @@ TEST_F(History, ClearsAfterAQuestion) {
 
 TEST_F(History, APointOffTheScaleKeepsTheScale) {
   Add({1510.0, 1630.0, 20001.0});
-  EXPECT_EQ(
-      messages.Take(),
-      (std::vector{ShownMessage{"VEXA-KT: 設定にｴﾗｰが発生しました。変更はされません。", 48}}));
+  EXPECT_EQ(messages.Take(), (Shown{{"VEXA-KT: 設定にｴﾗｰが発生しました。変更はされません。", 48}}));
   EXPECT_EQ(Scale(), QCPRange(1500.0, 1650.0));
 }
 
 TEST_F(History, IsSaved) {
   Add({1500.0, 1512.25});
-  files.save = SaveChoice{File("履歴"), 1};
+  dialogs.save = SaveChoice{files.Path("履歴"), 1};
   Choose("SaveAs");
-  EXPECT_EQ(files.filter, "Data File (*.thk)|*.thk");
-  EXPECT_EQ(Bytes(File("履歴.thk")),
+  EXPECT_EQ(dialogs.filter, "Data File (*.thk)|*.thk");
+  EXPECT_EQ(files.Read("履歴.thk"),
             "VEXA-KT 440-840 Ver 3.21 Thickness File\r\n 2\r\n[nm]\r\n 1500\r\n 1512.25\r\n");
   Add({1600.0});
   messages.answers = {MessageResult::kCancel};
@@ -165,11 +144,10 @@ TEST_F(History, IsSaved) {
   EXPECT_EQ(messages.Take(),
             (std::vector{
                 ShownMessage{"VEXA-KT ﾜｰﾆﾝｸﾞ: 同ﾌｧｲﾙ名が存在します。上書き保存しますか？", 49}}));
-  EXPECT_TRUE(Bytes(File("履歴.thk")).endsWith("1512.25\r\n"));
-  files.save = SaveChoice{File("missing/x"), 1};
+  EXPECT_TRUE(files.Read("履歴.thk").endsWith("1512.25\r\n"));
+  dialogs.save = SaveChoice{files.Path("missing/x"), 1};
   Choose("SaveAs");
-  EXPECT_EQ(messages.Take(),
-            (std::vector{ShownMessage{"VEXA-KT ｴﾗｰ: 膜厚履歴ﾌｧｲﾙの書き込みに失敗しました。", 16}}));
+  EXPECT_EQ(messages.Take(), (Shown{{"VEXA-KT ｴﾗｰ: 膜厚履歴ﾌｧｲﾙの書き込みに失敗しました。", 16}}));
 }
 
 TEST_F(History, ScaleDialogKeepsItsLimits) {
@@ -185,22 +163,18 @@ TEST_F(History, ScaleDialogKeepsItsLimits) {
   for (const auto& c : cases) {
     ThickGSetDlg dialog({0.0, 100.0}, true, messages);
     dialog.show();
-    auto* minimum = dialog.findChild<QLineEdit*>(QStringLiteral("Minimum"));
-    auto* maximum = dialog.findChild<QLineEdit*>(QStringLiteral("Maximum"));
-    EXPECT_FALSE(maximum->isEnabled());
-    dialog.findChild<QCheckBox*>(QStringLiteral("AutoScale"))->click();
-    EXPECT_EQ(maximum->selectedText(), QStringLiteral("100"));
-    QTest::keyClicks(maximum, QLatin1String(c.maximum));
-    minimum->selectAll();
-    QTest::keyClick(minimum, Qt::Key_Delete);
-    QTest::keyClicks(minimum, QLatin1String(c.minimum));
-    dialog.findChild<QPushButton*>(QStringLiteral("OK"))->click();
+    EXPECT_FALSE(Child<QLineEdit>(dialog, "Maximum").isEnabled());
+    Click(dialog, "AutoScale");
+    EXPECT_EQ(Child<QLineEdit>(dialog, "Maximum").selectedText(), QStringLiteral("100"));
+    test::Type(dialog, "Maximum", c.maximum);
+    test::Type(dialog, "Minimum", c.minimum);
+    Click(dialog, "OK");
     EXPECT_EQ(dialog.Outcome(), c.accepted ? QStringLiteral("OK") : QStringLiteral("CANCEL"))
         << c.minimum << ".." << c.maximum;
     EXPECT_EQ(dialog.isVisible(), !c.accepted);
     const ShownMessage refusal{
         "VEXA-KT ｴﾗｰ: ｽｹｰﾙ設定が設定範囲を越えています。(0 ≦ 設定値 ≦ 20000)", 16};
-    EXPECT_EQ(messages.Take(), c.accepted ? std::vector<ShownMessage>{} : std::vector{refusal});
+    EXPECT_EQ(messages.Take(), c.accepted ? Shown{} : std::vector{refusal});
   }
 }
 
@@ -208,10 +182,10 @@ TEST_F(History, TakesTheScaleOfTheDialog) {
   Add({1510.0, 1630.0});
   const auto answer = [this](const char* button) {
     QTimer::singleShot(0, &window, [this, button] {
-      auto* dialog = window.findChild<ThickGSetDlg*>();
-      dialog->findChild<QCheckBox*>(QStringLiteral("AutoScale"))->setChecked(false);
-      dialog->findChild<QLineEdit*>(QStringLiteral("Maximum"))->setText(QStringLiteral("3000"));
-      dialog->findChild<QPushButton*>(QLatin1String(button))->click();
+      const auto& dialog = *window.findChild<ThickGSetDlg*>();
+      Child<QAbstractButton>(dialog, "AutoScale").setChecked(false);
+      Child<QLineEdit>(dialog, "Maximum").setText(QStringLiteral("3000"));
+      Click(dialog, button);
     });
     Choose("GraphSettings");
   };
@@ -233,8 +207,8 @@ TEST_F(History, PagesFitOntoPaper) {
       },
       [&list](QPainter& painter, const QRectF& page) { PaintWaveListPage(painter, page, list); }};
   for (const auto& paint : pages) {
-    EXPECT_TRUE(WritePdf(File("頁.pdf"), {}, PageLayoutOf({}), SinglePage(paint)));
-    const std::vector<QRectF> words = test::PdfWordPlaces(File("頁.pdf"));
+    EXPECT_TRUE(WritePdf(files.Path("頁.pdf"), {}, PageLayoutOf({}), SinglePage(paint)));
+    const std::vector<QRectF> words = test::PdfWordPlaces(files.Path("頁.pdf"));
     EXPECT_GT(words.size(), 100U);
     for (const QRectF& word : words) {
       EXPECT_TRUE(QRectF(0.05, 0.03, 0.9, 0.94).contains(word)) << word.x() << ' ' << word.y();

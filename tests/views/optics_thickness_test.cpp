@@ -2,14 +2,11 @@
 #include <gtest/gtest.h>
 
 #include <QCheckBox>
-#include <QPushButton>
-#include <QTest>
 #include <QTreeWidget>
 #include <cmath>
 #include <numbers>
 
-#include "support/prepared_answers.h"
-#include "support/prepared_files.h"
+#include "support/window_test.h"
 #include "views/optics/jamp_wave.h"
 #include "views/optics/thickness_panel.h"
 #include "views/optics/wave_list_dlg.h"
@@ -20,8 +17,10 @@ namespace {
 
 using test::ShownMessage;
 
-class Thickness : public testing::Test {
+class Thickness : public test::WindowTest {
  protected:
+  QWidget& Window() override { return panel; }
+
   // Fringes of a film without dispersion: minima where 2 n d is a whole number of wavelengths.
   void Fill(int slot, double opticalNm) {
     state.Slot(slot)->valid = true;
@@ -29,15 +28,9 @@ class Thickness : public testing::Test {
       state.Slot(slot)->reflectance[nm] = 5.0 - std::cos(4.0 * std::numbers::pi * opticalNm / nm);
     }
   }
-  std::string Text(const char* name) {
-    return panel.findChild<QLabel*>(QLatin1String(name))->text().toStdString();
-  }
-  void Press() { panel.findChild<QPushButton*>(QStringLiteral("ThicknessButton"))->click(); }
+  void Compute() { Press("ThicknessButton"); }
 
-  VEXATYPE state;
-  test::PreparedAnswers messages;
-  test::PreparedFiles files;
-  CurrentPrinter printer{state, messages, files};
+  CurrentPrinter printer{state, messages, dialogs};
   ThicknessPanel panel{state, messages};
 };
 
@@ -47,7 +40,7 @@ TEST_F(Thickness, IsComputedForTheSelectedSlotAndShown) {
   Fill(4, 2400.0);  // minima at 800, 685.7, 600, ... nm
   panel.Show(4);
   EXPECT_EQ(Text("Thickness"), "-");
-  Press();
+  Compute();
   EXPECT_TRUE(messages.Take().empty());
   EXPECT_EQ(Text("Wavelength1"), "686");
   EXPECT_EQ(Text("Wavelength2"), "800");
@@ -56,7 +49,7 @@ TEST_F(Thickness, IsComputedForTheSelectedSlotAndShown) {
   EXPECT_EQ(state.extrema.count, state.Slot(4)->thickness.extrema.count);
 
   state.thickness.kind = ThicknessKind::kOptical;
-  Press();
+  Compute();
   EXPECT_EQ(Text("Thickness"), "2407.0 [nd]");  // 0.5 x 686 x 800 / 114 = 2407.02
   panel.Show(5);
   EXPECT_EQ(Text("Thickness"), "-");
@@ -73,12 +66,12 @@ TEST_F(Thickness, KeepsTheIndexDerivedFromASubstrateWithItsSlot) {
   Fill(4, 2400.0);
   Fill(5, 3200.0);
   panel.Show(4);
-  Press();
+  Compute();
   // sqrt(1.8 N(R)) at a minimum of 4 %, where N is 1.5
   EXPECT_EQ(Text("Index2"), "1.643");
   state.Slot(5)->reflectance[800] = 3.9;
   panel.Show(5);
-  Press();
+  Compute();
   EXPECT_EQ(Text("Index2"), "1.639") << "N(3.9 %) is 1.49215";
   panel.Show(4);
   EXPECT_EQ(Text("Index2"), "1.643");
@@ -90,26 +83,26 @@ TEST_F(Thickness, WithoutAResultThereIsAMessage) {
   const ShownMessage empty{"VEXA-KT 情報: 有効ﾃﾞｰﾀがありません。", 64};
   const ShownMessage tooFew{"VEXA-KT ｴﾗｰ: 検出ピーク数が２個以下で膜厚計算にｴﾗｰが発生しました。",
                             16};
-  Press();
+  Compute();
   EXPECT_EQ(messages.Take(), std::vector{disabled});
   state.thickness.enabled = true;
-  Press();
+  Compute();
   EXPECT_EQ(messages.Take(), std::vector{empty});
   state.Slot(1)->valid = true;  // flat: no extremum
-  Press();
+  Compute();
   EXPECT_EQ(messages.Take(), std::vector{tooFew});
   EXPECT_EQ(Text("Thickness"), "-");
 }
 
 TEST_F(Thickness, AutomaticMeasurementIsAChoice) {
-  auto* automatic = panel.findChild<QCheckBox*>(QStringLiteral("AutoMesThickChk"));
-  automatic->click();
+  auto& automatic = Find<QCheckBox>("AutoMesThickChk");
+  automatic.click();
   EXPECT_TRUE(state.autoThickness);
-  automatic->click();
+  automatic.click();
   EXPECT_FALSE(state.autoThickness);
   state.autoThickness = true;
   panel.Show(1);
-  EXPECT_TRUE(automatic->isChecked());
+  EXPECT_TRUE(automatic.isChecked());
 }
 
 TEST_F(Thickness, WavelengthListHasARowForEachExtremum) {
@@ -138,15 +131,11 @@ TEST_F(Thickness, JumpTakesAWholeNumber) {
     state.display.view = view;
     JampWave dialog(state);
     dialog.show();
-    EXPECT_EQ(dialog.windowTitle(), QStringLiteral("ｼﾞｬﾝﾌﾟ"));
-    EXPECT_EQ(dialog.findChild<QLabel*>(QStringLiteral("Unit"))->text(),
+    EXPECT_EQ(test::Child<QLabel>(dialog, "Unit").text(),
               view == 6 ? QStringLiteral("[1/nm]") : QStringLiteral("[nm]"));
-    auto* field = dialog.findChild<QLineEdit*>(QStringLiteral("Wavelength"));
     EXPECT_EQ(dialog.Outcome(), QStringLiteral("CANCEL"));
-    QTest::keyClicks(field, QStringLiteral("-6.5 x0 0e"));
-    EXPECT_EQ(field->text(), QStringLiteral("6500"));
-    QTest::keyClick(field, Qt::Key_Backspace);
-    dialog.findChild<QPushButton*>(QStringLiteral("OK"))->click();
+    EXPECT_EQ(test::Type(dialog, "Wavelength", "-6.5 x0 e"), QStringLiteral("650"));
+    test::Click(dialog, "OK");
     EXPECT_EQ(dialog.Outcome(), QStringLiteral("OK"));
     EXPECT_EQ(dialog.Wavelength(), 650);
   }

@@ -2,23 +2,18 @@
 #include <gtest/gtest.h>
 
 #include <QCheckBox>
-#include <QDir>
-#include <QFile>
-#include <QPushButton>
-#include <QRadioButton>
-#include <QTemporaryDir>
+#include <QGroupBox>
 
 #include "measurement/evaluation.h"
 #include "standards/standard_file.h"
-#include "support/prepared_answers.h"
-#include "support/prepared_files.h"
+#include "support/window_test.h"
 #include "views/standards/standard_frm.h"
 
 namespace vexa {
 namespace {
 
+using test::Shown;
 using test::ShownMessage;
-using Shown = std::vector<ShownMessage>;
 
 const ShownMessage kExists{"VEXA-KT ﾜｰﾆﾝｸﾞ: 同ﾌｧｲﾙ名が存在します。上書き保存しますか？", 52};
 const ShownMessage kUnsaved{"VEXA-KT ﾒｯｾｰｼﾞ: 規格ﾌｧｲﾙがｾｰﾌﾞされていません。ｾｰﾌﾞしますか。", 36};
@@ -36,65 +31,47 @@ StandardContents Example() {
   return contents;
 }
 
-class StandardsWindow : public testing::Test {
+class StandardsWindow : public test::WindowTest {
  protected:
   StandardsWindow() { Open(); }
 
   void Open() { window = std::make_unique<StandardFrm>(state, messages, dialogs); }
+  QWidget& Window() override { return *window; }
 
-  template <typename Widget>
-  Widget* Find(const char* name) {
-    auto* widget = window->findChild<Widget*>(QLatin1String(name));
-    EXPECT_NE(widget, nullptr) << name;
-    return widget;
-  }
-
-  void Press(const char* button) { Find<QPushButton>(button)->click(); }
   void Enter(const char* field, const char* text) {
-    auto* line = Find<QLineEdit>(field);
-    line->setText(QLatin1String(text));
-    emit line->editingFinished();
+    auto& line = Find<QLineEdit>(field);
+    line.setText(QLatin1String(text));
+    emit line.editingFinished();
   }
-  void Use(const char* group) { Find<QGroupBox>(group)->setChecked(true); }
+  void Use(const char* group) { Find<QGroupBox>(group).setChecked(true); }
   void Use(int condition) {
-    Find<QCheckBox>(qPrintable(QStringLiteral("condition%1").arg(condition)))->setChecked(true);
+    Find<QCheckBox>(qPrintable(QStringLiteral("condition%1").arg(condition))).setChecked(true);
   }
-  std::string Text(const char* label) { return Find<QLabel>(label)->text().toStdString(); }
-
-  QString Path(const char* name) const { return directory.filePath(QString::fromUtf8(name)); }
+  bool HintIsShown() { return Find<QWidget>("fileHint").isVisibleTo(window.get()); }
   QString Write(const char* name, const StandardContents& contents) const {
-    EXPECT_TRUE(WriteStandardFile(Path(name), contents.standard, contents.chromaMarker,
+    EXPECT_TRUE(WriteStandardFile(files.Path(name), contents.standard, contents.chromaMarker,
                                   contents.hueMarker));
-    return Path(name);
-  }
-  static QByteArray Bytes(const QString& path) {
-    QFile file(path);
-    EXPECT_TRUE(file.open(QIODevice::ReadOnly));
-    return file.readAll();
+    return files.Path(name);
   }
 
-  QTemporaryDir directory{QDir::tempPath() + QStringLiteral("/規 格-XXXXXX")};
-  VEXATYPE state;
-  test::PreparedAnswers messages;
-  test::PreparedFiles dialogs;
   std::unique_ptr<StandardFrm> window;
 };
 
 TEST_F(StandardsWindow, OkTakesTheEntriesOverAndJudgesAgain) {
   EXPECT_EQ(window->windowTitle(), QStringLiteral("規格設定"));
-  EXPECT_TRUE(Find<QWidget>("fileHint")->isVisibleTo(window.get()));
+  EXPECT_TRUE(HintIsShown());
   MeasurementSlot& slot = *state.Slot(2);
   slot.valid = true;
   slot.reflectance[550] = 2.0;
   Use("useReflectance");
   Use(1);
-  EXPECT_TRUE(Find<QLineEdit>("condition1Upper")->isEnabled());
-  EXPECT_FALSE(Find<QLineEdit>("condition2Upper")->isEnabled());
+  EXPECT_TRUE(Find<QLineEdit>("condition1Upper").isEnabled());
+  EXPECT_FALSE(Find<QLineEdit>("condition2Upper").isEnabled());
   Enter("condition1Wavelength", "550");
   Enter("condition1Upper", "1.5");
   Use("wavelengthValue");
-  Find<QRadioButton>("bottom")->click();
-  Find<QCheckBox>("hueMarkerShown")->setChecked(true);
+  Press("bottom");
+  Press("hueMarkerShown");
   Enter("hueMarkerValue", "270");
   Press("btnOK");
   EXPECT_EQ(messages.Take(), Shown{});
@@ -137,55 +114,43 @@ TEST_F(StandardsWindow, CancelChangesNothing) {
 
 TEST_F(StandardsWindow, RefusesFaultyEntriesAndStaysOpen) {
   struct Case {
-    std::vector<const char*> groups;
+    const char* group;
     std::vector<int> conditions;
-    std::vector<std::pair<const char*, const char*>> entries;
+    const char* field;
+    const char* text;
     const char* message;
   };
+  const char* const kBand = "useReflectance";
+  const char* const kMean = "averageReflectance";
+  const char* const kLuminous = "luminousReflectance";
   const Case cases[] = {
-      {{"useReflectance"}, {1}, {{"condition1Wavelength", "841"}}, "反射率規格波長範囲外エラー"},
-      {{"useReflectance"}, {1}, {{"condition1Lower", "101"}}, "反射率規格大小反転エラー"},
-      {{"useReflectance"}, {1, 10}, {}, "反射率規格同一波長指定エラー"},
-      {{"averageReflectance"},
-       {},
-       {{"averageReflectanceLower", "-1"}},
-       "平均反射率規格規格マイナス指定エラー"},
-      {{"hueAngle"}, {}, {{"hueAngleUpper", "361"}}, "色相角規格範囲外エラー<範囲:0°-360°>"},
-      {{"useReflectance"}, {3}, {{"condition3Wavelength", ""}}, "反射率規格・条件３数値入力エラー"},
-      {{"useReflectance"},
-       {4},
-       {{"condition4Wavelength", "40000"}},
-       "反射率規格・条件４数値入力エラー"},
-      {{"useReflectance"},
-       {10},
-       {{"condition10Upper", "1-"}},
-       "反射率規格・条件１０数値入力エラー"},
-      {{"luminousReflectance"},
-       {},
-       {{"luminousReflectanceLower", "E"}},
-       "視感反射率規格数値入力エラー"},
-      {{"chroma"}, {}, {{"chromaUpper", "1E999"}}, "クロマ規格数値入力エラー"},
+      {kBand, {1}, "condition1Wavelength", "841", "反射率規格波長範囲外エラー"},
+      {kBand, {1}, "condition1Lower", "101", "反射率規格大小反転エラー"},
+      {kBand, {1, 10}, "condition1Lower", "0", "反射率規格同一波長指定エラー"},
+      {kMean, {}, "averageReflectanceLower", "-1", "平均反射率規格規格マイナス指定エラー"},
+      {"hueAngle", {}, "hueAngleUpper", "361", "色相角規格範囲外エラー<範囲:0°-360°>"},
+      {kBand, {3}, "condition3Wavelength", "", "反射率規格・条件３数値入力エラー"},
+      {kBand, {4}, "condition4Wavelength", "40000", "反射率規格・条件４数値入力エラー"},
+      {kBand, {10}, "condition10Upper", "1-", "反射率規格・条件１０数値入力エラー"},
+      {kLuminous, {}, "luminousReflectanceLower", "E", "視感反射率規格数値入力エラー"},
+      {"chroma", {}, "chromaUpper", "1E999", "クロマ規格数値入力エラー"},
   };
   for (const Case& c : cases) {
     Open();
-    for (const char* group : c.groups) {
-      Use(group);
-    }
+    Use(c.group);
     for (const int condition : c.conditions) {
       Use(condition);
     }
-    for (const auto& [field, text] : c.entries) {
-      Enter(field, text);
-    }
+    Enter(c.field, c.text);
     window->show();
-    dialogs.save = SaveChoice{Path("faulty.std")};
+    dialogs.save = SaveChoice{files.Path("faulty.std")};
     for (const char* button : {"btnOK", "save_bt"}) {
       Press(button);
       EXPECT_EQ(messages.Take(), (Shown{{std::string("VEXA-KT ｴﾗｰ: ") + c.message, 48}}));
       EXPECT_TRUE(window->isVisible());
     }
     EXPECT_EQ(state.standard, StandardSet());
-    EXPECT_FALSE(QFile::exists(Path("faulty.std")));
+    EXPECT_FALSE(files.Has("faulty.std"));
   }
 }
 
@@ -207,59 +172,54 @@ TEST_F(StandardsWindow, LoadedFilesAreSavedAgainByteForByte) {
   Press("load_bt");
   EXPECT_EQ(dialogs.filter, "Standard Files (*.std)|*.std");
   EXPECT_EQ(Text("fileName"), "規格ﾌｧｲﾙ名:" + dialogs.open->toStdString());
-  EXPECT_FALSE(Find<QWidget>("fileHint")->isVisibleTo(window.get()));
-  dialogs.save = SaveChoice{Path("写し")};
+  EXPECT_FALSE(HintIsShown());
+  dialogs.save = SaveChoice{files.Path("写し")};
   Press("save_bt");
   EXPECT_EQ(dialogs.filter, "Standard Files (*.std)|*.std");
-  EXPECT_EQ(Bytes(Path("写し.std")), Bytes(*dialogs.open));
+  EXPECT_EQ(files.Read("写し.std"), files.Read("元.std"));
   Press("btnOK");
   EXPECT_EQ(messages.Take(), Shown{});
   EXPECT_EQ(ContentsOf(state), Example());
-  EXPECT_EQ(state.standardFileName, Path("写し.std"));
+  EXPECT_EQ(state.standardFileName, files.Path("写し.std"));
   EXPECT_FALSE(state.standardsChanged) << "they are in the file";
 }
 
 TEST_F(StandardsWindow, UnreadableFilesAreToldAndLeaveTheFields) {
-  QFile old(Path("old.std"));
-  ASSERT_TRUE(old.open(QIODevice::WriteOnly));
-  old.write("VEXA-KT 440-840 Ver 2.99 Standard File\r\n");
-  old.close();
-  const QByteArray whole = Bytes(Write("whole.std", Example()));
-  QFile cut(Path("cut.std"));
-  ASSERT_TRUE(cut.open(QIODevice::WriteOnly));
-  cut.write(whole.left(whole.size() / 2));
-  cut.close();
+  files.Write("old.std", "VEXA-KT 440-840 Ver 2.99 Standard File\r\n");
+  Write("whole.std", Example());
+  const QByteArray whole = files.Read("whole.std");
+  files.Write("cut.std", whole.left(whole.size() / 2));
   const std::string unreadable =
       "VEXA-KT ｴﾗｰ: 規格ﾌｧｲﾙの読み込みでエラーが発生しました。\r\r規格ﾌｧｲﾙ名:";
   const std::pair<const char*, std::string> cases[] = {
-      {"old.std", "VEXA-KT: 規格ﾌｧｲﾙ名:" + Path("old.std").toStdString() +
+      {"old.std", "VEXA-KT: 規格ﾌｧｲﾙ名:" + files.Path("old.std").toStdString() +
                       "\r\rVer1.10以前の規格ﾌｧｲﾙは読み込めません。"},
-      {"cut.std", unreadable + Path("cut.std").toStdString()},
-      {"missing.std", unreadable + Path("missing.std").toStdString()},
+      {"cut.std", unreadable + files.Path("cut.std").toStdString()},
+      {"missing.std", unreadable + files.Path("missing.std").toStdString()},
       {"€.std", "VEXA-KT ｴﾗｰ: ﾌｧｲﾙ名に、設定ﾌｧｲﾙに保存できない文字が含まれています。\r\r" +
-                    Path("€.std").toStdString()},
+                    files.Path("€.std").toStdString()},
   };
   for (const auto& [name, message] : cases) {
-    dialogs.open = Path(name);
+    dialogs.open = files.Path(name);
     Press("load_bt");
     EXPECT_EQ(messages.Take(), (Shown{{message, 16}}));
-    EXPECT_FALSE(Find<QGroupBox>("useReflectance")->isChecked());
+    EXPECT_FALSE(Find<QGroupBox>("useReflectance").isChecked());
     EXPECT_EQ(Text("fileName"), "規格ﾌｧｲﾙ名:");
   }
 }
 
 TEST_F(StandardsWindow, SavingOverAFileIsAskedAndItsFailureShown) {
-  const QByteArray before = Bytes(Write("a.std", Example()));
-  dialogs.save = SaveChoice{Path("a.std")};
+  dialogs.save = SaveChoice{Write("a.std", Example())};
+  const QByteArray before = files.Read("a.std");
   messages.answers = {MessageResult::kNo};
   Press("save_bt");
   EXPECT_EQ(messages.Take(), (Shown{kExists}));
-  EXPECT_EQ(Bytes(Path("a.std")), before);
+  EXPECT_EQ(files.Read("a.std"), before);
 
-  dialogs.save = SaveChoice{Path("missing/b.std")};
+  dialogs.save = SaveChoice{files.Path("missing/b.std")};
   Press("save_bt");
   EXPECT_EQ(messages.Take(), (Shown{{"VEXA-KT ｴﾗｰ: ﾌｧｲﾙの書き込みでエラーが発生しました。\r\r" +
-                                         Path("missing/b.std").toStdString(),
+                                         files.Path("missing/b.std").toStdString(),
                                      16}}));
   EXPECT_EQ(Text("fileName"), "規格ﾌｧｲﾙ名:");
 }
@@ -303,40 +263,37 @@ TEST_F(StandardsWindow, TellsWhatTheConditionsDoNotTest) {
 }
 
 TEST_F(StandardsWindow, AsksAtTheEndOnlyForChangedStandardsOfANamedFile) {
+  const QString target = files.Path("end.std");
+  const QString bad = files.Path("missing/end.std");
+  const ShownMessage unwritten{
+      "VEXA-KT ｴﾗｰ: ﾌｧｲﾙの書き込みでエラーが発生しました。\r\r" + bad.toStdString(), 16};
+  constexpr MessageResult kYes = MessageResult::kYes;
   struct Case {
     bool changed;
     const char* name;
     MessageResult answer;
     std::optional<QString> save;
     bool goesOn;
-    std::vector<ShownMessage> shown;
+    Shown shown;
   };
-  const QString target = Path("end.std");
-  const QString bad = Path("missing/end.std");
   const Case cases[] = {
-      {false, "a.std", MessageResult::kYes, target, true, {}},
-      {true, "", MessageResult::kYes, target, true, {}},
+      {false, "a.std", kYes, target, true, {}},
+      {true, "", kYes, target, true, {}},
       {true, "a.std", MessageResult::kNo, target, true, {kUnsaved}},
-      {true, "a.std", MessageResult::kYes, std::nullopt, false, {kUnsaved}},
-      {true,
-       "a.std",
-       MessageResult::kYes,
-       bad,
-       false,
-       {kUnsaved,
-        {"VEXA-KT ｴﾗｰ: ﾌｧｲﾙの書き込みでエラーが発生しました。\r\r" + bad.toStdString(), 16}}},
-      {true, "a.std", MessageResult::kYes, target, true, {kUnsaved}},
+      {true, "a.std", kYes, {}, false, {kUnsaved}},
+      {true, "a.std", kYes, bad, false, {kUnsaved, unwritten}},
+      {true, "a.std", kYes, target, true, {kUnsaved}},
   };
   for (const Case& c : cases) {
     state.standardsChanged = c.changed;
     state.standardFileName = QLatin1String(c.name);
     messages.answers = {c.answer};
     dialogs.save = c.save ? std::optional(SaveChoice{*c.save}) : std::nullopt;
-    EXPECT_FALSE(QFile::exists(target));
+    EXPECT_FALSE(files.Has("end.std"));
     EXPECT_EQ(SaveStandardsBeforeExit(state, messages, dialogs), c.goesOn);
     EXPECT_EQ(messages.Take(), c.shown);
   }
-  EXPECT_TRUE(QFile::exists(target));
+  EXPECT_TRUE(files.Has("end.std"));
   EXPECT_EQ(dialogs.filter, "Standard File (*.std)|*.std");
   EXPECT_EQ(state.standardFileName, target);
   EXPECT_FALSE(state.standardsChanged);

@@ -1,0 +1,117 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// The program as a process: the demonstration, and reports without a display.
+#include <gtest/gtest.h>
+
+#include <QFileInfo>
+#include <QImage>
+#include <QProcess>
+#include <QProcessEnvironment>
+#include <algorithm>
+
+#include "files/data_file.h"
+#include "support/pdf_words.h"
+#include "support/temporary_files.h"
+
+namespace vexa {
+namespace {
+
+class Program : public testing::Test {
+ protected:
+  // The exit status. A word "@NAME" is the file of that name.
+  int Run(const char* arguments) {
+    QStringList words = QString::fromUtf8(arguments).split(u' ');
+    for (QString& word : words) {
+      if (word.startsWith(u'@')) {
+        word = files.Path(word.sliced(1).toUtf8());
+      }
+    }
+    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+    for (const char* name : unset) {
+      environment.remove(QLatin1String(name));
+    }
+    QProcess process;
+    process.setProcessEnvironment(environment);
+    process.setWorkingDirectory(files.Directory());
+    process.start(QStringLiteral(VEXA_BIN_DIR "/vexa"), words);
+    EXPECT_TRUE(process.waitForFinished(60000));
+    EXPECT_EQ(process.exitStatus(), QProcess::NormalExit);
+    complaints = static_cast<int>(process.readAllStandardError().count("vexa: "));
+    return process.exitCode();
+  }
+
+  const test::TemporaryFiles files;
+  std::vector<const char*> unset;  ///< variables that the program does not get
+  int complaints = 0;
+};
+
+TEST_F(Program, DemonstrationMeasuresFiveSamplesAndLeavesAFileAndAPicture) {
+  for (const char* arguments : {"--demo @新しい", "--gpib --demo @次"}) {
+    ASSERT_EQ(Run(arguments), 0) << arguments;
+    const QByteArray name = QByteArray(arguments).split('@').last();
+    const QByteArray data = files.Read(name + "/measurement.csv");
+    const QList<QByteArray> row = data.split('\n').at(2 + 550 - 440).split(',');
+    ASSERT_EQ(row.size(), 11);
+    for (int slot = 1; slot <= 10; ++slot) {
+      EXPECT_EQ(row[slot].toDouble() > 0.0, slot <= 5) << slot;
+    }
+    // Bare crown glass, n = 1.5185 at 550 nm: ((n - 1) / (n + 1))^2 = 4.24 %. Its noise at one line
+    // is a few hundredths of a percent.
+    EXPECT_NEAR(row[1].toDouble(), 4.24, 0.25);
+    EXPECT_EQ(QImage(files.Path(name + "/window.png")).size(), QSize(1280, 900));
+    EXPECT_FALSE(QFileInfo(files.Path(name + "/com5")).isSymLink());
+  }
+}
+
+TEST_F(Program, WrongOptionsAreOneLineAndStatusTwo) {
+  for (const char* arguments : {"--nonsense", "--demo", "stray"}) {
+    EXPECT_EQ(Run(arguments), 2) << arguments;
+    EXPECT_EQ(complaints, 1) << arguments;
+  }
+}
+
+class Report : public Program {
+ protected:
+  Report() {
+    unset = {"QT_QPA_PLATFORM", "DISPLAY", "WAYLAND_DISPLAY"};
+    VEXATYPE state;
+    state.Slot(3)->valid = true;
+    std::ranges::fill(state.Slot(3)->reflectance.Values(), 2.5);
+    state.Slot(3)->info.sampleNumber = QStringLiteral("鏡面");
+    EXPECT_TRUE(WriteDataFile(files.Path("測定.csv"), DataFileLayout::kCsv, state));
+  }
+};
+
+TEST_F(Report, IsPrintedWithoutADisplay) {
+  EXPECT_EQ(Run("--report @測定.csv --out @報告.pdf --title 受入検査 --operator 佐藤"), 0);
+  EXPECT_EQ(complaints, 0);
+  const QString text = test::PdfPages(files.Path("報告.pdf")).join(QString());
+  for (const char* expected : {"受入検査", "測定者 佐藤", "測定.csv", "3 鏡面", "440 2.500"}) {
+    EXPECT_TRUE(text.contains(QString::fromUtf8(expected))) << expected << '\n'
+                                                            << text.toStdString();
+  }
+}
+
+TEST_F(Report, AFailureIsTalkedAboutAndLosesNothing) {
+  const QByteArray spectra = files.Read("測定.csv");
+  files.Write("broken.csv", "no data");
+  files.Write("報告.pdf", "old");
+  const std::pair<const char*, int> cases[] = {
+      {"--report @missing.csv --out @報告.pdf", 1},
+      {"--report @broken.csv --out @報告.pdf", 1},
+      {"--report @測定.csv --out @missing/報告.pdf", 1},
+      {"--report @測定.csv --out @", 1},
+      {"--report @測定.csv --out @測定.csv", 1},
+      {"--report @測定.csv", 2},
+      {"--out @報告.pdf --report", 2},
+      {"--report @測定.csv --out @報告.pdf --demo @", 2},
+  };
+  for (const auto& [arguments, status] : cases) {
+    EXPECT_EQ(Run(arguments), status) << arguments;
+    EXPECT_GE(complaints, 1) << arguments;
+  }
+  EXPECT_EQ(files.Read("測定.csv"), spectra);
+  EXPECT_EQ(files.Read("報告.pdf"), "old");
+}
+
+}  // namespace
+}  // namespace vexa
