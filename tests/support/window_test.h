@@ -37,10 +37,18 @@ inline QString Type(const QWidget& window, const char* field, const char* keys) 
   return line.text();
 }
 
-/// A window, the state that it shows, and prepared answers to whatever it asks.
-class WindowTest : public testing::Test {
+/// What a view is given: a state, and prepared answers to whatever it asks.
+class ViewTest : public testing::Test {
  protected:
-  /// The one that is looked into.
+  VEXATYPE state;
+  PreparedAnswers messages;
+  PreparedFiles dialogs;
+  TemporaryFiles files;
+};
+
+/// A test of one window.
+class WindowTest : public ViewTest {
+ protected:
   virtual QWidget& Window() = 0;
 
   template <typename Widget>
@@ -49,11 +57,6 @@ class WindowTest : public testing::Test {
   }
   void Press(const char* button) { Click(Window(), button); }
   std::string Text(const char* label) { return Find<QLabel>(label).text().toStdString(); }
-
-  VEXATYPE state;
-  PreparedAnswers messages;
-  PreparedFiles dialogs;
-  TemporaryFiles files;
 };
 
 }  // namespace vexa::test

@@ -1,12 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include <gtest/gtest.h>
 
-#include <QCheckBox>
-#include <QPushButton>
-#include <QRadioButton>
-#include <QTest>
-
-#include "support/prepared_answers.h"
+#include "support/window_test.h"
 #include "views/settings/dispset.h"
 
 namespace vexa {
@@ -47,13 +42,13 @@ TEST(DisplaySettings, EntriesAreCheckedInTheirOrder) {
     test::PreparedAnswers messages;
     dispset window(state, messages);
     for (const char* flag : {"FullScale", "AutoScale", "AutoTicks"}) {
-      window.findChild<QCheckBox*>(QLatin1String(flag))->setChecked(false);
+      test::Child<QAbstractButton>(window, flag).setChecked(false);
     }
     for (const auto& [field, text] : c.typed) {
-      window.findChild<QLineEdit*>(QLatin1String(field))->setText(QLatin1String(text));
+      test::Child<QLineEdit>(window, field).setText(QLatin1String(text));
     }
     window.show();
-    window.findChild<QPushButton*>(QStringLiteral("OK"))->click();
+    test::Click(window, "OK");
     EXPECT_EQ(window.isVisible(), c.message != nullptr);
     const auto shown = messages.Take();
     ASSERT_EQ(shown.size(), c.message == nullptr ? 0U : 1U) << c.typed.front().first;
@@ -71,9 +66,9 @@ TEST(DisplaySettings, ChangedConditionsOfferToClearTheStock) {
     test::PreparedAnswers messages;
     messages.answers = {answer};
     dispset window(state, messages);
-    window.findChild<QRadioButton*>(QStringLiteral("Illuminant3"))->click();
-    window.findChild<QLineEdit*>(QStringLiteral("Shortest"))->setText(QStringLiteral("500"));
-    window.findChild<QPushButton*>(QStringLiteral("OK"))->click();
+    test::Click(window, "Illuminant3");
+    test::Child<QLineEdit>(window, "Shortest").setText(QStringLiteral("500"));
+    test::Click(window, "OK");
     EXPECT_EQ(messages.Take().at(0).type, 36);
     EXPECT_EQ(state.stock.Count, answer == MessageResult::kYes ? 0 : 1);
     EXPECT_EQ(state.colour.illuminant, 4);

@@ -2,17 +2,10 @@
 #include <gtest/gtest.h>
 
 #include <QComboBox>
-#include <QLabel>
-#include <QLineEdit>
-#include <QPushButton>
-#include <QRadioButton>
-#include <QTest>
 
 #include "measurement/evaluation.h"
 #include "support/pdf_words.h"
-#include "support/prepared_answers.h"
-#include "support/prepared_files.h"
-#include "support/temporary_files.h"
+#include "support/window_test.h"
 #include "views/print/print_dlg.h"
 #include "views/print/print_preview.h"
 #include "views/print/print_setup_dlg.h"
@@ -21,12 +14,15 @@
 namespace vexa {
 namespace {
 
+using test::Child;
+using test::Click;
+using test::Shown;
 using test::ShownMessage;
 
-class Printing : public testing::Test {
+class Printing : public test::ViewTest {
  protected:
   Printing() {
-    state.programDirectory = directory.Directory();
+    state.programDirectory = files.Directory();
     state.standardFileName = QStringLiteral("出荷規格.std");
     state.standard.averageReflectance = {true, 3.5, 0.0};
     state.thickness.enabled = true;
@@ -54,20 +50,11 @@ class Printing : public testing::Test {
         WritePdf(Path(), request.title, PageLayoutOf(settings), MakeReport(state, request)));
     return test::PdfPages(Path());
   }
-  [[nodiscard]] QString Path() const { return directory.Path("報告.pdf"); }
+  [[nodiscard]] QString Path() const { return files.Path("報告.pdf"); }
 
-  template <typename Widget>
-  static Widget* Find(QWidget& window, const char* name) {
-    return window.findChild<Widget*>(QLatin1String(name));
-  }
-
-  const test::TemporaryFiles directory;
-  VEXATYPE state;
-  test::PreparedAnswers messages;
-  test::PreparedFiles files;
   PrintSettings settings;
   ReportRequest request;
-  CurrentPrinter printer{state, messages, files};
+  CurrentPrinter printer{state, messages, dialogs};
 };
 
 TEST_F(Printing, ReportHoldsWhatIsAskedFor) {
@@ -167,29 +154,28 @@ TEST_F(Printing, NothingLeavesThePaper) {
 
 TEST_F(Printing, DialogPrintsIntoAFileAndRemembersWhatWasPrinted) {
   PrintSlots(state, 2, request, printer, messages, nullptr);
-  EXPECT_EQ(messages.Take(),
-            (std::vector{ShownMessage{"VEXA-KT 情報: 有効ﾃﾞｰﾀがありません。", 64}}));
+  EXPECT_EQ(messages.Take(), (Shown{{"VEXA-KT 情報: 有効ﾃﾞｰﾀがありません。", 64}}));
   Fill(2);
   PrintDlg dialog(state, 2, request, printer, messages);
   dialog.show();
-  auto* print = Find<QPushButton>(dialog, "OK");
-  Find<QLineEdit>(dialog, "Title")->setText(QStringLiteral("ロット12"));
-  Find<QRadioButton>(dialog, "Slots1")->click();
-  print->click();
+  auto& print = Child<QAbstractButton>(dialog, "OK");
+  Child<QLineEdit>(dialog, "Title").setText(QStringLiteral("ロット12"));
+  Click(dialog, "Slots1");
+  print.click();
   EXPECT_TRUE(dialog.isVisible()) << "no file was named";
   EXPECT_EQ(request.title, QStringLiteral("反射防止膜検査"));
 
-  files.save = SaveChoice{directory.Path("missing/x"), 1};
-  print->click();
+  dialogs.save = SaveChoice{files.Path("missing/x"), 1};
+  print.click();
   EXPECT_EQ(messages.Take().size(), 1U) << "cannot be written";
-  files.save = SaveChoice{directory.Write("報告.pdf", "old"), 1};
+  dialogs.save = SaveChoice{files.Write("報告.pdf", "old"), 1};
   messages.answers = {MessageResult::kNo};
-  print->click();
-  EXPECT_EQ(directory.Read("報告.pdf"), "old");
+  print.click();
+  EXPECT_EQ(files.Read("報告.pdf"), "old");
   EXPECT_TRUE(dialog.isVisible());
 
-  files.save = SaveChoice{directory.Path("報告"), 1};
-  print->click();
+  dialogs.save = SaveChoice{files.Path("報告"), 1};
+  print.click();
   EXPECT_FALSE(dialog.isVisible());
   EXPECT_EQ(request.title, QStringLiteral("ロット12"));
   EXPECT_EQ(request.slot, 2);
@@ -199,35 +185,34 @@ TEST_F(Printing, DialogPrintsIntoAFileAndRemembersWhatWasPrinted) {
 }
 
 TEST_F(Printing, SettingsStayForTheNextRun) {
-  const QString kept = directory.Path("vexa.prt");
   PrintSetupDlg dialog(printer, messages);
   dialog.show();
-  auto* left = Find<QLineEdit>(dialog, "Left");
+  auto& left = Child<QLineEdit>(dialog, "Left");
   for (const char* refused : {"", "51", "-1"}) {
-    left->setText(QLatin1String(refused));
-    Find<QPushButton>(dialog, "OK")->click();
+    left.setText(QLatin1String(refused));
+    Click(dialog, "OK");
     EXPECT_EQ(messages.Take().size(), 1U) << refused;
-    EXPECT_FALSE(QFile::exists(kept));
+    EXPECT_FALSE(files.Has("vexa.prt"));
   }
-  auto* paper = Find<QComboBox>(dialog, "Paper");
-  paper->setCurrentIndex(paper->findText(QStringLiteral("A5")));
-  left->setText(QStringLiteral("50"));
-  Find<QPushButton>(dialog, "OK")->click();
+  auto& paper = Child<QComboBox>(dialog, "Paper");
+  paper.setCurrentIndex(paper.findText(QStringLiteral("A5")));
+  left.setText(QStringLiteral("50"));
+  Click(dialog, "OK");
   EXPECT_EQ(messages.Take().size(), 1U) << "98 mm are left of the width";
-  left->setText(QStringLiteral("12.5"));
-  Find<QRadioButton>(dialog, "Landscape")->click();
-  paper->setCurrentIndex(paper->findText(QStringLiteral("A3")));
-  Find<QPushButton>(dialog, "OK")->click();
+  left.setText(QStringLiteral("12.5"));
+  Click(dialog, "Landscape");
+  paper.setCurrentIndex(paper.findText(QStringLiteral("A3")));
+  Click(dialog, "OK");
   EXPECT_FALSE(dialog.isVisible());
   const PrintSettings chosen{{}, QPageSize::A3, true, {12.5, 15.0, 15.0, 15.0}};
-  EXPECT_EQ(CurrentPrinter(state, messages, files).Settings(), chosen);
+  EXPECT_EQ(CurrentPrinter(state, messages, dialogs).Settings(), chosen);
 
-  const QByteArray good = directory.Read("vexa.prt");
+  const QByteArray good = files.Read("vexa.prt");
   for (const QByteArray& bad :
        {QByteArray(), good.left(good.size() / 2), QByteArray(good).replace("A3", "A9"),
         QByteArray(good).replace("12.5", "1E9")}) {
-    directory.Write("vexa.prt", bad);
-    EXPECT_EQ(CurrentPrinter(state, messages, files).Settings(), PrintSettings())
+    files.Write("vexa.prt", bad);
+    EXPECT_EQ(CurrentPrinter(state, messages, dialogs).Settings(), PrintSettings())
         << bad.constData();
   }
 }
@@ -237,11 +222,9 @@ TEST_F(Printing, AMissingPrinterIsToldAndStaysChosen) {
   printer.SetSettings(settings);
   Fill(1);
   EXPECT_FALSE(printer.Print(request.title, MakeReport(state, request)));
-  EXPECT_EQ(
-      messages.Take(),
-      (std::vector{ShownMessage{"VEXA-KT ｴﾗｰ: ﾌﾟﾘﾝﾀが見つかりません。\r\r倉庫の印刷機", 16}}));
+  EXPECT_EQ(messages.Take(), (Shown{{"VEXA-KT ｴﾗｰ: ﾌﾟﾘﾝﾀが見つかりません。\r\r倉庫の印刷機", 16}}));
   PrintSetupDlg dialog(printer, messages);
-  EXPECT_EQ(Find<QComboBox>(dialog, "Printer")->currentText(), settings.printerName);
+  EXPECT_EQ(Child<QComboBox>(dialog, "Printer").currentText(), settings.printerName);
 }
 
 TEST_F(Printing, PreviewTurnsThePages) {
@@ -249,16 +232,16 @@ TEST_F(Printing, PreviewTurnsThePages) {
   request.stepNm = 1;
   PrintPreview preview(settings, MakeReport(state, request));
   preview.show();
-  auto* place = Find<QLabel>(preview, "Place");
-  EXPECT_TRUE(QTest::qWaitFor([place] { return place->text().startsWith(u"1 / "); }));
-  const int count = place->text().mid(4).toInt();
+  auto& place = Child<QLabel>(preview, "Place");
+  EXPECT_TRUE(QTest::qWaitFor([&place] { return place.text().startsWith(u"1 / "); }));
+  const int count = place.text().mid(4).toInt();
   EXPECT_EQ(count, Pages().size());
-  EXPECT_FALSE(Find<QPushButton>(preview, "Back")->isEnabled());
+  EXPECT_FALSE(Child<QAbstractButton>(preview, "Back").isEnabled());
   for (int page = 1; page < count; ++page) {
-    Find<QPushButton>(preview, "Next")->click();
+    Click(preview, "Next");
   }
-  EXPECT_EQ(place->text(), QStringLiteral("%1 / %1").arg(count));
-  EXPECT_FALSE(Find<QPushButton>(preview, "Next")->isEnabled());
+  EXPECT_EQ(place.text(), QStringLiteral("%1 / %1").arg(count));
+  EXPECT_FALSE(Child<QAbstractButton>(preview, "Next").isEnabled());
 }
 
 }  // namespace

@@ -1,10 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include <gtest/gtest.h>
 
-#include <QImage>
 #include <QPainter>
-#include <QPushButton>
 
+#include "support/window_test.h"
 #include "views/settings/settings_list.h"
 #include "views/settings/table.h"
 
@@ -59,12 +58,12 @@ TEST(SettingsList, IsPrintedWholeWithinThePage) {
     paint(painter, page);
   });
   window.show();
-  window.findChild<QPushButton*>(QStringLiteral("印刷"))->click();
+  test::Click(window, "印刷");
   const int bottom = page.top() + page.width() * window.height() / window.width();
   EXPECT_NE(paper.pixelColor(page.right() - 2, bottom - 2), QColor(Qt::white));
   EXPECT_EQ(paper.pixelColor(page.right() + 2, bottom - 2), QColor(Qt::white));
   EXPECT_EQ(paper.pixelColor(page.right() - 2, bottom + 2), QColor(Qt::white));
-  window.findChild<QPushButton*>(QStringLiteral("閉じる"))->click();
+  test::Click(window, "閉じる");
   EXPECT_FALSE(window.isVisible());
 }
 

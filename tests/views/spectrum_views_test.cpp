@@ -3,13 +3,8 @@
 
 #include <QClipboard>
 #include <QGuiApplication>
-#include <QLabel>
-#include <QPushButton>
-#include <QTest>
 
-#include "support/prepared_answers.h"
-#include "support/prepared_files.h"
-#include "support/temporary_files.h"
+#include "support/window_test.h"
 #include "views/colour/background_picture.h"
 #include "views/common/plot_export.h"
 #include "views/graph/light_graph.h"
@@ -20,7 +15,7 @@
 namespace vexa {
 namespace {
 
-class SpectrumViews : public testing::Test {
+class SpectrumViews : public test::ViewTest {
  protected:
   SpectrumViews() {
     for (int nm = 440; nm <= 840; ++nm) {
@@ -29,8 +24,6 @@ class SpectrumViews : public testing::Test {
     state.Slot(2)->valid = true;
     state.Slot(2)->info.sampleNumber = QStringLiteral("S-2");
   }
-
-  VEXATYPE state;
 };
 
 TEST_F(SpectrumViews, TableFollowsRangeAndStepAndIsCopiedWithItsHeadings) {
@@ -70,8 +63,6 @@ TEST_F(SpectrumViews, MinimumIsThatOfTheShownRange) {
 }
 
 TEST_F(SpectrumViews, AllGraphsShareTheCursor) {
-  test::PreparedAnswers messages;
-  test::PreparedFiles dialogs;
   MainViews views(state, messages, dialogs, std::make_shared<BackgroundPicture>(messages));
   views.resize(900, 600);
   views.show();
@@ -79,19 +70,14 @@ TEST_F(SpectrumViews, AllGraphsShareTheCursor) {
     state.display.view = static_cast<std::int16_t>(view);
     views.Show(2);
     const int before = views.CursorNm();
-    QTest::mouseClick(views.findChild<QPushButton*>(QStringLiteral("CursorUp")), Qt::LeftButton);
+    QTest::mouseClick(&test::Child<QWidget>(views, "CursorUp"), Qt::LeftButton);
     EXPECT_EQ(views.CursorNm(), before + 1) << view;
   }
   views.MoveCursor(610);
-  EXPECT_TRUE(views.findChild<QLabel*>(QStringLiteral("CursorValue1"))
-                  ->text()
-                  .endsWith(QStringLiteral(" 2: 1.100")));
+  EXPECT_TRUE(test::Child<QLabel>(views, "CursorValue1").text().endsWith(u" 2: 1.100"));
 }
 
 TEST_F(SpectrumViews, PicturesAreSavedInTheKindOfTheirEnding) {
-  test::PreparedAnswers messages;
-  test::PreparedFiles dialogs;
-  test::TemporaryFiles files;
   ReflectanceGraph graph;
   graph.resize(600, 400);
   graph.Show(state, 2);
