@@ -86,39 +86,34 @@ struct FaultCase {
   Frames framesAfter;  ///< what is sent after the frame of the fault
 };
 
+using enum PeerAction;
+const Frames kOpened{"A5090000", "A50A0000"};
+
 const FaultCase kFaultCases[] = {
-    {"light shutter silent", 1, PeerAction::kSilence, -15, {}},
-    {"eyepiece shutter silent", 2, PeerAction::kSilence, -15, {}},
-    {"measurement silent", 3, PeerAction::kSilence, -15, {"69000000"}},
-    {"data silent", 4, PeerAction::kSilence, -4, {}},
-    {"eyepiece opening silent", 5, PeerAction::kSilence, -15, {}},
-    {"light opening silent", 6, PeerAction::kSilence, -15, {}},
+    {"light shutter silent", 1, kSilence, -15, {}},
+    {"eyepiece shutter silent", 2, kSilence, -15, {}},
+    {"measurement silent", 3, kSilence, -15, {"69000000"}},
+    {"data silent", 4, kSilence, -4, {}},
+    {"eyepiece opening silent", 5, kSilence, -15, {}},
+    {"light opening silent", 6, kSilence, -15, {}},
     {"shutter error is no failure",
      1,
-     PeerAction::kErrorReply,
+     kErrorReply,
      0,
      {"A5010000", "C3010100", "B4000100", "A5090000", "A50A0000"}},
-    {"measurement error", 3, PeerAction::kErrorReply, -3, {"A5090000", "A50A0000"}},
-    {"measurement says something else", 3, PeerAction::kOtherReply, -3, {"A5090000", "A50A0000"}},
-    {"noise before the measurement's end",
-     3,
-     PeerAction::kNoiseBefore,
-     -3,
-     {"A5090000", "A50A0000"}},
-    {"data error", 4, PeerAction::kErrorReply, -4, {}},
-    {"short line", 4, PeerAction::kShortLine, -4, {"A5090000", "A50A0000"}},
-    {"noise before the data", 4, PeerAction::kNoiseBefore, -4, {"A5090000", "A50A0000"}},
-    {"data byte by byte", 4, PeerAction::kByteByByte, 0, {"A5090000", "A50A0000"}},
-    {"data terminator split", 4, PeerAction::kSplitTerminator, 0, {"A5090000", "A50A0000"}},
-    {"measurement terminator split",
-     3,
-     PeerAction::kSplitTerminator,
-     0,
-     {"B4000100", "A5090000", "A50A0000"}},
+    {"measurement error", 3, kErrorReply, -3, kOpened},
+    {"measurement says something else", 3, kOtherReply, -3, kOpened},
+    {"noise before the measurement's end", 3, kNoiseBefore, -3, kOpened},
+    {"data error", 4, kErrorReply, -4, {}},
+    {"short line", 4, kShortLine, -4, kOpened},
+    {"noise before the data", 4, kNoiseBefore, -4, kOpened},
+    {"data byte by byte", 4, kByteByByte, 0, kOpened},
+    {"data terminator split", 4, kSplitTerminator, 0, kOpened},
+    {"measurement terminator split", 3, kSplitTerminator, 0, {"B4000100", "A5090000", "A50A0000"}},
     // A lost port ends the wait at once; the next frame cannot be sent.
-    {"unplugged at the light shutter", 1, PeerAction::kUnplug, -2, {}},
-    {"unplugged at the measurement", 3, PeerAction::kUnplug, -3, {}},
-    {"unplugged at the data", 4, PeerAction::kUnplug, -4, {}},
+    {"unplugged at the light shutter", 1, kUnplug, -2, {}},
+    {"unplugged at the measurement", 3, kUnplug, -3, {}},
+    {"unplugged at the data", 4, kUnplug, -4, {}},
 };
 
 TEST_F(H8Controller, EveryFaultHasItsStatusAndTheNextAcquisitionWorks) {
@@ -135,7 +130,7 @@ TEST_F(H8Controller, EveryFaultHasItsStatusAndTheNextAcquisitionWorks) {
     ASSERT_GE(frames.size(), static_cast<std::size_t>(fault.frame));
     EXPECT_EQ(Frames(frames.begin() + fault.frame, frames.end()), fault.framesAfter);
 
-    if (fault.action == PeerAction::kUnplug) {
+    if (fault.action == kUnplug) {
       EXPECT_EQ(Acquire(LightFlag::kSample), -2);
       peer.Plug();
       EXPECT_EQ(Acquire(LightFlag::kSample), 0);
@@ -151,9 +146,9 @@ TEST_F(H8Controller, EveryFaultHasItsStatusAndTheNextAcquisitionWorks) {
 }
 
 TEST_F(H8Controller, QuitIsTriedTwice) {
-  peer.At(2, PeerAction::kSilence);
-  peer.At(3, PeerAction::kSilence);
-  peer.At(4, PeerAction::kSilence);
+  peer.At(2, kSilence);
+  peer.At(3, kSilence);
+  peer.At(4, kSilence);
   peer.TakeFrames();
   EXPECT_EQ(Acquire(LightFlag::kSample), -3);
   EXPECT_EQ(peer.TakeFrames(), (Frames{"A5010000", "C3010100", "69000000", "69000000"}));
@@ -164,7 +159,7 @@ TEST_F(H8Controller, BytesNobodyAskedForDoNotAnswerTheNextCommand) {
   QEventLoop loop;
   QTimer::singleShot(20, &loop, &QEventLoop::quit);
   loop.exec();
-  peer.At(1, PeerAction::kSilence);
+  peer.At(1, kSilence);
   EXPECT_EQ(controller.H8_MeasStart(), -15);
 }
 
@@ -191,14 +186,14 @@ TEST_F(H8Controller, WaitsForTheShutterToSettle) {
 }
 
 TEST_F(H8Controller, CloseEndsAWait) {
-  peer.At(1, PeerAction::kSilence);
+  peer.At(1, kSilence);
   QTimer::singleShot(0, &controller, [this] { controller.Close(); });
   EXPECT_EQ(controller.H8_MeasStart(), -4);
   EXPECT_EQ(controller.H8_Quit(), -1);
 }
 
 TEST_F(H8Controller, UnpluggedPortRefusesTheNextCommand) {
-  peer.At(1, PeerAction::kUnplug);
+  peer.At(1, kUnplug);
   EXPECT_EQ(controller.H8_HiScan(true), 0);
   EXPECT_EQ(controller.H8_HiScan(true), -1);
 }
@@ -211,7 +206,7 @@ TEST(H8ControllerStart, FailuresOfTheInitialisation) {
   for (const Case& c : {Case{1, -15}, Case{2, -4}, Case{3, -5}, Case{4, -6}, Case{5, -7}}) {
     test::ScriptedPeer peer;
     frmComH8Ctrl controller([&peer](int) { return peer.Path(); }, kShortTimeoutMs);
-    peer.At(c.frame, PeerAction::kSilence);
+    peer.At(c.frame, kSilence);
     QString text = QStringLiteral("before");
     EXPECT_EQ(controller.H8Init(5, text), c.status);
     EXPECT_EQ(text.isEmpty(), c.status == -15);
@@ -231,7 +226,7 @@ TEST(H8ControllerStart, FailureIsExplained) {
 
   test::ScriptedPeer peer;
   frmComH8Ctrl silent([&peer](int) { return peer.Path(); }, kShortTimeoutMs);
-  peer.At(1, PeerAction::kSilence);
+  peer.At(1, kSilence);
   EXPECT_NE(silent.Initialise(5), 0);
   EXPECT_TRUE(silent.FailureDetails().contains(QStringLiteral("応答がありません")));
   QProcess other;

@@ -67,26 +67,14 @@ TEST_F(Stock, SavesLoadsAndClears) {
   EXPECT_EQ(messages.Take().at(0).type, 16);
 }
 
-TEST_F(Stock, FaultyFilesAreShownAndWhatWasReadStays) {
-  struct Case {
-    const char* content;
-    int countLeft;
-  };
-  const Case cases[] = {
-      {"VEXA-KT 440-840 Ver3.21 Data File\r\n", 1},
-      {"VEXA-KT 440-840 Ver3.21 Stock File\r\nTrue\r\n 1 \r\nTrue\r\n 101 \r\n", 1},
-      {"VEXA-KT 440-840 Ver3.21 Stock File\r\nTrue\r\n 1 \r\nTrue\r\n-1 \r\n", 1},
-      {"VEXA-KT 440-840 Ver3.21 Stock File\r\nTrue\r\n 1 \r\nTrue\r\n 3 \r\n1,2,3\r\n4,5,6\r\n7,",
-       2},
-  };
-  for (const Case& c : cases) {
-    state.stock = {};
-    (void)state.stock.StockAdd({.x = 0.3}, true);
-    dialogs.open = files.Write("x.stc", c.content);
-    Press("StockLoad");
-    EXPECT_EQ(messages.Take(), std::vector{kReadError}) << c.content;
-    EXPECT_EQ(state.stock.Count, c.countLeft) << c.content;
-  }
+TEST_F(Stock, AFaultyFileIsShownAndWhatWasReadStays) {
+  (void)state.stock.StockAdd({.x = 0.3}, true);
+  dialogs.open = files.Write(
+      "x.stc",
+      "VEXA-KT 440-840 Ver3.21 Stock File\r\nTrue\r\n 1 \r\nTrue\r\n 3 \r\n1,2,3\r\n4,5,6\r\n7,");
+  Press("StockLoad");
+  EXPECT_EQ(messages.Take(), std::vector{kReadError});
+  EXPECT_EQ(state.stock.Count, 2);
 }
 
 // A flat spectrum but for a bump in the green.
