@@ -17,14 +17,8 @@ namespace {
 
 class Program : public testing::Test {
  protected:
-  // The exit status. A word "@NAME" is the file of that name.
+  // The exit status; "@NAME" among the arguments is one of the files.
   int Run(const char* arguments) {
-    QStringList words = QString::fromUtf8(arguments).split(u' ');
-    for (QString& word : words) {
-      if (word.startsWith(u'@')) {
-        word = files.Path(word.sliced(1).toUtf8());
-      }
-    }
     QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
     for (const char* name : unset) {
       environment.remove(QLatin1String(name));
@@ -32,7 +26,7 @@ class Program : public testing::Test {
     QProcess process;
     process.setProcessEnvironment(environment);
     process.setWorkingDirectory(files.Directory());
-    process.start(QStringLiteral(VEXA_BIN_DIR "/vexa"), words);
+    process.start(QStringLiteral(VEXA_BIN_DIR "/vexa"), files.Words(arguments));
     EXPECT_TRUE(process.waitForFinished(60000));
     EXPECT_EQ(process.exitStatus(), QProcess::NormalExit);
     complaints = static_cast<int>(process.readAllStandardError().count("vexa: "));

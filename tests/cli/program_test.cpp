@@ -22,50 +22,33 @@ QByteArray Lines(int value, int count = 1) {
 }
 
 TEST_F(CommandLine, WrongUsageIsOneLineAndStatusTwo) {
-  const char* const cases[] = {
-      "",
-      "nonsense",
-      "decode",
-      "decode a b",
-      "decode a --start x",
-      "decode a --positions 1,2,3",
-      "decode a --nonsense",
-      "reflectance",
-      "reflectance --background a --reference b",
-      "reflectance --background a --reference b --sample c --shift 8",
-      "measure --port 5",
-      "measure --out x.csv",
-      "measure --port -1 --out x.csv --samples 1",
-      "measure --port 5 --out x.csv --samples 11",
-      "measure --port 5 --out x.csv --averaging 17",
-      "measure --port 5 --out x.csv --sampling-time 29",
-      "measure --port 5 --out x.csv stray",
-      "judge a.csv",
-      "convert a.csv b.csv x.csv",
-      "dispersion --json",
-      "dispersion --fixed 1 --file x",
-      "dispersion --fixed 1 --fixed 2",
-      "dispersion --fixed x",
-      "dispersion --fixed 1,2",
-      "dispersion --schott 1,2,3,4,5",
-      "dispersion --schott 1,2,3,4,5,",
-      "dispersion --sellmeier 1,2,3,4,5,6,7",
-      "dispersion --fixed 1 x",
-      "analyse a --illuminant E",
-      "analyse a --observer 5",
-      "analyse a --average 500",
-      "analyse a --average 600-500",
-      "analyse a --average 439-500",
-      "analyse a --type D",
-      "analyse a --thickness-kind x",
-      "analyse a --index 1.5 --substrate x",
+  const std::pair<const char*, std::vector<const char*>> cases[] = {
+      {"", {""}},
+      {"nonsense", {""}},
+      {"decode", {"", "a b", "a --start x", "a --positions 1,2,3", "a --nonsense"}},
+      {"reflectance",
+       {"", "--background a --reference b", "--background a --reference b --sample c --shift 8"}},
+      {"measure", {"--port 5", "--out x.csv", "--port -1 --out x.csv --samples 1"}},
+      {"measure --port 5 --out x.csv",
+       {"--samples 11", "--averaging 17", "--sampling-time 29", "stray"}},
+      {"judge", {"a.csv"}},
+      {"convert", {"a.csv b.csv x.csv"}},
+      {"dispersion",
+       {"--json", "--fixed 1 --file x", "--fixed 1 --fixed 2", "--fixed x", "--fixed 1,2",
+        "--schott 1,2,3,4,5", "--sellmeier 1,2,3,4,5,6,7", "--schott 1,2,3,4,5,", "--fixed 1 x"}},
+      {"analyse a",
+       {"--illuminant E", "--observer 5", "--average 600-500", "--average 439-500", "--average 500",
+        "--type D", "--thickness-kind x", "--index 1.5 --substrate x"}},
   };
-  for (const char* arguments : cases) {
-    const Outcome outcome = Run(arguments);
-    EXPECT_EQ(outcome.status, 2) << arguments;
-    EXPECT_EQ(outcome.out, "") << arguments;
-    EXPECT_TRUE(outcome.err.startsWith("vexa-cli: ")) << arguments;
-    EXPECT_EQ(outcome.err.count('\n'), 1) << arguments << ": " << outcome.err.constData();
+  for (const auto& [command, wrong] : cases) {
+    for (const char* words : wrong) {
+      const QByteArray arguments = QByteArray(command) + ' ' + words;
+      const Outcome outcome = Run(arguments);
+      EXPECT_EQ(outcome.status, 2) << arguments.constData();
+      EXPECT_EQ(outcome.out, "") << arguments.constData();
+      EXPECT_TRUE(outcome.err.startsWith("vexa-cli: ")) << arguments.constData();
+      EXPECT_EQ(outcome.err.count('\n'), 1) << outcome.err.constData();
+    }
   }
 }
 

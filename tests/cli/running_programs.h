@@ -32,23 +32,12 @@ struct Outcome {
   QJsonValue operator[](const char* name) const { return Json()[QLatin1String(name)]; }
 };
 
-/// vexa-cli as a program, and files for it in a directory of their own.
+/// vexa-cli as a program, and files for it; "@NAME" in a text of arguments is one of them.
 class CommandLine : public testing::Test {
  protected:
-  /// The words of a text; "@NAME" is the file of that name, "@" the directory itself.
-  [[nodiscard]] QStringList Words(const QByteArray& text) const {
-    QStringList words = QString::fromUtf8(text).split(u' ', Qt::SkipEmptyParts);
-    for (QString& word : words) {
-      if (word.startsWith(u'@')) {
-        word = files.Path(word.sliced(1).toUtf8());
-      }
-    }
-    return words;
-  }
-
   [[nodiscard]] Outcome Run(const QByteArray& arguments) const {
     QProcess process;
-    process.start(Program("vexa-cli"), Words(arguments));
+    process.start(Program("vexa-cli"), files.Words(arguments));
     EXPECT_TRUE(process.waitForFinished(kTimeoutMs));
     return {process.exitCode(), process.readAllStandardOutput(), process.readAllStandardError()};
   }
@@ -60,7 +49,7 @@ class CommandLine : public testing::Test {
 class WithInstrument : public CommandLine {
  protected:
   void Start(const QByteArray& options) {
-    instrument.start(Program("vexa-simulator"), Words("--dir @ --pace none " + options));
+    instrument.start(Program("vexa-simulator"), files.Words("--dir @ --pace none " + options));
     ASSERT_TRUE(instrument.waitForReadyRead(kTimeoutMs))
         << instrument.readAllStandardError().constData();
   }

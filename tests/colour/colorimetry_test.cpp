@@ -79,10 +79,8 @@ TEST(ColourTables, GiveThePublishedWhitePoints) {
 // 40 decimal digits (Python, mpmath), printed with 16.
 TEST(CalcColour, AgreesWithAnIndependentComputation) {
   struct Case {
-    const char* name;
     double (*reflectance)(int nm);
-    std::int16_t illuminant;
-    bool twoDegrees;
+    ColourSettings settings;
     ColourResult expected;
   };
   const auto ramp = [](int nm) { return (nm - 440) / 4.0; };
@@ -94,77 +92,58 @@ TEST(CalcColour, AgreesWithAnIndependentComputation) {
   const auto dark = [](int nm) { return (nm - 440) / 400.0; };
   const Case cases[] = {
       // cube roots, the hue in each quadrant
-      {"ramp",
-       ramp,
-       1,
-       true,
+      {ramp,
+       {1, true},
        {74.86141162342109, 15.21600240901142, 38.73836995631173, 0.516748605339814,
         0.4195799635840735, 41.61956314262701, 68.55565011401378, 50.0, 48.05786482496765}},
-      {"green",
-       green,
-       4,
-       true,
+      {green,
+       {4, true},
        {67.58244679818882, -98.38543070586568, 57.64003648487511, 0.2281247270106415,
         0.624883112226543, 114.026605584646, 149.6356912056789, 14.88778054862843,
         37.40858438959521}},
-      {"fall",
-       fall,
-       2,
-       true,
+      {fall,
+       {2, true},
        {72.02388800710213, -8.766774203211505, -21.17109428855921, 0.2899560048254425,
         0.3138616222788551, 22.91444006091266, 247.5059604400743, 40.0, 43.69459059686009}},
-      {"middle",
-       middle,
-       3,
-       true,
+      {middle,
+       {3, true},
        {55.62394180912001, 9.363014973177852, -34.68602795968706, 0.2353836299670414,
         0.2194343264354131, 35.92751849221074, 285.1061685883498, 26.08478802992519,
         23.53968723746916}},
-      {"short",
-       shortWave,
-       2,
-       false,
+      {shortWave,
+       {2, false},
        {39.95730515799801, 35.23376998120278, -63.89116921412936, 0.2345083547685937,
         0.1570465092460251, 72.96231938909849, 298.8752160075106, 23.96508728179551,
         11.2252599204137}},
-      {"ramp, 10 degrees",
-       ramp,
-       3,
-       false,
+      {ramp,
+       {3, false},
        {71.43661688096526, 7.738625944809948, 37.83445113705527, 0.4099780301573648,
         0.3964990071993336, 38.61776824670101, 78.44021668609577, 50.0, 42.82585760375618}},
       // straight lines for all three: no blue at all, though X and Y are high; and all low
-      {"no blue",
-       noBlue,
-       4,
-       false,
+      {noBlue,
+       {4, false},
        {109.0055016179818, 277.155990283925, 187.9409361554371, 0.6011773406313706,
         0.3988226593686294, 334.8689869684041, 34.14140234385643, 16.45885286783042,
         12.06760858838045}},
-      {"dark",
-       dark,
-       1,
-       false,
+      {dark,
+       {1, false},
        {4.27975173557021, 2.229285462319438, 4.337147689346257, 0.5210536854489211,
         0.4182562974487928, 4.876531938961373, 62.79692434795009, 0.5, 0.4737959830807614}},
   };
-  const auto near = [](double value, double expected, const char* name, const char* field) {
-    EXPECT_NEAR(value, expected, 1e-12 * std::abs(expected)) << name << ' ' << field;
-  };
+  const std::pair<const char*, double ColourResult::*> fields[] = {
+      {"L", &ColourResult::L}, {"a", &ColourResult::a},   {"b", &ColourResult::b},
+      {"x", &ColourResult::x}, {"y", &ColourResult::y},   {"C", &ColourResult::C},
+      {"h", &ColourResult::h}, {"Rm", &ColourResult::Rm}, {"Y", &ColourResult::Y}};
   for (const Case& c : cases) {
     const ReflectanceSpectrum spectrum = SpectrumOf(c.reflectance);
     ColourResult result;
-    EXPECT_TRUE(CalcColour(spectrum, {c.illuminant, c.twoDegrees}, result)) << c.name;
+    EXPECT_TRUE(CalcColour(spectrum, c.settings, result)) << "case " << &c - cases;
     EXPECT_TRUE(AverageReflectance(spectrum, 440, 840, result.Rm));
-    near(result.L, c.expected.L, c.name, "L");
-    near(result.a, c.expected.a, c.name, "a");
-    near(result.b, c.expected.b, c.name, "b");
-    near(result.x, c.expected.x, c.name, "x");
-    near(result.y, c.expected.y, c.name, "y");
-    near(result.C, c.expected.C, c.name, "C");
-    near(result.h, c.expected.h, c.name, "h");
-    near(result.Rm, c.expected.Rm, c.name, "Rm");
-    near(result.Y, c.expected.Y, c.name, "Y");
+    for (const auto& [name, field] : fields) {
+      const double expected = c.expected.*field;
+      EXPECT_NEAR(result.*field, expected, 1e-12 * std::abs(expected))
+          << name << " of case " << &c - cases;
+    }
   }
 }
 

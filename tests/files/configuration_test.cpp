@@ -22,15 +22,20 @@ class Configuration : public testing::Test {
   VEXATYPE state;
 };
 
-TEST_F(Configuration, WithoutFilesTheDefaultsHold) {
-  state.instrument.controllerPort = 9;
-  state.instrument.averagingCount = 8;
-  LoadConfiguration(state, messages);
-  EXPECT_EQ(state.instrument.controllerPort, 5);
-  EXPECT_EQ(state.instrument.averagingCount, 1);
-  EXPECT_EQ(state.envFileName, QStringLiteral("vexa.env"));
-  EXPECT_EQ(state.instrument.calibrationShiftNm, 4);
-  EXPECT_TRUE(messages.Take().empty());
+TEST_F(Configuration, WithoutAnEnvironmentTheDefaultsHold) {
+  written.envFileName = QStringLiteral("gone.env");
+  written.instrument.controllerPort = 3;
+  for (const bool named : {false, true}) {
+    EXPECT_TRUE(!named || WriteStartupFile(written));
+    state.instrument.controllerPort = 9;
+    state.instrument.averagingCount = 8;
+    LoadConfiguration(state, messages);
+    EXPECT_EQ(state.instrument.controllerPort, 5);
+    EXPECT_EQ(state.instrument.averagingCount, 1);
+    EXPECT_EQ(state.envFileName, QStringLiteral("vexa.env"));
+    EXPECT_EQ(state.instrument.calibrationShiftNm, 4);
+    EXPECT_TRUE(messages.Take().empty()) << named;
+  }
 }
 
 TEST_F(Configuration, FollowsTheNamesFromFileToFile) {
@@ -50,15 +55,6 @@ TEST_F(Configuration, FollowsTheNamesFromFileToFile) {
   EXPECT_TRUE(state.standard.useReflectance);
   EXPECT_EQ(state.instrument.calibrationShiftNm, 7);
   EXPECT_TRUE(messages.Take().empty());
-}
-
-TEST_F(Configuration, AMissingEnvironmentMeansAllDefaults) {
-  written.envFileName = QStringLiteral("gone.env");
-  written.instrument.controllerPort = 3;
-  ASSERT_TRUE(WriteStartupFile(written));
-  LoadConfiguration(state, messages);
-  EXPECT_EQ(state.envFileName, QStringLiteral("vexa.env"));
-  EXPECT_EQ(state.instrument.controllerPort, 5);
 }
 
 TEST_F(Configuration, ABrokenEnvironmentIsToldAndNothingElseIsLost) {

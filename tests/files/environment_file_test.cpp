@@ -24,10 +24,14 @@ const char* const kGolden =
     "\r\n"
     " 12 \r\nb.ind\r\nc d.csv\r\n 500 \r\n 600 \r\n";
 
-TEST(EnvironmentFile, EveryLineHasItsPlaceAndGoesRoundUnchanged) {
+class EnvironmentFile : public testing::Test {
+ protected:
   const test::TemporaryFiles files;
   test::PreparedAnswers messages;
   VEXATYPE state;
+};
+
+TEST_F(EnvironmentFile, EveryLineHasItsPlaceAndGoesRoundUnchanged) {
   const EnvironmentRead result = ReadEnvFile(files.Write("a.env", kGolden), state, messages);
   EXPECT_TRUE(result.read);
   EXPECT_EQ(result.version, 3.21);
@@ -50,21 +54,16 @@ TEST(EnvironmentFile, EveryLineHasItsPlaceAndGoesRoundUnchanged) {
   EXPECT_TRUE(messages.Take().empty());
 }
 
-TEST(EnvironmentFile, FullScaleSetsTheWavelengths) {
-  const test::TemporaryFiles files;
-  test::PreparedAnswers messages;
+TEST_F(EnvironmentFile, FullScaleSetsTheWavelengths) {
   QByteArray full = kGolden;
   full.replace("#TRUE#\r\n#FALSE#\r\n 450", "#TRUE#\r\n#TRUE#\r\n 450");
-  VEXATYPE state;
   EXPECT_TRUE(ReadEnvFile(files.Write("a.env", full), state, messages).read);
   EXPECT_EQ(state.display.shortestNm, 440.0);
   EXPECT_EQ(state.display.longestNm, 840.0);
 }
 
 // The older layout, a line for each of its fields in their order.
-TEST(EnvironmentFile, OlderLayoutKeepsWhatItLacks) {
-  const test::TemporaryFiles files;
-  test::PreparedAnswers messages;
+TEST_F(EnvironmentFile, OlderLayoutKeepsWhatItLacks) {
   QByteArray old =
       "VEXA for Windows ver 1.10 Environment "
       "File\r\n#FALSE#\r\n1\r\n8\r\n2\r\n#FALSE#\r\n#FALSE#\r\n"
@@ -74,7 +73,6 @@ TEST(EnvironmentFile, OlderLayoutKeepsWhatItLacks) {
       "r.ref\r\n#TRUE#\r\n1\r\n1\r\n3\r\n1."
       "25\r\n41\r\n42\r\n43\r\n44\r\n45\r\n46\r\nskip\r\nskip\r\n"
       "i.ind\r\ns.csv\r\n";
-  VEXATYPE state;
   state.standardFileName = QStringLiteral("kept.std");
   state.display.view = 6;
   const EnvironmentRead result = ReadEnvFile(files.Write("old.env", old), state, messages);
@@ -97,8 +95,7 @@ TEST(EnvironmentFile, OlderLayoutKeepsWhatItLacks) {
   EXPECT_EQ(state.display.view, 6);
 }
 
-TEST(EnvironmentFile, DefectsEndTheRead) {
-  const test::TemporaryFiles files;
+TEST_F(EnvironmentFile, DefectsEndTheRead) {
   const QByteArray golden = kGolden;
   struct Case {
     const char* name;
@@ -119,8 +116,7 @@ TEST(EnvironmentFile, DefectsEndTheRead) {
        nullptr},
   };
   for (const Case& c : cases) {
-    test::PreparedAnswers messages;
-    VEXATYPE state;
+    state = {};
     const QString path = files.Write("x.env", c.bytes);
     EXPECT_EQ(ReadEnvFile(path, state, messages).read, c.read) << c.name;
     const auto shown = messages.Take();
@@ -134,9 +130,7 @@ TEST(EnvironmentFile, DefectsEndTheRead) {
   }
 }
 
-TEST(EnvironmentFile, AnUnreadableOneIsKeptWhenItIsOverwritten) {
-  const test::TemporaryFiles files;
-  const VEXATYPE state;
+TEST_F(EnvironmentFile, AnUnreadableOneIsKeptWhenItIsOverwritten) {
   const QString path = files.Write("a.env", "precious but broken");
   EXPECT_TRUE(WriteEnvFile(path, state));
   EXPECT_EQ(files.Read("a.env.bad"), "precious but broken");
@@ -144,14 +138,12 @@ TEST(EnvironmentFile, AnUnreadableOneIsKeptWhenItIsOverwritten) {
   EXPECT_EQ(files.Read("a.env.bad"), "precious but broken") << "a readable one needs no copy";
 }
 
-TEST(StartupFile, NineLines) {
-  const test::TemporaryFiles files;
+TEST_F(EnvironmentFile, StartupFileHasNineLines) {
   const QByteArray golden =
       "VEXA-KT 440-840 Ver 3.21 Environment File\r\nC:\\\x95\x5c.env\r\n 0 \r\n 130 \r\n 320 \r\n "
       "370 \r\n 400 \r\n"
       " 460 \r\n 380 \r\n";
   files.Write("vexa.int", golden);
-  VEXATYPE state;
   state.programDirectory = files.Directory();
   EXPECT_TRUE(ReadStartupFile(state));
   EXPECT_EQ(state.envFileName, QStringLiteral("C:\\表.env"));

@@ -73,9 +73,7 @@ class Port {
 class ProgramTest : public testing::Test {
  protected:
   void Start(QProcess& program, const QByteArray& options) const {
-    const QStringList words = QString::fromLatin1(options).split(u' ', Qt::SkipEmptyParts);
-    program.start(QStringLiteral(VEXA_SIMULATOR_PROGRAM),
-                  QStringList{u"--dir"_s, files_.Directory()} + words);
+    program.start(QStringLiteral(VEXA_SIMULATOR_PROGRAM), files_.Words("--dir @ " + options));
     ASSERT_TRUE(program.waitForStarted(kPatienceMs));
   }
 
@@ -103,27 +101,25 @@ class ProgramTest : public testing::Test {
 };
 
 TEST_F(ProgramTest, WrongOptionsEndWithStatus2AndOneLine) {
-  const char* const cases[] = {
-      "--unknown",
-      "extra",
-      "--pace fast",
-      "--port 0",
-      "--port x",
-      "--port 256",
-      "--stage gold",
-      "--seed -1",
-      "--noise 1",
-      "--late 1.5",
-      "--fault smoke",
-      "--fault no-reply@0",
-      "--fault no-reply@",
-      "--call-fault gp_trg",
-      "--call-fault gp_red=61",
-      "--call-fault gp_trg=none",
-      "--call-fault gp_trg=61@0",
-      "--replug",
-      "--dir /nowhere",
-  };
+  const char* const cases[] = {"--unknown",
+                               "extra",
+                               "--pace fast",
+                               "--port 0",
+                               "--port x",
+                               "--port 256",
+                               "--stage gold",
+                               "--seed -1",
+                               "--noise 1",
+                               "--late 1.5",
+                               "--fault smoke",
+                               "--fault no-reply@0",
+                               "--fault no-reply@",
+                               "--call-fault gp_trg",
+                               "--call-fault gp_red=61",
+                               "--call-fault gp_trg=none",
+                               "--call-fault gp_trg=61@0",
+                               "--replug",
+                               "--dir /nowhere"};
   for (const char* arguments : cases) {
     QProcess program;
     Start(program, arguments);

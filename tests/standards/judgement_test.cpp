@@ -212,19 +212,17 @@ TEST(FindPeakBottom, ShortestAmongEqualsWithinItsRange) {
 }
 
 TEST(ToleranceRegionOf, ShowsWhatIsOn) {
-  StandardSet standard;
-  standard.chroma = {false, 5.0, -2.0};
-  standard.hueAngle = {false, 10.0, 350.0};
-  ToleranceRegion region = ToleranceRegionOf(standard, {false, 3.0}, {false, 90.0});
-  EXPECT_TRUE(region.chromaRadii.empty());
-  EXPECT_TRUE(region.hueAnglesDeg.empty());
-  EXPECT_FALSE(region.referenceChroma || region.referenceHueDeg);
-  standard.chroma.enabled = standard.hueAngle.enabled = true;
-  region = ToleranceRegionOf(standard, {true, 3.0}, {true, 90.0});
-  EXPECT_EQ(region.chromaRadii, (std::vector<double>{5.0, 2.0}));
-  EXPECT_EQ(region.hueAnglesDeg, (std::vector<double>{10.0, 350.0}));
-  EXPECT_EQ(region.referenceChroma, 3.0);
-  EXPECT_EQ(region.referenceHueDeg, 90.0);
+  for (const bool on : {false, true}) {
+    StandardSet standard;
+    standard.chroma = {on, 5.0, -2.0};
+    standard.hueAngle = {on, 10.0, 350.0};
+    const ToleranceRegion region = ToleranceRegionOf(standard, {on, 3.0}, {on, 90.0});
+    const std::vector<double> none;
+    EXPECT_EQ(region.chromaRadii, on ? std::vector({5.0, 2.0}) : none);
+    EXPECT_EQ(region.hueAnglesDeg, on ? std::vector({10.0, 350.0}) : none);
+    EXPECT_EQ(region.referenceChroma, on ? std::optional(3.0) : std::nullopt);
+    EXPECT_EQ(region.referenceHueDeg, on ? std::optional(90.0) : std::nullopt);
+  }
 }
 
 }  // namespace

@@ -18,6 +18,17 @@ class TemporaryFiles {
     return directory_.filePath(QString::fromUtf8(name));
   }
 
+  /// The words of a text; "@NAME" is the file of that name, "@" the directory itself.
+  [[nodiscard]] QStringList Words(const QByteArray& text) const {
+    QStringList words = QString::fromUtf8(text).split(u' ', Qt::SkipEmptyParts);
+    for (QString& word : words) {
+      if (word.startsWith(u'@')) {
+        word = Path(word.sliced(1).toUtf8());
+      }
+    }
+    return words;
+  }
+
   /// Writes the file and returns its path.
   QString Write(const char* name, const QByteArray& bytes) const {
     QFile file(Path(name));

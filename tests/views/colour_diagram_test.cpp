@@ -8,7 +8,7 @@
 #include <cmath>
 #include <map>
 
-#include "support/prepared_answers.h"
+#include "support/window_test.h"
 
 namespace vexa {
 namespace {
@@ -17,7 +17,7 @@ using test::ShownMessage;
 
 const ShownMessage kQuestion{"確認: 色座標の作成を中止します。", 33};
 
-class Diagram : public testing::Test {
+class Diagram : public test::ViewTest {
  protected:
   std::map<double, std::string> Labels(const QCPAxis* axis) {
     std::map<double, std::string> labels;
@@ -45,8 +45,6 @@ class Diagram : public testing::Test {
                             static_cast<int>(diagram.yAxis->coordToPixel(b)));
   }
 
-  VEXATYPE state;
-  test::PreparedAnswers messages;
   std::shared_ptr<BackgroundPicture> picture = std::make_shared<BackgroundPicture>(messages);
   ChromaticityDiagram diagram{picture};
 };

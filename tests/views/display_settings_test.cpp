@@ -7,12 +7,14 @@
 namespace vexa {
 namespace {
 
+using DisplaySettings = test::ViewTest;
+
 struct Case {
   std::vector<std::pair<const char*, const char*>> typed;
   const char* message;  ///< null when accepted
 };
 
-TEST(DisplaySettings, EntriesAreCheckedInTheirOrder) {
+TEST_F(DisplaySettings, EntriesAreCheckedInTheirOrder) {
   const char* const kWidth = "波長表示の幅が範囲を越えています。 (20 ≦ 設定値 ≦ 401)";
   const char* const kMaximum = "反射率の最大値の設定範囲を越えています。 (0.01 ≦ 設定値 ≦ 100)";
   const Case cases[] = {
@@ -38,8 +40,7 @@ TEST(DisplaySettings, EntriesAreCheckedInTheirOrder) {
       {{{"Shortest", "440"}, {"Longest", "460"}, {"Maximum", "0.01"}, {"Tick", "0.0001"}}, nullptr},
   };
   for (const Case& c : cases) {
-    VEXATYPE state;
-    test::PreparedAnswers messages;
+    state = {};
     dispset window(state, messages);
     for (const char* flag : {"FullScale", "AutoScale", "AutoTicks"}) {
       test::Child<QAbstractButton>(window, flag).setChecked(false);
@@ -59,11 +60,10 @@ TEST(DisplaySettings, EntriesAreCheckedInTheirOrder) {
   }
 }
 
-TEST(DisplaySettings, ChangedConditionsOfferToClearTheStock) {
+TEST_F(DisplaySettings, ChangedConditionsOfferToClearTheStock) {
   for (const MessageResult answer : {MessageResult::kYes, MessageResult::kNo}) {
-    VEXATYPE state;
+    state = {};
     (void)state.stock.StockAdd({}, true);
-    test::PreparedAnswers messages;
     messages.answers = {answer};
     dispset window(state, messages);
     test::Click(window, "Illuminant3");
@@ -76,20 +76,18 @@ TEST(DisplaySettings, ChangedConditionsOfferToClearTheStock) {
   }
 }
 
-TEST(DisplaySettings, AClickSelectsAnEntryAndOtherCharactersAreRefused) {
-  VEXATYPE state;
+TEST_F(DisplaySettings, AClickSelectsAnEntryAndOtherCharactersAreRefused) {
   state.colour.illuminant = 7;
   state.display.labScale = 5;
   state.display.tickPercent = 0.00004;
-  test::PreparedAnswers messages;
   dispset window(state, messages);
   window.show();
   ASSERT_TRUE(QTest::qWaitForWindowActive(&window));
-  auto* step = window.findChild<QLineEdit*>(QStringLiteral("TextStep"));
-  QTest::mouseClick(step, Qt::LeftButton);
+  auto& step = test::Child<QLineEdit>(window, "TextStep");
+  QTest::mouseClick(&step, Qt::LeftButton);
   QCoreApplication::processEvents();
-  EXPECT_EQ(step->selectedText(), QStringLiteral("1.0"));
-  QTest::keyClicks(step, QStringLiteral("2x5"));
+  EXPECT_EQ(step.selectedText(), QStringLiteral("1.0"));
+  QTest::keyClicks(&step, QStringLiteral("2x5"));
   const test::ShownMessage refused{"VEXA-KT ｴﾗｰ: ﾃﾞｰﾀが入力できません。再入力して下さい。", 16};
   EXPECT_EQ(messages.Take(), std::vector{refused});
   window.accept();
