@@ -6,10 +6,10 @@
 #include <QImage>
 #include <QProcess>
 #include <QProcessEnvironment>
-#include <algorithm>
 
 #include "files/data_file.h"
 #include "support/pdf_words.h"
+#include "support/spectra.h"
 #include "support/temporary_files.h"
 
 namespace vexa {
@@ -69,7 +69,7 @@ class Report : public Program {
     unset = {"QT_QPA_PLATFORM", "DISPLAY", "WAYLAND_DISPLAY"};
     VEXATYPE state;
     state.Slot(3)->valid = true;
-    std::ranges::fill(state.Slot(3)->reflectance.Values(), 2.5);
+    state.Slot(3)->reflectance = test::Flat(2.5);
     state.Slot(3)->info.sampleNumber = QStringLiteral("鏡面");
     EXPECT_TRUE(WriteDataFile(files.Path("測定.csv"), DataFileLayout::kCsv, state));
   }

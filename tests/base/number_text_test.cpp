@@ -39,18 +39,13 @@ TEST(NumberText, FollowsThePattern) {
       {9.999999999, u"0.00000000E+00", "1.00000000E+01"},
       {0.0, u"0.00000000E+00", "0.00000000E+00"},
       {1e-120, u"0.0E+00", "1.0E-120"},
-      {1e300, u"0", nullptr},
       {std::nan(""), u"0.000", "-"},
       {std::numeric_limits<double>::infinity(), u"0.000", "-"},
   };
   for (const FormatCase& c : cases) {
-    const QString text = FormatNumber(c.value, c.pattern);
-    if (c.text == nullptr) {
-      EXPECT_EQ(text.size(), 301);
-    } else {
-      EXPECT_EQ(text.toStdString(), c.text) << c.value;
-    }
+    EXPECT_EQ(FormatNumber(c.value, c.pattern).toStdString(), c.text) << c.value;
   }
+  EXPECT_EQ(FormatNumber(1e300, u"0").size(), 301);
 }
 
 TEST(NumberText, SignedTextKeepsFifteenDigitsAndTheSignPlace) {

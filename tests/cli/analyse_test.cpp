@@ -79,19 +79,15 @@ TEST_F(Analysis, ReportsTheColourOfEveryValidSlot) {
 }
 
 TEST_F(Analysis, ComputesTheThicknessOnRequest) {
-  struct Case {
-    const char* options;
-    double thicknessNm;
-  };
   // Maxima and minima of the fringes are found to half a nanometre.
-  const Case cases[] = {{"--type B --thickness-kind optical", 2000.0},
-                        {"--type C --thickness-kind optical", 2000.0},
-                        {"--type B --index 2.0", 1000.0}};
-  for (const Case& c : cases) {
-    const Outcome outcome = Analyse(QByteArray("--json --thickness ") + c.options);
+  const std::pair<const char*, double> cases[] = {{"--type B --thickness-kind optical", 2000.0},
+                                                  {"--type C --thickness-kind optical", 2000.0},
+                                                  {"--type B --index 2.0", 1000.0}};
+  for (const auto& [options, thicknessNm] : cases) {
+    const Outcome outcome = Analyse(QByteArray("--json --thickness ") + options);
     const QJsonObject film = Object(Slot(outcome, 1), "thickness");
     EXPECT_EQ(film[QLatin1String("status")].toInt(-9), 0) << outcome.err.constData();
-    EXPECT_NEAR(Number(film, "thickness"), c.thicknessNm, 0.02 * c.thicknessNm) << c.options;
+    EXPECT_NEAR(Number(film, "thickness"), thicknessNm, 0.02 * thicknessNm) << options;
     EXPECT_FALSE(film[QLatin1String("extrema")].toArray().isEmpty());
     const QJsonObject flat = Object(Slot(outcome, 0), "thickness");
     EXPECT_EQ(flat[QLatin1String("status")].toInt(), -1) << "too few extrema";

@@ -5,6 +5,7 @@
 #include "cli/running_programs.h"
 #include "files/data_file.h"
 #include "standards/standard_file.h"
+#include "support/spectra.h"
 
 namespace vexa {
 namespace {
@@ -20,9 +21,8 @@ class Judging : public test::CommandLine {
       MeasurementSlot& slot = *state.Slot(number);
       slot.valid = true;
       slot.info.sampleNumber = QStringLiteral("ﾚﾝｽﾞ%1").arg(number);
-      for (int nm = 440; nm <= 840; ++nm) {
-        slot.reflectance[nm] = number == 3 && nm >= 600 ? 3.0 : 1.0;
-      }
+      slot.reflectance =
+          test::SpectrumOf([number](int nm) { return number == 3 && nm >= 600 ? 3.0 : 1.0; });
     }
     EXPECT_TRUE(WriteDataFile(files.Path("data.csv"), DataFileLayout::kCsv, state));
     state.standard.useReflectance = true;

@@ -11,17 +11,13 @@
 #include "base/arithmetic.h"
 #include "colour/chromaticity_diagram.h"
 #include "colour/colour_tables.h"
+#include "support/spectra.h"
 
 namespace vexa {
 namespace {
 
-ReflectanceSpectrum SpectrumOf(double (*reflectance)(int nm)) {
-  ReflectanceSpectrum spectrum;
-  for (int nm = 440; nm <= 840; ++nm) {
-    spectrum[nm] = reflectance(nm);
-  }
-  return spectrum;
-}
+using test::Flat;
+using test::SpectrumOf;
 
 double Band(int nm, int from, int to, double inside, double outside) {
   return nm >= from && nm <= to ? inside : outside;
@@ -148,7 +144,7 @@ TEST(CalcColour, AgreesWithAnIndependentComputation) {
 }
 
 TEST(CalcColour, FlatHundredGivesYHundredAndLastTwoSamplesDoNotCount) {
-  ReflectanceSpectrum spectrum = SpectrumOf([](int) { return 100.0; });
+  ReflectanceSpectrum spectrum = Flat(100.0);
   for (std::int16_t illuminant = 1; illuminant <= 4; ++illuminant) {
     EXPECT_EQ(Tristimulus(spectrum, {illuminant, true}).Y, 100.0);
     EXPECT_EQ(Tristimulus(spectrum, {illuminant, false}).Y, 100.0);
@@ -177,22 +173,15 @@ TEST(CalcColour, AFaultLeavesWhatWasBeforeIt) {
       {"not a number", std::nan(""), 4},
   };
   for (const Case& c : cases) {
-    ReflectanceSpectrum spectrum;
-    for (double& value : spectrum.Values()) {
-      value = c.reflectance;
-    }
+    const ReflectanceSpectrum spectrum = Flat(c.reflectance);
     ColourResult result = before;
     EXPECT_FALSE(CalcColour(spectrum, {c.illuminant, true}, result)) << c.name;
     EXPECT_EQ(result, before) << c.name;
   }
 
   // So little light that a* vanishes: the hue is the first value that cannot be had.
-  ReflectanceSpectrum faint;
-  for (double& value : faint.Values()) {
-    value = 1e-30;
-  }
   ColourResult result = before;
-  EXPECT_FALSE(CalcColour(faint, {4, true}, result));
+  EXPECT_FALSE(CalcColour(Flat(1e-30), {4, true}, result));
   EXPECT_NEAR(result.x, 0.3127, 1e-4);
   EXPECT_NEAR(result.Y, 1e-30, 1e-42);
   EXPECT_EQ(result.a, 0.0);

@@ -52,11 +52,6 @@ TEST(H8Frame, TimerCodeTakesTheFirstPrescalerThatFits) {
   }
 }
 
-TEST(H8Frame, LineCountsAreHexadecimal) {
-  EXPECT_EQ(MeasureText(16, 1).toStdString(), "C301001") << "no frame";
-  EXPECT_EQ(MeasureText(1, 16).toStdString(), "C30110");
-}
-
 TEST(H8Reply, TextFollowsItsGroups) {
   const std::pair<QByteArray, const char*> cases[] = {
       {"CHAREND", "END"},

@@ -187,17 +187,13 @@ TEST_F(H8Controller, CloseEndsAWait) {
 }
 
 TEST(H8ControllerStart, FailuresOfTheInitialisation) {
-  struct Case {
-    int frame;
-    Status status;
-  };
-  for (const Case& c : {Case{1, -15}, Case{2, -4}, Case{3, -5}, Case{4, -6}, Case{5, -7}}) {
+  for (const auto& [frame, status] : {std::pair{1, -15}, {2, -4}, {3, -5}, {4, -6}, {5, -7}}) {
     test::ScriptedPeer peer;
     frmComH8Ctrl controller([&peer](int) { return peer.Path(); }, kShortTimeoutMs);
-    peer.At(c.frame, kSilence);
+    peer.At(frame, kSilence);
     QString text = QStringLiteral("before");
-    EXPECT_EQ(controller.H8Init(5, text), c.status);
-    EXPECT_EQ(text.isEmpty(), c.status == -15);
+    EXPECT_EQ(controller.H8Init(5, text), status);
+    EXPECT_EQ(text.isEmpty(), status == -15);
     EXPECT_EQ(controller.H8Init(5, text), -1) << "the port is open already";
   }
   frmComH8Ctrl nowhere([](int) { return QStringLiteral("/nowhere/com5"); });

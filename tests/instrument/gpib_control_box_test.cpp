@@ -6,7 +6,6 @@
 
 #include <QElapsedTimer>
 #include <QTimer>
-#include <algorithm>
 #include <array>
 
 #include "support/prepared_answers.h"

@@ -8,18 +8,15 @@
 #include "base/text_file.h"
 #include "optics/index_file.h"
 #include "support/prepared_answers.h"
+#include "support/spectra.h"
 #include "support/temporary_files.h"
 
 namespace vexa {
 namespace {
 
-constexpr const char* kName = "屈折 率 1.ind";
+using test::Flat;
 
-ReflectanceSpectrum Sevens() {
-  ReflectanceSpectrum spectrum;
-  std::ranges::fill(spectrum.Values(), 7.0);
-  return spectrum;
-}
+constexpr const char* kName = "屈折 率 1.ind";
 
 // Between whole nanometres a glass bends by less than 1E-7 from the straight line.
 double Interpolated(const ReflectanceSpectrum& index, double nm) {
@@ -78,7 +75,7 @@ TEST(Bunsan, SettingsWithoutAResultLeaveTheArray) {
     DispersionSetting setting = DefaultCoatSetting();
     setting.kind = c.kind;
     setting.schott = setting.sellmeier = c.coefficients;
-    ReflectanceSpectrum result = Sevens();
+    ReflectanceSpectrum result = Flat(7.0);
     EXPECT_EQ(GetBunsanArray(c.asReflectance, setting, result, messages), c.status) << c.name;
     EXPECT_DOUBLE_EQ(result[440], c.at440) << c.name;
     EXPECT_DOUBLE_EQ(result[840], c.at440) << c.name;
@@ -90,7 +87,7 @@ TEST(Bunsan, UnknownKindIsShownAndGivesZeros) {
   DispersionSetting setting = DefaultReferenceSetting();
   setting.kind = 5;
   test::PreparedAnswers messages;
-  ReflectanceSpectrum result = Sevens();
+  ReflectanceSpectrum result = Flat(7.0);
   EXPECT_EQ(GetBunsanArray(true, setting, result, messages), 0);
   EXPECT_EQ(result, ReflectanceSpectrum());
   EXPECT_EQ(messages.Take(),
@@ -106,7 +103,7 @@ class BunsanFiles : public testing::Test {
     DispersionSetting setting;
     setting.kind = kind;
     setting.indexFileName = setting.dataFileName = Path();
-    result = Sevens();
+    result = Flat(7.0);
     messages.Take();
     return GetBunsanArray(true, setting, result, messages);
   }

@@ -27,12 +27,8 @@ TEST(ThicknessHistory, HoldsFiftyPoints) {
 }
 
 TEST(ThicknessHistory, AutoScaleHoldsEveryPoint) {
-  struct Case {
-    std::vector<double> points;
-    std::optional<ThicknessScale> scale;
-  };
   constexpr double kNan = std::numeric_limits<double>::quiet_NaN();
-  const Case cases[] = {
+  const std::pair<std::vector<double>, std::optional<ThicknessScale>> cases[] = {
       {{}, ThicknessScale{0, 100}},
       {{0}, ThicknessScale{0, 100}},
       {{1500}, ThicknessScale{1440, 1560}},
@@ -43,8 +39,8 @@ TEST(ThicknessHistory, AutoScaleHoldsEveryPoint) {
       {{500, 20000.1}, {}},
       {{kNan}, {}},
   };
-  for (const Case& c : cases) {
-    EXPECT_EQ(AutoScale(c.points), c.scale) << testing::PrintToString(c.points);
+  for (const auto& [points, scale] : cases) {
+    EXPECT_EQ(AutoScale(points), scale) << testing::PrintToString(points);
   }
 }
 

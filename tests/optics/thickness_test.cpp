@@ -9,26 +9,17 @@
 
 #include "optics/bunsan.h"
 #include "optics/extremum_search.h"
+#include "support/spectra.h"
 
 namespace vexa {
 namespace {
 
-template <typename ValueAt>
-ReflectanceSpectrum Make(ValueAt valueAt) {
-  ReflectanceSpectrum spectrum;
-  for (int nm = 440; nm <= 840; ++nm) {
-    spectrum[nm] = valueAt(nm);
-  }
-  return spectrum;
-}
-
-ReflectanceSpectrum Constant(double value) {
-  return Make([value](int) { return value; });
-}
+using test::Flat;
+using test::SpectrumOf;
 
 // A level of 10 % with a triangular peak (or, of negative height, valley) at each wavelength.
 ReflectanceSpectrum Peaks(std::initializer_list<double> peaksNm, double height) {
-  return Make([&](int nm) {
+  return SpectrumOf([&](int nm) {
     double value = 10.0;
     for (const double peak : peaksNm) {
       value += height * std::max(0.0, 1.0 - std::abs(nm - peak) / 20.0);
@@ -39,7 +30,7 @@ ReflectanceSpectrum Peaks(std::initializer_list<double> peaksNm, double height) 
 
 // Fringes of a film of optical thickness nd: the phase between its two reflections is 4 pi nd / w.
 ReflectanceSpectrum Fringes(double opticalNm) {
-  return Make([opticalNm](int nm) {
+  return SpectrumOf([opticalNm](int nm) {
     return 10.0 + 5.0 * std::cos(4.0 * std::numbers::pi * opticalNm / nm);
   });
 }
@@ -51,12 +42,11 @@ struct Outcome {
 };
 
 Outcome Compute(std::int16_t type, std::int16_t kind, const ReflectanceSpectrum& spectrum,
-                const ReflectanceSpectrum& film = Constant(1.5),
-                std::optional<double> substrate = {}) {
+                const ReflectanceSpectrum& film = Flat(1.5), std::optional<double> substrate = {}) {
   Outcome outcome{.result = {}, .film = film};
   outcome.status =
       ComputeThickness(type, kind, substrate ? DispersionKind::kSubstrate : std::int16_t{0},
-                       Constant(substrate.value_or(0.0)), spectrum, outcome.film, outcome.result);
+                       Flat(substrate.value_or(0.0)), spectrum, outcome.film, outcome.result);
   return outcome;
 }
 
@@ -71,7 +61,7 @@ TEST(Thickness, FringesGiveTheThicknessThatMadeThem) {
       const double w2 = result.second.wavelengthNm;
       const double relative = (w1 / w2 + w2 / w1) / (w2 - w1);
       EXPECT_NEAR(result.thicknessNm, truthNm, truthNm * relative) << "type " << type;
-      EXPECT_EQ(film, Constant(1.5));
+      EXPECT_EQ(film, Flat(1.5));
     }
   }
 }
@@ -84,7 +74,7 @@ TEST(Thickness, TwoMaximaByHand) {
   EXPECT_EQ(ExtremumRows(optical.extrema).join(u'\n'),
             QStringLiteral("1\tP\t500\t30.0000\n2\tP\t600\t30.0000"));
   // A dispersive film: 0.5 * 500 * 600 / (1.6 * 600 - 1.5 * 500)
-  const ReflectanceSpectrum film = Make([](int nm) { return 1.6 - (nm - 500) * 0.001; });
+  const ReflectanceSpectrum film = SpectrumOf([](int nm) { return 1.6 - (nm - 500) * 0.001; });
   const Outcome physical = Compute(ThicknessType::kB, 0, spectrum, film);
   EXPECT_NEAR(physical.result.thicknessNm, 150000.0 / 210.0, 1E-9);
 }
@@ -96,7 +86,7 @@ TEST(Thickness, EachTypeTakesItsPair) {
   EXPECT_DOUBLE_EQ(Compute(ThicknessType::kA, 1, minima).result.thicknessNm, 2880.0);
   EXPECT_DOUBLE_EQ(Compute(ThicknessType::kB, 1, maxima).result.thicknessNm, 2160.0);
   // C: peaks at 480 and 640, a valley at 560; 2 * 0.25 * 480 * 640 / 160.
-  const ReflectanceSpectrum both = Make([](int nm) {
+  const ReflectanceSpectrum both = SpectrumOf([](int nm) {
     return 10.0 + 5.0 * std::cos(std::numbers::pi * (std::clamp(nm, 480, 640) - 480) / 80.0) +
            std::min(0, nm - 480) - std::max(0, nm - 640);
   });
@@ -110,7 +100,7 @@ TEST(Thickness, StatusesAndEmptyResults) {
   const ReflectanceSpectrum good = Fringes(3000.0);
   // Smoothing weakens such ripple but leaves it: 54 maxima, and 28 with 29 minima between.
   const auto ripple = [](double periodNm) {
-    return Make([periodNm](int nm) {
+    return SpectrumOf([periodNm](int nm) {
       return 50.0 + 10.0 * std::cos(2.0 * std::numbers::pi * nm / periodNm);
     });
   };
@@ -122,7 +112,7 @@ TEST(Thickness, StatusesAndEmptyResults) {
     Status status;
   };
   const Case cases[] = {
-      {"no extremum", 1, 0, Constant(4.0), 1.5, -1},
+      {"no extremum", 1, 0, Flat(4.0), 1.5, -1},
       {"one maximum", 1, 0, Peaks({600}, 20), 1.5, -1},
       {"maxima are not asked for", 0, 0, Peaks({600}, -8), 1.5, -1},
       {"more minima than the limit", 0, 0, ripple(7.3), 1.5, -2},
@@ -134,10 +124,10 @@ TEST(Thickness, StatusesAndEmptyResults) {
       {"type B with another kind", 1, 2, good, 1.5, 0},
       {"type C with another kind", 2, 2, good, 1.5, 0},
       {"unknown type", 3, 0, good, 1.5, -4},
-      {"not numbers", 2, 0, Constant(std::nan("")), 1.5, -1},
+      {"not numbers", 2, 0, Flat(std::nan("")), 1.5, -1},
   };
   for (const Case& c : cases) {
-    const auto [status, result, film] = Compute(c.type, c.kind, c.spectrum, Constant(c.index));
+    const auto [status, result, film] = Compute(c.type, c.kind, c.spectrum, Flat(c.index));
     EXPECT_EQ(status, c.status) << c.name;
     EXPECT_EQ(result.first == ExtremumPoint(), c.status != 0) << c.name;
     EXPECT_EQ(result.second == ExtremumPoint(), c.status != 0) << c.name;
@@ -156,7 +146,7 @@ TEST(Thickness, SubstrateChoosesTheExtremaAndReplacesTheIndex) {
   };
   const Case cases[] = {{0, 1.5, true}, {1, 1.9, true}, {0, 1.95, false}, {1, 2.2, false}};
   for (const Case& c : cases) {
-    const auto [status, result, film] = Compute(c.type, 1, spectrum, Constant(1.5), c.substrate);
+    const auto [status, result, film] = Compute(c.type, 1, spectrum, Flat(1.5), c.substrate);
     ASSERT_EQ(status, 0);
     for (const Extremum& extremum : result.extrema.Found()) {
       EXPECT_EQ(extremum.maximum, c.maxima) << c.substrate;
@@ -165,16 +155,16 @@ TEST(Thickness, SubstrateChoosesTheExtremaAndReplacesTheIndex) {
     EXPECT_NE(film[840], 1.5);
   }
   // The tops of 25 % are an index of 3, the film's is then sqrt(1.5 * 3).
-  const Outcome derived = Compute(1, 0, Peaks({500, 600}, 15.0), Constant(9.0), 1.5);
+  const Outcome derived = Compute(1, 0, Peaks({500, 600}, 15.0), Flat(9.0), 1.5);
   EXPECT_NEAR(derived.film[600], std::sqrt(4.5), 1E-12);
   EXPECT_NEAR(derived.result.thicknessNm, 1500.0 / std::sqrt(4.5), 1E-9);
-  EXPECT_EQ(Compute(2, 1, spectrum, Constant(9.0), 1.5).film, Constant(9.0)) << "not for type C";
-  EXPECT_EQ(Compute(1, 1, Peaks({500, 600}, 90.0), Constant(9.0), 1.5).status, -3)
+  EXPECT_EQ(Compute(2, 1, spectrum, Flat(9.0), 1.5).film, Flat(9.0)) << "not for type C";
+  EXPECT_EQ(Compute(1, 1, Peaks({500, 600}, 90.0), Flat(9.0), 1.5).status, -3)
       << "100 % has no index";
 }
 
 TEST(ExtremumSearch, SmoothingCutsItsWindowAtTheEnds) {
-  const ReflectanceSpectrum smoothed = Smoothed(Make([](int nm) { return nm; }));
+  const ReflectanceSpectrum smoothed = Smoothed(SpectrumOf([](int nm) { return nm; }));
   EXPECT_DOUBLE_EQ(smoothed[440], 442.5);  // mean of 440..445
   EXPECT_DOUBLE_EQ(smoothed[445], 445.0);
   EXPECT_DOUBLE_EQ(smoothed[836], 835.5);
@@ -201,7 +191,7 @@ TEST(ExtremumSearch, FlatRuns) {
        "V505.5"},
   };
   for (const Case& c : cases) {
-    const ReflectanceSpectrum spectrum = Make([&](int nm) {
+    const ReflectanceSpectrum spectrum = SpectrumOf([&](int nm) {
       std::size_t i = 1;
       while (c.corners[i].first < nm) {
         ++i;
@@ -224,7 +214,7 @@ TEST(ExtremumSearch, FlatRuns) {
 
 TEST(ExtremumSearch, TheFiftiethEndsIt) {
   for (const int peaks : {49, 50, 51}) {
-    const ReflectanceSpectrum zigzag = Make([peaks](int nm) {
+    const ReflectanceSpectrum zigzag = SpectrumOf([peaks](int nm) {
       const int step = nm - 440;
       return step <= 6 * peaks ? std::abs(3 - std::abs(step % 6 - 3)) : 0.0;
     });
@@ -251,7 +241,7 @@ TEST(ExtremumSearch, RefinementTakesTheMiddleOfTies) {
   };
   for (const Case& c : cases) {
     for (const double sign : {1.0, -1.0}) {
-      ReflectanceSpectrum spectrum = Constant(sign);
+      ReflectanceSpectrum spectrum = Flat(sign);
       for (const int nm : c.topsNm) {
         spectrum[nm] = 9.0 * sign;
       }

@@ -60,10 +60,7 @@ class ControllerProtocolTest : public testing::Test {
 };
 
 TEST_F(ControllerProtocolTest, AnswersEachFrameByItsBytes) {
-  const struct {
-    const char* frame;
-    const char* reply;
-  } cases[] = {
+  const std::pair<const char*, const char*> cases[] = {
       {"E1000000", "CHARVEXA-KT H8 1.00REQEND"},
       {"96009100", "CHAROKREQEND"},
       {"96FFFF03", "CHAROKREQEND"},
@@ -84,8 +81,8 @@ TEST_F(ControllerProtocolTest, AnswersEachFrameByItsBytes) {
       {"52455145", "CHARBAD COMMANDREQERR"},
   };
   ControllerProtocol protocol = Make();
-  for (const auto& c : cases) {
-    EXPECT_EQ(Bytes(Ask(protocol, c.frame)), c.reply) << c.frame;
+  for (const auto& [frame, reply] : cases) {
+    EXPECT_EQ(Bytes(Ask(protocol, frame)), reply) << frame;
   }
 }
 

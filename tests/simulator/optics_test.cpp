@@ -2,7 +2,6 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
-#include <cmath>
 
 #include "simulator/detector.h"
 #include "simulator/film_stack.h"
@@ -102,14 +101,12 @@ TEST(Samples, ReflectWhatTheyAreMadeFor) {
 }
 
 TEST(Detector, PlacesThePixelsByTheCalibrationLines) {
-  const struct {
-    int pixel;
-    double wavelengthNm;
-  } cases[] = {{511 - 138, 546.074}, {511 - 325, 696.543}, {511 - 378, 738.393},
-               {511 - 409, 763.511}, {511 - 469, 811.531}, {511, 435.033},  // 138 x 0.804647 below
-               {0, 845.145}};                                               // 42 x 0.800333 above
-  for (const auto& c : cases) {
-    EXPECT_NEAR(PixelWavelengthNm(c.pixel), c.wavelengthNm, 1e-3) << c.pixel;
+  const std::pair<int, double> cases[] = {
+      {511 - 138, 546.074}, {511 - 325, 696.543}, {511 - 378, 738.393},
+      {511 - 409, 763.511}, {511 - 469, 811.531}, {511, 435.033},  // 138 x 0.804647 below
+      {0, 845.145}};                                               // 42 x 0.800333 above
+  for (const auto& [pixel, nm] : cases) {
+    EXPECT_NEAR(PixelWavelengthNm(pixel), nm, 1e-3) << pixel;
   }
 }
 

@@ -55,10 +55,7 @@ QString Meaning(QStringView line) {
 }
 
 TEST(ConsoleLine, IsUnderstoodOrRefusedWhole) {
-  const struct {
-    QStringView line;
-    QStringView meaning;
-  } cases[] = {
+  const std::pair<QStringView, QStringView> cases[] = {
       {u"stage hardcoat1.5", u"hardcoat1.5"},
       {u"  stage \t ar4\r", u"ar4"},
       {u"stage auto", u"unattended"},
@@ -76,8 +73,8 @@ TEST(ConsoleLine, IsUnderstoodOrRefusedWhole) {
       {u"fault none", u"unknown"},
       {u"ｑｕｉｔ", u"unknown"},
   };
-  for (const auto& c : cases) {
-    EXPECT_EQ(Meaning(c.line), c.meaning) << c.line.toString().toStdString();
+  for (const auto& [line, meaning] : cases) {
+    EXPECT_EQ(Meaning(line), meaning) << line.toString().toStdString();
   }
 }
 

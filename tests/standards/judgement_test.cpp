@@ -9,17 +9,12 @@
 
 #include "standards/reflectance_band.h"
 #include "standards/tolerance_region.h"
+#include "support/spectra.h"
 
 namespace vexa {
 namespace {
 
-ReflectanceSpectrum Flat(double percent) {
-  ReflectanceSpectrum spectrum;
-  for (double& value : spectrum.Values()) {
-    value = percent;
-  }
-  return spectrum;
-}
+using test::Flat;
 
 struct Condition {
   int nm;

@@ -71,11 +71,7 @@ TEST_F(StandardFile, IsWrittenAndReadByteForByte) {
 }
 
 TEST_F(StandardFile, OldVersionsAndOtherKindsAreRefusedWithAMessage) {
-  struct Case {
-    const char* header;
-    bool read;
-  };
-  const Case cases[] = {
+  const std::pair<const char*, bool> cases[] = {
       {"VEXA-KT 440-840 Ver 3.00 Standard File", true},
       {"VEXA-KT 440-840 Ver 3.00 Standard File,,", true},
       {"VEXA for Windows Ver 3.21 Standard File", true},
@@ -87,14 +83,14 @@ TEST_F(StandardFile, OldVersionsAndOtherKindsAreRefusedWithAMessage) {
   const test::ShownMessage refusal{
       "VEXA-KT: 規格ﾌｧｲﾙ名:" + path_.toStdString() + "\r\rVer1.10以前の規格ﾌｧｲﾙは読み込めません。",
       16};
-  for (const Case& c : cases) {
+  for (const auto& [header, read] : cases) {
     files_.Write(kName,
-                 QByteArray(kGolden).replace("VEXA-KT 440-840 Ver 3.21 Standard File", c.header));
+                 QByteArray(kGolden).replace("VEXA-KT 440-840 Ver 3.21 Standard File", header));
     standard_ = {};
-    EXPECT_EQ(Read(), c.read) << c.header;
-    EXPECT_EQ(standard_ == StandardSet{}, !c.read) << c.header;
-    EXPECT_EQ(messages_.Take(), c.read ? std::vector<test::ShownMessage>() : std::vector{refusal})
-        << c.header;
+    EXPECT_EQ(Read(), read) << header;
+    EXPECT_EQ(standard_ == StandardSet{}, !read) << header;
+    EXPECT_EQ(messages_.Take(), read ? std::vector<test::ShownMessage>() : std::vector{refusal})
+        << header;
   }
 }
 

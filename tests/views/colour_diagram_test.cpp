@@ -122,36 +122,33 @@ TEST_F(Diagram, BackgroundIsBuiltInTurnsOfTheEventLoop) {
 }
 
 TEST_F(Diagram, EscOrAClickAsksWhetherToStopTheBackground) {
-  struct Case {
-    bool click;
-    MessageResult answer;
-  };
-  const Case cases[] = {{false, MessageResult::kCancel},
-                        {true, MessageResult::kCancel},
-                        {false, MessageResult::kOk},
-                        {true, MessageResult::kOk}};
   diagram.show();
   ASSERT_TRUE(QTest::qWaitForWindowActive(&diagram));
   ASSERT_FALSE(picture->IsComplete()) << "too fast for this test";
-  for (const Case& c : cases) {
-    picture->Request();
-    messages.answers = {c.answer};
-    if (c.click) {
+  const auto stop = [this](bool click) {
+    if (click) {
       QTest::mouseClick(&diagram, Qt::LeftButton);
     } else {
       QTest::keyClick(&diagram, Qt::Key_Escape);
     }
-    std::vector<ShownMessage> shown;
-    ASSERT_TRUE(QTest::qWaitFor([&] {
-      shown = messages.Take();
-      return !shown.empty();
-    }));
-    EXPECT_EQ(shown, std::vector{kQuestion});
-    EXPECT_EQ(picture->IsBuilding(), c.answer != MessageResult::kOk);
-    EXPECT_FALSE(picture->IsComplete());
+  };
+  for (const MessageResult answer : {MessageResult::kCancel, MessageResult::kOk}) {
+    for (const bool click : {false, true}) {
+      picture->Request();
+      messages.answers = {answer};
+      stop(click);
+      test::Shown shown;
+      ASSERT_TRUE(QTest::qWaitFor([&] {
+        shown = messages.Take();
+        return !shown.empty();
+      }));
+      EXPECT_EQ(shown, std::vector{kQuestion});
+      EXPECT_EQ(picture->IsBuilding(), answer != MessageResult::kOk);
+      EXPECT_FALSE(picture->IsComplete());
+    }
   }
-  QTest::keyClick(&diagram, Qt::Key_Escape);
-  QTest::mouseClick(&diagram, Qt::LeftButton);
+  stop(false);
+  stop(true);
   picture->Request();
   ASSERT_TRUE(Complete());
   EXPECT_EQ(messages.Take().size(), 0U) << "nothing to stop, nothing to ask";

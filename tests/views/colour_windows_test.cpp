@@ -5,6 +5,7 @@
 #include <QClipboard>
 
 #include "colour/stock_file.h"
+#include "support/spectra.h"
 #include "support/window_test.h"
 #include "views/colour/background_picture.h"
 #include "views/colour/colour_difference_window.h"
@@ -79,9 +80,8 @@ TEST_F(Stock, AFaultyFileIsShownAndWhatWasReadStays) {
 
 // A flat spectrum but for a bump in the green.
 void Fill(MeasurementSlot& slot, double level, double bump, const char* name) {
-  for (int nm = 440; nm <= 840; ++nm) {
-    slot.reflectance[nm] = level + (nm < 600 && nm > 520 ? bump : 0.0);
-  }
+  slot.reflectance =
+      test::SpectrumOf([&](int nm) { return level + (nm < 600 && nm > 520 ? bump : 0.0); });
   slot.info.sampleNumber = QString::fromUtf8(name);
   slot.valid = true;
 }

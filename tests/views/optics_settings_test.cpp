@@ -30,6 +30,8 @@ TEST_F(Settings, PagesAndFieldsAreThoseOfTheModeAndTheKind) {
   for (const Mode mode : {Mode::kReference, Mode::kThickness}) {
     const bool thickness = mode == Mode::kThickness;
     Open(mode);
+    EXPECT_EQ(dialog->windowTitle(),
+              thickness ? QStringLiteral("膜厚設定") : QStringLiteral("ﾘﾌｧﾚﾝｽ設定"));
     auto& pages = Find<QTabWidget>("Pages");
     ASSERT_EQ(pages.count(), 7);
     for (int i = 0; i < 7; ++i) {

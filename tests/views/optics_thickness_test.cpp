@@ -6,6 +6,7 @@
 #include <cmath>
 #include <numbers>
 
+#include "support/spectra.h"
 #include "support/window_test.h"
 #include "views/optics/jamp_wave.h"
 #include "views/optics/thickness_panel.h"
@@ -24,9 +25,8 @@ class Thickness : public test::WindowTest {
   // Fringes of a film without dispersion: minima where 2 n d is a whole number of wavelengths.
   void Fill(int slot, double opticalNm) {
     state.Slot(slot)->valid = true;
-    for (int nm = 440; nm <= 840; ++nm) {
-      state.Slot(slot)->reflectance[nm] = 5.0 - std::cos(4.0 * std::numbers::pi * opticalNm / nm);
-    }
+    state.Slot(slot)->reflectance = test::SpectrumOf(
+        [opticalNm](int nm) { return 5.0 - std::cos(4.0 * std::numbers::pi * opticalNm / nm); });
   }
   void Compute() { Press("ThicknessButton"); }
 
@@ -36,7 +36,7 @@ class Thickness : public test::WindowTest {
 
 TEST_F(Thickness, IsComputedForTheSelectedSlotAndShown) {
   state.thickness.enabled = true;
-  std::ranges::fill(state.filmIndex.Values(), 1.6);
+  state.filmIndex = test::Flat(1.6);
   Fill(4, 2400.0);  // minima at 800, 685.7, 600, ... nm
   panel.Show(4);
   EXPECT_EQ(Text("Thickness"), "-");
@@ -62,7 +62,7 @@ TEST_F(Thickness, IsComputedForTheSelectedSlotAndShown) {
 TEST_F(Thickness, KeepsTheIndexDerivedFromASubstrateWithItsSlot) {
   state.thickness.enabled = true;
   state.thickness.coat.kind = DispersionKind::kSubstrate;
-  std::ranges::fill(state.substrateIndex.Values(), 1.8);
+  state.substrateIndex = test::Flat(1.8);
   Fill(4, 2400.0);
   Fill(5, 3200.0);
   panel.Show(4);

@@ -5,10 +5,14 @@
 
 #include <QTimer>
 #include <QToolButton>
-#include <set>
+#include <map>
+
+#include "support/window_test.h"
 
 namespace vexa {
 namespace {
+
+using test::Child;
 
 // Shows a message, lets `act` do something with the open dialog, and returns the result.
 template <typename Act>
@@ -21,41 +25,29 @@ MessageResult Show(OriginalMsgFrm& dialog, std::int16_t type, Act act) {
 TEST(OriginalMsgFrm, ShowsTheButtonsOfItsTypeAndTellsWhichWasPressed) {
   struct Case {
     std::int16_t type;
-    std::set<std::string> buttons;
+    std::map<std::string, MessageResult> buttons;
     MessageResult byFrame;
   };
+  using enum MessageResult;
   const Case cases[] = {
-      {0, {"btnOK"}, MessageResult::kOk},
-      {1 + 48, {"btnOK", "btnCancel"}, MessageResult::kCancel},
-      {3 + 32, {"btnYes", "btnNo", "btnCancel"}, MessageResult::kCancel},
-      {4 + 32, {"btnYes", "btnNo"}, MessageResult::kNo},
-      {16, {"btnOK"}, MessageResult::kOk},
+      {0, {{"btnOK", kOk}}, kOk},
+      {1 + 48, {{"btnOK", kOk}, {"btnCancel", kCancel}}, kCancel},
+      {3 + 32, {{"btnYes", kYes}, {"btnNo", kNo}, {"btnCancel", kCancel}}, kCancel},
+      {4 + 32, {{"btnYes", kYes}, {"btnNo", kNo}}, kNo},
+      {16, {{"btnOK", kOk}}, kOk},
   };
-  const std::pair<const char*, MessageResult> results[] = {{"btnOK", MessageResult::kOk},
-                                                           {"btnCancel", MessageResult::kCancel},
-                                                           {"btnYes", MessageResult::kYes},
-                                                           {"btnNo", MessageResult::kNo}};
   OriginalMsgFrm dialog;
   for (const Case& c : cases) {
-    for (const auto& [name, result] : results) {
-      if (!c.buttons.contains(name)) {
-        continue;
-      }
-      EXPECT_EQ(Show(dialog, c.type,
-                     [&, button = name] {
-                       std::set<std::string> visible;
-                       for (const auto* each : dialog.findChildren<QPushButton*>()) {
-                         if (each->isVisible()) {
-                           visible.insert(each->objectName().toStdString());
-                         }
-                       }
-                       EXPECT_EQ(visible, c.buttons);
-                       EXPECT_EQ(dialog.windowTitle(), QStringLiteral("VEXA-KT ｴﾗｰ"));
-                       EXPECT_EQ(dialog.findChild<QLabel*>(QStringLiteral("lblCmmnt"))->text(),
-                                 QStringLiteral("一行目\n\n三行目"));
-                       dialog.findChild<QPushButton*>(QLatin1String(button))->click();
-                     }),
-                result);
+    for (const auto& [name, result] : c.buttons) {
+      const auto press = [&, button = name] {
+        for (const auto* each : dialog.findChildren<QPushButton*>()) {
+          EXPECT_EQ(each->isVisible(), c.buttons.contains(each->objectName().toStdString()));
+        }
+        EXPECT_EQ(dialog.windowTitle(), QStringLiteral("VEXA-KT ｴﾗｰ"));
+        EXPECT_EQ(Child<QLabel>(dialog, "lblCmmnt").text(), QStringLiteral("一行目\n\n三行目"));
+        test::Click(dialog, button.c_str());
+      };
+      EXPECT_EQ(Show(dialog, c.type, press), result);
     }
     EXPECT_EQ(Show(dialog, c.type, [&dialog] { dialog.close(); }), c.byFrame) << c.type;
   }
@@ -65,13 +57,13 @@ TEST(OriginalMsgFrm, DetailsUnfoldUnderTheTextOfTheirMessageAlone) {
   OriginalMsgFrm dialog;
   for (const QString& details : {QString(), QStringLiteral("/dev/ttyS4"), QString()}) {
     QTimer::singleShot(0, &dialog, [&] {
-      auto* unfold = dialog.findChild<QToolButton*>(QStringLiteral("Unfold"));
-      auto* text = dialog.findChild<QLabel*>(QStringLiteral("Details"));
-      EXPECT_EQ(unfold->isVisible(), !details.isEmpty());
-      EXPECT_FALSE(text->isVisible());
-      unfold->click();
-      EXPECT_EQ(text->text(), details);
-      EXPECT_TRUE(text->isVisible());
+      auto& unfold = Child<QToolButton>(dialog, "Unfold");
+      const auto& text = Child<QLabel>(dialog, "Details");
+      EXPECT_EQ(unfold.isVisible(), !details.isEmpty());
+      EXPECT_FALSE(text.isVisible());
+      unfold.click();
+      EXPECT_EQ(text.text(), details);
+      EXPECT_TRUE(text.isVisible());
       dialog.close();
     });
     dialog.MsgCall(QStringLiteral("x"), message_type::kOk, QStringLiteral("t"), details);

@@ -5,6 +5,7 @@
 
 #include "measurement/evaluation.h"
 #include "support/pdf_words.h"
+#include "support/spectra.h"
 #include "support/window_test.h"
 #include "views/print/print_dlg.h"
 #include "views/print/print_preview.h"
@@ -36,9 +37,8 @@ class Printing : public test::ViewTest {
   void Fill(int count) {
     for (int number = 1; number <= count; ++number) {
       MeasurementSlot& slot = *state.Slot(number);
-      for (int nm = 440; nm <= 840; ++nm) {
-        slot.reflectance[nm] = number + (nm - 440) / 1000.0;
-      }
+      slot.reflectance =
+          test::SpectrumOf([number](int nm) { return number + (nm - 440) / 1000.0; });
       slot.info.sampleNumber = QStringLiteral("A-00%1").arg(number);
       slot.valid = true;
     }

@@ -4,6 +4,7 @@
 #include <QClipboard>
 #include <QGuiApplication>
 
+#include "support/spectra.h"
 #include "support/window_test.h"
 #include "views/colour/background_picture.h"
 #include "views/common/plot_export.h"
@@ -18,9 +19,8 @@ namespace {
 class SpectrumViews : public test::ViewTest {
  protected:
   SpectrumViews() {
-    for (int nm = 440; nm <= 840; ++nm) {
-      state.Slot(2)->reflectance[nm] = 0.01 * std::abs(nm - 600) + 1.0;
-    }
+    state.Slot(2)->reflectance =
+        test::SpectrumOf([](int nm) { return 0.01 * std::abs(nm - 600) + 1.0; });
     state.Slot(2)->valid = true;
     state.Slot(2)->info.sampleNumber = QStringLiteral("S-2");
   }

@@ -121,6 +121,7 @@ TEST_F(StandardsWindow, RefusesFaultyEntriesAndStaysOpen) {
     const char* message;
   };
   const char* const kBand = "useReflectance";
+  const char* const kMean = "averageReflectance";
   const char* const kLuminous = "luminousReflectance";
   const Case cases[] = {
       {kBand, {1}, "condition1Wavelength", "841", "反射率規格波長範囲外エラー"},
@@ -128,6 +129,8 @@ TEST_F(StandardsWindow, RefusesFaultyEntriesAndStaysOpen) {
       {kBand, {3}, "condition3Wavelength", "", "反射率規格・条件３数値入力エラー"},
       {kBand, {4}, "condition4Wavelength", "40000", "反射率規格・条件４数値入力エラー"},
       {kBand, {10}, "condition10Upper", "1-", "反射率規格・条件１０数値入力エラー"},
+      {kMean, {}, "averageReflectanceLower", "-1", "平均反射率規格規格マイナス指定エラー"},
+      {"hueAngle", {}, "hueAngleUpper", "361", "色相角規格範囲外エラー<範囲:0°-360°>"},
       {kLuminous, {}, "luminousReflectanceLower", "E", "視感反射率規格数値入力エラー"},
       {"chroma", {}, "chromaUpper", "1E999", "クロマ規格数値入力エラー"},
   };
@@ -233,11 +236,7 @@ TEST_F(StandardsWindow, SavingOverTheFileInUseAndCancellingLeavesUnsavedStandard
 }
 
 TEST_F(StandardsWindow, TellsWhatTheConditionsDoNotTest) {
-  struct Case {
-    std::vector<std::pair<int, const char*>> conditions;
-    const char* hint;
-  };
-  const Case cases[] = {
+  const std::pair<std::vector<std::pair<int, const char*>>, const char*> cases[] = {
       {{{2, "500"}}, "条件１が使用されていないため、反射率は判定されません。"},
       {{{1, "500"}}, ""},
       {{{1, "500"}, {2, "600"}}, ""},
@@ -247,14 +246,14 @@ TEST_F(StandardsWindow, TellsWhatTheConditionsDoNotTest) {
       {{{1, "500"}, {2, "600"}, {10, "700"}},
        "条件１０の限界は、使用されていない条件９の値から引かれます。"},
   };
-  for (const Case& c : cases) {
+  for (const auto& [conditions, hint] : cases) {
     Open();
     Use("useReflectance");
-    for (const auto& [condition, nm] : c.conditions) {
+    for (const auto& [condition, nm] : conditions) {
       Use(condition);
       Enter(qPrintable(QStringLiteral("condition%1Wavelength").arg(condition)), nm);
     }
-    EXPECT_EQ(Text("bandHint"), c.hint);
+    EXPECT_EQ(Text("bandHint"), hint);
   }
 }
 
