@@ -37,6 +37,7 @@ TEST_F(EnvironmentFile, EveryLineHasItsPlaceAndGoesRoundUnchanged) {
   EXPECT_EQ(result.version, 3.21);
   EXPECT_EQ(state.display.view, 3);
   EXPECT_EQ(state.display.longestNm, 800.5);
+  EXPECT_EQ(state.display.maximumPercent, 12.5);
   EXPECT_EQ(state.display.textStepNm, 10);
   EXPECT_EQ(state.display.labScale, 1);
   EXPECT_EQ(state.colour.illuminant, 4);

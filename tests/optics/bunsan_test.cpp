@@ -24,15 +24,32 @@ double Interpolated(const ReflectanceSpectrum& index, double nm) {
   return index[below] + (nm - below) * (index[below + 1] - index[below]);
 }
 
-TEST(Bunsan, GlassesHaveTheirCatalogueIndices) {
+class Bunsan : public testing::Test {
+ protected:
+  [[nodiscard]] QString Path() const { return files.Path(kName); }
+
+  // The status of the file read as `kind`; `result` is 7 everywhere before.
+  Status Read(std::int16_t kind) {
+    DispersionSetting setting;
+    setting.kind = kind;
+    setting.indexFileName = setting.dataFileName = Path();
+    result = Flat(7.0);
+    messages.Take();
+    return GetBunsanArray(true, setting, result, messages);
+  }
+
+  test::PreparedAnswers messages;
+  test::TemporaryFiles files;
+  ReflectanceSpectrum result;
+};
+
+TEST_F(Bunsan, GlassesHaveTheirCatalogueIndices) {
   DispersionSetting nbk7 = DefaultReferenceSetting();  // Schott's data sheet of N-BK7
   nbk7.sellmeier = {1.03961212, 0.231792344, 1.01046945, 0.00600069867, 0.0200179144, 103.560653};
   DispersionSetting bk7 = nbk7;  // Schott's catalogue of 1980
   bk7.kind = DispersionKind::kSchott;
   bk7.schott = {2.2718929, -1.0108077E-2, 1.0592509E-2, 2.0816965E-4, -7.6472538E-6, 4.9240991E-7};
   constexpr double kHalfLastDigit = 5.1E-6;
-  test::PreparedAnswers messages;
-  ReflectanceSpectrum result;
   for (const DispersionSetting& glass : {nbk7, bk7}) {
     ASSERT_EQ(GetBunsanArray(false, glass, result, messages), 0);
     EXPECT_NEAR(Interpolated(result, 587.5618), 1.51680, kHalfLastDigit);
@@ -50,7 +67,7 @@ TEST(Bunsan, GlassesHaveTheirCatalogueIndices) {
   EXPECT_NEAR(Interpolated(result, 587.5618), 1.51680, kHalfLastDigit);
 }
 
-TEST(Bunsan, SettingsWithoutAResultLeaveTheArray) {
+TEST_F(Bunsan, SettingsWithoutAResultLeaveTheArray) {
   struct Case {
     const char* name;
     std::int16_t kind;
@@ -70,12 +87,11 @@ TEST(Bunsan, SettingsWithoutAResultLeaveTheArray) {
       {"pole at 835 nm in the last term", 2, {0, 0, -1, 0, 0, 0.697225}, false, 1, 7.0},
       {"fixed value stays", 0, {}, true, 0, 1.2},
   };
-  test::PreparedAnswers messages;
   for (const Case& c : cases) {
     DispersionSetting setting = DefaultCoatSetting();
     setting.kind = c.kind;
     setting.schott = setting.sellmeier = c.coefficients;
-    ReflectanceSpectrum result = Flat(7.0);
+    result = Flat(7.0);
     EXPECT_EQ(GetBunsanArray(c.asReflectance, setting, result, messages), c.status) << c.name;
     EXPECT_DOUBLE_EQ(result[440], c.at440) << c.name;
     EXPECT_DOUBLE_EQ(result[840], c.at440) << c.name;
@@ -83,35 +99,15 @@ TEST(Bunsan, SettingsWithoutAResultLeaveTheArray) {
   EXPECT_TRUE(messages.Take().empty());
 }
 
-TEST(Bunsan, UnknownKindIsShownAndGivesZeros) {
+TEST_F(Bunsan, UnknownKindIsShownAndGivesZeros) {
   DispersionSetting setting = DefaultReferenceSetting();
   setting.kind = 5;
-  test::PreparedAnswers messages;
-  ReflectanceSpectrum result = Flat(7.0);
+  result = Flat(7.0);
   EXPECT_EQ(GetBunsanArray(true, setting, result, messages), 0);
   EXPECT_EQ(result, ReflectanceSpectrum());
   EXPECT_EQ(messages.Take(),
             (std::vector<test::ShownMessage>{{"VEXA-KT: Erroro GetBunsanArray(Bunsan.Bas)", 16}}));
 }
-
-class BunsanFiles : public testing::Test {
- protected:
-  [[nodiscard]] QString Path() const { return files.Path(kName); }
-
-  // The status of the file read as `kind`; `result` is 7 everywhere before.
-  Status Read(std::int16_t kind) {
-    DispersionSetting setting;
-    setting.kind = kind;
-    setting.indexFileName = setting.dataFileName = Path();
-    result = Flat(7.0);
-    messages.Take();
-    return GetBunsanArray(true, setting, result, messages);
-  }
-
-  test::PreparedAnswers messages;
-  test::TemporaryFiles files;
-  ReflectanceSpectrum result;
-};
 
 QByteArray Repeated(int count, const std::function<QByteArray(int)>& row) {
   QByteArray rows;
@@ -121,7 +117,7 @@ QByteArray Repeated(int count, const std::function<QByteArray(int)>& row) {
   return rows;
 }
 
-TEST_F(BunsanFiles, IndexFileHasItsExactForm) {
+TEST_F(Bunsan, IndexFileHasItsExactForm) {
   ReflectanceSpectrum values;
   values[440] = 1.5168;
   values[441] = -0.000012345678949;
@@ -140,7 +136,7 @@ TEST_F(BunsanFiles, IndexFileHasItsExactForm) {
   EXPECT_EQ(TextReader::Open(Path()).Line(), QStringLiteral("VEXA-KT 440-840 Ver 3.21 Index File"));
 }
 
-TEST_F(BunsanFiles, IndexFilesByTheirDefect) {
+TEST_F(Bunsan, IndexFilesByTheirDefect) {
   const QByteArray row = "1.5\r\n";
   struct Case {
     const char* name;
@@ -167,7 +163,7 @@ TEST_F(BunsanFiles, IndexFilesByTheirDefect) {
   EXPECT_TRUE(messages.Take().empty());
 }
 
-TEST_F(BunsanFiles, SubstrateFilesOfAllLayouts) {
+TEST_F(Bunsan, SubstrateFilesOfAllLayouts) {
   // 4 % at 440 nm is an index of 1.5, 25 % at 840 nm one of 3.
   const auto value = [](int i) { return QByteArray::number(i == 0 ? 4 : i == 400 ? 25 : 16); };
   const auto waveRow = [&](int i) {

@@ -16,7 +16,6 @@ using test::ShownMessage;
 class Panel : public test::WindowTest {
  protected:
   QWidget& Window() override { return panel; }
-  bool Checked() { return Find<QCheckBox>("AccumulateChk").isChecked(); }
 
   ColourPanel panel{state, messages, dialogs};
 };
@@ -95,7 +94,7 @@ TEST_F(Panel, AsksWhenTheStockWasTakenUnderOtherConditions) {
     messages.answers = {c.answer};
     Press("AccumulateChk");
     EXPECT_EQ(messages.Take(), c.asked ? std::vector{question} : Shown{});
-    EXPECT_EQ(Checked(), c.checked);
+    EXPECT_EQ(Find<QCheckBox>("AccumulateChk").isChecked(), c.checked);
     EXPECT_EQ(state.accumulate, c.checked);
     EXPECT_EQ(Text("StockCount"), std::to_string(c.pointsLeft));
     EXPECT_FALSE(state.stock.DiffersFrom(state.ColourConditions()))

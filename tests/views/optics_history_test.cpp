@@ -142,8 +142,7 @@ TEST_F(History, IsSaved) {
   messages.answers = {MessageResult::kCancel};
   Choose("SaveAs");
   EXPECT_EQ(messages.Take(),
-            (std::vector{
-                ShownMessage{"VEXA-KT ﾜｰﾆﾝｸﾞ: 同ﾌｧｲﾙ名が存在します。上書き保存しますか？", 49}}));
+            (Shown{{"VEXA-KT ﾜｰﾆﾝｸﾞ: 同ﾌｧｲﾙ名が存在します。上書き保存しますか？", 49}}));
   EXPECT_TRUE(files.Read("履歴.thk").endsWith("1512.25\r\n"));
   dialogs.save = SaveChoice{files.Path("missing/x"), 1};
   Choose("SaveAs");
