@@ -8,6 +8,7 @@
 #include <cmath>
 
 #include "app/main_window_test.h"
+#include "files/data_file.h"
 #include "files/environment_file.h"
 #include "standards/standard_file.h"
 #include "views/graph/reflectance_graph.h"
@@ -99,6 +100,7 @@ TEST_F(MainWindow, ShowsWhatRunsAndKeepsEverythingElseWaiting) {
   }
   EXPECT_EQ(button.text(), QStringLiteral("Background"));
   EXPECT_FALSE(button.isChecked());
+  EXPECT_EQ(button.shortcut(), QKeySequence(Qt::Key_F5)) << "also the next time";
   EXPECT_TRUE(window->Commands().quit->isEnabled());
 }
 
@@ -107,6 +109,7 @@ TEST_F(MainWindow, AsksForWhatIsMissingFirst) {
   EXPECT_EQ(messages.Take(), std::vector{kAskBackground});
   Measure("Reference", 100);
   EXPECT_EQ(messages.Take(), std::vector{kAskBackground});
+  EXPECT_FALSE(Find<QAbstractButton>("Reference").isChecked());
   Measure("Background", 100);
   Measure("Mes1", 100);
   EXPECT_EQ(messages.Take(), std::vector{kAskReference});
@@ -197,6 +200,22 @@ TEST_F(MainWindow, SavesTheSlots) {
   EXPECT_EQ(messages.Take(),
             (Shown{{"VEXA-KT ﾜｰﾆﾝｸﾞ: 同ﾌｧｲﾙ名が存在します。上書き保存しますか？", 52}}));
   EXPECT_EQ(peer.files.Read("試料 1.csv"), content);
+}
+
+TEST_F(MainWindow, EverySavedFileOpensAgain) {
+  const std::tuple<const char*, int, const char*> cases[] = {
+      {"lens", 1, "lens.csv"}, {"lens", 2, "lens.dat"},       {"five", 3, "five.dat"},
+      {"1.5", 1, "1.5.csv"},   {"typed.dat", 1, "typed.dat"}, {"typed.CSV", 2, "typed.CSV"},
+  };
+  MeasureThrough(1);
+  for (const auto& [name, filter, file] : cases) {
+    dialogs.save = SaveChoice{Path(name), filter};
+    window->Commands().saveFileAs->trigger();
+    VEXATYPE read;
+    EXPECT_TRUE(ReadDataFile(Path(file), read, messages)) << file;
+    EXPECT_NEAR(read.Slot(1)->reflectance[440], window->State().Slot(1)->reflectance[440], 1e-12)
+        << file;
+  }
 }
 
 TEST_F(MainWindow, AsksAboutTheEnvironmentAtTheEnd) {
@@ -303,20 +322,19 @@ TEST_F(MainWindow, CalibrationShiftIsKeptInItsFile) {
 TEST_F(MainWindow, SampleInformationIsTakenOverAsTyped) {
   InDialog(window->Commands().sampleInformation, [](QWidget& dialog) {
     EXPECT_EQ(test::Child<QLineEdit>(dialog, "MesDate_txt10").text(), QStringLiteral("0:00:00"));
-    Insert(dialog, "SampNo_txt1", "A-1, 上");
+    Insert(dialog, "SampNo_txt1", "A-1 上");
     Insert(dialog, "DevNo_txt10", "装置");
     Insert(dialog, "MesDate_txt2", "2026/03/09 07:05:03");
     Click(dialog, "OK_b");
   });
   EXPECT_EQ(messages.Take(), Shown{});
-  EXPECT_EQ(window->State().Slot(1)->info.sampleNumber, QStringLiteral("A-1, 上"));
+  EXPECT_EQ(window->State().Slot(1)->info.sampleNumber, QStringLiteral("A-1 上"));
   EXPECT_EQ(window->State().Slot(10)->info.remark2, QStringLiteral("装置"));
   EXPECT_EQ(window->State().Slot(2)->info.measuredAt, QDateTime({2026, 3, 9}, {7, 5, 3}));
 
-  const std::pair<const char*, const char*> refused[] = {{"MesDate_txt2", "yesterday"},
-                                                         {"MesDate_txt3", ""},
-                                                         {"SampNo_txt1", "é"},
-                                                         {"MesPoint_txt4", "😀"}};
+  const std::pair<const char*, const char*> refused[] = {
+      {"MesDate_txt2", "yesterday"}, {"MesDate_txt3", ""},   {"SampNo_txt1", "é"},
+      {"SampNo_txt1", "A,1"},        {"SampNo_txt1", "\"A"}, {"MesPoint_txt4", "😀"}};
   for (const auto& [field, text] : refused) {
     InDialog(window->Commands().sampleInformation,
              [&, name = field, typed = text](QWidget& dialog) {

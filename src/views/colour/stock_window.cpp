@@ -111,7 +111,7 @@ void StockWindow::Save() {
   if (!choice) {
     return;
   }
-  const QString path = WithDefaultExtension(choice->path, QStringLiteral(".stc"));
+  const QString path = WithExtension(choice->path, QStringLiteral(".stc"));
   if (MayReplace(path, messages_) && !WriteStockFile(path, state_.stock)) {
     ShowWriteError(path, messages_);
   }

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <QString>
+#include <QStringList>
 #include <optional>
 
 class QWidget;
@@ -43,7 +44,8 @@ class WindowFileDialogs : public FileDialogs {
   QString folder_;
 };
 
-/// The name with the extension (".csv") added when its last part has none.
-[[nodiscard]] QString WithDefaultExtension(const QString& path, const QString& extension);
+/// The name with the extension (".csv") added, unless it ends with it or with one of the others.
+[[nodiscard]] QString WithExtension(const QString& path, const QString& extension,
+                                    const QStringList& others = {});
 
 }  // namespace vexa

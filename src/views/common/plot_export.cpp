@@ -35,7 +35,7 @@ void SavePicture(QCustomPlot& plot, MessageService& messages, FileDialogs& dialo
   const QStringList suffixes{QStringLiteral(".png"), QStringLiteral(".svg"),
                              QStringLiteral(".pdf")};
   const QString path =
-      WithDefaultExtension(choice->path, suffixes.value(choice->filterIndex - 1, suffixes[0]));
+      WithExtension(choice->path, suffixes.value(choice->filterIndex - 1, suffixes[0]), suffixes);
   if (MayReplace(path, messages) &&
       !ReplaceFile(path, PlotPicture(plot, QFileInfo(path).suffix().toLower()))) {
     ShowWriteError(path, messages);

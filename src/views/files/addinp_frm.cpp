@@ -94,6 +94,10 @@ void AddinpFrm::accept() {
         return Refuse(*entry, QStringLiteral("ﾌｧｲﾙに保存できない文字が含まれています。"));
       }
     }
+    // They stand between commas in a data file.
+    if (sampleNumber->text().contains(u',') || sampleNumber->text().contains(u'"')) {
+      return Refuse(*sampleNumber, QStringLiteral("ﾌｧｲﾙに保存できない文字が含まれています。"));
+    }
     const std::optional<QDateTime> measuredAt = ParseDateTime(date->text());
     if (!measuredAt) {
       return Refuse(*date, QStringLiteral("測定日が日付ではありません。"));

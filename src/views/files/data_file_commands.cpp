@@ -27,10 +27,15 @@ void SaveDataFileAs(VEXATYPE& state, MessageService& messages, FileDialogs& dial
   if (!choice) {
     return;
   }
-  const auto layout = static_cast<DataFileLayout>(choice->filterIndex);
+  const QStringList extensions{QStringLiteral(".csv"), QStringLiteral(".dat")};
+  auto layout = static_cast<DataFileLayout>(choice->filterIndex);
   const QString path =
-      WithDefaultExtension(choice->path, layout == DataFileLayout::kCsv ? QStringLiteral(".csv")
-                                                                        : QStringLiteral(".dat"));
+      WithExtension(choice->path, extensions[layout == DataFileLayout::kCsv ? 0 : 1], extensions);
+  // A file is read as its ending says, so an ending typed against the filter is what counts.
+  const DataFileLayout ending = LayoutByEnding(path);
+  if ((ending == DataFileLayout::kCsv) != (layout == DataFileLayout::kCsv)) {
+    layout = ending;
+  }
   if (!MayReplace(path, messages)) {
     return;
   }

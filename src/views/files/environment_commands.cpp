@@ -49,7 +49,7 @@ void SaveEnvironmentAs(VEXATYPE& state, MessageService& messages, FileDialogs& d
   if (!choice) {
     return;
   }
-  const QString path = WithDefaultExtension(choice->path, QStringLiteral(".env"));
+  const QString path = WithExtension(choice->path, QStringLiteral(".env"));
   if (MayKeepName(path, messages) && MayReplace(path, messages) && Write(path, state, messages)) {
     state.envFileName = path;
   }

@@ -26,6 +26,7 @@ MinimumMark::MinimumMark(QCustomPlot& plot, Abscissa abscissa)
   text_->setObjectName(QStringLiteral("Minimum"));
   text_->setFont(plot.font());
   text_->setColor(theme::kText);
+  text_->setBrush(QColor(255, 255, 255, 200));  // readable over curves, which stay visible
   text_->setPadding(kPadding);
   text_->setSelectable(false);
   text_->setClipToAxisRect(true);

@@ -276,7 +276,7 @@ void RefSetDlg::Save() {
   if (!choice) {
     return;
   }
-  const QString path = WithDefaultExtension(choice->path, texts.extension);
+  const QString path = WithExtension(choice->path, texts.extension);
   if (!MayReplace(path, messages_, message_type::kOkCancel)) {
     return;
   }

@@ -194,7 +194,7 @@ void ThickGraph::Save() {
   if (!choice) {
     return;
   }
-  const QString path = WithDefaultExtension(choice->path, QStringLiteral(".thk"));
+  const QString path = WithExtension(choice->path, QStringLiteral(".thk"));
   if (MayReplace(path, messages_, message_type::kOkCancel) &&
       !WriteThicknessFile(path, state_.thicknessHistory)) {
     messages_.MsgCall(QStringLiteral("膜厚履歴ﾌｧｲﾙの書き込みに失敗しました。"), kOk + kStopIcon,

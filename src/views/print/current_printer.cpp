@@ -70,7 +70,7 @@ bool CurrentPrinter::PrintToFile(const QString& title, const PageMaker& pages) {
   if (!choice) {
     return false;
   }
-  const QString path = WithDefaultExtension(choice->path, QStringLiteral(".pdf"));
+  const QString path = WithExtension(choice->path, QStringLiteral(".pdf"));
   if (!MayReplace(path, messages_)) {
     return false;
   }

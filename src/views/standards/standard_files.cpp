@@ -61,7 +61,7 @@ std::optional<QString> SaveStandardFile(const StandardContents& contents, const 
   if (!choice) {
     return std::nullopt;
   }
-  const QString path = WithDefaultExtension(choice->path, QStringLiteral(".std"));
+  const QString path = WithExtension(choice->path, QStringLiteral(".std"));
   if (!MayKeepName(path, messages) || !MayReplace(path, messages)) {
     return std::nullopt;
   }
