@@ -43,6 +43,9 @@ QString ChangesText(const FrameChanges& changes) {
   if (changes.old) {
     texts << QStringLiteral("%1分経過").arg(kFrameAgeLimitMinutes);
   }
+  if (changes.future) {
+    texts << QStringLiteral("時計変更");
+  }
   return texts.join(u' ');
 }
 
@@ -69,7 +72,7 @@ QLabel* SmallLabel(const QString& name) {
 void ShowFrameAge(QLabel& label, const FrameConditions& frame, const InstrumentSettings& settings,
                   const QDateTime& now) {
   const FrameChanges changes = ChangedSince(frame, settings, now);
-  const bool warn = changes.SettingsDiffer() || changes.old;
+  const bool warn = changes.SettingsDiffer() || changes.old || changes.future;
   const qint64 minutes = std::max(frame.takenAt.secsTo(now), qint64{0}) / 60;
   const QString time =
       QStringLiteral("%1 (%2)").arg(TimeText(frame.takenAt, now), AgeText(minutes));

@@ -56,10 +56,15 @@ int RunWindow() {
   return QApplication::exec();
 }
 
-// A report needs no display; the platform must be set before the application is made.
-bool AsksForReport(int argc, char* argv[]) {
-  return std::any_of(argv + 1, argv + argc,
-                     [](const char* word) { return QByteArray(word).startsWith("--report"); });
+// Only the window itself is nothing without a display; the platform must be set before the
+// application is made.
+bool NeedsNoDisplay(int argc, char* argv[]) {
+  const bool display = qEnvironmentVariableIsSet("DISPLAY") ||
+                       qEnvironmentVariableIsSet("WAYLAND_DISPLAY") ||
+                       qEnvironmentVariableIsSet("QT_QPA_PLATFORM");
+  return std::any_of(argv + 1, argv + argc, [display](const char* word) {
+    return QByteArray(word).startsWith("--report") || !display;
+  });
 }
 
 struct Options {
@@ -109,7 +114,7 @@ QString Fault(const QCommandLineParser& parser, const Options& options) {
 }  // namespace
 
 int main(int argc, char* argv[]) {
-  if (AsksForReport(argc, argv)) {
+  if (NeedsNoDisplay(argc, argv)) {
     qputenv("QT_QPA_PLATFORM", "offscreen");
   }
   QApplication application(argc, argv);

@@ -34,6 +34,13 @@ QPushButton* TwoStateButton(const QString& caption, const QString& tip, const QK
   return button;
 }
 
+// A new text takes a button's key away.
+void SetCaption(QPushButton& button, const QString& text) {
+  const QKeySequence key = button.shortcut();
+  button.setText(text);
+  button.setShortcut(key);
+}
+
 QFrame* Line() {
   auto* line = new QFrame;
   line->setFrameShape(QFrame::HLine);
@@ -58,8 +65,15 @@ MeasurementBar::MeasurementBar(QWidget* parent)
       time_(new QLabel),
       lightWarning_(SmallLabel(QStringLiteral("LightWarning"))) {
   setFixedWidth(kWidth);
-  connect(background_, &QPushButton::clicked, this, &MeasurementBar::BackgroundRequested);
-  connect(reference_, &QPushButton::clicked, this, &MeasurementBar::ReferenceRequested);
+  // They look pressed while they measure, not while a request is refused.
+  connect(background_, &QPushButton::clicked, this, [this] {
+    background_->setChecked(false);
+    emit BackgroundRequested();
+  });
+  connect(reference_, &QPushButton::clicked, this, [this] {
+    reference_->setChecked(false);
+    emit ReferenceRequested();
+  });
   connect(allClear_, &QPushButton::clicked, this, &MeasurementBar::ClearRequested);
   connect(data_, &QPushButton::clicked, this, &MeasurementBar::DataRequested);
 
@@ -146,11 +160,11 @@ void MeasurementBar::ShowAges(const VEXATYPE& state, const QDateTime& now) {
 void MeasurementBar::ShowRunning(MeasurementKind kind, int slot) {
   switch (kind) {
     case MeasurementKind::kBackground:
-      background_->setText(QStringLiteral("*Backgroud*"));
+      SetCaption(*background_, QStringLiteral("*Backgroud*"));
       background_->setChecked(true);
       break;
     case MeasurementKind::kReference:
-      reference_->setText(QStringLiteral("*Reference*"));
+      SetCaption(*reference_, QStringLiteral("*Reference*"));
       reference_->setChecked(true);
       break;
     case MeasurementKind::kSample:
@@ -160,9 +174,9 @@ void MeasurementBar::ShowRunning(MeasurementKind kind, int slot) {
 }
 
 void MeasurementBar::ShowAtRest() {
-  background_->setText(kBackgroundAtRest);
+  SetCaption(*background_, kBackgroundAtRest);
   background_->setChecked(false);
-  reference_->setText(kReferenceAtRest);
+  SetCaption(*reference_, kReferenceAtRest);
   reference_->setChecked(false);
   for (const SlotRow& row : rows_) {
     row.measure->setDown(false);

@@ -35,8 +35,17 @@ void LoadStandards(VEXATYPE& state, MessageService& messages) {
   state.standardsChanged = false;
 }
 
-// A file that is there but cannot be read must not turn into defaults without a word; one of a
-// wrong version has had its message already.
+// A file that is there but cannot be read must not turn into defaults without a word; a missing one
+// may.
+void TellUnreadable(const QString& path, MessageService& messages) {
+  if (QFileInfo::exists(path)) {
+    messages.MsgCall(QStringLiteral("ﾌｧｲﾙの読み込みでエラーが発生しました。\r\rﾌｧｲﾙ名:") + path +
+                         QStringLiteral("\r\rﾃﾞﾌｫﾙﾄ値に設定されます。"),
+                     message_type::kOk + message_type::kStopIcon, message_title::kError);
+  }
+}
+
+// Likewise; one of a wrong version has had its message already.
 void TellUnreadable(const QString& path, const EnvironmentRead& result, MessageService& messages) {
   if (!result.read && result.version > 0.0) {
     messages.MsgCall(QStringLiteral("環境ﾌｧｲﾙの読み込みでエラーが発生しました。\r\r環境ﾌｧｲﾙ名:") +
@@ -59,6 +68,7 @@ void SetEnvDefaults(VEXATYPE& state) {
 
 void LoadConfiguration(VEXATYPE& state, MessageService& messages) {
   if (!ReadStartupFile(state)) {
+    TellUnreadable(CompletePath(state, QStringLiteral("vexa.int")), messages);
     SetEnvDefaults(state);
   } else {
     const QString path = CompletePath(state, state.envFileName);
@@ -72,9 +82,12 @@ void LoadConfiguration(VEXATYPE& state, MessageService& messages) {
   }
   state.instrument.averagingCount = 1;
   state.instrument.serialController = state.instrument.controllerPort != 0;
-  state.instrument.calibrationShiftNm =
-      ReadCalibrationFile(CompletePath(state, QStringLiteral("vexa.cal")))
-          .value_or(InstrumentSettings().calibrationShiftNm);
+  const QString calibration = CompletePath(state, QStringLiteral("vexa.cal"));
+  const auto shiftNm = ReadCalibrationFile(calibration);
+  if (!shiftNm) {
+    TellUnreadable(calibration, messages);
+  }
+  state.instrument.calibrationShiftNm = shiftNm.value_or(InstrumentSettings().calibrationShiftNm);
 }
 
 bool LoadEnvironment(const QString& path, VEXATYPE& state, MessageService& messages) {

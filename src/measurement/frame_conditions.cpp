@@ -12,7 +12,8 @@ FrameChanges ChangedSince(const FrameConditions& frame, const InstrumentSettings
   return {.samplingTime = frame.samplingTimeMs != settings.samplingTimeMs,
           .averagingCount = frame.averagingCount != settings.averagingCount,
           .calibrationShift = frame.calibrationShiftNm != settings.calibrationShiftNm,
-          .old = frame.takenAt.secsTo(now) >= qint64{kFrameAgeLimitMinutes} * 60};
+          .old = frame.takenAt.secsTo(now) >= qint64{kFrameAgeLimitMinutes} * 60,
+          .future = frame.takenAt.secsTo(now) < -60};
 }
 
 }  // namespace vexa

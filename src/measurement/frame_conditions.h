@@ -27,7 +27,8 @@ struct FrameChanges {
   bool samplingTime = false;
   bool averagingCount = false;
   bool calibrationShift = false;
-  bool old = false;  ///< taken kFrameAgeLimitMinutes ago or earlier
+  bool old = false;     ///< taken kFrameAgeLimitMinutes ago or earlier
+  bool future = false;  ///< taken later than now: the clock was set back, and tells no age
 
   [[nodiscard]] bool SettingsDiffer() const {
     return samplingTime || averagingCount || calibrationShift;

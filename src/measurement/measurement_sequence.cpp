@@ -63,7 +63,12 @@ bool MeasurementSequence::ClearAll() {
 
 std::optional<Status> MeasurementSequence::Measure(MeasurementKind kind, int slot,
                                                    RawSpectrum& target) {
-  if (running_ || controller_ == nullptr) {
+  if (running_) {
+    return std::nullopt;
+  }
+  if (controller_ == nullptr) {
+    messages_.MsgCall(QStringLiteral("ｺﾝﾄﾛｰﾗが接続されていません。"), kOk + kWarningIcon,
+                      message_title::kWarning);
     return std::nullopt;
   }
   running_ = true;
@@ -124,13 +129,15 @@ void MeasurementSequence::StoreSample(int slotNumber) {
   slot.reflectance =
       ComputeReflectance(state_.sample, state_.background, state_.reference,
                          state_.instrument.calibrationShiftNm, state_.referenceReflectance);
+  slot.thickness = {};
+  slot.info.measuredAt = clock_();
+  slot.valid = true;
+  // Before any message about it waits for its answer.
+  emit FrameKept(MeasurementKind::kSample, slotNumber);
   EvaluateSlot(state_, slot, messages_);
   slot.info.measuredAt = clock_();
-  slot.thickness = {};
   const bool thicknessMeasured = state_.autoThickness && state_.thickness.enabled &&
                                  ComputeSlotThickness(state_, slot, messages_) == 0;
-  slot.valid = true;
-  emit FrameKept(MeasurementKind::kSample, slotNumber);
   emit SampleStored(slotNumber);
   if (thicknessMeasured) {
     emit ThicknessMeasured(slot.thickness);

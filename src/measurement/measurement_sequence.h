@@ -47,7 +47,8 @@ class MeasurementSequence : public QObject {
   /// `slot` is 0 for a background and a reference.
   void Began(vexa::MeasurementKind kind, int slot);
   void Ended(vexa::MeasurementKind kind, int slot);
-  /// A frame has come into the state: the background, the reference, or the evaluated slot.
+  /// A frame has come into the state: the background, the reference, or a sample's reflectance
+  /// in its slot, not evaluated yet.
   void FrameKept(vexa::MeasurementKind kind, int slot);
   /// A sample was measured into the slot and evaluated.
   void SampleStored(int slot);
