@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "cli/command_line.h"
 
+#include <QFileInfo>
 #include <QLocale>
 #include <algorithm>
 #include <array>
@@ -52,7 +53,16 @@ int RunCommand(const Command& command, const QStringList& arguments) {
     Complain(QStringLiteral("usage: vexa-cli %1 %2").arg(command.name, command.arguments));
     return kUsageError;
   }
-  return command.run(parser);
+  if (parser.isSet(option::kDir) && !QFileInfo(parser.value(option::kDir)).isDir()) {
+    Complain(QStringLiteral("%1: no such directory").arg(parser.value(option::kDir)));
+    return kUsageError;
+  }
+  const int status = command.run(parser);
+  if (status == kDone && !IsPrinted()) {
+    Complain(QStringLiteral("standard output cannot be written"));
+    return kFailed;
+  }
+  return status;
 }
 
 template <typename Number>

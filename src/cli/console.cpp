@@ -21,6 +21,10 @@ void Print(const QString& text) {
   Write(stdout, text);
 }
 
+bool IsPrinted() {
+  return std::fflush(stdout) == 0 && std::ferror(stdout) == 0;
+}
+
 void PrintJson(const QJsonObject& object) {
   Print(QString::fromUtf8(QJsonDocument(object).toJson(QJsonDocument::Compact)) + u'\n');
 }

@@ -17,6 +17,9 @@ enum ExitStatus { kDone = 0, kFailed = 1, kUsageError = 2 };
 /// Standard output, as UTF-8.
 void Print(const QString& text);
 
+/// Whether all that was printed has left the program; Run asks for it at the end of a command.
+[[nodiscard]] bool IsPrinted();
+
 /// One JSON document on standard output; doubles in the shortest form that reads back.
 void PrintJson(const QJsonObject& object);
 

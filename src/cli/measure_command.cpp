@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include <QFileInfo>
 #include <QTextStream>
 
 #include "cli/command_line.h"
@@ -77,15 +78,32 @@ std::optional<Plan> ReadPlan(const QCommandLineParser& parser, const VEXATYPE& s
     Complain(QStringLiteral("measure needs --port N or --device PATH"));
     return std::nullopt;
   }
+  if (parser.isSet(kPort) && parser.isSet(kDevice)) {
+    Complain(QStringLiteral("--port and --device exclude each other"));
+    return std::nullopt;
+  }
   return Plan{*port,      parser.value(kDevice), parser.value(option::kOut), *samples,
               *timeoutMs, parser.isSet(kPrompt)};
 }
 
-void AskFor(const Plan& plan, const QString& what) {
-  if (plan.prompt) {
-    std::fputs(qUtf8Printable(QStringLiteral("Place the %1 and press Enter: ").arg(what)), stderr);
-    QTextStream(stdin).readLine();
+// False when nobody is there to answer.
+bool AskFor(const Plan& plan, const QString& what) {
+  if (!plan.prompt) {
+    return true;
   }
+  std::fputs(qUtf8Printable(QStringLiteral("Place the %1 and press Enter: ").arg(what)), stderr);
+  if (QTextStream(stdin).readLine().isNull()) {
+    Complain(QStringLiteral("standard input ended"));
+    return false;
+  }
+  return true;
+}
+
+// Said before the instrument is asked for anything.
+bool CanBeWritten(const QString& path) {
+  const QFileInfo file(path);
+  const QFileInfo directory(file.absolutePath());
+  return directory.isDir() && directory.isWritable() && (!file.exists() || file.isFile());
 }
 
 QJsonValue ToJson(const std::optional<Status>& status) {
@@ -103,18 +121,24 @@ struct Report {
 };
 
 void MeasureAll(const Plan& plan, MeasurementSequence& sequence, Report& report) {
-  AskFor(plan, QStringLiteral("reference (background)"));
+  if (!AskFor(plan, QStringLiteral("reference (background)"))) {
+    return;
+  }
   report.background = sequence.MeasureBackground();
   if (report.background != Status{0}) {
     return;
   }
-  AskFor(plan, QStringLiteral("reference"));
+  if (!AskFor(plan, QStringLiteral("reference"))) {
+    return;
+  }
   report.reference = sequence.MeasureReference();
   if (report.reference != Status{0}) {
     return;
   }
   for (int slot = 1; slot <= plan.samples; ++slot) {
-    AskFor(plan, QStringLiteral("sample %1").arg(slot));
+    if (!AskFor(plan, QStringLiteral("sample %1").arg(slot))) {
+      return;
+    }
     const std::optional<Status> status = sequence.MeasureSample(slot);
     report.samples.append(ToJson(status));
     if (status != Status{0}) {
@@ -181,6 +205,10 @@ int Measure(const QCommandLineParser& parser) {
   const std::optional<Plan> plan = ReadPlan(parser, state);
   if (!plan) {
     return kUsageError;
+  }
+  if (!CanBeWritten(plan->out)) {
+    Complain(QStringLiteral("%1: cannot be written").arg(plan->out));
+    return kFailed;
   }
   state.instrument.controllerPort = static_cast<std::int16_t>(plan->port);
 
