@@ -2,7 +2,9 @@
 #include <QApplication>
 #include <QCommandLineParser>
 #include <QDir>
+#include <QLibraryInfo>
 #include <QTimer>
+#include <QTranslator>
 #include <algorithm>
 #include <memory>
 
@@ -121,6 +123,12 @@ int main(int argc, char* argv[]) {
   QApplication::setApplicationName(QStringLiteral("vexa"));
   QApplication::setApplicationVersion(QStringLiteral(VEXA_VERSION));
   vexa::ApplyTheme(application);
+  // The toolkit's own dialogs, such as those for files; without its translations they are English.
+  QTranslator toolkit;
+  if (toolkit.load(QStringLiteral("qtbase_ja"),
+                   QLibraryInfo::path(QLibraryInfo::TranslationsPath))) {
+    QApplication::installTranslator(&toolkit);
+  }
 
   QCommandLineParser parser;
   parser.setApplicationDescription(QStringLiteral(
