@@ -53,31 +53,14 @@ SessionJournal::SessionJournal(VEXATYPE& state, MessageService& messages,
     : state_(state), messages_(messages), journal_(programDirectory) {}
 
 bool SessionJournal::Offer() {
-  QStringList setAside;
-  const std::optional<JournalContent> left = journal_.TakeLeft(setAside);
-  if (!setAside.isEmpty()) {
-    messages_.MsgCall(
-        QStringLiteral("ほかのﾊﾞｰｼﾞｮﾝのｼﾞｬｰﾅﾙ･ﾌｧｲﾙは復元できません。次の名前で残します。\r\r") +
-            setAside.join(u'\r'),
-        kOk + kWarningIcon, message_title::kWarning);
+  std::optional<JournalContent> left = TakeLeft();
+  while (left && !IsWanted(*left)) {
+    left = TakeLeft();
   }
   if (!left) {
     return false;
   }
-  VEXATYPE session;
-  const bool damaged = !PutImage(left->image, session) || left->damaged;
-  switch (messages_.MsgCall(Question(session, damaged), kYesNoCancel + kQuestionIcon,
-                            message_title::kMessage)) {
-    case MessageResult::kYes:
-      break;
-    case MessageResult::kNo:
-      journal_.Remove();
-      return false;
-    default:
-      journal_.Release();
-      return false;
-  }
-  (void)PutImage(left->image, state_);
+  const bool damaged = !PutImage(left->image, state_) || left->damaged;
   EvaluateAgain(state_);
   if (damaged && journal_.KeepCopy().isEmpty()) {
     journal_.Release();  // it stays as it is, and this session begins a journal of its own
@@ -86,6 +69,31 @@ bool SessionJournal::Offer() {
   }
   Update();
   return true;
+}
+
+std::optional<JournalContent> SessionJournal::TakeLeft() {
+  QStringList setAside;
+  std::optional<JournalContent> left = journal_.TakeLeft(setAside);
+  if (!setAside.isEmpty()) {
+    messages_.MsgCall(
+        QStringLiteral("ほかのﾊﾞｰｼﾞｮﾝのｼﾞｬｰﾅﾙ･ﾌｧｲﾙは復元できません。次の名前で残します。\r\r") +
+            setAside.join(u'\r'),
+        kOk + kWarningIcon, message_title::kWarning);
+  }
+  return left;
+}
+
+bool SessionJournal::IsWanted(const JournalContent& left) {
+  VEXATYPE session;
+  const bool damaged = !PutImage(left.image, session) || left.damaged;
+  const MessageResult answer = messages_.MsgCall(
+      Question(session, damaged), kYesNoCancel + kQuestionIcon, message_title::kMessage);
+  if (answer == MessageResult::kNo) {
+    journal_.Remove();
+  } else if (answer != MessageResult::kYes) {
+    journal_.Release();
+  }
+  return answer == MessageResult::kYes;
 }
 
 bool SessionJournal::Write() {

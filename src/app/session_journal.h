@@ -12,8 +12,9 @@ class SessionJournal {
  public:
   SessionJournal(VEXATYPE& state, MessageService& messages, const QString& programDirectory);
 
-  /// Offers a session that a crash has left. True when it was restored: slots are then evaluated
-  /// under the settings in force, and the journal goes on where it ended.
+  /// Offers the sessions that crashes have left, one after the other, until one is wanted. True
+  /// when it was restored: slots are then evaluated under the settings in force, and the journal
+  /// goes on where it ended.
   [[nodiscard]] bool Offer();
 
   /// Puts what has changed in the state since the last call on the disk; false when that failed.
@@ -26,6 +27,9 @@ class SessionJournal {
   void End();
 
  private:
+  std::optional<JournalContent> TakeLeft();
+  bool IsWanted(const JournalContent& left);
+
   VEXATYPE& state_;
   MessageService& messages_;
   Journal journal_;

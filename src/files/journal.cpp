@@ -31,7 +31,8 @@ bool HasName(const QFile& file) {
 }  // namespace
 
 std::optional<JournalContent> Journal::TakeLeft(QStringList& setAside) {
-  for (int number = 1; number <= kMostJournals; ++number) {
+  while (next_ <= kMostJournals) {
+    const int number = next_++;
     if (!QFileInfo(PathOf(number)).isFile() ||
         !Hold(number, QIODevice::ReadWrite | QIODevice::ExistingOnly)) {
       continue;

@@ -17,9 +17,9 @@ class Journal {
  public:
   explicit Journal(QString directory) : directory_(std::move(directory)) {}
 
-  /// Takes the first journal that a crash has left and that holds something; nothing when there is
-  /// none. Empty ones are removed; one of another version gets the name NAME.bad (.bad2 and so on),
-  /// which is added to `setAside`.
+  /// Takes the next journal that a crash has left and that holds something, beginning with the
+  /// first; nothing when there is none any more. Empty ones are removed; one of another version
+  /// gets the name NAME.bad (.bad2 and so on), which is added to `setAside`.
   std::optional<JournalContent> TakeLeft(QStringList& setAside);
 
   /// Puts the record behind the last whole one and returns once the disk has it. False when it
@@ -48,6 +48,7 @@ class Journal {
   [[nodiscard]] bool SyncDirectory() const;
 
   QString directory_;
+  int next_ = 1;  // to be looked for
   QFile file_;
   qsizetype end_ = 0;
 };

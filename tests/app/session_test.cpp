@@ -53,6 +53,18 @@ TEST_F(Session, IsRestoredAndGoesOn) {
   EXPECT_EQ(Journals(), QStringList());
 }
 
+TEST_F(Session, EveryOneThatWasLeftIsOffered) {
+  Measure("Background", 100);
+  messages.answers = {MessageResult::kCancel};
+  Start();
+  Measure("Background", 200);
+  const RawSpectrum newest = window->State().background;
+  messages.answers = {MessageResult::kCancel, MessageResult::kYes};
+  Start();
+  EXPECT_EQ(window->State().background, newest);
+  EXPECT_EQ(Journals().size(), 2);
+}
+
 TEST_F(Session, DoesNotBringBackWhatWasClearedOrRefused) {
   Measure("Background", 100);
   Measure("Reference", 500);
