@@ -21,8 +21,8 @@ MinimumMark::MinimumMark(QCustomPlot& plot, Abscissa abscissa)
   point_->setSelectable(false);
   // Above the curves, whose layer keeps the order in which they were made.
   const QString overlay = QStringLiteral("overlay");
-  point_->setLayer(overlay);
   text_->setLayer(overlay);
+  point_->setLayer(overlay);  // above the paper of the text
   text_->setObjectName(QStringLiteral("Minimum"));
   text_->setFont(plot.font());
   text_->setColor(theme::kText);
