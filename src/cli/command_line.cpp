@@ -58,7 +58,7 @@ int RunCommand(const Command& command, const QStringList& arguments) {
     return kUsageError;
   }
   const int status = command.run(parser);
-  if (status == kDone && !IsPrinted()) {
+  if (!IsPrinted()) {
     Complain(QStringLiteral("standard output cannot be written"));
     return kFailed;
   }

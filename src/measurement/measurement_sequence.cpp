@@ -135,7 +135,7 @@ void MeasurementSequence::StoreSample(int slotNumber) {
   // Before any message about it waits for its answer.
   emit FrameKept(MeasurementKind::kSample, slotNumber);
   EvaluateSlot(state_, slot, messages_);
-  slot.info.measuredAt = clock_();
+  slot.info.measuredAt = clock_();  // the date that stays is that of the evaluated slot
   const bool thicknessMeasured = state_.autoThickness && state_.thickness.enabled &&
                                  ComputeSlotThickness(state_, slot, messages_) == 0;
   emit SampleStored(slotNumber);
