@@ -4,7 +4,10 @@
 #include <QDir>
 
 #include "app/main_window_test.h"
+#include "files/environment_file.h"
+#include "files/journal_records.h"
 #include "files/session_image.h"
+#include "files/startup_file.h"
 #include "support/full_disk.h"
 
 namespace vexa {
@@ -51,6 +54,26 @@ TEST_F(Session, IsRestoredAndGoesOn) {
   EXPECT_EQ(window->State().Slot(3)->reflectance, window->State().Slot(2)->reflectance);
   EXPECT_TRUE(window->close());
   EXPECT_EQ(Journals(), QStringList());
+}
+
+TEST_F(Session, ASlotIsKeptBeforeAnyMessageAboutItIsAnswered) {
+  VEXATYPE settings;
+  settings.programDirectory = peer.Directory();
+  settings.thickness.enabled = true;
+  ASSERT_TRUE(WriteStartupFile(settings) && WriteEnvFile(Path("vexa.env"), settings));
+  Start();
+  Measure("Background", 100);
+  Measure("Reference", 500);
+  Press("AutoMesThickChk");
+  int kept = 0;
+  messages.whenShown = [&] {
+    VEXATYPE left;
+    EXPECT_TRUE(PutImage(ReadJournal(peer.files.Read("vexa.journal")).image, left));
+    kept += left.Slot(1)->valid ? 1 : 0;
+  };
+  Measure("Mes1", 300);  // flat: there is no thickness
+  EXPECT_EQ(kept, 1);
+  messages.whenShown = nullptr;
 }
 
 TEST_F(Session, EveryOneThatWasLeftIsOffered) {

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <deque>
+#include <functional>
 #include <string>
 #include <utility>
 #include <vector>
@@ -28,6 +29,9 @@ class PreparedAnswers : public MessageService {
  public:
   MessageResult MsgCall(const QString& text, std::int16_t type, const QString& title) override {
     shown_.push_back({title.toStdString() + ": " + text.toStdString(), type});
+    if (whenShown) {
+      whenShown();
+    }
     if (answers.empty()) {
       return MessageResult::kOk;
     }
@@ -38,6 +42,7 @@ class PreparedAnswers : public MessageService {
   Shown Take() { return std::exchange(shown_, {}); }
 
   std::deque<MessageResult> answers;
+  std::function<void()> whenShown;  ///< called while a message waits for its answer
   int beeps = 0;
 
  private:
