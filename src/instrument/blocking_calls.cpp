@@ -19,44 +19,49 @@ BlockingCalls::BlockingCalls() : thread_(std::make_unique<QThreadPool>()) {
 }
 
 BlockingCalls::~BlockingCalls() {
+  abandoned_ = true;
+  awakening_.WakeAtOnce();
   // A pool waits for its threads when it goes, and a call may never come back.
   if (!thread_->waitForDone(kPartingMs)) {
     (void)thread_.release();
   }
 }
 
-BlockingCalls::Outcome BlockingCalls::Run(std::function<int()> call, int limitMs) {
+QCoro::Task<BlockingCalls::Outcome> BlockingCalls::Run(std::function<int()> call, int limitMs) {
   if (!last_.isFinished()) {
-    return {.end = End::kOverdue};
+    co_return Outcome{.end = End::kOverdue};
   }
   const auto promise = std::make_shared<QPromise<int>>();
   last_ = promise->future();
   promise->start();
   QFutureWatcher<int> watcher;
   QTimer limit;
-  QEventLoop loop;
-  QObject::connect(&watcher, &QFutureWatcher<int>::finished, &loop, &QEventLoop::quit);
-  QObject::connect(&limit, &QTimer::timeout, &loop, &QEventLoop::quit);
+  limit.setSingleShot(true);
+  limit.callOnTimeout([this] { awakening_.Wake(); });
+  QObject::connect(&watcher, &QFutureWatcher<int>::finished, &limit,
+                   [this] { awakening_.Wake(); });
   thread_->start([promise, call = std::move(call)] {
     promise->addResult(call());
     promise->finish();
   });
   watcher.setFuture(last_);
-  limit.setSingleShot(true);
   limit.start(limitMs);
-  waiting_ = &loop;
-  loop.exec();
-  waiting_ = nullptr;
-  if (last_.isFinished()) {
-    return {End::kReturned, last_.result()};
+  abandoned_ = false;
+  while (!last_.isFinished() && limit.isActive() && !abandoned_) {
+    co_await awakening_.Sleep();
   }
-  return {.end = limit.isActive() ? End::kAbandoned : End::kOverdue};
+  Outcome outcome;
+  if (last_.isFinished()) {
+    outcome = {End::kReturned, last_.result()};
+  } else if (!abandoned_) {
+    outcome.end = End::kOverdue;
+  }
+  co_return outcome;
 }
 
 void BlockingCalls::Abandon() {
-  if (waiting_ != nullptr) {
-    waiting_->quit();
-  }
+  abandoned_ = true;
+  awakening_.Wake();
 }
 
 }  // namespace vexa

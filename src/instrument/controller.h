@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include <QCoroTask>
 #include <QObject>
 #include <cstdint>
 
@@ -27,37 +28,58 @@ enum class AwaitedStep {
   kData,
 };
 
+/// How a frame is sampled.
+struct Sampling {
+  std::int16_t timeMs = 30;         ///< integration time of a line, 30..20000
+  std::int16_t averagingCount = 1;  ///< lines of a frame, 1..16
+
+  bool operator==(const Sampling&) const = default;
+};
+
 /// What an acquisition takes from the program's settings.
 struct AcquisitionSettings {
   LinePositions linePositions = kDefaultLinePositions;
   std::int16_t settlingTimeMs = 380;
+  Sampling sampling;  ///< sent before the frame where the controller has it not already
 };
 
-/// The instrument's controller, whichever way it is connected. All operations wait in the event
-/// loop and return a status: 0, or 1 for a saturated frame, or a negative failure. The caller shows
-/// the message of its own operation.
+/// The outcome of an acquisition: 0, or 1 for a saturated frame, both with the counts, or a
+/// negative failure without.
+struct Acquisition {
+  Status status = -1;
+  RawSpectrum counts;
+};
+
+/// The instrument's controller, whichever way it is connected. An operation is a coroutine that
+/// sleeps in the event loop; one runs at a time, and another ends with kBusy at once. Its status is
+/// 0 or a negative failure. What an operation was given must live until it ends.
 class Controller : public QObject {
   Q_OBJECT
 
  public:
-  static constexpr Status kBusy = -7;  ///< Acquire was called while one runs
+  static constexpr Status kBusy = -7;       ///< called while an operation runs
+  static constexpr Status kCancelled = -9;  ///< ended by Cancel
   static constexpr int kReplyTimeoutMs = 40000;
+  /// So long a cancelled acquisition may take to quit and to put the shutters back to rest.
+  static constexpr int kPartingMs = 1000;
 
   using QObject::QObject;
 
   /// Opens the link and brings the controller into its resting state.
-  [[nodiscard]] virtual Status Initialise(std::int16_t port) = 0;
+  [[nodiscard]] virtual QCoro::Task<Status> Initialise(std::int16_t port) = 0;
 
-  /// Sets the integration time of a line (milliseconds) and the number of lines of a frame.
-  [[nodiscard]] virtual Status SetSampling(std::int16_t timeMs, std::int16_t averagingCount) = 0;
+  [[nodiscard]] virtual QCoro::Task<Status> SetSampling(Sampling sampling) = 0;
 
-  /// Takes a frame; `spectrum` is written only with status 0 or 1.
-  [[nodiscard]] virtual Status Acquire(LightFlag light, const AcquisitionSettings& settings,
-                                       RawSpectrum& spectrum) = 0;
+  /// Takes a frame. A link that was lost is opened and initialised again first.
+  [[nodiscard]] virtual QCoro::Task<Acquisition> Acquire(LightFlag light,
+                                                         AcquisitionSettings settings) = 0;
 
   /// Opens the measuring light at rest, as a background measurement leaves it. 0, or the failure of
   /// a controller that keeps it closed.
-  [[nodiscard]] virtual Status OpenLightPath() { return 0; }
+  [[nodiscard]] virtual QCoro::Task<Status> OpenLightPath() { co_return kSuccess; }
+
+  /// Ends the operation that runs with kCancelled, at once but for setting the instrument to rest.
+  virtual void Cancel() = 0;
 
   /// Ends every wait and closes the link. Safe at any time.
   virtual void Close() = 0;
@@ -65,6 +87,9 @@ class Controller : public QObject {
   /// Why the controller could not be reached last, in a few sentences for the user; empty while the
   /// link is well or when nothing is known.
   [[nodiscard]] virtual QString FailureDetails() const { return {}; }
+
+  /// The controller's own message about its last failure; empty when it has none.
+  [[nodiscard]] virtual QString FailureMessage() const { return {}; }
 
   /// True while the light shutter is known to block the measuring light at rest.
   [[nodiscard]] virtual bool IsLightPathClosed() const = 0;

@@ -2,6 +2,7 @@
 #include "instrument/frm_com_h8_ctrl.h"
 
 #include <QScopeGuard>
+#include <span>
 #include <utility>
 
 #include "instrument/h8_reply.h"
@@ -10,165 +11,178 @@
 namespace vexa {
 namespace {
 
-const QString kTimeOutReply = QStringLiteral("Time Out");
-const QString kPortClosedReply = QStringLiteral("PORT close");
-const QString kErrorReply = QStringLiteral("ERROR");
-const QString kLinesReply = QStringLiteral("TREND");
-const QString kPartialLinesReply = QStringLiteral("LDATA");
-
-constexpr std::int16_t kInitialSamplingMs = 30;
+constexpr Sampling kInitialSampling{.timeMs = 30, .averagingCount = 1};
 constexpr int kSettlingMarginMs = 50;
 constexpr int kBytesPerSecond = 5760;
-constexpr int kWoken = 1;
 
-// The status of a whole acquisition for the status of one of its steps.
+using End = SerialLink::Reply::End;
+
+std::span<const std::uint8_t> Bytes(const SerialLink::Reply& reply) {
+  return {reinterpret_cast<const std::uint8_t*>(reply.body.constData()),
+          static_cast<std::size_t>(reply.body.size())};
+}
+
+// What the reply says, empty when it is none.
+QString Text(const SerialLink::Reply& reply) {
+  return reply.end == End::kComplete ? ReplyText(Bytes(reply)) : QString();
+}
+
+// The status of an operation whose reply need not say anything.
+Status AnswerStatus(End end) {
+  switch (end) {
+    case End::kTimeOut:
+      return frmComH8Ctrl::kTimeOut;
+    case End::kCancelled:
+      return Controller::kCancelled;
+    default:
+      return 0;
+  }
+}
+
+// The status of a whole operation for the status of one of its steps.
 Status StepStatus(Status step, Status failure) {
-  return step == 0 || step == frmComH8Ctrl::kTimeOut ? step : failure;
+  const bool itself =
+      step == 0 || step == frmComH8Ctrl::kTimeOut || step == Controller::kCancelled;
+  return itself ? step : failure;
 }
 
 }  // namespace
 
 frmComH8Ctrl::frmComH8Ctrl(std::function<QString(int)> portPath, int replyTimeoutMs,
                            QObject* parent)
-    : Controller(parent), portPath_(std::move(portPath)), replyTimeoutMs_(replyTimeoutMs) {
-  TTmout_.setSingleShot(true);
-  connect(&TTmout_, &QTimer::timeout, this, &frmComH8Ctrl::OnTimeOut);
-  connect(&H8Comm_, &QSerialPort::readyRead, this, &frmComH8Ctrl::OnBytesReceived);
-  // Queued: the port must not be closed from within its own notification.
-  connect(&H8Comm_, &QSerialPort::errorOccurred, this, &frmComH8Ctrl::OnPortError,
-          Qt::QueuedConnection);
+    : Controller(parent), portPath_(std::move(portPath)), link_(replyTimeoutMs) {}
+
+QCoro::Task<Status> frmComH8Ctrl::H8_MeasStart() {
+  if (!SendFrame(MeasureText(static_cast<std::uint8_t>(sampling_.averagingCount), secondCount_))) {
+    co_return Status{-1};
+  }
+  const Reply reply = co_await Receive(SerialLink::Kind::kCommand, AwaitedStep::kMeasurement,
+                                       sampling_.timeMs * sampling_.averagingCount);
+  if (Text(reply) == QLatin1String("END")) {
+    co_return kSuccess;
+  }
+  if (reply.end == End::kCancelled) {
+    link_.Resume(kPartingMs);
+    (void)co_await H8_Quit();
+    co_return kCancelled;
+  }
+  if (reply.end == End::kTimeOut) {
+    for (int attempt = 0; attempt < 2; ++attempt) {
+      const Status quit = co_await H8_Quit();
+      if (quit == 0) {
+        co_return kTimeOut;
+      }
+      if (quit == kCancelled) {
+        co_return quit;
+      }
+    }
+    co_return Status{-3};
+  }
+  co_return Status{-4};
 }
 
-frmComH8Ctrl::~frmComH8Ctrl() {
-  ClosePort();
+QCoro::Task<Status> frmComH8Ctrl::H8_Quit() {
+  if (!SendFrame(QStringLiteral("69"))) {
+    co_return Status{-1};
+  }
+  const Reply reply = co_await Receive(SerialLink::Kind::kCommand, AwaitedStep::kController);
+  if (Text(reply) == QLatin1String("QUIT")) {
+    co_return kSuccess;
+  }
+  const Status status = AnswerStatus(reply.end);
+  co_return status != 0 ? status : Status{-3};
 }
 
-Status frmComH8Ctrl::H8_MeasStart() {
-  if (SendFrame(MeasureText(averagingCount_, secondCount_)) != 0) {
-    return -1;
-  }
-  const QString reply = ReceiveReply(ReplyMode::kCommand, AwaitedStep::kMeasurement,
-                                     samplingTimeMs_ * averagingCount_);
-  if (reply == QLatin1String("END")) {
-    return 0;
-  }
-  if (reply == kTimeOutReply) {
-    const bool quit = H8_Quit() == 0 || H8_Quit() == 0;
-    return quit ? kTimeOut : -3;
-  }
-  return -4;
-}
-
-Status frmComH8Ctrl::H8_Quit() {
-  if (SendFrame(QStringLiteral("69")) != 0) {
-    return -1;
-  }
-  const QString reply = ReceiveReply(ReplyMode::kCommand, AwaitedStep::kController);
-  if (reply == QLatin1String("QUIT")) {
-    return 0;
-  }
-  return reply == kTimeOutReply ? kTimeOut : -3;
-}
-
-Status frmComH8Ctrl::H8_DataReq() {
+QCoro::Task<Status> frmComH8Ctrl::H8_DataReq() {
   for (LineBuffer& line : lines_) {
     line.complete = false;
   }
-  if (SendFrame(DataRequestText(averagingCount_)) != 0) {
-    return -1;
+  const auto count = static_cast<std::uint8_t>(sampling_.averagingCount);
+  if (!SendFrame(DataRequestText(count))) {
+    co_return Status{-1};
   }
-  const int expectedMs =
-      static_cast<int>(1000 * kBytesPerLine * averagingCount_ / std::size_t{kBytesPerSecond});
-  return ReceiveReply(ReplyMode::kLines, AwaitedStep::kData, expectedMs) == kLinesReply ? 0 : -1;
+  const int expectedMs = static_cast<int>(1000 * kBytesPerLine * count / std::size_t{kBytesPerSecond});
+  const Reply reply = co_await Receive(SerialLink::Kind::kLines, AwaitedStep::kData, expectedMs);
+  if (reply.end == End::kCancelled) {
+    co_return kCancelled;
+  }
+  co_return reply.end == End::kComplete && FillLines(Bytes(reply), lines_) ? kSuccess : Status{-1};
 }
 
-Status frmComH8Ctrl::H8_HiScan(bool on) {
-  if (SendFrame(on ? QStringLiteral("87FF") : QStringLiteral("8700")) != 0) {
-    return -1;
+QCoro::Task<Status> frmComH8Ctrl::H8_HiScan(bool on) {
+  if (!SendFrame(on ? QStringLiteral("87FF") : QStringLiteral("8700"))) {
+    co_return Status{-1};
   }
-  const QString reply = ReceiveReply(ReplyMode::kCommand, AwaitedStep::kController);
-  return reply == kTimeOutReply ? kTimeOut : 0;
+  co_return co_await ReceiveAny(AwaitedStep::kController);
 }
 
-Status frmComH8Ctrl::SampleInit(std::int16_t timeMs, std::int16_t averagingCount) {
-  const QString code = TimerCode(timeMs);
-  if (code == QLatin1String("-1")) {
-    return -1;
-  }
-  if (SendFrame(QStringLiteral("96") + code) != 0) {
-    return -2;
-  }
-  if (ReceiveReply(ReplyMode::kCommand, AwaitedStep::kController) == kTimeOutReply) {
-    return kTimeOut;
-  }
-  averagingCount_ = static_cast<std::uint8_t>(averagingCount);
-  samplingTimeMs_ = timeMs;
-  return 0;
+QCoro::Task<Status> frmComH8Ctrl::SampleInit(std::int16_t timeMs, std::int16_t averagingCount) {
+  wanted_ = {timeMs, averagingCount};
+  co_return co_await SendSampling(wanted_);
 }
 
 Status frmComH8Ctrl::PHILL(bool /*on*/) {
   return 0;
 }
 
-Status frmComH8Ctrl::LghtSht(bool closed) {
+QCoro::Task<Status> frmComH8Ctrl::LghtSht(bool closed) {
   PortBits bits = portBits_;
   bits.lightShutterClosed = closed;
   bits.lightShutterOpen = !closed;
-  return SwitchShutter(bits, AwaitedStep::kLightShutter);
+  co_return co_await SwitchShutter(bits, AwaitedStep::kLightShutter);
 }
 
-Status frmComH8Ctrl::EyeSht(bool closed) {
+QCoro::Task<Status> frmComH8Ctrl::EyeSht(bool closed) {
   PortBits bits = portBits_;
   bits.eyepieceShutterOpen = !closed;
-  return SwitchShutter(bits, AwaitedStep::kEyepieceShutter);
+  co_return co_await SwitchShutter(bits, AwaitedStep::kEyepieceShutter);
 }
 
 QString frmComH8Ctrl::ComReset() {
   return {};
 }
 
-Status frmComH8Ctrl::H8Init(std::int16_t port, QString& replyText) {
+QCoro::Task<Status> frmComH8Ctrl::H8Init(std::int16_t port) {
   port_ = port;
-  if (OpenPort() != 0) {
-    return -1;
+  if (!link_.Open(portPath_(port))) {
+    co_return Status{-1};
   }
-  if (SendFrame(QStringLiteral("E1")) != 0) {
-    return -2;
+  initialisationText_.clear();
+  if (!SendFrame(QStringLiteral("E1"))) {
+    co_return Status{-2};
   }
-  replyText = ReceiveReply(ReplyMode::kCommand, AwaitedStep::kController);
-  if (replyText == kTimeOutReply) {
-    replyText.clear();
-    return kTimeOut;
+  const Reply reply = co_await Receive(SerialLink::Kind::kCommand, AwaitedStep::kController);
+  if (const Status status = AnswerStatus(reply.end); status != 0) {
+    co_return status;
   }
-  if (SampleInit(kInitialSamplingMs, 1) != 0) {
-    return -4;
+  initialisationText_ = Text(reply);
+  if (const Status status = co_await SendSampling(kInitialSampling); status != 0) {
+    co_return status == kCancelled ? status : Status{-4};
   }
-  if (H8_HiScan(true) != 0) {
-    return -5;
+  if (const Status status = co_await H8_HiScan(true); status != 0) {
+    co_return status == kCancelled ? status : Status{-5};
   }
-  if (LghtSht(true) != 0) {
-    return -6;
+  if (const Status status = co_await LghtSht(true); status != 0) {
+    co_return status == kCancelled ? status : Status{-6};
   }
-  if (EyeSht(true) != 0) {
-    return -7;
+  if (const Status status = co_await EyeSht(true); status != 0) {
+    co_return status == kCancelled ? status : Status{-7};
   }
   secondCount_ = 1;
-  return 0;
+  co_return kSuccess;
 }
 
-Status frmComH8Ctrl::H8GetData(LightFlag light, RawSpectrum& spectrum,
-                               const LinePositions& positions, int startNm, int settlingTimeMs) {
-  if (busy_) {
-    return kBusy;
+QCoro::Task<Acquisition> frmComH8Ctrl::H8GetData(LightFlag light, LinePositions positions,
+                                                 int startNm, int settlingTimeMs) {
+  Acquisition acquisition;
+  acquisition.status = co_await PrepareLink();
+  if (acquisition.status == 0) {
+    acquisition.status = co_await AcquisitionSteps(light, settlingTimeMs);
   }
-  busy_ = true;
-  const auto release = qScopeGuard([this] { busy_ = false; });
-
-  if (!H8Comm_.isOpen() && Reconnect() == kTimeOut) {
-    return kTimeOut;
+  if (acquisition.status == 0) {
+    acquisition.status = LinesToWaves(acquisition.counts, positions, startNm);
   }
-  const Status status = AcquisitionSteps(light, settlingTimeMs);
-  return status == 0 ? LinesToWaves(spectrum, positions, startNm) : status;
+  co_return acquisition;
 }
 
 Status frmComH8Ctrl::LinesToWaves(RawSpectrum& spectrum, const LinePositions& positions,
@@ -176,34 +190,58 @@ Status frmComH8Ctrl::LinesToWaves(RawSpectrum& spectrum, const LinePositions& po
   return FillSpectrum(lines_, positions, startNm, spectrum);
 }
 
-Status frmComH8Ctrl::Initialise(std::int16_t port) {
-  QString replyText;
-  return H8Init(port, replyText);
+QCoro::Task<Status> frmComH8Ctrl::Initialise(std::int16_t port) {
+  if (std::exchange(busy_, true)) {
+    co_return kBusy;
+  }
+  const auto release = qScopeGuard([this] { busy_ = false; });
+  link_.Resume();
+  co_return co_await H8Init(port);
 }
 
-Status frmComH8Ctrl::SetSampling(std::int16_t timeMs, std::int16_t averagingCount) {
-  return SampleInit(timeMs, averagingCount);
+QCoro::Task<Status> frmComH8Ctrl::SetSampling(Sampling sampling) {
+  if (std::exchange(busy_, true)) {
+    co_return kBusy;
+  }
+  const auto release = qScopeGuard([this] { busy_ = false; });
+  link_.Resume();
+  co_return co_await SampleInit(sampling.timeMs, sampling.averagingCount);
 }
 
-Status frmComH8Ctrl::Acquire(LightFlag light, const AcquisitionSettings& settings,
-                             RawSpectrum& spectrum) {
-  return H8GetData(light, spectrum, settings.linePositions, kDetectorStartNm,
-                   settings.settlingTimeMs);
+QCoro::Task<Acquisition> frmComH8Ctrl::Acquire(LightFlag light, AcquisitionSettings settings) {
+  if (std::exchange(busy_, true)) {
+    co_return Acquisition{.status = kBusy, .counts = {}};
+  }
+  const auto release = qScopeGuard([this] { busy_ = false; });
+  link_.Resume();
+  wanted_ = settings.sampling;
+  co_return co_await H8GetData(light, settings.linePositions, kDetectorStartNm,
+                               settings.settlingTimeMs);
 }
 
-Status frmComH8Ctrl::OpenLightPath() {
-  const Status status = LghtSht(false);
+QCoro::Task<Status> frmComH8Ctrl::OpenLightPath() {
+  if (std::exchange(busy_, true)) {
+    co_return kBusy;
+  }
+  const auto release = qScopeGuard([this] { busy_ = false; });
+  link_.Resume();
+  const Status status = co_await LghtSht(false);
   lightOpenAtRest_ = status == 0;
-  return status;
+  co_return status;
+}
+
+void frmComH8Ctrl::Cancel() {
+  if (busy_) {
+    link_.Cancel();
+  }
 }
 
 void frmComH8Ctrl::Close() {
-  ClosePort();
-  Wake();
+  link_.Close();
 }
 
 QString frmComH8Ctrl::FailureDetails() const {
-  if (!H8Comm_.isOpen()) {
+  if (!link_.IsOpen()) {
     return ExplainClosedPort(portPath_(port_));
   }
   return linkAnswered_ ? QString() : ExplainSilentPort(portPath_(port_));
@@ -213,213 +251,139 @@ bool frmComH8Ctrl::IsLightPathClosed() const {
   return portBits_.lightShutterClosed;
 }
 
-Status frmComH8Ctrl::OpenPort() {
-  if (H8Comm_.isOpen()) {
-    return 1;
-  }
-  H8Comm_.setPortName(portPath_(port_));
-  H8Comm_.setBaudRate(57600);
-  H8Comm_.setDataBits(QSerialPort::Data8);
-  H8Comm_.setParity(QSerialPort::NoParity);
-  H8Comm_.setStopBits(QSerialPort::OneStop);
-  H8Comm_.setFlowControl(QSerialPort::NoFlowControl);
-  return H8Comm_.open(QIODevice::ReadWrite) ? 0 : 1;
-}
-
-void frmComH8Ctrl::ClosePort() {
-  if (H8Comm_.isOpen()) {
-    H8Comm_.close();
-  }
-}
-
-Status frmComH8Ctrl::SendFrame(const QString& hexText) {
+bool frmComH8Ctrl::SendFrame(const QString& hexText) {
   const std::optional<QByteArray> frame = BuildFrame(hexText);
-  if (!frame) {
-    return 2;
-  }
-  if (!H8Comm_.isOpen() || waiting_ != nullptr) {
-    return 1;
-  }
-  // What came late from an earlier exchange must not answer this one, whether it is read already or
-  // still lies in the system's buffer.
-  H8Comm_.clear(QSerialPort::Input);
-  ForgetReply();
-  if (H8Comm_.write(*frame) != frame->size()) {
-    return 1;
-  }
-  H8Comm_.flush();
-  return 0;
+  return frame && link_.Send(*frame);
 }
 
-Status frmComH8Ctrl::SwitchShutter(const PortBits& bits, AwaitedStep step) {
-  if (SendFrame(PortBitsText(bits)) != 0) {
-    return -1;
+QCoro::Task<SerialLink::Reply> frmComH8Ctrl::Receive(SerialLink::Kind kind, AwaitedStep step,
+                                                     int expectedMs) {
+  emit WaitBegan(step, expectedMs, link_.LimitMs());
+  Reply reply = co_await link_.Receive(kind);
+  emit WaitEnded();
+  if (reply.end != End::kCancelled) {
+    linkAnswered_ = reply.end == End::kComplete || reply.end == End::kError;
+  }
+  co_return reply;
+}
+
+// 0 whatever the controller answers, or that the port was lost: the next frame will tell.
+QCoro::Task<Status> frmComH8Ctrl::ReceiveAny(AwaitedStep step) {
+  const Reply reply = co_await Receive(SerialLink::Kind::kCommand, step);
+  co_return AnswerStatus(reply.end);
+}
+
+QCoro::Task<Status> frmComH8Ctrl::SendSampling(Sampling sampling) {
+  const QString code = TimerCode(sampling.timeMs);
+  if (code == QLatin1String("-1")) {
+    co_return Status{-1};
+  }
+  if (!SendFrame(QStringLiteral("96") + code)) {
+    co_return Status{-2};
+  }
+  const Status status = co_await ReceiveAny(AwaitedStep::kController);
+  if (status == 0) {
+    sampling_ = sampling;
+  }
+  co_return status;
+}
+
+QCoro::Task<Status> frmComH8Ctrl::SwitchShutter(PortBits bits, AwaitedStep step) {
+  if (!SendFrame(PortBitsText(bits))) {
+    co_return Status{-1};
   }
   portBits_ = bits;
-  return ReceiveReply(ReplyMode::kCommand, step) == kTimeOutReply ? kTimeOut : 0;
+  co_return co_await ReceiveAny(step);
 }
 
-QString frmComH8Ctrl::ReceiveReply(ReplyMode mode, AwaitedStep step, int expectedMs) {
-  QString reply;
-  timedOut_ = false;
-  TTmout_.start(replyTimeoutMs_);
-  emit WaitBegan(step, expectedMs, replyTimeoutMs_);
-  while (!TakeReply(mode, reply)) {
-    if (timedOut_ || !H8Comm_.isOpen()) {
-      reply = timedOut_ ? kTimeOutReply : kPortClosedReply;
-      break;
-    }
-    if (!SleepUntilWoken()) {
-      ClosePort();
-    }
-  }
-  TTmout_.stop();
-  emit WaitEnded();
-  ForgetReply();
-  linkAnswered_ = reply != kTimeOutReply && reply != kPortClosedReply;
-  return reply;
-}
-
-bool frmComH8Ctrl::TakeReply(ReplyMode mode, QString& reply) {
-  if (mode == ReplyMode::kCommand && linkStatus_ == LinkStatus::kRequestError) {
-    reply = kErrorReply;
-    return true;
-  }
-  if (mode == ReplyMode::kCommand && linkStatus_ == LinkStatus::kRequestEnd) {
-    reply = ReplyText(ring_.Body());
-    return true;
-  }
-  if (mode == ReplyMode::kLines && linkStatus_ == LinkStatus::kDataEnd) {
-    reply = FillLines(ring_.Body(), lines_) ? kLinesReply : kPartialLinesReply;
-    return true;
-  }
-  if (mode == ReplyMode::kCommand && linkStatus_ == LinkStatus::kBytesArriving) {
-    linkStatus_ = LinkStatus::kNone;
-  }
-  return false;
-}
-
-void frmComH8Ctrl::ForgetReply() {
-  ring_.Reset();
-  linkStatus_ = LinkStatus::kNone;
-}
-
-// False when the whole application ends instead.
-bool frmComH8Ctrl::SleepUntilWoken() {
-  QEventLoop loop;
-  waiting_ = &loop;
-  const int result = loop.exec();
-  waiting_ = nullptr;
-  return result == kWoken;
-}
-
-void frmComH8Ctrl::Settle(int ms) {
-  QTimer timer;
-  timer.setTimerType(Qt::PreciseTimer);
-  timer.setSingleShot(true);
-  connect(&timer, &QTimer::timeout, this, &frmComH8Ctrl::Wake);
-  timer.start(ms);
+QCoro::Task<> frmComH8Ctrl::Settle(int ms) {
   emit WaitBegan(AwaitedStep::kSettling, ms, ms);
-  while (timer.isActive() && H8Comm_.isOpen() && SleepUntilWoken()) {
-  }
+  co_await link_.Sleep(ms);
   emit WaitEnded();
 }
 
-Status frmComH8Ctrl::AcquisitionSteps(LightFlag light, int settlingTimeMs) {
+QCoro::Task<Status> frmComH8Ctrl::AcquisitionSteps(LightFlag light, int settlingTimeMs) {
   const bool background = light == LightFlag::kBackground;
+  Status status = 0;
   if (background) {
-    if (const Status status = StepStatus(LghtSht(true), -1); status != 0) {
-      return status;
-    }
+    status = StepStatus(co_await LghtSht(true), -1);
   }
-  if (const Status status = StepStatus(EyeSht(true), -2); status != 0) {
-    return status;
-  }
-  if (settlingTimeMs > samplingTimeMs_) {
-    Settle(settlingTimeMs - samplingTimeMs_ + kSettlingMarginMs);
-  }
-  Status status = StepStatus(H8_MeasStart(), -3);
   if (status == 0) {
-    status = StepStatus(H8_DataReq(), -4);
+    status = StepStatus(co_await EyeSht(true), -2);
+  }
+  if (status != 0 && status != kCancelled) {
+    co_return status;
+  }
+  if (status == 0) {
+    status = co_await TakeLines(settlingTimeMs);
   }
   if (status != 0) {
-    if (status != kTimeOut && linkAnswered_) {
-      RestShutters(light);
+    if (status == kCancelled) {
+      link_.Resume(kPartingMs);
     }
-    return status;
+    if (status != kTimeOut && linkAnswered_) {
+      co_await RestShutters(light);
+    }
+    co_return status;
   }
-  if (status = StepStatus(EyeSht(false), -5); status != 0) {
-    return status;
-  }
-  if (background) {
-    status = StepStatus(LghtSht(false), -6);
+  status = StepStatus(co_await EyeSht(false), -5);
+  if (status == 0 && background) {
+    status = StepStatus(co_await LghtSht(false), -6);
     lightOpenAtRest_ = status == 0;
   }
-  return status;
+  co_return status;
 }
 
-void frmComH8Ctrl::RestShutters(LightFlag light) {
-  if (EyeSht(false) == 0 && light == LightFlag::kBackground) {
-    lightOpenAtRest_ = LghtSht(false) == 0;
+QCoro::Task<Status> frmComH8Ctrl::TakeLines(int settlingTimeMs) {
+  if (settlingTimeMs > sampling_.timeMs) {
+    co_await Settle(settlingTimeMs - sampling_.timeMs + kSettlingMarginMs);
   }
-}
-
-// The link was up before and was lost. Everything that Initialise sets back is set again.
-Status frmComH8Ctrl::Reconnect() {
-  if (port_ == 0) {
-    return -1;
-  }
-  const std::int16_t timeMs = samplingTimeMs_;
-  const std::int16_t averagingCount = averagingCount_;
-  Status status = Initialise(port_);
+  Status status = StepStatus(co_await H8_MeasStart(), -3);
   if (status == 0) {
-    status = SampleInit(timeMs, averagingCount);
+    status = StepStatus(co_await H8_DataReq(), -4);
+  }
+  co_return status;
+}
+
+QCoro::Task<> frmComH8Ctrl::RestShutters(LightFlag light) {
+  const Status eyepiece = co_await EyeSht(false);
+  if (eyepiece == 0 && light == LightFlag::kBackground) {
+    const Status status = co_await LghtSht(false);
+    lightOpenAtRest_ = status == 0;
+  }
+}
+
+// A link that was lost is built again; a sampling that the controller does not have is sent.
+QCoro::Task<Status> frmComH8Ctrl::PrepareLink() {
+  if (!link_.IsOpen()) {
+    const Status status = co_await Reconnect();
+    // Any other failure shows at the first frame that cannot be sent.
+    co_return status == kTimeOut || status == kCancelled ? status : kSuccess;
+  }
+  if (sampling_ == wanted_) {
+    co_return kSuccess;
+  }
+  const Sampling wanted = wanted_;
+  co_return StepStatus(co_await SendSampling(wanted), kNoSampling);
+}
+
+// The link was up before and was lost. Everything that the initialisation sets back is set again.
+QCoro::Task<Status> frmComH8Ctrl::Reconnect() {
+  if (port_ == 0) {
+    co_return Status{-1};
+  }
+  Status status = co_await H8Init(port_);
+  if (status == 0) {
+    const Sampling wanted = wanted_;
+    status = co_await SendSampling(wanted);
   }
   if (status == 0 && lightOpenAtRest_) {
-    status = LghtSht(false);
+    status = co_await LghtSht(false);
   }
   if (status != 0) {
-    ClosePort();
-    samplingTimeMs_ = timeMs;
-    averagingCount_ = static_cast<std::uint8_t>(averagingCount);
+    link_.Close();
   }
-  return status;
-}
-
-void frmComH8Ctrl::OnBytesReceived() {
-  ring_.Append(H8Comm_.readAll());
-  linkStatus_ = ring_.Evaluate(linkStatus_);
-  Wake();
-}
-
-// Looks at the error that the port has by now: an older one may lie before a successful opening.
-void frmComH8Ctrl::OnPortError() {
-  switch (H8Comm_.error()) {
-    case QSerialPort::NoError:
-    case QSerialPort::TimeoutError:
-      return;
-    case QSerialPort::DeviceNotFoundError:
-    case QSerialPort::ReadError:
-    case QSerialPort::WriteError:
-    case QSerialPort::ResourceError:
-    case QSerialPort::NotOpenError:
-      ClosePort();
-      break;
-    default:
-      linkStatus_ = LinkStatus::kPortError;
-  }
-  Wake();
-}
-
-void frmComH8Ctrl::OnTimeOut() {
-  timedOut_ = true;
-  Wake();
-}
-
-void frmComH8Ctrl::Wake() {
-  if (waiting_ != nullptr) {
-    waiting_->exit(kWoken);
-  }
+  co_return status;
 }
 
 }  // namespace vexa

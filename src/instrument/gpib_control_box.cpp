@@ -45,34 +45,43 @@ constexpr int kTransferCode = 504;
 
 }  // namespace
 
-GpibControlBox::GpibControlBox(QString directory, MessageService& messages, int replyTimeoutMs,
-                               QObject* parent)
-    : Controller(parent),
-      directory_(std::move(directory)),
-      messages_(messages),
-      replyTimeoutMs_(replyTimeoutMs) {}
+GpibControlBox::GpibControlBox(QString directory, int replyTimeoutMs, QObject* parent)
+    : Controller(parent), directory_(std::move(directory)), replyTimeoutMs_(replyTimeoutMs) {}
 
-Status GpibControlBox::Initialise(std::int16_t /*port*/) {
+QCoro::Task<Status> GpibControlBox::Initialise(std::int16_t /*port*/) {
   closed_ = false;
   connected_ = false;
-  return Operate([] { return true; });
+  co_return co_await Operate([]() -> QCoro::Task<bool> { co_return true; });
 }
 
-Status GpibControlBox::SetSampling(std::int16_t timeMs, std::int16_t averagingCount) {
+QCoro::Task<Status> GpibControlBox::SetSampling(Sampling sampling) {
   if (busy_) {
-    return kBusy;
+    co_return kBusy;
   }
-  samplingTimeMs_ = timeMs;
-  averagingCount_ = averagingCount;
-  return Operate([this] { return SendSampling(); });
+  wanted_ = sampling;
+  co_return co_await Operate([this] { return SendSampling(); });
 }
 
-Status GpibControlBox::Acquire(LightFlag light, const AcquisitionSettings& settings,
-                               RawSpectrum& spectrum) {
-  LineBuffer line;
-  const Status status = Operate([&] { return MeasureLine(light, line); });
-  return status == 0 ? FillSpectrum({&line, 1}, settings.linePositions, kDetectorStartNm, spectrum)
-                     : status;
+QCoro::Task<Acquisition> GpibControlBox::Acquire(LightFlag light, AcquisitionSettings settings) {
+  Acquisition acquisition;
+  if (busy_) {
+    acquisition.status = kBusy;
+    co_return acquisition;
+  }
+  wanted_ = settings.sampling;
+  acquisition.status = co_await Operate([this, light] { return MeasureLine(light); });
+  if (acquisition.status == 0) {
+    acquisition.status = FillSpectrum({&line_, 1}, settings.linePositions, kDetectorStartNm,
+                                      acquisition.counts);
+  }
+  co_return acquisition;
+}
+
+void GpibControlBox::Cancel() {
+  if (busy_) {
+    cancelled_ = true;
+    calls_.Abandon();
+  }
 }
 
 void GpibControlBox::Close() {
@@ -81,171 +90,211 @@ void GpibControlBox::Close() {
   calls_.Abandon();
 }
 
-// Does the steps with a box that is initialised, and shows what failed once all is over.
-Status GpibControlBox::Operate(const std::function<bool()>& steps) {
-  if (busy_) {
-    return kBusy;
+QString GpibControlBox::FailureMessage() const {
+  return failure_ ? failure_->message : QString();
+}
+
+// Does the steps with a box that is initialised.
+QCoro::Task<Status> GpibControlBox::Operate(std::function<QCoro::Task<bool>()> steps) {
+  if (std::exchange(busy_, true)) {
+    co_return kBusy;
   }
-  busy_ = true;
   const auto release = qScopeGuard([this] { busy_ = false; });
   failure_.reset();
-  if ((connected_ || Connect()) && steps()) {
-    return 0;
+  cancelled_ = false;
+  bool done = connected_;
+  if (!done) {
+    done = co_await Connect();
+  }
+  if (done) {
+    done = co_await steps();
+  }
+  if (done) {
+    co_return kSuccess;
   }
   connected_ = false;
+  if (cancelled_) {
+    failure_.reset();
+    co_return kCancelled;
+  }
   if (closed_ || !failure_) {
-    return kClosed;
+    failure_.reset();
+    co_return kClosed;
   }
-  const Failure failure = *failure_;
-  messages_.MsgCall(failure.message, message_type::kOk + message_type::kStopIcon,
-                    message_title::kError);
-  return static_cast<Status>(-failure.code);
+  co_return static_cast<Status>(-failure_->code);
 }
 
-bool GpibControlBox::Connect() {
+QCoro::Task<bool> GpibControlBox::Connect() {
   if (const QString missing = BindGpLibrary(directory_, library_); !missing.isEmpty()) {
-    return Fail(gpib_error::kControlBox, missing.toLatin1().constData(), {kInitCode});
+    co_return Fail(gpib_error::kControlBox, missing.toLatin1().constData(), {kInitCode});
   }
-  const auto setDelimiter = [this](const char* direction) {
-    return Call("gp_delm", {kDelimiterCode},
-                [direction](const GpLibrary& gp) { return gp.gp_delm(direction, kDelimiter); });
+  const struct {
+    const char* function;
+    int code;
+    LibraryCall call;
+  } calls[] = {
+      {"gp_init", kInitCode, [](const GpLibrary& gp) { return gp.gp_init(kInterfaceAddress); }},
+      {"gp_delm", kDelimiterCode,
+       [](const GpLibrary& gp) { return gp.gp_delm("t", kDelimiter); }},
+      {"gp_delm", kDelimiterCode,
+       [](const GpLibrary& gp) { return gp.gp_delm("l", kDelimiter); }},
+      {"gp_tmout", kTimeOutCode, [](const GpLibrary& gp) { return gp.gp_tmout(kCallSeconds); }},
+      {"gp_cli", kInterfaceClearCode, [](const GpLibrary& gp) { return gp.gp_cli(); }},
+      {"gp_cli", kInterfaceClearCode, [](const GpLibrary& gp) { return gp.gp_cli(); }},
+      {"gp_ren", kRemoteCode, [](const GpLibrary& gp) { return gp.gp_ren(); }},
+      {"gp_clr", kDeviceClearCode, [](const GpLibrary& gp) { return gp.gp_clr(kBoxAddress); }},
   };
-  const auto clearInterface = [this] {
-    return Call("gp_cli", {kInterfaceClearCode}, [](const GpLibrary& gp) { return gp.gp_cli(); });
-  };
-  connected_ = Call("gp_init", {kInitCode},
-                    [](const GpLibrary& gp) { return gp.gp_init(kInterfaceAddress); }) &&
-               setDelimiter("t") && setDelimiter("l") &&
-               Call("gp_tmout", {kTimeOutCode},
-                    [](const GpLibrary& gp) { return gp.gp_tmout(kCallSeconds); }) &&
-               clearInterface() && clearInterface() &&
-               Call("gp_ren", {kRemoteCode}, [](const GpLibrary& gp) { return gp.gp_ren(); }) &&
-               Call("gp_clr", {kDeviceClearCode},
-                    [](const GpLibrary& gp) { return gp.gp_clr(kBoxAddress); }) &&
-               AwaitRequest({kReadyCode}, kCommandSeconds) && ReadStatus({kReadyStatusCode}) &&
-               SendSampling();
-  return connected_;
+  for (const auto& [function, code, call] : calls) {
+    const Step step{code};
+    if (!co_await Call(function, step, call)) {
+      co_return false;
+    }
+  }
+  const Step ready{kReadyCode};
+  const Step readyStatus{kReadyStatusCode};
+  connected_ = co_await AwaitRequest(ready, kCommandSeconds) && co_await ReadStatus(readyStatus) &&
+               co_await SendSampling();
+  co_return connected_;
 }
 
-bool GpibControlBox::SendSampling() {
-  return Send({.code = kSamplingCode,
-               .command = QStringLiteral("INTGTM %1").arg(samplingTimeMs_)}) &&
-         Send({.code = kSamplingCode, .command = QStringLiteral("INTGCT %1").arg(averagingCount_)});
+QCoro::Task<bool> GpibControlBox::SendSampling() {
+  const Sampling sampling = wanted_;
+  const Step time{.code = kSamplingCode,
+                  .command = QStringLiteral("INTGTM %1").arg(sampling.timeMs)};
+  const Step count{.code = kSamplingCode,
+                   .command = QStringLiteral("INTGCT %1").arg(sampling.averagingCount)};
+  const bool sent = co_await Send(time) && co_await Send(count);
+  if (sent) {
+    sampling_ = sampling;
+  }
+  co_return sent;
 }
 
-bool GpibControlBox::MeasureLine(LightFlag light, LineBuffer& line) {
-  const bool measured = SetLight(light) && TakeLine(line);
-  const bool rested = RestLight();
+QCoro::Task<bool> GpibControlBox::MeasureLine(LightFlag light) {
+  if (sampling_ != wanted_ && !co_await SendSampling()) {
+    co_return false;
+  }
+  const bool measured = co_await SetLight(light) && co_await TakeLine();
+  const bool rested = co_await RestLight();
   if (measured && !rested) {
-    (void)RestLight();  // what failed is the setting back itself
+    (void)co_await RestLight();  // what failed is the setting back itself
   }
-  return measured && rested;
+  co_return measured && rested;
 }
 
-bool GpibControlBox::SetLight(LightFlag light) {
+QCoro::Task<bool> GpibControlBox::SetLight(LightFlag light) {
   const bool dark = light == LightFlag::kBackground;
-  const bool set = Send({kLightCode, AwaitedStep::kLightShutter, dark ? kLightClosed : kLightOpen});
+  const Step shutter{kLightCode, AwaitedStep::kLightShutter, dark ? kLightClosed : kLightOpen};
+  const Step lamp{kLampCode, AwaitedStep::kLamp, kLampOn};
+  const Step eyepiece{kEyepieceCode, AwaitedStep::kEyepieceShutter, kEyepieceClosed};
+  const bool set = co_await Send(shutter);
   lightClosed_ = set && dark;
-  return set && Send({kLampCode, AwaitedStep::kLamp, kLampOn}) &&
-         Send({kEyepieceCode, AwaitedStep::kEyepieceShutter, kEyepieceClosed});
+  co_return set && co_await Send(lamp) && co_await Send(eyepiece);
 }
 
 // After whatever failed, a command that is not confirmed included; only a box that takes no command
 // is left alone.
-bool GpibControlBox::RestLight() {
+QCoro::Task<bool> GpibControlBox::RestLight() {
+  const Step steps[] = {{kEyepieceCode, AwaitedStep::kEyepieceShutter, kEyepieceOpen},
+                        {kLampCode, AwaitedStep::kLamp, kLampOff},
+                        {kLightCode, AwaitedStep::kLightShutter, kLightOpen}};
   bool allSet = true;
   bool set = false;
-  for (const Step& step : {Step{kEyepieceCode, AwaitedStep::kEyepieceShutter, kEyepieceOpen},
-                           Step{kLampCode, AwaitedStep::kLamp, kLampOff},
-                           Step{kLightCode, AwaitedStep::kLightShutter, kLightOpen}}) {
-    if (!Write(step)) {
-      return false;
+  for (const Step& step : steps) {
+    if (!co_await Write(step)) {
+      co_return false;
     }
-    set = AwaitRequest(step, kCommandSeconds) && ReadStatus(step);
+    set = co_await AwaitRequest(step, kCommandSeconds) && co_await ReadStatus(step);
     allSet = allSet && set;
   }
   lightClosed_ = lightClosed_ && !set;
-  return allSet;
+  co_return allSet;
 }
 
-bool GpibControlBox::TakeLine(LineBuffer& line) {
+QCoro::Task<bool> GpibControlBox::TakeLine() {
+  const Step trigger{kTriggerCode, AwaitedStep::kMeasurement};
   const Step measure{.code = kMeasuredCode,
                      .awaited = AwaitedStep::kMeasurement,
-                     .expectedMs = samplingTimeMs_ * averagingCount_};
+                     .expectedMs = sampling_.timeMs * sampling_.averagingCount};
+  const Step measured{kMeasuredStatusCode, AwaitedStep::kMeasurement};
+  const Step request{kMeasurementCode, AwaitedStep::kData, QStringLiteral("MEASDT 0")};
+  const Step fetch{kTransferCode, AwaitedStep::kData};
+  constexpr int kLength = static_cast<int>(kBytesPerLine);
   struct Transfer {
     std::array<unsigned char, kBytesPerLine> bytes{};
     int received = 0;
   };
   const auto transfer = std::make_shared<Transfer>();
-  const Step fetch{kTransferCode, AwaitedStep::kData};
-  constexpr int kLength = static_cast<int>(kBytesPerLine);
-  if (!Call("gp_trg", {kTriggerCode, AwaitedStep::kMeasurement},
-            [](const GpLibrary& gp) { return gp.gp_trg(kBoxAddress); }) ||
-      !AwaitRequest(measure, kMeasurementSeconds) ||
-      !ReadStatus({kMeasuredStatusCode, AwaitedStep::kMeasurement}) ||
-      !Send({kMeasurementCode, AwaitedStep::kData, QStringLiteral("MEASDT 0")}) ||
-      !Call("gp_tfrin", fetch, [transfer](const GpLibrary& gp) {
-        return gp.gp_tfrin(kBoxAddress, kLength, transfer->bytes.data(), &transfer->received);
-      })) {
-    return false;
+  const LibraryCall triggerBox = [](const GpLibrary& gp) { return gp.gp_trg(kBoxAddress); };
+  const LibraryCall takeBytes = [transfer](const GpLibrary& gp) {
+    return gp.gp_tfrin(kBoxAddress, kLength, transfer->bytes.data(), &transfer->received);
+  };
+  const bool taken = co_await Call("gp_trg", trigger, triggerBox) &&
+                     co_await AwaitRequest(measure, kMeasurementSeconds) &&
+                     co_await ReadStatus(measured) && co_await Send(request) &&
+                     co_await Call("gp_tfrin", fetch, takeBytes);
+  if (!taken) {
+    co_return false;
   }
   if (transfer->received != kLength) {
-    return Fail(gpib_error::kFormat, "gp_tfrin", fetch);
+    co_return Fail(gpib_error::kFormat, "gp_tfrin", fetch);
   }
-  line.bytes = transfer->bytes;
-  line.complete = true;
-  return true;
+  line_.bytes = transfer->bytes;
+  line_.complete = true;
+  co_return true;
 }
 
-bool GpibControlBox::Send(const Step& step) {
-  return Write(step) && AwaitRequest(step, kCommandSeconds) && ReadStatus(step);
+QCoro::Task<bool> GpibControlBox::Send(Step step) {
+  co_return co_await Write(step) && co_await AwaitRequest(step, kCommandSeconds) &&
+      co_await ReadStatus(step);
 }
 
-bool GpibControlBox::Write(const Step& step) {
-  return Call("gp_wrt", step, [text = step.command.toLatin1()](const GpLibrary& gp) {
+QCoro::Task<bool> GpibControlBox::Write(Step step) {
+  const LibraryCall call = [text = step.command.toLatin1()](const GpLibrary& gp) {
     return gp.gp_wrt(kBoxAddress, text.constData());
-  });
+  };
+  co_return co_await Call("gp_wrt", step, call);
 }
 
-bool GpibControlBox::AwaitRequest(const Step& step, int seconds) {
-  const std::optional<int> number = Run(
-      "gp_wsrq", step, [seconds](const GpLibrary& gp) { return gp.gp_wsrq(seconds); }, seconds);
-  return number &&
-         (*number == 0 || Fail(std::max(*number, gpib_error::kNoServiceRequest), "gp_wsrq", step));
+QCoro::Task<bool> GpibControlBox::AwaitRequest(Step step, int seconds) {
+  const LibraryCall call = [seconds](const GpLibrary& gp) { return gp.gp_wsrq(seconds); };
+  const std::optional<int> number = co_await Run("gp_wsrq", step, call, seconds);
+  co_return number &&
+      (*number == 0 || Fail(std::max(*number, gpib_error::kNoServiceRequest), "gp_wsrq", step));
 }
 
-bool GpibControlBox::ReadStatus(const Step& step) {
-  const auto statusByte = std::make_shared<int>(0);
-  return Call("gp_rds", step, [statusByte](const GpLibrary& gp) {
+QCoro::Task<bool> GpibControlBox::ReadStatus(Step step) {
+  const LibraryCall call = [statusByte = std::make_shared<int>(0)](const GpLibrary& gp) {
     return gp.gp_rds(kBoxAddress, statusByte.get());
-  });
+  };
+  co_return co_await Call("gp_rds", step, call);
 }
 
-bool GpibControlBox::Call(const char* function, const Step& step, LibraryCall call) {
-  const std::optional<int> number = Run(function, step, std::move(call), kCallSeconds);
-  return number && (*number == 0 || Fail(*number, function, step));
+QCoro::Task<bool> GpibControlBox::Call(const char* function, Step step, LibraryCall call) {
+  const std::optional<int> number = co_await Run(function, step, call, kCallSeconds);
+  co_return number && (*number == 0 || Fail(*number, function, step));
 }
 
-// What the call returned; nothing when it did not come back, which is a failure, or when the link
-// was closed meanwhile, which is none.
-std::optional<int> GpibControlBox::Run(const char* function, const Step& step, LibraryCall call,
-                                       int seconds) {
+// What the call returned; nothing when it did not come back, which is a failure, or when it was
+// given up meanwhile, which is none.
+QCoro::Task<std::optional<int>> GpibControlBox::Run(const char* function, Step step,
+                                                    LibraryCall call, int seconds) {
   if (closed_) {
-    return std::nullopt;
+    co_return std::nullopt;
   }
   emit WaitBegan(step.awaited, step.expectedMs, std::min(1000 * seconds, replyTimeoutMs_));
-  const BlockingCalls::Outcome outcome = calls_.Run(
-      [call = std::move(call), library = library_] { return call(library); }, replyTimeoutMs_);
+  const std::function<int()> bound = [call, library = library_] { return call(library); };
+  const BlockingCalls::Outcome outcome = co_await calls_.Run(bound, replyTimeoutMs_);
   emit WaitEnded();
   if (outcome.end == BlockingCalls::End::kReturned) {
-    return outcome.value;
+    co_return outcome.value;
   }
   if (outcome.end == BlockingCalls::End::kOverdue) {
     (void)Fail(gpib_error::kTimeOut, function, step);
-  } else {
+  } else if (!cancelled_) {
     closed_ = true;
   }
-  return std::nullopt;
+  co_return std::nullopt;
 }
 
 // Always false.

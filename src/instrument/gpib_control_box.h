@@ -5,7 +5,6 @@
 #include <functional>
 #include <optional>
 
-#include "base/message.h"
 #include "instrument/blocking_calls.h"
 #include "instrument/controller.h"
 #include "instrument/detector_line.h"
@@ -14,7 +13,7 @@
 namespace vexa {
 
 /// The older instrument's control box on the GP-IB. The calls of the interface library block, so
-/// they run on a thread of their own while this one waits in the event loop.
+/// they run on a thread of their own while the operation's coroutine sleeps.
 ///
 /// A text command is confirmed by a service request and a serial poll. Besides kBusy, kNotMappable
 /// and kClosed, a failure's status is minus the location code of the step that failed, and this
@@ -33,15 +32,18 @@ class GpibControlBox : public Controller {
 
   /// The library is looked for in `directory` first. A call that is not back after `replyTimeoutMs`
   /// has failed; the library's own time-outs (5, 10 or 20 s) are shorter.
-  GpibControlBox(QString directory, MessageService& messages, int replyTimeoutMs = kReplyTimeoutMs,
-                 QObject* parent = nullptr);
+  explicit GpibControlBox(QString directory, int replyTimeoutMs = kReplyTimeoutMs,
+                          QObject* parent = nullptr);
 
   /// The port is not looked at: there is one interface.
-  [[nodiscard]] Status Initialise(std::int16_t port) override;
-  [[nodiscard]] Status SetSampling(std::int16_t timeMs, std::int16_t averagingCount) override;
-  [[nodiscard]] Status Acquire(LightFlag light, const AcquisitionSettings& settings,
-                               RawSpectrum& spectrum) override;
+  [[nodiscard]] QCoro::Task<Status> Initialise(std::int16_t port) override;
+  [[nodiscard]] QCoro::Task<Status> SetSampling(Sampling sampling) override;
+  [[nodiscard]] QCoro::Task<Acquisition> Acquire(LightFlag light,
+                                                 AcquisitionSettings settings) override;
+  /// A call of the library that is out is given up: it cannot be ended.
+  void Cancel() override;
   void Close() override;
+  [[nodiscard]] QString FailureMessage() const override;
   [[nodiscard]] bool IsLightPathClosed() const override { return lightClosed_; }
 
  private:
@@ -54,19 +56,20 @@ class GpibControlBox : public Controller {
   };
   using LibraryCall = std::function<int(const GpLibrary&)>;
 
-  Status Operate(const std::function<bool()>& steps);
-  bool Connect();
-  bool SendSampling();
-  bool MeasureLine(LightFlag light, LineBuffer& line);
-  bool SetLight(LightFlag light);
-  bool RestLight();
-  bool TakeLine(LineBuffer& line);
-  bool Send(const Step& step);
-  bool Write(const Step& step);
-  bool AwaitRequest(const Step& step, int seconds);
-  bool ReadStatus(const Step& step);
-  bool Call(const char* function, const Step& step, LibraryCall call);
-  std::optional<int> Run(const char* function, const Step& step, LibraryCall call, int seconds);
+  [[nodiscard]] QCoro::Task<Status> Operate(std::function<QCoro::Task<bool>()> steps);
+  [[nodiscard]] QCoro::Task<bool> Connect();
+  [[nodiscard]] QCoro::Task<bool> SendSampling();
+  [[nodiscard]] QCoro::Task<bool> MeasureLine(LightFlag light);
+  [[nodiscard]] QCoro::Task<bool> SetLight(LightFlag light);
+  [[nodiscard]] QCoro::Task<bool> RestLight();
+  [[nodiscard]] QCoro::Task<bool> TakeLine();
+  [[nodiscard]] QCoro::Task<bool> Send(Step step);
+  [[nodiscard]] QCoro::Task<bool> Write(Step step);
+  [[nodiscard]] QCoro::Task<bool> AwaitRequest(Step step, int seconds);
+  [[nodiscard]] QCoro::Task<bool> ReadStatus(Step step);
+  [[nodiscard]] QCoro::Task<bool> Call(const char* function, Step step, LibraryCall call);
+  [[nodiscard]] QCoro::Task<std::optional<int>> Run(const char* function, Step step,
+                                                    LibraryCall call, int seconds);
   bool Fail(int number, const char* function, const Step& step);
 
   struct Failure {
@@ -75,16 +78,17 @@ class GpibControlBox : public Controller {
   };
 
   QString directory_;
-  MessageService& messages_;
   int replyTimeoutMs_;
   GpLibrary library_;
   std::optional<Failure> failure_;  ///< the first of the operation
-  std::int16_t samplingTimeMs_ = 30;
-  std::int16_t averagingCount_ = 1;
+  Sampling wanted_;
+  Sampling sampling_;  ///< what the box has confirmed last
+  LineBuffer line_;
   bool connected_ = false;
   bool lightClosed_ = false;
   bool busy_ = false;
   bool closed_ = false;
+  bool cancelled_ = false;
   BlockingCalls calls_;
 };
 
