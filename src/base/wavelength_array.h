@@ -26,6 +26,9 @@ class WavelengthArray {
   [[nodiscard]] std::span<double, kCount> Values() { return values_; }
   [[nodiscard]] std::span<const double, kCount> Values() const { return values_; }
 
+  /// Nothing was ever put in, or nothing but zeros.
+  [[nodiscard]] bool IsEmpty() const { return *this == WavelengthArray(); }
+
   bool operator==(const WavelengthArray&) const = default;
 
  private:

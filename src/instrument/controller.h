@@ -4,7 +4,9 @@
 #include <QCoroTask>
 #include <QObject>
 #include <cstdint>
+#include <optional>
 
+#include "base/message.h"
 #include "base/spectrum.h"
 #include "base/status.h"
 #include "instrument/wavelength_mapping.h"
@@ -88,8 +90,8 @@ class Controller : public QObject {
   /// link is well or when nothing is known.
   [[nodiscard]] virtual QString FailureDetails() const { return {}; }
 
-  /// The controller's own message about its last failure; empty when it has none.
-  [[nodiscard]] virtual QString FailureMessage() const { return {}; }
+  /// The controller's own message about its last failure, if it has one.
+  [[nodiscard]] virtual std::optional<MessageCall> FailureMessage() const { return std::nullopt; }
 
   /// True while the light shutter is known to block the measuring light at rest.
   [[nodiscard]] virtual bool IsLightPathClosed() const = 0;

@@ -90,8 +90,8 @@ void GpibControlBox::Close() {
   calls_.Abandon();
 }
 
-QString GpibControlBox::FailureMessage() const {
-  return failure_ ? failure_->message : QString();
+std::optional<MessageCall> GpibControlBox::FailureMessage() const {
+  return failure_ ? std::optional(failure_->message) : std::nullopt;
 }
 
 // Does the steps with a box that is initialised.

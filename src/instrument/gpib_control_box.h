@@ -5,6 +5,7 @@
 #include <functional>
 #include <optional>
 
+#include "base/message.h"
 #include "instrument/blocking_calls.h"
 #include "instrument/controller.h"
 #include "instrument/detector_line.h"
@@ -43,7 +44,7 @@ class GpibControlBox : public Controller {
   /// A call of the library that is out is given up: it cannot be ended.
   void Cancel() override;
   void Close() override;
-  [[nodiscard]] QString FailureMessage() const override;
+  [[nodiscard]] std::optional<MessageCall> FailureMessage() const override;
   [[nodiscard]] bool IsLightPathClosed() const override { return lightClosed_; }
 
  private:
@@ -73,7 +74,7 @@ class GpibControlBox : public Controller {
   bool Fail(int number, const char* function, const Step& step);
 
   struct Failure {
-    QString message;
+    MessageCall message;
     int code;
   };
 

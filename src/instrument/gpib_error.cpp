@@ -4,31 +4,31 @@
 namespace vexa {
 namespace {
 
-QString GpibErrorText(int number) {
+Message GpibErrorIdentity(int number) {
   switch (number) {
     case gpib_error::kNoServiceRequest:
-      return QStringLiteral("GP-IB通信でSRQｴﾗｰ発生しました。");
+      return Message::kGpibServiceRequest;
     case 1:
-      return QStringLiteral("ｺﾝﾄﾛｰﾗｴﾗｰ");
+      return Message::kGpibController;
     case gpib_error::kFormat:
-      return QStringLiteral("GP-IB通信でﾌｫｰﾏｯﾄ･ｴﾗｰ発生しました。");
+      return Message::kGpibFormat;
     case gpib_error::kTimeOut:
-      return QStringLiteral("GP-IB通信でﾀｲﾑｱｳﾄ･ｴﾗｰ発生しました。");
+      return Message::kGpibTimeOut;
     case 61:
-      return QStringLiteral("通信でﾃﾞﾊﾞｲｽ･ｴﾗｰ発生しました。");
+      return Message::kGpibDevice;
     case 62:
-      return QStringLiteral("GP-IB通信でｵﾊﾞｰﾌﾛｰ･ｴﾗｰ発生しました。");
+      return Message::kGpibOverflow;
     case gpib_error::kControlBox:
-      return QStringLiteral("コントロールボックスの初期化でｴﾗｰ発生しました。");
+      return Message::kGpibControlBox;
     default:
-      return QStringLiteral("GP-IB通信で予期しないｴﾗｰ発生しました。");
+      return Message::kGpibUnexpected;
   }
 }
 
 }  // namespace
 
-QString GpibErrorMessage(int number, const QString& step, int code) {
-  return QStringLiteral("%1(%2 %3)").arg(GpibErrorText(number), step).arg(code);
+MessageCall GpibErrorMessage(int number, const QString& step, int code) {
+  return {GpibErrorIdentity(number), {step, QString::number(code)}};
 }
 
 }  // namespace vexa

@@ -3,6 +3,8 @@
 
 #include <QString>
 
+#include "base/message.h"
+
 namespace vexa {
 
 /// Error numbers that this side gives of its own accord; all others are the library's.
@@ -13,7 +15,7 @@ inline constexpr int kTimeOut = 54;     ///< a call that does not come back
 inline constexpr int kControlBox = 97;  ///< the library or a call of it is missing
 }  // namespace gpib_error
 
-/// What is shown of a failed step: the text of the error number, the step and its location code.
-[[nodiscard]] QString GpibErrorMessage(int number, const QString& step, int code);
+/// What is told of a failed step: the message of the error number, with step and location code.
+[[nodiscard]] MessageCall GpibErrorMessage(int number, const QString& step, int code);
 
 }  // namespace vexa

@@ -7,30 +7,24 @@
 
 namespace vexa {
 
-std::unique_ptr<Controller> MakeController(const VEXATYPE& state, MessageService& messages,
-                                           int replyTimeoutMs) {
+std::unique_ptr<Controller> MakeController(const VEXATYPE& state, int replyTimeoutMs) {
   const QString& directory = state.programDirectory;
   if (state.instrument.controllerPort == 0) {
-    return std::make_unique<GpibControlBox>(directory, messages, replyTimeoutMs);
+    return std::make_unique<GpibControlBox>(directory, replyTimeoutMs);
   }
   return std::make_unique<frmComH8Ctrl>(
       [directory](int port) { return SerialPortPath(directory, port); }, replyTimeoutMs);
 }
 
-void ReportControllerFailure(const Controller& controller, MessageService& messages) {
-  messages.MsgCallWithDetails(QStringLiteral("通信でﾃﾞﾊﾞｲｽ･ｴﾗｰ発生しました。"),
-                              message_type::kOk + message_type::kStopIcon,
-                              QStringLiteral("ｺﾝﾄﾛｰﾗｴﾗｰ"), controller.FailureDetails());
+Sampling SamplingOf(const InstrumentSettings& settings) {
+  return {settings.samplingTimeMs, settings.averagingCount};
 }
 
-Status SendSamplingSettings(Controller& controller, const InstrumentSettings& settings,
-                            MessageService& messages) {
-  const Status status = controller.SetSampling(settings.samplingTimeMs, settings.averagingCount);
-  if (status != 0) {
-    messages.MsgCall(QStringLiteral("ｻﾝﾌﾟﾘﾝｸﾞ設定でｴﾗｰが発生しました。"),
-                     message_type::kOk + message_type::kStopIcon, message_title::kError);
+void TellControllerFailure(const Controller& controller, Message what, MessageService& messages) {
+  if (const std::optional<MessageCall> own = controller.FailureMessage()) {
+    messages.Tell(*own);
   }
-  return status;
+  messages.Tell({what, {}, controller.FailureDetails()});
 }
 
 }  // namespace vexa

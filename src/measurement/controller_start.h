@@ -9,20 +9,15 @@
 
 namespace vexa {
 
-/// The controller that the settings name: port 0 is the older control box on the GP-IB, which shows
-/// messages of its own, any other the board on that serial port. The devices are looked for in the
-/// program directory first.
+/// The controller that the settings name: port 0 is the older control box on the GP-IB, any other
+/// the board on that serial port. The devices are looked for in the program directory first.
 [[nodiscard]] std::unique_ptr<Controller> MakeController(
-    const VEXATYPE& state, MessageService& messages,
-    int replyTimeoutMs = Controller::kReplyTimeoutMs);
+    const VEXATYPE& state, int replyTimeoutMs = Controller::kReplyTimeoutMs);
 
-/// Shows the device error of a controller that could not be initialised.
-void ReportControllerFailure(const Controller& controller, MessageService& messages);
+/// The sampling that the settings ask for.
+[[nodiscard]] Sampling SamplingOf(const InstrumentSettings& settings);
 
-/// Sends sampling time and averaging count to the controller; a failure is shown. Returns the
-/// controller's status, 0 when they are set.
-[[nodiscard]] Status SendSamplingSettings(Controller& controller,
-                                          const InstrumentSettings& settings,
-                                          MessageService& messages);
+/// Tells why a controller could not be initialised, or would not take its sampling.
+void TellControllerFailure(const Controller& controller, Message what, MessageService& messages);
 
 }  // namespace vexa

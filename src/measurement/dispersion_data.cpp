@@ -1,17 +1,29 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "measurement/dispersion_data.h"
 
+#include "base/translation.h"
 #include "optics/bunsan.h"
 
 namespace vexa {
 namespace {
 
+Message DispersionMessage(Status status) {
+  switch (status) {
+    case kDispersionFault:
+      return Message::kDispersionFault;
+    case kSubstrateFileFault:
+      return Message::kSubstrateFileFault;
+    default:
+      return Message::kIndexFileFault;
+  }
+}
+
 bool Build(Flag asReflectance, const DispersionSetting& setting, const QString& name,
            ReflectanceSpectrum& result, MessageService& messages) {
+  result = {};
   const Status status = GetBunsanArray(asReflectance, setting, result, messages);
   if (status != 0) {
-    messages.MsgCall(name + QStringLiteral("\r") + DispersionStatusText(status),
-                     message_type::kOk + message_type::kWarningIcon, QStringLiteral("VEXA-KT"));
+    messages.Tell({DispersionMessage(status), {name + u'\r'}});
   }
   return status == 0;
 }
@@ -25,15 +37,13 @@ void StoreCoatSpectrum(VEXATYPE& state, const ReflectanceSpectrum& spectrum) {
 
 bool LoadCoatData(VEXATYPE& state, MessageService& messages) {
   ReflectanceSpectrum coat;
-  if (!Build(false, state.thickness.coat, QStringLiteral("ｲﾝﾃﾞｯｸｽ"), coat, messages)) {
-    return false;
-  }
+  const bool built = Build(false, state.thickness.coat, Text::tr("ｲﾝﾃﾞｯｸｽ"), coat, messages);
   StoreCoatSpectrum(state, coat);
-  return true;
+  return built;
 }
 
 void LoadDispersionData(VEXATYPE& state, MessageService& messages) {
-  Build(true, state.referenceSetting, QStringLiteral("ﾘﾌｧﾚﾝｽ"), state.referenceReflectance,
+  Build(true, state.referenceSetting, Text::tr("ﾘﾌｧﾚﾝｽ"), state.referenceReflectance,
         messages);
   LoadCoatData(state, messages);
 }

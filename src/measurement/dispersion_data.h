@@ -10,12 +10,12 @@ namespace vexa {
 /// setting is a substrate, else as the index of the film.
 void StoreCoatSpectrum(VEXATYPE& state, const ReflectanceSpectrum& spectrum);
 
-/// Builds the index array of the coat's setting. False, with a message and the array as it was,
-/// when it cannot be built.
+/// Builds the index array of the coat's setting. False, with a message and an empty array, when
+/// it cannot be built.
 bool LoadCoatData(VEXATYPE& state, MessageService& messages);
 
 /// Builds the reference reflectance and the index arrays from their settings. Where one cannot be
-/// built, a message names the setting, and the array stays as it was.
+/// built, a message names the setting, and the array is empty.
 void LoadDispersionData(VEXATYPE& state, MessageService& messages);
 
 }  // namespace vexa

@@ -1,40 +1,13 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "measurement/evaluation.h"
 
+#include "base/translation.h"
+
 namespace vexa {
 
-using namespace message_type;
-
-namespace {
-
-void Accumulate(VEXATYPE& state, const ColourResult& colour, MessageService& messages) {
-  switch (state.stock.StockAdd(colour, state.display.xyMode)) {
-    case StockAddResult::kStored:
-      break;
-    case StockAddResult::kStoredLast:
-      messages.MsgCall(QStringLiteral("累積データ数が100になりました"), kOk + kInformationIcon,
-                       message_title::kMessage);
-      break;
-    case StockAddResult::kRefused:
-      messages.MsgCall(
-          QStringLiteral("累積データ数が100を越えました。データをクリアしてください。"),
-          kOk + kInformationIcon, message_title::kMessage);
-      break;
-  }
-}
-
-}  // namespace
-
-void EvaluateSlot(VEXATYPE& state, MeasurementSlot& slot, MessageService& messages) {
-  ComputeColours(state.colour, slot);
-  if (state.accumulate) {
-    Accumulate(state, slot.colour, messages);
-  }
-  JudgeSlot(state, slot);
-}
-
 void ComputeColours(const ColourSettings& settings, MeasurementSlot& slot) {
-  // A spectrum without a colour keeps what could be computed of it; there is no message for it.
+  // A spectrum without a colour has what could be computed of it; there is no message for it.
+  slot.colour = {};
   (void)CalcColour(slot.reflectance, settings, slot.colour);
   (void)AverageReflectance(slot.reflectance, settings.avgFrom, settings.avgTo, slot.colour.Rm);
 }
@@ -52,16 +25,37 @@ void EvaluateAgain(VEXATYPE& state) {
   }
 }
 
-Status ComputeSlotThickness(VEXATYPE& state, MeasurementSlot& slot, MessageService& messages) {
-  // In substrate mode the index of the film is derived anew from each sample.
+Status ComputeSlotThickness(const VEXATYPE& state, MeasurementSlot& slot) {
+  slot.thickness = {};
+  slot.filmIndex = {};
+  const bool fromSubstrate = state.thickness.coat.kind == DispersionKind::kSubstrate;
+  if (fromSubstrate && state.thickness.type == ThicknessType::kC) {
+    return kThicknessFault;  // this type derives no index of the film
+  }
+  if ((fromSubstrate ? state.substrateIndex : state.filmIndex).IsEmpty()) {
+    return kIndexMissing;
+  }
+  ReflectanceSpectrum filmIndex = state.filmIndex;
   const Status status =
       ComputeThickness(state.thickness.type, state.thickness.kind, state.thickness.coat.kind,
-                       state.substrateIndex, slot.reflectance, state.filmIndex, slot.thickness);
-  state.extrema = slot.thickness.extrema;
-  if (status != 0) {
-    messages.MsgCall(ThicknessStatusText(status), kOk + kStopIcon, message_title::kError);
+                       state.substrateIndex, slot.reflectance, filmIndex, slot.thickness);
+  if (fromSubstrate && status == kSuccess) {
+    slot.filmIndex = filmIndex;
   }
   return status;
+}
+
+MessageCall ThicknessMessage(Status status) {
+  switch (status) {
+    case kTooFewExtrema:
+      return {Message::kTooFewExtrema};
+    case kTooManyExtrema:
+      return {Message::kTooManyExtrema};
+    case kIndexMissing:
+      return {Message::kIndexFileFault, {Text::tr("ｲﾝﾃﾞｯｸｽ") + u'\r'}};
+    default:
+      return {Message::kThicknessFault};
+  }
 }
 
 }  // namespace vexa

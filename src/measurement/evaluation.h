@@ -7,11 +7,7 @@
 
 namespace vexa {
 
-/// What every spectrum that comes into a slot goes through, measured or loaded, in its fixed order:
-/// colour values, average reflectance, accumulation (with its messages at 100 points), judgement.
-void EvaluateSlot(VEXATYPE& state, MeasurementSlot& slot, MessageService& messages);
-
-/// Colour values and average reflectance under the settings in force.
+/// Colour values and average reflectance under the settings in force. What cannot be computed is 0.
 void ComputeColours(const ColourSettings& settings, MeasurementSlot& slot);
 
 /// The slot's verdicts under the standards in force.
@@ -21,8 +17,14 @@ void JudgeSlot(const VEXATYPE& state, MeasurementSlot& slot);
 /// accumulated.
 void EvaluateAgain(VEXATYPE& state);
 
-/// Computes the thickness for the slot and makes its extrema the current ones. A failure is shown,
-/// leaves zeros and no extrema, and is the status returned.
-Status ComputeSlotThickness(VEXATYPE& state, MeasurementSlot& slot, MessageService& messages);
+/// Computes the thickness for the slot, with the index in force; when that is computed from the
+/// substrate's, the film's index is kept with the slot that it belongs to. A failure leaves zeros
+/// and no extrema: the status of ComputeThickness, or kIndexMissing.
+[[nodiscard]] Status ComputeSlotThickness(const VEXATYPE& state, MeasurementSlot& slot);
+
+inline constexpr Status kIndexMissing = -5;  ///< the index that the setting names is not loaded
+
+/// What to tell of a status of ComputeSlotThickness other than success.
+[[nodiscard]] MessageCall ThicknessMessage(Status status);
 
 }  // namespace vexa

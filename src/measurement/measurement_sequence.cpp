@@ -2,153 +2,144 @@
 #include "measurement/measurement_sequence.h"
 
 #include <exception>
-#include <utility>
 
+#include "base/translation.h"
+#include "measurement/controller_start.h"
 #include "measurement/evaluation.h"
-#include "measurement/reflectance.h"
 
 namespace vexa {
-
-using namespace message_type;
-
 namespace {
 
-const QString kBackgroundRequest = QStringLiteral("ﾊﾞｯｸｸﾞﾗﾝﾄﾞを測定して下さい。");
-const QString kReferenceRequest = QStringLiteral("ﾘﾌｧﾚﾝｽを測定して下さい。");
+AcquisitionSettings SettingsOf(const InstrumentSettings& instrument) {
+  return {.linePositions = instrument.linePositions,
+          .settlingTimeMs = instrument.settlingTimeMs,
+          .sampling = SamplingOf(instrument)};
+}
+
+void AddFailure(Status status, const Controller& controller, std::vector<MessageCall>& messages) {
+  if (status == Controller::kCancelled) {
+    return;
+  }
+  if (const std::optional<MessageCall> own = controller.FailureMessage()) {
+    messages.push_back(*own);
+  }
+  if (status == 1) {
+    messages.push_back({Message::kSaturated});
+  } else {
+    messages.push_back({Message::kAcquisitionFailed, {}, controller.FailureDetails()});
+  }
+}
+
+void AddStorage(const SampleStorage& storage, std::vector<MessageCall>& messages) {
+  if (storage.stock == StockAddResult::kStoredLast) {
+    messages.push_back({Message::kStockNowFull});
+  } else if (storage.stock == StockAddResult::kRefused) {
+    messages.push_back({Message::kStockFull});
+  }
+  if (storage.thickness.value_or(kSuccess) != kSuccess) {
+    messages.push_back(ThicknessMessage(*storage.thickness));
+  }
+}
 
 }  // namespace
 
-MeasurementSequence::MeasurementSequence(VEXATYPE& state, MessageService& messages, Clock clock,
-                                         QObject* parent)
-    : QObject(parent), state_(state), messages_(messages), clock_(std::move(clock)) {}
-
-std::optional<Status> MeasurementSequence::MeasureBackground() {
-  return Measure(MeasurementKind::kBackground, 0, state_.background);
+void Tell(const MeasurementOutcome& outcome, MessageService& messages) {
+  for (const MessageCall& call : outcome.messages) {
+    if (call.id == Message::kSaturated) {
+      messages.Beep();
+    }
+    messages.Tell(call);
+  }
 }
 
-std::optional<Status> MeasurementSequence::MeasureReference() {
-  if (!RequireMeasured(state_.backgroundMeasured, kBackgroundRequest)) {
-    return std::nullopt;
-  }
-  return Measure(MeasurementKind::kReference, 0, state_.reference);
+MeasurementSequence::MeasurementSequence(Session& session, QObject* parent)
+    : QObject(parent), session_(session) {}
+
+QCoro::Task<MeasurementOutcome> MeasurementSequence::MeasureBackground() {
+  return Measure(MeasurementKind::kBackground, 0);
 }
 
-std::optional<Status> MeasurementSequence::MeasureSample(int slotNumber) {
-  const MeasurementSlot* slot = state_.Slot(slotNumber);
-  if (slot == nullptr || running_) {
-    return std::nullopt;
-  }
-  if (slot->valid &&
-      messages_.MsgCall(QStringLiteral("すでに測定されてます。上書きしてもよろしいですか？"),
-                        kOkCancel + kQuestionIcon, message_title::kMessage) != MessageResult::kOk) {
-    return std::nullopt;
-  }
-  if (!RequireMeasured(state_.backgroundMeasured, kBackgroundRequest) ||
-      !RequireMeasured(state_.referenceMeasured, kReferenceRequest)) {
-    return std::nullopt;
-  }
-  return Measure(MeasurementKind::kSample, slotNumber, state_.sample);
+QCoro::Task<MeasurementOutcome> MeasurementSequence::MeasureReference() {
+  return Measure(MeasurementKind::kReference, 0);
 }
 
-bool MeasurementSequence::ClearAll() {
-  if (running_ || messages_.MsgCall(QStringLiteral("全てのデータをクリアします。よろしいですか？"),
-                                    kOkCancel + kQuestionIcon,
-                                    QStringLiteral("ALL CLEAR")) != MessageResult::kOk) {
-    return false;
-  }
-  state_.ClearSlots();
-  emit SlotsChanged();
-  return true;
+QCoro::Task<MeasurementOutcome> MeasurementSequence::MeasureSample(int slot) {
+  return Measure(MeasurementKind::kSample, slot);
 }
 
-std::optional<Status> MeasurementSequence::Measure(MeasurementKind kind, int slot,
-                                                   RawSpectrum& target) {
+void MeasurementSequence::Cancel() {
   if (running_) {
-    return std::nullopt;
+    controller_->Cancel();
+  }
+}
+
+// What is still missing for a measurement of the kind.
+std::optional<MessageCall> MeasurementSequence::Refusal(MeasurementKind kind) const {
+  const VEXATYPE& state = session_.State();
+  if (kind != MeasurementKind::kBackground && !state.backgroundMeasured) {
+    return MessageCall{Message::kMeasureBackground};
+  }
+  if (kind == MeasurementKind::kSample && !state.referenceMeasured) {
+    return MessageCall{Message::kMeasureReference};
+  }
+  if (kind == MeasurementKind::kSample && state.referenceReflectance.IsEmpty()) {
+    return MessageCall{Message::kIndexFileFault, {Text::tr("ﾘﾌｧﾚﾝｽ") + u'\r'}};
   }
   if (controller_ == nullptr) {
-    messages_.MsgCall(QStringLiteral("ｺﾝﾄﾛｰﾗが接続されていません。"), kOk + kWarningIcon,
-                      message_title::kWarning);
-    return std::nullopt;
+    return MessageCall{Message::kControllerMissing};
+  }
+  return std::nullopt;
+}
+
+QCoro::Task<MeasurementOutcome> MeasurementSequence::Measure(MeasurementKind kind, int slot) {
+  MeasurementOutcome outcome;
+  const bool hasPlace =
+      kind != MeasurementKind::kSample || session_.State().Slot(slot) != nullptr;
+  if (running_ || !hasPlace) {
+    co_return outcome;
+  }
+  if (const std::optional<MessageCall> refusal = Refusal(kind)) {
+    outcome.messages.push_back(*refusal);
+    co_return outcome;
   }
   running_ = true;
   emit Began(kind, slot);
-  Status status = -1;
   try {
-    status = AcquireInto(
-        kind == MeasurementKind::kBackground ? LightFlag::kBackground : LightFlag::kSample, target);
-    if (status == 0) {
-      switch (kind) {
-        case MeasurementKind::kBackground:
-          state_.backgroundMeasured = true;
-          state_.backgroundTaken = ConditionsNow(state_.instrument, clock_());
-          emit FrameKept(kind, slot);
-          break;
-        case MeasurementKind::kReference:
-          state_.referenceMeasured = true;
-          state_.referenceTaken = ConditionsNow(state_.instrument, clock_());
-          emit FrameKept(kind, slot);
-          break;
-        case MeasurementKind::kSample:
-          StoreSample(slot);
-          break;
-      }
+    // What the frame is taken with, whatever is changed while it is being taken.
+    FrameConditions taken = session_.ConditionsNow();
+    const AcquisitionSettings settings = SettingsOf(session_.State().instrument);
+    const LightFlag light =
+        kind == MeasurementKind::kBackground ? LightFlag::kBackground : LightFlag::kSample;
+    const Acquisition acquisition = co_await controller_->Acquire(light, settings);
+    outcome.status = acquisition.status;
+    if (acquisition.status == kSuccess) {
+      taken.takenAt = session_.Now();
+      Store(kind, slot, acquisition.counts, taken, outcome);
+    } else {
+      AddFailure(acquisition.status, *controller_, outcome.messages);
     }
   } catch (const std::exception& fault) {
-    messages_.MsgCall(
-        QStringLiteral("予期しないエラーが発生しました。\r") + QString::fromLocal8Bit(fault.what()),
-        kOk + kStopIcon, message_title::kError);
+    outcome.messages.push_back(
+        {Message::kUnexpectedFault, {QString::fromLocal8Bit(fault.what())}});
   }
   running_ = false;
   emit Ended(kind, slot);
-  return status;
+  co_return outcome;
 }
 
-// A fresh array takes the place of the old one only when the acquisition succeeded.
-Status MeasurementSequence::AcquireInto(LightFlag light, RawSpectrum& target) {
-  const AcquisitionSettings settings{.linePositions = state_.instrument.linePositions,
-                                     .settlingTimeMs = state_.instrument.settlingTimeMs};
-  RawSpectrum fresh;
-  const Status status = controller_->Acquire(light, settings, fresh);
-  if (status == 0) {
-    target = fresh;
-    return status;
+void MeasurementSequence::Store(MeasurementKind kind, int slot, const RawSpectrum& counts,
+                                const FrameConditions& taken, MeasurementOutcome& outcome) {
+  switch (kind) {
+    case MeasurementKind::kBackground:
+      session_.StoreFrame(FrameKind::kBackground, counts, taken);
+      break;
+    case MeasurementKind::kReference:
+      session_.StoreFrame(FrameKind::kReference, counts, taken);
+      break;
+    case MeasurementKind::kSample:
+      AddStorage(session_.StoreSample(slot, counts, taken), outcome.messages);
+      break;
   }
-  if (status == 1) {
-    messages_.Beep();
-  }
-  messages_.MsgCallWithDetails(status == 1 ? QStringLiteral("取り込んだﾃﾞｰﾀが飽和しています。")
-                                           : QStringLiteral("データ取得でエラーが発生しました。"),
-                               kOk + kWarningIcon, message_title::kWarning,
-                               status == 1 ? QString() : controller_->FailureDetails());
-  return status;
-}
-
-void MeasurementSequence::StoreSample(int slotNumber) {
-  MeasurementSlot& slot = *state_.Slot(slotNumber);
-  slot.reflectance =
-      ComputeReflectance(state_.sample, state_.background, state_.reference,
-                         state_.instrument.calibrationShiftNm, state_.referenceReflectance);
-  slot.thickness = {};
-  slot.info.measuredAt = clock_();
-  slot.valid = true;
-  // Before any message about it waits for its answer.
-  emit FrameKept(MeasurementKind::kSample, slotNumber);
-  EvaluateSlot(state_, slot, messages_);
-  slot.info.measuredAt = clock_();  // the date that stays is that of the evaluated slot
-  const bool thicknessMeasured = state_.autoThickness && state_.thickness.enabled &&
-                                 ComputeSlotThickness(state_, slot, messages_) == 0;
-  emit SampleStored(slotNumber);
-  if (thicknessMeasured) {
-    emit ThicknessMeasured(slot.thickness);
-  }
-}
-
-bool MeasurementSequence::RequireMeasured(bool measured, const QString& request) {
-  if (!measured) {
-    messages_.MsgCall(request, kOk + kInformationIcon, message_title::kMessage);
-  }
-  return measured;
 }
 
 }  // namespace vexa

@@ -18,6 +18,8 @@ struct SampleInfo {
   QString remark1;
   QString remark2;
   QDateTime measuredAt;  ///< local time; invalid until something was measured
+
+  bool operator==(const SampleInfo&) const = default;
 };
 
 /// One of the ten stored measurements.
@@ -27,7 +29,10 @@ struct MeasurementSlot {
   ColourResult colour;
   Judgement judgement;
   ThicknessResult thickness;  ///< zero when none was computed
-  Flag valid;                 ///< the slot holds a spectrum, measured or loaded
+  ReflectanceSpectrum filmIndex;  ///< that the thickness was computed with, where the substrate's
+                                  ///< index gives it; else zero
+  Flag valid;                     ///< the slot holds a spectrum, measured or loaded
+  Flag informationTyped;          ///< the information was typed after the sample was measured
 };
 
 }  // namespace vexa

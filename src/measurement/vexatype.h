@@ -15,9 +15,8 @@ namespace vexa {
 
 inline constexpr int kSlotCount = 10;
 
-/// The one measurement state that the whole program shares. The window, a command or a test owns
-/// it and hands it on by reference; only the measurement sequence, the start-up, the file readers
-/// and the settings dialogs write to it.
+/// The one measurement state that the whole program shares. A Session owns it and is alone in
+/// changing it; everyone else reads it.
 struct VEXATYPE {
   VEXATYPE();
 
@@ -40,6 +39,7 @@ struct VEXATYPE {
   Flag referenceMeasured;
   FrameConditions backgroundTaken;  ///< meaningful once it was measured
   FrameConditions referenceTaken;
+  FrameConditions sampleTaken;  ///< of the sample measured last
   std::array<MeasurementSlot, kSlotCount> measurementSlots;
 
   InstrumentSettings instrument;
@@ -67,6 +67,7 @@ struct VEXATYPE {
   QString envFileName;
   QString standardFileName;     ///< full path of the standard file in use
   QString currentDataFileName;  ///< full path of the data file opened or saved last
+  Flag slotsSaved;              ///< nothing of the slots has changed since that
   QString dataFileComment;      ///< second line of the block file read last
 };
 

@@ -1,0 +1,237 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "measurement/session.h"
+
+#include <utility>
+
+#include "measurement/evaluation.h"
+#include "measurement/reflectance.h"
+
+namespace vexa {
+
+Session::Session(const QString& programDirectory, Clock clock) : clock_(std::move(clock)) {
+  state_.programDirectory = programDirectory;
+}
+
+FrameConditions Session::ConditionsNow() const {
+  return vexa::ConditionsNow(state_.instrument, clock_());
+}
+
+void Session::StoreFrame(FrameKind kind, const RawSpectrum& counts, const FrameConditions& taken) {
+  const bool background = kind == FrameKind::kBackground;
+  (background ? state_.background : state_.reference) = counts;
+  (background ? state_.backgroundMeasured : state_.referenceMeasured) = true;
+  (background ? state_.backgroundTaken : state_.referenceTaken) = taken;
+  emit FrameChanged(kind);
+}
+
+SampleStorage Session::StoreSample(int slotNumber, const RawSpectrum& counts,
+                                   const FrameConditions& taken) {
+  MeasurementSlot& slot = *state_.Slot(slotNumber);
+  SampleStorage result;
+  state_.sample = counts;
+  state_.sampleTaken = taken;
+  slot = {.reflectance = ComputeReflectance(counts, state_.background, state_.reference,
+                                            state_.instrument.calibrationShiftNm,
+                                            state_.referenceReflectance),
+          .info = slot.informationTyped ? slot.info : SampleInfo(),
+          .valid = true};
+  ComputeColours(state_.colour, slot);
+  if (state_.accumulate && slot.colour.IsComputed()) {
+    result.stock = Accumulate(slot.colour);
+  }
+  JudgeSlot(state_, slot);
+  slot.info.measuredAt = clock_();
+  if (state_.autoThickness && state_.thickness.enabled) {
+    result.thickness = ComputeSlotThickness(state_, slot);
+    state_.extrema = slot.thickness.extrema;
+  }
+  state_.slotsSaved = false;
+  emit SlotChanged(slotNumber);
+  if (result.thickness == kSuccess) {
+    result.history = AddToHistory(slot.thickness);
+  }
+  emit SampleStored(slotNumber);
+  return result;
+}
+
+void Session::ClearSlots() {
+  state_.ClearSlots();
+  state_.slotsSaved = false;
+  AnnounceSlots();
+}
+
+std::optional<StockAddResult> Session::LoadSlots(
+    const std::array<MeasurementSlot, kSlotCount>& slotsRead, const QString& dataFileName,
+    const QString& comment) {
+  std::optional<StockAddResult> stocked;
+  state_.measurementSlots = slotsRead;
+  for (MeasurementSlot& slot : state_.measurementSlots) {
+    if (slot.valid) {
+      ComputeColours(state_.colour, slot);
+      if (state_.accumulate && slot.colour.IsComputed()) {
+        stocked = Accumulate(slot.colour);
+      }
+      JudgeSlot(state_, slot);
+    }
+  }
+  state_.dataFileComment = comment;
+  state_.currentDataFileName = dataFileName;
+  state_.slotsSaved = true;
+  AnnounceSlots();
+  return stocked;
+}
+
+void Session::Restore(const VEXATYPE& kept) {
+  state_.background = kept.background;
+  state_.reference = kept.reference;
+  state_.backgroundMeasured = kept.backgroundMeasured;
+  state_.referenceMeasured = kept.referenceMeasured;
+  state_.backgroundTaken = kept.backgroundTaken;
+  state_.referenceTaken = kept.referenceTaken;
+  state_.measurementSlots = kept.measurementSlots;
+  state_.stock = kept.stock;
+  state_.thicknessHistory = kept.thicknessHistory;
+  state_.slotsSaved = false;
+  EvaluateAgain(state_);
+  emit FrameChanged(FrameKind::kBackground);
+  emit FrameChanged(FrameKind::kReference);
+  AnnounceSlots();
+  emit StockChanged();
+  emit HistoryChanged();
+}
+
+void Session::SetDataFileName(const QString& path) {
+  state_.currentDataFileName = path;
+  state_.slotsSaved = true;
+  emit SettingsChanged();
+}
+
+void Session::EditInformation(const std::array<SampleInfo, kSlotCount>& information) {
+  for (int number = 1; number <= kSlotCount; ++number) {
+    MeasurementSlot& slot = *state_.Slot(number);
+    const SampleInfo& typed = information[static_cast<std::size_t>(number) - 1];
+    if (slot.info != typed) {
+      slot.info = typed;
+      slot.informationTyped = true;
+      state_.slotsSaved = false;
+      emit SlotChanged(number);
+    }
+  }
+}
+
+Status Session::ComputeThickness(int slotNumber) {
+  MeasurementSlot& slot = *state_.Slot(slotNumber);
+  const Status status = ComputeSlotThickness(state_, slot);
+  state_.extrema = slot.thickness.extrema;
+  emit SlotChanged(slotNumber);
+  return status;
+}
+
+void Session::TakeSettings(const VEXATYPE& settings) {
+  state_.instrument = settings.instrument;
+  state_.display = settings.display;
+  state_.colour = settings.colour;
+  state_.referenceSetting = settings.referenceSetting;
+  state_.thickness = settings.thickness;
+  state_.referenceReflectance = settings.referenceReflectance;
+  state_.filmIndex = settings.filmIndex;
+  state_.substrateIndex = settings.substrateIndex;
+  state_.standard = settings.standard;
+  state_.chromaMarker = settings.chromaMarker;
+  state_.hueMarker = settings.hueMarker;
+  state_.standardsChanged = settings.standardsChanged;
+  state_.envFileName = settings.envFileName;
+  state_.standardFileName = settings.standardFileName;
+  EvaluateAgain(state_);
+  KeepStockPure();
+  emit SettingsChanged();
+}
+
+void Session::SetView(std::int16_t view) {
+  state_.display.view = view;
+  emit SettingsChanged();
+}
+
+void Session::SetAutoThickness(bool on) {
+  state_.autoThickness = on;
+  emit SettingsChanged();
+}
+
+void Session::SetAccumulating(bool on) {
+  state_.accumulate = on && !state_.stock.DiffersFrom(state_.ColourConditions());
+  if (on) {
+    // The conditions are taken over even when the old points stay.
+    state_.stock.Record(state_.ColourConditions());
+  }
+  emit StockChanged();
+}
+
+void Session::RemoveLastColour() {
+  state_.stock.RemoveLast();
+  emit StockChanged();
+}
+
+void Session::RemoveAllColours() {
+  state_.stock.RemoveAll();
+  emit StockChanged();
+}
+
+void Session::ReplaceStock(const ColourStock& stock) {
+  state_.stock = stock;
+  KeepStockPure();
+  emit StockChanged();
+}
+
+HistoryAddResult Session::AddToHistory(const ThicknessResult& thickness) {
+  ThicknessHistory& history = state_.thicknessHistory;
+  if (history.count == 0) {
+    history.physical = thickness.physical;
+  }
+  if (history.physical != thickness.physical) {
+    return HistoryAddResult::kKindDiffers;
+  }
+  if (!history.Append(thickness.thicknessNm)) {
+    return HistoryAddResult::kFull;
+  }
+  emit HistoryChanged();
+  return HistoryAddResult::kAdded;
+}
+
+bool Session::RemoveFromHistory(int point) {
+  const bool removed = state_.thicknessHistory.Delete(point);
+  if (removed) {
+    emit HistoryChanged();
+  }
+  return removed;
+}
+
+void Session::ClearHistory() {
+  state_.thicknessHistory.Clear();
+  emit HistoryChanged();
+}
+
+StockAddResult Session::Accumulate(const ColourResult& colour) {
+  const StockAddResult result = state_.stock.StockAdd(colour, state_.display.xyMode);
+  emit StockChanged();
+  return result;
+}
+
+// Points of two conditions are never mixed: accumulating ends where the conditions change.
+void Session::KeepStockPure() {
+  if (!state_.accumulate) {
+    return;
+  }
+  state_.accumulate = !state_.stock.DiffersFrom(state_.ColourConditions());
+  if (state_.accumulate) {
+    state_.stock.Record(state_.ColourConditions());
+  }
+  emit StockChanged();
+}
+
+void Session::AnnounceSlots() {
+  for (int number = 1; number <= kSlotCount; ++number) {
+    emit SlotChanged(number);
+  }
+}
+
+}  // namespace vexa

@@ -1,0 +1,116 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <QDateTime>
+#include <QObject>
+#include <array>
+#include <functional>
+#include <optional>
+
+#include "measurement/vexatype.h"
+
+namespace vexa {
+
+enum class FrameKind { kBackground, kReference };
+
+/// What became of a thickness that was offered to the history.
+enum class HistoryAddResult {
+  kAdded,
+  kKindDiffers,  ///< the history holds physical thicknesses and this is an optical one, or reversed
+  kFull,
+};
+
+/// What storing a sample brought about besides its slot.
+struct SampleStorage {
+  std::optional<StockAddResult> stock;      ///< nothing unless colours are accumulated
+  std::optional<Status> thickness;          ///< of ComputeThickness, where it is automatic
+  std::optional<HistoryAddResult> history;  ///< of a thickness that was computed
+};
+
+/// The owner of the measurement state, and of every change of it. Everyone else reads it, and hears
+/// here what has changed. A change is complete, and what depends on it computed, before it is
+/// announced.
+class Session : public QObject {
+  Q_OBJECT
+
+ public:
+  using Clock = std::function<QDateTime()>;
+
+  explicit Session(const QString& programDirectory, Clock clock = QDateTime::currentDateTime);
+
+  [[nodiscard]] const VEXATYPE& State() const { return state_; }
+  [[nodiscard]] QDateTime Now() const { return clock_(); }
+
+  /// The conditions of a frame that is taken now under the settings in force.
+  [[nodiscard]] FrameConditions ConditionsNow() const;
+
+  void StoreFrame(FrameKind kind, const RawSpectrum& counts, const FrameConditions& taken);
+
+  /// Puts a sample into slot 1..10, in this order: reflectance, evaluation, accumulation, verdicts,
+  /// date, and where it is automatic the thickness with its point of the history. What was typed of
+  /// the slot's earlier sample goes, unless it was typed after that was measured.
+  SampleStorage StoreSample(int slot, const RawSpectrum& counts, const FrameConditions& taken);
+
+  /// Empties all ten slots and their sample information.
+  void ClearSlots();
+
+  /// Takes the slots of a data file of this name in the place of all ten, and evaluates each valid
+  /// one; accumulates too, and gives back the last result of that. `comment` is the second line of
+  /// a block file.
+  std::optional<StockAddResult> LoadSlots(
+      const std::array<MeasurementSlot, kSlotCount>& slotsRead, const QString& dataFileName,
+      const QString& comment);
+
+  /// Takes frames, slots, accumulated colours and history of another state, as a journal kept them,
+  /// and evaluates the slots; nothing is accumulated.
+  void Restore(const VEXATYPE& kept);
+
+  /// The slots are in this data file now.
+  void SetDataFileName(const QString& path);
+
+  /// Sample numbers, remarks and dates of all slots, as typed.
+  void EditInformation(const std::array<SampleInfo, kSlotCount>& information);
+
+  /// The thickness of a slot under the settings in force. A failure leaves the slot none.
+  [[nodiscard]] Status ComputeThickness(int slot);
+
+  /// Puts the settings of another state in force, as a file or a dialog has made them: instrument,
+  /// display, colour, reference, thickness, standards, and the names of their files. Colours and
+  /// verdicts are computed again.
+  void TakeSettings(const VEXATYPE& settings);
+
+  void SetView(std::int16_t view);
+  void SetAutoThickness(bool on);
+  /// Without points the conditions of the stock become those in force; points that were taken under
+  /// others must not be mixed with new ones, so that accumulating then stays off.
+  void SetAccumulating(bool on);
+
+  void RemoveLastColour();
+  void RemoveAllColours();
+  void ReplaceStock(const ColourStock& stock);
+
+  /// Offers the slot's thickness to the history.
+  HistoryAddResult AddToHistory(const ThicknessResult& thickness);
+  /// Removes point 1..count; false when there is no such point.
+  bool RemoveFromHistory(int point);
+  void ClearHistory();
+
+ signals:
+  void FrameChanged(vexa::FrameKind kind);
+  void SlotChanged(int slot);
+  /// A sample was measured into the slot; after its SlotChanged.
+  void SampleStored(int slot);
+  void SettingsChanged();
+  void HistoryChanged();
+  void StockChanged();
+
+ private:
+  StockAddResult Accumulate(const ColourResult& colour);
+  void KeepStockPure();
+  void AnnounceSlots();
+
+  VEXATYPE state_;
+  Clock clock_;
+};
+
+}  // namespace vexa
