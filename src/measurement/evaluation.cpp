@@ -27,13 +27,14 @@ void Accumulate(VEXATYPE& state, const ColourResult& colour, MessageService& mes
 
 void EvaluateSlot(VEXATYPE& state, MeasurementSlot& slot, MessageService& messages) {
   ComputeColours(state.colour, slot);
-  if (state.accumulate) {
+  if (state.accumulate && slot.colour.IsComputed()) {
     Accumulate(state, slot.colour, messages);
   }
   JudgeSlot(state, slot);
 }
 
 void ComputeColours(const ColourSettings& settings, MeasurementSlot& slot) {
+  slot.colour = {};
   // A spectrum without a colour keeps what could be computed of it; there is no message for it.
   (void)CalcColour(slot.reflectance, settings, slot.colour);
   (void)AverageReflectance(slot.reflectance, settings.avgFrom, settings.avgTo, slot.colour.Rm);
