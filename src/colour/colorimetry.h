@@ -34,6 +34,9 @@ struct ColourResult {
   double Rm = 0.0;  ///< average reflectance, percent
   double Y = 0.0;   ///< tristimulus Y, the luminous reflectance in percent
 
+  /// False for a spectrum that reflects no light: it has no colour.
+  [[nodiscard]] bool IsComputed() const { return x != 0.0 || y != 0.0; }
+
   bool operator==(const ColourResult&) const = default;
 };
 

@@ -33,10 +33,15 @@ const std::array<GroupTexts, kStandardGroupCount> kTexts{{
      QStringLiteral("°")},
 }};
 
-GroupJudgement JudgeValue(const StandardLimits& limits, double value) {
+// Nothing known of the value meets no limit.
+GroupJudgement JudgeValue(const StandardLimits& limits, std::optional<double> known) {
   if (!limits.enabled) {
     return {};
   }
+  if (!known) {
+    return {false, std::nullopt};
+  }
+  const double value = *known;
   return {InRange(limits.lower, limits.upper, value),
           std::min(limits.upper - value, value - limits.lower)};
 }
@@ -52,10 +57,14 @@ double CircleDistanceDeg(double one, double other) {
   return std::abs(std::remainder(one - other, 360.0));
 }
 
-GroupJudgement JudgeHue(const StandardLimits& limits, double hueDeg) {
+GroupJudgement JudgeHue(const StandardLimits& limits, std::optional<double> known) {
   if (!limits.enabled) {
     return {};
   }
+  if (!known) {
+    return {false, std::nullopt};
+  }
+  const double hueDeg = *known;
   const bool passed = HueInRange(limits, hueDeg);
   if (limits.upper - limits.lower >= 360.0) {
     return {passed, std::nullopt};  // the whole circle has no limit to be near to
@@ -99,19 +108,23 @@ Judgement JudgeStandards(const ReflectanceSpectrum& reflectance, const ColourRes
   const auto group = [&judgement](StandardGroup which) -> GroupJudgement& {
     return judgement.groups[static_cast<std::size_t>(which)];
   };
+  const auto ofColour = [&colour](double value) {
+    return colour.IsComputed() ? std::optional(value) : std::nullopt;
+  };
   if (const auto band = JudgeReflectanceBand(reflectance, standard)) {
     group(StandardGroup::kReflectance) = {band->passed, band->margin};
     judgement.reflectancePassed = band->passed;
     judgement.bandMarginNm = band->marginNm;
   }
   group(StandardGroup::kAverageReflectance) = JudgeValue(standard.averageReflectance, colour.Rm);
-  group(StandardGroup::kLuminousReflectance) = JudgeValue(standard.luminousReflectance, colour.Y);
+  group(StandardGroup::kLuminousReflectance) =
+      JudgeValue(standard.luminousReflectance, ofColour(colour.Y));
   group(StandardGroup::kWavelengthValue) =
       JudgeValue(standard.wavelengthValue.limits,
                  FindPeakBottom(reflectance, ReflectanceSpectrum::kFirstNm,
                                 ReflectanceSpectrum::kLastNm, standard.wavelengthValue.selector));
-  group(StandardGroup::kChroma) = JudgeValue(standard.chroma, colour.C);
-  group(StandardGroup::kHueAngle) = JudgeHue(standard.hueAngle, colour.h);
+  group(StandardGroup::kChroma) = JudgeValue(standard.chroma, ofColour(colour.C));
+  group(StandardGroup::kHueAngle) = JudgeHue(standard.hueAngle, ofColour(colour.h));
   for (std::size_t i = 0; i < kStandardGroupCount; ++i) {
     if (const auto passed = judgement.groups[i].passed) {
       judgement.panelTexts[i] = *passed ? kTexts[i].pass : kTexts[i].fail;

@@ -50,7 +50,8 @@ struct Judgement {
   int bandMarginNm = 0;            ///< where the band's margin is smallest; 0 without a margin
 };
 
-/// Judges a spectrum and its colour values; any content of `standard` is safe.
+/// Judges a spectrum and its colour values; any content of `standard` is safe. A colour that was
+/// not computed fails what asks for it, without a margin.
 ///
 /// The band needs condition 1; with condition 2 off it is the limits at one wavelength, otherwise
 /// every condition that is on is joined to the one before it by number, and the lines between are

@@ -6,6 +6,8 @@
 #include <numbers>
 
 #include "cli/running_programs.h"
+#include "files/environment_file.h"
+#include "files/startup_file.h"
 #include "standards/standard_file.h"
 
 namespace vexa {
@@ -113,8 +115,20 @@ TEST_F(Analysis, JudgesWithAStandard) {
 
   standard.luminousReflectance.lower = 0.0;
   ASSERT_TRUE(WriteStandardFile(files.Path("s.std"), standard, {}, {}));
+  EXPECT_EQ(Analyse("--standard @s.std").status, 3) << "the dark slot has no colour";
+  standard.luminousReflectance.enabled = false;
+  standard.averageReflectance = {true, 25.0, 0.0};
+  ASSERT_TRUE(WriteStandardFile(files.Path("s.std"), standard, {}, {}));
   EXPECT_EQ(Analyse("--standard @s.std").status, 0);
   EXPECT_EQ(Analyse("--standard @missing.std").status, 1);
+
+  VEXATYPE directory;
+  directory.programDirectory = files.Directory();
+  directory.standardFileName = QStringLiteral("s.std");
+  ASSERT_TRUE(WriteStartupFile(directory) && WriteEnvFile(files.Path("vexa.env"), directory));
+  const Outcome own = Analyse("--json");
+  EXPECT_EQ(own.status, 0);
+  EXPECT_TRUE(Slot(own, 0).contains(QLatin1String("judgement"))) << "the directory's own standard";
 }
 
 TEST_F(Analysis, MissingFilesEndWithStatusOne) {

@@ -1,7 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "instrument/frm_com_h8_ctrl.h"
 
+#include <fcntl.h>
 #include <gtest/gtest.h>
+#include <unistd.h>
 
 #include <QElapsedTimer>
 #include <QProcess>
@@ -132,7 +134,10 @@ TEST_F(H8Controller, EveryFaultHasItsStatusAndTheNextAcquisitionWorks) {
     if (fault.action == kUnplug) {
       EXPECT_EQ(Acquire(LightFlag::kSample), -2);
       peer.Plug();
-      EXPECT_EQ(Acquire(LightFlag::kSample), 0);
+      peer.At(1, kSilence);
+      EXPECT_EQ(Acquire(LightFlag::kSample), -15);
+      peer.TakeFrames();
+      EXPECT_EQ(Acquire(LightFlag::kSample), 0) << "begins the reconnection anew";
       Frames expected = kInitialiseFrames;
       expected[3] = fault.frame == 1 ? "A5090000" : "A5010000";  // the eyepiece is as it was
       expected.insert(expected.end(),
@@ -170,7 +175,19 @@ TEST_F(H8Controller, SecondAcquisitionReturnsAtOnce) {
   EXPECT_EQ(Acquire(LightFlag::kSample), 0);
 }
 
-TEST_F(H8Controller, WaitsForTheShutterToSettle) {
+TEST_F(H8Controller, WaitsForTheShutterToSettleAndNoLonger) {
+  std::vector<int> waitsMs;
+  QObject::connect(&controller, &Controller::WaitBegan, [&](AwaitedStep step, int expectedMs) {
+    if (step == AwaitedStep::kSettling) {
+      waitsMs.push_back(expectedMs);
+    }
+  });
+  for (const int settlingMs : {0, 30, 31, 35}) {
+    EXPECT_EQ(controller.H8GetData(LightFlag::kSample, spectrum, kDefaultLinePositions,
+                                   kDetectorStartNm, settlingMs),
+              0);
+  }
+  EXPECT_EQ(waitsMs, (std::vector{1 + 50, 5 + 50})) << "beyond the 30 ms of a line, and a margin";
   QElapsedTimer timer;
   timer.start();
   EXPECT_EQ(controller.H8GetData(LightFlag::kSample, spectrum, kDefaultLinePositions,
@@ -213,10 +230,12 @@ TEST(H8ControllerStart, FailureIsExplained) {
   peer.At(1, kSilence);
   EXPECT_NE(silent.Initialise(5), 0);
   EXPECT_TRUE(silent.FailureDetails().contains(QStringLiteral("応答がありません")));
+  // Handed down open: QProcess would open it as the controlling terminal of a session's leader.
+  const int held = ::open(QFile::encodeName(peer.Path()).constData(), O_RDWR | O_NOCTTY);
   QProcess other;
-  other.setStandardInputFile(peer.Path());
   other.start(QStringLiteral("sleep"), {QStringLiteral("60")});
   ASSERT_TRUE(other.waitForStarted());
+  ::close(held);
   EXPECT_TRUE(
       silent.FailureDetails().contains(QStringLiteral("sleep (PID %1)").arg(other.processId())));
   other.kill();

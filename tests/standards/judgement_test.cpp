@@ -71,6 +71,7 @@ TEST(JudgeStandards, ReflectanceBand) {
       {"on the interpolated limit", kOk, 0.0, 500, {{500, 1, 0}, {600, 3, 0}}},
       {"above it in the middle", kNg, -0.25, 550, {{500, 1.25, 0}, {600, 2.25, 0}}},
       {"lower limit interpolated", kOk, 0.1, 700, {{640, 5, -1}, {740, 5, 0.5}}},
+      {"conditions 1 nm apart", kNg, -0.5, 550, {{549, 9, 0}, {550, 1.5, 0}}},
       {"last end included", kNg, -0.5, 550, {{440, 3, 0}, {550, 1.5, 0}}},
       {"first end included", kNg, -0.5, 550, {{550, 1.5, 0}, {560, 3, 0}}},
       {"a later one mends nothing", kNg, -0.5, 550, {{545, 1.5, 0}, {555, 1.5, 0}, {600, 3, 0}}},
@@ -107,7 +108,7 @@ TEST(JudgeStandards, GroupsOfOneValue) {
   ReflectanceSpectrum spectrum = Flat(1.0);
   spectrum[550] = spectrum[560] = 2.0;
   spectrum[700] = spectrum[710] = 0.0;
-  const ColourResult colour{.C = 4.0, .Rm = 0.5, .Y = 0.25};
+  const ColourResult colour{.x = 0.3, .y = 0.3, .C = 4.0, .Rm = 0.5, .Y = 0.25};
   struct Case {
     StandardGroup group;
     StandardLimits limits;
@@ -164,7 +165,7 @@ TEST(JudgeStandards, HueWrapsThroughZero) {
   for (const Case& c : cases) {
     StandardSet standard;
     standard.hueAngle = {true, c.upper, c.lower};
-    const Judgement judgement = JudgeStandards({}, {.h = c.hueDeg}, standard);
+    const Judgement judgement = JudgeStandards({}, {.x = 0.3, .h = c.hueDeg}, standard);
     const GroupJudgement hue = Group(judgement, StandardGroup::kHueAngle);
     EXPECT_EQ(hue.passed, c.passed) << c.upper << ' ' << c.lower << ' ' << c.hueDeg;
     EXPECT_EQ(hue.margin, c.margin) << c.upper << ' ' << c.lower << ' ' << c.hueDeg;

@@ -35,7 +35,10 @@ TEST_F(Panel, ShowsTheColourOfTheSelectedSlot) {
       {true, 3, 1, true, "x :|0.3127|y :|0.3290|Y :|4.26|1.235|359.999|4.1|4.256|2|A"},
       {false, 3, 4, false, "a :|-0.5000|b :|12.3457|L :|24.50|1.235|359.999|4.1|4.256|10|D65"},
       {true, 4, 2, true, "x :|-|y :|-|Y :|-|-|-|-|-|2|B"},
+      {true, 5, 2, true, "x :|-|y :|-|Y :|-|-|-|0.5|-|2|B"},
   };
+  state.Slot(5)->valid = true;
+  state.Slot(5)->colour.Rm = 0.5;  // a mean, but no colour
   state.Slot(3)->valid = true;
   state.Slot(3)->colour = {.L = 24.5,
                            .a = -0.5,

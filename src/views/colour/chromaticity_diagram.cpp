@@ -122,8 +122,7 @@ void ChromaticityDiagram::ShowSlots(const VEXATYPE& state, int selectedSlot) {
   std::vector<SlotMark> marks;
   for (int number = 1; number <= kSlotCount; ++number) {
     const MeasurementSlot& slot = *state.Slot(number);
-    // A spectrum without a colour, as a black one, has no chromaticity either.
-    if (slot.valid && (slot.colour.x != 0.0 || slot.colour.y != 0.0)) {
+    if (slot.valid && slot.colour.IsComputed()) {
       marks.push_back(
           {number,
            xyMode_ ? QPointF(slot.colour.x, slot.colour.y) : QPointF(slot.colour.a, slot.colour.b),

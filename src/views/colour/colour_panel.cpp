@@ -136,16 +136,17 @@ void ColourPanel::ShowValues(int selectedSlot) {
 
   const MeasurementSlot* slot = state_.Slot(selectedSlot);
   const bool valid = slot != nullptr && slot->valid;
-  const auto show = [valid](const Value& value, double number, QStringView pattern) {
-    value.text->setText(valid ? FormatNumber(number, pattern).trimmed() : kNone);
-  };
   const ColourResult colour = valid ? slot->colour : ColourResult();
+  const auto show = [known = colour.IsComputed()](const Value& value, double number,
+                                                  QStringView pattern) {
+    value.text->setText(known ? FormatNumber(number, pattern).trimmed() : kNone);
+  };
   show(first_, xyMode ? colour.x : colour.a, u"0.0000");
   show(second_, xyMode ? colour.y : colour.b, u"0.0000");
   show(third_, xyMode ? colour.Y : colour.L, u"##0.00");
   show(chroma_, colour.C, u"##0.000");
   show(hue_, colour.h, u"##0.000");
-  show(average_, colour.Rm, u"##0.0##");
+  average_.text->setText(valid ? FormatNumber(colour.Rm, u"##0.0##").trimmed() : kNone);
   show(luminous_, colour.Y, u"##0.0##");
 }
 
