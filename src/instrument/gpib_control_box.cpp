@@ -146,14 +146,21 @@ QCoro::Task<bool> GpibControlBox::Connect() {
   };
   for (const auto& [function, code, call] : calls) {
     const Step step{code};
-    if (!co_await Call(function, step, call)) {
+    const bool done = co_await Call(function, step, call);
+    if (!done) {
       co_return false;
     }
   }
   const Step ready{kReadyCode};
   const Step readyStatus{kReadyStatusCode};
-  connected_ = co_await AwaitRequest(ready, kCommandSeconds) && co_await ReadStatus(readyStatus) &&
-               co_await SendSampling();
+  bool done = co_await AwaitRequest(ready, kCommandSeconds);
+  if (done) {
+    done = co_await ReadStatus(readyStatus);
+  }
+  if (done) {
+    done = co_await SendSampling();
+  }
+  connected_ = done;
   co_return connected_;
 }
 
@@ -163,7 +170,10 @@ QCoro::Task<bool> GpibControlBox::SendSampling() {
                   .command = QStringLiteral("INTGTM %1").arg(sampling.timeMs)};
   const Step count{.code = kSamplingCode,
                    .command = QStringLiteral("INTGCT %1").arg(sampling.averagingCount)};
-  const bool sent = co_await Send(time) && co_await Send(count);
+  bool sent = co_await Send(time);
+  if (sent) {
+    sent = co_await Send(count);
+  }
   if (sent) {
     sampling_ = sampling;
   }
@@ -171,10 +181,17 @@ QCoro::Task<bool> GpibControlBox::SendSampling() {
 }
 
 QCoro::Task<bool> GpibControlBox::MeasureLine(LightFlag light) {
-  if (sampling_ != wanted_ && !co_await SendSampling()) {
+  bool measured = true;
+  if (sampling_ != wanted_) {
+    measured = co_await SendSampling();
+  }
+  if (!measured) {
     co_return false;
   }
-  const bool measured = co_await SetLight(light) && co_await TakeLine();
+  measured = co_await SetLight(light);
+  if (measured) {
+    measured = co_await TakeLine();
+  }
   const bool rested = co_await RestLight();
   if (measured && !rested) {
     (void)co_await RestLight();  // what failed is the setting back itself
@@ -187,9 +204,14 @@ QCoro::Task<bool> GpibControlBox::SetLight(LightFlag light) {
   const Step shutter{kLightCode, AwaitedStep::kLightShutter, dark ? kLightClosed : kLightOpen};
   const Step lamp{kLampCode, AwaitedStep::kLamp, kLampOn};
   const Step eyepiece{kEyepieceCode, AwaitedStep::kEyepieceShutter, kEyepieceClosed};
-  const bool set = co_await Send(shutter);
+  bool set = co_await Send(shutter);
   lightClosed_ = set && dark;
-  co_return set && co_await Send(lamp) && co_await Send(eyepiece);
+  for (const Step& step : {lamp, eyepiece}) {
+    if (set) {
+      set = co_await Send(step);
+    }
+  }
+  co_return set;
 }
 
 // After whatever failed, a command that is not confirmed included; only a box that takes no command
@@ -201,10 +223,11 @@ QCoro::Task<bool> GpibControlBox::RestLight() {
   bool allSet = true;
   bool set = false;
   for (const Step& step : steps) {
-    if (!co_await Write(step)) {
+    const bool written = co_await Write(step);
+    if (!written) {
       co_return false;
     }
-    set = co_await AwaitRequest(step, kCommandSeconds) && co_await ReadStatus(step);
+    set = co_await Confirm(step);
     allSet = allSet && set;
   }
   lightClosed_ = lightClosed_ && !set;
@@ -229,10 +252,19 @@ QCoro::Task<bool> GpibControlBox::TakeLine() {
   const LibraryCall takeBytes = [transfer](const GpLibrary& gp) {
     return gp.gp_tfrin(kBoxAddress, kLength, transfer->bytes.data(), &transfer->received);
   };
-  const bool taken = co_await Call("gp_trg", trigger, triggerBox) &&
-                     co_await AwaitRequest(measure, kMeasurementSeconds) &&
-                     co_await ReadStatus(measured) && co_await Send(request) &&
-                     co_await Call("gp_tfrin", fetch, takeBytes);
+  bool taken = co_await Call("gp_trg", trigger, triggerBox);
+  if (taken) {
+    taken = co_await AwaitRequest(measure, kMeasurementSeconds);
+  }
+  if (taken) {
+    taken = co_await ReadStatus(measured);
+  }
+  if (taken) {
+    taken = co_await Send(request);
+  }
+  if (taken) {
+    taken = co_await Call("gp_tfrin", fetch, takeBytes);
+  }
   if (!taken) {
     co_return false;
   }
@@ -245,8 +277,19 @@ QCoro::Task<bool> GpibControlBox::TakeLine() {
 }
 
 QCoro::Task<bool> GpibControlBox::Send(Step step) {
-  co_return co_await Write(step) && co_await AwaitRequest(step, kCommandSeconds) &&
-      co_await ReadStatus(step);
+  bool sent = co_await Write(step);
+  if (sent) {
+    sent = co_await Confirm(step);
+  }
+  co_return sent;
+}
+
+QCoro::Task<bool> GpibControlBox::Confirm(Step step) {
+  bool confirmed = co_await AwaitRequest(step, kCommandSeconds);
+  if (confirmed) {
+    confirmed = co_await ReadStatus(step);
+  }
+  co_return confirmed;
 }
 
 QCoro::Task<bool> GpibControlBox::Write(Step step) {

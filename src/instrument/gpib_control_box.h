@@ -65,6 +65,7 @@ class GpibControlBox : public Controller {
   [[nodiscard]] QCoro::Task<bool> RestLight();
   [[nodiscard]] QCoro::Task<bool> TakeLine();
   [[nodiscard]] QCoro::Task<bool> Send(Step step);
+  [[nodiscard]] QCoro::Task<bool> Confirm(Step step);
   [[nodiscard]] QCoro::Task<bool> Write(Step step);
   [[nodiscard]] QCoro::Task<bool> AwaitRequest(Step step, int seconds);
   [[nodiscard]] QCoro::Task<bool> ReadStatus(Step step);

@@ -32,7 +32,8 @@ Status ComputeSlotThickness(const VEXATYPE& state, MeasurementSlot& slot) {
   if (fromSubstrate && state.thickness.type == ThicknessType::kC) {
     return kThicknessFault;  // this type derives no index of the film
   }
-  if ((fromSubstrate ? state.substrateIndex : state.filmIndex).IsEmpty()) {
+  const bool needsIndex = fromSubstrate || state.thickness.kind != ThicknessKind::kOptical;
+  if (needsIndex && (fromSubstrate ? state.substrateIndex : state.filmIndex).IsEmpty()) {
     return kIndexMissing;
   }
   ReflectanceSpectrum filmIndex = state.filmIndex;

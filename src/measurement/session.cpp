@@ -30,11 +30,15 @@ SampleStorage Session::StoreSample(int slotNumber, const RawSpectrum& counts,
   SampleStorage result;
   state_.sample = counts;
   state_.sampleTaken = taken;
-  slot = {.reflectance = ComputeReflectance(counts, state_.background, state_.reference,
-                                            state_.instrument.calibrationShiftNm,
-                                            state_.referenceReflectance),
-          .info = slot.informationTyped ? slot.info : SampleInfo(),
-          .valid = true};
+  MeasurementSlot fresh;
+  fresh.reflectance =
+      ComputeReflectance(counts, state_.background, state_.reference,
+                         state_.instrument.calibrationShiftNm, state_.referenceReflectance);
+  if (slot.informationTyped) {
+    fresh.info = slot.info;
+  }
+  fresh.valid = true;
+  slot = fresh;
   ComputeColours(state_.colour, slot);
   if (state_.accumulate && slot.colour.IsComputed()) {
     result.stock = Accumulate(slot.colour);

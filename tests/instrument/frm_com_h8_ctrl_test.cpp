@@ -11,10 +11,12 @@
 
 #include "instrument/serial_port_path.h"
 #include "support/scripted_peer.h"
+#include "support/waiting.h"
 
 namespace vexa {
 namespace {
 
+using test::Done;
 using test::PeerAction;
 using Frames = std::vector<std::string>;
 
@@ -27,18 +29,32 @@ class H8Controller : public testing::Test {
  protected:
   void SetUp() override {
     peer.SetLines(test::FlatLines(1, 100));
-    QString text;
-    ASSERT_EQ(controller.H8Init(5, text), 0);
-    EXPECT_EQ(text.toStdString(), "H8 READY");
+    ASSERT_EQ(Done(controller.H8Init(5)), 0);
+    EXPECT_EQ(controller.InitialisationText(), QStringLiteral("H8 READY"));
     EXPECT_EQ(peer.TakeFrames(), kInitialiseFrames);
   }
 
   Status Acquire(LightFlag light) {
-    return controller.H8GetData(light, spectrum, kDefaultLinePositions, kDetectorStartNm,
-                                kNoSettling);
+    return Acquire(light, kNoSettling);
+  }
+
+  // With the sampling that the controller was asked for last.
+  Status Acquire(LightFlag light, std::int16_t settlingTimeMs) {
+    const AcquisitionSettings settings{.settlingTimeMs = settlingTimeMs, .sampling = sampling};
+    const Acquisition acquisition = Done(controller.Acquire(light, settings));
+    if (acquisition.status >= 0) {
+      spectrum = acquisition.counts;
+    }
+    return acquisition.status;
+  }
+
+  Status SetSampling(std::int16_t timeMs, std::int16_t averagingCount) {
+    sampling = {timeMs, averagingCount};
+    return Done(controller.SampleInit(timeMs, averagingCount));
   }
 
   test::ScriptedPeer peer;
+  Sampling sampling;
   frmComH8Ctrl controller{[this](int n) { return SerialPortPath(peer.Directory(), n); },
                           kShortTimeoutMs};
   RawSpectrum spectrum;
@@ -57,19 +73,19 @@ TEST_F(H8Controller, BackgroundClosesAndOpensTheLight) {
 }
 
 TEST_F(H8Controller, AveragesUpToFifteenLines) {
-  ASSERT_EQ(controller.SampleInit(30, 15), 0);
+  ASSERT_EQ(SetSampling(30, 15), 0);
   peer.SetLines(test::FlatLines(14, 100) + test::FlatLines(1, 115));
   peer.TakeFrames();
   EXPECT_EQ(Acquire(LightFlag::kSample), 0);
   EXPECT_EQ(spectrum[500], 101.0);
   EXPECT_EQ(peer.TakeFrames(), (Frames{"A5010000", "C30F0100", "B4000F00", "A5090000"}));
   // Lines of a larger averaging count that came earlier are never averaged in.
-  ASSERT_EQ(controller.SampleInit(30, 1), 0);
+  ASSERT_EQ(SetSampling(30, 1), 0);
   peer.SetLines(test::FlatLines(1, 7));
   EXPECT_EQ(Acquire(LightFlag::kSample), 0);
   EXPECT_EQ(spectrum[500], 7.0);
   // Sixteen lines make a command text of odd length: no frame is sent.
-  ASSERT_EQ(controller.SampleInit(30, 16), 0);
+  ASSERT_EQ(SetSampling(30, 16), 0);
   peer.TakeFrames();
   EXPECT_EQ(Acquire(LightFlag::kSample), -3);
   EXPECT_EQ(peer.TakeFrames(), (Frames{"A5010000", "A5090000"}));
@@ -77,8 +93,8 @@ TEST_F(H8Controller, AveragesUpToFifteenLines) {
 
 TEST_F(H8Controller, SamplingTimeThatNoTimerCountsSendsNothing) {
   peer.TakeFrames();
-  EXPECT_EQ(controller.SampleInit(0, 1), -1);
-  EXPECT_EQ(controller.SampleInit(20000, 1), 0);
+  EXPECT_EQ(SetSampling(0, 1), -1);
+  EXPECT_EQ(SetSampling(20000, 1), 0);
   EXPECT_EQ(peer.TakeFrames(), Frames{"96BE8B01"});
 }
 
@@ -160,11 +176,9 @@ TEST_F(H8Controller, QuitIsTriedTwice) {
 
 TEST_F(H8Controller, BytesNobodyAskedForDoNotAnswerTheNextCommand) {
   peer.Send("CHARENDREQEND");
-  QEventLoop loop;
-  QTimer::singleShot(20, &loop, &QEventLoop::quit);
-  loop.exec();
+  test::Wait(20);
   peer.At(1, kSilence);
-  EXPECT_EQ(controller.H8_MeasStart(), -15);
+  EXPECT_EQ(Done(controller.H8_MeasStart()), -15);
 }
 
 TEST_F(H8Controller, SecondAcquisitionReturnsAtOnce) {
@@ -175,6 +189,53 @@ TEST_F(H8Controller, SecondAcquisitionReturnsAtOnce) {
   EXPECT_EQ(Acquire(LightFlag::kSample), 0);
 }
 
+// What is sent after the frames before a wait was cancelled, and nothing more than that.
+TEST_F(H8Controller, CancellingEndsAWaitAndPutsTheInstrumentToRest) {
+  struct Case {
+    const char* name;
+    int silentFrame;  ///< of a background acquisition
+    Frames framesAfter;
+  };
+  const Case cases[] = {
+      {"light shutter", 1, {"A5090000", "A50A0000"}},
+      {"measurement", 3, {"69000000", "A5090000", "A50A0000"}},
+      {"data", 4, {"A5090000", "A50A0000"}},
+  };
+  for (const Case& c : cases) {
+    SCOPED_TRACE(c.name);
+    ASSERT_EQ(Acquire(LightFlag::kBackground), 0);
+    peer.TakeFrames();
+    peer.At(c.silentFrame, kSilence);
+    QTimer::singleShot(20, &controller, &Controller::Cancel);
+    EXPECT_EQ(Acquire(LightFlag::kBackground), Controller::kCancelled);
+    const Frames frames = peer.TakeFrames();
+    EXPECT_EQ(Frames(frames.begin() + c.silentFrame, frames.end()), c.framesAfter);
+    EXPECT_FALSE(controller.IsLightPathClosed());
+    EXPECT_EQ(Acquire(LightFlag::kSample), 0) << "the next one is not cancelled";
+  }
+}
+
+// What the settings say is what a frame is taken with, whatever became of sending it before.
+TEST_F(H8Controller, SamplingThatWasNotTakenIsSentBeforeTheNextFrame) {
+  peer.At(1, kUnplug);
+  EXPECT_EQ(SetSampling(60, 2), 0) << "a lost port shows at the next frame";
+  peer.Plug();
+  peer.SetLines(test::FlatLines(2, 100));
+  peer.TakeFrames();
+  EXPECT_EQ(Acquire(LightFlag::kSample), 0);
+  Frames expected = kInitialiseFrames;
+  expected.insert(expected.end(), {"96012300", "A5010000", "C3020100", "B4000200", "A5090000"});
+  EXPECT_EQ(peer.TakeFrames(), expected);
+
+  peer.At(1, kSilence);
+  EXPECT_EQ(SetSampling(30, 1), -15);
+  peer.TakeFrames();
+  peer.SetLines(test::FlatLines(1, 100));
+  EXPECT_EQ(Acquire(LightFlag::kSample), 0);
+  EXPECT_EQ(peer.TakeFrames(),
+            (Frames{"96009100", "A5010000", "C3010100", "B4000100", "A5090000"}));
+}
+
 TEST_F(H8Controller, WaitsForTheShutterToSettleAndNoLonger) {
   std::vector<int> waitsMs;
   QObject::connect(&controller, &Controller::WaitBegan, [&](AwaitedStep step, int expectedMs) {
@@ -182,25 +243,21 @@ TEST_F(H8Controller, WaitsForTheShutterToSettleAndNoLonger) {
       waitsMs.push_back(expectedMs);
     }
   });
-  for (const int settlingMs : {0, 30, 31, 35}) {
-    EXPECT_EQ(controller.H8GetData(LightFlag::kSample, spectrum, kDefaultLinePositions,
-                                   kDetectorStartNm, settlingMs),
-              0);
+  for (const std::int16_t settlingMs : {0, 30, 31, 35}) {
+    EXPECT_EQ(Acquire(LightFlag::kSample, settlingMs), 0);
   }
   EXPECT_EQ(waitsMs, (std::vector{1 + 50, 5 + 50})) << "beyond the 30 ms of a line, and a margin";
   QElapsedTimer timer;
   timer.start();
-  EXPECT_EQ(controller.H8GetData(LightFlag::kSample, spectrum, kDefaultLinePositions,
-                                 kDetectorStartNm, 60),
-            0);
+  EXPECT_EQ(Acquire(LightFlag::kSample, 60), 0);
   EXPECT_GE(timer.elapsed(), 60 - 30 + 50);
 }
 
 TEST_F(H8Controller, CloseEndsAWait) {
   peer.At(1, kSilence);
   QTimer::singleShot(0, &controller, [this] { controller.Close(); });
-  EXPECT_EQ(controller.H8_MeasStart(), -4);
-  EXPECT_EQ(controller.H8_Quit(), -1);
+  EXPECT_EQ(Done(controller.H8_MeasStart()), -4);
+  EXPECT_EQ(Done(controller.H8_Quit()), -1);
 }
 
 TEST(H8ControllerStart, FailuresOfTheInitialisation) {
@@ -208,27 +265,25 @@ TEST(H8ControllerStart, FailuresOfTheInitialisation) {
     test::ScriptedPeer peer;
     frmComH8Ctrl controller([&peer](int) { return peer.Path(); }, kShortTimeoutMs);
     peer.At(frame, kSilence);
-    QString text = QStringLiteral("before");
-    EXPECT_EQ(controller.H8Init(5, text), status);
-    EXPECT_EQ(text.isEmpty(), status == -15);
-    EXPECT_EQ(controller.H8Init(5, text), -1) << "the port is open already";
+    EXPECT_EQ(Done(controller.H8Init(5)), status);
+    EXPECT_EQ(controller.InitialisationText().isEmpty(), status == -15);
+    EXPECT_EQ(Done(controller.H8Init(5)), -1) << "the port is open already";
   }
   frmComH8Ctrl nowhere([](int) { return QStringLiteral("/nowhere/com5"); });
-  QString text;
-  EXPECT_EQ(nowhere.H8Init(5, text), -1);
-  EXPECT_EQ(nowhere.LghtSht(true), -1);
+  EXPECT_EQ(Done(nowhere.H8Init(5)), -1);
+  EXPECT_EQ(Done(nowhere.LghtSht(true)), -1);
   EXPECT_FALSE(nowhere.IsLightPathClosed());
 }
 
 TEST(H8ControllerStart, FailureIsExplained) {
   frmComH8Ctrl nowhere([](int) { return QStringLiteral("/nowhere/com5"); });
-  EXPECT_NE(nowhere.Initialise(5), 0);
+  EXPECT_NE(Done(nowhere.Initialise(5)), 0);
   EXPECT_TRUE(nowhere.FailureDetails().startsWith(QStringLiteral("/nowhere/com5 という装置が")));
 
   test::ScriptedPeer peer;
   frmComH8Ctrl silent([&peer](int) { return peer.Path(); }, kShortTimeoutMs);
   peer.At(1, kSilence);
-  EXPECT_NE(silent.Initialise(5), 0);
+  EXPECT_NE(Done(silent.Initialise(5)), 0);
   EXPECT_TRUE(silent.FailureDetails().contains(QStringLiteral("応答がありません")));
   // Handed down open: QProcess would open it as the controlling terminal of a session's leader.
   const int held = ::open(QFile::encodeName(peer.Path()).constData(), O_RDWR | O_NOCTTY);
@@ -240,7 +295,7 @@ TEST(H8ControllerStart, FailureIsExplained) {
       silent.FailureDetails().contains(QStringLiteral("sleep (PID %1)").arg(other.processId())));
   other.kill();
   other.waitForFinished();
-  EXPECT_EQ(silent.LghtSht(true), 0);
+  EXPECT_EQ(Done(silent.LghtSht(true)), 0);
   EXPECT_EQ(silent.FailureDetails(), QString());
 }
 

@@ -8,12 +8,12 @@
 #include <QTimer>
 #include <array>
 
-#include "support/prepared_answers.h"
+#include "support/waiting.h"
 
 namespace vexa {
 namespace {
 
-using test::ShownMessage;
+using test::Done;
 
 constexpr std::int16_t kSamplingMs = 3000;
 
@@ -24,7 +24,12 @@ class ControlBox : public testing::Test {
   }
 
   Status Acquire(LightFlag light, GpibControlBox& from) {
-    return from.Acquire(light, AcquisitionSettings(), spectrum);
+    const AcquisitionSettings settings{.sampling = sampling};
+    const Acquisition acquisition = Done(from.Acquire(light, settings));
+    if (acquisition.status >= 0) {
+      spectrum = acquisition.counts;
+    }
+    return acquisition.status;
   }
 
   // What the sensor sees at 555 nm, asked of the library itself: pixel 363 of the line.
@@ -44,7 +49,12 @@ class ControlBox : public testing::Test {
     return line[2 * 363] + 256 * line[2 * 363 + 1];
   }
 
-  test::PreparedAnswers messages;
+  Status SetSampling(std::int16_t timeMs, std::int16_t averagingCount, GpibControlBox& of) {
+    sampling = {timeMs, averagingCount};
+    return Done(of.SetSampling(sampling));
+  }
+
+  Sampling sampling;
   RawSpectrum spectrum;
 };
 
@@ -60,11 +70,12 @@ TEST_F(ControlBox, AfterEveryFailureTheLightIsAtRestAndTheNextFrameIsRight) {
   for (const char* fault : faults) {
     SCOPED_TRACE(fault);
     SetOptions(QByteArray("--pace none --call-fault ") + fault);
-    GpibControlBox box(QStringLiteral(VEXA_LIBRARY_DIR), messages);
-    ASSERT_EQ(box.Initialise(0), 0);
-    ASSERT_EQ(box.SetSampling(kSamplingMs, 1), 0);
+    GpibControlBox box(QStringLiteral(VEXA_LIBRARY_DIR));
+    ASSERT_EQ(Done(box.Initialise(0)), 0);
+    ASSERT_EQ(SetSampling(kSamplingMs, 1, box), 0);
+
     EXPECT_LT(Acquire(LightFlag::kBackground, box), 0);
-    EXPECT_EQ(messages.Take().size(), 1U);
+    EXPECT_TRUE(box.FailureMessage());
     // Dark 78 counts, room light through the open eyepiece 30, the lamp some hundreds.
     EXPECT_NEAR(LookThrough(), 108, 1);
     EXPECT_GT(LookThrough("PHILL 1,I"), 300) << "the light shutter is open";
@@ -72,15 +83,15 @@ TEST_F(ControlBox, AfterEveryFailureTheLightIsAtRestAndTheNextFrameIsRight) {
     EXPECT_EQ(Acquire(LightFlag::kBackground, box), 0);
     EXPECT_EQ(spectrum[500], 78.0) << "the sampling settings are in force again";
     EXPECT_FALSE(box.IsLightPathClosed());
-    EXPECT_TRUE(messages.Take().empty());
+    EXPECT_FALSE(box.FailureMessage());
   }
 }
 
 TEST_F(ControlBox, TheEventLoopRunsWhileTheBoxIsAwaited) {
   SetOptions("--pace real");
-  GpibControlBox box(QStringLiteral(VEXA_LIBRARY_DIR), messages);
-  ASSERT_EQ(box.Initialise(0), 0);
-  ASSERT_EQ(box.SetSampling(150, 2), 0);
+  GpibControlBox box(QStringLiteral(VEXA_LIBRARY_DIR));
+  ASSERT_EQ(Done(box.Initialise(0)), 0);
+  ASSERT_EQ(SetSampling(150, 2, box), 0);
   QTimer ticks;
   int ticked = 0;
   Status second = 0;
@@ -99,20 +110,21 @@ TEST_F(ControlBox, TheEventLoopRunsWhileTheBoxIsAwaited) {
 
 TEST_F(ControlBox, ACallThatNeverComesBackIsGivenUp) {
   SetOptions("--pace none --call-fault gp_trg=hang");
-  GpibControlBox box(QStringLiteral(VEXA_LIBRARY_DIR), messages, 200);
-  ASSERT_EQ(box.Initialise(0), 0);
-  const ShownMessage overdue{"VEXA-KT ｴﾗｰ: GP-IB通信でﾀｲﾑｱｳﾄ･ｴﾗｰ発生しました。(gp_trg 502)", 16};
+  GpibControlBox box(QStringLiteral(VEXA_LIBRARY_DIR), 200);
+  ASSERT_EQ(Done(box.Initialise(0)), 0);
+  const MessageCall overdue{Message::kGpibTimeOut,
+                            {QStringLiteral("gp_trg"), QStringLiteral("502")}};
   EXPECT_EQ(Acquire(LightFlag::kSample, box), -502);
-  EXPECT_EQ(messages.Take(), std::vector{overdue});
+  EXPECT_EQ(box.FailureMessage(), overdue);
   EXPECT_EQ(Acquire(LightFlag::kSample, box), -100) << "the library is still out";
 }
 
 TEST_F(ControlBox, ClosingEndsAWaitWithoutAMessage) {
   SetOptions("--pace none --call-fault gp_wsrq=hang");
-  GpibControlBox box(QStringLiteral(VEXA_LIBRARY_DIR), messages);
+  GpibControlBox box(QStringLiteral(VEXA_LIBRARY_DIR));
   QTimer::singleShot(20, &box, &GpibControlBox::Close);
-  EXPECT_EQ(box.Initialise(0), GpibControlBox::kClosed);
-  EXPECT_TRUE(messages.Take().empty());
+  EXPECT_EQ(Done(box.Initialise(0)), GpibControlBox::kClosed);
+  EXPECT_FALSE(box.FailureMessage());
 }
 
 }  // namespace
