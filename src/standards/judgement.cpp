@@ -33,14 +33,6 @@ const std::array<GroupTexts, kStandardGroupCount> kTexts{{
      QStringLiteral("°")},
 }};
 
-GroupJudgement JudgeValue(const StandardLimits& limits, double value) {
-  if (!limits.enabled) {
-    return {};
-  }
-  return {InRange(limits.lower, limits.upper, value),
-          std::min(limits.upper - value, value - limits.lower)};
-}
-
 bool HueInRange(const StandardLimits& limits, double hueDeg) {
   if (limits.upper >= limits.lower) {
     return InRange(limits.lower, limits.upper, hueDeg);
@@ -52,23 +44,34 @@ double CircleDistanceDeg(double one, double other) {
   return std::abs(std::remainder(one - other, 360.0));
 }
 
+}  // namespace
+
+bool InRange(double lower, double upper, double value) {
+  return lower <= value && value <= upper;
+}
+
+GroupJudgement JudgeValue(const StandardLimits& limits, double value) {
+  if (!limits.enabled) {
+    return {};
+  }
+  if (std::isnan(value)) {
+    return {false, std::nullopt};
+  }
+  return {InRange(limits.lower, limits.upper, value),
+          std::min(limits.upper - value, value - limits.lower)};
+}
+
 GroupJudgement JudgeHue(const StandardLimits& limits, double hueDeg) {
   if (!limits.enabled) {
     return {};
   }
   const bool passed = HueInRange(limits, hueDeg);
-  if (limits.upper - limits.lower >= 360.0) {
+  if (limits.upper - limits.lower >= 360.0 || std::isnan(hueDeg)) {
     return {passed, std::nullopt};  // the whole circle has no limit to be near to
   }
   const double distance =
       std::min(CircleDistanceDeg(hueDeg, limits.lower), CircleDistanceDeg(hueDeg, limits.upper));
   return {passed, passed ? distance : -distance};
-}
-
-}  // namespace
-
-bool InRange(double lower, double upper, double value) {
-  return lower <= value && value <= upper;
 }
 
 void InterpolateLimit(double w1, double w2, double y1, double y2, double w, double& limit) {
