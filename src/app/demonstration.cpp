@@ -43,6 +43,15 @@ StandardSet HardCoatStandard() {
   return standard;
 }
 
+// The index of the virtual instrument's hard coat, n = 1.5803 + 0.00751 / w^2, squared term by
+// term.
+DispersionSetting HardCoatIndex() {
+  DispersionSetting coat = DefaultCoatSetting();
+  coat.kind = DispersionKind::kSchott;
+  coat.schott = {2.49734809, 0.0, 0.023736106, 5.64001E-05, 0.0, 0.0};
+  return coat;
+}
+
 }  // namespace
 
 Demonstration::Demonstration(const QString& directory, bool gpib)
@@ -66,6 +75,7 @@ bool Demonstration::StartInstrument() {
   // The reference on its stage reflects 4 % at every wavelength.
   state.referenceSetting.kind = DispersionKind::kFixedValue;
   state.thickness.enabled = true;
+  state.thickness.coat = HardCoatIndex();
   state.standardFileName = QDir(directory_).filePath(QStringLiteral("demonstration.std"));
   if (!QDir().mkpath(directory_) || !WriteStartupFile(state) ||
       !WriteEnvFile(CompletePath(state, state.envFileName), state) ||

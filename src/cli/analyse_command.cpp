@@ -6,6 +6,7 @@
 
 #include "base/number_text.h"
 #include "cli/analysis_settings.h"
+#include "cli/cie_report.h"
 #include "cli/command_line.h"
 #include "cli/console.h"
 #include "cli/judgement_json.h"
@@ -15,6 +16,8 @@
 
 namespace vexa::cli {
 namespace {
+
+const QString kCie = QStringLiteral("cie");
 
 /// What is told of one slot.
 struct SlotReport {
@@ -43,6 +46,7 @@ void DeclareOptions(QCommandLineParser& parser) {
   parser.addPositionalArgument(QStringLiteral("FILE"),
                                QStringLiteral("A data file (*.csv or *.dat)."));
   DeclareAnalysisOptions(parser);
+  parser.addOption({kCie, QStringLiteral("Adds the CIE colour at the tables' true wavelengths.")});
 }
 
 // The slot itself does not tell what of its colour could be computed.
@@ -105,12 +109,16 @@ QJsonObject ThicknessJson(Status status, const ThicknessResult& result) {
           {QStringLiteral("extrema"), extrema}};
 }
 
-void PrintReportsJson(const QString& path, const std::vector<SlotReport>& reports, bool judged) {
+void PrintReportsJson(const QString& path, const std::vector<SlotReport>& reports, bool judged,
+                      const std::optional<ColourSettings>& cie) {
   QJsonArray slotList;
   for (const SlotReport& report : reports) {
     QJsonObject object{{QStringLiteral("slot"), report.number},
                        {QStringLiteral("sample"), report.slot->info.sampleNumber},
                        {QStringLiteral("colour"), ColourJson(report)}};
+    if (cie) {
+      object[kCie] = CieJson(CalcCieColour(report.slot->reflectance, *cie), *cie);
+    }
     if (judged) {
       object[QLatin1String("judgement")] = JudgementJson(report.slot->judgement);
     }
@@ -137,6 +145,14 @@ void PrintColours(const std::vector<SlotReport>& reports) {
     }
     Print(line + QStringLiteral("  ") + report.slot->info.sampleNumber + u'\n');
   }
+}
+
+void PrintCieColours(const std::vector<SlotReport>& reports, const ColourSettings& settings) {
+  std::vector<CieLine> lines;
+  for (const SlotReport& report : reports) {
+    lines.push_back({report.number, CalcCieColour(report.slot->reflectance, settings)});
+  }
+  Print(CieText(lines, settings));
 }
 
 void PrintJudgements(const std::vector<SlotReport>& reports) {
@@ -182,10 +198,14 @@ int Analyse(const QCommandLineParser& parser) {
   }
   const std::vector<SlotReport> reports = Evaluate(state, messages);
   const bool judged = IsJudged(state, parser);
+  const auto cie = parser.isSet(kCie) ? std::optional(state.colour) : std::nullopt;
   if (parser.isSet(option::kJson)) {
-    PrintReportsJson(path, reports, judged);
+    PrintReportsJson(path, reports, judged, cie);
   } else {
     PrintColours(reports);
+    if (cie) {
+      PrintCieColours(reports, *cie);
+    }
     if (judged) {
       PrintJudgements(reports);
     }

@@ -7,6 +7,8 @@ struct LabColour {
   double L = 0.0;
   double a = 0.0;
   double b = 0.0;
+
+  bool operator==(const LabColour&) const = default;
 };
 
 /// How a sample differs from a standard; the deltas are sample minus standard.

@@ -142,6 +142,21 @@ const ColourTable& IlluminantTable(int illuminant) {
   return *kIlluminants[static_cast<std::size_t>(illuminant - kFirstIlluminant)];
 }
 
+QString IlluminantText(int illuminant) {
+  switch (illuminant) {
+    case 1:
+      return QStringLiteral("A");
+    case 2:
+      return QStringLiteral("B");
+    case 3:
+      return QStringLiteral("C");
+    case 4:
+      return QStringLiteral("D65");
+    default:
+      return QStringLiteral("-");
+  }
+}
+
 const ObserverTables& ObserverTable(Flag observer2Deg) {
   return observer2Deg ? kObserver2 : kObserver10;
 }

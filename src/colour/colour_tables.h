@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include <QString>
 #include <array>
 
 #include "base/flag.h"
@@ -29,6 +30,9 @@ struct ObserverTables {
 /// B from Wyszecki and Stiles, "Color Science", 2nd ed., Table II(3.3.4), with 89.65 at 515 nm (of
 /// the two values in circulation the one that gives B its published chromaticity).
 [[nodiscard]] const ColourTable& IlluminantTable(int illuminant);
+
+/// "A", "B", "C" or "D65"; "-" for a number outside 1..4.
+[[nodiscard]] QString IlluminantText(int illuminant);
 
 /// The observer of 1931 (true, 2 degrees) or of 1964 (false, 10 degrees).
 /// Source: CIE 15:2004, Tables T.4 and T.5, six decimals.

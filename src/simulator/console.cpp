@@ -34,6 +34,11 @@ std::optional<ConsoleCommand> ParseConsoleLine(QStringView line) {
       return *fault;
     }
   }
+  if (const WearInfo* kind = FindWear(verb); kind != nullptr && words.size() == 2) {
+    if (const auto amount = ReadAmount(*kind, words[1])) {
+      return SetWear{kind, *amount};
+    }
+  }
   return std::nullopt;
 }
 

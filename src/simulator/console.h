@@ -10,6 +10,7 @@
 
 #include "simulator/faults.h"
 #include "simulator/samples.h"
+#include "simulator/wear.h"
 
 namespace vexa::simulator {
 
@@ -17,12 +18,17 @@ struct PutOnStage {
   std::optional<Sample> sample;  // empty: unattended again
 };
 struct NextSample {};
+struct SetWear {
+  const WearInfo* kind;
+  double amount;
+};
 struct QuitProgram {};
 
-using ConsoleCommand = std::variant<PutOnStage, NextSample, Fault, QuitProgram>;
+using ConsoleCommand = std::variant<PutOnStage, NextSample, Fault, SetWear, QuitProgram>;
 
 /// A line of standard input, words divided by blanks: "stage NAME", "stage auto", "next",
-/// "fault NAME [EXCHANGE]", "quit". Empty when it is none of them.
+/// "fault NAME [EXCHANGE]", "lamp-age HOURS", "shutter-leak PERCENT", "quit". Empty when it is none
+/// of them.
 [[nodiscard]] std::optional<ConsoleCommand> ParseConsoleLine(QStringView line);
 
 /// Reads standard input line by line in the event loop. Its end only ends the reading. A line that

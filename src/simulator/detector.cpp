@@ -26,8 +26,8 @@ constexpr double kRoomPeakCountsPerMs = 30.0 / 3000.0;
 constexpr double kElectronsPerCount = 200.0;
 constexpr double kReadNoiseCounts = 1.0;
 
-double LampSignal(double wavelengthNm) {
-  return LampPower(wavelengthNm) * SpectralResponse(wavelengthNm);
+double LampSignal(double wavelengthNm, double ageHours = 0.0) {
+  return LampPower(wavelengthNm, ageHours) * SpectralResponse(wavelengthNm);
 }
 
 double LampSignalPeak() {
@@ -62,22 +62,23 @@ double SpectralResponse(double wavelengthNm) {
   return efficiency * wavelengthNm * blaze * blaze;
 }
 
-PixelCounts MeanCounts(Sample sample, const Exposure& exposure) {
-  return MeanCounts([sample](double nm) { return TrueReflectancePercent(sample, nm); }, exposure);
+PixelCounts MeanCounts(Sample sample, const Exposure& exposure, const Wear& wear) {
+  return MeanCounts([sample](double nm) { return TrueReflectancePercent(sample, nm); }, exposure,
+                    wear);
 }
 
-PixelCounts MeanCounts(const ReflectanceCurve& percent, const Exposure& exposure) {
+PixelCounts MeanCounts(const ReflectanceCurve& percent, const Exposure& exposure,
+                       const Wear& wear) {
+  const double shareOfLamp = exposure.lightShutterClosed ? wear.shutterLeakPercent / 100.0 : 1.0;
   const double lampPerPercent =
-      exposure.lightShutterClosed
-          ? 0.0
-          : kReferencePeakCountsPerMs / kReferencePercent / LampSignalPeak();
+      shareOfLamp * kReferencePeakCountsPerMs / kReferencePercent / LampSignalPeak();
   const double room = exposure.eyepieceShutterOpen ? kRoomPeakCountsPerMs : 0.0;
   PixelCounts counts{};
   for (int pixel = 0; pixel < kPixels; ++pixel) {
     const double nm = PixelWavelengthNm(pixel);
     double countsPerMs = kDarkCountsPerMs + room * RoomLight(nm);
     if (lampPerPercent > 0.0) {
-      countsPerMs += lampPerPercent * LampSignal(nm) * percent(nm);
+      countsPerMs += lampPerPercent * LampSignal(nm, wear.lampAgeHours) * percent(nm);
     }
     counts[static_cast<std::size_t>(pixel)] =
         kDarkOffsetCounts + countsPerMs * exposure.integrationMs;

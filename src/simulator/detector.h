@@ -7,6 +7,7 @@
 #include <random>
 
 #include "simulator/samples.h"
+#include "simulator/wear.h"
 
 namespace vexa::simulator {
 
@@ -38,15 +39,18 @@ using SensorLine = std::array<std::uint16_t, kPixels>;
 [[nodiscard]] double SpectralResponse(double wavelengthNm);
 
 /// Mean counts of one line: a dark level of 60 counts and 6 per second, the lamp's light off the
-/// sample (the 4 % reference peaks at 575 counts in 3000 ms) and, with the eyepiece open, room
-/// light (30 counts at its peak in 3000 ms). All but the 60 grow in proportion to the time.
-[[nodiscard]] PixelCounts MeanCounts(Sample sample, const Exposure& exposure);
+/// sample (the 4 % reference peaks at 575 counts in 3000 ms with a new lamp), of which a leaking
+/// shutter lets its share through when closed, and, with the eyepiece open, room light (30 counts
+/// at its peak in 3000 ms). All but the 60 grow in proportion to the time.
+[[nodiscard]] PixelCounts MeanCounts(Sample sample, const Exposure& exposure,
+                                     const Wear& wear = {});
 
 /// Reflectance in percent at a wavelength in nanometres.
 using ReflectanceCurve = std::function<double(double wavelengthNm)>;
 
 /// Likewise for a face of any reflectance, such as that of a FilmStack.
-[[nodiscard]] PixelCounts MeanCounts(const ReflectanceCurve& percent, const Exposure& exposure);
+[[nodiscard]] PixelCounts MeanCounts(const ReflectanceCurve& percent, const Exposure& exposure,
+                                     const Wear& wear = {});
 
 /// Digitises a line: rounded, clipped to 0..4095. With a generator, shot noise (200 electrons a
 /// count, so a variance of counts / 200) and read noise (1 count) come first; the same generator

@@ -51,6 +51,10 @@ double LensPlasticIndex(double wavelengthNm) {
   return Cauchy(1.4855, 0.00450, wavelengthNm);
 }
 
+double PrimerIndex(double wavelengthNm) {
+  return Cauchy(1.5218, 0.00628, wavelengthNm);
+}
+
 double HardCoatIndex(double wavelengthNm) {
   return Cauchy(1.5803, 0.00751, wavelengthNm);
 }

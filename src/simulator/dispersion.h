@@ -27,6 +27,9 @@ using IndexCurve = std::function<std::complex<double>(double wavelengthNm)>;
 /// Spectacle plastic like CR-39: at 587.56 nm 1.4985, Abbe number 58.
 [[nodiscard]] double LensPlasticIndex(double wavelengthNm);
 
+/// Primer between a plastic and its hard coat: at 587.56 nm 1.540, Abbe number 45.
+[[nodiscard]] double PrimerIndex(double wavelengthNm);
+
 /// Hard coat for plastic lenses: at 587.56 nm 1.602, Abbe number 42.
 [[nodiscard]] double HardCoatIndex(double wavelengthNm);
 

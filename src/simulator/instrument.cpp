@@ -72,6 +72,11 @@ void Instrument::SetStage(const PutOnStage& command) {
   }
 }
 
+void Instrument::Age(const SetWear& command) {
+  head_.Condition().*command.kind->amount = command.amount;
+  announce_(u"%1 %2"_s.arg(QString(command.kind->name)).arg(command.amount));
+}
+
 void Instrument::ReadCommands() {
   const auto now = ReplyQueue::Clock::now();
   if (now - lastArrival_ > kPartialFrameLife) {

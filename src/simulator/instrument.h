@@ -32,6 +32,8 @@ class Instrument {
   [[nodiscard]] QString PlugIn();
 
   void SetStage(const PutOnStage& command);
+  /// Announces "NAME AMOUNT" once it is in force.
+  void Age(const SetWear& command);
   void ShowNextSample() { head_.UnderObjective().Next(); }
   /// Announces "fault at N" once it is in place.
   void AddFault(const Fault& fault) {

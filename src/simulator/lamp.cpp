@@ -8,6 +8,7 @@ namespace {
 
 // Second radiation constant h c / k in nm K (CODATA 2018).
 constexpr double kSecondRadiationNmK = 1.438776877e7;
+constexpr double kBulbHours = 10'000.0;
 
 double BlackBody(double wavelengthNm) {
   return std::pow(wavelengthNm, -5.0) /
@@ -16,8 +17,10 @@ double BlackBody(double wavelengthNm) {
 
 }  // namespace
 
-double LampPower(double wavelengthNm) {
-  return BlackBody(wavelengthNm) / BlackBody(650.0);
+double LampPower(double wavelengthNm, double ageHours) {
+  const double blueness = 550.0 / wavelengthNm;
+  const double bulb = std::exp(-ageHours / kBulbHours * blueness * blueness);
+  return bulb * BlackBody(wavelengthNm) / BlackBody(650.0);
 }
 
 double RoomLight(double wavelengthNm) {

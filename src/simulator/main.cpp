@@ -16,6 +16,8 @@ void Carry(const ConsoleCommand& command, Instrument& instrument) {
     instrument.ShowNextSample();
   } else if (const auto* fault = std::get_if<Fault>(&command)) {
     instrument.AddFault(*fault);
+  } else if (const auto* wear = std::get_if<SetWear>(&command)) {
+    instrument.Age(*wear);
   } else {
     QCoreApplication::quit();
   }

@@ -7,6 +7,7 @@
 #include "simulator/detector.h"
 #include "simulator/options.h"
 #include "simulator/stage.h"
+#include "simulator/wear.h"
 
 namespace vexa::simulator {
 
@@ -16,9 +17,11 @@ class OpticalHead {
   OpticalHead(const Options& options, Stage::Changed stageChanged)
       : stage_(options.stage, std::move(stageChanged)),
         generator_(options.seed),
-        noise_(options.noise) {}
+        noise_(options.noise),
+        wear_(options.wear) {}
 
   [[nodiscard]] Stage& UnderObjective() { return stage_; }
+  [[nodiscard]] Wear& Condition() { return wear_; }
 
   /// Reads `count` lines off the sensor.
   [[nodiscard]] std::vector<SensorLine> ReadLines(const Exposure& exposure, int count);
@@ -27,6 +30,7 @@ class OpticalHead {
   Stage stage_;
   std::mt19937_64 generator_;
   bool noise_;
+  Wear wear_;
 };
 
 }  // namespace vexa::simulator

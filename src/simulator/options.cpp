@@ -34,8 +34,12 @@ void DeclareOptions(QCommandLineParser& parser) {
        u"CALL=NUMBER|none|short|hang[@N]"_s},
       {u"late"_s, u"Delay of late-bytes in milliseconds."_s, u"MS"_s, u"1500"_s},
       {u"replug"_s, u"Milliseconds after which unplug ends; 0: never."_s, u"MS"_s, u"0"_s},
-      {u"list"_s, u"List the samples and the faults."_s},
+      {u"list"_s, u"List the samples, the faults and the wear."_s},
   });
+  for (const WearInfo& info : AllWear()) {
+    parser.addOption(
+        {QString(info.name), u"Wear: %1."_s.arg(QString(info.description)), u"AMOUNT"_s, u"0"_s});
+  }
   parser.addHelpOption();
   parser.addVersionOption();
 }
@@ -89,6 +93,19 @@ class ValueReader {
     return sample;
   }
 
+  Wear WearAmounts() const {
+    Wear wear;
+    for (const WearInfo& info : AllWear()) {
+      const QString text = parser_.value(QString(info.name));
+      const auto amount = ReadAmount(info, text);
+      if (!amount) {
+        throw WrongValue{QString(info.name), text, u"0..%1"_s.arg(info.most, 0, 'f', 0)};
+      }
+      wear.*info.amount = *amount;
+    }
+    return wear;
+  }
+
   FaultPlan Faults() const {
     FaultPlan plan;
     for (const QString& text : parser_.values(u"fault"_s)) {
@@ -129,6 +146,7 @@ Options ReadValues(const QCommandLineParser& parser) {
           .seed = static_cast<unsigned int>(
               reader.Number(u"seed"_s, 0, std::numeric_limits<int>::max())),
           .noise = reader.Choice(u"noise"_s, u"on"_s, u"off"_s),
+          .wear = reader.WearAmounts(),
           .faults = reader.Faults(),
           .callFaults = reader.CallFaults(),
           .lateBy = std::chrono::milliseconds(reader.Number(u"late"_s, 0, kMostMs)),
@@ -154,7 +172,9 @@ std::variant<Options, EarlyEnd> ReadOptions(const QStringList& arguments) {
     return EarlyEnd{u"vexa-simulator %1\n"_s.arg(QLatin1StringView(VEXA_VERSION)), 0};
   }
   if (parser.isSet(u"list"_s)) {
-    return EarlyEnd{ListTable(u"samples"_s, AllSamples()) + ListTable(u"faults"_s, AllFaults()), 0};
+    return EarlyEnd{ListTable(u"samples"_s, AllSamples()) + ListTable(u"faults"_s, AllFaults()) +
+                        ListTable(u"wear"_s, AllWear()),
+                    0};
   }
   if (!parser.positionalArguments().isEmpty()) {
     return Wrong(u"unexpected \"%1\""_s.arg(parser.positionalArguments().first()));

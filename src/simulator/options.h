@@ -10,6 +10,7 @@
 #include "simulator/call_faults.h"
 #include "simulator/faults.h"
 #include "simulator/samples.h"
+#include "simulator/wear.h"
 
 namespace vexa::simulator {
 
@@ -21,6 +22,7 @@ struct Options {
   std::optional<Sample> stage;  // empty: unattended
   unsigned int seed = 1;
   bool noise = true;
+  Wear wear;
   FaultPlan faults;
   CallFaultPlan callFaults;
   std::chrono::milliseconds lateBy{1500};

@@ -8,7 +8,18 @@
 namespace vexa::simulator {
 
 /// What may lie on the stage, in the order in which the unattended stage shows them.
-enum class Sample { Reference, Glass, Mgf2, Ar4, HardCoat1500, HardCoat4000, Mirror };
+enum class Sample {
+  Reference,
+  Glass,
+  Mgf2,
+  Ar4,
+  HardCoat1500,
+  HardCoat4000,
+  Mirror,
+  Primed,
+  Thin150,
+  BlueCut
+};
 
 struct SampleInfo {
   Sample sample;
@@ -17,7 +28,7 @@ struct SampleInfo {
 };
 
 /// Every sample once, in the order of the enumeration.
-[[nodiscard]] const std::array<SampleInfo, 7>& AllSamples();
+[[nodiscard]] const std::array<SampleInfo, 10>& AllSamples();
 
 [[nodiscard]] QLatin1StringView SampleName(Sample sample);
 

@@ -3,6 +3,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <limits>
 
 #include "base/arithmetic.h"
 #include "base/number_text.h"
@@ -33,19 +34,6 @@ const std::array<GroupTexts, kStandardGroupCount> kTexts{{
      QStringLiteral("°")},
 }};
 
-// Nothing known of the value meets no limit.
-GroupJudgement JudgeValue(const StandardLimits& limits, std::optional<double> known) {
-  if (!limits.enabled) {
-    return {};
-  }
-  if (!known) {
-    return {false, std::nullopt};
-  }
-  const double value = *known;
-  return {InRange(limits.lower, limits.upper, value),
-          std::min(limits.upper - value, value - limits.lower)};
-}
-
 bool HueInRange(const StandardLimits& limits, double hueDeg) {
   if (limits.upper >= limits.lower) {
     return InRange(limits.lower, limits.upper, hueDeg);
@@ -57,27 +45,34 @@ double CircleDistanceDeg(double one, double other) {
   return std::abs(std::remainder(one - other, 360.0));
 }
 
-GroupJudgement JudgeHue(const StandardLimits& limits, std::optional<double> known) {
+}  // namespace
+
+bool InRange(double lower, double upper, double value) {
+  return lower <= value && value <= upper;
+}
+
+GroupJudgement JudgeValue(const StandardLimits& limits, double value) {
   if (!limits.enabled) {
     return {};
   }
-  if (!known) {
+  if (std::isnan(value)) {
     return {false, std::nullopt};
   }
-  const double hueDeg = *known;
+  return {InRange(limits.lower, limits.upper, value),
+          std::min(limits.upper - value, value - limits.lower)};
+}
+
+GroupJudgement JudgeHue(const StandardLimits& limits, double hueDeg) {
+  if (!limits.enabled) {
+    return {};
+  }
   const bool passed = HueInRange(limits, hueDeg);
-  if (limits.upper - limits.lower >= 360.0) {
+  if (limits.upper - limits.lower >= 360.0 || std::isnan(hueDeg)) {
     return {passed, std::nullopt};  // the whole circle has no limit to be near to
   }
   const double distance =
       std::min(CircleDistanceDeg(hueDeg, limits.lower), CircleDistanceDeg(hueDeg, limits.upper));
   return {passed, passed ? distance : -distance};
-}
-
-}  // namespace
-
-bool InRange(double lower, double upper, double value) {
-  return lower <= value && value <= upper;
 }
 
 void InterpolateLimit(double w1, double w2, double y1, double y2, double w, double& limit) {
@@ -109,7 +104,7 @@ Judgement JudgeStandards(const ReflectanceSpectrum& reflectance, const ColourRes
     return judgement.groups[static_cast<std::size_t>(which)];
   };
   const auto ofColour = [&colour](double value) {
-    return colour.IsComputed() ? std::optional(value) : std::nullopt;
+    return colour.IsComputed() ? value : std::numeric_limits<double>::quiet_NaN();
   };
   if (const auto band = JudgeReflectanceBand(reflectance, standard)) {
     group(StandardGroup::kReflectance) = {band->passed, band->margin};

@@ -31,6 +31,14 @@ struct GroupJudgement {
   std::optional<double> margin;
 };
 
+/// The verdict on a value against limits, not judged when they are off. A value that is not a
+/// number fails without a margin.
+[[nodiscard]] GroupJudgement JudgeValue(const StandardLimits& limits, double value);
+
+/// Likewise for a hue angle in degrees: an upper limit below the lower one means the arc through 0,
+/// limits 360 degrees apart the whole circle, which has no margin.
+[[nodiscard]] GroupJudgement JudgeHue(const StandardLimits& limits, double hueDeg);
+
 /// The groups in the order of their panels.
 enum class StandardGroup {
   kReflectance,

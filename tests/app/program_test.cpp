@@ -2,6 +2,7 @@
 // The program as a process: the demonstration, and reports without a display.
 #include <gtest/gtest.h>
 
+#include <QFile>
 #include <QFileInfo>
 #include <QImage>
 #include <QProcess>
@@ -38,9 +39,16 @@ class Program : public testing::Test {
   int complaints = 0;
 };
 
+// The index of the coat: lines 40 to 53 of an environment file.
+QList<QByteArray> CoatLines(const QByteArray& environment) {
+  return environment.split('\n').mid(39, 14);
+}
+
 TEST_F(Program, DemonstrationMeasuresFiveSamplesAndLeavesAFileAndAPicture) {
   for (const char* arguments : {"--demo @新しい", "--gpib --demo @次"}) {
     ASSERT_EQ(Run(arguments), 0) << arguments;
+    QFile shared(QStringLiteral(VEXA_SHARE_DIR "/virtual-instrument/vexa.env"));
+    ASSERT_TRUE(shared.open(QIODevice::ReadOnly));
     const QByteArray name = QByteArray(arguments).split('@').last();
     const QByteArray data = files.Read(name + "/measurement.csv");
     const QList<QByteArray> row = data.split('\n').at(2 + 550 - 440).split(',');
@@ -51,6 +59,7 @@ TEST_F(Program, DemonstrationMeasuresFiveSamplesAndLeavesAFileAndAPicture) {
     // Bare crown glass, n = 1.5185 at 550 nm: ((n - 1) / (n + 1))^2 = 4.24 %. Its noise at one line
     // is a few hundredths of a percent.
     EXPECT_NEAR(row[1].toDouble(), 4.24, 0.25);
+    EXPECT_EQ(CoatLines(files.Read(name + "/vexa.env")), CoatLines(shared.readAll()));
     EXPECT_EQ(QImage(files.Path(name + "/window.png")).size(), QSize(1280, 900));
     EXPECT_FALSE(QFileInfo(files.Path(name + "/com5")).isSymLink());
   }

@@ -98,6 +98,23 @@ TEST_F(Analysis, ComputesTheThicknessOnRequest) {
   }
 }
 
+TEST_F(Analysis, AddsTheCieColour) {
+  const Outcome outcome = Analyse("--json --cie --illuminant D65 --observer 10");
+  const QJsonObject flat = Object(Slot(outcome, 0), "cie");
+  EXPECT_EQ(flat[QLatin1String("illuminant")].toString(), QStringLiteral("D65"));
+  EXPECT_EQ(flat[QLatin1String("observer")].toInt(), 10);
+  EXPECT_NEAR(Number(flat, "Y"), 20.0, 1e-12);
+  EXPECT_NEAR(Number(flat, "Rv"), 20.0, 1e-12);
+  EXPECT_TRUE(flat[QLatin1String("h")].isNull()) << "a grey has no hue";
+  EXPECT_TRUE(Object(Slot(outcome, 2), "cie")[QLatin1String("x")].isNull()) << "black";
+  EXPECT_FALSE(Slot(Analyse("--json"), 0).contains(QLatin1String("cie")));
+  const QByteArray text = Analyse("--cie --illuminant A").out;
+  EXPECT_TRUE(text.contains("\nCIE A/2°  440 nm より下は外挿\nslot         X "))
+      << text.constData();
+  EXPECT_TRUE(text.simplified().contains(" spread 1 21.97 20.0 7.116 0.4476 0.4074 "))
+      << text.constData();
+}
+
 TEST_F(Analysis, JudgesWithAStandard) {
   StandardSet standard;
   standard.luminousReflectance = {true, 25.0, 15.0};

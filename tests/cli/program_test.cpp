@@ -4,6 +4,8 @@
 #include <gtest/gtest.h>
 
 #include <QDir>
+#include <QFile>
+#include <tuple>
 
 #include "cli/running_programs.h"
 
@@ -144,6 +146,23 @@ TEST_F(WithInstrument, MeasuresAWholeDayOfSamples) {
   EXPECT_EQ(outcome.err, "");
   EXPECT_EQ(outcome["samples"].toArray().size(), 10);
   EXPECT_EQ(files.Read("out.csv").count("\r\n"), 403);
+}
+
+// Type B at 10 s without noise: docs/accuracy.md states 12.4 and 25.8 nm as the method's own
+// limits.
+TEST_F(WithInstrument, ItsSettingsGiveTheTrueThicknessOfItsHardCoats) {
+  ASSERT_TRUE(QFile::copy(QStringLiteral(VEXA_SHARE_DIR "/virtual-instrument/vexa.env"),
+                          files.Path("vexa.env")));
+  Start("--noise off");
+  ASSERT_EQ(Measure("--samples 5 --sampling-time 10000").status, 0);
+  const Outcome outcome = Run("analyse @out.csv --env @vexa.env --thickness --type B --json");
+  for (const auto& [index, thicknessNm, limitNm] :
+       {std::tuple{3, 1500.0, 12.4}, std::tuple{4, 4000.0, 25.8}}) {
+    const QJsonObject slot = outcome["slots"].toArray()[index].toObject();
+    const QJsonObject thickness = slot[QLatin1String("thickness")].toObject();
+    EXPECT_NEAR(thickness[QLatin1String("thickness")].toDouble(), thicknessNm, limitNm)
+        << outcome.err.constData();
+  }
 }
 
 struct FaultCase {

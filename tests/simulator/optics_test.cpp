@@ -5,6 +5,7 @@
 
 #include "simulator/detector.h"
 #include "simulator/film_stack.h"
+#include "simulator/lamp.h"
 
 namespace vexa::simulator {
 namespace {
@@ -24,6 +25,7 @@ TEST(Dispersion, GivesThePublishedIndices) {
       {CrownGlassIndex, 486.1327, 1.52238, 5e-6},    {CrownGlassIndex, 656.2725, 1.51432, 5e-6},
       {MagnesiumFluorideIndex, 589.3, 1.3777, 5e-5}, {ZirconiaIndex, 589.3, 2.1585, 5e-5},
       {LensPlasticIndex, 587.5618, 1.4985, 5e-4},    {HardCoatIndex, 587.5618, 1.602, 5e-4},
+      {PrimerIndex, 587.5618, 1.540, 5e-4},
   };
   for (const auto& c : cases) {
     EXPECT_NEAR(c.index(c.wavelengthNm), c.published, c.tolerance) << c.wavelengthNm;
@@ -84,6 +86,8 @@ TEST(Samples, ReflectWhatTheyAreMadeFor) {
       {Sample::Mgf2, 440, 840, 1.2, 2.2, 0.5},         {Sample::Ar4, 450, 680, 0.0, 0.7, 0.1},
       {Sample::HardCoat1500, 440, 840, 3.5, 8.0, 2.0},  // (0.6 / 2.6 -+ 0.1 / 3.1)^2
       {Sample::HardCoat4000, 440, 840, 3.5, 8.0, 2.0}, {Sample::Mirror, 440, 840, 3.0, 25.0, 20.0},
+      {Sample::Primed, 440, 840, 3.5, 8.0, 2.0},       {Sample::Thin150, 440, 840, 3.5, 8.0, 2.0},
+      {Sample::BlueCut, 440, 840, 0.0, 25.0, 20.0},
   };
   for (const auto& c : cases) {
     double least = c.most;
@@ -144,6 +148,14 @@ TEST(Detector, MirrorSaturatesOnlyWhenExposedLong) {
   EXPECT_LT(std::ranges::max(atDefault), 4095);
   EXPECT_EQ(std::ranges::max(atLongest), 4095);
   EXPECT_GT(std::ranges::count(atLongest, 4095), 100);
+}
+
+// The shares that LampPower states.
+TEST(Lamp, GetsDarkerWithItsHoursMostOfAllInTheBlue) {
+  for (const auto& [nm, left] : {std::pair{440.0, 0.855}, {550.0, 0.905}, {840.0, 0.958}}) {
+    EXPECT_NEAR(LampPower(nm, 1000.0) / LampPower(nm), left, 5e-4) << nm;
+    EXPECT_EQ(LampPower(nm, 0.0), LampPower(nm));
+  }
 }
 
 TEST(Detector, RoomLightComesOnlyThroughTheOpenEyepiece) {

@@ -111,6 +111,8 @@ TEST_F(ProgramTest, WrongOptionsEndWithStatus2AndOneLine) {
                                "--seed -1",
                                "--noise 1",
                                "--late 1.5",
+                               "--lamp-age old",
+                               "--shutter-leak -0.1",
                                "--fault smoke",
                                "--fault no-reply@0",
                                "--fault no-reply@",
@@ -137,7 +139,7 @@ TEST_F(ProgramTest, ListNamesSamplesAndFaults) {
   Start(program, "--list");
   EXPECT_EQ(ExitStatus(program), 0);
   const QByteArray list = program.readAllStandardOutput();
-  EXPECT_EQ(list.count('\n'), 1 + 7 + 1 + 9);
+  EXPECT_EQ(list.count('\n'), 1 + 10 + 1 + 9 + 1 + 2);
   EXPECT_TRUE(list.contains("\n  hardcoat1.5 ") && list.contains("\n  split-terminator "));
 }
 
@@ -227,6 +229,37 @@ TEST_F(ProgramTest, MeasuresTheSamplesInTurnAndSurvivesReconnection) {
   again.Ask("C3010100");
   EXPECT_EQ(NextLine(program), u"stage reference"_s);
   program.terminate();
+  EXPECT_EQ(ExitStatus(program), 0);
+}
+
+TEST_F(ProgramTest, AgesByItsOptionsAndByItsInput) {
+  const auto pixels = [](const Port& port, const char* shutters) {
+    port.Ask(shutters);
+    port.Ask("C3010100");
+    const QByteArray line = port.Ask("B4000100", "DATEND");
+    const auto at = [&line](int pixel) {
+      return static_cast<unsigned char>(line[4 + 2 * pixel]) +
+             256 * static_cast<unsigned char>(line[5 + 2 * pixel]);
+    };
+    return std::pair(at(10), at(500));  // red, blue
+  };
+  QProcess program;
+  StartReady(program, "--noise off --stage reference --shutter-leak 10");
+  const Port port(link_);
+  port.Ask("96392900");  // 3000 ms
+  const auto leaking = pixels(port, "A5010000");
+  const auto bright = pixels(port, "A5000000");
+  // Above 78 counts in the dark, within the rounding of two readings.
+  EXPECT_NEAR(leaking.first - 78, 0.1 * (bright.first - 78), 1.0);
+  program.write("lamp-age 3000\nshutter-leak 0\n");
+  EXPECT_EQ(NextLine(program), u"lamp-age 3000"_s);
+  EXPECT_EQ(NextLine(program), u"shutter-leak 0"_s);
+  EXPECT_EQ(pixels(port, "A5010000"), std::pair(78, 78));
+  const auto aged = pixels(port, "A5000000");
+  EXPECT_LT(aged.first, 0.95 * bright.first);
+  EXPECT_LT(static_cast<double>(aged.second) / bright.second,
+            0.9 * static_cast<double>(aged.first) / bright.first);
+  program.write("quit\n");
   EXPECT_EQ(ExitStatus(program), 0);
 }
 

@@ -28,7 +28,7 @@ class StageTest : public testing::Test {
 TEST_F(StageTest, UnattendedShowsAllInTurnAndTheReferenceAfterABackground) {
   Stage stage = Make({});
   EXPECT_EQ(stage.Current(), Sample::Reference);
-  for (int lines = 0; lines < 8; ++lines) {
+  for (int lines = 0; lines < 11; ++lines) {
     stage.Reach(kMeasured);
     stage.Reach(kSent);
   }
@@ -36,7 +36,8 @@ TEST_F(StageTest, UnattendedShowsAllInTurnAndTheReferenceAfterABackground) {
   stage.Reach(kDark);
   stage.Reach(kSent);
   EXPECT_EQ(seen_.join(u' '),
-            u"glass mgf2 ar4 hardcoat1.5 hardcoat4 mirror glass mgf2 reference glass"_s);
+            u"glass mgf2 ar4 hardcoat1.5 hardcoat4 mirror "
+            "primed2.5 thin0.15 bluecut glass mgf2 reference glass"_s);
 }
 
 QString Meaning(QStringView line) {
@@ -51,6 +52,9 @@ QString Meaning(QStringView line) {
     return u"%1 at %2"_s.arg(QString(AllFaults()[static_cast<std::size_t>(fault->kind)].name))
         .arg(fault->exchange);
   }
+  if (const auto* wear = std::get_if<SetWear>(&*command)) {
+    return u"%1: %2"_s.arg(QString(wear->kind->name)).arg(wear->amount);
+  }
   return std::holds_alternative<NextSample>(*command) ? u"next"_s : u"quit"_s;
 }
 
@@ -63,6 +67,12 @@ TEST(ConsoleLine, IsUnderstoodOrRefusedWhole) {
       {u"quit", u"quit"},
       {u"fault no-reply", u"no-reply at 1"},
       {u"fault late-bytes 12", u"late-bytes at 12"},
+      {u"lamp-age 1500", u"lamp-age: 1500"},
+      {u"shutter-leak 0.25", u"shutter-leak: 0.25"},
+      {u"lamp-age", u"unknown"},
+      {u"lamp-age -1", u"unknown"},
+      {u"lamp-age nan", u"unknown"},
+      {u"shutter-leak 101", u"unknown"},
       {u"", u"unknown"},
       {u"stage", u"unknown"},
       {u"stage Mirror", u"unknown"},

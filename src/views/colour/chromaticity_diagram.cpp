@@ -5,6 +5,7 @@
 #include <algorithm>
 #include <array>
 
+#include "colour/colour_tables.h"
 #include "standards/tolerance_region.h"
 #include "views/colour/colour_texts.h"
 #include "views/common/theme.h"

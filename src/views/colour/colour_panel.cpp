@@ -6,6 +6,7 @@
 #include <QVBoxLayout>
 
 #include "base/number_text.h"
+#include "colour/colour_tables.h"
 #include "views/colour/background_picture.h"
 #include "views/colour/chromaticity_diagram.h"
 #include "views/colour/colour_texts.h"

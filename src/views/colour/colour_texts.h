@@ -7,22 +7,6 @@
 
 namespace vexa {
 
-/// "A", "B", "C" or "D65"; "-" for a number outside 1..4.
-[[nodiscard]] inline QString IlluminantText(int illuminant) {
-  switch (illuminant) {
-    case 1:
-      return QStringLiteral("A");
-    case 2:
-      return QStringLiteral("B");
-    case 3:
-      return QStringLiteral("C");
-    case 4:
-      return QStringLiteral("D65");
-    default:
-      return QStringLiteral("-");
-  }
-}
-
 /// "2" or "10", in degrees.
 [[nodiscard]] inline QString ObserverText(Flag observer2Deg) {
   return observer2Deg ? QStringLiteral("2") : QStringLiteral("10");

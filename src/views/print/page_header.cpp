@@ -5,6 +5,7 @@
 #include <QPainter>
 
 #include "base/date_text.h"
+#include "colour/colour_tables.h"
 #include "views/colour/colour_texts.h"
 #include "views/common/theme.h"
 #include "views/print/printed_pages.h"

@@ -7,6 +7,7 @@
 #include <QVBoxLayout>
 #include <cmath>
 
+#include "colour/colour_tables.h"
 #include "measurement/evaluation.h"
 #include "views/colour/colour_texts.h"
 #include "views/common/dialog_buttons.h"

@@ -2,6 +2,7 @@
 #include "views/settings/settings_list.h"
 
 #include "base/number_text.h"
+#include "colour/colour_tables.h"
 #include "views/colour/colour_texts.h"
 
 namespace vexa {
