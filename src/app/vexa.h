@@ -13,7 +13,7 @@
 #include "measurement/measurement_sequence.h"
 #include "measurement/vexatype.h"
 #include "views/common/file_dialogs.h"
-#include "views/print/current_printer.h"
+#include "views/paper/current_printer.h"
 #include "views/print/report_request.h"
 
 namespace vexa {

@@ -11,7 +11,7 @@
 #include "views/optics/optics_print.h"
 #include "views/optics/thick_g_set_dlg.h"
 #include "views/optics/thick_graph.h"
-#include "views/print/current_printer.h"
+#include "views/paper/current_printer.h"
 
 namespace vexa {
 namespace {

@@ -8,10 +8,10 @@
 
 #include "support/spectra.h"
 #include "support/window_test.h"
-#include "views/optics/jamp_wave.h"
+#include "views/graph/jamp_wave.h"
 #include "views/optics/thickness_panel.h"
 #include "views/optics/wave_list_dlg.h"
-#include "views/print/current_printer.h"
+#include "views/paper/current_printer.h"
 
 namespace vexa {
 namespace {

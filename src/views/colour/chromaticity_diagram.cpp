@@ -6,7 +6,7 @@
 #include <array>
 
 #include "standards/tolerance_region.h"
-#include "views/colour/colour_texts.h"
+#include "views/common/colour_texts.h"
 #include "views/common/theme.h"
 
 namespace vexa {

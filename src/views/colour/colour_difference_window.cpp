@@ -14,7 +14,7 @@
 
 #include "base/number_text.h"
 #include "colour/colour_difference.h"
-#include "views/colour/colour_texts.h"
+#include "views/common/colour_texts.h"
 #include "views/common/slot_style.h"
 
 namespace vexa {

@@ -8,8 +8,8 @@
 #include "base/number_text.h"
 #include "views/colour/background_picture.h"
 #include "views/colour/chromaticity_diagram.h"
-#include "views/colour/colour_texts.h"
 #include "views/colour/stock_window.h"
+#include "views/common/colour_texts.h"
 #include "views/common/plot_export.h"
 #include "views/common/theme.h"
 

@@ -9,8 +9,8 @@
 #include <QSvgGenerator>
 
 #include "base/replace_file.h"
+#include "views/common/file_questions.h"
 #include "views/common/pdf_text.h"
-#include "views/files/file_questions.h"
 
 namespace vexa {
 namespace {

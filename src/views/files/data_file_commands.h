@@ -4,7 +4,7 @@
 #include "base/message.h"
 #include "measurement/vexatype.h"
 #include "views/common/file_dialogs.h"
-#include "views/files/file_questions.h"
+#include "views/common/file_questions.h"
 
 namespace vexa {
 

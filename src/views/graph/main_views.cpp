@@ -11,10 +11,10 @@
 #include "views/common/plot_export.h"
 #include "views/graph/cursor_strip.h"
 #include "views/graph/index_graph.h"
+#include "views/graph/jamp_wave.h"
 #include "views/graph/light_graph.h"
 #include "views/graph/reflectance_graph.h"
 #include "views/graph/spectrum_table.h"
-#include "views/optics/jamp_wave.h"
 
 namespace vexa {
 namespace {

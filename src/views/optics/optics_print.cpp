@@ -9,7 +9,7 @@
 #include "optics/thickness.h"
 #include "views/common/theme.h"
 #include "views/optics/history_plot.h"
-#include "views/print/plot_drawing.h"
+#include "views/paper/plot_drawing.h"
 
 namespace vexa {
 namespace {

@@ -9,10 +9,10 @@
 #include "optics/bunsan.h"
 #include "optics/index_file.h"
 #include "views/common/dialog_buttons.h"
-#include "views/files/file_questions.h"
+#include "views/common/file_questions.h"
+#include "views/common/option_frame.h"
 #include "views/optics/file_frame.h"
 #include "views/optics/number_fields_frame.h"
-#include "views/optics/option_frame.h"
 #include "views/optics/thickness_measurement_page.h"
 
 namespace vexa {

@@ -5,7 +5,7 @@
 #include <QHBoxLayout>
 #include <QVBoxLayout>
 
-#include "views/optics/option_frame.h"
+#include "views/common/option_frame.h"
 
 namespace vexa {
 

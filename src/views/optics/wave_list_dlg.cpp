@@ -8,7 +8,7 @@
 
 #include "views/common/dialog_buttons.h"
 #include "views/optics/optics_print.h"
-#include "views/print/current_printer.h"
+#include "views/paper/current_printer.h"
 
 namespace vexa {
 namespace {

@@ -5,9 +5,9 @@
 #include <QPainter>
 
 #include "base/date_text.h"
-#include "views/colour/colour_texts.h"
+#include "views/common/colour_texts.h"
 #include "views/common/theme.h"
-#include "views/print/printed_pages.h"
+#include "views/paper/printed_pages.h"
 
 namespace vexa {
 namespace {

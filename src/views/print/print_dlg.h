@@ -5,7 +5,7 @@
 
 #include "base/message.h"
 #include "measurement/vexatype.h"
-#include "views/print/current_printer.h"
+#include "views/paper/current_printer.h"
 #include "views/print/report_request.h"
 
 class QButtonGroup;

@@ -9,9 +9,9 @@
 #include "views/graph/index_graph.h"
 #include "views/graph/light_graph.h"
 #include "views/graph/reflectance_graph.h"
-#include "views/print/page_flow.h"
+#include "views/paper/page_flow.h"
+#include "views/paper/plot_drawing.h"
 #include "views/print/page_header.h"
-#include "views/print/plot_drawing.h"
 #include "views/print/slot_tables.h"
 #include "views/print/spectrum_pages.h"
 
@@ -61,9 +61,9 @@ void AddGraph(PageFlow& flow, const VEXATYPE& state, double height) {
   });
 }
 
-std::vector<Table> Summary(const VEXATYPE& state) {
-  std::vector<Table> tables{SampleTable(state), ValueTable(state)};
-  if (const std::optional<Table> verdicts = VerdictTable(state)) {
+std::vector<PageTable> Summary(const VEXATYPE& state) {
+  std::vector<PageTable> tables{SampleTable(state), ValueTable(state)};
+  if (const std::optional<PageTable> verdicts = VerdictTable(state)) {
     tables.push_back(*verdicts);
   }
   return tables;
@@ -71,17 +71,17 @@ std::vector<Table> Summary(const VEXATYPE& state) {
 
 PageFlow LayOut(const VEXATYPE& state, const ReportRequest& request, const QSizeF& page) {
   PageFlow flow(PageHeader::Body(page));
-  const std::vector<Table> summary = Summary(state);
+  const std::vector<PageTable> summary = Summary(state);
   if (request.content != ReportContent::kText) {
     double tables = 0.0;
-    for (const Table& table : summary) {
+    for (const PageTable& table : summary) {
       tables += PageFlow::kGap + table.Height();
     }
     AddGraph(flow, state,
              std::min(flow.PageHeight(),
                       std::clamp(flow.PageHeight() - tables, kLowestGraph, kHighestGraph)));
   }
-  for (const Table& table : summary) {
+  for (const PageTable& table : summary) {
     flow.Add(table);
   }
   if (request.content != ReportContent::kGraph) {

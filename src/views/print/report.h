@@ -2,7 +2,7 @@
 #pragma once
 
 #include "measurement/vexatype.h"
-#include "views/print/printed_pages.h"
+#include "views/paper/printed_pages.h"
 #include "views/print/report_request.h"
 
 namespace vexa {

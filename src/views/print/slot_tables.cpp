@@ -9,8 +9,8 @@
 namespace vexa {
 namespace {
 
-using Column = Table::Column;
-using Row = std::vector<Table::Cell>;
+using Column = PageTable::Column;
+using Row = std::vector<PageTable::Cell>;
 
 const QString kNone = QStringLiteral("-");
 constexpr double kNumberWidth = 70.0;
@@ -38,7 +38,7 @@ const std::vector<ColourColumn>& ColourColumns() {
 }
 
 template <typename MakeRow>
-void AddRows(Table& table, const VEXATYPE& state, MakeRow makeRow) {
+void AddRows(PageTable& table, const VEXATYPE& state, MakeRow makeRow) {
   for (int number = 1; number <= kSlotCount; ++number) {
     const MeasurementSlot& slot = *state.Slot(number);
     if (slot.valid) {
@@ -80,7 +80,7 @@ Row LimitsRow(const StandardSet& standard) {
 }
 
 // "OK" or "NG"; nothing was judged where there is no verdict.
-Table::Cell VerdictCell(const std::optional<bool>& passed) {
+PageTable::Cell VerdictCell(const std::optional<bool>& passed) {
   if (!passed) {
     return {kNone};
   }
@@ -99,14 +99,14 @@ std::optional<bool> Overall(const Judgement& judgement) {
 
 }  // namespace
 
-Table SampleTable(const VEXATYPE& state) {
-  Table table{.caption = QStringLiteral("試料"),
-              .columns = {{QStringLiteral("No."), kNumberWidth},
-                          {QStringLiteral("試料No"), kNameWidth, Qt::AlignLeft},
-                          {QStringLiteral("備考1"), 480.0, Qt::AlignLeft},
-                          {QStringLiteral("備考2"), 480.0, Qt::AlignLeft},
-                          {QStringLiteral("測定日"), 340.0}},
-              .rows = {}};
+PageTable SampleTable(const VEXATYPE& state) {
+  PageTable table{.caption = QStringLiteral("試料"),
+                  .columns = {{QStringLiteral("No."), kNumberWidth},
+                              {QStringLiteral("試料No"), kNameWidth, Qt::AlignLeft},
+                              {QStringLiteral("備考1"), 480.0, Qt::AlignLeft},
+                              {QStringLiteral("備考2"), 480.0, Qt::AlignLeft},
+                              {QStringLiteral("測定日"), 340.0}},
+                  .rows = {}};
   AddRows(table, state, [](const MeasurementSlot& slot, Row& row) {
     const SampleInfo& info = slot.info;
     row.push_back({info.sampleNumber});
@@ -117,10 +117,10 @@ Table SampleTable(const VEXATYPE& state) {
   return table;
 }
 
-Table ValueTable(const VEXATYPE& state) {
-  Table table{.caption = QStringLiteral("測定値"),
-              .columns = {{QStringLiteral("No."), kNumberWidth}},
-              .rows = {}};
+PageTable ValueTable(const VEXATYPE& state) {
+  PageTable table{.caption = QStringLiteral("測定値"),
+                  .columns = {{QStringLiteral("No."), kNumberWidth}},
+                  .rows = {}};
   for (const ColourColumn& column : ColourColumns()) {
     table.columns.push_back({column.title, 165.0});
   }
@@ -143,19 +143,19 @@ Table ValueTable(const VEXATYPE& state) {
   return table;
 }
 
-std::optional<Table> VerdictTable(const VEXATYPE& state) {
+std::optional<PageTable> VerdictTable(const VEXATYPE& state) {
   constexpr double kWidth = 225.0;
-  Table table{.caption = QStringLiteral("合否判定"),
-              .columns = {{QStringLiteral("No."), kNumberWidth},
-                          {QStringLiteral("試料No"), kNameWidth, Qt::AlignLeft},
-                          {QStringLiteral("反射率"), 150.0, Qt::AlignHCenter},
-                          {QStringLiteral("平均反射率"), kWidth, Qt::AlignHCenter},
-                          {QStringLiteral("視感反射率"), kWidth, Qt::AlignHCenter},
-                          {QStringLiteral("波長"), kWidth, Qt::AlignHCenter},
-                          {QStringLiteral("クロマC*"), kWidth, Qt::AlignHCenter},
-                          {QStringLiteral("色相角h[deg]"), kWidth, Qt::AlignHCenter},
-                          {QStringLiteral("総合"), 120.0, Qt::AlignHCenter}},
-              .rows = {LimitsRow(state.standard)}};
+  PageTable table{.caption = QStringLiteral("合否判定"),
+                  .columns = {{QStringLiteral("No."), kNumberWidth},
+                              {QStringLiteral("試料No"), kNameWidth, Qt::AlignLeft},
+                              {QStringLiteral("反射率"), 150.0, Qt::AlignHCenter},
+                              {QStringLiteral("平均反射率"), kWidth, Qt::AlignHCenter},
+                              {QStringLiteral("視感反射率"), kWidth, Qt::AlignHCenter},
+                              {QStringLiteral("波長"), kWidth, Qt::AlignHCenter},
+                              {QStringLiteral("クロマC*"), kWidth, Qt::AlignHCenter},
+                              {QStringLiteral("色相角h[deg]"), kWidth, Qt::AlignHCenter},
+                              {QStringLiteral("総合"), 120.0, Qt::AlignHCenter}},
+                  .rows = {LimitsRow(state.standard)}};
   bool judged = false;
   AddRows(table, state, [&judged](const MeasurementSlot& slot, Row& row) {
     row.push_back({slot.info.sampleNumber});

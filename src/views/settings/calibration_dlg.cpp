@@ -5,8 +5,8 @@
 
 #include "instrument/calibration_file.h"
 #include "views/common/dialog_buttons.h"
+#include "views/common/file_questions.h"
 #include "views/common/up_down_field.h"
-#include "views/files/data_file_commands.h"
 
 namespace vexa {
 

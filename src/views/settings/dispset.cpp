@@ -8,9 +8,9 @@
 #include <cmath>
 
 #include "measurement/evaluation.h"
-#include "views/colour/colour_texts.h"
+#include "views/common/colour_texts.h"
 #include "views/common/dialog_buttons.h"
-#include "views/optics/option_frame.h"
+#include "views/common/option_frame.h"
 
 namespace vexa {
 

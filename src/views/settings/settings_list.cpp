@@ -2,7 +2,7 @@
 #include "views/settings/settings_list.h"
 
 #include "base/number_text.h"
-#include "views/colour/colour_texts.h"
+#include "views/common/colour_texts.h"
 
 namespace vexa {
 namespace {

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "views/optics/option_frame.h"
+#include "views/common/option_frame.h"
 
 #include <QRadioButton>
 #include <QVBoxLayout>

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "views/print/current_printer.h"
+#include "views/paper/current_printer.h"
 
 #include <QBuffer>
 #include <QPdfWriter>
@@ -7,8 +7,8 @@
 #include <QPrinterInfo>
 
 #include "base/replace_file.h"
+#include "views/common/file_questions.h"
 #include "views/common/pdf_text.h"
-#include "views/files/file_questions.h"
 
 namespace vexa {
 namespace {

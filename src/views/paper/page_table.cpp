@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "views/print/table.h"
+#include "views/paper/page_table.h"
 
 #include <QPainter>
 #include <algorithm>
 
 #include "views/common/theme.h"
-#include "views/print/printed_pages.h"
+#include "views/paper/printed_pages.h"
 
 namespace vexa {
 namespace {
@@ -32,7 +32,7 @@ void DrawText(QPainter& painter, const QRectF& cell, Qt::Alignment alignment, co
 
 }  // namespace
 
-void Table::Paint(QPainter& painter, const QRectF& place) const {
+void PageTable::Paint(QPainter& painter, const QRectF& place) const {
   double natural = 0.0;
   for (const Column& column : columns) {
     natural += column.width;

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "views/print/page_flow.h"
+#include "views/paper/page_flow.h"
 
 #include <algorithm>
 
@@ -22,7 +22,7 @@ void PageFlow::Add(double height, const Paint& paint) {
   y_ += height + kGap;
 }
 
-void PageFlow::Add(const Table& table) {
+void PageFlow::Add(const PageTable& table) {
   if (table.Height() > Left() && table.Height() <= PageHeight()) {
     NewPage();
   }
@@ -33,7 +33,7 @@ void PageFlow::Add(const Table& table) {
     }
     const auto fit = static_cast<std::ptrdiff_t>((Left() - table.HeadHeight()) / table.rowHeight);
     const auto end = row + std::clamp(fit, std::ptrdiff_t{1}, table.rows.end() - row);
-    Table part = table;
+    PageTable part = table;
     part.rows.assign(row, end);
     Add(part.Height(),
         [part](QPainter& painter, const QRectF& place) { part.Paint(painter, place); });

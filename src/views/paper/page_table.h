@@ -10,7 +10,7 @@ class QPainter;
 namespace vexa {
 
 /// A table on a page. Lengths are tenths of a millimetre.
-struct Table {
+struct PageTable {
   struct Column {
     QString title;
     double width = 0.0;  ///< when the table is as wide as its columns; all are stretched alike
