@@ -14,6 +14,7 @@ constexpr double kCellPadding = 10.0;
 constexpr int kCaptionSize = 32;
 constexpr double kRuleWidth = 3.0;
 constexpr double kFineRuleWidth = 1.0;
+constexpr double kHighestRow = 30.0 * 42.0;
 
 void DrawRule(QPainter& painter, const QRectF& place, double y, const QColor& colour,
               double width) {
@@ -23,22 +24,69 @@ void DrawRule(QPainter& painter, const QRectF& place, double y, const QColor& co
   painter.setPen(before);
 }
 
-void DrawText(QPainter& painter, const QRectF& cell, Qt::Alignment alignment, const QString& text) {
-  const QRectF inner = cell.adjusted(kCellPadding, 0.0, -kCellPadding, 0.0);
+QRectF Inner(const QRectF& cell) {
+  return cell.adjusted(kCellPadding, 0.0, -kCellPadding, 0.0);
+}
+
+QFont PageFont(int size) {
+  QFont font;
+  font.setPixelSize(size);
+  return font;
+}
+
+constexpr int kWrapped = Qt::TextWordWrap | Qt::TextWrapAnywhere;
+
+void DrawText(QPainter& painter, const QRectF& cell, const PageTable::Column& column,
+              const QString& text) {
+  const QRectF inner = Inner(cell);
   const QFontMetricsF metrics(painter.font());
-  painter.drawText(inner, static_cast<int>(alignment | Qt::AlignVCenter) | Qt::TextSingleLine,
-                   metrics.elidedText(text, Qt::ElideRight, inner.width()));
+  const int alignment = static_cast<int>(column.alignment | Qt::AlignVCenter);
+  if (column.wraps && metrics.horizontalAdvance(text) > inner.width()) {
+    painter.drawText(inner, alignment | kWrapped, text);
+    return;
+  }
+  painter.drawText(inner, alignment | Qt::TextSingleLine,
+                   metrics.elidedText(text, Qt::ElideMiddle, inner.width()));
 }
 
 }  // namespace
 
-void PageTable::Paint(QPainter& painter, const QRectF& place) const {
+double PageTable::Stretch(double width) const {
   double natural = 0.0;
   for (const Column& column : columns) {
     natural += column.width;
   }
-  const double stretch = place.width() / natural;
-  const int size = std::max(1, static_cast<int>(fontSize * std::min(1.0, stretch)));
+  return width / natural;
+}
+
+int PageTable::FontSize(double width) const {
+  return std::max(1, static_cast<int>(fontSize * std::min(1.0, Stretch(width))));
+}
+
+double PageTable::RowHeight(const std::vector<Cell>& row, double width) const {
+  const QFontMetricsF metrics(PageFont(FontSize(width)));
+  double height = rowHeight;
+  for (std::size_t i = 0; i < columns.size(); ++i) {
+    const QRectF inner = Inner(QRectF(0.0, 0.0, columns[i].width * Stretch(width), kHighestRow));
+    if (columns[i].wraps && metrics.horizontalAdvance(row[i].text) > inner.width()) {
+      const double lines = metrics.boundingRect(inner, kWrapped, row[i].text).height();
+      height = std::max(height, std::min(lines, kHighestRow) + rowHeight - metrics.lineSpacing());
+    }
+  }
+  return height;
+}
+
+double PageTable::Height(double width) const {
+  double height = HeadHeight();
+  for (const std::vector<Cell>& row : rows) {
+    height += RowHeight(row, width);
+  }
+  return height;
+}
+
+void PageTable::Paint(QPainter& painter, const QRectF& place) const {
+  const double stretch = Stretch(place.width());
+  const int size = FontSize(place.width());
 
   double y = place.top();
   if (!caption.isEmpty()) {
@@ -47,17 +95,17 @@ void PageTable::Paint(QPainter& painter, const QRectF& place) const {
                      Qt::AlignLeft | Qt::AlignVCenter | Qt::TextSingleLine, caption);
     y += CaptionHeight();
   }
-  const auto forEachCell = [&](double top, auto draw) {
+  const auto forEachCell = [&](double top, double height, auto draw) {
     double x = place.left();
     for (std::size_t i = 0; i < columns.size(); ++i) {
       const double width = columns[i].width * stretch;
-      draw(i, QRectF(x, top, width, rowHeight));
+      draw(i, QRectF(x, top, width, height));
       x += width;
     }
   };
   SetPageFont(painter, size, true);
-  forEachCell(y, [&](std::size_t i, const QRectF& cell) {
-    DrawText(painter, cell, columns[i].alignment, columns[i].title);
+  forEachCell(y, rowHeight, [&](std::size_t i, const QRectF& cell) {
+    DrawText(painter, cell, {{}, 0.0, columns[i].alignment}, columns[i].title);
   });
   y = place.top() + HeadHeight();
   DrawRule(painter, place, y - 3.0, theme::kMutedText, kRuleWidth);
@@ -65,17 +113,18 @@ void PageTable::Paint(QPainter& painter, const QRectF& place) const {
   SetPageFont(painter, size);
   int number = 0;
   for (const std::vector<Cell>& row : rows) {
-    forEachCell(y, [&](std::size_t i, const QRectF& cell) {
+    const double height = RowHeight(row, place.width());
+    forEachCell(y, height, [&](std::size_t i, const QRectF& cell) {
       if (row[i].alarming) {
         SetPageFont(painter, size, true);
         painter.setPen(theme::kBad);
       }
-      DrawText(painter, cell, columns[i].alignment, row[i].text);
+      DrawText(painter, cell, columns[i], row[i].text);
       if (row[i].alarming) {
         SetPageFont(painter, size);
       }
     });
-    y += rowHeight;
+    y += height;
     if (++number % rowsPerRule == 0) {
       DrawRule(painter, place, y, theme::kBorder, kFineRuleWidth);
     }

@@ -5,6 +5,8 @@
 
 #include "base/date_text.h"
 #include "base/number_text.h"
+#include "base/translation.h"
+#include "standards/condition_caption.h"
 
 namespace vexa {
 namespace {
@@ -15,6 +17,7 @@ using Row = std::vector<PageTable::Cell>;
 const QString kNone = QStringLiteral("-");
 constexpr double kNumberWidth = 70.0;
 constexpr double kNameWidth = 340.0;
+constexpr double kBandWidth = 140.0;
 
 struct ColourColumn {
   QString title;
@@ -102,9 +105,9 @@ std::optional<bool> Overall(const Judgement& judgement) {
 PageTable SampleTable(const VEXATYPE& state) {
   PageTable table{.caption = QStringLiteral("試料"),
                   .columns = {{QStringLiteral("No."), kNumberWidth},
-                              {QStringLiteral("試料No"), kNameWidth, Qt::AlignLeft},
-                              {QStringLiteral("備考1"), 480.0, Qt::AlignLeft},
-                              {QStringLiteral("備考2"), 480.0, Qt::AlignLeft},
+                              {QStringLiteral("試料No"), kNameWidth, Qt::AlignLeft, true},
+                              {QStringLiteral("備考1"), 480.0, Qt::AlignLeft, true},
+                              {QStringLiteral("備考2"), 480.0, Qt::AlignLeft, true},
                               {QStringLiteral("測定日"), 340.0}},
                   .rows = {}};
   AddRows(table, state, [](const MeasurementSlot& slot, Row& row) {
@@ -140,6 +143,33 @@ PageTable ValueTable(const VEXATYPE& state) {
                              ThicknessUnit(thickness.physical)
                        : kNone});
   });
+  return table;
+}
+
+std::optional<PageTable> BandTable(const VEXATYPE& state) {
+  const StandardSet& standard = state.standard;
+  if (!standard.useReflectance || !standard.conditions.front().enabled) {
+    return std::nullopt;
+  }
+  PageTable table{.caption = Text::tr("反射率規格"), .columns = {{{}, kNameWidth, Qt::AlignLeft}}};
+  std::vector<Row> rows{
+      {{Text::tr("波長 [nm]")}}, {{Text::tr("上限 [%]")}}, {{Text::tr("下限 [%]")}}};
+  const auto text = [](double limit) { return FormatNumber(limit, u"##0.0##").trimmed(); };
+  for (std::size_t k = 0; k < kConditionCount; ++k) {
+    if (const StandardLimits& limits = standard.conditions[k]; limits.enabled) {
+      table.columns.push_back({ConditionCaption(k), kBandWidth});
+      rows[0].push_back({QString::number(standard.wavelengths[k])});
+      rows[1].push_back({text(limits.upper)});
+      rows[2].push_back({text(limits.lower)});
+    }
+  }
+  // Few conditions keep their width and leave the rest of the paper empty.
+  const auto used = static_cast<double>(table.columns.size() - 1);
+  table.columns.push_back({{}, std::max(1.0, (kConditionCount - used) * kBandWidth)});
+  for (Row& row : rows) {
+    row.emplace_back();
+  }
+  table.rows = std::move(rows);
   return table;
 }
 

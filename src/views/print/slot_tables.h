@@ -14,6 +14,10 @@ namespace vexa {
 /// Colour values, mean reflectances and thickness of each valid slot; "-" where there is none.
 [[nodiscard]] PageTable ValueTable(const VEXATYPE& state);
 
+/// The conditions of the reflectance with their wavelengths and limits; nothing when no band is
+/// judged.
+[[nodiscard]] std::optional<PageTable> BandTable(const VEXATYPE& state);
+
 /// The verdicts on each valid slot below the limits that they come from; nothing when the standards
 /// judge nothing.
 [[nodiscard]] std::optional<PageTable> VerdictTable(const VEXATYPE& state);

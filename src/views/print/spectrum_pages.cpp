@@ -93,7 +93,7 @@ void AddSpectra(PageFlow& flow, const VEXATYPE& state, int stepNm) {
       rows = std::max(kRound, RowsThatFit(flow.Left(), EmptyTable(), needed));
     }
     const PageTable table = MakeTable(state, numbers, nm, stepNm, rows, stretches);
-    flow.Add(table.Height(),
+    flow.Add(table.Height(flow.Width()),
              [table](QPainter& painter, const QRectF& place) { table.Paint(painter, place); });
     nm += rows * stretches * stepNm;
   }
