@@ -5,7 +5,7 @@
 
 #include "measurement/evaluation.h"
 #include "support/ten_slots.h"
-#include "views/print/current_printer.h"
+#include "views/paper/current_printer.h"
 #include "views/print/report.h"
 
 namespace {

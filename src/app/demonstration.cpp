@@ -136,7 +136,8 @@ std::optional<QString> Demonstration::Names::AskOpen(const QString& /*title*/,
 }
 
 std::optional<SaveChoice> Demonstration::Names::AskSave(const QString& /*title*/,
-                                                        const QString& /*filter*/) {
+                                                        const QString& /*filter*/,
+                                                        const QString& /*proposed*/) {
   return SaveChoice{dataFile};
 }
 

@@ -36,7 +36,8 @@ class Demonstration {
   class Names : public FileDialogs {
    public:
     std::optional<QString> AskOpen(const QString& title, const QString& filter) override;
-    std::optional<SaveChoice> AskSave(const QString& title, const QString& filter) override;
+    std::optional<SaveChoice> AskSave(const QString& title, const QString& filter,
+                                      const QString& proposed) override;
     QString dataFile;
   };
 

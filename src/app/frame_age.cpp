@@ -33,9 +33,6 @@ QString ChangesText(const FrameChanges& changes) {
   if (changes.averagingCount) {
     settings << QStringLiteral("回数");
   }
-  if (changes.calibrationShift) {
-    settings << QStringLiteral("ｼﾌﾄ");
-  }
   QStringList texts;
   if (!settings.isEmpty()) {
     texts << settings.join(u'･') + QStringLiteral("変更");
@@ -50,10 +47,7 @@ QString ChangesText(const FrameChanges& changes) {
 }
 
 QString SettingsText(const FrameConditions& frame) {
-  return QStringLiteral("%1 ms × %2, ｼﾌﾄ %3 nm")
-      .arg(frame.samplingTimeMs)
-      .arg(frame.averagingCount)
-      .arg(frame.calibrationShiftNm);
+  return QStringLiteral("%1 ms × %2").arg(frame.samplingTimeMs).arg(frame.averagingCount);
 }
 
 }  // namespace
@@ -72,13 +66,16 @@ QLabel* SmallLabel(const QString& name) {
 void ShowFrameAge(QLabel& label, const FrameConditions& frame, const InstrumentSettings& settings,
                   const QDateTime& now) {
   const FrameChanges changes = ChangedSince(frame, settings, now);
-  const bool warn = changes.SettingsDiffer() || changes.old || changes.future;
+  // The calibration shift is applied when a frame is read: none is out of date for its sake.
+  const bool warn = changes.samplingTime || changes.averagingCount || changes.old || changes.future;
   const qint64 minutes = std::max(frame.takenAt.secsTo(now), qint64{0}) / 60;
   const QString time =
       QStringLiteral("%1 (%2)").arg(TimeText(frame.takenAt, now), AgeText(minutes));
   label.setText(time + u'\n' + (warn ? ChangesText(changes) : SettingsText(frame)));
   label.setToolTip(SettingsText(frame));
-  label.setStyleSheet(warn ? kCalmWarning : QString());
+  if (const QString style = warn ? QString(kCalmWarning) : QString(); style != label.styleSheet()) {
+    label.setStyleSheet(style);
+  }
 }
 
 }  // namespace vexa

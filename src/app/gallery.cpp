@@ -12,6 +12,7 @@
 #include "views/colour/background_picture.h"
 #include "views/colour/colour_panel.h"
 #include "views/common/original_msg_frm.h"
+#include "views/common/scroll_body.h"
 #include "views/graph/reflectance_graph.h"
 
 namespace vexa {
@@ -161,7 +162,15 @@ void Gallery::TakeWindow(const QString& objectName, const QString& name) {
   Fail(name);
 }
 
+// On whatever screen: all of the window in the picture.
 void Gallery::Save(QWidget& widget, const QString& name) {
+  if (const auto* body = widget.findChild<ScrollBody*>()) {
+    const QSize hidden = (body->widget()->sizeHint() - body->viewport()->size()).expandedTo({0, 0});
+    if (!hidden.isNull()) {
+      widget.resize(widget.size() + hidden);
+      LetDraw();
+    }
+  }
   if (!widget.grab().save(directory_.filePath(name + QStringLiteral(".png")))) {
     Fail(name);
   }

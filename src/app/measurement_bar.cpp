@@ -7,6 +7,7 @@
 
 #include "app/frame_age.h"
 #include "base/date_text.h"
+#include "views/common/option_frame.h"
 #include "views/common/slot_style.h"
 #include "views/common/theme.h"
 
@@ -17,17 +18,31 @@ constexpr int kWidth = 176;
 const QString kBackgroundAtRest = QStringLiteral("Background");
 const QString kReferenceAtRest = QStringLiteral("Reference");
 
-QPushButton* Button(const QString& caption, const QString& tip, int height) {
+// As high as the window has room for: `lowest` on a low screen, `highest` from there on.
+struct Heights {
+  int lowest;
+  int highest;
+};
+constexpr Heights kFrameButton{28, 40};
+constexpr Heights kSlotButton{20, 28};
+constexpr Heights kCommandButton{22, 30};
+constexpr int kSlotSpacing = 4;
+
+QPushButton* Button(const QString& name, const QString& caption, const QString& tip,
+                    Heights heights) {
   auto* button = new QPushButton(caption);
-  button->setObjectName(caption);
+  button->setObjectName(name);
   button->setToolTip(tip);
-  button->setMinimumHeight(height);
+  button->setMinimumHeight(heights.lowest);
+  button->setMaximumHeight(heights.highest);
+  button->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Expanding);
   return button;
 }
 
 QPushButton* TwoStateButton(const QString& caption, const QString& tip, const QKeySequence& key) {
   QPushButton* button = Button(
-      caption, QStringLiteral("%1 (%2)").arg(tip, key.toString(QKeySequence::NativeText)), 40);
+      caption, caption, QStringLiteral("%1 (%2)").arg(tip, key.toString(QKeySequence::NativeText)),
+      kFrameButton);
   button->setCheckable(true);
   button->setShortcut(key);
   button->setIconSize(QSize(16, 16));
@@ -56,12 +71,16 @@ QString Tip(int slot) {
 
 MeasurementBar::MeasurementBar(QWidget* parent)
     : QWidget(parent),
+      open_(DoneIcon(false)),
+      done_(DoneIcon(true)),
       background_(TwoStateButton(kBackgroundAtRest, QStringLiteral("ﾊﾞｯｸｸﾞﾗﾝﾄﾞ測定"), Qt::Key_F5)),
       backgroundAge_(SmallLabel(QStringLiteral("BackgroundAge"))),
       reference_(TwoStateButton(kReferenceAtRest, QStringLiteral("ﾘﾌｧﾚﾝｽ測定"), Qt::Key_F6)),
       referenceAge_(SmallLabel(QStringLiteral("ReferenceAge"))),
-      allClear_(Button(QStringLiteral("ALL CLEAR"), QStringLiteral("全ｽﾛｯﾄをｸﾘｱ"), 30)),
-      data_(Button(QStringLiteral("Data"), QStringLiteral("試料情報"), 30)),
+      allClear_(Button(QStringLiteral("AllClear"), QStringLiteral("ALL CLEAR"),
+                       QStringLiteral("全ｽﾛｯﾄをｸﾘｱ"), kCommandButton)),
+      data_(Button(QStringLiteral("Data"), QStringLiteral("Data"), QStringLiteral("試料情報"),
+                   kCommandButton)),
       time_(new QLabel),
       lightWarning_(SmallLabel(QStringLiteral("LightWarning"))) {
   setFixedWidth(kWidth);
@@ -85,17 +104,17 @@ MeasurementBar::MeasurementBar(QWidget* parent)
 
   auto* layout = new QVBoxLayout(this);
   layout->setContentsMargins(0, 0, 0, 0);
-  layout->setSpacing(6);
-  layout->addWidget(background_);
+  layout->setSpacing(4);
+  layout->addWidget(background_, kFrameButton.highest);
   layout->addWidget(backgroundAge_);
   layout->addWidget(lightWarning_);
-  layout->addWidget(reference_);
+  layout->addWidget(reference_, kFrameButton.highest);
   layout->addWidget(referenceAge_);
   layout->addWidget(Line());
 
   auto* grid = new QGridLayout;
   grid->setHorizontalSpacing(6);
-  grid->setVerticalSpacing(5);
+  grid->setVerticalSpacing(kSlotSpacing);
   grid->setColumnStretch(1, 1);
   auto* options = new QButtonGroup(this);
   for (int slot = 1; slot <= kSlotCount; ++slot) {
@@ -105,23 +124,25 @@ MeasurementBar::MeasurementBar(QWidget* parent)
     option->setToolTip(QStringLiteral("ｽﾛｯﾄ%1を表示").arg(slot));
     option->setAccessibleName(option->toolTip());
     option->setIconSize(QSize(22, 12));
-    QPushButton* measure = Button(name, Tip(slot), 28);
+    option->setMinimumHeight(kSlotButton.lowest);
+    QPushButton* measure = Button(name, name, Tip(slot), kSlotButton);
     measure->setShortcut(QKeySequence(Qt::CTRL | static_cast<Qt::Key>(Qt::Key_0 + slot % 10)));
     options->addButton(option, slot);
     grid->addWidget(option, slot, 0);
     grid->addWidget(measure, slot, 1);
-    rows_[static_cast<std::size_t>(slot - 1)] = {option, measure};
+    rows_[static_cast<std::size_t>(slot - 1)] = {option, measure, SlotIcon(slot, false),
+                                                 SlotIcon(slot, true)};
     connect(measure, &QPushButton::clicked, this, [this, slot] { emit SampleRequested(slot); });
     connect(option, &QRadioButton::clicked, this, [this, slot] { emit SlotSelected(slot); });
   }
   rows_.front().option->setChecked(true);
-  layout->addLayout(grid);
-  layout->addSpacing(2);
-  layout->addWidget(allClear_);
+  TabToChosen(*options);
+  layout->addLayout(grid, kSlotCount * (kSlotButton.highest + kSlotSpacing));
+  layout->addWidget(allClear_, kCommandButton.highest);
   layout->addWidget(Line());
-  layout->addWidget(data_);
+  layout->addWidget(data_, kCommandButton.highest);
   layout->addWidget(time_);
-  layout->addStretch();
+  layout->addStretch(1);
 }
 
 int MeasurementBar::GetOption() const {
@@ -138,11 +159,11 @@ void MeasurementBar::SelectSlot(int slot) {
 }
 
 void MeasurementBar::Show(const VEXATYPE& state) {
-  background_->setIcon(DoneIcon(state.backgroundMeasured));
-  reference_->setIcon(DoneIcon(state.referenceMeasured));
+  background_->setIcon(state.backgroundMeasured ? done_ : open_);
+  reference_->setIcon(state.referenceMeasured ? done_ : open_);
   for (int slot = 1; slot <= kSlotCount; ++slot) {
-    rows_[static_cast<std::size_t>(slot - 1)].option->setIcon(
-        SlotIcon(slot, state.Slot(slot)->valid));
+    const SlotRow& row = rows_[static_cast<std::size_t>(slot - 1)];
+    row.option->setIcon(state.Slot(slot)->valid ? row.filled : row.empty);
   }
   const MeasurementSlot* selected = state.Slot(GetOption());
   time_->setText(DateTimeText(selected == nullptr ? QDateTime() : selected->info.measuredAt));
@@ -194,8 +215,9 @@ void MeasurementBar::SetAvailable(bool controller, bool idle) {
 }
 
 void MeasurementBar::ShowLightPathClosed(bool closed) {
-  lightWarning_->setVisible(closed);
-  backgroundAge_->setVisible(!closed);
+  // One goes before the other comes: with both at once the window would grow, and stay so.
+  (closed ? backgroundAge_ : lightWarning_)->hide();
+  (closed ? lightWarning_ : backgroundAge_)->show();
 }
 
 }  // namespace vexa

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include <QIcon>
 #include <QLabel>
 #include <QPushButton>
 #include <QRadioButton>
@@ -52,8 +53,13 @@ class MeasurementBar : public QWidget {
   struct SlotRow {
     QRadioButton* option;
     QPushButton* measure;
+    QIcon empty;
+    QIcon filled;
   };
 
+  // Icons are made once: the program keeps a scaled copy of every one that it has ever drawn.
+  QIcon open_;
+  QIcon done_;
   QPushButton* background_;
   QLabel* backgroundAge_;
   QPushButton* reference_;

@@ -9,7 +9,7 @@
 #include "measurement/dispersion_data.h"
 #include "measurement/evaluation.h"
 #include "views/common/quiet_messages.h"
-#include "views/print/current_printer.h"
+#include "views/paper/current_printer.h"
 #include "views/print/page_header.h"
 #include "views/print/report.h"
 

@@ -4,13 +4,14 @@
 #include <QHBoxLayout>
 #include <QPainter>
 
+#include "views/common/elided_label.h"
 #include "views/common/theme.h"
 
 namespace vexa {
 namespace {
 
-constexpr int kEnvironmentWidth = 120;
-constexpr int kVerdictWidth = 150;
+constexpr int kEnvironmentWidth = 90;
+constexpr int kVerdictWidth = 144;  // six of them and the file's name fit onto 1024 pixels
 constexpr int kMarkSize = 16;
 constexpr QColor kGoodPaper{0xe3, 0xf3, 0xe8};
 
@@ -59,7 +60,10 @@ QString Tip(const Judgement& judgement, std::size_t group) {
 
 }  // namespace
 
-StatusPanels::StatusPanels(QWidget* parent) : QStatusBar(parent) {
+StatusPanels::StatusPanels(QWidget* parent)
+    : QStatusBar(parent),
+      passedMark_(DoneIcon(true).pixmap(kMarkSize, kMarkSize)),
+      failedMark_(CrossMark()) {
   setSizeGripEnabled(false);
   setStyleSheet(QStringLiteral("QStatusBar::item { border: none; }"));
   AddEnvironmentPanel();
@@ -70,7 +74,7 @@ StatusPanels::StatusPanels(QWidget* parent) : QStatusBar(parent) {
 }
 
 void StatusPanels::AddEnvironmentPanel() {
-  environment_ = new QLabel;
+  environment_ = new ElidedLabel;
   environment_->setObjectName(QStringLiteral("StatusPanel1"));
   environment_->setTextFormat(Qt::PlainText);
   environment_->setMinimumWidth(kEnvironmentWidth);
@@ -104,10 +108,13 @@ void StatusPanels::ShowJudgement(const Judgement& judgement) {
     const VerdictPanel& panel = verdicts_[group];
     panel.text->setText(judgement.panelTexts[group]);
     panel.text->setToolTip(Tip(judgement, group));
-    panel.text->setStyleSheet(StyleOf(passed).arg(panel.text->objectName()));
+    if (const QString style = StyleOf(passed).arg(panel.text->objectName());
+        style != panel.text->styleSheet()) {
+      panel.text->setStyleSheet(style);
+    }
     panel.mark->setVisible(passed.has_value());
     if (passed) {
-      panel.mark->setPixmap(*passed ? DoneIcon(true).pixmap(kMarkSize, kMarkSize) : CrossMark());
+      panel.mark->setPixmap(*passed ? passedMark_ : failedMark_);
     }
   }
 }

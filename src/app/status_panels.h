@@ -2,6 +2,7 @@
 #pragma once
 
 #include <QLabel>
+#include <QPixmap>
 #include <QStatusBar>
 #include <array>
 
@@ -27,6 +28,9 @@ class StatusPanels : public QStatusBar {
   void AddEnvironmentPanel();
   void AddVerdictPanel(std::size_t group);
 
+  // Made once: the program keeps a scaled copy of every icon that it has ever drawn.
+  QPixmap passedMark_;
+  QPixmap failedMark_;
   QLabel* environment_ = nullptr;
   struct VerdictPanel {
     QLabel* text;

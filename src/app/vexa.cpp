@@ -129,7 +129,8 @@ void VEXA::BuildPanels() {
   layout->addLayout(middle, 1);
   layout->addWidget(BuildResults());
   setCentralWidget(central);
-  resize(QSize(1280, 900).boundedTo(screen()->availableSize()));
+  constexpr QSize kFrameOfWindow(16, 44);
+  resize(QSize(1280, 900).boundedTo(screen()->availableSize() - kFrameOfWindow));
 }
 
 // Scrolls where a low screen has no room for all of it.
@@ -137,7 +138,7 @@ QWidget* VEXA::BuildResults() {
   auto* results = new QWidget;
   auto* column = new QVBoxLayout(results);
   column->setContentsMargins(0, 0, 0, 0);
-  column->setSpacing(8);
+  column->setSpacing(4);
   column->addWidget(colour_);
   column->addWidget(thickness_);
   column->addStretch();
@@ -160,8 +161,16 @@ void VEXA::ConnectCommands() {
       Refresh();
     });
   };
-  enable(commands_.openFile, [&, this] { OpenDataFile(state_, messages, dialogs); });
-  enable(commands_.saveFileAs, [&, this] { SaveDataFileAs(state_, messages, dialogs); });
+  enable(commands_.openFile, [&, this] {
+    if (OpenDataFile(state_, messages, dialogs)) {
+      saved_.Remember(state_);
+    }
+  });
+  enable(commands_.saveFileAs, [&, this] {
+    if (SaveDataFileAs(state_, messages, dialogs)) {
+      saved_.Remember(state_);
+    }
+  });
   enable(commands_.openEnvironment, [&, this] { TakeOverEnvironment(); });
   enable(commands_.saveEnvironment, [&, this] { SaveEnvironment(state_, messages); });
   enable(commands_.saveEnvironmentAs, [&, this] { SaveEnvironmentAs(state_, messages, dialogs); });
@@ -183,10 +192,12 @@ void VEXA::ConnectCommands() {
     };
     table(state_, print, this).exec();
   });
-  enable(commands_.colourDifference,
-         [this] { ColourDifferenceWindow(state_, GetOption(), this).exec(); });
+  enable(commands_.colourDifference, [&, this] {
+    ColourDifferenceWindow(state_, GetOption(), printer_, messages, dialogs, this).exec();
+  });
   enable(commands_.standards, [&, this] { StandardFrm(state_, messages, dialogs, this).exec(); });
-  enable(commands_.wavelengthList, [&, this] { WaveListDlg(state_, printer_, this).exec(); });
+  enable(commands_.wavelengthList,
+         [this] { WaveListDlg(state_, GetOption(), printer_, this).exec(); });
   enable(commands_.thicknessGraph, [this] { ShowThicknessGraph(); });
   enable(commands_.samplingSettings,
          [&, this] { SamplingDlg(state_, *controller_, messages, this).exec(); });
@@ -287,6 +298,7 @@ void VEXA::Print() {
     report_ = UsualReport(state_, today);
   }
   report_.date = today;
+  report_.unsaved = saved_.DifferFrom(state_);
   PrintSlots(state_, GetOption(), report_, printer_, services_.messages, this);
 }
 

@@ -13,7 +13,8 @@
 #include "measurement/measurement_sequence.h"
 #include "measurement/vexatype.h"
 #include "views/common/file_dialogs.h"
-#include "views/print/current_printer.h"
+#include "views/files/saved_slots.h"
+#include "views/paper/current_printer.h"
 #include "views/print/report_request.h"
 
 namespace vexa {
@@ -80,6 +81,7 @@ class VEXA : public QMainWindow {
   QTimer ageTimer_;
   CurrentPrinter printer_;
   ReportRequest report_;  ///< as printed last
+  SavedSlots saved_;
   MenuCommands commands_{};
   MeasurementBar* bar_ = nullptr;
   ProgressStrip* progress_ = nullptr;

@@ -76,7 +76,7 @@ void Step(VEXA& window, std::mt19937& random) {
   } else if (choice == 1 || !window.State().referenceMeasured) {
     Press(window, QStringLiteral("Reference"), "1");
   } else if (choice == 2) {
-    Press(window, QStringLiteral("ALL CLEAR"), "2 3 4 5 6 7 8 9 10 11");
+    Press(window, QStringLiteral("AllClear"), "2 3 4 5 6 7 8 9 10 11");
   } else if (choice < 6) {
     TypeInformation(window, slot, QStringLiteral("試料 %1").arg(random()));
   } else {

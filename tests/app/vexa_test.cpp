@@ -87,7 +87,7 @@ TEST_F(MainWindow, ShowsWhatRunsAndKeepsEverythingElseWaiting) {
   QTimer::singleShot(0, window.get(), [&] {
     looked = true;
     EXPECT_EQ(button.text(), QStringLiteral("*Backgroud*"));
-    for (const char* name : {"Background", "Reference", "Mes1", "Mes10", "ALL CLEAR"}) {
+    for (const char* name : {"Background", "Reference", "Mes1", "Mes10", "AllClear"}) {
       EXPECT_FALSE(Enabled(name)) << name;
     }
     EXPECT_FALSE(window->Commands().quit->isEnabled());
@@ -95,7 +95,7 @@ TEST_F(MainWindow, ShowsWhatRunsAndKeepsEverythingElseWaiting) {
   });
   Measure("Background", 100);
   EXPECT_TRUE(looked);
-  for (const char* name : {"Background", "Reference", "Mes1", "Mes10", "ALL CLEAR"}) {
+  for (const char* name : {"Background", "Reference", "Mes1", "Mes10", "AllClear"}) {
     EXPECT_TRUE(Enabled(name)) << name;
   }
   EXPECT_EQ(button.text(), QStringLiteral("Background"));
@@ -165,9 +165,9 @@ TEST_F(MainWindow, ClosedLightPathAfterAFailureIsShown) {
 TEST_F(MainWindow, AllClearAsksFirst) {
   MeasureThrough(2);
   messages.answers = {MessageResult::kCancel};
-  Press("ALL CLEAR");
+  Press("AllClear");
   EXPECT_TRUE(window->State().Slot(2)->valid);
-  Press("ALL CLEAR");
+  Press("AllClear");
   const ShownMessage question{"ALL CLEAR: 全てのデータをクリアします。よろしいですか？", 33};
   EXPECT_EQ(messages.Take(), (std::vector{question, question}));
   EXPECT_FALSE(window->State().HasValidSlot());
@@ -411,7 +411,7 @@ TEST_F(MainWindow, OpensDataFilesAndEnvironments) {
   EXPECT_EQ(dialogs.filter, "Enviroment File (*.env)|*.env");
   const QString environment = Path("環境.env");
   EXPECT_EQ(window->State().envFileName, environment);
-  Press("ALL CLEAR");
+  Press("AllClear");
   messages.Take();
 
   dialogs.open = Path("a.csv");

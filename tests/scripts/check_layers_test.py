@@ -37,6 +37,12 @@ FAULTS = [
     ("include with blanks", "src/base/a.h", ' #  include  "files/b.h"', "base/ may not include files/"),
     ("include by neighbour", "src/base/a.h", '#include "b.h"', '"b.h" names no folder'),
     ("include by path", "src/base/a.h", '#include "../app/b.h"', '"../app/b.h" is in no folder of src/'),
+    ("tools on a window", "src/views/common/a.cpp", '#include "views/print/b.h"',
+     "views/common/ may not include views/print/"),
+    ("window on a report", "src/views/optics/a.cpp", '#include "views/print/b.h"',
+     "views/optics/ may not include views/print/"),
+    ("view without a folder", "src/views/graph/a.cpp", '#include "views/b.h"',
+     '"views/b.h" is in no folder of views/'),
     ("widget in base", "src/base/a.h", "#include <QWidget>", "base/ may not use windows: QWidget"),
     ("module header in files", "src/files/a.h", "#include <QtGui/QColor>",
      "files/ may not use windows: QtGui/QColor"),
@@ -83,9 +89,11 @@ class CheckLayers(unittest.TestCase):
 
     def test_source_outside_the_table(self):
         self.assertEqual(
-            self.check({"src/tools/a.h": f"// {LICENCE}\n", "src/a.cpp": f"// {LICENCE}\n"}),
+            self.check({"src/tools/a.h": f"// {LICENCE}\n", "src/a.cpp": f"// {LICENCE}\n",
+                        "src/views/lens/a.h": f"// {LICENCE}\n"}),
             (1, ["src/a.cpp:1: a source file belongs into a folder of src/",
-                 "src/tools/a.h:1: tools/ is not in the table of folders"]))
+                 "src/tools/a.h:1: tools/ is not in the table of folders",
+                 "src/views/lens/a.h:1: views/lens is not in the table of folders"]))
 
     def test_a_tree_without_sources_is_wrong_usage(self):
         with tempfile.TemporaryDirectory() as root:

@@ -15,14 +15,17 @@ class PreparedFiles : public FileDialogs {
     filter = asked.toStdString();
     return open;
   }
-  std::optional<SaveChoice> AskSave(const QString& /*title*/, const QString& asked) override {
+  std::optional<SaveChoice> AskSave(const QString& /*title*/, const QString& asked,
+                                    const QString& name) override {
     filter = asked.toStdString();
+    proposed = name.toStdString();
     return save;
   }
 
   std::optional<QString> open;
   std::optional<SaveChoice> save;
-  std::string filter;  ///< of the dialog asked last
+  std::string filter;    ///< of the dialog asked last
+  std::string proposed;  ///< by it
 };
 
 }  // namespace vexa::test

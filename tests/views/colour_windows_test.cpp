@@ -4,12 +4,15 @@
 #include <QApplication>
 #include <QClipboard>
 
+#include "base/code_page.h"
 #include "colour/stock_file.h"
+#include "support/pdf_words.h"
 #include "support/spectra.h"
 #include "support/window_test.h"
 #include "views/colour/background_picture.h"
 #include "views/colour/colour_difference_window.h"
 #include "views/colour/stock_window.h"
+#include "views/paper/current_printer.h"
 
 namespace vexa {
 namespace {
@@ -86,16 +89,33 @@ void Fill(MeasurementSlot& slot, double level, double bump, const char* name) {
   slot.valid = true;
 }
 
-TEST(ColourDifferenceWindow, ComparesEveryOtherValidSlotWithTheStandard) {
-  VEXATYPE state;
+class Difference : public test::ViewTest {
+ protected:
+  CurrentPrinter printer{state, messages, dialogs};
+};
+
+TEST_F(Difference, ComparesEveryOtherValidSlotWithTheStandard) {
   Fill(*state.Slot(2), 50.0, 10.0, "試料\tA");
   Fill(*state.Slot(4), 50.0, 10.0, "同じ");
   Fill(*state.Slot(7), 0.0, 0.0, "黒");
   Fill(*state.Slot(9), 60.0, 12.0, "明るい");
-  ColourDifferenceWindow window(state, 4);
+  ColourDifferenceWindow window(state, 4, printer, messages, dialogs);
   test::Click(window, "CopyTable");
-  const QStringList rows = QApplication::clipboard()->text().split(u'\n', Qt::SkipEmptyParts);
-  ASSERT_EQ(rows.size(), 4);
+  QStringList rows = QApplication::clipboard()->text().split(u'\n', Qt::SkipEmptyParts);
+  ASSERT_EQ(rows.size(), 7);
+  dialogs.save = SaveChoice{files.Path("色差.csv")};
+  test::Click(window, "SaveTable");
+  EXPECT_EQ(CodePageDecoder().Decode(files.Read("色差.csv")),
+            rows.join(QStringLiteral("\r\n")).replace(u'\t', u',') + QStringLiteral("\r\n"));
+  dialogs.save = SaveChoice{files.Path("色差.pdf")};
+  test::Click(window, "PrintTable");
+  const QString printed = test::PdfPages(files.Path("色差.pdf")).join(QString());
+  for (const QString& row : rows) {
+    EXPECT_TRUE(printed.contains(QString(row).replace(u'\t', u' '))) << row.toStdString();
+  }
+  EXPECT_TRUE(rows.first().startsWith(QStringLiteral("基準\tMes4")));
+  EXPECT_EQ(rows.mid(1, 2).join(u' '), QStringLiteral("光源\tA 視野\t2°"));
+  rows = rows.mid(3);
   EXPECT_EQ(rows[0], QStringLiteral("ｽﾛｯﾄ\t試料No\tΔL*\tΔa*\tΔb*\tΔC*\tΔH*\tΔE*ab\tΔE00"));
   EXPECT_EQ(rows[1],
             QStringLiteral("Mes2\t試料 A\t0.000\t0.000\t0.000\t0.000\t0.000\t0.000\t0.000"));
@@ -118,9 +138,8 @@ TEST(ColourDifferenceWindow, ComparesEveryOtherValidSlotWithTheStandard) {
   EXPECT_EQ(table->item(1, 2)->text().toDouble(), -brighter[2].toDouble());
 }
 
-TEST(ColourDifferenceWindow, IsEmptyWithoutSlots) {
-  const VEXATYPE state;
-  const ColourDifferenceWindow window(state, 1);
+TEST_F(Difference, IsEmptyWithoutSlots) {
+  const ColourDifferenceWindow window(state, 1, printer, messages, dialogs);
   EXPECT_EQ(window.findChild<QTableWidget*>()->rowCount(), 0);
 }
 

@@ -11,7 +11,7 @@
 #include "views/optics/optics_print.h"
 #include "views/optics/thick_g_set_dlg.h"
 #include "views/optics/thick_graph.h"
-#include "views/print/current_printer.h"
+#include "views/paper/current_printer.h"
 
 namespace vexa {
 namespace {
@@ -204,7 +204,9 @@ TEST_F(History, PagesFitOntoPaper) {
       [this](QPainter& painter, const QRectF& page) {
         PaintHistoryPage(painter, page, state.thicknessHistory, {1500.0, 1700.0});
       },
-      [&list](QPainter& painter, const QRectF& page) { PaintWaveListPage(painter, page, list); }};
+      [&list](QPainter& painter, const QRectF& page) {
+        PaintWaveListPage(painter, page, QStringLiteral("Mes1  ") + QString(90, u'長'), list);
+      }};
   for (const auto& paint : pages) {
     EXPECT_TRUE(WritePdf(files.Path("頁.pdf"), {}, PageLayoutOf({}), SinglePage(paint)));
     const std::vector<QRectF> words = test::PdfWordPlaces(files.Path("頁.pdf"));

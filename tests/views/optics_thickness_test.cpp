@@ -6,12 +6,13 @@
 #include <cmath>
 #include <numbers>
 
+#include "support/pdf_words.h"
 #include "support/spectra.h"
 #include "support/window_test.h"
-#include "views/optics/jamp_wave.h"
+#include "views/graph/jamp_wave.h"
 #include "views/optics/thickness_panel.h"
 #include "views/optics/wave_list_dlg.h"
-#include "views/print/current_printer.h"
+#include "views/paper/current_printer.h"
 
 namespace vexa {
 namespace {
@@ -103,16 +104,28 @@ TEST_F(Thickness, AutomaticMeasurementFollowsTheState) {
 }
 
 TEST_F(Thickness, WavelengthListHasARowForEachExtremum) {
-  state.extrema.entries[0] = {{600.0, 4.25}, true};
-  state.extrema.entries[1] = {{612.5, 3.5}, false};
-  state.extrema.count = 2;
-  const WaveListDlg dialog(state, printer);
+  MeasurementSlot& slot = *state.Slot(3);
+  slot.valid = true;
+  slot.info = {QStringLiteral("A-003"), {}, {}, QDateTime({2026, 3, 9}, {7, 5, 3})};
+  slot.thickness.extrema.entries[0] = {{600.0, 4.25}, true};
+  slot.thickness.extrema.entries[1] = {{612.5, 3.5}, false};
+  slot.thickness.extrema.count = 2;
+  WaveListDlg dialog(state, 3, printer);
+  EXPECT_EQ(test::Child<QLabel>(dialog, "WaveListSlot").text(),
+            QStringLiteral("Mes3  A-003  2026/3/9 7:05:03"));
   const auto& list = test::Child<QTreeWidget>(dialog, "WaveList");
   ASSERT_EQ(list.topLevelItemCount(), 2);
   const char* const cells[] = {"2", "V", "613", "3.5000"};
   for (int column = 0; column < 4; ++column) {
     EXPECT_EQ(list.topLevelItem(1)->text(column).toStdString(), cells[column]);
   }
+  dialogs.save = SaveChoice{files.Path("一覧.pdf")};
+  test::Click(dialog, "Print");
+  const QString printed = test::PdfPages(files.Path("一覧.pdf")).join(QString());
+  EXPECT_TRUE(printed.contains(QStringLiteral("Mes3 A-003 2026/3/9 7:05:03")))
+      << printed.toStdString();
+  dialog.Show(4);
+  EXPECT_EQ(list.topLevelItemCount(), 0) << "another slot has none";
 }
 
 TEST_F(Thickness, JumpTakesAWholeNumber) {

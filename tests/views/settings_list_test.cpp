@@ -4,6 +4,7 @@
 #include <QPainter>
 
 #include "support/window_test.h"
+#include "views/common/scroll_body.h"
 #include "views/settings/settings_list.h"
 #include "views/settings/table.h"
 
@@ -58,12 +59,13 @@ TEST(SettingsList, IsPrintedWholeWithinThePage) {
     paint(painter, page);
   });
   window.show();
-  test::Click(window, "印刷");
-  const int bottom = page.top() + page.width() * window.height() / window.width();
+  test::Click(window, "Print");
+  const QSize list = window.findChild<ScrollBody*>()->widget()->size();
+  const int bottom = page.top() + page.width() * list.height() / list.width();
   EXPECT_NE(paper.pixelColor(page.right() - 2, bottom - 2), QColor(Qt::white));
   EXPECT_EQ(paper.pixelColor(page.right() + 2, bottom - 2), QColor(Qt::white));
   EXPECT_EQ(paper.pixelColor(page.right() - 2, bottom + 2), QColor(Qt::white));
-  test::Click(window, "閉じる");
+  test::Click(window, "Close");
   EXPECT_FALSE(window.isVisible());
 }
 

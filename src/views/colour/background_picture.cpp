@@ -32,6 +32,12 @@ void BackgroundPicture::Request() {
   timer_.start(0);
 }
 
+void BackgroundPicture::Complete() {
+  while (background_.Step(kPixelsPerTurn)) {
+  }
+  PaintNewPoints();
+}
+
 void BackgroundPicture::RequestAbort() {
   abortRequested_ = building_;
 }

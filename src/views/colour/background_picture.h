@@ -28,6 +28,9 @@ class BackgroundPicture : public QObject {
   /// Begins to build, or goes on where it was stopped; nothing more when the picture is complete.
   void Request();
 
+  /// Builds what is missing at once, without a turn of the event loop.
+  void Complete();
+
   /// Asks the user, before the next pixels, whether to stop; nothing when nothing is built.
   void RequestAbort();
 

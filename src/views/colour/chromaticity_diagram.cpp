@@ -7,7 +7,7 @@
 
 #include "colour/colour_tables.h"
 #include "standards/tolerance_region.h"
-#include "views/colour/colour_texts.h"
+#include "views/common/colour_texts.h"
 #include "views/common/theme.h"
 
 namespace vexa {
@@ -145,18 +145,27 @@ void ChromaticityDiagram::ShowStock(const VEXATYPE& state) {
   replot(rpQueuedReplot);
 }
 
+QSize ChromaticityDiagram::sizeHint() const {
+  constexpr int kUsualWidth = 280;
+  return {kUsualWidth, HeightFor(kUsualWidth)};
+}
+
 int ChromaticityDiagram::HeightFor(int width) {
   return width - kMargins.left() - kMargins.right() + kMargins.top() + kMargins.bottom();
 }
 
 void ChromaticityDiagram::resizeEvent(QResizeEvent* event) {
-  const QRect room = rect().marginsRemoved(kMargins);
+  Fit(size());
+  Plot::resizeEvent(event);
+}
+
+void ChromaticityDiagram::Fit(QSize size) {
+  const QRect room = QRect(QPoint(), size).marginsRemoved(kMargins);
   const int side = std::min(room.width(), room.height());
   const int besides = std::max(0, (room.width() - side) / 2);
   const int above = std::max(0, (room.height() - side) / 2);
   axisRect()->setMargins(kMargins + QMargins(besides, above, room.width() - side - besides,
                                              room.height() - side - above));
-  Plot::resizeEvent(event);
 }
 
 void ChromaticityDiagram::showEvent(QShowEvent* event) {

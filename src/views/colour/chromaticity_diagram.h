@@ -30,6 +30,13 @@ class ChromaticityDiagram : public Plot {
 
   [[nodiscard]] const DiagramMarks& Marks() const { return *marks_; }
 
+  /// Makes the axes the square of a diagram of this size; for one that is drawn without being
+  /// shown.
+  void Fit(QSize size);
+
+  /// As wide and high as a panel shows it where there is room.
+  [[nodiscard]] QSize sizeHint() const override;
+
   /// The height at which the axes of a diagram of this width fill it.
   [[nodiscard]] static int HeightFor(int width);
 

@@ -10,18 +10,26 @@
 #include <QVBoxLayout>
 #include <cmath>
 #include <limits>
+#include <memory>
 #include <optional>
 
 #include "base/number_text.h"
+#include "base/text_file.h"
+#include "base/translation.h"
 #include "colour/colour_difference.h"
 #include "colour/colour_tables.h"
-#include "views/colour/colour_texts.h"
+#include "views/common/colour_texts.h"
+#include "views/common/file_questions.h"
+#include "views/common/proposed_name.h"
 #include "views/common/slot_style.h"
+#include "views/paper/current_printer.h"
+#include "views/paper/page_flow.h"
 
 namespace vexa {
 namespace {
 
 constexpr int kFirstValueColumn = 2;
+constexpr int kWidestColumn = 260;
 
 // Nothing where the spectrum has no colour, as a black one.
 std::optional<LabColour> ColourOf(const MeasurementSlot& slot, const ColourSettings& settings) {
@@ -57,8 +65,15 @@ QString SlotText(int slot) {
 }  // namespace
 
 ColourDifferenceWindow::ColourDifferenceWindow(const VEXATYPE& state, int selectedSlot,
-                                               QWidget* parent)
-    : QDialog(parent), state_(state), standard_(new QComboBox), table_(new QTableWidget) {
+                                               CurrentPrinter& printer, MessageService& messages,
+                                               FileDialogs& dialogs, QWidget* parent)
+    : QDialog(parent),
+      state_(state),
+      printer_(printer),
+      messages_(messages),
+      dialogs_(dialogs),
+      standard_(new QComboBox),
+      table_(new QTableWidget) {
   setObjectName(QStringLiteral("ColourDifferenceWindow"));
   setWindowTitle(QStringLiteral("色差測定"));
   standard_->setObjectName(QStringLiteral("StandardSlot"));
@@ -77,11 +92,19 @@ ColourDifferenceWindow::ColourDifferenceWindow(const VEXATYPE& state, int select
   table_->setColumnCount(static_cast<int>(headers.size()));
   table_->setHorizontalHeaderLabels(headers);
   table_->horizontalHeader()->setSectionResizeMode(QHeaderView::Stretch);
-  table_->horizontalHeader()->setSectionResizeMode(0, QHeaderView::ResizeToContents);
+  for (const int fitted : {0, 1}) {
+    table_->horizontalHeader()->setSectionResizeMode(fitted, QHeaderView::ResizeToContents);
+  }
+  table_->horizontalHeader()->setMaximumSectionSize(kWidestColumn);
+  table_->setTextElideMode(Qt::ElideMiddle);
   table_->horizontalHeader()->setHighlightSections(false);
 
   auto* copy = new QPushButton(QStringLiteral("ｺﾋﾟｰ(&C)"));
   copy->setObjectName(QStringLiteral("CopyTable"));
+  auto* print = new QPushButton(Text::tr("印刷(&P)"));
+  print->setObjectName(QStringLiteral("PrintTable"));
+  auto* save = new QPushButton(Text::tr("保存(&S)"));
+  save->setObjectName(QStringLiteral("SaveTable"));
   auto* closeButton = new QPushButton(QStringLiteral("閉じる"));
   closeButton->setObjectName(QStringLiteral("CloseDifference"));
   auto* conditions = new QLabel(
@@ -94,9 +117,11 @@ ColourDifferenceWindow::ColourDifferenceWindow(const VEXATYPE& state, int select
   top->addWidget(conditions);
   auto* bottom = new QHBoxLayout;
   bottom->addWidget(copy);
+  bottom->addWidget(print);
+  bottom->addWidget(save);
   bottom->addStretch();
   bottom->addWidget(closeButton);
-  for (QPushButton* button : {copy, closeButton}) {
+  for (QPushButton* button : {copy, print, save, closeButton}) {
     button->setMinimumWidth(104);
     button->setAutoDefault(false);
   }
@@ -112,6 +137,8 @@ ColourDifferenceWindow::ColourDifferenceWindow(const VEXATYPE& state, int select
   FillTable();
   connect(standard_, &QComboBox::currentIndexChanged, this, &ColourDifferenceWindow::FillTable);
   connect(copy, &QPushButton::clicked, this, &ColourDifferenceWindow::CopyTable);
+  connect(print, &QPushButton::clicked, this, &ColourDifferenceWindow::Print);
+  connect(save, &QPushButton::clicked, this, &ColourDifferenceWindow::Export);
   connect(new QShortcut(QKeySequence::Copy, this), &QShortcut::activated, this,
           &ColourDifferenceWindow::CopyTable);
   connect(closeButton, &QPushButton::clicked, this, &QDialog::accept);
@@ -145,7 +172,10 @@ void ColourDifferenceWindow::AddRow(int slot, int standard) {
   const int row = table_->rowCount();
   table_->insertRow(row);
   table_->setItem(row, 0, new QTableWidgetItem(SlotIcon(slot, true), SlotText(slot)));
-  table_->setItem(row, 1, new QTableWidgetItem(state_.Slot(slot)->info.sampleNumber.simplified()));
+  const QString sampleNumber = state_.Slot(slot)->info.sampleNumber.simplified();
+  auto* sample = new QTableWidgetItem(sampleNumber);
+  sample->setToolTip(sampleNumber);
+  table_->setItem(row, 1, sample);
   int column = kFirstValueColumn;
   for (const QString& text : DifferenceTexts(ColourOf(*state_.Slot(standard), state_.colour),
                                              ColourOf(*state_.Slot(slot), state_.colour))) {
@@ -155,17 +185,80 @@ void ColourDifferenceWindow::AddRow(int slot, int standard) {
   }
 }
 
+QList<QStringList> ColourDifferenceWindow::Content() const {
+  QList<QStringList> rows{
+      {Text::tr("基準"), standard_->currentText().simplified()},
+      {Text::tr("光源"), IlluminantText(state_.colour.illuminant)},
+      {Text::tr("視野"), ObserverText(state_.colour.observer2Deg) + QStringLiteral("°")}};
+  for (int row = -1; row < table_->rowCount(); ++row) {
+    QStringList cells;
+    for (int column = 0; column < table_->columnCount(); ++column) {
+      cells << (row < 0 ? table_->horizontalHeaderItem(column) : table_->item(row, column))->text();
+    }
+    rows << cells;
+  }
+  return rows;
+}
+
 void ColourDifferenceWindow::CopyTable() const {
   QString text;
-  for (int row = -1; row < table_->rowCount(); ++row) {
-    QStringList fields;
-    for (int column = 0; column < table_->columnCount(); ++column) {
-      fields
-          << (row < 0 ? table_->horizontalHeaderItem(column) : table_->item(row, column))->text();
-    }
-    text += fields.join(u'\t') + u'\n';
+  for (const QStringList& cells : Content()) {
+    text += cells.join(u'\t') + u'\n';
   }
   QApplication::clipboard()->setText(text);
+}
+
+void ColourDifferenceWindow::Print() {
+  const QList<QStringList> content = Content();
+  PageTable conditions{.caption = windowTitle(),
+                       .columns = {{{}, 300.0, Qt::AlignLeft}, {{}, 1500.0, Qt::AlignLeft, true}},
+                       .rows = {}};
+  PageTable table;
+  for (const QStringList& cells : content) {
+    PageTable& part = cells.size() == 2 ? conditions : table;
+    if (&part == &table && table.columns.empty()) {
+      for (const QString& heading : cells) {
+        const bool text = table.columns.size() < kFirstValueColumn;
+        table.columns.push_back({heading, table.columns.size() == 1 ? 420.0 : 170.0,
+                                 text ? Qt::AlignLeft : Qt::AlignRight, text});
+      }
+      continue;
+    }
+    std::vector<PageTable::Cell>& row = part.rows.emplace_back();
+    for (const QString& cell : cells) {
+      row.push_back({cell});
+    }
+  }
+  printer_.Print(windowTitle(), [conditions, table](const QSizeF& page) {
+    const auto flow = std::make_shared<PageFlow>(QRectF(QPointF(), page));
+    flow->Add(conditions);
+    flow->Add(table);
+    return PrintedPages{flow->PageCount(), [flow](QPainter& painter, int number) {
+                          flow->PaintPage(painter, number);
+                        }};
+  });
+}
+
+void ColourDifferenceWindow::Export() {
+  const std::optional<SaveChoice> choice =
+      dialogs_.AskSave(windowTitle(), QStringLiteral("CSV(*.csv)|*.csv"),
+                       WithExtension(ProposedName(state_), QStringLiteral(".csv")));
+  if (!choice) {
+    return;
+  }
+  const QString path = WithExtension(choice->path, QStringLiteral(".csv"));
+  FileText text;
+  for (QStringList cells : Content()) {
+    for (QString& cell : cells) {
+      if (cell.contains(u',') || cell.contains(u'"')) {
+        cell = u'"' + cell.replace(u'"', QStringLiteral("\"\"")) + u'"';
+      }
+    }
+    text.Line(cells.join(u','));
+  }
+  if (MayReplace(path, messages_) && !text.WriteTo(path)) {
+    ShowWriteError(path, messages_);
+  }
 }
 
 }  // namespace vexa

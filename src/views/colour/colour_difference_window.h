@@ -6,26 +6,40 @@
 #include <QLabel>
 #include <QTableWidget>
 
+#include "base/message.h"
 #include "measurement/vexatype.h"
+#include "views/common/file_dialogs.h"
 
 namespace vexa {
 
+class CurrentPrinter;
+
 /// Compares the valid slots with one of them, the standard. All colours are computed under the
-/// colour settings in force, whichever were so when the slots were measured.
+/// colour settings in force, whichever were so when the slots were measured. What is shown can be
+/// copied, printed and saved as a comma-separated file, each time with the standard and the
+/// conditions.
 class ColourDifferenceWindow : public QDialog {
   Q_OBJECT
 
  public:
   /// The selected slot is the first standard, or, when it is empty, the first valid one.
-  ColourDifferenceWindow(const VEXATYPE& state, int selectedSlot, QWidget* parent = nullptr);
+  ColourDifferenceWindow(const VEXATYPE& state, int selectedSlot, CurrentPrinter& printer,
+                         MessageService& messages, FileDialogs& dialogs, QWidget* parent = nullptr);
 
  private:
   void FillStandards(int selectedSlot);
   void FillTable();
   void AddRow(int slot, int standard);
+  /// The rows with their headings; above them, in two columns, the standard and the conditions.
+  [[nodiscard]] QList<QStringList> Content() const;
   void CopyTable() const;
+  void Print();
+  void Export();
 
   const VEXATYPE& state_;
+  CurrentPrinter& printer_;
+  MessageService& messages_;
+  FileDialogs& dialogs_;
   QComboBox* standard_;
   QTableWidget* table_;
 };

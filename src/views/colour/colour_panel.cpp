@@ -9,16 +9,18 @@
 #include "colour/colour_tables.h"
 #include "views/colour/background_picture.h"
 #include "views/colour/chromaticity_diagram.h"
-#include "views/colour/colour_texts.h"
 #include "views/colour/stock_window.h"
+#include "views/common/colour_texts.h"
 #include "views/common/plot_export.h"
+#include "views/common/proposed_name.h"
 #include "views/common/theme.h"
 
 namespace vexa {
 namespace {
 
 constexpr int kWidth = 296;
-constexpr int kDiagramWidth = 280;
+constexpr int kSmallestDiagram = 200;  // on a low screen
+constexpr int kButtonPadding = 20;
 const QString kNone = QStringLiteral("-");
 
 }  // namespace
@@ -34,7 +36,7 @@ ColourPanel::ColourPanel(VEXATYPE& state, MessageService& messages, FileDialogs&
   setFixedWidth(kWidth);
   auto* layout = new QVBoxLayout(this);
   layout->setContentsMargins(0, 0, 0, 0);
-  layout->setSpacing(8);
+  layout->setSpacing(4);
   layout->addWidget(BuildDiagram());
   layout->addWidget(BuildValues());
   layout->addWidget(BuildStock());
@@ -51,8 +53,9 @@ void ColourPanel::Show(int selectedSlot) {
 QWidget* ColourPanel::BuildDiagram() {
   auto* group = new QGroupBox(QStringLiteral("色度図"));
   diagram_ = new ChromaticityDiagram(picture_);
-  AddExport(*diagram_, messages_, dialogs_);
-  diagram_->setFixedHeight(ChromaticityDiagram::HeightFor(kDiagramWidth));
+  AddExport(*diagram_, messages_, dialogs_, [this] { return ProposedName(state_); });
+  diagram_->setMinimumHeight(ChromaticityDiagram::HeightFor(kSmallestDiagram));
+  diagram_->setMaximumHeight(diagram_->sizeHint().height());
   auto* layout = new QVBoxLayout(group);
   layout->setContentsMargins(6, 4, 6, 6);
   layout->addWidget(diagram_);
@@ -63,7 +66,7 @@ QWidget* ColourPanel::BuildValues() {
   values_ = new QGroupBox;
   auto* grid = new QGridLayout(values_);
   grid->setContentsMargins(12, 6, 12, 8);
-  grid->setVerticalSpacing(4);
+  grid->setVerticalSpacing(1);
   grid->setHorizontalSpacing(6);
   grid->setColumnStretch(1, 1);
   const QString degree = QStringLiteral("°");
@@ -109,12 +112,14 @@ QWidget* ColourPanel::BuildStock() {
   auto* open = new QPushButton(QStringLiteral("累積色度図"));
   open->setObjectName(QStringLiteral("StockShow"));
   auto* grid = new QGridLayout(group);
-  grid->setContentsMargins(12, 8, 12, 8);
-  grid->setVerticalSpacing(8);
+  grid->setContentsMargins(12, 6, 12, 6);
   grid->addWidget(accumulate_, 0, 0);
   grid->addWidget(count_, 0, 1, Qt::AlignRight);
-  grid->addWidget(clear_, 1, 0);
-  grid->addWidget(open, 1, 1);
+  grid->addWidget(clear_, 0, 2);
+  grid->addWidget(open, 0, 3);
+  grid->setColumnStretch(1, 1);
+  clear_->setFixedWidth(clear_->fontMetrics().horizontalAdvance(clear_->text()) + kButtonPadding);
+  open->setFixedWidth(open->fontMetrics().horizontalAdvance(open->text()) + kButtonPadding);
 
   connect(accumulate_, &QCheckBox::clicked, this, &ColourPanel::SetAccumulating);
   connect(clear_, &QPushButton::clicked, this, [this] {

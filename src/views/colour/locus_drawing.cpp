@@ -86,6 +86,7 @@ void LocusDrawing::AddLabel(const LocusPoint& point) {
   label->setFont(labelFont_);
   label->setColor(theme::kMutedText);
   label->setPadding(QMargins(5, 0, 5, 0));
+  label->setClipToAxisRect(false);  // in a small diagram the leftmost reach out of the axes
   label->setPositionAlignment((point.nm < 500 ? Qt::AlignRight : Qt::AlignLeft) | Qt::AlignVCenter);
   label->position->setCoords(point.at.x, point.at.y);
   labels_.push_back(label);

@@ -6,8 +6,8 @@
 
 #include "colour/stock_file.h"
 #include "views/colour/chromaticity_diagram.h"
+#include "views/common/file_questions.h"
 #include "views/common/plot_export.h"
-#include "views/files/data_file_commands.h"
 
 namespace vexa {
 namespace {

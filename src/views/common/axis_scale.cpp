@@ -1,9 +1,53 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "views/common/axis_scale.h"
 
+#include <algorithm>
 #include <cmath>
 
 namespace vexa {
+namespace {
+
+// What an axis leaves of the plot for its labels, about.
+constexpr double kBesidesAxis = 80.0;
+constexpr double kGapOfLabels = 10.0;
+
+/// Ticks at an interval with as many labels as the plot has room for in its present size.
+class ThinnedTicker : public QCPAxisTickerFixed {
+ public:
+  explicit ThinnedTicker(const QCPAxis& axis) : axis_(axis) {}
+
+ protected:
+  QVector<QString> createLabelVector(const QVector<double>& ticks, const QLocale& locale,
+                                     QChar formatChar, int precision) override {
+    QVector<QString> labels =
+        QCPAxisTickerFixed::createLabelVector(ticks, locale, formatChar, precision);
+    const QFontMetricsF metrics(axis_.tickLabelFont());
+    const bool horizontal = axis_.orientation() == Qt::Horizontal;
+    double needed = metrics.height();
+    for (const QString& label : labels) {
+      needed =
+          horizontal ? std::max(needed, metrics.horizontalAdvance(label) + kGapOfLabels) : needed;
+    }
+    const QRect place = axis_.parentPlot()->viewport();
+    const double length = (horizontal ? place.width() : place.height()) - kBesidesAxis;
+    const double pitch = tickStep() / axis_.range().size() * std::max(length, 1.0);
+    qint64 every = 1;
+    for (const qint64 step : {2, 5, 10, 20, 50, 100}) {
+      every = static_cast<double>(every) * pitch < needed ? step : every;
+    }
+    for (qsizetype i = 0; i < labels.size(); ++i) {
+      if (std::llround(ticks[i] / tickStep()) % every != 0) {
+        labels[i].clear();
+      }
+    }
+    return labels;
+  }
+
+ private:
+  const QCPAxis& axis_;
+};
+
+}  // namespace
 
 double RoundedUp(double value) {
   const double decade = std::pow(10.0, std::floor(std::log10(value)));
@@ -21,7 +65,7 @@ void SetTicks(QCPAxis& axis, double interval) {
     axis.setTicker(QSharedPointer<QCPAxisTicker>::create());
     return;
   }
-  auto ticker = QSharedPointer<QCPAxisTickerFixed>::create();
+  auto ticker = QSharedPointer<ThinnedTicker>::create(axis);
   ticker->setTickStep(interval);
   ticker->setScaleStrategy(QCPAxisTickerFixed::ssNone);
   axis.setTicker(ticker);

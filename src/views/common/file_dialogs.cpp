@@ -48,13 +48,17 @@ std::optional<QString> WindowFileDialogs::AskOpen(const QString& title, const QS
   return path;
 }
 
-std::optional<SaveChoice> WindowFileDialogs::AskSave(const QString& title, const QString& filter) {
+std::optional<SaveChoice> WindowFileDialogs::AskSave(const QString& title, const QString& filter,
+                                                     const QString& proposed) {
   QFileDialog dialog(window_, title);
   dialog.setAcceptMode(QFileDialog::AcceptSave);
   dialog.setFileMode(QFileDialog::AnyFile);
   dialog.setOption(QFileDialog::DontConfirmOverwrite);
   const NameFilters names = Split(filter);
   Prepare(dialog, names, folder_);
+  if (!proposed.isEmpty()) {
+    dialog.selectFile(proposed);
+  }
   if (dialog.exec() != QDialog::Accepted) {
     return std::nullopt;
   }

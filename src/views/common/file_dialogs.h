@@ -27,8 +27,13 @@ class FileDialogs {
   /// An existing file; nothing when cancelled.
   virtual std::optional<QString> AskOpen(const QString& title, const QString& filter) = 0;
 
-  /// A file name without a question about overwriting; nothing when cancelled.
-  virtual std::optional<SaveChoice> AskSave(const QString& title, const QString& filter) = 0;
+  /// A file name without a question about overwriting; nothing when cancelled. `proposed` stands in
+  /// the entry at first.
+  virtual std::optional<SaveChoice> AskSave(const QString& title, const QString& filter,
+                                            const QString& proposed) = 0;
+  std::optional<SaveChoice> AskSave(const QString& title, const QString& filter) {
+    return AskSave(title, filter, {});
+  }
 };
 
 /// The toolkit's dialogs over a window. They remember the folder used last.
@@ -37,7 +42,9 @@ class WindowFileDialogs : public FileDialogs {
   void SetWindow(QWidget* window) { window_ = window; }
 
   std::optional<QString> AskOpen(const QString& title, const QString& filter) override;
-  std::optional<SaveChoice> AskSave(const QString& title, const QString& filter) override;
+  using FileDialogs::AskSave;
+  std::optional<SaveChoice> AskSave(const QString& title, const QString& filter,
+                                    const QString& proposed) override;
 
  private:
   QWidget* window_ = nullptr;

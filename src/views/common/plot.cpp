@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "views/common/plot.h"
 
+#include "views/common/fitted_legend.h"
 #include "views/common/theme.h"
 
 namespace vexa {
@@ -26,15 +27,18 @@ Plot::Plot(QWidget* parent) : QCustomPlot(parent) {
     axis->grid()->setPen(gridPen);
     axis->grid()->setZeroLinePen(gridPen);
   }
-  legend->setFont(font());
-  legend->setTextColor(theme::kText);
-  legend->setBorderPen(QPen(theme::kBorder, 1.0));
-  legend->setBrush(QColor(255, 255, 255, 230));
-  legend->setIconSize(28, 14);
-  legend->setRowSpacing(0);
 }
 
-void Plot::PlaceLegendAbove(int columns) {
+void Plot::AddCursorLayer() {
+  addLayer(QLatin1String(kCursorLayer), layer(QStringLiteral("overlay")), limAbove);
+  layer(QLatin1String(kCursorLayer))->setMode(QCPLayer::lmBuffered);
+}
+
+FittedLegend* Plot::PlaceLegendAbove() {
+  delete legend;
+  auto* fitted = new FittedLegend;
+  legend = fitted;
+  legend->setVisible(false);
   plotLayout()->insertRow(0);
   // Beside an element that takes the rest, so that an empty legend does not squeeze the axes.
   auto* row = new QCPLayoutGrid;
@@ -44,11 +48,16 @@ void Plot::PlaceLegendAbove(int columns) {
   row->setColumnStretchFactor(0, 0.001);
   plotLayout()->setRowStretchFactor(0, 0.001);
   plotLayout()->setRowSpacing(0);
-  legend->setFillOrder(QCPLegend::foColumnsFirst);
-  legend->setWrap(columns);
+  legend->setLayer(QStringLiteral("legend"));
+  legend->setFont(font());
+  legend->setTextColor(theme::kText);
   legend->setBorderPen(Qt::NoPen);
+  legend->setBrush(Qt::NoBrush);
+  legend->setIconSize(28, 14);
+  legend->setRowSpacing(0);
   legend->setColumnSpacing(18);
   legend->setMargins(QMargins(56, 8, 12, 0));
+  return fitted;
 }
 
 void Plot::RepaintLayer(const QString& name) {

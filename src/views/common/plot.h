@@ -5,6 +5,11 @@
 
 namespace vexa {
 
+class FittedLegend;
+
+/// The layer of what guides the user on the screen alone: pictures leave it out.
+inline constexpr const char* kCursorLayer = "cursor";
+
 /// What all graphs of the program share: the look (a closed frame, a pale grid, inner ticks), no
 /// painting before they are shown, and layers that are painted again alone.
 class Plot : public QCustomPlot {
@@ -13,9 +18,11 @@ class Plot : public QCustomPlot {
  protected:
   explicit Plot(QWidget* parent);
 
-  /// Puts the legend into a row of its own above the axes, at most `columns` entries wide, so that
-  /// it never covers a curve.
-  void PlaceLegendAbove(int columns);
+  /// Makes the cursor's layer, the topmost one, which is painted again alone.
+  void AddCursorLayer();
+
+  /// Makes the legend a FittedLegend above the axes, so that it never covers a curve.
+  FittedLegend* PlaceLegendAbove();
 
   /// Paints a buffered layer again; with the whole graph, later, when that is to be painted anyway.
   void RepaintLayer(const QString& name);

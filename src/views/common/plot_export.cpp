@@ -9,15 +9,42 @@
 #include <QSvgGenerator>
 
 #include "base/replace_file.h"
+#include "views/common/file_questions.h"
 #include "views/common/pdf_text.h"
-#include "views/files/file_questions.h"
+#include "views/common/plot.h"
 
 namespace vexa {
 namespace {
 
 constexpr double kPixelsPerDot = 2.0;
 
+/// Takes the cursor out of what is drawn meanwhile.
+class WithoutCursor {
+ public:
+  explicit WithoutCursor(QCustomPlot& plot) : layer_(plot.layer(QLatin1String(kCursorLayer))) {
+    Show(false);
+  }
+  ~WithoutCursor() { Show(true); }
+  WithoutCursor(const WithoutCursor&) = delete;
+  WithoutCursor& operator=(const WithoutCursor&) = delete;
+
+ private:
+  void Show(bool shown) {
+    if (layer_ != nullptr) {
+      layer_->setVisible(shown);
+    }
+  }
+
+  QCPLayer* layer_;
+};
+
+QPixmap Pixmap(QCustomPlot& plot) {
+  const WithoutCursor picture(plot);
+  return plot.toPixmap(0, 0, kPixelsPerDot);
+}
+
 void Paint(QCustomPlot& plot, QPaintDevice& device, double scale) {
+  const WithoutCursor picture(plot);
   QCPPainter painter(&device);
   painter.setMode(QCPPainter::pmVectorized);
   painter.setMode(QCPPainter::pmNoCaching);
@@ -25,10 +52,11 @@ void Paint(QCustomPlot& plot, QPaintDevice& device, double scale) {
   plot.toPainter(&painter, plot.width(), plot.height());
 }
 
-void SavePicture(QCustomPlot& plot, MessageService& messages, FileDialogs& dialogs) {
+void SavePicture(QCustomPlot& plot, MessageService& messages, FileDialogs& dialogs,
+                 const QString& name) {
   const std::optional<SaveChoice> choice =
       dialogs.AskSave(QStringLiteral("ｸﾞﾗﾌの保存"),
-                      QStringLiteral("PNG(*.png)|*.png|SVG(*.svg)|*.svg|PDF(*.pdf)|*.pdf"));
+                      QStringLiteral("PNG(*.png)|*.png|SVG(*.svg)|*.svg|PDF(*.pdf)|*.pdf"), name);
   if (!choice) {
     return;
   }
@@ -44,16 +72,18 @@ void SavePicture(QCustomPlot& plot, MessageService& messages, FileDialogs& dialo
 
 }  // namespace
 
-void AddExport(QCustomPlot& plot, MessageService& messages, FileDialogs& dialogs) {
+void AddExport(QCustomPlot& plot, MessageService& messages, FileDialogs& dialogs,
+               const std::function<QString()>& name) {
   plot.setContextMenuPolicy(Qt::ActionsContextMenu);
   auto* copy = new QAction(QStringLiteral("ｸﾞﾗﾌをｺﾋﾟｰ"), &plot);
   copy->setShortcut(QKeySequence::Copy);
   copy->setShortcutContext(Qt::WidgetShortcut);
-  QObject::connect(copy, &QAction::triggered, &plot, [&plot] {
-    QGuiApplication::clipboard()->setPixmap(plot.toPixmap(0, 0, kPixelsPerDot));
-  });
+  QObject::connect(copy, &QAction::triggered, &plot,
+                   [&plot] { QGuiApplication::clipboard()->setPixmap(Pixmap(plot)); });
   auto* save = new QAction(QStringLiteral("ｸﾞﾗﾌの保存..."), &plot);
-  QObject::connect(save, &QAction::triggered, &plot, [&] { SavePicture(plot, messages, dialogs); });
+  QObject::connect(save, &QAction::triggered, &plot, [&plot, &messages, &dialogs, name] {
+    SavePicture(plot, messages, dialogs, name ? name() : QString());
+  });
   plot.addActions({copy, save});
 }
 
@@ -76,7 +106,7 @@ QByteArray PlotPicture(QCustomPlot& plot, const QString& suffix) {
     Paint(plot, pdf, static_cast<double>(pdf.width()) / plot.width());
     NameCharacters(bytes, plot.font());
   } else {
-    plot.toPixmap(0, 0, kPixelsPerDot).save(&buffer, "PNG");
+    Pixmap(plot).save(&buffer, "PNG");
   }
   return bytes;
 }

@@ -3,6 +3,8 @@
 
 #include <qcustomplot.h>
 
+#include <functional>
+
 #include "base/message.h"
 #include "views/common/file_dialogs.h"
 
@@ -10,7 +12,9 @@ namespace vexa {
 
 /// Lets the user take a plot elsewhere: the context menu copies it to the clipboard as a picture
 /// (Ctrl+C, at twice the size of the screen) or saves it as PNG, SVG or PDF.
-void AddExport(QCustomPlot& plot, MessageService& messages, FileDialogs& dialogs);
+/// `name` proposes a file name without its ending, where it is given.
+void AddExport(QCustomPlot& plot, MessageService& messages, FileDialogs& dialogs,
+               const std::function<QString()>& name = {});
 
 /// The plot as the bytes of a picture file; the suffix "svg" or "pdf" decides, all else is PNG.
 [[nodiscard]] QByteArray PlotPicture(QCustomPlot& plot, const QString& suffix);

@@ -11,6 +11,8 @@
 
 #include "base/code_page.h"
 #include "base/date_text.h"
+#include "views/common/dialog_buttons.h"
+#include "views/common/scroll_body.h"
 
 namespace vexa {
 namespace {
@@ -81,8 +83,13 @@ AddinpFrm::AddinpFrm(VEXATYPE& state, MessageService& messages, QWidget* parent)
   auto* layout = new QVBoxLayout(this);
   layout->setContentsMargins(18, 16, 18, 16);
   layout->setSpacing(16);
-  layout->addLayout(grid);
+  auto* entries = new QWidget;
+  entries->setLayout(grid);
+  grid->setContentsMargins(0, 0, 0, 0);
+  layout->addWidget(new ScrollBody(entries), 1);
   layout->addLayout(buttons);
+  BeginWithFirstField(*this);
+  resize(sizeHint());
 }
 
 void AddinpFrm::accept() {
@@ -144,7 +151,7 @@ bool AddinpFrm::eventFilter(QObject* watched, QEvent* event) {
 void AddinpFrm::Refuse(QLineEdit& entry, const QString& text) {
   messages_.MsgCall(text + QStringLiteral("\r\r") + entry.text(),
                     message_type::kOk + message_type::kStopIcon, message_title::kError);
-  entry.setFocus();
+  EnterAgain(entry);
 }
 
 }  // namespace vexa

@@ -7,25 +7,27 @@ namespace vexa {
 
 using namespace message_type;
 
-void OpenDataFile(VEXATYPE& state, MessageService& messages, FileDialogs& dialogs) {
+bool OpenDataFile(VEXATYPE& state, MessageService& messages, FileDialogs& dialogs) {
   const std::optional<QString> path = dialogs.AskOpen(
       QStringLiteral("ﾌｧｲﾙを開く"), QStringLiteral("ﾃﾞｰﾀ･ﾌｧｲﾙ(*.csv,*.dat)|*.csv;*.dat|"));
   if (path && ReadDataFile(*path, state, messages)) {
     state.currentDataFileName = *path;
+    return true;
   }
+  return false;
 }
 
-void SaveDataFileAs(VEXATYPE& state, MessageService& messages, FileDialogs& dialogs) {
+bool SaveDataFileAs(VEXATYPE& state, MessageService& messages, FileDialogs& dialogs) {
   if (!state.HasValidSlot()) {
     messages.MsgCall(QStringLiteral("有効ﾃﾞｰﾀがありません。"), kOk + kInformationIcon,
                      message_title::kInformation);
-    return;
+    return false;
   }
   const std::optional<SaveChoice> choice = dialogs.AskSave(
       QStringLiteral("ﾌｧｲﾙの名前を付けて保存"),
       QStringLiteral("Data File(*.csv)|*.csv|Data File(*.dat)|*.dat|Data File(5)(*.dat)|*.dat"));
   if (!choice) {
-    return;
+    return false;
   }
   const QStringList extensions{QStringLiteral(".csv"), QStringLiteral(".dat")};
   auto layout = static_cast<DataFileLayout>(choice->filterIndex);
@@ -37,13 +39,14 @@ void SaveDataFileAs(VEXATYPE& state, MessageService& messages, FileDialogs& dial
     layout = ending;
   }
   if (!MayReplace(path, messages)) {
-    return;
+    return false;
   }
-  if (WriteDataFile(path, layout, state)) {
-    state.currentDataFileName = path;
-  } else {
+  if (!WriteDataFile(path, layout, state)) {
     ShowWriteError(path, messages);
+    return false;
   }
+  state.currentDataFileName = path;
+  return true;
 }
 
 }  // namespace vexa

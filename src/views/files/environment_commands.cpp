@@ -5,7 +5,7 @@
 #include "files/environment_file.h"
 #include "measurement/dispersion_data.h"
 #include "measurement/evaluation.h"
-#include "views/files/file_questions.h"
+#include "views/common/file_questions.h"
 
 namespace vexa {
 namespace {

@@ -12,12 +12,11 @@ constexpr int kRepeatMs = 70;
 constexpr int kTicksBeforeRepeat = 3;
 // The ten slots and the reference data.
 constexpr int kMostCurves = kSlotCount + 1;
-constexpr int kRows = 2;
-constexpr int kColumns = (kMostCurves + kRows - 1) / kRows;
 
 }  // namespace
 
-CursorStrip::CursorStrip(QWidget* parent) : QWidget(parent), wavelength_(new QLabel) {
+CursorStrip::CursorStrip(QWidget* parent)
+    : QWidget(parent), wavelength_(new QLabel), grid_(new QGridLayout) {
   setObjectName(QStringLiteral("CursorStrip"));
   wavelength_->setObjectName(QStringLiteral("CursorWavelength"));
   wavelength_->setAlignment(Qt::AlignCenter);
@@ -28,18 +27,39 @@ CursorStrip::CursorStrip(QWidget* parent) : QWidget(parent), wavelength_(new QLa
   layout->addWidget(StepButton("CursorDown", -1));
   layout->addWidget(wavelength_);
   layout->addWidget(StepButton("CursorUp", 1));
-  auto* values = new QGridLayout;
-  values->setVerticalSpacing(1);
-  layout->addLayout(values, 1);
-  setFixedHeight(kRows * (fontMetrics().height() + 3));
+  grid_->setVerticalSpacing(1);
+  layout->addLayout(grid_, 1);
   for (int i = 0; i < kMostCurves; ++i) {
-    auto* value = new QLabel;
+    auto* value = new QLabel(this);
     value->setObjectName(QStringLiteral("CursorValue%1").arg(i + 1));
     value->setTextFormat(Qt::RichText);
-    values->addWidget(value, i / kColumns, i % kColumns, Qt::AlignVCenter);
-    values->setColumnStretch(i % kColumns, 1);
+    value->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
     values_.push_back(value);
   }
+  Arrange();
+}
+
+void CursorStrip::resizeEvent(QResizeEvent* event) {
+  QWidget::resizeEvent(event);
+  Arrange();
+}
+
+// Two rows where there is room for them.
+void CursorStrip::Arrange() {
+  const int besides = layout()->minimumSize().width();
+  const int most =
+      (width() - besides) / fontMetrics().horizontalAdvance(QStringLiteral("■ 10: 100.000"));
+  const int rows = kMostCurves <= 2 * most ? 2 : 3;
+  if (rows == rows_) {
+    return;
+  }
+  rows_ = rows;
+  const int columns = (kMostCurves + rows - 1) / rows;
+  for (int i = 0; i < kMostCurves; ++i) {
+    grid_->addWidget(values_[static_cast<std::size_t>(i)], i / columns, i % columns);
+    grid_->setColumnStretch(i, i < columns ? 1 : 0);
+  }
+  setFixedHeight(rows * (fontMetrics().height() + 3));
 }
 
 void CursorStrip::Show(const std::vector<SpectrumCurve>& curves, int nm, QStringView pattern) {

@@ -7,6 +7,8 @@
 
 #include "views/graph/spectrum_curves.h"
 
+class QGridLayout;
+
 namespace vexa {
 
 /// The cursor's place and what all curves are there, between two buttons that step it, again and
@@ -24,10 +26,16 @@ class CursorStrip : public QWidget {
   /// One nanometre down (-1) or up (1).
   void StepRequested(int by);
 
+ protected:
+  void resizeEvent(QResizeEvent* event) override;
+
  private:
   QPushButton* StepButton(const char* name, int by);
+  void Arrange();
 
   QLabel* wavelength_;
+  QGridLayout* grid_;
+  int rows_ = 0;
   std::vector<QLabel*> values_;
 };
 

@@ -9,12 +9,13 @@
 #include "standards/reflectance_band.h"
 #include "views/colour/chromaticity_diagram.h"
 #include "views/common/plot_export.h"
+#include "views/common/proposed_name.h"
 #include "views/graph/cursor_strip.h"
 #include "views/graph/index_graph.h"
+#include "views/graph/jamp_wave.h"
 #include "views/graph/light_graph.h"
 #include "views/graph/reflectance_graph.h"
 #include "views/graph/spectrum_table.h"
-#include "views/optics/jamp_wave.h"
 
 namespace vexa {
 namespace {
@@ -54,7 +55,7 @@ void MainViews::Show(int selectedSlot) {
   }
   view.show(selectedSlot);
   if (view.graph != nullptr) {
-    view.graph->MoveCursor(cursorNm_);
+    view.graph->SetCursor(cursorNm_);
   }
   stack_->setCurrentWidget(view.widget);
   strip_->setVisible(view.graph != nullptr && state_.display.showCursor);
@@ -86,7 +87,7 @@ MainViews::View MainViews::BuildView(std::size_t number) {
 }
 
 MainViews::View MainViews::GraphView(SpectrumGraph* graph, QStringView pattern) {
-  AddExport(*graph, messages_, dialogs_);
+  AddExport(*graph, messages_, dialogs_, [this] { return ProposedName(state_); });
   connect(graph, &SpectrumGraph::CursorMoved, this, [this](int nm) {
     cursorNm_ = nm;
     ShowCursor();
@@ -116,7 +117,7 @@ MainViews::View MainViews::TableView(const QString& name, bool light) {
 
 MainViews::View MainViews::DiagramView() {
   auto* diagram = new ChromaticityDiagram(picture_);
-  AddExport(*diagram, messages_, dialogs_);
+  AddExport(*diagram, messages_, dialogs_, [this] { return ProposedName(state_); });
   return {diagram, [this, diagram](int slot) { diagram->ShowSlots(state_, slot); }};
 }
 

@@ -7,12 +7,36 @@
 #include "views/common/theme.h"
 
 namespace vexa {
+namespace {
+
+/// Text with a thin light edge: readable over a curve, which stays as it is beside the letters.
+class EdgedText : public QCPItemText {
+ public:
+  using QCPItemText::QCPItemText;
+
+ protected:
+  void draw(QCPPainter* painter) override {
+    const QColor colour = color();
+    setColor(theme::kPanel);
+    for (const QPointF by :
+         {QPointF(-1.0, 0.0), QPointF(1.0, 0.0), QPointF(0.0, -1.0), QPointF(0.0, 1.0)}) {
+      painter->save();
+      painter->translate(by);
+      QCPItemText::draw(painter);
+      painter->restore();
+    }
+    setColor(colour);
+    QCPItemText::draw(painter);
+  }
+};
+
+}  // namespace
 
 MinimumMark::MinimumMark(QCustomPlot& plot, Abscissa abscissa)
     : plot_(plot),
       abscissa_(abscissa),
       point_(new QCPItemTracer(&plot)),
-      text_(new QCPItemText(&plot)) {
+      text_(new EdgedText(&plot)) {
   constexpr double kSize = 8.0;
   constexpr QMargins kPadding(4, 8, 4, 8);
   point_->setStyle(QCPItemTracer::tsCircle);
@@ -22,11 +46,10 @@ MinimumMark::MinimumMark(QCustomPlot& plot, Abscissa abscissa)
   // Above the curves, whose layer keeps the order in which they were made.
   const QString overlay = QStringLiteral("overlay");
   text_->setLayer(overlay);
-  point_->setLayer(overlay);  // above the paper of the text
+  point_->setLayer(overlay);
   text_->setObjectName(QStringLiteral("Minimum"));
   text_->setFont(plot.font());
   text_->setColor(theme::kText);
-  text_->setBrush(QColor(255, 255, 255, 200));  // readable over curves, which stay visible
   text_->setPadding(kPadding);
   text_->setSelectable(false);
   text_->setClipToAxisRect(true);

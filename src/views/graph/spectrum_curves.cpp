@@ -11,13 +11,9 @@ namespace {
 
 constexpr double kSelectedWidth = 2.4;
 constexpr double kLineWidth = 1.4;
-constexpr qsizetype kLongestName = 12;
 
 QString SlotName(int number, const QString& sampleNumber) {
-  const QString name = sampleNumber.size() > kLongestName
-                           ? sampleNumber.left(kLongestName - 1) + QStringLiteral("…")
-                           : sampleNumber;
-  return QStringLiteral("%1 %2").arg(number).arg(name).trimmed();
+  return QString::number(number) + u' ' + sampleNumber.simplified();
 }
 
 template <typename Array>
@@ -46,7 +42,7 @@ std::vector<SpectrumCurve> ReflectanceCurves(const VEXATYPE& state, int selected
     if (number == selectedSlot) {
       pen.setWidthF(kSelectedWidth);
     }
-    curves.push_back({.name = SlotName(number, slot.info.sampleNumber),
+    curves.push_back({.name = SlotName(number, slot.info.sampleNumber).trimmed(),
                       .label = QString::number(number),
                       .pen = pen,
                       .marker = SlotMarker(number),

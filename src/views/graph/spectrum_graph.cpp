@@ -5,18 +5,17 @@
 #include <cmath>
 
 #include "views/common/axis_scale.h"
+#include "views/common/fitted_legend.h"
 #include "views/common/theme.h"
 #include "views/graph/plot_navigation.h"
 
 namespace vexa {
 namespace {
 
-constexpr int kLegendColumns = 5;
 constexpr int kMarkerSpacingNm = 40;
 // No end of a wide view in 1/λ lies farther.
 constexpr double kLongestNm = 2000.0;
 const QString kWavelengthLabel = QStringLiteral("波長 [nm]");
-const QString kCursorLayer = QStringLiteral("overlay");
 
 QVector<QCPGraphData> Points(const ReflectanceSpectrum& values, Abscissa abscissa) {
   QVector<QCPGraphData> points;
@@ -33,14 +32,14 @@ QVector<QCPGraphData> Points(const ReflectanceSpectrum& values, Abscissa absciss
 }  // namespace
 
 SpectrumGraph::SpectrumGraph(Abscissa abscissa, const QString& ordinateLabel, QWidget* parent)
-    : Plot(parent), abscissa_(abscissa) {
+    : Plot(parent), abscissa_(abscissa), cursor_(new QCPItemStraightLine(this)) {
   setFocusPolicy(Qt::StrongFocus);
   xAxis->setLabel(abscissa == Abscissa::kWavelength ? kWavelengthLabel
                                                     : QStringLiteral("1/λ [1/µm]"));
   yAxis->setLabel(ordinateLabel);
   // Wide antialiased lines are drawn many times faster piece by piece.
   setPlottingHint(QCP::phFastPolylines);
-  PlaceLegendAbove(kLegendColumns);
+  legend_ = PlaceLegendAbove();
   if (abscissa == Abscissa::kReciprocal) {
     xAxis2->setLabel(kWavelengthLabel);
     xAxis2->setTickLabels(true);
@@ -68,10 +67,10 @@ SpectrumGraph::SpectrumGraph(Abscissa abscissa, const QString& ordinateLabel, QW
   });
 }
 
-// On the plot's buffered layer: a moved cursor leaves the curves as they are painted.
+// On a layer of its own: a moved cursor leaves the curves as they are painted.
 void SpectrumGraph::BuildCursor() {
-  cursor_ = new QCPItemStraightLine(this);
-  cursor_->setLayer(kCursorLayer);
+  AddCursorLayer();
+  cursor_->setLayer(QLatin1String(kCursorLayer));
   cursor_->setPen(QPen(theme::kAccent, 1.0));
   cursor_->setSelectable(false);
   PlaceCursor();
@@ -88,11 +87,12 @@ void SpectrumGraph::ShowCurves(std::vector<SpectrumCurve> curves, const DisplayS
   display_ = display;
   while (lines_.size() < curves_.size()) {
     QCPGraph* line = addGraph();
+    line->removeFromLegend();
     line->setAdaptiveSampling(false);
     line->setScatterSkip(kMarkerSpacingNm - 1);
     lines_.push_back(line);
   }
-  legend->clearItems();
+  std::vector<std::pair<QCPGraph*, QString>> entries;
   for (std::size_t i = 0; i < lines_.size(); ++i) {
     QCPGraph& line = *lines_[i];
     line.setVisible(i < curves_.size());
@@ -104,9 +104,9 @@ void SpectrumGraph::ShowCurves(std::vector<SpectrumCurve> curves, const DisplayS
     line.data()->set(Points(curve.values, abscissa_), true);
     line.setPen(curve.pen);
     line.setScatterStyle(curve.marker);
-    line.setName(curve.name);
-    line.addToLegend();
+    entries.emplace_back(&line, curve.name);
   }
+  legend_->SetEntries(entries);
   legend->setVisible(!curves_.empty());
   cursor_->setVisible(display.showCursor && !curves_.empty());
   RefreshFullView();
@@ -120,9 +120,20 @@ void SpectrumGraph::RefreshFullView() {
 }
 
 void SpectrumGraph::MoveCursor(int nm) {
+  SetCursor(nm);
+  const double place = AbscissaOf(abscissa_, cursorNm_);
+  const QCPRange shown = xAxis->range();
+  if (cursor_->visible() && !shown.contains(place)) {
+    LeaveFullView();
+    xAxis->moveRange(place - shown.center());
+    replot(rpQueuedReplot);
+  }
+}
+
+void SpectrumGraph::SetCursor(int nm) {
   cursorNm_ = std::clamp(nm, ReflectanceSpectrum::kFirstNm, ReflectanceSpectrum::kLastNm);
   PlaceCursor();
-  RepaintLayer(kCursorLayer);
+  RepaintLayer(QLatin1String(kCursorLayer));
   emit CursorMoved(cursorNm_);
 }
 

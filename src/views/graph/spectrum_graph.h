@@ -24,8 +24,11 @@ class SpectrumGraph : public Plot {
   /// The ranges and ticks of the settings.
   void ShowFullView();
 
-  /// Moves the cursor to a whole nanometre, limited to 440..840.
+  /// Moves the cursor to a whole nanometre, limited to 440..840; where that is not shown, the view
+  /// follows.
   void MoveCursor(int nm);
+  /// Likewise with the view as it is.
+  void SetCursor(int nm);
   [[nodiscard]] int CursorNm() const { return cursorNm_; }
 
   [[nodiscard]] const std::vector<SpectrumCurve>& Curves() const { return curves_; }
@@ -57,7 +60,8 @@ class SpectrumGraph : public Plot {
   std::vector<SpectrumCurve> curves_;
   std::vector<QCPGraph*> lines_;
   DisplaySettings display_;
-  QCPItemStraightLine* cursor_ = nullptr;
+  FittedLegend* legend_ = nullptr;
+  QCPItemStraightLine* cursor_;
   int cursorNm_ = 550;
   bool fullView_ = true;
 };

@@ -11,6 +11,13 @@
 #include "base/number_text.h"
 
 namespace vexa {
+namespace {
+
+constexpr int kHeadingPadding = 16;
+constexpr int kLeastWidth = 84;
+constexpr int kMostWidth = 220;
+
+}  // namespace
 
 void SpectrumTableModel::Show(std::vector<SpectrumCurve> curves, const DisplaySettings& display,
                               QStringView pattern) {
@@ -51,7 +58,7 @@ QVariant SpectrumTableModel::data(const QModelIndex& index, int role) const {
 }
 
 QVariant SpectrumTableModel::headerData(int section, Qt::Orientation orientation, int role) const {
-  if (orientation != Qt::Horizontal || role != Qt::DisplayRole) {
+  if (orientation != Qt::Horizontal || (role != Qt::DisplayRole && role != Qt::ToolTipRole)) {
     return QAbstractTableModel::headerData(section, orientation, role);
   }
   return section == 0 ? QStringLiteral("波長 [nm]")
@@ -60,14 +67,13 @@ QVariant SpectrumTableModel::headerData(int section, Qt::Orientation orientation
 
 SpectrumTable::SpectrumTable(QWidget* parent)
     : QTableView(parent), rows_(new SpectrumTableModel(this)) {
-  constexpr int kColumnWidth = 104;
   setModel(rows_);
   setFrameShape(QFrame::NoFrame);
   setAlternatingRowColors(true);
   setShowGrid(false);
   verticalHeader()->hide();
   verticalHeader()->setDefaultSectionSize(fontMetrics().height() + 5);
-  horizontalHeader()->setDefaultSectionSize(kColumnWidth);
+  horizontalHeader()->setTextElideMode(Qt::ElideMiddle);
   horizontalHeader()->setHighlightSections(false);
 
   auto* copy = new QAction(QStringLiteral("ｺﾋﾟｰ"), this);
@@ -83,6 +89,11 @@ SpectrumTable::SpectrumTable(QWidget* parent)
 void SpectrumTable::Show(std::vector<SpectrumCurve> curves, const DisplaySettings& display,
                          QStringView pattern) {
   rows_->Show(std::move(curves), display, pattern);
+  for (int column = 0; column < rows_->columnCount(); ++column) {
+    const QString heading = rows_->headerData(column, Qt::Horizontal, Qt::DisplayRole).toString();
+    setColumnWidth(column, std::clamp(fontMetrics().horizontalAdvance(heading) + kHeadingPadding,
+                                      kLeastWidth, kMostWidth));
+  }
 }
 
 QString SpectrumTable::SelectedText() const {

@@ -22,6 +22,8 @@ HistoryPlot::HistoryPlot(QWidget* parent)
   line_->setScatterStyle(
       QCPScatterStyle(QCPScatterStyle::ssDisc, QPen(theme::kAccent), theme::kAccent, 7));
   line_->setAdaptiveSampling(false);
+  AddCursorLayer();
+  cursorLine_->setLayer(QLatin1String(kCursorLayer));
   cursorLine_->setPen(QPen(theme::kMutedText, 1.0, Qt::DashLine));
 }
 

@@ -3,6 +3,7 @@
 
 #include <QGridLayout>
 #include <QLabel>
+#include <algorithm>
 
 namespace vexa {
 
@@ -30,6 +31,12 @@ NumberFieldsFrame::NumberFieldsFrame(const Look& look, std::span<const double> v
     fields_.push_back(field);
     ++row;
   }
+}
+
+NumberField& NumberFieldsFrame::FieldAtFault() const {
+  const auto fault =
+      std::ranges::find_if(fields_, [](const NumberField* field) { return !field->Value(); });
+  return **(fault == fields_.end() ? fields_.begin() : fault);
 }
 
 bool NumberFieldsFrame::Take(std::span<double> values) const {

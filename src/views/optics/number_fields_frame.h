@@ -26,6 +26,9 @@ class NumberFieldsFrame : public QGroupBox {
   /// `values` holds a number for each label.
   NumberFieldsFrame(const Look& look, std::span<const double> values, QWidget* parent = nullptr);
 
+  /// The first field whose text is no number; without one, the first of all.
+  [[nodiscard]] NumberField& FieldAtFault() const;
+
   /// Puts the numbers into `values`. False when a text is no number; its value stays as it was.
   [[nodiscard]] bool Take(std::span<double> values) const;
 

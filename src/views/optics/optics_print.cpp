@@ -9,7 +9,7 @@
 #include "optics/thickness.h"
 #include "views/common/theme.h"
 #include "views/optics/history_plot.h"
-#include "views/print/plot_drawing.h"
+#include "views/paper/plot_drawing.h"
 
 namespace vexa {
 namespace {
@@ -89,16 +89,20 @@ QStringList WaveListTitles() {
           QStringLiteral("反射率[%]")};
 }
 
-void PaintWaveListPage(QPainter& painter, const QRectF& page, const ExtremumList& list) {
+void PaintWaveListPage(QPainter& painter, const QRectF& page, const QString& whose,
+                       const ExtremumList& list) {
+  constexpr double kWhoseHeight = 2.0 * kRowHeight;
   constexpr double kColumnWidth = 110.0;
   painter.save();
   const QRectF body = BeginPage(painter, page, QStringLiteral("波長リスト"));
+  painter.drawText(QRectF(body.topLeft(), QSizeF(body.width(), kWhoseHeight)),
+                   Qt::AlignLeft | Qt::AlignVCenter | Qt::TextWrapAnywhere, whose);
   const QStringList rows = ExtremumRows(list);
   // The longest list, 49 rows, fits onto a page of any shape.
-  const double height =
-      std::min(kRowHeight, body.height() / static_cast<double>(ExtremumList::kLimit + 1));
+  const double height = std::min(
+      kRowHeight, (body.height() - kWhoseHeight) / static_cast<double>(ExtremumList::kLimit + 1));
   SetFont(painter, static_cast<int>(std::max(1.0, height * 0.7)), false);
-  QRectF row(body.topLeft(), QSizeF(body.width(), height));
+  QRectF row(body.topLeft() + QPointF(0.0, kWhoseHeight), QSizeF(body.width(), height));
   DrawRow(painter, row, WaveListTitles(), kColumnWidth);
   for (const QString& text : rows) {
     row.translate(0.0, height);

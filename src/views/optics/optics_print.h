@@ -18,7 +18,8 @@ void PaintHistoryPage(QPainter& painter, const QRectF& page, const ThicknessHist
 /// The titles of the columns of ExtremumRows.
 [[nodiscard]] QStringList WaveListTitles();
 
-/// Paints the wavelength list onto the page: caption and a row for each extremum.
-void PaintWaveListPage(QPainter& painter, const QRectF& page, const ExtremumList& list);
+/// Paints the wavelength list onto the page: caption, whose it is, and a row for each extremum.
+void PaintWaveListPage(QPainter& painter, const QRectF& page, const QString& whose,
+                       const ExtremumList& list);
 
 }  // namespace vexa

@@ -5,14 +5,15 @@
 #include <QPushButton>
 #include <QVBoxLayout>
 
+#include "base/translation.h"
 #include "measurement/dispersion_data.h"
 #include "optics/bunsan.h"
 #include "optics/index_file.h"
 #include "views/common/dialog_buttons.h"
-#include "views/files/file_questions.h"
+#include "views/common/file_questions.h"
+#include "views/common/option_frame.h"
 #include "views/optics/file_frame.h"
 #include "views/optics/number_fields_frame.h"
-#include "views/optics/option_frame.h"
 #include "views/optics/thickness_measurement_page.h"
 
 namespace vexa {
@@ -83,7 +84,7 @@ RefSetDlg::RefSetDlg(Mode mode, VEXATYPE& state, MessageService& messages, FileD
   BuildPages();
   connect(kind_, &QButtonGroup::idToggled, this, &RefSetDlg::EnableFieldsOfKind);
   EnableFieldsOfKind();
-  QPushButton* save = DialogButton(QStringLiteral("Save"));
+  QPushButton* save = DialogButton("Save", QStringLiteral("Save"));
   connect(save, &QPushButton::clicked, this, &RefSetDlg::Save);
   auto* layout = new QVBoxLayout(this);
   layout->setContentsMargins(14, 14, 14, 12);
@@ -172,7 +173,11 @@ QGroupBox* RefSetDlg::BuildKinds() {
       Texts(mode_).kindFrame, QStringLiteral("Kind"),
       {QStringLiteral("固定値設定"), QStringLiteral("分散式１"), QStringLiteral("分散式２"),
        QStringLiteral("ﾌｧｲﾙ設定"), QStringLiteral("基板屈折率を使用し計算")},
-      *kind_, original_.kind);
+      *kind_, original_.kind,
+      {Text::tr("全波長で同じ値を使います。"), Text::tr("Schottの分散式で波長ごとに計算します。"),
+       Text::tr("Sellmeierの分散式で波長ごとに計算します。"),
+       Text::tr("ﾌｧｲﾙの値を波長ごとに使います。"),
+       Text::tr("基板の屈折率と測定した反射率から膜の屈折率を計算します (Type A、Type B)。")});
   // The index of a substrate is no reflectance.
   kind_->button(DispersionKind::kSubstrate)->setEnabled(mode_ == Mode::kThickness);
   return frame;
@@ -223,6 +228,7 @@ bool RefSetDlg::TakeNumbers(DispersionSetting& setting) {
       !(fixed && setting.fixedValue >= kLowestFixedValue &&
         setting.fixedValue <= texts.highestFixedValue)) {
     messages_.MsgCall(texts.rangeMessage, kOk + kWarningIcon, kInputTitle);
+    GoTo(*fixed_);
     return false;
   }
   const bool schott = schott_->Take(setting.schott);
@@ -231,9 +237,19 @@ bool RefSetDlg::TakeNumbers(DispersionSetting& setting) {
       (setting.kind == DispersionKind::kSellmeier && !sellmeier)) {
     messages_.MsgCall(QStringLiteral("係数が数値ではありません。"), kOk + kWarningIcon,
                       kInputTitle);
+    GoTo(schott ? *sellmeier_ : *schott_);
     return false;
   }
   return true;
+}
+
+void RefSetDlg::GoTo(const NumberFieldsFrame& frame) {
+  for (int page = 0; page < pages_->count(); ++page) {
+    if (pages_->widget(page)->isAncestorOf(&frame)) {
+      pages_->setCurrentIndex(page);
+    }
+  }
+  EnterAgain(frame.FieldAtFault());
 }
 
 void RefSetDlg::LoadIndexFile() {

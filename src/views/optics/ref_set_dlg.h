@@ -47,6 +47,8 @@ class RefSetDlg : public QDialog {
   void EnableFieldsOfKind();
   [[nodiscard]] bool Apply(Edited& edited);
   [[nodiscard]] bool TakeNumbers(DispersionSetting& setting);
+  /// Opens the page of the frame, on its field at fault.
+  void GoTo(const NumberFieldsFrame& frame);
   void LoadIndexFile();
   void LoadSubstrateFile();
   void Save();

@@ -64,6 +64,8 @@ void ThickGSetDlg::accept() {
   }
   messages_.MsgCall(QStringLiteral("ｽｹｰﾙ設定が設定範囲を越えています。(0 ≦ 設定値 ≦ 20000)"),
                     message_type::kOk + message_type::kStopIcon, message_title::kError);
+  const std::optional<double> maximum = maximum_->Value();
+  EnterAgain(!maximum || *maximum > ThicknessScale::kHighestNm ? *maximum_ : *minimum_);
 }
 
 void ThickGSetDlg::EnableFields() {

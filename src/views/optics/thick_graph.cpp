@@ -11,12 +11,12 @@
 #include <algorithm>
 
 #include "base/number_text.h"
+#include "views/common/file_questions.h"
 #include "views/common/plot_export.h"
-#include "views/files/file_questions.h"
 #include "views/optics/history_plot.h"
 #include "views/optics/optics_print.h"
 #include "views/optics/thick_g_set_dlg.h"
-#include "views/print/current_printer.h"
+#include "views/paper/current_printer.h"
 
 namespace vexa {
 

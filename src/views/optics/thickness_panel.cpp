@@ -46,9 +46,9 @@ ThicknessPanel::ThicknessPanel(VEXATYPE& state, MessageService& messages, QWidge
   large.setPixelSize(19);
   thickness_->setFont(large);
   auto* grid = new QGridLayout(this);
-  grid->setContentsMargins(10, 8, 10, 8);
+  grid->setContentsMargins(10, 6, 10, 6);
   grid->setHorizontalSpacing(8);
-  grid->setVerticalSpacing(6);
+  grid->setVerticalSpacing(3);
   grid->setColumnStretch(1, 1);
   grid->setColumnStretch(3, 1);
   grid->addWidget(compute, 0, 0, 1, 2);

@@ -2,13 +2,15 @@
 #include "views/optics/wave_list_dlg.h"
 
 #include <QHBoxLayout>
+#include <QLabel>
 #include <QPushButton>
 #include <QTreeWidget>
 #include <QVBoxLayout>
 
+#include "base/date_text.h"
 #include "views/common/dialog_buttons.h"
 #include "views/optics/optics_print.h"
-#include "views/print/current_printer.h"
+#include "views/paper/current_printer.h"
 
 namespace vexa {
 namespace {
@@ -17,38 +19,32 @@ constexpr int kColumnWidth = 80;  // the last column takes what is left
 
 }  // namespace
 
-WaveListDlg::WaveListDlg(const VEXATYPE& state, CurrentPrinter& printer, QWidget* parent)
-    : QDialog(parent) {
+WaveListDlg::WaveListDlg(const VEXATYPE& state, int selectedSlot, CurrentPrinter& printer,
+                         QWidget* parent)
+    : QDialog(parent), state_(state), slotText_(new QLabel), list_(new QTreeWidget) {
   setObjectName(QStringLiteral("WaveListDlg"));
   setWindowTitle(QStringLiteral("波長リスト"));
-  auto* list = new QTreeWidget;
-  list->setObjectName(QStringLiteral("WaveList"));
-  list->setHeaderLabels(WaveListTitles());
-  list->setRootIsDecorated(false);
-  list->setAlternatingRowColors(true);
-  list->setSelectionMode(QAbstractItemView::NoSelection);
-  list->setFocusPolicy(Qt::NoFocus);
-  list->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-  for (int column = 0; column < list->columnCount(); ++column) {
-    list->setColumnWidth(column, kColumnWidth);
-    list->headerItem()->setTextAlignment(column, Qt::AlignRight | Qt::AlignVCenter);
+  slotText_->setObjectName(QStringLiteral("WaveListSlot"));
+  slotText_->setTextFormat(Qt::PlainText);
+  slotText_->setWordWrap(true);
+  list_->setObjectName(QStringLiteral("WaveList"));
+  list_->setHeaderLabels(WaveListTitles());
+  list_->setRootIsDecorated(false);
+  list_->setAlternatingRowColors(true);
+  list_->setSelectionMode(QAbstractItemView::NoSelection);
+  list_->setFocusPolicy(Qt::NoFocus);
+  list_->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+  for (int column = 0; column < list_->columnCount(); ++column) {
+    list_->setColumnWidth(column, kColumnWidth);
+    list_->headerItem()->setTextAlignment(column, Qt::AlignRight | Qt::AlignVCenter);
   }
-  for (const QString& row : ExtremumRows(state.extrema)) {
-    auto* item = new QTreeWidgetItem(list, row.split(u'\t'));
-    for (int column = 0; column < list->columnCount(); ++column) {
-      item->setTextAlignment(column, Qt::AlignRight | Qt::AlignVCenter);
-    }
-  }
-
-  QPushButton* print = DialogButton(QStringLiteral("印刷"));
-  QPushButton* close = DialogButton(QStringLiteral("閉じる"));
-  print->setObjectName(QStringLiteral("Print"));
-  close->setObjectName(QStringLiteral("Close"));
+  QPushButton* print = DialogButton("Print", QStringLiteral("印刷"));
+  QPushButton* close = DialogButton("Close", QStringLiteral("閉じる"));
   close->setDefault(true);
   connect(close, &QPushButton::clicked, this, &QDialog::accept);
-  connect(print, &QPushButton::clicked, this, [this, &state, &printer] {
-    printer.Print(windowTitle(), SinglePage([&state](QPainter& painter, const QRectF& page) {
-                    PaintWaveListPage(painter, page, state.extrema);
+  connect(print, &QPushButton::clicked, this, [this, &printer] {
+    printer.Print(windowTitle(), SinglePage([this](QPainter& painter, const QRectF& page) {
+                    PaintWaveListPage(painter, page, slotText_->text(), extrema_);
                   }));
   });
   auto* row = new QHBoxLayout;
@@ -58,9 +54,29 @@ WaveListDlg::WaveListDlg(const VEXATYPE& state, CurrentPrinter& printer, QWidget
   auto* layout = new QVBoxLayout(this);
   layout->setContentsMargins(14, 14, 14, 12);
   layout->setSpacing(12);
-  layout->addWidget(list);
+  layout->addWidget(slotText_);
+  layout->addWidget(list_);
   layout->addLayout(row);
   resize(400, 420);
+  Show(selectedSlot);
+}
+
+void WaveListDlg::Show(int selectedSlot) {
+  const MeasurementSlot* slot = state_.Slot(selectedSlot);
+  const bool valid = slot != nullptr && slot->valid;
+  slotText_->setText(
+      valid ? QStringLiteral("Mes%1  %2  %3")
+                  .arg(selectedSlot)
+                  .arg(slot->info.sampleNumber.simplified(), DateTimeText(slot->info.measuredAt))
+            : QStringLiteral("Mes%1  -").arg(selectedSlot));
+  extrema_ = valid ? slot->thickness.extrema : ExtremumList();
+  list_->clear();
+  for (const QString& row : ExtremumRows(extrema_)) {
+    auto* item = new QTreeWidgetItem(list_, row.split(u'\t'));
+    for (int column = 0; column < list_->columnCount(); ++column) {
+      item->setTextAlignment(column, Qt::AlignRight | Qt::AlignVCenter);
+    }
+  }
 }
 
 }  // namespace vexa

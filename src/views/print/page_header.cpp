@@ -1,21 +1,23 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "views/print/page_header.h"
 
-#include <QDir>
 #include <QPainter>
+#include <QRegularExpression>
 
 #include "base/date_text.h"
+#include "base/number_text.h"
+#include "base/translation.h"
 #include "colour/colour_tables.h"
-#include "views/colour/colour_texts.h"
+#include "views/common/colour_texts.h"
 #include "views/common/theme.h"
-#include "views/print/printed_pages.h"
+#include "views/paper/printed_pages.h"
 
 namespace vexa {
 namespace {
 
 constexpr double kTitleHeight = 76.0;
 constexpr double kRowHeight = 42.0;
-constexpr double kRows = 3.0;
+constexpr double kRows = 4.0;
 constexpr double kHeaderHeight = kTitleHeight + kRows * kRowHeight + 44.0;
 constexpr double kFooterHeight = 60.0;
 constexpr double kLabelWidth = 170.0;
@@ -24,8 +26,25 @@ constexpr int kTitleSize = 50;
 constexpr int kTextSize = 28;
 const QString kNone = QStringLiteral("-");
 
-QString FileText(const VEXATYPE& state, const QString& name) {
-  return name.isEmpty() ? kNone : QDir::toNativeSeparators(CompletePath(state, name));
+// A report goes to others, whom the directories of this computer do not concern.
+QString FileText(const QString& name) {
+  static const QRegularExpression kSeparator(QStringLiteral("[/\\\\:]"));
+  return name.isEmpty() ? kNone : name.section(kSeparator, -1);
+}
+
+QString ReferenceText(const DispersionSetting& setting) {
+  switch (setting.kind) {
+    case DispersionKind::kFixedValue:
+      return Text::tr("固定値 %1 %").arg(FormatNumber(setting.fixedValue, u"##0.0###").trimmed());
+    case DispersionKind::kSchott:
+      return Text::tr("Schott分散式");
+    case DispersionKind::kSellmeier:
+      return Text::tr("Sellmeier分散式");
+    case DispersionKind::kIndexFile:
+      return FileText(setting.indexFileName);
+    default:
+      return kNone;
+  }
 }
 
 void DrawText(QPainter& painter, const QRectF& place, Qt::Alignment alignment, const QString& text,
@@ -51,15 +70,21 @@ PageHeader::PageHeader(const VEXATYPE& state, const ReportRequest& request)
   const ColourSettings& colour = state.colour;
   entries_ = {{QStringLiteral("測定者"),
                request.operatorName.trimmed().isEmpty() ? kNone : request.operatorName},
-              {QStringLiteral("環境ﾌｧｲﾙ"), FileText(state, state.envFileName)},
+              {QStringLiteral("環境ﾌｧｲﾙ"), FileText(state.envFileName)},
               {QStringLiteral("日付"), DateTimeText(request.date.startOfDay())},
-              {QStringLiteral("規格ﾌｧｲﾙ"), FileText(state, state.standardFileName)},
+              {QStringLiteral("規格ﾌｧｲﾙ"), FileText(state.standardFileName)},
               {QStringLiteral("測色条件"),
                QStringLiteral("光源 %1　視野 %2°　平均 %3-%4 nm")
                    .arg(IlluminantText(colour.illuminant), ObserverText(colour.observer2Deg))
                    .arg(colour.avgFrom)
                    .arg(colour.avgTo)},
-              {QStringLiteral("ﾃﾞｰﾀﾌｧｲﾙ"), FileText(state, state.currentDataFileName)}};
+              {QStringLiteral("ﾃﾞｰﾀﾌｧｲﾙ"), request.unsaved || state.currentDataFileName.isEmpty()
+                                               ? Text::tr("未保存")
+                                               : FileText(state.currentDataFileName)},
+              {Text::tr("測定条件"), Text::tr("%1 ms × %2回")
+                                         .arg(state.instrument.samplingTimeMs)
+                                         .arg(state.instrument.averagingCount)},
+              {Text::tr("ﾘﾌｧﾚﾝｽ"), ReferenceText(state.referenceSetting)}};
 }
 
 QRectF PageHeader::Body(const QSizeF& page) {
@@ -81,7 +106,7 @@ void PageHeader::Paint(QPainter& painter, const QSizeF& page, int number, int co
     DrawText(painter, {x, y, kLabelWidth, kRowHeight}, Qt::AlignLeft, entries_[i].label,
              Qt::ElideRight);
     painter.setPen(theme::kText);
-    // Of a path both ends tell most.
+    // Of a long name both ends tell most.
     DrawText(painter, {x + kLabelWidth, y, columnWidth - kLabelWidth, kRowHeight}, Qt::AlignLeft,
              entries_[i].text, Qt::ElideMiddle);
     y += i % 2 == 0 ? 0.0 : kRowHeight;

@@ -11,7 +11,8 @@ class QPainter;
 namespace vexa {
 
 /// What stands above and below the content of every page of a report: title, operator, date, the
-/// files of the settings and of the data, the conditions of the colours, and the page number.
+/// files of the settings and of the data, the conditions of the colours and of the measurement, and
+/// the page number.
 /// Lengths are tenths of a millimetre.
 class PageHeader {
  public:

@@ -2,6 +2,7 @@
 #include "views/print/print_dlg.h"
 
 #include <QButtonGroup>
+#include <QCheckBox>
 #include <QDateEdit>
 #include <QFormLayout>
 #include <QGroupBox>
@@ -11,7 +12,11 @@
 #include <QRadioButton>
 #include <QSpinBox>
 
+#include "base/translation.h"
+#include "views/colour/background_picture.h"
 #include "views/common/dialog_buttons.h"
+#include "views/common/option_frame.h"
+#include "views/common/scroll_body.h"
 #include "views/print/page_header.h"
 #include "views/print/print_preview.h"
 #include "views/print/print_setup_dlg.h"
@@ -47,6 +52,7 @@ QButtonGroup* AddChoice(QHBoxLayout& row, const char* name, QWidget* owner,
   }
   row.setSpacing(18);
   row.addStretch();
+  TabToChosen(*group);
   return group;
 }
 
@@ -64,26 +70,28 @@ PrintDlg::PrintDlg(const VEXATYPE& state, int selectedSlot, ReportRequest& reque
       operator_(TextField("Operator", request.operatorName)),
       date_(new QDateEdit(request.date)),
       printerText_(new QLabel),
-      copies_(new QSpinBox) {
+      copies_(new QSpinBox),
+      diagram_(new QCheckBox(Text::tr("色度図を加える"))) {
   setObjectName(QStringLiteral("PrintDlg"));
   setWindowTitle(QStringLiteral("印刷"));
-  auto* preview = DialogButton(QStringLiteral("ﾌﾟﾚﾋﾞｭｰ"));
-  preview->setObjectName(QStringLiteral("Preview"));
-  connect(preview, &QPushButton::clicked, this, [this] {
-    PrintPreview(printer_.Settings(), MakeReport(state_, Entries()), this).exec();
-  });
+  auto* preview = DialogButton("Preview", QStringLiteral("ﾌﾟﾚﾋﾞｭｰ"));
+  connect(preview, &QPushButton::clicked, this,
+          [this] { PrintPreview(printer_.Settings(), Pages(Entries()), this).exec(); });
   QWidget* buttons = OkCancelButtons(*this, preview);
   buttons->findChild<QPushButton*>(QStringLiteral("OK"))->setText(QStringLiteral("印刷"));
   auto* layout = new QVBoxLayout(this);
   layout->setContentsMargins(18, 14, 18, 14);
   layout->setSpacing(12);
-  layout->addWidget(BuildHeader());
-  layout->addWidget(BuildSlots());
-  layout->addWidget(BuildContent());
-  layout->addWidget(BuildPrinter());
+  auto* body = new QWidget;
+  auto* groups = new QVBoxLayout(body);
+  groups->setContentsMargins(0, 0, 0, 0);
+  for (QWidget* group : {BuildHeader(), BuildSlots(), BuildContent(), BuildPrinter()}) {
+    groups->addWidget(group);
+  }
+  layout->addWidget(new ScrollBody(body), 1);
   layout->addWidget(buttons);
-  layout->setSizeConstraint(QLayout::SetFixedSize);
   ShowPrinter();
+  resize(sizeHint());
 }
 
 QWidget* PrintDlg::BuildHeader() {
@@ -127,7 +135,10 @@ QWidget* PrintDlg::BuildContent() {
   auto* steps = new QHBoxLayout;
   step_ = AddChoice(*steps, "Step", group,
                     {{1, QStringLiteral("1 nm")}, {10, QStringLiteral("10 nm")}}, request_.stepNm);
+  diagram_->setObjectName(QStringLiteral("ReportDiagram"));
+  diagram_->setChecked(request_.diagram);
   form->addRow(contents);
+  form->addRow(diagram_);
   form->addRow(QStringLiteral("ﾃｷｽﾄｽﾃｯﾌﾟ"), steps);
   const auto enableSteps = [this](int content) {
     for (QAbstractButton* button : step_->buttons()) {
@@ -142,7 +153,7 @@ QWidget* PrintDlg::BuildContent() {
 QWidget* PrintDlg::BuildPrinter() {
   printerText_->setObjectName(QStringLiteral("PrinterText"));
   printerText_->setTextFormat(Qt::PlainText);
-  QPushButton* settings = DialogButton(QStringLiteral("印刷設定"));
+  QPushButton* settings = DialogButton("PrinterSettings", QStringLiteral("印刷設定"));
   connect(settings, &QPushButton::clicked, this, [this] {
     PrintSetupDlg(printer_, messages_, this).exec();
     ShowPrinter();
@@ -166,7 +177,18 @@ ReportRequest PrintDlg::Entries() const {
           .date = date_->date(),
           .slot = slots_->checkedId() == 0 ? 0 : selectedSlot_,
           .content = static_cast<ReportContent>(content_->checkedId()),
-          .stepNm = step_->checkedId()};
+          .stepNm = step_->checkedId(),
+          .diagram = diagram_->isChecked(),
+          .unsaved = request_.unsaved};
+}
+
+PageMaker PrintDlg::Pages(const ReportRequest& request) const {
+  std::shared_ptr<BackgroundPicture> background;
+  if (request.diagram) {
+    background = std::make_shared<BackgroundPicture>(messages_);
+    background->Complete();
+  }
+  return MakeReport(state_, request, background);
 }
 
 void PrintDlg::ShowPrinter() {
@@ -176,7 +198,7 @@ void PrintDlg::ShowPrinter() {
 
 void PrintDlg::accept() {
   const ReportRequest entries = Entries();
-  if (printer_.Print(ReportTitle(entries), MakeReport(state_, entries), copies_->value())) {
+  if (printer_.Print(ReportTitle(entries), Pages(entries), copies_->value())) {
     request_ = entries;
     QDialog::accept();
   }

@@ -5,10 +5,11 @@
 
 #include "base/message.h"
 #include "measurement/vexatype.h"
-#include "views/print/current_printer.h"
+#include "views/paper/current_printer.h"
 #include "views/print/report_request.h"
 
 class QButtonGroup;
+class QCheckBox;
 class QDateEdit;
 class QGroupBox;
 class QLabel;
@@ -35,6 +36,7 @@ class PrintDlg : public QDialog {
   QWidget* BuildContent();
   QWidget* BuildPrinter();
   [[nodiscard]] ReportRequest Entries() const;
+  [[nodiscard]] PageMaker Pages(const ReportRequest& request) const;
   void ShowPrinter();
 
   const VEXATYPE& state_;
@@ -50,6 +52,7 @@ class PrintDlg : public QDialog {
   QButtonGroup* step_;
   QLabel* printerText_;
   QSpinBox* copies_;
+  QCheckBox* diagram_;
 };
 
 /// The print command: opens the dialog, or says that there is nothing to print.

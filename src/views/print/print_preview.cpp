@@ -6,6 +6,7 @@
 #include <QPrintPreviewWidget>
 #include <QPrinter>
 #include <QPushButton>
+#include <QScreen>
 
 #include "views/common/dialog_buttons.h"
 
@@ -13,12 +14,10 @@ namespace vexa {
 
 PrintPreview::PrintPreview(const PrintSettings& settings, const PageMaker& pages, QWidget* parent)
     : QDialog(parent),
-      back_(DialogButton(QStringLiteral("前頁"))),
-      next_(DialogButton(QStringLiteral("次頁"))),
+      back_(DialogButton("Back", QStringLiteral("前頁"))),
+      next_(DialogButton("Next", QStringLiteral("次頁"))),
       place_(new QLabel) {
   setObjectName(QStringLiteral("PrintPreview"));
-  back_->setObjectName(QStringLiteral("Back"));
-  next_->setObjectName(QStringLiteral("Next"));
   setWindowTitle(QStringLiteral("印刷ﾌﾟﾚﾋﾞｭｰ"));
   // The paper alone counts here, so that a printer which is away can be previewed too.
   auto* paper = new QPrinter(QPrinter::HighResolution);
@@ -36,9 +35,9 @@ PrintPreview::PrintPreview(const PrintSettings& settings, const PageMaker& pages
   connect(back_, &QPushButton::clicked, this, [turn] { turn(-1); });
   connect(next_, &QPushButton::clicked, this, [turn] { turn(1); });
 
-  QPushButton* whole = DialogButton(QStringLiteral("全体"));
-  QPushButton* width = DialogButton(QStringLiteral("幅に合わせる"));
-  QPushButton* close = DialogButton(QStringLiteral("閉じる"));
+  QPushButton* whole = DialogButton("WholePage", QStringLiteral("全体"));
+  QPushButton* width = DialogButton("PageWidth", QStringLiteral("幅に合わせる"));
+  QPushButton* close = DialogButton("Close", QStringLiteral("閉じる"));
   connect(whole, &QPushButton::clicked, preview_, &QPrintPreviewWidget::fitInView);
   connect(width, &QPushButton::clicked, preview_, &QPrintPreviewWidget::fitToWidth);
   connect(close, &QPushButton::clicked, this, &QDialog::accept);
@@ -60,7 +59,7 @@ PrintPreview::PrintPreview(const PrintSettings& settings, const PageMaker& pages
   layout->setSpacing(12);
   layout->addWidget(preview_, 1);
   layout->addLayout(row);
-  resize(780, 860);
+  resize(QSize(780, 860).boundedTo(screen()->availableSize() - QSize(20, 60)));
   preview_->fitInView();
 }
 

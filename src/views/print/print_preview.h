@@ -3,8 +3,8 @@
 
 #include <QDialog>
 
-#include "views/print/print_settings.h"
-#include "views/print/printed_pages.h"
+#include "views/paper/print_settings.h"
+#include "views/paper/printed_pages.h"
 
 class QLabel;
 class QPrintPreviewWidget;

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "views/print/print_setup_dlg.h"
 
+#include <QButtonGroup>
 #include <QComboBox>
 #include <QFormLayout>
 #include <QGroupBox>
@@ -10,6 +11,7 @@
 
 #include "views/common/dialog_buttons.h"
 #include "views/common/number_field.h"
+#include "views/common/option_frame.h"
 
 namespace vexa {
 
@@ -65,6 +67,10 @@ QWidget* PrintSetupDlg::BuildPaper(const PrintSettings& settings) {
   landscape_->setObjectName(QStringLiteral("Landscape"));
   portrait->setChecked(!settings.landscape);
   landscape_->setChecked(settings.landscape);
+  auto* orientations = new QButtonGroup(this);
+  orientations->addButton(portrait);
+  orientations->addButton(landscape_);
+  TabToChosen(*orientations);
   auto* orientation = new QHBoxLayout;
   orientation->setSpacing(18);
   orientation->addWidget(portrait);
@@ -110,6 +116,7 @@ void PrintSetupDlg::accept() {
     if (!margin || *margin < 0.0 || *margin > kLargestMarginMm) {
       messages_.MsgCall(QStringLiteral("余白が設定範囲を越えています。 (0 ≦ 設定値 ≦ 50)"),
                         kOk + kStopIcon, message_title::kError);
+      EnterAgain(*margins_[i]);
       return;
     }
     margins[i] = *margin;
@@ -121,6 +128,7 @@ void PrintSetupDlg::accept() {
   if (!LeavesRoom(settings)) {
     messages_.MsgCall(QStringLiteral("余白が大きすぎます。 (印刷範囲は縦横とも100mm以上)"),
                       kOk + kStopIcon, message_title::kError);
+    EnterAgain(*margins_[0]);
     return;
   }
   printer_.SetSettings(settings);

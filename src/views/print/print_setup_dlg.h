@@ -5,7 +5,7 @@
 #include <array>
 
 #include "base/message.h"
-#include "views/print/current_printer.h"
+#include "views/paper/current_printer.h"
 
 class QComboBox;
 class QRadioButton;

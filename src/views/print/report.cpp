@@ -6,12 +6,13 @@
 #include <memory>
 
 #include "standards/reflectance_band.h"
+#include "views/colour/chromaticity_diagram.h"
 #include "views/graph/index_graph.h"
 #include "views/graph/light_graph.h"
 #include "views/graph/reflectance_graph.h"
-#include "views/print/page_flow.h"
+#include "views/paper/page_flow.h"
+#include "views/paper/plot_drawing.h"
 #include "views/print/page_header.h"
-#include "views/print/plot_drawing.h"
 #include "views/print/slot_tables.h"
 #include "views/print/spectrum_pages.h"
 
@@ -61,28 +62,50 @@ void AddGraph(PageFlow& flow, const VEXATYPE& state, double height) {
   });
 }
 
-std::vector<Table> Summary(const VEXATYPE& state) {
-  std::vector<Table> tables{SampleTable(state), ValueTable(state)};
-  if (const std::optional<Table> verdicts = VerdictTable(state)) {
+// Square, beside nothing.
+void AddDiagram(PageFlow& flow, const VEXATYPE& state,
+                const std::shared_ptr<BackgroundPicture>& background) {
+  constexpr int kDiagramPixels = 360;
+  const double side = std::min({kDiagramPixels * kPixel, flow.Width(), flow.PageHeight()});
+  ChromaticityDiagram diagram(background);
+  const int pixels = static_cast<int>(side / kPixel);
+  diagram.Fit({pixels, pixels});
+  diagram.ShowSlots(state, 0);
+  const QPicture picture = PlotDrawing(diagram, {pixels, pixels});
+  flow.Add(side, [picture](QPainter& painter, const QRectF& place) {
+    PlayDrawing(painter, place.topLeft(), kPixel, picture);
+  });
+}
+
+std::vector<PageTable> Summary(const VEXATYPE& state) {
+  std::vector<PageTable> tables{SampleTable(state), ValueTable(state)};
+  if (const std::optional<PageTable> verdicts = VerdictTable(state)) {
     tables.push_back(*verdicts);
+    if (const std::optional<PageTable> band = BandTable(state)) {
+      tables.push_back(*band);
+    }
   }
   return tables;
 }
 
-PageFlow LayOut(const VEXATYPE& state, const ReportRequest& request, const QSizeF& page) {
+PageFlow LayOut(const VEXATYPE& state, const ReportRequest& request, const QSizeF& page,
+                const std::shared_ptr<BackgroundPicture>& background) {
   PageFlow flow(PageHeader::Body(page));
-  const std::vector<Table> summary = Summary(state);
+  const std::vector<PageTable> summary = Summary(state);
   if (request.content != ReportContent::kText) {
     double tables = 0.0;
-    for (const Table& table : summary) {
-      tables += PageFlow::kGap + table.Height();
+    for (const PageTable& table : summary) {
+      tables += PageFlow::kGap + table.Height(flow.Width());
     }
     AddGraph(flow, state,
              std::min(flow.PageHeight(),
                       std::clamp(flow.PageHeight() - tables, kLowestGraph, kHighestGraph)));
   }
-  for (const Table& table : summary) {
+  for (const PageTable& table : summary) {
     flow.Add(table);
+  }
+  if (background != nullptr) {
+    AddDiagram(flow, state, background);
   }
   if (request.content != ReportContent::kGraph) {
     AddSpectra(flow, state, request.stepNm);
@@ -92,10 +115,12 @@ PageFlow LayOut(const VEXATYPE& state, const ReportRequest& request, const QSize
 
 }  // namespace
 
-PageMaker MakeReport(const VEXATYPE& state, const ReportRequest& request) {
+PageMaker MakeReport(const VEXATYPE& state, const ReportRequest& request,
+                     const std::shared_ptr<BackgroundPicture>& background) {
   const auto selected = std::make_shared<const VEXATYPE>(Selected(state, request.slot));
-  return [selected, request](const QSizeF& page) {
-    const auto flow = std::make_shared<const PageFlow>(LayOut(*selected, request, page));
+  return [selected, request, background](const QSizeF& page) {
+    const auto flow =
+        std::make_shared<const PageFlow>(LayOut(*selected, request, page, background));
     const PageHeader header(*selected, request);
     return PrintedPages{flow->PageCount(), [flow, header, page](QPainter& painter, int number) {
                           header.Paint(painter, page, number + 1, flow->PageCount());

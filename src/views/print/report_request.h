@@ -15,7 +15,9 @@ struct ReportRequest {
   QDate date;
   int slot = 0;  ///< 1..10; 0: all valid slots
   ReportContent content = ReportContent::kBoth;
-  int stepNm = 1;  ///< of the spectra as text, 1 or 10
+  int stepNm = 1;        ///< of the spectra as text, 1 or 10
+  bool diagram = false;  ///< with the chromaticity diagram
+  bool unsaved = false;  ///< the slots are no longer what their data file holds
 };
 
 }  // namespace vexa

@@ -5,16 +5,19 @@
 
 #include "base/date_text.h"
 #include "base/number_text.h"
+#include "base/translation.h"
+#include "standards/condition_caption.h"
 
 namespace vexa {
 namespace {
 
-using Column = Table::Column;
-using Row = std::vector<Table::Cell>;
+using Column = PageTable::Column;
+using Row = std::vector<PageTable::Cell>;
 
 const QString kNone = QStringLiteral("-");
 constexpr double kNumberWidth = 70.0;
 constexpr double kNameWidth = 340.0;
+constexpr double kBandWidth = 140.0;
 
 struct ColourColumn {
   QString title;
@@ -38,7 +41,7 @@ const std::vector<ColourColumn>& ColourColumns() {
 }
 
 template <typename MakeRow>
-void AddRows(Table& table, const VEXATYPE& state, MakeRow makeRow) {
+void AddRows(PageTable& table, const VEXATYPE& state, MakeRow makeRow) {
   for (int number = 1; number <= kSlotCount; ++number) {
     const MeasurementSlot& slot = *state.Slot(number);
     if (slot.valid) {
@@ -80,7 +83,7 @@ Row LimitsRow(const StandardSet& standard) {
 }
 
 // "OK" or "NG"; nothing was judged where there is no verdict.
-Table::Cell VerdictCell(const std::optional<bool>& passed) {
+PageTable::Cell VerdictCell(const std::optional<bool>& passed) {
   if (!passed) {
     return {kNone};
   }
@@ -99,14 +102,14 @@ std::optional<bool> Overall(const Judgement& judgement) {
 
 }  // namespace
 
-Table SampleTable(const VEXATYPE& state) {
-  Table table{.caption = QStringLiteral("試料"),
-              .columns = {{QStringLiteral("No."), kNumberWidth},
-                          {QStringLiteral("試料No"), kNameWidth, Qt::AlignLeft},
-                          {QStringLiteral("備考1"), 480.0, Qt::AlignLeft},
-                          {QStringLiteral("備考2"), 480.0, Qt::AlignLeft},
-                          {QStringLiteral("測定日"), 340.0}},
-              .rows = {}};
+PageTable SampleTable(const VEXATYPE& state) {
+  PageTable table{.caption = QStringLiteral("試料"),
+                  .columns = {{QStringLiteral("No."), kNumberWidth},
+                              {QStringLiteral("試料No"), kNameWidth, Qt::AlignLeft, true},
+                              {QStringLiteral("備考1"), 480.0, Qt::AlignLeft, true},
+                              {QStringLiteral("備考2"), 480.0, Qt::AlignLeft, true},
+                              {QStringLiteral("測定日"), 340.0}},
+                  .rows = {}};
   AddRows(table, state, [](const MeasurementSlot& slot, Row& row) {
     const SampleInfo& info = slot.info;
     row.push_back({info.sampleNumber});
@@ -117,10 +120,10 @@ Table SampleTable(const VEXATYPE& state) {
   return table;
 }
 
-Table ValueTable(const VEXATYPE& state) {
-  Table table{.caption = QStringLiteral("測定値"),
-              .columns = {{QStringLiteral("No."), kNumberWidth}},
-              .rows = {}};
+PageTable ValueTable(const VEXATYPE& state) {
+  PageTable table{.caption = QStringLiteral("測定値"),
+                  .columns = {{QStringLiteral("No."), kNumberWidth}},
+                  .rows = {}};
   for (const ColourColumn& column : ColourColumns()) {
     table.columns.push_back({column.title, 165.0});
   }
@@ -143,19 +146,46 @@ Table ValueTable(const VEXATYPE& state) {
   return table;
 }
 
-std::optional<Table> VerdictTable(const VEXATYPE& state) {
+std::optional<PageTable> BandTable(const VEXATYPE& state) {
+  const StandardSet& standard = state.standard;
+  if (!standard.useReflectance || !standard.conditions.front().enabled) {
+    return std::nullopt;
+  }
+  PageTable table{.caption = Text::tr("反射率規格"), .columns = {{{}, kNameWidth, Qt::AlignLeft}}};
+  std::vector<Row> rows{
+      {{Text::tr("波長 [nm]")}}, {{Text::tr("上限 [%]")}}, {{Text::tr("下限 [%]")}}};
+  const auto text = [](double limit) { return FormatNumber(limit, u"##0.0##").trimmed(); };
+  for (std::size_t k = 0; k < kConditionCount; ++k) {
+    if (const StandardLimits& limits = standard.conditions[k]; limits.enabled) {
+      table.columns.push_back({ConditionCaption(k), kBandWidth});
+      rows[0].push_back({QString::number(standard.wavelengths[k])});
+      rows[1].push_back({text(limits.upper)});
+      rows[2].push_back({text(limits.lower)});
+    }
+  }
+  // Few conditions keep their width and leave the rest of the paper empty.
+  const auto used = static_cast<double>(table.columns.size() - 1);
+  table.columns.push_back({{}, std::max(1.0, (kConditionCount - used) * kBandWidth)});
+  for (Row& row : rows) {
+    row.emplace_back();
+  }
+  table.rows = std::move(rows);
+  return table;
+}
+
+std::optional<PageTable> VerdictTable(const VEXATYPE& state) {
   constexpr double kWidth = 225.0;
-  Table table{.caption = QStringLiteral("合否判定"),
-              .columns = {{QStringLiteral("No."), kNumberWidth},
-                          {QStringLiteral("試料No"), kNameWidth, Qt::AlignLeft},
-                          {QStringLiteral("反射率"), 150.0, Qt::AlignHCenter},
-                          {QStringLiteral("平均反射率"), kWidth, Qt::AlignHCenter},
-                          {QStringLiteral("視感反射率"), kWidth, Qt::AlignHCenter},
-                          {QStringLiteral("波長"), kWidth, Qt::AlignHCenter},
-                          {QStringLiteral("クロマC*"), kWidth, Qt::AlignHCenter},
-                          {QStringLiteral("色相角h[deg]"), kWidth, Qt::AlignHCenter},
-                          {QStringLiteral("総合"), 120.0, Qt::AlignHCenter}},
-              .rows = {LimitsRow(state.standard)}};
+  PageTable table{.caption = QStringLiteral("合否判定"),
+                  .columns = {{QStringLiteral("No."), kNumberWidth},
+                              {QStringLiteral("試料No"), kNameWidth, Qt::AlignLeft},
+                              {QStringLiteral("反射率"), 150.0, Qt::AlignHCenter},
+                              {QStringLiteral("平均反射率"), kWidth, Qt::AlignHCenter},
+                              {QStringLiteral("視感反射率"), kWidth, Qt::AlignHCenter},
+                              {QStringLiteral("波長"), kWidth, Qt::AlignHCenter},
+                              {QStringLiteral("クロマC*"), kWidth, Qt::AlignHCenter},
+                              {QStringLiteral("色相角h[deg]"), kWidth, Qt::AlignHCenter},
+                              {QStringLiteral("総合"), 120.0, Qt::AlignHCenter}},
+                  .rows = {LimitsRow(state.standard)}};
   bool judged = false;
   AddRows(table, state, [&judged](const MeasurementSlot& slot, Row& row) {
     row.push_back({slot.info.sampleNumber});

@@ -4,19 +4,23 @@
 #include <optional>
 
 #include "measurement/vexatype.h"
-#include "views/print/table.h"
+#include "views/paper/page_table.h"
 
 namespace vexa {
 
 /// Sample number, remarks and date of each valid slot.
-[[nodiscard]] Table SampleTable(const VEXATYPE& state);
+[[nodiscard]] PageTable SampleTable(const VEXATYPE& state);
 
 /// Colour values, mean reflectances and thickness of each valid slot; "-" where there is none.
-[[nodiscard]] Table ValueTable(const VEXATYPE& state);
+[[nodiscard]] PageTable ValueTable(const VEXATYPE& state);
+
+/// The conditions of the reflectance with their wavelengths and limits; nothing when no band is
+/// judged.
+[[nodiscard]] std::optional<PageTable> BandTable(const VEXATYPE& state);
 
 /// The verdicts on each valid slot below the limits that they come from; nothing when the standards
 /// judge nothing.
-[[nodiscard]] std::optional<Table> VerdictTable(const VEXATYPE& state);
+[[nodiscard]] std::optional<PageTable> VerdictTable(const VEXATYPE& state);
 
 /// "3 NAME" for slot 3.
 [[nodiscard]] QString SlotTitle(const VEXATYPE& state, int number);

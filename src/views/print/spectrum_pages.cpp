@@ -15,7 +15,7 @@ constexpr double kStretchGap = 50.0;
 // Rows come in tens, so that every stretch begins at a round wavelength.
 constexpr int kRound = 10;
 
-Table EmptyTable() {
+PageTable EmptyTable() {
   return {.caption = QStringLiteral("反射率 [%]"),
           .columns = {},
           .rows = {},
@@ -39,15 +39,15 @@ int RoundedUp(int rows) {
 }
 
 // Rows of a page, never more than are needed.
-int RowsThatFit(double height, const Table& table, int needed) {
+int RowsThatFit(double height, const PageTable& table, int needed) {
   const int fit = static_cast<int>((height - table.HeadHeight()) / table.rowHeight);
   return needed <= fit ? needed : fit / kRound * kRound;
 }
 
 // `count` rows from the wavelength on, in stretches of `rows`.
-Table MakeTable(const VEXATYPE& state, const std::vector<int>& numbers, int fromNm, int stepNm,
-                int rows, int stretches) {
-  Table table = EmptyTable();
+PageTable MakeTable(const VEXATYPE& state, const std::vector<int>& numbers, int fromNm, int stepNm,
+                    int rows, int stretches) {
+  PageTable table = EmptyTable();
   table.rows.resize(static_cast<std::size_t>(rows));
   for (int stretch = 0; stretch < stretches; ++stretch) {
     if (stretch > 0) {
@@ -59,7 +59,7 @@ Table MakeTable(const VEXATYPE& state, const std::vector<int>& numbers, int from
       table.columns.push_back({used ? SlotTitle(state, number) : QString(), kValueWidth});
     }
     for (int row = 0; row < rows; ++row) {
-      std::vector<Table::Cell>& cells = table.rows[static_cast<std::size_t>(row)];
+      std::vector<PageTable::Cell>& cells = table.rows[static_cast<std::size_t>(row)];
       const int nm = fromNm + (stretch * rows + row) * stepNm;
       const bool within = ReflectanceSpectrum::Contains(nm);
       if (stretch > 0) {
@@ -92,8 +92,8 @@ void AddSpectra(PageFlow& flow, const VEXATYPE& state, int stepNm) {
       flow.NewPage();
       rows = std::max(kRound, RowsThatFit(flow.Left(), EmptyTable(), needed));
     }
-    const Table table = MakeTable(state, numbers, nm, stepNm, rows, stretches);
-    flow.Add(table.Height(),
+    const PageTable table = MakeTable(state, numbers, nm, stepNm, rows, stretches);
+    flow.Add(table.Height(flow.Width()),
              [table](QPainter& painter, const QRectF& place) { table.Paint(painter, place); });
     nm += rows * stretches * stepNm;
   }

@@ -2,7 +2,7 @@
 #pragma once
 
 #include "measurement/vexatype.h"
-#include "views/print/page_flow.h"
+#include "views/paper/page_flow.h"
 
 namespace vexa {
 

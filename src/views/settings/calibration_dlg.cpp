@@ -3,10 +3,11 @@
 
 #include <QFormLayout>
 
+#include "base/translation.h"
 #include "instrument/calibration_file.h"
 #include "views/common/dialog_buttons.h"
+#include "views/common/file_questions.h"
 #include "views/common/up_down_field.h"
-#include "views/files/data_file_commands.h"
 
 namespace vexa {
 
@@ -19,6 +20,8 @@ CalibrationDlg::CalibrationDlg(VEXATYPE& state, MessageService& messages, QWidge
       shift_(new UpDownField(0, kLargestCalibrationShiftNm)) {
   setObjectName(QStringLiteral("CalibrationDlg"));
   setWindowTitle(QStringLiteral("ｷｬﾘﾌﾞﾚｰｼｮﾝ"));
+  shift_->setToolTip(
+      Text::tr("光量の波長をずらす量です (0～7 nm)。測定済みの光量にも、次の計算から使われます。"));
   shift_->Field().setObjectName(QStringLiteral("Shift"));
   shift_->Field().SetValue(state.instrument.calibrationShiftNm);
   auto* form = new QFormLayout;
@@ -38,6 +41,7 @@ void CalibrationDlg::accept() {
     messages_.MsgCall(
         QStringLiteral("ｷｬﾘﾌﾞﾚｰｼｮﾝのｼﾌﾄ値が設定範囲を越えています。 (0 ≦ 設定値 ≦ 7)"),
         kOk + kStopIcon, message_title::kError);
+    EnterAgain(shift_->Field());
     return;
   }
   const QString path = CompletePath(state_, QStringLiteral("vexa.cal"));

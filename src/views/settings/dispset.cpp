@@ -7,11 +7,13 @@
 #include <QVBoxLayout>
 #include <cmath>
 
+#include "base/translation.h"
 #include "colour/colour_tables.h"
 #include "measurement/evaluation.h"
-#include "views/colour/colour_texts.h"
+#include "views/common/colour_texts.h"
 #include "views/common/dialog_buttons.h"
-#include "views/optics/option_frame.h"
+#include "views/common/option_frame.h"
+#include "views/common/scroll_body.h"
 
 namespace vexa {
 
@@ -43,30 +45,42 @@ dispset::dispset(VEXATYPE& state, MessageService& messages, QWidget* parent)
     : QDialog(parent), state_(state), messages_(messages) {
   setObjectName(QStringLiteral("dispset"));
   setWindowTitle(QStringLiteral("表示設定"));
-  auto* left = new QVBoxLayout;
-  BuildWavelengths(*left);
-  BuildReflectance(*left);
-  BuildText(*left);
-  auto* right = new QVBoxLayout;
-  BuildColours(*right);
-  BuildMarks(*right);
-  BuildAverage(*right);
-  auto* columns = new QHBoxLayout;
+  auto* body = new QWidget;
+  auto* columns = new QHBoxLayout(body);
+  columns->setContentsMargins(0, 0, 0, 0);
   columns->setSpacing(14);
-  columns->addLayout(left);
-  columns->addLayout(right);
+  const auto addColumn = [columns] {
+    auto* column = new QVBoxLayout;
+    columns->addLayout(column);
+    return column;
+  };
+  QVBoxLayout* left = addColumn();
+  BuildWavelengths(*left);
+  BuildText(*left);
+  BuildAverage(*left);
+  QVBoxLayout* middle = addColumn();
+  BuildReflectance(*middle);
+  BuildMarks(*middle);
+  QVBoxLayout* right = addColumn();
+  BuildColours(*right);
+  for (QVBoxLayout* column : {left, middle, right}) {
+    column->addStretch();
+  }
   auto* layout = new QVBoxLayout(this);
   layout->setContentsMargins(18, 14, 18, 14);
   layout->setSpacing(12);
-  layout->addLayout(columns);
+  layout->addWidget(new ScrollBody(body), 1);
   layout->addWidget(OkCancelButtons(*this));
-  layout->setSizeConstraint(QLayout::SetFixedSize);
+  resize(sizeHint());
 }
 
 void dispset::accept() {
   const DisplayEntries entries = Entries();
   if (const std::optional<QString> fault = CheckDisplayEntries(entries)) {
     messages_.MsgCall(*fault, kOk + kWarningIcon, QStringLiteral("設定入力"));
+    if (NumberField* field = FieldAtFault(entries)) {
+      EnterAgain(*field);
+    }
     return;
   }
   const StockConditions conditions = Conditions();
@@ -98,8 +112,9 @@ NumberField* dispset::AddNumber(QGridLayout& grid, const char* name, const QStri
 }
 
 QCheckBox* dispset::AddCheck(QGridLayout& grid, const char* name, const QString& caption,
-                             bool checked) {
+                             bool checked, const QString& tip) {
   auto* box = new QCheckBox(caption);
+  box->setToolTip(tip);
   box->setObjectName(QLatin1String(name));
   box->setChecked(checked);
   grid.addWidget(box, grid.rowCount(), 0, 1, 3);
@@ -107,18 +122,20 @@ QCheckBox* dispset::AddCheck(QGridLayout& grid, const char* name, const QString&
 }
 
 QButtonGroup* dispset::AddChoice(QGridLayout& grid, const char* name, const QStringList& captions,
-                                 int chosen) {
+                                 int chosen, const QString& tip) {
   auto* group = new QButtonGroup(grid.parentWidget());
   auto* row = new QHBoxLayout;
   row->setSpacing(14);
   for (qsizetype i = 0; i < captions.size(); ++i) {
     auto* button = new QRadioButton(captions[i]);
+    button->setToolTip(tip);
     button->setObjectName(QStringLiteral("%1%2").arg(QLatin1String(name)).arg(i));
     button->setChecked(i == chosen);
     group->addButton(button, static_cast<int>(i));
     row->addWidget(button);
   }
   row->addStretch();
+  TabToChosen(*group);
   grid.addLayout(row, grid.rowCount(), 0, 1, 3);
   return group;
 }
@@ -126,7 +143,8 @@ QButtonGroup* dispset::AddChoice(QGridLayout& grid, const char* name, const QStr
 void dispset::BuildWavelengths(QBoxLayout& column) {
   const DisplaySettings& display = state_.display;
   const Group range(QStringLiteral("表示波長"));
-  fullScale_ = AddCheck(*range.grid, "FullScale", QStringLiteral("ﾌﾙｽｹｰﾙ"), display.fullScale);
+  fullScale_ = AddCheck(*range.grid, "FullScale", QStringLiteral("ﾌﾙｽｹｰﾙ"), display.fullScale,
+                        Text::tr("波長軸を440～840 nmにします。"));
   shortest_ =
       AddNumber(*range.grid, "Shortest", QStringLiteral("最短波長"), display.shortestNm, kNm);
   longest_ = AddNumber(*range.grid, "Longest", QStringLiteral("最長波長"), display.longestNm, kNm);
@@ -145,7 +163,8 @@ void dispset::BuildReflectance(QBoxLayout& column) {
   const DisplaySettings& display = state_.display;
   const QString percent = QStringLiteral("[%]");
   const Group range(QStringLiteral("表示反射率"));
-  autoScale_ = AddCheck(*range.grid, "AutoScale", QStringLiteral("自動ｽｹｰﾙ"), display.autoScale);
+  autoScale_ = AddCheck(*range.grid, "AutoScale", QStringLiteral("自動ｽｹｰﾙ"), display.autoScale,
+                        Text::tr("反射率軸を、表示中の曲線と規格に合わせます。"));
   maximum_ =
       AddNumber(*range.grid, "Maximum", QStringLiteral("最大"), display.maximumPercent, percent);
   minimum_ =
@@ -155,7 +174,8 @@ void dispset::BuildReflectance(QBoxLayout& column) {
     connect(autoScale_, &QCheckBox::toggled, field, &QWidget::setDisabled);
   }
   const Group ticks(QStringLiteral("目盛り"));
-  autoTicks_ = AddCheck(*ticks.grid, "AutoTicks", QStringLiteral("自動目盛り"), display.autoTicks);
+  autoTicks_ = AddCheck(*ticks.grid, "AutoTicks", QStringLiteral("自動目盛り"), display.autoTicks,
+                        Text::tr("目盛りをきりのよい値に置きます。"));
   tick_ =
       AddNumber(*ticks.grid, "Tick", QStringLiteral("目盛り間隔"), display.tickPercent, percent);
   tick_->setDisabled(autoTicks_->isChecked());
@@ -173,18 +193,20 @@ void dispset::BuildText(QBoxLayout& column) {
 
 void dispset::BuildColours(QBoxLayout& column) {
   const Group diagram(QStringLiteral("色度図"));
-  diagram_ = AddChoice(*diagram.grid, "Diagram", DiagramTexts(), state_.display.xyMode ? 0 : 1);
+  diagram_ = AddChoice(*diagram.grid, "Diagram", DiagramTexts(), state_.display.xyMode ? 0 : 1,
+                       Text::tr("測定画面の色度図です。累積する色の値もこれで決まります。"));
   diagram.grid->addWidget(new QLabel(QStringLiteral("L*a*bｽｹｰﾙ")), diagram.grid->rowCount(), 0);
-  labScale_ = AddChoice(*diagram.grid, "LabScale", LabScaleTexts(), state_.display.labScale);
+  labScale_ = AddChoice(*diagram.grid, "LabScale", LabScaleTexts(), state_.display.labScale,
+                        Text::tr("a*b*色度図の軸の端の値です。"));
   const Group illuminant(QStringLiteral("標準光源設定"));
   illuminant_ =
       AddChoice(*illuminant.grid, "Illuminant",
                 {IlluminantText(1), IlluminantText(2), IlluminantText(3), IlluminantText(4)},
-                state_.colour.illuminant - 1);
+                state_.colour.illuminant - 1, Text::tr("測色値を計算する標準光源です。"));
   const Group observer(QStringLiteral("視野設定"));
-  observer_ =
-      AddChoice(*observer.grid, "Observer", {QStringLiteral("2度視野"), QStringLiteral("10度視野")},
-                state_.colour.observer2Deg ? 0 : 1);
+  observer_ = AddChoice(
+      *observer.grid, "Observer", {QStringLiteral("2度視野"), QStringLiteral("10度視野")},
+      state_.colour.observer2Deg ? 0 : 1, Text::tr("測色値を計算する等色関数の視野です。"));
   for (const Group& group : {diagram, illuminant, observer}) {
     column.addWidget(group.box);
   }
@@ -193,13 +215,16 @@ void dispset::BuildColours(QBoxLayout& column) {
 void dispset::BuildMarks(QBoxLayout& column) {
   const Group shown(QStringLiteral("ﾘﾌｧﾚﾝｽﾃﾞｰﾀ"));
   reference_ = AddCheck(*shown.grid, "ShowReference", QStringLiteral("ﾘﾌｧﾚﾝｽﾃﾞｰﾀを表示する"),
-                        state_.display.showReferenceData);
+                        state_.display.showReferenceData,
+                        Text::tr("ﾘﾌｧﾚﾝｽ試料の理論反射率をｸﾞﾗﾌと表に加えます。"));
   const Group cursor(QStringLiteral("ｶｰｿﾙ表示"));
   cursor_ = AddCheck(*cursor.grid, "ShowCursor", QStringLiteral("ｶｰｿﾙを表示する"),
-                     state_.display.showCursor);
+                     state_.display.showCursor,
+                     Text::tr("ｸﾞﾗﾌに波長のｶｰｿﾙを、その下に各曲線の値を示します。"));
   const Group minimum(QStringLiteral("Min表示"));
   minimumMark_ = AddCheck(*minimum.grid, "ShowMinimum", QStringLiteral("Min値に表示する"),
-                          state_.display.showMinimum);
+                          state_.display.showMinimum,
+                          Text::tr("選択ｽﾛｯﾄの最小値の位置に、波長と値を示します。"));
   auto* marks = new QHBoxLayout;
   marks->addWidget(cursor.box);
   marks->addWidget(minimum.box);
@@ -214,6 +239,39 @@ void dispset::BuildAverage(QBoxLayout& column) {
   averageLongest_ = AddNumber(*average.grid, "AverageLongest", QStringLiteral("最長波長"),
                               state_.colour.avgTo, kNm);
   column.addWidget(average.box);
+}
+
+// The first entry that spoils what without it would be accepted.
+NumberField* dispset::FieldAtFault(const DisplayEntries& entries) const {
+  DisplayEntries tried{.fullScale = entries.fullScale,
+                       .shortestNm = ReflectanceSpectrum::kFirstNm,
+                       .longestNm = ReflectanceSpectrum::kLastNm,
+                       .wavelengthTickNm = 100.0,
+                       .autoScale = entries.autoScale,
+                       .maximumPercent = 100.0,
+                       .minimumPercent = 0.0,
+                       .autoTicks = entries.autoTicks,
+                       .tickPercent = 100.0,
+                       .textStepNm = 1.0,
+                       .averageShortestNm = ReflectanceSpectrum::kFirstNm,
+                       .averageLongestNm = ReflectanceSpectrum::kLastNm};
+  const std::pair<DisplayEntries::Entry DisplayEntries::*, NumberField*> fields[] = {
+      {&DisplayEntries::shortestNm, shortest_},
+      {&DisplayEntries::longestNm, longest_},
+      {&DisplayEntries::wavelengthTickNm, wavelengthTick_},
+      {&DisplayEntries::minimumPercent, minimum_},
+      {&DisplayEntries::maximumPercent, maximum_},
+      {&DisplayEntries::tickPercent, tick_},
+      {&DisplayEntries::textStepNm, textStep_},
+      {&DisplayEntries::averageShortestNm, averageShortest_},
+      {&DisplayEntries::averageLongestNm, averageLongest_}};
+  for (const auto& [entry, field] : fields) {
+    tried.*entry = entries.*entry;
+    if (CheckDisplayEntries(tried)) {
+      return field;
+    }
+  }
+  return nullptr;
 }
 
 DisplayEntries dispset::Entries() const {

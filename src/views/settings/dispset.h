@@ -27,9 +27,9 @@ class dispset : public QDialog {
   NumberField* AddNumber(QGridLayout& grid, const char* name, const QString& caption, double value,
                          const QString& unit);
   static QCheckBox* AddCheck(QGridLayout& grid, const char* name, const QString& caption,
-                             bool checked);
+                             bool checked, const QString& tip);
   static QButtonGroup* AddChoice(QGridLayout& grid, const char* name, const QStringList& captions,
-                                 int chosen);
+                                 int chosen, const QString& tip);
   void BuildWavelengths(QBoxLayout& column);
   void BuildReflectance(QBoxLayout& column);
   void BuildText(QBoxLayout& column);
@@ -37,6 +37,7 @@ class dispset : public QDialog {
   void BuildMarks(QBoxLayout& column);
   void BuildAverage(QBoxLayout& column);
   [[nodiscard]] DisplayEntries Entries() const;
+  [[nodiscard]] NumberField* FieldAtFault(const DisplayEntries& entries) const;
   [[nodiscard]] StockConditions Conditions() const;
   void Store(const DisplayEntries& entries, const StockConditions& conditions);
 

@@ -3,9 +3,14 @@
 
 #include <QFormLayout>
 #include <QGroupBox>
+#include <QHBoxLayout>
+#include <QLabel>
 
+#include "base/number_text.h"
+#include "base/translation.h"
 #include "measurement/controller_start.h"
 #include "views/common/dialog_buttons.h"
+#include "views/common/theme.h"
 #include "views/common/up_down_field.h"
 
 namespace vexa {
@@ -17,6 +22,8 @@ namespace {
 constexpr int kShortestTimeMs = 30;
 constexpr int kLongestTimeMs = 20000;
 constexpr int kMostLines = 16;
+constexpr int kHintLines = 2;
+constexpr int kUnitGap = 6;
 
 }  // namespace
 
@@ -27,7 +34,8 @@ SamplingDlg::SamplingDlg(VEXATYPE& state, Controller& controller, MessageService
       controller_(controller),
       messages_(messages),
       time_(new IntegerField),
-      averaging_(new UpDownField(1, kMostLines)) {
+      averaging_(new UpDownField(1, kMostLines)),
+      hint_(new QLabel) {
   setObjectName(QStringLiteral("SamplingDlg"));
   setWindowTitle(QStringLiteral("ｻﾝﾌﾟﾘﾝｸﾞ設定"));
   averaging_->Field().setObjectName(QStringLiteral("Averaging"));
@@ -38,14 +46,54 @@ SamplingDlg::SamplingDlg(VEXATYPE& state, Controller& controller, MessageService
   auto* form = new QFormLayout(group);
   form->setHorizontalSpacing(24);
   form->setVerticalSpacing(10);
-  form->addRow(QStringLiteral("取り込み平均回数"), averaging_);
-  form->addRow(QStringLiteral("ｻﾝﾌﾟﾘﾝｸﾞ時間"), time_);
+  // The two fields end below one another: behind one stand its arrows, behind the other its unit.
+  constexpr int kArrowsWidth = 24;
+  auto* unit = new QLabel(QStringLiteral("[ms]"));
+  auto* averagingRow = new QHBoxLayout;
+  averagingRow->setSpacing(0);
+  averagingRow->addWidget(averaging_, 1);
+  averagingRow->addSpacing(unit->sizeHint().width() + kUnitGap - kArrowsWidth);
+  form->addRow(QStringLiteral("取り込み平均回数"), averagingRow);
+  auto* timeRow = new QHBoxLayout;
+  timeRow->addWidget(time_, 1);
+  timeRow->addWidget(unit);
+  timeRow->setSpacing(kUnitGap);
+  form->addRow(QStringLiteral("ｻﾝﾌﾟﾘﾝｸﾞ時間"), timeRow);
+  averaging_->setToolTip(Text::tr("一回の測定で取り込み、平均するﾗｲﾝ数です (1～16)。"));
+  time_->setToolTip(
+      Text::tr("一ﾗｲﾝの積算時間です (30～20000 ms)。長いほど光量が増え、飽和に近づきます。"));
+  hint_->setObjectName(QStringLiteral("SamplingHint"));
+  hint_->setWordWrap(true);
+  hint_->setAlignment(Qt::AlignLeft | Qt::AlignTop);
+  hint_->setFixedHeight(kHintLines * hint_->fontMetrics().lineSpacing());
+  QPalette calm = hint_->palette();
+  calm.setColor(QPalette::WindowText, theme::kAccent);
+  hint_->setPalette(calm);
+  form->addRow(hint_);
+  for (const QLineEdit* field :
+       {static_cast<QLineEdit*>(time_), static_cast<QLineEdit*>(&averaging_->Field())}) {
+    connect(field, &QLineEdit::textChanged, this, &SamplingDlg::UpdateHint);
+  }
+  UpdateHint();
   auto* layout = new QVBoxLayout(this);
   layout->setContentsMargins(18, 16, 18, 16);
   layout->setSpacing(16);
   layout->addWidget(group);
   layout->addWidget(OkCancelButtons(*this));
   layout->setSizeConstraint(QLayout::SetFixedSize);
+}
+
+// The controller answers a measurement when its last line is taken.
+void SamplingDlg::UpdateHint() {
+  const qint64 duration =
+      qint64{time_->Value().value_or(0)} * averaging_->Field().Value().value_or(0);
+  hint_->setText(
+      duration < Controller::kReplyTimeoutMs
+          ? QString()
+          : Text::tr("一回の測定に %1 秒かかります。ｺﾝﾄﾛｰﾗの応答は %2 秒で打ち切られるため、"
+                     "測定できません。")
+                .arg(FormatNumber(static_cast<double>(duration) / 1000.0, u"##0.0"))
+                .arg(Controller::kReplyTimeoutMs / 1000));
 }
 
 void SamplingDlg::accept() {
@@ -55,12 +103,15 @@ void SamplingDlg::accept() {
     messages_.MsgCall(
         QStringLiteral("ｻﾝﾌﾟﾘﾝｸﾞ時間が設定範囲を越えています。 (30 ≦ 設定値 ≦ 10000)"),
         kOk + kStopIcon, message_title::kError);
+    const bool timeAtFault = !timeMs || *timeMs < kShortestTimeMs || *timeMs > kLongestTimeMs;
+    EnterAgain(timeAtFault ? *time_ : averaging_->Field());
     return;
   }
   if (*averaging < 1 || *averaging > kMostLines) {
     messages_.MsgCall(
         QStringLiteral("取り込み平均回数が設定範囲を越えています。 (1 ≦ 設定値 ≦ 16)"),
         kOk + kStopIcon, message_title::kError);
+    EnterAgain(averaging_->Field());
     return;
   }
   state_.instrument.samplingTimeMs = static_cast<std::int16_t>(*timeMs);

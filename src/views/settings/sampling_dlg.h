@@ -7,12 +7,15 @@
 #include "instrument/controller.h"
 #include "measurement/vexatype.h"
 
+class QLabel;
+
 namespace vexa {
 
 class IntegerField;
 class UpDownField;
 
-/// Sets sampling time and averaging count and sends them to the controller at once.
+/// Sets sampling time and averaging count and sends them to the controller at once. A hint warns
+/// where a measurement would last longer than its answer is awaited.
 class SamplingDlg : public QDialog {
   Q_OBJECT
 
@@ -23,11 +26,14 @@ class SamplingDlg : public QDialog {
   void accept() override;
 
  private:
+  void UpdateHint();
+
   VEXATYPE& state_;
   Controller& controller_;
   MessageService& messages_;
   IntegerField* time_;
   UpDownField* averaging_;
+  QLabel* hint_;
 };
 
 }  // namespace vexa

@@ -3,7 +3,7 @@
 
 #include "base/number_text.h"
 #include "colour/colour_tables.h"
-#include "views/colour/colour_texts.h"
+#include "views/common/colour_texts.h"
 
 namespace vexa {
 namespace {

@@ -9,6 +9,7 @@
 
 #include "views/common/dialog_buttons.h"
 #include "views/common/elided_label.h"
+#include "views/common/scroll_body.h"
 #include "views/settings/settings_list.h"
 
 namespace vexa {
@@ -18,9 +19,9 @@ namespace {
 constexpr std::array<std::size_t, 3> kColumns{3, 6, 8};
 
 // In all groups of a column, so that their fields stand below one another.
-constexpr int kLabelWidth = 88;
-constexpr int kUnitWidth = 32;
-constexpr int kGap = 12;
+constexpr int kLabelWidth = 80;
+constexpr int kUnitWidth = 28;
+constexpr int kGap = 8;
 
 bool IsFirst(std::size_t group) {
   return std::find(kColumns.begin(), kColumns.end(), group) != kColumns.end();
@@ -32,11 +33,11 @@ QWidget* Field(const QString& text, bool number) {
   field->setToolTip(text);
   field->setAlignment((number ? Qt::AlignRight : Qt::AlignLeft) | Qt::AlignVCenter);
   field->setFrameShape(QFrame::StyledPanel);
-  field->setMargin(4);
+  field->setMargin(2);
   field->setBackgroundRole(QPalette::Base);
   field->setAutoFillBackground(true);
   field->setMinimumWidth(field->fontMetrics().horizontalAdvance(QStringLiteral("-0.0000000E+00")) +
-                         16);
+                         10);
   field->setFixedHeight(field->sizeHint().height());
   return field;
 }
@@ -44,8 +45,8 @@ QWidget* Field(const QString& text, bool number) {
 // The values down two columns, a single one over both.
 QLayout* Fields(const SettingsRow& row) {
   auto* grid = new QGridLayout;
-  grid->setHorizontalSpacing(6);
-  grid->setVerticalSpacing(4);
+  grid->setHorizontalSpacing(4);
+  grid->setVerticalSpacing(2);
   const int count = static_cast<int>(row.values.size());
   const int lines = (count + 1) / 2;
   for (int i = 0; i < count; ++i) {
@@ -63,8 +64,8 @@ QLayout* Fields(const SettingsRow& row) {
 QGroupBox* Box(const SettingsGroup& group, int labelWidth = 0, int unitWidth = 0) {
   auto* box = new QGroupBox(group.caption);
   auto* grid = new QGridLayout(box);
-  grid->setContentsMargins(12, 8, 12, 8);
-  grid->setVerticalSpacing(4);
+  grid->setContentsMargins(8, 6, 8, 6);
+  grid->setVerticalSpacing(2);
   grid->setColumnStretch(1, 1);
   grid->setColumnMinimumWidth(0, labelWidth);
   grid->setColumnMinimumWidth(2, unitWidth);
@@ -110,8 +111,8 @@ QLayout* Boxes(const std::vector<SettingsGroup>& groups) {
 table::table(const VEXATYPE& state, const Print& print, QWidget* parent) : QDialog(parent) {
   setObjectName(QStringLiteral("table"));
   setWindowTitle(QStringLiteral("VEXA設定一覧"));
-  QPushButton* printButton = DialogButton(QStringLiteral("印刷"));
-  QPushButton* closeButton = DialogButton(QStringLiteral("閉じる"));
+  QPushButton* printButton = DialogButton("Print", QStringLiteral("印刷"));
+  QPushButton* closeButton = DialogButton("Close", QStringLiteral("閉じる"));
   closeButton->setDefault(true);
   connect(closeButton, &QPushButton::clicked, this, &QDialog::accept);
   connect(printButton, &QPushButton::clicked, this, [this, print] {
@@ -124,17 +125,20 @@ table::table(const VEXATYPE& state, const Print& print, QWidget* parent) : QDial
   auto* layout = new QVBoxLayout(this);
   layout->setContentsMargins(14, 14, 14, 12);
   layout->setSpacing(10);
-  layout->addLayout(Boxes(SettingsList(state)), 1);
+  list_ = new QWidget;
+  list_->setLayout(Boxes(SettingsList(state)));
+  layout->addWidget(new ScrollBody(list_), 1);
   layout->addLayout(buttons);
+  resize(sizeHint());
 }
 
 // Drawn anew on the printer, so that texts stay sharp.
 void table::PaintImage(QPainter& painter, const QRectF& page) {
-  const double scale = std::min(page.width() / width(), page.height() / height());
+  const double scale = std::min(page.width() / list_->width(), page.height() / list_->height());
   painter.save();
   painter.translate(page.topLeft());
   painter.scale(scale, scale);
-  render(&painter);
+  list_->render(&painter);
   painter.restore();
 }
 

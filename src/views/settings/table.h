@@ -22,6 +22,8 @@ class table : public QDialog {
 
  private:
   void PaintImage(QPainter& painter, const QRectF& page);
+
+  QWidget* list_ = nullptr;
 };
 
 }  // namespace vexa

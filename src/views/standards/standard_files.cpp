@@ -2,7 +2,7 @@
 #include "views/standards/standard_files.h"
 
 #include "standards/standard_file.h"
-#include "views/files/file_questions.h"
+#include "views/common/file_questions.h"
 
 namespace vexa {
 

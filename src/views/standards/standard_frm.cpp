@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "views/standards/standard_frm.h"
 
+#include <QButtonGroup>
 #include <QHBoxLayout>
 #include <QPushButton>
 #include <QVBoxLayout>
@@ -8,7 +9,10 @@
 #include "measurement/evaluation.h"
 #include "standards/condition_caption.h"
 #include "standards/standard_check.h"
+#include "views/common/dialog_buttons.h"
 #include "views/common/elided_label.h"
+#include "views/common/option_frame.h"
+#include "views/common/scroll_body.h"
 #include "views/common/theme.h"
 
 namespace vexa {
@@ -73,11 +77,16 @@ StandardFrm::StandardFrm(VEXATYPE& state, MessageService& messages, FileDialogs&
   auto* layout = new QVBoxLayout(this);
   layout->setContentsMargins(16, 14, 16, 14);
   layout->setSpacing(12);
-  layout->addLayout(groups, 1);
+  auto* body = new QWidget;
+  body->setLayout(groups);
+  groups->setContentsMargins(0, 0, 0, 0);
+  layout->addWidget(new ScrollBody(body), 1);
   layout->addLayout(BuildFileRow());
   layout->addLayout(buttons);
   Show(ContentsOf(state));
   ShowFileName();
+  BeginWithFirstField(*this);
+  resize(sizeHint());
 }
 
 QWidget* StandardFrm::BuildGroups() {
@@ -106,6 +115,10 @@ QWidget* StandardFrm::BuildGroups() {
 QWidget* StandardFrm::BuildPeakChoice() {
   peak_->setObjectName(QStringLiteral("peak"));
   bottom_->setObjectName(QStringLiteral("bottom"));
+  auto* choice = new QButtonGroup(this);
+  choice->addButton(peak_);
+  choice->addButton(bottom_);
+  TabToChosen(*choice);
   auto* widget = new QWidget;
   auto* row = new QHBoxLayout(widget);
   row->setContentsMargins(24, 0, 0, 0);
@@ -187,8 +200,7 @@ std::optional<StandardContents> StandardFrm::Entered() {
   QString where;
   if (QLineEdit* field = TakeInto(contents, where); field != nullptr) {
     Warn(where + QStringLiteral("数値入力エラー"));
-    field->setFocus();
-    field->selectAll();
+    EnterAgain(*field);
     return std::nullopt;
   }
   if (const std::optional<QString> fault = CheckStandardSet(contents.standard)) {

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "views/print/current_printer.h"
+#include "views/paper/current_printer.h"
 
 #include <QBuffer>
 #include <QPdfWriter>
@@ -7,8 +7,9 @@
 #include <QPrinterInfo>
 
 #include "base/replace_file.h"
+#include "views/common/file_questions.h"
 #include "views/common/pdf_text.h"
-#include "views/files/file_questions.h"
+#include "views/common/proposed_name.h"
 
 namespace vexa {
 namespace {
@@ -66,7 +67,8 @@ bool CurrentPrinter::Print(const QString& title, const PageMaker& pages, int cop
 
 bool CurrentPrinter::PrintToFile(const QString& title, const PageMaker& pages) {
   const std::optional<SaveChoice> choice =
-      dialogs_.AskSave(QStringLiteral("印刷"), QStringLiteral("PDF(*.pdf)|*.pdf"));
+      dialogs_.AskSave(QStringLiteral("印刷"), QStringLiteral("PDF(*.pdf)|*.pdf"),
+                       WithExtension(ProposedName(state_), QStringLiteral(".pdf")));
   if (!choice) {
     return false;
   }

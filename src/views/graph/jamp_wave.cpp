@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "views/optics/jamp_wave.h"
+#include "views/graph/jamp_wave.h"
 
 #include <QGridLayout>
 #include <QGroupBox>

@@ -10,11 +10,12 @@ class QPainter;
 namespace vexa {
 
 /// A table on a page. Lengths are tenths of a millimetre.
-struct Table {
+struct PageTable {
   struct Column {
     QString title;
     double width = 0.0;  ///< when the table is as wide as its columns; all are stretched alike
     Qt::Alignment alignment = Qt::AlignRight;
+    bool wraps = false;  ///< a text too wide goes on in further lines, its row grows with it
   };
   struct Cell {
     QString text;
@@ -31,12 +32,18 @@ struct Table {
   [[nodiscard]] double CaptionHeight() const { return caption.isEmpty() ? 0.0 : 56.0; }
   /// Of caption and titles, without a row.
   [[nodiscard]] double HeadHeight() const { return CaptionHeight() + rowHeight + 6.0; }
-  [[nodiscard]] double Height() const {
-    return HeadHeight() + static_cast<double>(rows.size()) * rowHeight;
-  }
+  /// Of a row in a table of this width.
+  [[nodiscard]] double RowHeight(const std::vector<Cell>& row, double width) const;
+  /// Of all in a table of this width.
+  [[nodiscard]] double Height(double width) const;
 
-  /// Paints the table over the width of the place; texts too wide for their column are cut.
+  /// Paints the table over the width of the place. Texts too wide for their column lose their
+  /// middle, unless the column wraps them: of those thirty lines are shown.
   void Paint(QPainter& painter, const QRectF& place) const;
+
+ private:
+  [[nodiscard]] double Stretch(double width) const;
+  [[nodiscard]] int FontSize(double width) const;
 };
 
 }  // namespace vexa

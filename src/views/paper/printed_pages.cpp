@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "views/print/printed_pages.h"
+#include "views/paper/printed_pages.h"
 
 #include <QPagedPaintDevice>
 #include <QPainter>

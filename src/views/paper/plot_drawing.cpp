@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "views/print/plot_drawing.h"
+#include "views/paper/plot_drawing.h"
 
 #include <qcustomplot.h>
 

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "views/print/print_settings.h"
+#include "views/paper/print_settings.h"
 
 #include <QRectF>
 #include <algorithm>

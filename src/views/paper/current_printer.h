@@ -6,8 +6,8 @@
 #include "base/message.h"
 #include "measurement/vexatype.h"
 #include "views/common/file_dialogs.h"
-#include "views/print/print_settings.h"
-#include "views/print/printed_pages.h"
+#include "views/paper/print_settings.h"
+#include "views/paper/printed_pages.h"
 
 namespace vexa {
 

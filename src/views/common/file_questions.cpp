@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "views/files/file_questions.h"
+#include "views/common/file_questions.h"
 
 #include <QFileInfo>
 

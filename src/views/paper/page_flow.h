@@ -5,7 +5,7 @@
 #include <functional>
 #include <vector>
 
-#include "views/print/table.h"
+#include "views/paper/page_table.h"
 
 namespace vexa {
 
@@ -33,7 +33,7 @@ class PageFlow {
 
   /// Adds a table: on one page where that is possible, else cut between rows with its titles
   /// repeated.
-  void Add(const Table& table);
+  void Add(const PageTable& table);
 
   [[nodiscard]] int PageCount() const { return static_cast<int>(pages_.size()); }
   void PaintPage(QPainter& painter, int page) const;

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "views/print/page_flow.h"
+#include "views/paper/page_flow.h"
 
 #include <algorithm>
 
@@ -22,22 +22,23 @@ void PageFlow::Add(double height, const Paint& paint) {
   y_ += height + kGap;
 }
 
-void PageFlow::Add(const Table& table) {
-  if (table.Height() > Left() && table.Height() <= PageHeight()) {
+void PageFlow::Add(const PageTable& table) {
+  if (const double height = table.Height(Width()); height > Left() && height <= PageHeight()) {
     NewPage();
   }
   auto row = table.rows.begin();
   while (row != table.rows.end()) {
-    if (Left() < table.HeadHeight() + table.rowHeight) {
+    if (Left() < table.HeadHeight() + table.RowHeight(*row, Width())) {
       NewPage();
     }
-    const auto fit = static_cast<std::ptrdiff_t>((Left() - table.HeadHeight()) / table.rowHeight);
-    const auto end = row + std::clamp(fit, std::ptrdiff_t{1}, table.rows.end() - row);
-    Table part = table;
-    part.rows.assign(row, end);
-    Add(part.Height(),
+    PageTable part = table;
+    part.rows.clear();
+    do {
+      part.rows.push_back(*row++);
+    } while (row != table.rows.end() &&
+             part.Height(Width()) + table.RowHeight(*row, Width()) <= Left());
+    Add(part.Height(Width()),
         [part](QPainter& painter, const QRectF& place) { part.Paint(painter, place); });
-    row = end;
   }
 }
 

@@ -1,0 +1,134 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "views/paper/page_table.h"
+
+#include <QPainter>
+#include <algorithm>
+
+#include "views/common/theme.h"
+#include "views/paper/printed_pages.h"
+
+namespace vexa {
+namespace {
+
+constexpr double kCellPadding = 10.0;
+constexpr int kCaptionSize = 32;
+constexpr double kRuleWidth = 3.0;
+constexpr double kFineRuleWidth = 1.0;
+constexpr double kHighestRow = 30.0 * 42.0;
+
+void DrawRule(QPainter& painter, const QRectF& place, double y, const QColor& colour,
+              double width) {
+  const QPen before = painter.pen();
+  painter.setPen(QPen(colour, width));
+  painter.drawLine(QLineF(place.left(), y, place.right(), y));
+  painter.setPen(before);
+}
+
+QRectF Inner(const QRectF& cell) {
+  return cell.adjusted(kCellPadding, 0.0, -kCellPadding, 0.0);
+}
+
+QFont PageFont(int size) {
+  QFont font;
+  font.setPixelSize(size);
+  return font;
+}
+
+constexpr int kWrapped = Qt::TextWordWrap | Qt::TextWrapAnywhere;
+
+void DrawText(QPainter& painter, const QRectF& cell, const PageTable::Column& column,
+              const QString& text) {
+  const QRectF inner = Inner(cell);
+  const QFontMetricsF metrics(painter.font());
+  const int alignment = static_cast<int>(column.alignment | Qt::AlignVCenter);
+  if (column.wraps && metrics.horizontalAdvance(text) > inner.width()) {
+    painter.drawText(inner, alignment | kWrapped, text);
+    return;
+  }
+  painter.drawText(inner, alignment | Qt::TextSingleLine,
+                   metrics.elidedText(text, Qt::ElideMiddle, inner.width()));
+}
+
+}  // namespace
+
+double PageTable::Stretch(double width) const {
+  double natural = 0.0;
+  for (const Column& column : columns) {
+    natural += column.width;
+  }
+  return width / natural;
+}
+
+int PageTable::FontSize(double width) const {
+  return std::max(1, static_cast<int>(fontSize * std::min(1.0, Stretch(width))));
+}
+
+double PageTable::RowHeight(const std::vector<Cell>& row, double width) const {
+  const QFontMetricsF metrics(PageFont(FontSize(width)));
+  double height = rowHeight;
+  for (std::size_t i = 0; i < columns.size(); ++i) {
+    const QRectF inner = Inner(QRectF(0.0, 0.0, columns[i].width * Stretch(width), kHighestRow));
+    if (columns[i].wraps && metrics.horizontalAdvance(row[i].text) > inner.width()) {
+      const double lines = metrics.boundingRect(inner, kWrapped, row[i].text).height();
+      height = std::max(height, std::min(lines, kHighestRow) + rowHeight - metrics.lineSpacing());
+    }
+  }
+  return height;
+}
+
+double PageTable::Height(double width) const {
+  double height = HeadHeight();
+  for (const std::vector<Cell>& row : rows) {
+    height += RowHeight(row, width);
+  }
+  return height;
+}
+
+void PageTable::Paint(QPainter& painter, const QRectF& place) const {
+  const double stretch = Stretch(place.width());
+  const int size = FontSize(place.width());
+
+  double y = place.top();
+  if (!caption.isEmpty()) {
+    SetPageFont(painter, kCaptionSize, true);
+    painter.drawText(QRectF(place.left(), y, place.width(), CaptionHeight()),
+                     Qt::AlignLeft | Qt::AlignVCenter | Qt::TextSingleLine, caption);
+    y += CaptionHeight();
+  }
+  const auto forEachCell = [&](double top, double height, auto draw) {
+    double x = place.left();
+    for (std::size_t i = 0; i < columns.size(); ++i) {
+      const double width = columns[i].width * stretch;
+      draw(i, QRectF(x, top, width, height));
+      x += width;
+    }
+  };
+  SetPageFont(painter, size, true);
+  forEachCell(y, rowHeight, [&](std::size_t i, const QRectF& cell) {
+    DrawText(painter, cell, {{}, 0.0, columns[i].alignment}, columns[i].title);
+  });
+  y = place.top() + HeadHeight();
+  DrawRule(painter, place, y - 3.0, theme::kMutedText, kRuleWidth);
+
+  SetPageFont(painter, size);
+  int number = 0;
+  for (const std::vector<Cell>& row : rows) {
+    const double height = RowHeight(row, place.width());
+    forEachCell(y, height, [&](std::size_t i, const QRectF& cell) {
+      if (row[i].alarming) {
+        SetPageFont(painter, size, true);
+        painter.setPen(theme::kBad);
+      }
+      DrawText(painter, cell, columns[i], row[i].text);
+      if (row[i].alarming) {
+        SetPageFont(painter, size);
+      }
+    });
+    y += height;
+    if (++number % rowsPerRule == 0) {
+      DrawRule(painter, place, y, theme::kBorder, kFineRuleWidth);
+    }
+  }
+}
+
+}  // namespace vexa
