@@ -7,25 +7,21 @@
 namespace vexa {
 namespace {
 
-Message DispersionMessage(Status status) {
-  switch (status) {
-    case kDispersionFault:
-      return Message::kDispersionFault;
-    case kSubstrateFileFault:
-      return Message::kSubstrateFileFault;
-    default:
-      return Message::kIndexFileFault;
+ReflectanceSpectrum Build(Flag asReflectance, const DispersionSetting& setting, const QString& name,
+                          SpectraBuilt& built) {
+  const Dispersion dispersion = GetBunsanArray(asReflectance, setting);
+  if (dispersion.notice) {
+    built.notices << *dispersion.notice;
   }
+  if (const std::optional<MessageCall> message = DispersionMessage(dispersion.status, name)) {
+    built.notices << *message;
+    built.all = false;
+  }
+  return dispersion.spectrum;
 }
 
-bool Build(Flag asReflectance, const DispersionSetting& setting, const QString& name,
-           ReflectanceSpectrum& result, MessageService& messages) {
-  result = {};
-  const Status status = GetBunsanArray(asReflectance, setting, result, messages);
-  if (status != 0) {
-    messages.Tell({DispersionMessage(status), {name + u'\r'}});
-  }
-  return status == 0;
+void BuildCoat(VEXATYPE& state, SpectraBuilt& built) {
+  StoreCoatSpectrum(state, Build(false, state.thickness.coat, Text::tr("ｲﾝﾃﾞｯｸｽ"), built));
 }
 
 }  // namespace
@@ -35,17 +31,17 @@ void StoreCoatSpectrum(VEXATYPE& state, const ReflectanceSpectrum& spectrum) {
                                                            : state.filmIndex) = spectrum;
 }
 
-bool LoadCoatData(VEXATYPE& state, MessageService& messages) {
-  ReflectanceSpectrum coat;
-  const bool built = Build(false, state.thickness.coat, Text::tr("ｲﾝﾃﾞｯｸｽ"), coat, messages);
-  StoreCoatSpectrum(state, coat);
+SpectraBuilt LoadCoatData(VEXATYPE& state) {
+  SpectraBuilt built;
+  BuildCoat(state, built);
   return built;
 }
 
-void LoadDispersionData(VEXATYPE& state, MessageService& messages) {
-  Build(true, state.referenceSetting, Text::tr("ﾘﾌｧﾚﾝｽ"), state.referenceReflectance,
-        messages);
-  LoadCoatData(state, messages);
+SpectraBuilt LoadDispersionData(VEXATYPE& state) {
+  SpectraBuilt built;
+  state.referenceReflectance = Build(true, state.referenceSetting, Text::tr("ﾘﾌｧﾚﾝｽ"), built);
+  BuildCoat(state, built);
+  return built;
 }
 
 }  // namespace vexa

@@ -51,7 +51,7 @@ class RefSetDlg : public QDialog {
   void GoTo(const NumberFieldsFrame& frame);
   void LoadIndexFile();
   void LoadSubstrateFile();
-  void Save();
+  QCoro::Task<> Save();
 
   Mode mode_;
   VEXATYPE& state_;

@@ -38,6 +38,7 @@ class PrintDlg : public QDialog {
   [[nodiscard]] ReportRequest Entries() const;
   [[nodiscard]] PageMaker Pages(const ReportRequest& request) const;
   void ShowPrinter();
+  QCoro::Task<> Print();
 
   const VEXATYPE& state_;
   int selectedSlot_;
