@@ -69,7 +69,7 @@ bool Demonstration::StartInstrument() {
   state.standardFileName = QDir(directory_).filePath(QStringLiteral("demonstration.std"));
   if (!QDir().mkpath(directory_) || !WriteStartupFile(state) ||
       !WriteEnvFile(CompletePath(state, state.envFileName), state) ||
-      !WriteStandardFile(state.standardFileName, HardCoatStandard(), {}, {})) {
+      !WriteStandardFile(state.standardFileName, {HardCoatStandard(), {}, {}})) {
     Complain(QStringLiteral("%1: cannot be prepared").arg(directory_));
     return false;
   }

@@ -107,9 +107,10 @@ void Gallery::TakeWindows(VEXA& window) {
 void Gallery::TakeMessage() {
   OriginalMsgFrm message;
   const auto show = [&message] {
-    message.MsgCall(QStringLiteral("通信でﾃﾞﾊﾞｲｽ･ｴﾗｰ発生しました。"),
-                    message_type::kOk + message_type::kStopIcon, QStringLiteral("ｺﾝﾄﾛｰﾗｴﾗｰ"),
-                    QStringLiteral("com5 (/dev/ttyUSB0) という装置がありません。"));
+    message.Show({Message::kControllerFailed,
+                  {},
+                  QStringLiteral("com5 (/dev/ttyUSB0) という装置がありません。")});
+    message.exec();
   };
   TakeDialog(show, QStringLiteral("message"), [this](QWidget& dialog) {
     Press(dialog, "Unfold");

@@ -14,8 +14,8 @@
 #include "app/unattended_messages.h"
 #include "app/vexa.h"
 #include "measurement/controller_start.h"
-#include "views/common/original_msg_frm.h"
 #include "views/common/theme.h"
+#include "views/common/window_messages.h"
 
 namespace {
 

@@ -37,9 +37,15 @@ int RunReport(const ReportCommand& command, const QString& programDirectory) {
   UnattendedMessages messages;
   VEXATYPE state;
   state.programDirectory = programDirectory;
-  LoadConfiguration(state, messages);
-  LoadDispersionData(state, messages);
-  if (!ReadDataFile(command.dataFile, state, messages) || !state.HasValidSlot()) {
+  TellAll(LoadConfiguration(state), messages);
+  TellAll(LoadDispersionData(state).notices, messages);
+  const ReadResult<DataFileContent> content = ReadDataFile(command.dataFile);
+  if (content) {
+    StoreDataFile(*content, state, messages);
+  } else {
+    messages.Tell(DataFileMessage(content.Fault()));
+  }
+  if (!state.HasValidSlot()) {
     Complain(QStringLiteral("%1: no readable data file").arg(command.dataFile));
     return 1;
   }

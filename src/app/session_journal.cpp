@@ -72,14 +72,9 @@ bool SessionJournal::Offer() {
 }
 
 std::optional<JournalContent> SessionJournal::TakeLeft() {
-  QStringList setAside;
+  JournalsSetAside setAside;
   std::optional<JournalContent> left = journal_.TakeLeft(setAside);
-  if (!setAside.isEmpty()) {
-    messages_.MsgCall(
-        QStringLiteral("ほかのﾊﾞｰｼﾞｮﾝのｼﾞｬｰﾅﾙ･ﾌｧｲﾙは復元できません。次の名前で残します。\r\r") +
-            setAside.join(u'\r'),
-        kOk + kWarningIcon, message_title::kWarning);
-  }
+  TellAll(setAside.Notices(), messages_);
   return left;
 }
 

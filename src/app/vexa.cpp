@@ -3,10 +3,12 @@
 
 #include <QCloseEvent>
 #include <QHBoxLayout>
+#include <QPointer>
 #include <QScreen>
 #include <QScrollArea>
 #include <QScrollBar>
 #include <QVBoxLayout>
+#include <type_traits>
 #include <utility>
 
 #include "app/measurement_bar.h"
@@ -64,13 +66,13 @@ VEXA::~VEXA() = default;
 void VEXA::Load() {
   loading_ = true;
   setWindowTitle(QStringLiteral("MERIDOX ") + QStringLiteral("VEXA-KT-440 Ver3.21"));
-  LoadConfiguration(state_, services_.messages);
+  TellAll(LoadConfiguration(state_), services_.messages);
   Refresh();
   StartController();
   if (unloaded_) {
     return;
   }
-  LoadDispersionData(state_, services_.messages);
+  TellAll(LoadDispersionData(state_).notices, services_.messages);
   if (controllerReady_) {
     (void)SendSamplingSettings(*controller_, state_.instrument, services_.messages);
   }
@@ -156,15 +158,24 @@ void VEXA::ConnectCommands() {
   const auto enable = [this](QAction* action, auto run) {
     action->setEnabled(true);
     connect(action, &QAction::triggered, this, [this, run] {
-      run();
-      Refresh();
+      if constexpr (std::is_void_v<decltype(run())>) {
+        run();
+        Refresh();
+      } else {
+        run().then([alive = QPointer<VEXA>(this)](auto&&...) {
+          if (alive != nullptr) {
+            alive->Refresh();
+          }
+        });
+      }
     });
   };
-  enable(commands_.openFile, [&, this] { OpenDataFile(state_, messages, dialogs); });
-  enable(commands_.saveFileAs, [&, this] { SaveDataFileAs(state_, messages, dialogs); });
+  enable(commands_.openFile, [&, this] { return OpenDataFile(state_, messages, dialogs); });
+  enable(commands_.saveFileAs, [&, this] { return SaveDataFileAs(state_, messages, dialogs); });
   enable(commands_.openEnvironment, [&, this] { TakeOverEnvironment(); });
-  enable(commands_.saveEnvironment, [&, this] { SaveEnvironment(state_, messages); });
-  enable(commands_.saveEnvironmentAs, [&, this] { SaveEnvironmentAs(state_, messages, dialogs); });
+  enable(commands_.saveEnvironment, [&, this] { return SaveEnvironment(state_, messages); });
+  enable(commands_.saveEnvironmentAs,
+         [&, this] { return SaveEnvironmentAs(state_, messages, dialogs); });
   enable(commands_.printSettings, [&, this] { PrintSetupDlg(printer_, messages, this).exec(); });
   enable(commands_.print, [this] { Print(); });
   enable(commands_.sampleInformation, [&, this] { AddinpFrm(state_, messages, this).exec(); });
@@ -251,7 +262,7 @@ void VEXA::StartController() {
 }
 
 bool VEXA::Unload() {
-  if (!SaveStandardsBeforeExit(state_, services_.messages, services_.dialogs)) {
+  if (!QCoro::waitFor(SaveStandardsBeforeExit(state_, services_.messages, services_.dialogs))) {
     return false;
   }
   state_.envFileName = CompletePath(state_, state_.envFileName);
@@ -261,12 +272,12 @@ bool VEXA::Unload() {
   if (answer == MessageResult::kCancel) {
     return false;
   }
-  if (answer == MessageResult::kYes && !SaveEnvironment(state_, services_.messages)) {
+  if (answer == MessageResult::kYes &&
+      !QCoro::waitFor(SaveEnvironment(state_, services_.messages))) {
     return false;
   }
-  if (!WriteStartupFile(state_)) {
-    ShowWriteError(CompletePath(state_, QStringLiteral("vexa.int")), services_.messages);
-  }
+  (void)TellWritten(WriteStartupFile(state_), StartupPath(state_.programDirectory),
+                    services_.messages);
   unloaded_ = true;
   journal_.End();
   if (controller_ != nullptr) {

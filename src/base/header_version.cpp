@@ -5,14 +5,14 @@
 
 namespace vexa {
 
-double ReadHeaderVersion(const QString& headerLine, const QString& kindWord) {
+double ReadHeaderVersion(const QString& headerLine, QStringView kindWord) {
   const QString line = headerLine.toUpper();
   const bool rangeOrWindows =
       line.contains(QStringLiteral("440")) || line.contains(QStringLiteral("WINDOWS"));
   const QString mark = QStringLiteral("VER");
   const qsizetype version = line.indexOf(mark);
   if (!rangeOrWindows || !line.contains(QStringLiteral("VEXA")) ||
-      !line.contains(kindWord.toUpper()) || version < 0) {
+      !line.contains(kindWord.toString().toUpper()) || version < 0) {
     return 0.0;
   }
   return LeadingNumber(QStringView(line).sliced(version + mark.size())).value_or(0.0);

@@ -63,4 +63,10 @@ QCoro::Task<MessageResult> MessageService::Ask(MessageCall call) {
                                call.details);
 }
 
+void TellAll(const QList<MessageCall>& calls, MessageService& messages) {
+  for (const MessageCall& call : calls) {
+    messages.Tell(call);
+  }
+}
+
 }  // namespace vexa

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <QCoroTask>
+#include <QList>
 #include <QString>
 #include <QStringList>
 #include <cstdint>
@@ -89,5 +90,8 @@ class MessageService {
     return MsgCall(text, type, title);
   }
 };
+
+/// Tells one after another.
+void TellAll(const QList<MessageCall>& calls, MessageService& messages);
 
 }  // namespace vexa

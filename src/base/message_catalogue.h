@@ -34,6 +34,7 @@ enum class Message : std::uint8_t {
 
   // Journal.
   kJournalOtherVersion,    ///< %1 names
+  kJournalUnreadable,      ///< %1 names
   kRestoreSession,         ///< %1 what it holds
   kRestoreDamagedSession,  ///< %1 what it holds
   kJournalWriteError,      ///< %1 path
@@ -118,8 +119,9 @@ enum class Message : std::uint8_t {
   kEntryRefused,
 
   // Other entries.
-  kEntryNotEncodable,  ///< %1 entry
-  kNotADate,           ///< %1 entry
+  kEntryNotEncodable,   ///< %1 entry
+  kSampleNumberSplits,  ///< %1 sample numbers, a line each
+  kNotADate,            ///< %1 entry
   kSamplingTimeOutOfRange,
   kAveragingOutOfRange,
   kShiftOutOfRange,

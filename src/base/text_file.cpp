@@ -1,46 +1,15 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "base/text_file.h"
 
-#include <QFile>
 #include <cmath>
 #include <limits>
-#include <optional>
+#include <utility>
 
 #include "base/number_text.h"
-#include "base/replace_file.h"
+#include "base/read_file.h"
 
 namespace vexa {
 namespace {
-
-constexpr qsizetype kLargestFile = qsizetype{64} * 1024 * 1024;
-constexpr qint64 kChunk = qint64{128} * 1024;
-
-std::int16_t ToInteger(double value) {
-  const double rounded = std::nearbyint(value);
-  if (!(rounded >= std::numeric_limits<std::int16_t>::min() &&
-        rounded <= std::numeric_limits<std::int16_t>::max())) {
-    throw ReadFault("number outside 16 bits");
-  }
-  return static_cast<std::int16_t>(rounded);
-}
-
-double Required(std::optional<double> number) {
-  if (!number) {
-    throw ReadFault("not a number");
-  }
-  return *number;
-}
-
-bool OneOf(const QString& text, const QString& yes, const QString& no) {
-  const QString trimmed = text.trimmed();
-  if (trimmed.compare(yes, Qt::CaseInsensitive) == 0) {
-    return true;
-  }
-  if (trimmed.compare(no, Qt::CaseInsensitive) == 0) {
-    return false;
-  }
-  throw ReadFault("not a flag");
-}
 
 // Lead and trail bytes of the code page never hold a comma or a quote below 0x40, so fields can be
 // cut from the bytes.
@@ -67,26 +36,29 @@ QByteArrayView CutField(QByteArrayView& line) {
 }  // namespace
 
 TextReader TextReader::Open(const QString& path) {
-  QFile file(path);
-  if (!file.open(QIODevice::ReadOnly)) {
-    throw ReadFault("file cannot be opened");
+  ReadResult<QByteArray> bytes = ReadRegularFile(path);
+  if (!bytes) {
+    throw ReadFault(bytes.Fault());
   }
-  QByteArray bytes;
-  for (QByteArray chunk = file.read(kChunk); !chunk.isEmpty(); chunk = file.read(kChunk)) {
-    bytes += chunk;
-    if (bytes.size() > kLargestFile) {
-      throw ReadFault("file is too large");
-    }
-  }
-  if (file.error() != QFile::NoError) {
-    throw ReadFault("file cannot be read");
-  }
-  return TextReader(std::move(bytes));
+  return TextReader(std::move(*bytes));
+}
+
+ReadFault TextReader::Fault(FileFaultKind kind) const {
+  return Fault(kind, field_);
+}
+
+ReadFault TextReader::Fault(FileFaultKind kind, qsizetype field) const {
+  return ReadFault({.kind = kind, .line = line_, .field = static_cast<int>(field)});
 }
 
 QByteArrayView TextReader::TakeLine() {
+  if (!withinLine_) {
+    ++line_;
+  }
+  field_ = 0;
+  withinLine_ = false;
   if (AtEnd()) {
-    throw ReadFault("end of file");
+    throw Fault(FileFaultKind::kEnd);
   }
   const qsizetype lineFeed = bytes_.indexOf('\n', position_);
   const qsizetype end = lineFeed < 0 ? bytes_.size() : lineFeed;
@@ -103,23 +75,26 @@ QString TextReader::Line() {
 }
 
 QString TextReader::Field() {
+  const int before = withinLine_ ? field_ : 0;
   QByteArrayView rest = TakeLine();
   const QByteArrayView field = CutField(rest);
+  field_ = before + 1;
   if (!rest.isNull()) {
     position_ = rest.data() - bytes_.constData();
+    withinLine_ = true;
   }
   return decoder_.Decode(field);
 }
 
-QStringList TextReader::Row(qsizetype count) {
+QStringList TextReader::Row(qsizetype least, qsizetype most) {
   QByteArrayView rest = TakeLine();
   QStringList fields;
-  fields.reserve(count);
-  while (fields.size() < count) {
-    if (rest.isNull()) {
-      throw ReadFault("too few fields");
-    }
+  fields.reserve(most);
+  while (fields.size() < most && !rest.isNull()) {
     fields << decoder_.Decode(CutField(rest));
+  }
+  if (fields.size() < least) {
+    throw Fault(FileFaultKind::kFields);
   }
   return fields;
 }
@@ -148,6 +123,33 @@ bool TextReader::FlagLine() {
   return OneOf(Line(), QStringLiteral("#TRUE#"), QStringLiteral("#FALSE#"));
 }
 
+double TextReader::Required(std::optional<double> number) const {
+  if (!number) {
+    throw Fault(FileFaultKind::kValue);
+  }
+  return *number;
+}
+
+std::int16_t TextReader::ToInteger(double value) const {
+  const double rounded = std::nearbyint(value);
+  if (!(rounded >= std::numeric_limits<std::int16_t>::min() &&
+        rounded <= std::numeric_limits<std::int16_t>::max())) {
+    throw Fault(FileFaultKind::kRange);
+  }
+  return static_cast<std::int16_t>(rounded);
+}
+
+bool TextReader::OneOf(const QString& text, const QString& yes, const QString& no) const {
+  const QString trimmed = text.trimmed();
+  if (trimmed.compare(yes, Qt::CaseInsensitive) == 0) {
+    return true;
+  }
+  if (trimmed.compare(no, Qt::CaseInsensitive) == 0) {
+    return false;
+  }
+  throw Fault(FileFaultKind::kValue);
+}
+
 FileText& FileText::Line(const QString& text) {
   text_ += text + QStringLiteral("\r\n");
   return *this;
@@ -161,7 +163,7 @@ FileText& FileText::Flag(bool value) {
   return Line(value ? QStringLiteral("#TRUE#") : QStringLiteral("#FALSE#"));
 }
 
-bool FileText::WriteTo(const QString& path) const {
+WriteResult FileText::WriteTo(const QString& path) const {
   return ReplaceFile(path, Encode(text_));
 }
 

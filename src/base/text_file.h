@@ -6,30 +6,29 @@
 #include <QString>
 #include <QStringList>
 #include <cstdint>
-#include <stdexcept>
+#include <optional>
 
 #include "base/code_page.h"
+#include "base/file_fault.h"
+#include "base/replace_file.h"
 
 namespace vexa {
-
-/// A file that does not hold what its reader expects. A reader catches it once and turns it into
-/// its result.
-class ReadFault : public std::runtime_error {
- public:
-  using std::runtime_error::runtime_error;
-};
 
 /// Reads a text file of the program: lines that end in CR LF or LF, in the program's code page.
 /// Every operation that returns a value throws ReadFault at the end of the file or when the text is
 /// no such value. Bytes that are no text of the code page never stop it.
 class TextReader {
  public:
-  /// Takes the whole file; throws ReadFault when it cannot be read or is above 64 MiB.
+  /// Takes the whole file; throws ReadFault when it cannot be read; see ReadRegularFile.
   [[nodiscard]] static TextReader Open(const QString& path);
 
   explicit TextReader(QByteArray bytes) : bytes_(std::move(bytes)) {}
 
   [[nodiscard]] bool AtEnd() const { return position_ >= bytes_.size(); }
+
+  /// A fault at the place read last, or at one field of its line.
+  [[nodiscard]] ReadFault Fault(FileFaultKind kind) const;
+  [[nodiscard]] ReadFault Fault(FileFaultKind kind, qsizetype field) const;
 
   /// The next whole line, without its end.
   QString Line();
@@ -39,7 +38,9 @@ class TextReader {
   QString Field();
 
   /// The next line as its first `count` fields; what is left of the line is ignored.
-  QStringList Row(qsizetype count);
+  QStringList Row(qsizetype count) { return Row(count, count); }
+  /// Likewise, with up to `most` fields where the line has them.
+  QStringList Row(qsizetype least, qsizetype most);
 
   /// The next field as a number; a text that is no number as a whole is a fault.
   double RealField();
@@ -56,9 +57,15 @@ class TextReader {
 
  private:
   QByteArrayView TakeLine();
+  [[nodiscard]] double Required(std::optional<double> number) const;
+  [[nodiscard]] std::int16_t ToInteger(double value) const;
+  [[nodiscard]] bool OneOf(const QString& text, const QString& yes, const QString& no) const;
 
   QByteArray bytes_;
   qsizetype position_ = 0;
+  int line_ = 0;   // of what was read last
+  int field_ = 0;  // likewise; 0 after a whole line
+  bool withinLine_ = false;
   CodePageDecoder decoder_;
 };
 
@@ -72,9 +79,8 @@ class FileText {
   /// "#TRUE#" or "#FALSE#".
   FileText& Flag(bool value);
 
-  /// Writes the lines, each with CR LF, in the program's code page. The file is replaced whole or,
-  /// when anything fails, left as it was; true when written.
-  [[nodiscard]] bool WriteTo(const QString& path) const;
+  /// Writes the lines, each with CR LF, in the program's code page; see ReplaceFile.
+  WriteResult WriteTo(const QString& path) const;
 
  private:
   QString text_;

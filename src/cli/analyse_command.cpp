@@ -176,8 +176,7 @@ int Analyse(const QCommandLineParser& parser) {
     return taken;
   }
   const QString path = parser.positionalArguments().front();
-  if (!ReadDataFile(path, state, messages)) {
-    Complain(QStringLiteral("%1: not read").arg(path));
+  if (!LoadDataFile(path, state, messages)) {
     return kFailed;
   }
   const std::vector<SlotReport> reports = Evaluate(state, messages);

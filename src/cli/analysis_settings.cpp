@@ -72,6 +72,19 @@ bool TakeWords(const QCommandLineParser& parser, VEXATYPE& state) {
                   [&](qsizetype i) { state.thickness.kind = static_cast<std::int16_t>(i); });
 }
 
+// An index that the settings window would take, too; a file name is no number.
+bool IndexIsInRange(const QCommandLineParser& parser) {
+  constexpr double kLowest = 0.1;
+  constexpr double kHighest = 10.0;
+  const std::optional<double> index =
+      parser.isSet(kIndex) ? ParseNumber(parser.value(kIndex)) : std::nullopt;
+  const bool inRange = !index || (*index >= kLowest && *index <= kHighest);
+  if (!inRange) {
+    Complain(QStringLiteral("--%1 takes 0.1 to 10, not \"%2\"").arg(kIndex, parser.value(kIndex)));
+  }
+  return inRange;
+}
+
 // The coat's setting of --index and --substrate; false when neither is given.
 bool TakeCoat(const QCommandLineParser& parser, DispersionSetting& coat) {
   if (parser.isSet(kSubstrate)) {
@@ -114,7 +127,7 @@ void DeclareAnalysisOptions(QCommandLineParser& parser) {
 
 ExitStatus TakeAnalysisOptions(const QCommandLineParser& parser, VEXATYPE& state,
                                MessageService& messages) {
-  if (VEXATYPE scratch = state; !TakeWords(parser, scratch)) {
+  if (VEXATYPE scratch = state; !TakeWords(parser, scratch) || !IndexIsInRange(parser)) {
     return kUsageError;
   }
   if (parser.isSet(kIndex) && parser.isSet(kSubstrate)) {
@@ -122,25 +135,34 @@ ExitStatus TakeAnalysisOptions(const QCommandLineParser& parser, VEXATYPE& state
     return kUsageError;
   }
   if (parser.isSet(kEnv)) {
-    if (!LoadEnvironment(parser.value(kEnv), state, messages)) {
+    const Environment environment = ReadEnvironment(parser.value(kEnv), state.programDirectory);
+    TellAll(environment.notices, messages);
+    if (!ApplyEnvironment(environment, state)) {
       Complain(QStringLiteral("%1: no readable environment file").arg(parser.value(kEnv)));
       return kFailed;
     }
-    LoadDispersionData(state, messages);
+    TellAll(LoadDispersionData(state).notices, messages);
   }
   (void)TakeWords(parser, state);
-  if (TakeCoat(parser, state.thickness.coat) && !LoadCoatData(state, messages)) {
-    return kFailed;
+  if (TakeCoat(parser, state.thickness.coat)) {
+    const SpectraBuilt built = LoadCoatData(state);
+    TellAll(built.notices, messages);
+    if (!built.all) {
+      return kFailed;
+    }
   }
   if (parser.isSet(kThickness)) {
     state.thickness.enabled = true;
   }
   if (parser.isSet(option::kStandard)) {
     const QString path = parser.value(option::kStandard);
-    if (!ReadStandardFile(path, state.standard, state.chromaMarker, state.hueMarker, messages)) {
+    const ReadResult<StandardContents> contents = ReadStandardFile(path);
+    if (!contents) {
+      messages.Tell(StandardMessage(path, contents.Fault()));
       Complain(QStringLiteral("%1: no readable standard file").arg(path));
       return kFailed;
     }
+    state.standard = contents->standard;
   }
   return kDone;
 }

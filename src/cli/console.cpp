@@ -50,6 +50,27 @@ QString SpectrumText(int firstNm, std::span<const double> values) {
   return text;
 }
 
+bool ComplainUnwritten(const WriteResult& result, const QString& path) {
+  if (!result) {
+    Complain(QStringLiteral("%1: cannot be written (%2)").arg(path, result.reason));
+  }
+  return result.written;
+}
+
+void ConsoleMessages::Tell(const MessageCall& call) {
+  MsgCall(MessageText(call), message_type::kOk, MessageTitle(call.id));
+  if (!call.details.isEmpty()) {
+    Complain(call.details);
+  }
+}
+
+QCoro::Task<MessageResult> ConsoleMessages::Ask(MessageCall call) {
+  Tell(call);
+  const MessageButtons buttons = CatalogueEntry(call.id).buttons;
+  const bool no = refusing_ && buttons == MessageButtons::kYesNoCancel;
+  co_return no ? MessageResult::kNo : refusing_ ? RefusingAnswer(buttons) : AgreeingAnswer(buttons);
+}
+
 MessageResult ConsoleMessages::MsgCall(const QString& text, std::int16_t type,
                                        const QString& title) {
   QString line = text;

@@ -8,6 +8,7 @@
 #include <span>
 
 #include "base/message.h"
+#include "base/replace_file.h"
 
 namespace vexa::cli {
 
@@ -26,6 +27,9 @@ void PrintJson(const QJsonObject& object);
 /// One line "vexa-cli: TEXT" on standard error.
 void Complain(const QString& text);
 
+/// That a file cannot be written, and why; nothing when it was written. True when written.
+bool ComplainUnwritten(const WriteResult& result, const QString& path);
+
 /// Values as a JSON array, those that are not finite as null.
 [[nodiscard]] QJsonArray ToJson(std::span<const double> values);
 
@@ -33,11 +37,14 @@ void Complain(const QString& text);
 [[nodiscard]] QString SpectrumText(int firstNm, std::span<const double> values);
 
 /// Puts every message on standard error as one line "TITLE: TEXT", line breaks as blanks, and
-/// answers a question with its first button, or, `refusing`, with No or Cancel.
+/// answers a question with its first button, or, `refusing`, with No or Cancel. The details of a
+/// message follow as a complaint.
 class ConsoleMessages : public MessageService {
  public:
   explicit ConsoleMessages(bool refusing) : refusing_(refusing) {}
 
+  void Tell(const MessageCall& call) override;
+  QCoro::Task<MessageResult> Ask(MessageCall call) override;
   MessageResult MsgCall(const QString& text, std::int16_t type, const QString& title) override;
   void Beep() override {}
 

@@ -23,18 +23,18 @@ void DeclareOptions(QCommandLineParser& parser) {
                     QStringLiteral("1|2|3")});
 }
 
+// Nothing is asked: no slot is lost.
 bool ConvertFile(const QString& in, const QString& out, DataFileLayout layout,
                  MessageService& messages) {
-  VEXATYPE state;
-  if (!ReadDataFile(in, state, messages)) {
+  const ReadResult<DataFileContent> content = ReadDataFile(in);
+  if (!content) {
+    messages.Tell(DataFileMessage(content.Fault()));
     Complain(QStringLiteral("%1: not read").arg(in));
     return false;
   }
-  if (!WriteDataFile(out, layout, state)) {
-    Complain(QStringLiteral("%1: cannot be written").arg(out));
-    return false;
-  }
-  return true;
+  VEXATYPE state;
+  StoreDataFile(*content, state, messages);
+  return ComplainUnwritten(WriteDataFile(out, layout, state), out);
 }
 
 int Convert(const QCommandLineParser& parser) {

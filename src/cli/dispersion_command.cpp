@@ -110,13 +110,9 @@ bool WriteOut(const QString& path, bool asReflectance, const ReflectanceSpectrum
     return path.endsWith(QLatin1String(ending), Qt::CaseInsensitive);
   };
   const bool reference = endsWith(".ref") || (asReflectance && !endsWith(".ind"));
-  if (WriteIndexFile(path,
-                     reference ? IndexFileContent::kReferenceReflectance : IndexFileContent::kIndex,
-                     spectrum)) {
-    return true;
-  }
-  Complain(QStringLiteral("%1: cannot be written").arg(path));
-  return false;
+  const IndexFileContent content =
+      reference ? IndexFileContent::kReferenceReflectance : IndexFileContent::kIndex;
+  return ComplainUnwritten(WriteIndexFile(path, content, spectrum), path);
 }
 
 int Dispersion(const QCommandLineParser& parser) {
@@ -126,10 +122,13 @@ int Dispersion(const QCommandLineParser& parser) {
   }
   ConsoleMessages messages(parser.isSet(option::kNo));
   const bool asReflectance = parser.isSet(kAsReflectance);
-  ReflectanceSpectrum spectrum;
-  const Status status = GetBunsanArray(asReflectance, *setting, spectrum, messages);
-  if (status != 0) {
-    Complain(DispersionStatusText(status));
+  const vexa::Dispersion result = GetBunsanArray(asReflectance, *setting);
+  const auto& [status, spectrum, notice] = result;
+  if (notice) {
+    messages.Tell(*notice);
+  }
+  if (const std::optional<MessageCall> message = DispersionMessage(status)) {
+    Complain(MessageText(*message));
   }
   if (parser.isSet(option::kJson)) {
     PrintJson({{QStringLiteral("status"), status},

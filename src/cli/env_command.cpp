@@ -25,32 +25,39 @@ int Environment(const QCommandLineParser& parser) {
   const QString path = parser.positionalArguments().front();
   ConsoleMessages messages(parser.isSet(option::kNo));
   VEXATYPE state;
-  const EnvironmentRead result = ReadEnvFile(path, state, messages);
-  if (!result.read) {
+  const ReadResult<EnvironmentContent> content = ReadEnvFile(path);
+  const bool read = static_cast<bool>(content);
+  const double version = read ? content->version : content.Fault().version;
+  if (read) {
+    ApplyEnvironment(*content, state);
+    TellAll(EnvironmentDoubts(path, *content), messages);
+  } else {
+    messages.Tell(EnvironmentMessage(path, content.Fault()));
     Complain(QStringLiteral("%1: not read").arg(path));
   }
   const auto lines = EnvironmentLines(state);
   if (parser.isSet(option::kJson)) {
     QJsonObject object;
-    for (std::size_t number = 2; result.read && number < lines.size(); ++number) {
+    for (std::size_t number = 2; read && number < lines.size(); ++number) {
       object.insert(QString::number(number), std::visit(JsonValue{}, lines[number]));
     }
-    PrintJson({{QStringLiteral("read"), result.read},
-               {QStringLiteral("version"), result.version},
-               {QStringLiteral("lines"), result.read ? QJsonValue(object) : QJsonValue()}});
-  } else if (result.read) {
+    PrintJson({{QStringLiteral("read"), read},
+               {QStringLiteral("version"), version},
+               {QStringLiteral("lines"), read ? QJsonValue(object) : QJsonValue()}});
+  } else if (read) {
     for (std::size_t number = 2; number < lines.size(); ++number) {
       Print(QStringLiteral("%1  %2\n")
                 .arg(number, 2)
                 .arg(std::visit(JsonValue{}, lines[number]).toVariant().toString()));
     }
   }
-  if (result.read && parser.isSet(option::kOut) &&
-      !WriteEnvFile(parser.value(option::kOut), state)) {
-    Complain(QStringLiteral("%1: cannot be written").arg(parser.value(option::kOut)));
-    return kFailed;
+  if (read && parser.isSet(option::kOut)) {
+    const QString out = parser.value(option::kOut);
+    if (!ComplainUnwritten(WriteEnvFile(out, state), out)) {
+      return kFailed;
+    }
   }
-  return result.read ? kDone : kFailed;
+  return read ? kDone : kFailed;
 }
 
 }  // namespace

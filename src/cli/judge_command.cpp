@@ -66,14 +66,15 @@ int Judge(const QCommandLineParser& parser) {
   ConsoleMessages messages(parser.isSet(option::kNo));
   VEXATYPE state = LoadSettings(parser, messages);
   const QString standard = parser.value(option::kStandard);
-  state.standard = {};
-  if (!ReadStandardFile(standard, state.standard, state.chromaMarker, state.hueMarker, messages)) {
+  const ReadResult<StandardContents> contents = ReadStandardFile(standard);
+  if (!contents) {
+    messages.Tell(StandardMessage(standard, contents.Fault()));
     Complain(QStringLiteral("%1: not a readable standard file").arg(standard));
     return kFailed;
   }
+  state.standard = contents->standard;
   const QString path = parser.positionalArguments().constFirst();
-  if (!ReadDataFile(path, state, messages)) {
-    Complain(QStringLiteral("%1: no data file was read").arg(path));
+  if (!LoadDataFile(path, state, messages)) {
     return kFailed;
   }
   if (parser.isSet(option::kJson)) {

@@ -223,11 +223,10 @@ int Measure(const QCommandLineParser& parser) {
   }
   bool saved = true;
   if (state.HasValidSlot()) {
-    saved = WriteDataFile(plan->out, LayoutByEnding(plan->out), state);
+    saved =
+        ComplainUnwritten(WriteDataFile(plan->out, LayoutByEnding(plan->out), state), plan->out);
     if (saved) {
       report.file = plan->out;
-    } else {
-      Complain(QStringLiteral("%1: cannot be written").arg(plan->out));
     }
   }
   PrintReport(report, parser.isSet(option::kJson));

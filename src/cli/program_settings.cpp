@@ -6,6 +6,7 @@
 
 #include "base/number_text.h"
 #include "files/configuration.h"
+#include "files/data_file.h"
 #include "measurement/dispersion_data.h"
 #include "optics/index_file.h"
 
@@ -15,9 +16,25 @@ VEXATYPE LoadSettings(const QCommandLineParser& parser, MessageService& messages
   VEXATYPE state;
   state.programDirectory =
       parser.isSet(option::kDir) ? parser.value(option::kDir) : QDir::currentPath();
-  LoadConfiguration(state, messages);
-  LoadDispersionData(state, messages);
+  TellAll(LoadConfiguration(state, UnnamedEnvironment::kRead), messages);
+  TellAll(LoadDispersionData(state).notices, messages);
   return state;
+}
+
+bool LoadDataFile(const QString& path, VEXATYPE& state, MessageService& messages) {
+  const ReadResult<DataFileContent> content = ReadDataFile(path);
+  if (!content) {
+    messages.Tell(DataFileMessage(content.Fault()));
+    Complain(QStringLiteral("%1: not read").arg(path));
+    return false;
+  }
+  if (const std::optional<MessageCall> question = StoreQuestion(*content);
+      question && QCoro::waitFor(messages.Ask(*question)) != MessageResult::kOk) {
+    Complain(QStringLiteral("%1: not read").arg(path));
+    return false;
+  }
+  StoreDataFile(*content, state, messages);
+  return true;
 }
 
 void DeclareReferenceReflectance(QCommandLineParser& parser) {
@@ -41,10 +58,12 @@ ExitStatus TakeReferenceReflectance(const QCommandLineParser& parser, VEXATYPE& 
     std::ranges::fill(state.referenceReflectance.Values(), *percent);
     return kDone;
   }
-  if (!ReadIndexFile(value, state.referenceReflectance)) {
+  const auto reflectance = ReadIndexFile(value);
+  if (!reflectance) {
     Complain(QStringLiteral("%1: neither a number nor a readable reference file").arg(value));
     return kFailed;
   }
+  state.referenceReflectance = *reflectance;
   return kDone;
 }
 

@@ -24,6 +24,10 @@ inline const QString kStandard = QStringLiteral("standard");
 /// Messages of the files go to `messages`.
 [[nodiscard]] VEXATYPE LoadSettings(const QCommandLineParser& parser, MessageService& messages);
 
+/// Reads a data file into the slots and evaluates them, as the window does. False, after messages
+/// and a complaint, when it cannot be read or a question is refused.
+[[nodiscard]] bool LoadDataFile(const QString& path, VEXATYPE& state, MessageService& messages);
+
 void DeclareReferenceReflectance(QCommandLineParser& parser);
 
 /// Takes over the reference reflectance of its option, a number of percent or a *.ref file; kDone,

@@ -16,13 +16,6 @@ void DeclareOptions(QCommandLineParser& parser) {
                     QStringLiteral("FILE")});
 }
 
-/// A standard with its markers.
-struct Contents {
-  StandardSet standard;
-  ReferenceMarker chromaMarker;
-  ReferenceMarker hueMarker;
-};
-
 QJsonObject LimitsJson(const StandardLimits& limits) {
   return {{QStringLiteral("enabled"), bool{limits.enabled}},
           {QStringLiteral("upper"), limits.upper},
@@ -33,7 +26,7 @@ QJsonObject MarkerJson(const ReferenceMarker& marker) {
   return {{QStringLiteral("show"), bool{marker.shown}}, {QStringLiteral("value"), marker.value}};
 }
 
-QJsonObject ToJson(const Contents& contents) {
+QJsonObject ToJson(const StandardContents& contents) {
   const StandardSet& standard = contents.standard;
   QJsonArray conditions;
   for (std::size_t k = 0; k < kConditionCount; ++k) {
@@ -64,7 +57,7 @@ QStringList Row(const QString& caption, const StandardLimits& limits, const QStr
           SignedText(limits.upper), remark};
 }
 
-QString ToText(const Contents& contents) {
+QString ToText(const StandardContents& contents) {
   const StandardSet& standard = contents.standard;
   QList<QStringList> rows{{QStringLiteral("反射率"), OnOff(standard.useReflectance)}};
   for (std::size_t k = 0; k < kConditionCount; ++k) {
@@ -89,25 +82,25 @@ QString ToText(const Contents& contents) {
 int Standard(const QCommandLineParser& parser) {
   ConsoleMessages messages(parser.isSet(option::kNo));
   const QString path = parser.positionalArguments().constFirst();
-  Contents contents;
-  if (!ReadStandardFile(path, contents.standard, contents.chromaMarker, contents.hueMarker,
-                        messages)) {
+  const ReadResult<StandardContents> contents = ReadStandardFile(path);
+  if (!contents) {
+    messages.Tell(StandardMessage(path, contents.Fault()));
     Complain(QStringLiteral("%1: not a readable standard file").arg(path));
     if (parser.isSet(option::kJson)) {
       PrintJson({{QStringLiteral("read"), false}});
     }
     return kFailed;
   }
-  if (parser.isSet(option::kOut) &&
-      !WriteStandardFile(parser.value(option::kOut), contents.standard, contents.chromaMarker,
-                         contents.hueMarker)) {
-    Complain(QStringLiteral("%1: cannot be written").arg(parser.value(option::kOut)));
-    return kFailed;
+  if (parser.isSet(option::kOut)) {
+    const QString out = parser.value(option::kOut);
+    if (!ComplainUnwritten(WriteStandardFile(out, *contents), out)) {
+      return kFailed;
+    }
   }
   if (parser.isSet(option::kJson)) {
-    PrintJson(ToJson(contents));
+    PrintJson(ToJson(*contents));
   } else {
-    Print(ToText(contents));
+    Print(ToText(*contents));
   }
   return kDone;
 }

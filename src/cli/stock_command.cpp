@@ -50,12 +50,12 @@ void PrintStockText(const ColourStock& stock) {
 
 int Stock(const QCommandLineParser& parser) {
   ConsoleMessages messages(parser.isSet(option::kNo));
-  ColourStock stock;
-  const bool read = ReadStockFile(parser.positionalArguments().front(), stock);
+  const ReadResult<ColourStock> result = ReadStockFile(parser.positionalArguments().front());
+  const bool read = static_cast<bool>(result);
   if (!read) {
-    messages.MsgCall(StockReadErrorText(), message_type::kOk + message_type::kStopIcon,
-                     message_title::kError);
+    messages.Tell(StockMessage(result.Fault()));
   }
+  const ColourStock stock = read ? *result : ColourStock();
   if (parser.isSet(option::kJson)) {
     PrintStockJson(stock, read);
   } else if (read) {
@@ -64,9 +64,11 @@ int Stock(const QCommandLineParser& parser) {
   if (!read) {
     return kFailed;
   }
-  if (parser.isSet(option::kOut) && !WriteStockFile(parser.value(option::kOut), stock)) {
-    Complain(QStringLiteral("%1: cannot be written").arg(parser.value(option::kOut)));
-    return kFailed;
+  if (parser.isSet(option::kOut)) {
+    const QString out = parser.value(option::kOut);
+    if (!ComplainUnwritten(WriteStockFile(out, stock), out)) {
+      return kFailed;
+    }
   }
   return kDone;
 }

@@ -1,14 +1,13 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "colour/stock_file.h"
 
+#include "base/file_kind.h"
 #include "base/number_text.h"
 #include "base/text_file.h"
 
 namespace vexa {
 namespace {
 
-const QString kHeader = QStringLiteral("VEXA-KT 440-840 Ver3.21 Stock File");
-const QString kOlderHeader = QStringLiteral("VEXA-KT 440-840 Ver3.00 Stock File");
 const QString kPattern = QStringLiteral("0.000000");
 
 QString FlagWord(Flag flag) {
@@ -16,45 +15,40 @@ QString FlagWord(Flag flag) {
 }
 
 void ReadPoints(TextReader& reader, int count, ColourStock& stock) {
-  stock.RemoveAll();
   for (int i = 0; i < count; ++i) {
-    const double first = reader.RealField();
-    const double second = reader.RealField();
-    const double third = reader.RealField();
     const auto index = static_cast<std::size_t>(i);
-    stock.P1[index] = first;
-    stock.P2[index] = second;
-    stock.P3[index] = third;
+    stock.P1[index] = reader.RealField();
+    stock.P2[index] = reader.RealField();
+    stock.P3[index] = reader.RealField();
     ++stock.Count;
   }
 }
 
 }  // namespace
 
-bool ReadStockFile(const QString& path, ColourStock& stock) {
-  try {
+ReadResult<ColourStock> ReadStockFile(const QString& path) {
+  return TryRead([&path] {
     TextReader reader = TextReader::Open(path);
     const QString header = reader.Line();
-    if (header != kHeader && header != kOlderHeader) {
-      return false;
+    if (header != file_kind::kStock.header && header != file_kind::kOlderStock.header) {
+      throw reader.Fault(FileFaultKind::kVersion);
     }
+    ColourStock stock;
     stock.StockMode = reader.BooleanField();
     stock.StockIlluminant = reader.IntegerField();
     stock.StockObserver = reader.BooleanField();
     const std::int16_t count = reader.IntegerField();
     if (count < 0 || count > ColourStock::kCapacity) {
-      return false;
+      throw reader.Fault(FileFaultKind::kRange);
     }
     ReadPoints(reader, count, stock);
-    return true;
-  } catch (const ReadFault&) {
-    return false;
-  }
+    return stock;
+  });
 }
 
-bool WriteStockFile(const QString& path, const ColourStock& stock) {
+WriteResult WriteStockFile(const QString& path, const ColourStock& stock) {
   FileText text;
-  text.Line(kHeader)
+  text.Line(file_kind::kStock.header.toString())
       .Line(FlagWord(stock.StockMode))
       .Number(stock.StockIlluminant)
       .Line(FlagWord(stock.StockObserver))
@@ -66,9 +60,8 @@ bool WriteStockFile(const QString& path, const ColourStock& stock) {
   return text.WriteTo(path);
 }
 
-QString StockReadErrorText() {
-  return QStringLiteral("ﾃﾞｰﾀ･ﾌｧｲﾙの読み込みでエラーが発生しました。\r\r") + kHeader +
-         QStringLiteral("ﾌｧｲﾙではありません\r\rﾌｧｲﾙを確認してください。");
+MessageCall StockMessage(const FileFault& fault) {
+  return {Message::kStockReadError, {file_kind::kStock.header.toString()}, FaultText(fault)};
 }
 
 }  // namespace vexa

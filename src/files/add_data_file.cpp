@@ -2,15 +2,13 @@
 #include "files/add_data_file.h"
 
 #include "base/date_text.h"
+#include "base/file_kind.h"
 #include "base/header_version.h"
 #include "base/number_text.h"
 #include "base/text_file.h"
-#include "files/data_file_messages.h"
 
 namespace vexa {
 namespace {
-
-constexpr double kOldestVersion = 2.99;
 
 struct ValueRow {
   const char16_t* label;
@@ -24,7 +22,6 @@ constexpr ValueRow kValueRows[] = {
     {u"クロマ,", &ColourResult::C},     {u"平均反射率,", &ColourResult::Rm},
     {u"視感反射率,", &ColourResult::Y},
 };
-constexpr int kInformationRows = 4;
 
 QString ConditionText(const ColourSettings& settings) {
   return QStringLiteral("光源:") + SignedText(settings.illuminant) +
@@ -53,10 +50,9 @@ QString InformationText(const QString& label, const VEXATYPE& state, Entry entry
 
 }  // namespace
 
-bool WriteAddDataFile(const QString& path, const VEXATYPE& state) {
+WriteResult WriteAddDataFile(const QString& path, const VEXATYPE& state) {
   FileText text;
-  text.Line(QStringLiteral("VEXA-KT 440-840 Ver3.21 AddData File"))
-      .Line(ConditionText(state.colour));
+  text.Line(file_kind::kAddData.header.toString()).Line(ConditionText(state.colour));
   for (const ValueRow& row : kValueRows) {
     text.Line(ValueText(row, state));
   }
@@ -71,36 +67,41 @@ bool WriteAddDataFile(const QString& path, const VEXATYPE& state) {
   return text.WriteTo(path);
 }
 
-bool ReadAddDataFile(const QString& path, VEXATYPE& state, MessageService& messages) {
-  try {
+ReadResult<SampleInfos> ReadAddDataFile(const QString& path) {
+  return TryRead([&path] {
     TextReader reader = TextReader::Open(path);
-    if (ReadHeaderVersion(reader.Line(), QStringLiteral("ADD")) < kOldestVersion) {
-      throw ReadFault("version");
+    const double version = ReadHeaderVersion(reader.Line(), file_kind::kAddData.word);
+    if (version < file_kind::kAddData.oldest) {
+      throw reader.Fault(FileFaultKind::kVersion);
     }
     reader.Line();
     for (std::size_t row = 0; row < std::size(kValueRows); ++row) {
       reader.Row(1 + kSlotCount);
     }
-    for (int row = 0; row < kInformationRows; ++row) {
+    SampleInfos infos;
+    for (QString SampleInfo::*text :
+         {&SampleInfo::sampleNumber, &SampleInfo::remark1, &SampleInfo::remark2}) {
       const QStringList fields = reader.Row(1 + kSlotCount);
-      for (int number = 1; number <= kSlotCount; ++number) {
-        SampleInfo& info = state.Slot(number)->info;
-        if (row < kInformationRows - 1) {
-          QString* const texts[] = {&info.sampleNumber, &info.remark1, &info.remark2};
-          *texts[row] = fields[number];
-          continue;
-        }
-        const std::optional<QDateTime> time = ParseDateTime(fields[number]);
-        if (!time) {
-          throw ReadFault("date");
-        }
-        info.measuredAt = *time;
+      for (std::size_t i = 0; i < infos.size(); ++i) {
+        infos[i].*text = fields[static_cast<qsizetype>(i) + 1];
       }
     }
-    return true;
-  } catch (const ReadFault&) {
-    ShowDataReadError(kNoCurrentDataFile, messages);
-    return false;
+    const QStringList dates = reader.Row(1 + kSlotCount);
+    for (std::size_t i = 0; i < infos.size(); ++i) {
+      const auto field = static_cast<qsizetype>(i) + 1;
+      const std::optional<QDateTime> time = ParseDateTime(dates[field]);
+      if (!time) {
+        throw reader.Fault(FileFaultKind::kValue, field + 1);
+      }
+      infos[i].measuredAt = *time;
+    }
+    return infos;
+  });
+}
+
+void StoreSampleInfos(const SampleInfos& infos, VEXATYPE& state) {
+  for (std::size_t i = 0; i < infos.size(); ++i) {
+    state.measurementSlots[i].info = infos[i];
   }
 }
 

@@ -2,18 +2,26 @@
 #pragma once
 
 #include <QString>
+#include <array>
 
-#include "base/message.h"
+#include "base/file_fault.h"
+#include "base/replace_file.h"
 #include "measurement/vexatype.h"
 
 namespace vexa {
 
-/// Writes colour values and sample information of all ten slots as an additional-data file; true
-/// when written. See FileText::WriteTo.
-[[nodiscard]] bool WriteAddDataFile(const QString& path, const VEXATYPE& state);
+/// Writes colour values and sample information of all ten slots as an additional-data file; see
+/// ReplaceFile.
+WriteResult WriteAddDataFile(const QString& path, const VEXATYPE& state);
 
-/// Reads the sample information of such a file (version 2.99 or later) into the ten slots; its
-/// values are skipped. A failure is shown; information already read then stays.
-[[nodiscard]] bool ReadAddDataFile(const QString& path, VEXATYPE& state, MessageService& messages);
+/// The sample information of ten slots.
+using SampleInfos = std::array<SampleInfo, kSlotCount>;
+
+/// Reads the sample information of such a file (version 2.99 or later); its values are skipped. A
+/// fault is told as that of a data file.
+ReadResult<SampleInfos> ReadAddDataFile(const QString& path);
+
+/// Puts the information into the slots.
+void StoreSampleInfos(const SampleInfos& infos, VEXATYPE& state);
 
 }  // namespace vexa

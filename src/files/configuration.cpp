@@ -1,18 +1,18 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "files/configuration.h"
 
+#include <QDir>
 #include <QFileInfo>
+#include <algorithm>
 
-#include "files/environment_file.h"
-#include "files/startup_file.h"
 #include "instrument/calibration_file.h"
-#include "standards/standard_file.h"
 
 namespace vexa {
 namespace {
 
 void SetEnvironmentDefaults(VEXATYPE& state) {
   const VEXATYPE defaults;
+  state.envFileName = defaults.envFileName;
   state.display = defaults.display;
   state.colour = defaults.colour;
   state.referenceSetting = defaults.referenceSetting;
@@ -21,36 +21,43 @@ void SetEnvironmentDefaults(VEXATYPE& state) {
   state.instrument.samplingTimeMs = defaults.instrument.samplingTimeMs;
 }
 
-void SetStandardDefaults(VEXATYPE& state) {
-  state.standard = {};
-  state.chromaMarker = {};
-  state.hueMarker = {};
-}
-
-void LoadStandards(VEXATYPE& state, MessageService& messages) {
-  if (!ReadStandardFile(CompletePath(state, state.standardFileName), state.standard,
-                        state.chromaMarker, state.hueMarker, messages)) {
-    SetStandardDefaults(state);
-  }
+void ApplyStandards(const StandardContents& contents, VEXATYPE& state) {
+  state.standard = contents.standard;
+  state.chromaMarker = contents.chromaMarker;
+  state.hueMarker = contents.hueMarker;
   state.standardsChanged = false;
 }
 
-// A file that is there but cannot be read must not turn into defaults without a word; a missing one
-// may.
-void TellUnreadable(const QString& path, MessageService& messages) {
-  if (QFileInfo::exists(path)) {
-    messages.MsgCall(QStringLiteral("ﾌｧｲﾙの読み込みでエラーが発生しました。\r\rﾌｧｲﾙ名:") + path +
-                         QStringLiteral("\r\rﾃﾞﾌｫﾙﾄ値に設定されます。"),
-                     message_type::kOk + message_type::kStopIcon, message_title::kError);
-  }
+MessageCall SettingsMessage(const QString& path, const FileFault& fault) {
+  return {Message::kSettingsReadError, {path}, FaultText(fault)};
 }
 
-// Likewise; one of a wrong version has had its message already.
-void TellUnreadable(const QString& path, const EnvironmentRead& result, MessageService& messages) {
-  if (!result.read && result.version > 0.0) {
-    messages.MsgCall(QStringLiteral("環境ﾌｧｲﾙの読み込みでエラーが発生しました。\r\r環境ﾌｧｲﾙ名:") +
-                         path + QStringLiteral("\r\r環境ﾊﾟﾗﾒｰﾀｰはﾃﾞﾌｫﾙﾄ値に設定されます。"),
-                     message_type::kOk + message_type::kStopIcon, message_title::kError);
+// A file that is there but cannot be read must not turn into defaults without a word; a missing one
+// may, where nothing names it.
+template <typename Content>
+std::optional<Content> TakeOrTell(const ReadResult<Content>& result, const QString& path,
+                                  QList<MessageCall>& notices) {
+  if (result) {
+    return *result;
+  }
+  if (result.Fault().kind != FileFaultKind::kMissing) {
+    notices << SettingsMessage(path, result.Fault());
+  }
+  return std::nullopt;
+}
+
+void ReadStandards(const QString& programDirectory, Environment& environment) {
+  constexpr std::size_t kStandardLine = 20;
+  const auto* name = std::get_if<QString>(&environment.content->lines[kStandardLine]);
+  if (name == nullptr || name->isEmpty()) {
+    return;
+  }
+  const QString path = FindSettingsFile(programDirectory, *name);
+  const auto standards = ReadStandardFile(path);
+  if (standards) {
+    environment.standards = *standards;
+  } else {
+    environment.notices << StandardMessage(path, standards.Fault());
   }
 }
 
@@ -59,47 +66,86 @@ void TellUnreadable(const QString& path, const EnvironmentRead& result, MessageS
 void SetEnvDefaults(VEXATYPE& state) {
   const VEXATYPE defaults;
   SetEnvironmentDefaults(state);
-  state.envFileName = defaults.envFileName;
   state.instrument.controllerPort = defaults.instrument.controllerPort;
   state.instrument.linePositions = defaults.instrument.linePositions;
   state.instrument.detectorStartNm = defaults.instrument.detectorStartNm;
   state.instrument.settlingTimeMs = defaults.instrument.settlingTimeMs;
 }
 
-void LoadConfiguration(VEXATYPE& state, MessageService& messages) {
-  if (!ReadStartupFile(state)) {
-    TellUnreadable(CompletePath(state, QStringLiteral("vexa.int")), messages);
-    SetEnvDefaults(state);
-  } else {
-    const QString path = CompletePath(state, state.envFileName);
-    const EnvironmentRead result = ReadEnvFile(path, state, messages);
-    TellUnreadable(path, result, messages);
-    if (result.read) {
-      LoadStandards(state, messages);
-    } else {
-      SetEnvDefaults(state);
-    }
+QString FindSettingsFile(const QString& programDirectory, const QString& name) {
+  const QString named = CompletePath(programDirectory, name);
+  if (QFileInfo::exists(named)) {
+    return named;
   }
-  state.instrument.averagingCount = 1;
-  state.instrument.serialController = state.instrument.controllerPort != 0;
-  const QString calibration = CompletePath(state, QStringLiteral("vexa.cal"));
-  const auto shiftNm = ReadCalibrationFile(calibration);
-  if (!shiftNm) {
-    TellUnreadable(calibration, messages);
-  }
-  state.instrument.calibrationShiftNm = shiftNm.value_or(InstrumentSettings().calibrationShiftNm);
+  const qsizetype separator = std::max(name.lastIndexOf(u'/'), name.lastIndexOf(u'\\'));
+  const QString here = QDir(programDirectory).filePath(name.sliced(separator + 1));
+  return QFileInfo(here).isFile() ? here : named;
 }
 
-bool LoadEnvironment(const QString& path, VEXATYPE& state, MessageService& messages) {
-  const EnvironmentRead result = ReadEnvFile(path, state, messages);
-  TellUnreadable(path, result, messages);
-  if (!result.read) {
+Environment ReadEnvironment(const QString& path, const QString& programDirectory) {
+  Environment environment{.path = path, .content = {}, .standards = {}, .notices = {}};
+  const auto content = ReadEnvFile(path);
+  if (!content) {
+    environment.notices << EnvironmentMessage(path, content.Fault());
+    return environment;
+  }
+  environment.content = *content;
+  environment.notices = EnvironmentDoubts(path, *content);
+  ReadStandards(programDirectory, environment);
+  return environment;
+}
+
+bool ApplyEnvironment(const Environment& environment, VEXATYPE& state) {
+  state.envFileRead = environment.content.has_value();
+  if (!environment.content) {
     SetEnvironmentDefaults(state);
     return false;
   }
-  state.envFileName = path;
-  LoadStandards(state, messages);
+  state.envFileName = environment.path;
+  ApplyEnvironment(*environment.content, state);
+  ApplyStandards(environment.standards.value_or(StandardContents()), state);
   return true;
+}
+
+Configuration ReadConfiguration(const QString& programDirectory, UnnamedEnvironment unnamed) {
+  Configuration configuration;
+  QList<MessageCall>& notices = configuration.notices;
+  const QString startup = StartupPath(programDirectory);
+  configuration.startup = TakeOrTell(ReadStartupFile(startup), startup, notices);
+  const QString name =
+      configuration.startup ? configuration.startup->envFileName : VEXATYPE().envFileName;
+  const QString path = FindSettingsFile(programDirectory, name);
+  if (configuration.startup || (unnamed == UnnamedEnvironment::kRead && QFileInfo::exists(path))) {
+    configuration.environment = ReadEnvironment(path, programDirectory);
+    notices << configuration.environment->notices;
+    if (path == CompletePath(programDirectory, name)) {
+      configuration.environment->path = name;
+    }
+  }
+  const QString calibration = QDir(programDirectory).filePath(QStringLiteral("vexa.cal"));
+  configuration.calibrationShiftNm =
+      TakeOrTell(ReadCalibrationFile(calibration), calibration, notices);
+  return configuration;
+}
+
+void ApplyConfiguration(const Configuration& configuration, VEXATYPE& state) {
+  SetEnvDefaults(state);
+  if (configuration.startup) {
+    ApplyStartup(*configuration.startup, state);
+  }
+  if (configuration.environment) {
+    (void)ApplyEnvironment(*configuration.environment, state);
+  }
+  state.instrument.averagingCount = 1;
+  state.instrument.serialController = state.instrument.controllerPort != 0;
+  state.instrument.calibrationShiftNm =
+      configuration.calibrationShiftNm.value_or(InstrumentSettings().calibrationShiftNm);
+}
+
+QList<MessageCall> LoadConfiguration(VEXATYPE& state, UnnamedEnvironment unnamed) {
+  const Configuration configuration = ReadConfiguration(state.programDirectory, unnamed);
+  ApplyConfiguration(configuration, state);
+  return configuration.notices;
 }
 
 }  // namespace vexa

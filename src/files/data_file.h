@@ -2,8 +2,12 @@
 #pragma once
 
 #include <QString>
+#include <optional>
+#include <vector>
 
+#include "base/file_fault.h"
 #include "base/message.h"
+#include "base/replace_file.h"
 #include "measurement/vexatype.h"
 
 namespace vexa {
@@ -19,22 +23,44 @@ enum class DataFileLayout {
 [[nodiscard]] DataFileLayout LayoutByEnding(const QString& path);
 
 /// Writes the slots of the layout, valid or not, as a data file in the program's code page with CR
-/// LF line ends. The file is replaced whole or, when anything fails, left as it was; true when
-/// written.
-[[nodiscard]] bool WriteDataFile(const QString& path, DataFileLayout layout, const VEXATYPE& state);
+/// LF line ends; see ReplaceFile.
+WriteResult WriteDataFile(const QString& path, DataFileLayout layout, const VEXATYPE& state);
+
+/// What a data file says of one slot.
+struct DataFileSlot {
+  ReflectanceSpectrum reflectance;
+  QString sampleNumber;  ///< of a comma-separated file alone
+  bool valid = false;
+};
+
+/// The content of a data file.
+struct DataFileContent {
+  bool blocks = false;                ///< otherwise comma-separated
+  std::vector<DataFileSlot> entries;  ///< from slot 1 on: all ten, or those of the blocks
+  QString comment;                    ///< second line of a block file
+};
 
 /// Reads a data file by its ending: "dat" (in any case) as blocks, anything else as
 /// comma-separated; see there.
-[[nodiscard]] bool ReadDataFile(const QString& path, VEXATYPE& state, MessageService& messages);
+ReadResult<DataFileContent> ReadDataFile(const QString& path);
 
-/// Reads a comma-separated data file of version 2.99 or later, with or without a wavelength column,
-/// into all ten slots and evaluates each that is not 0 at 440, 450 and 840 nm alike. A failure is
-/// shown; slots already cleared or filled then stay so.
-[[nodiscard]] bool ReadCsvDataFile(const QString& path, VEXATYPE& state, MessageService& messages);
+/// Reads a comma-separated data file of version 2.99 or later, with or without a wavelength column.
+/// A slot is valid that is not 0 at 440, 450 and 840 nm alike. Line 2 is taken whole: ten fields,
+/// eleven with the wavelength column; the rest of the line is dropped.
+ReadResult<DataFileContent> ReadCsvDataFile(const QString& path);
 
-/// Reads a block data file of version 3.21, or of 2.99 and before, or of no version, after asking
-/// whether the slots that it holds may be cleared. A slot of nothing but 0 is empty. False when
-/// refused, and, shown, when it cannot be read; slots already cleared or filled then stay so.
-[[nodiscard]] bool ReadDatDataFile(const QString& path, VEXATYPE& state, MessageService& messages);
+/// Reads a block data file of version 3.21, or of 2.99 and before, or of no version. A slot of
+/// nothing but 0 is not valid.
+ReadResult<DataFileContent> ReadDatDataFile(const QString& path);
+
+/// What to tell of a data file that cannot be read.
+[[nodiscard]] MessageCall DataFileMessage(const FileFault& fault);
+
+/// What is to be asked before a content takes the place of slots; nothing of a comma-separated one.
+[[nodiscard]] std::optional<MessageCall> StoreQuestion(const DataFileContent& content);
+
+/// Puts the content into its slots and evaluates those that are valid. Their sample information is
+/// what the file says of it, and empty otherwise.
+void StoreDataFile(const DataFileContent& content, VEXATYPE& state, MessageService& messages);
 
 }  // namespace vexa

@@ -1,134 +1,140 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include <algorithm>
-#include <utility>
 
+#include "base/file_kind.h"
 #include "base/header_version.h"
 #include "base/number_text.h"
 #include "base/text_file.h"
 #include "files/data_file.h"
-#include "files/data_file_messages.h"
 #include "measurement/evaluation.h"
 
 namespace vexa {
-
-using namespace message_type;
-
 namespace {
 
-constexpr double kCsvVersion = 2.99;
-constexpr double kCurrentVersion = 3.21;
-
-double Value(const QString& text) {
+double Value(const TextReader& reader, const QString& text, qsizetype field) {
   const std::optional<double> number = LeadingNumber(text);
   if (!number) {
-    throw ReadFault("number out of range");
+    throw reader.Fault(FileFaultKind::kValue, field);
   }
   return *number;
 }
 
-void ReadCsvRows(TextReader& reader, VEXATYPE& state) {
-  const QString first = reader.Field();
-  const bool wavelengthColumn = first == QLatin1String("wave");
-  QStringList sampleNumbers;
-  if (!wavelengthColumn) {
-    sampleNumbers << first;
+ReadFault VersionFault(double version) {
+  return ReadFault({.kind = FileFaultKind::kVersion, .line = 1, .version = version});
+}
+
+DataFileContent ReadCsv(TextReader& reader) {
+  const double version = ReadHeaderVersion(reader.Line(), file_kind::kData.word);
+  if (version < file_kind::kData.currentLayout) {
+    throw VersionFault(version);
   }
-  while (sampleNumbers.size() < kSlotCount) {
-    sampleNumbers << reader.Field();
+  QStringList titles = reader.Row(kSlotCount, 1 + kSlotCount);
+  const bool wavelengthColumn = titles.front() == QLatin1String("wave");
+  if (wavelengthColumn) {
+    titles.removeFirst();
+    if (titles.size() < kSlotCount) {
+      throw reader.Fault(FileFaultKind::kFields);
+    }
   }
-  state.ClearSlots();
-  for (int number = 1; number <= kSlotCount; ++number) {
-    state.Slot(number)->info.sampleNumber = sampleNumbers[number - 1];
+  DataFileContent content;
+  content.entries.resize(kSlotCount);
+  for (std::size_t i = 0; i < kSlotCount; ++i) {
+    content.entries[i].sampleNumber = titles[static_cast<qsizetype>(i)];
   }
   const qsizetype skipped = wavelengthColumn ? 1 : 0;
   for (int nm = ReflectanceSpectrum::kFirstNm; nm <= ReflectanceSpectrum::kLastNm; ++nm) {
     const QStringList row = reader.Row(skipped + kSlotCount);
-    for (int number = 1; number <= kSlotCount; ++number) {
-      state.Slot(number)->reflectance[nm] = Value(row[skipped + number - 1]);
+    qsizetype field = skipped;
+    for (DataFileSlot& slot : content.entries) {
+      slot.reflectance[nm] = Value(reader, row[field], field + 1);
+      ++field;
     }
   }
+  for (DataFileSlot& slot : content.entries) {
+    const ReflectanceSpectrum& spectrum = slot.reflectance;
+    slot.valid = spectrum[440] != 0.0 || spectrum[450] != 0.0 || spectrum[840] != 0.0;
+  }
+  return content;
 }
 
 // A block: a line with the sample number, which is not taken over, then a line a value.
-void ReadBlock(TextReader& reader, MeasurementSlot& slot) {
+DataFileSlot ReadBlock(TextReader& reader) {
+  DataFileSlot slot;
   reader.Line();
   for (double& value : slot.reflectance.Values()) {
-    value = Value(reader.Line());
+    value = Value(reader, reader.Line(), 0);
+    slot.valid = slot.valid || value != 0.0;
   }
+  return slot;
 }
 
-// The spectrum alone goes; what is known of the sample stays with the slot.
-void ClearSpectra(VEXATYPE& state, int lastSlot) {
-  for (int number = 1; number <= lastSlot; ++number) {
-    MeasurementSlot& slot = *state.Slot(number);
-    const SampleInfo info = std::exchange(slot, {}).info;
-    slot.info = info;
+DataFileContent ReadBlocks(TextReader& reader) {
+  const double version = ReadHeaderVersion(reader.Field(), file_kind::kData.word);
+  if (version > file_kind::kData.currentLayout && version < file_kind::kBlockVersion) {
+    throw VersionFault(version);
   }
+  DataFileContent content{.blocks = true, .entries = {}, .comment = reader.Line()};
+  const std::int16_t count = reader.IntegerLine();
+  if (count < 0 || count > kSlotCount) {
+    throw reader.Fault(FileFaultKind::kRange);
+  }
+  for (int number = 1; number <= count; ++number) {
+    content.entries.push_back(ReadBlock(reader));
+  }
+  return content;
 }
 
 }  // namespace
 
-bool ReadDataFile(const QString& path, VEXATYPE& state, MessageService& messages) {
-  return LayoutByEnding(path) == DataFileLayout::kCsv ? ReadCsvDataFile(path, state, messages)
-                                                      : ReadDatDataFile(path, state, messages);
+ReadResult<DataFileContent> ReadDataFile(const QString& path) {
+  return LayoutByEnding(path) == DataFileLayout::kCsv ? ReadCsvDataFile(path)
+                                                      : ReadDatDataFile(path);
 }
 
-bool ReadCsvDataFile(const QString& path, VEXATYPE& state, MessageService& messages) {
-  try {
+ReadResult<DataFileContent> ReadCsvDataFile(const QString& path) {
+  return TryRead([&path] {
     TextReader reader = TextReader::Open(path);
-    if (ReadHeaderVersion(reader.Line(), QStringLiteral("DAT")) < kCsvVersion) {
-      throw ReadFault("version");
-    }
-    ReadCsvRows(reader, state);
-  } catch (const ReadFault&) {
-    ShowDataReadError(kNoCurrentDataFile, messages);
-    return false;
+    return ReadCsv(reader);
+  });
+}
+
+ReadResult<DataFileContent> ReadDatDataFile(const QString& path) {
+  return TryRead([&path] {
+    TextReader reader = TextReader::Open(path);
+    return ReadBlocks(reader);
+  });
+}
+
+MessageCall DataFileMessage(const FileFault& fault) {
+  // Only the gap of the block files lies above the layout's first version.
+  if (fault.kind == FileFaultKind::kVersion && fault.version > file_kind::kData.currentLayout) {
+    return {Message::kOldDataVersion, {}, FaultText(fault)};
   }
-  for (MeasurementSlot& slot : state.measurementSlots) {
-    slot.valid = slot.reflectance[440] != 0.0 || slot.reflectance[450] != 0.0 ||
-                 slot.reflectance[840] != 0.0;
+  return {Message::kDataReadError, {file_kind::kData.header.toString()}, FaultText(fault)};
+}
+
+std::optional<MessageCall> StoreQuestion(const DataFileContent& content) {
+  if (!content.blocks) {
+    return std::nullopt;
+  }
+  return MessageCall{Message::kEraseSlots,
+                     {SignedText(static_cast<double>(content.entries.size()))}};
+}
+
+void StoreDataFile(const DataFileContent& content, VEXATYPE& state, MessageService& messages) {
+  if (content.blocks) {
+    state.dataFileComment = content.comment;
+  }
+  for (std::size_t i = 0; i < content.entries.size(); ++i) {
+    const DataFileSlot& read = content.entries[i];
+    MeasurementSlot& slot = state.measurementSlots[i];
+    slot = {};
+    slot.reflectance = read.reflectance;
+    slot.info.sampleNumber = read.sampleNumber;
+    slot.valid = read.valid;
     if (slot.valid) {
       EvaluateSlot(state, slot, messages);
     }
-  }
-  return true;
-}
-
-bool ReadDatDataFile(const QString& path, VEXATYPE& state, MessageService& messages) {
-  try {
-    TextReader reader = TextReader::Open(path);
-    const double version = ReadHeaderVersion(reader.Field(), QStringLiteral("DAT"));
-    if (version > kCsvVersion && version < kCurrentVersion) {
-      ShowDataReadError(QStringLiteral("VEXA-KT 旧Verのデータﾌｧｲﾙではありません。"), messages);
-      return false;
-    }
-    const QString comment = reader.Line();
-    const std::int16_t count = reader.IntegerLine();
-    if (count < 0 || count > kSlotCount) {
-      throw ReadFault("count of blocks");
-    }
-    state.dataFileComment = comment;
-    const QString countText = SignedText(count);
-    if (messages.MsgCall(countText + QStringLiteral("ﾃﾞｰﾀをひらくためﾃﾞｰﾀ１～ﾃﾞｰﾀ") + countText +
-                             QStringLiteral("までのﾃﾞｰﾀが消去されます。"),
-                         kOkCancel + kWarningIcon,
-                         QStringLiteral("VEXA-KT")) != MessageResult::kOk) {
-      return false;
-    }
-    ClearSpectra(state, count);
-    for (int number = 1; number <= count; ++number) {
-      MeasurementSlot& slot = *state.Slot(number);
-      ReadBlock(reader, slot);
-      const auto values = slot.reflectance.Values();
-      slot.valid = std::ranges::any_of(values, [](double value) { return value != 0.0; });
-      if (slot.valid) {
-        EvaluateSlot(state, slot, messages);
-      }
-    }
-    return true;
-  } catch (const ReadFault&) {
-    ShowDataReadError(kNoCurrentDataFile, messages);
-    return false;
   }
 }
 

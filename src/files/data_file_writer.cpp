@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "files/data_file.h"
 
+#include "base/file_kind.h"
 #include "base/number_text.h"
 #include "base/text_file.h"
-#include "files/data_file_messages.h"
 
 namespace vexa {
 namespace {
@@ -20,7 +20,7 @@ FileText CsvText(const VEXATYPE& state) {
     numbers << slot.info.sampleNumber;
   }
   FileText text;
-  text.Line(kDataFileHeader).Line(numbers.join(u','));
+  text.Line(file_kind::kData.header.toString()).Line(numbers.join(u','));
   for (int nm = ReflectanceSpectrum::kFirstNm; nm <= ReflectanceSpectrum::kLastNm; ++nm) {
     QString row = SignedText(nm);
     for (const MeasurementSlot& slot : state.measurementSlots) {
@@ -39,7 +39,9 @@ FileText BlockText(const VEXATYPE& state, int blocks) {
     }
   }
   FileText text;
-  text.Line(kDataFileHeader).Line(state.Slot(1)->info.remark1).Line(SignedText(lastValid));
+  text.Line(file_kind::kData.header.toString())
+      .Line(state.Slot(1)->info.remark1)
+      .Line(SignedText(lastValid));
   for (int number = 1; number <= blocks; ++number) {
     const MeasurementSlot& slot = *state.Slot(number);
     text.Line(slot.info.sampleNumber);
@@ -69,7 +71,7 @@ DataFileLayout LayoutByEnding(const QString& path) {
                                                                   : DataFileLayout::kCsv;
 }
 
-bool WriteDataFile(const QString& path, DataFileLayout layout, const VEXATYPE& state) {
+WriteResult WriteDataFile(const QString& path, DataFileLayout layout, const VEXATYPE& state) {
   return LayoutText(state, layout).WriteTo(path);
 }
 

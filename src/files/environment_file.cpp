@@ -1,8 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "files/environment_file.h"
 
-#include <initializer_list>
+#include <algorithm>
+#include <type_traits>
 
+#include "base/file_kind.h"
 #include "base/header_version.h"
 #include "base/number_text.h"
 #include "base/text_file.h"
@@ -11,21 +13,25 @@
 namespace vexa {
 namespace {
 
-constexpr double kOldestVersion = 1.0;
-constexpr double kCurrentLayoutVersion = 2.99;
+constexpr std::size_t kIlluminantLine = 15;
+constexpr std::int16_t kIlluminantCount = 4;
 
 // The older layout as line numbers of the current one; 0 is a line that is skipped.
 constexpr std::size_t kOlderLayout[] = {
     8,  10, 9,  12, 4,  11, 5, 6,  7,  13, 0,  0,  3,  14, 15, 16, 17, 0,  0,  0, 36, 21, 22, 23,
     24, 25, 26, 27, 28, 0,  0, 35, 37, 38, 39, 40, 41, 42, 43, 44, 45, 46, 47, 0, 0,  54, 55};
 
+// The value of a line, of the kind of its place.
 struct LineReader {
   TextReader& reader;
-  void operator()(std::monostate) const { reader.Line(); }
-  void operator()(std::int16_t* value) const { *value = reader.IntegerLine(); }
-  void operator()(double* value) const { *value = reader.RealLine(); }
-  void operator()(Flag* value) const { *value = reader.FlagLine(); }
-  void operator()(QString* value) const { *value = reader.Line(); }
+  EnvironmentValue operator()(std::monostate) const {
+    reader.Line();
+    return {};
+  }
+  EnvironmentValue operator()(const std::int16_t*) const { return reader.IntegerLine(); }
+  EnvironmentValue operator()(const double*) const { return reader.RealLine(); }
+  EnvironmentValue operator()(const Flag*) const { return Flag(reader.FlagLine()); }
+  EnvironmentValue operator()(const QString*) const { return reader.Line(); }
 };
 
 struct LineWriter {
@@ -37,70 +43,36 @@ struct LineWriter {
   void operator()(const QString* value) const { text.Line(*value); }
 };
 
-// Throws ReadFault; the version is known even then, unless the first line is missing.
-void ReadLines(TextReader& reader, VEXATYPE& state, double& version) {
-  version = ReadHeaderVersion(reader.Field(), QStringLiteral("ENV"));
-  if (version < kOldestVersion) {
-    return;
-  }
-  const auto lines = EnvironmentLines(state);
-  if (version >= kCurrentLayoutVersion) {
-    for (std::size_t number = 2; number <= kEnvironmentLines; ++number) {
-      std::visit(LineReader{reader}, lines[number]);
-    }
-  } else {
-    for (const std::size_t number : kOlderLayout) {
-      std::visit(LineReader{reader}, lines[number]);
-    }
-  }
-  if (state.display.fullScale) {
-    state.display.shortestNm = ReflectanceSpectrum::kFirstNm;
-    state.display.longestNm = ReflectanceSpectrum::kLastNm;
-  }
-}
-
-EnvironmentRead ReadSilently(const QString& path, VEXATYPE& state) {
-  EnvironmentRead result;
-  try {
-    TextReader reader = TextReader::Open(path);
-    ReadLines(reader, state, result.version);
-    result.read = result.version >= kOldestVersion;
-  } catch (const ReadFault&) {
-    result.read = false;
-  }
-  return result;
-}
-
 }  // namespace
 
-std::array<EnvironmentValue, kEnvironmentLines + 1> EnvironmentLines(VEXATYPE& state) {
+EnvironmentTable<EnvironmentPlace> EnvironmentLines(VEXATYPE& state) {
   DisplaySettings& display = state.display;
   ColourSettings& colour = state.colour;
   DispersionSetting& reference = state.referenceSetting;
   ThicknessSettings& film = state.thickness;
-  std::array<EnvironmentValue, kEnvironmentLines + 1> lines{{{},
-                                                             {},
-                                                             &display.view,
-                                                             &display.showReferenceData,
-                                                             &display.fullScale,
-                                                             &display.shortestNm,
-                                                             &display.longestNm,
-                                                             &display.wavelengthTickNm,
-                                                             &display.autoScale,
-                                                             &display.maximumPercent,
-                                                             &display.minimumPercent,
-                                                             &display.autoTicks,
-                                                             &display.tickPercent,
-                                                             &display.textStepNm,
-                                                             &display.xyMode,
-                                                             &colour.illuminant,
-                                                             &colour.observer2Deg,
-                                                             &display.labScale,
-                                                             &display.showCursor,
-                                                             &display.showMinimum,
-                                                             &state.standardFileName,
-                                                             &reference.kind,
-                                                             &reference.fixedValue}};
+  EnvironmentTable<EnvironmentPlace> lines{{{},
+                                            {},
+                                            &display.view,
+                                            &display.showReferenceData,
+                                            &display.fullScale,
+                                            &display.shortestNm,
+                                            &display.longestNm,
+                                            &display.wavelengthTickNm,
+                                            &display.autoScale,
+                                            &display.maximumPercent,
+                                            &display.minimumPercent,
+                                            &display.autoTicks,
+                                            &display.tickPercent,
+                                            &display.textStepNm,
+                                            &display.xyMode,
+                                            &colour.illuminant,
+                                            &colour.observer2Deg,
+                                            &display.labScale,
+                                            &display.showCursor,
+                                            &display.showMinimum,
+                                            &state.standardFileName,
+                                            &reference.kind,
+                                            &reference.fixedValue}};
   const auto place = [&lines](std::size_t first, std::array<double, 6>& values) {
     for (std::size_t i = 0; i < values.size(); ++i) {
       lines[first + i] = &values[i];
@@ -124,29 +96,82 @@ std::array<EnvironmentValue, kEnvironmentLines + 1> EnvironmentLines(VEXATYPE& s
   return lines;
 }
 
-EnvironmentRead ReadEnvFile(const QString& path, VEXATYPE& state, MessageService& messages) {
-  const EnvironmentRead result = ReadSilently(path, state);
-  if (result.version < kOldestVersion && QFile::exists(path)) {
-    messages.MsgCall(QStringLiteral("環境ﾌｧｲﾙのVerエラーが発生しました。\r\r環境ﾌｧｲﾙ名:") + path +
-                         QStringLiteral("\r\r環境ﾌｧｲﾙVer:") + SignedText(result.version).trimmed() +
-                         QStringLiteral("\r\r環境ﾊﾟﾗﾒｰﾀｰはﾃﾞﾌｫﾙﾄ値に設定されます。"),
-                     message_type::kOk + message_type::kStopIcon, message_title::kError);
-  }
-  return result;
+ReadResult<EnvironmentContent> ReadEnvFile(const QString& path) {
+  return TryRead([&path] {
+    TextReader reader = TextReader::Open(path);
+    EnvironmentContent content{
+        .version = ReadHeaderVersion(reader.Field(), file_kind::kEnvironment.word), .lines = {}};
+    if (content.version < file_kind::kEnvironment.oldest) {
+      throw ReadFault({.kind = FileFaultKind::kVersion, .line = 1, .version = content.version});
+    }
+    VEXATYPE kinds;
+    const auto places = EnvironmentLines(kinds);
+    const auto read = [&](std::size_t number) {
+      content.lines[number] = std::visit(LineReader{reader}, places[number]);
+    };
+    if (content.version >= file_kind::kEnvironment.currentLayout) {
+      for (std::size_t number = 2; number <= kEnvironmentLines; ++number) {
+        read(number);
+      }
+    } else {
+      std::ranges::for_each(kOlderLayout, read);
+    }
+    return content;
+  });
 }
 
-bool WriteEnvFile(const QString& path, const VEXATYPE& state) {
-  const bool kept = KeepUnreadable(path, [&path] {
-    VEXATYPE scratch;
-    return ReadSilently(path, scratch).read;
-  });
+void ApplyEnvironment(const EnvironmentContent& content, VEXATYPE& state) {
+  const auto places = EnvironmentLines(state);
+  for (std::size_t number = 2; number <= kEnvironmentLines; ++number) {
+    std::visit(
+        [&content, number](auto place) {
+          if constexpr (!std::is_same_v<decltype(place), std::monostate>) {
+            using Value = std::remove_pointer_t<decltype(place)>;
+            if (const auto* value = std::get_if<Value>(&content.lines[number])) {
+              *place = *value;
+            }
+          }
+        },
+        places[number]);
+  }
+  if (state.display.fullScale) {
+    state.display.shortestNm = ReflectanceSpectrum::kFirstNm;
+    state.display.longestNm = ReflectanceSpectrum::kLastNm;
+  }
+}
+
+MessageCall EnvironmentMessage(const QString& path, const FileFault& fault) {
+  switch (fault.kind) {
+    case FileFaultKind::kVersion:
+      return {Message::kEnvironmentVersionError, {path, SignedText(fault.version).trimmed()}};
+    case FileFaultKind::kMissing:
+      return {Message::kEnvironmentMissing, {path}};
+    default:
+      return {Message::kEnvironmentReadError, {path}, FaultText(fault)};
+  }
+}
+
+QList<MessageCall> EnvironmentDoubts(const QString& path, const EnvironmentContent& content) {
+  const auto* illuminant = std::get_if<std::int16_t>(&content.lines[kIlluminantLine]);
+  if (illuminant == nullptr || (*illuminant >= 1 && *illuminant <= kIlluminantCount)) {
+    return {};
+  }
+  return {{Message::kUnknownIlluminant, {path, QString::number(*illuminant)}}};
+}
+
+WriteResult WriteEnvFile(const QString& path, const VEXATYPE& state) {
+  const WriteResult kept =
+      KeepUnreadable(path, [&path] { return static_cast<bool>(ReadEnvFile(path)); });
+  if (!kept) {
+    return kept;
+  }
   FileText text;
-  text.Line(QStringLiteral("VEXA-KT 440-840 Ver 3.21 Environment File"));
+  text.Line(file_kind::kEnvironment.header.toString());
   VEXATYPE copy = state;
-  for (const EnvironmentValue& value : EnvironmentLines(copy)) {
+  for (const EnvironmentPlace& value : EnvironmentLines(copy)) {
     std::visit(LineWriter{text}, value);
   }
-  return kept && text.WriteTo(path);
+  return text.WriteTo(path);
 }
 
 }  // namespace vexa

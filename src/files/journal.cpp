@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "files/journal.h"
 
-#include <fcntl.h>
 #include <sys/file.h>
 #include <sys/stat.h>
 #include <unistd.h>
@@ -9,19 +8,14 @@
 #include <QDir>
 #include <QFileInfo>
 
+#include "base/replace_file.h"
+#include "files/keep_unreadable.h"
+
 namespace vexa {
 namespace {
 
 constexpr int kMostJournals = 99;  ///< of one directory
-
-// A name beside the path that is free: NAME.bad, NAME.bad2, ...
-QString FreeName(const QString& path) {
-  QString name = path + QStringLiteral(".bad");
-  for (int number = 2; QFile::exists(name); ++number) {
-    name = path + QStringLiteral(".bad%1").arg(number);
-  }
-  return name;
-}
+constexpr qint64 kLargestJournal = qint64{256} * 1024 * 1024;
 
 bool HasName(const QFile& file) {
   struct stat status {};
@@ -30,24 +24,41 @@ bool HasName(const QFile& file) {
 
 }  // namespace
 
-std::optional<JournalContent> Journal::TakeLeft(QStringList& setAside) {
+QList<MessageCall> JournalsSetAside::Notices() const {
+  QList<MessageCall> notices;
+  if (!otherVersions.isEmpty()) {
+    notices << MessageCall{Message::kJournalOtherVersion, {otherVersions.join(u'\r')}};
+  }
+  if (!unreadable.isEmpty()) {
+    notices << MessageCall{Message::kJournalUnreadable, {unreadable.join(u'\r')}};
+  }
+  return notices;
+}
+
+std::optional<JournalContent> Journal::TakeLeft(JournalsSetAside& setAside) {
   while (next_ <= kMostJournals) {
     const int number = next_++;
     if (!QFileInfo(PathOf(number)).isFile() ||
         !Hold(number, QIODevice::ReadWrite | QIODevice::ExistingOnly)) {
       continue;
     }
-    const JournalContent content = ReadJournal(file_.readAll());
+    if (file_.size() > kLargestJournal) {
+      SetAside(setAside.unreadable);
+      continue;
+    }
+    const QByteArray bytes = file_.readAll();
+    const JournalContent content = ReadJournal(bytes);
     if (file_.error() != QFile::NoError) {
       Release();
     } else if (!content.readable) {
-      const QString name = FreeName(file_.fileName());
-      if (QFile::rename(file_.fileName(), name)) {
-        setAside << name;
+      SetAside(setAside.otherVersions);
+    } else if (content.image == EmptySession()) {
+      const bool holdsMore = content.damaged || content.end < bytes.size();
+      if (holdsMore && bytes.size() >= JournalHeader().size()) {
+        SetAside(setAside.unreadable);
+      } else {
+        Remove();
       }
-      Release();
-    } else if (content.image == EmptySession() && !content.damaged) {
-      Remove();
     } else {
       end_ = content.end;
       return content;
@@ -61,10 +72,10 @@ bool Journal::Append(const QByteArray& record) {
     return false;
   }
   const bool first = end_ == 0;
-  const QByteArray bytes = first ? kJournalHeader.toByteArray() + record : record;
+  const QByteArray bytes = first ? JournalHeader() + record : record;
   const bool written = (file_.size() == end_ || file_.resize(end_)) && file_.seek(end_) &&
                        file_.write(bytes) == bytes.size() && ::fsync(file_.handle()) == 0 &&
-                       (!first || SyncDirectory());
+                       (!first || FlushDirectory(directory_));
   if (written) {
     end_ += bytes.size();
   }
@@ -76,8 +87,16 @@ bool Journal::IsInPlace() const {
 }
 
 QString Journal::KeepCopy() const {
-  const QString name = FreeName(file_.fileName());
+  const QString name = FreeBadName(file_.fileName());
   return QFile::copy(file_.fileName(), name) ? name : QString();
+}
+
+void Journal::SetAside(QStringList& names) {
+  const QString name = FreeBadName(file_.fileName());
+  if (QFile::rename(file_.fileName(), name)) {
+    names << name;
+  }
+  Release();
 }
 
 void Journal::Release() {
@@ -87,7 +106,7 @@ void Journal::Release() {
 
 void Journal::Remove() {
   if (IsInPlace() && QFile::remove(file_.fileName())) {
-    (void)SyncDirectory();
+    (void)FlushDirectory(directory_);
   }
   Release();
 }
@@ -124,17 +143,6 @@ bool Journal::Begin() {
     }
   }
   return false;
-}
-
-// Makes the coming and going of a name as lasting as the bytes behind it.
-bool Journal::SyncDirectory() const {
-  const int directory =
-      ::open(QFile::encodeName(directory_).constData(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
-  const bool synced = directory >= 0 && ::fsync(directory) == 0;
-  if (directory >= 0) {
-    ::close(directory);
-  }
-  return synced;
 }
 
 }  // namespace vexa

@@ -6,9 +6,19 @@
 #include <QStringList>
 #include <optional>
 
+#include "base/message.h"
 #include "files/journal_records.h"
 
 namespace vexa {
+
+/// The new names of journals that cannot be restored.
+struct JournalsSetAside {
+  QStringList otherVersions;
+  QStringList unreadable;
+
+  /// What to tell of them.
+  [[nodiscard]] QList<MessageCall> Notices() const;
+};
 
 /// The journal of a running session: `vexa.journal` in the program directory, or `vexa-2.journal`
 /// and so on where that one is taken. It is locked as long as it is held, so that a journal without
@@ -18,9 +28,10 @@ class Journal {
   explicit Journal(QString directory) : directory_(std::move(directory)) {}
 
   /// Takes the next journal that a crash has left and that holds something, beginning with the
-  /// first; nothing when there is none any more. Empty ones are removed; one of another version
-  /// gets the name NAME.bad (.bad2 and so on), which is added to `setAside`.
-  std::optional<JournalContent> TakeLeft(QStringList& setAside);
+  /// first; nothing when there is none any more. Empty ones are removed; one of another version,
+  /// one without anything that can be read, and one above 256 MiB get the name NAME.bad (.bad2 and
+  /// so on), which is added to `setAside`.
+  std::optional<JournalContent> TakeLeft(JournalsSetAside& setAside);
 
   /// Puts the record behind the last whole one and returns once the disk has it. False when it
   /// could not be written; what it left of itself is overwritten by the next.
@@ -45,7 +56,7 @@ class Journal {
   [[nodiscard]] QString PathOf(int number) const;
   bool Hold(int number, QIODevice::OpenMode mode);
   bool Begin();
-  [[nodiscard]] bool SyncDirectory() const;
+  void SetAside(QStringList& names);
 
   QString directory_;
   int next_ = 1;  // to be looked for

@@ -7,6 +7,8 @@
 #include <QtEndian>
 #include <optional>
 
+#include "base/file_kind.h"
+
 namespace vexa {
 namespace {
 
@@ -22,21 +24,28 @@ QByteArray Checksum(QByteArrayView length, QByteArrayView content) {
   return hash.result();
 }
 
-// The content of the record that begins there; nothing when there is no whole one.
-std::optional<QByteArray> ContentAt(QByteArrayView bytes) {
+// Between two marks anything may stand, marks included: so much may be summed for nothing, in the
+// length of the journal, before the rest is given up as damaged.
+constexpr qsizetype kMostSummedInVain = 4;
+
+// The length of the content of the record that begins there; nothing when it has no whole head.
+std::optional<qsizetype> LengthAt(QByteArrayView bytes) {
   if (bytes.size() < kHeadBytes || !bytes.startsWith(kMark)) {
     return std::nullopt;
   }
-  const QByteArrayView length = bytes.sliced(kMark.size(), kLengthBytes);
-  const qsizetype size = qFromLittleEndian<quint32>(length.data());
-  if (size > bytes.size() - kHeadBytes) {
-    return std::nullopt;
-  }
-  const QByteArrayView content = bytes.sliced(kHeadBytes, size);
-  if (Checksum(length, content) != bytes.sliced(kMark.size() + kLengthBytes, kChecksumBytes)) {
-    return std::nullopt;
-  }
-  return content.toByteArray();
+  return qFromLittleEndian<quint32>(bytes.data() + kMark.size());
+}
+
+bool IsIntact(QByteArrayView record) {
+  return Checksum(record.sliced(kMark.size(), kLengthBytes), record.sliced(kHeadBytes)) ==
+         record.sliced(kMark.size() + kLengthBytes, kChecksumBytes);
+}
+
+// What an interrupted write leaves: the beginning of a record.
+bool IsCutShort(QByteArrayView bytes) {
+  const std::optional<qsizetype> length = LengthAt(bytes);
+  return length ? *length > bytes.size() - kHeadBytes
+                : bytes.size() < kHeadBytes && (bytes.startsWith(kMark) || kMark.startsWith(bytes));
 }
 
 // False when an entry is none of a session.
@@ -56,6 +65,11 @@ bool TakeEntries(const QByteArray& content, SessionImage& image) {
 }
 
 }  // namespace
+
+const QByteArray& JournalHeader() {
+  static const QByteArray header = file_kind::kJournal.header.toLatin1();
+  return header;
+}
 
 const SessionImage& EmptySession() {
   static const SessionImage image = TakeImage(VEXATYPE());
@@ -81,25 +95,40 @@ QByteArray SealRecord(const QByteArray& content) {
 }
 
 JournalContent ReadJournal(const QByteArray& bytes) {
+  const QByteArray& header = JournalHeader();
   JournalContent journal;
   journal.image = EmptySession();
-  journal.readable = bytes.startsWith(kJournalHeader) || kJournalHeader.startsWith(bytes);
-  if (!bytes.startsWith(kJournalHeader)) {
+  journal.readable = bytes.startsWith(header) || header.startsWith(bytes);
+  if (!bytes.startsWith(header)) {
     return journal;
   }
-  journal.end = kJournalHeader.size();
+  journal.end = header.size();
+  qsizetype summedInVain = 0;
   // Records follow one another; where one is damaged, the next mark with a whole one is looked for.
   for (qsizetype at = journal.end; at >= 0; at = bytes.indexOf(kMark, at)) {
-    const std::optional<QByteArray> content = ContentAt(QByteArrayView(bytes).sliced(at));
-    if (!content) {
+    const QByteArrayView rest = QByteArrayView(bytes).sliced(at);
+    const std::optional<qsizetype> length = LengthAt(rest);
+    if (!length || *length > rest.size() - kHeadBytes) {
+      ++at;
+      continue;
+    }
+    const QByteArrayView record = rest.first(kHeadBytes + *length);
+    if (!IsIntact(record)) {
+      summedInVain += record.size();
+      if (summedInVain > kMostSummedInVain * bytes.size()) {
+        break;
+      }
       ++at;
       continue;
     }
     journal.damaged = journal.damaged || at != journal.end;
-    journal.damaged = !TakeEntries(*content, journal.image) || journal.damaged;
-    at += kHeadBytes + content->size();
+    journal.damaged =
+        !TakeEntries(record.sliced(kHeadBytes).toByteArray(), journal.image) || journal.damaged;
+    at += record.size();
     journal.end = at;
   }
+  const QByteArrayView rest = QByteArrayView(bytes).sliced(journal.end);
+  journal.damaged = journal.damaged || !(rest.isEmpty() || IsCutShort(rest));
   return journal;
 }
 

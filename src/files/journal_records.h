@@ -9,7 +9,7 @@
 namespace vexa {
 
 /// The first line of a journal. Any other first line is another version, or no journal.
-inline constexpr QByteArrayView kJournalHeader("VEXA-KT 440-840 Ver 3.21 Journal File\r\n");
+[[nodiscard]] const QByteArray& JournalHeader();
 
 /// The image of a session in which nothing was measured.
 [[nodiscard]] const SessionImage& EmptySession();
@@ -24,12 +24,13 @@ inline constexpr QByteArrayView kJournalHeader("VEXA-KT 440-840 Ver 3.21 Journal
 /// What the bytes of a journal say.
 struct JournalContent {
   bool readable = false;  ///< false for another version, or what is no journal; nothing is read
-  bool damaged = false;   ///< something before the last whole record cannot be read
+  bool damaged = false;   ///< something cannot be read that is more than a last record cut short
   SessionImage image;     ///< the latest of every entry
   qsizetype end = 0;      ///< of the last whole record; a torn one behind it is to be overwritten
 };
 
-/// Reads any bytes. A journal that is cut short within its first line is an empty one.
+/// Reads any bytes, in a time that grows with their number alone. A journal that is cut short
+/// within its first line is an empty one.
 [[nodiscard]] JournalContent ReadJournal(const QByteArray& bytes);
 
 }  // namespace vexa

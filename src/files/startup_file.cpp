@@ -1,6 +1,11 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "files/startup_file.h"
 
+#include <QDir>
+#include <QFileInfo>
+#include <algorithm>
+
+#include "base/file_kind.h"
 #include "base/header_version.h"
 #include "base/text_file.h"
 #include "files/keep_unreadable.h"
@@ -8,48 +13,60 @@
 namespace vexa {
 namespace {
 
-constexpr double kOldestVersion = 1.0;
-constexpr std::size_t kPositionLines = 5;
-
-QString StartupPath(const VEXATYPE& state) {
-  return CompletePath(state, QStringLiteral("vexa.int"));
+QString NameForStartup(const VEXATYPE& state) {
+  const QFileInfo file(CompletePath(state, state.envFileName));
+  const bool here = QFileInfo(file.absolutePath()) == QFileInfo(state.programDirectory);
+  return here ? file.fileName() : state.envFileName;
 }
 
 }  // namespace
 
-bool ReadStartupFile(VEXATYPE& state) {
-  try {
-    TextReader reader = TextReader::Open(StartupPath(state));
-    if (ReadHeaderVersion(reader.Line(), QStringLiteral("ENV")) < kOldestVersion) {
-      return false;
-    }
-    state.envFileName = reader.Line();
-    state.instrument.controllerPort = reader.IntegerLine();
-    for (std::size_t i = 0; i < kPositionLines; ++i) {
-      state.instrument.linePositions[i] = reader.IntegerLine();
-    }
-    state.instrument.detectorStartNm = reader.IntegerLine();
-    return true;
-  } catch (const ReadFault&) {
-    return false;
-  }
+QString StartupPath(const QString& programDirectory) {
+  return QDir(programDirectory).filePath(QStringLiteral("vexa.int"));
 }
 
-bool WriteStartupFile(const VEXATYPE& state) {
-  const bool kept = KeepUnreadable(StartupPath(state), [&state] {
-    VEXATYPE scratch;
-    scratch.programDirectory = state.programDirectory;
-    return ReadStartupFile(scratch);
+ReadResult<StartupContent> ReadStartupFile(const QString& path) {
+  return TryRead([&path] {
+    TextReader reader = TextReader::Open(path);
+    const double version = ReadHeaderVersion(reader.Line(), file_kind::kStartup.word);
+    if (version < file_kind::kStartup.oldest) {
+      throw ReadFault({.kind = FileFaultKind::kVersion, .line = 1, .version = version});
+    }
+    StartupContent content;
+    content.envFileName = reader.Line();
+    content.controllerPort = reader.IntegerLine();
+    for (std::int16_t& position : content.linePositions) {
+      position = reader.IntegerLine();
+    }
+    content.detectorStartNm = reader.IntegerLine();
+    return content;
   });
+}
+
+void ApplyStartup(const StartupContent& content, VEXATYPE& state) {
+  state.envFileName = content.envFileName;
+  state.instrument.controllerPort = content.controllerPort;
+  std::ranges::copy(content.linePositions, state.instrument.linePositions.begin());
+  state.instrument.detectorStartNm = content.detectorStartNm;
+}
+
+WriteResult WriteStartupFile(const VEXATYPE& state) {
+  const QString path = StartupPath(state.programDirectory);
+  const WriteResult kept =
+      KeepUnreadable(path, [&path] { return static_cast<bool>(ReadStartupFile(path)); });
+  if (!kept) {
+    return kept;
+  }
+  const StartupContent written;
   FileText text;
-  text.Line(QStringLiteral("VEXA-KT 440-840 Ver 3.21 Environment File"))
-      .Line(state.envFileName)
+  text.Line(file_kind::kStartup.header.toString())
+      .Line(NameForStartup(state))
       .Number(state.instrument.controllerPort);
-  for (std::size_t i = 0; i < kPositionLines; ++i) {
+  for (std::size_t i = 0; i < written.linePositions.size(); ++i) {
     text.Number(state.instrument.linePositions[i]);
   }
   text.Number(state.instrument.detectorStartNm);
-  return kept && text.WriteTo(StartupPath(state));
+  return text.WriteTo(path);
 }
 
 }  // namespace vexa

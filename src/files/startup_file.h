@@ -1,15 +1,36 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include <QString>
+#include <array>
+#include <cstdint>
+
+#include "base/file_fault.h"
+#include "base/replace_file.h"
 #include "measurement/vexatype.h"
 
 namespace vexa {
 
-/// Reads the start-up file `vexa.int` of the program directory. After a failure what was read
-/// before it stays, and the caller sets the defaults.
-[[nodiscard]] bool ReadStartupFile(VEXATYPE& state);
+/// What the start-up file `vexa.int` holds.
+struct StartupContent {
+  QString envFileName;
+  std::int16_t controllerPort = 0;
+  std::array<std::int16_t, 5> linePositions{};
+  std::int16_t detectorStartNm = 0;
+};
 
-/// Writes it; true when written. One that cannot be read is kept beside it as `vexa.int.bad`.
-[[nodiscard]] bool WriteStartupFile(const VEXATYPE& state);
+/// Its path in a program directory.
+[[nodiscard]] QString StartupPath(const QString& programDirectory);
+
+/// Reads a start-up file.
+ReadResult<StartupContent> ReadStartupFile(const QString& path);
+
+/// Puts the content in force.
+void ApplyStartup(const StartupContent& content, VEXATYPE& state);
+
+/// Writes that of the program directory. The environment file in use is named by its bare name when
+/// it lies there, so that the directory may be moved and called anything. One that cannot be read
+/// is kept beside it as `vexa.int.bad`.
+WriteResult WriteStartupFile(const VEXATYPE& state);
 
 }  // namespace vexa

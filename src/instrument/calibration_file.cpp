@@ -1,27 +1,26 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "instrument/calibration_file.h"
 
+#include "base/file_kind.h"
 #include "base/text_file.h"
 
 namespace vexa {
 
-std::optional<std::int16_t> ReadCalibrationFile(const QString& path) {
-  try {
+ReadResult<std::int16_t> ReadCalibrationFile(const QString& path) {
+  return TryRead([&path] {
     TextReader reader = TextReader::Open(path);
     reader.Field();
     const std::int16_t shiftNm = reader.IntegerField();
-    if (shiftNm >= 0 && shiftNm <= kLargestCalibrationShiftNm) {
-      return shiftNm;
+    if (shiftNm < 0 || shiftNm > kLargestCalibrationShiftNm) {
+      throw reader.Fault(FileFaultKind::kRange);
     }
-  } catch (const ReadFault&) {
-    return std::nullopt;
-  }
-  return std::nullopt;
+    return shiftNm;
+  });
 }
 
-bool WriteCalibrationFile(const QString& path, std::int16_t shiftNm) {
+WriteResult WriteCalibrationFile(const QString& path, std::int16_t shiftNm) {
   FileText text;
-  text.Line(QStringLiteral("VEXA-KT 440-840 Ver 3.21 Calibration File")).Number(shiftNm);
+  text.Line(file_kind::kCalibration.header.toString()).Number(shiftNm);
   return text.WriteTo(path);
 }
 

@@ -1,19 +1,27 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "measurement/dispersion_data.h"
 
+#include "base/translation.h"
 #include "optics/bunsan.h"
 
 namespace vexa {
 namespace {
 
-bool Build(Flag asReflectance, const DispersionSetting& setting, const QString& name,
-           ReflectanceSpectrum& result, MessageService& messages) {
-  const Status status = GetBunsanArray(asReflectance, setting, result, messages);
-  if (status != 0) {
-    messages.MsgCall(name + QStringLiteral("\r") + DispersionStatusText(status),
-                     message_type::kOk + message_type::kWarningIcon, QStringLiteral("VEXA-KT"));
+ReflectanceSpectrum Build(Flag asReflectance, const DispersionSetting& setting, const QString& name,
+                          SpectraBuilt& built) {
+  const Dispersion dispersion = GetBunsanArray(asReflectance, setting);
+  if (dispersion.notice) {
+    built.notices << *dispersion.notice;
   }
-  return status == 0;
+  if (const std::optional<MessageCall> message = DispersionMessage(dispersion.status, name)) {
+    built.notices << *message;
+    built.all = false;
+  }
+  return dispersion.spectrum;
+}
+
+void BuildCoat(VEXATYPE& state, SpectraBuilt& built) {
+  StoreCoatSpectrum(state, Build(false, state.thickness.coat, Text::tr("ｲﾝﾃﾞｯｸｽ"), built));
 }
 
 }  // namespace
@@ -23,19 +31,17 @@ void StoreCoatSpectrum(VEXATYPE& state, const ReflectanceSpectrum& spectrum) {
                                                            : state.filmIndex) = spectrum;
 }
 
-bool LoadCoatData(VEXATYPE& state, MessageService& messages) {
-  ReflectanceSpectrum coat;
-  if (!Build(false, state.thickness.coat, QStringLiteral("ｲﾝﾃﾞｯｸｽ"), coat, messages)) {
-    return false;
-  }
-  StoreCoatSpectrum(state, coat);
-  return true;
+SpectraBuilt LoadCoatData(VEXATYPE& state) {
+  SpectraBuilt built;
+  BuildCoat(state, built);
+  return built;
 }
 
-void LoadDispersionData(VEXATYPE& state, MessageService& messages) {
-  Build(true, state.referenceSetting, QStringLiteral("ﾘﾌｧﾚﾝｽ"), state.referenceReflectance,
-        messages);
-  LoadCoatData(state, messages);
+SpectraBuilt LoadDispersionData(VEXATYPE& state) {
+  SpectraBuilt built;
+  state.referenceReflectance = Build(true, state.referenceSetting, Text::tr("ﾘﾌｧﾚﾝｽ"), built);
+  BuildCoat(state, built);
+  return built;
 }
 
 }  // namespace vexa

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include <QList>
+
 #include "base/message.h"
 #include "measurement/vexatype.h"
 
@@ -10,12 +12,17 @@ namespace vexa {
 /// setting is a substrate, else as the index of the film.
 void StoreCoatSpectrum(VEXATYPE& state, const ReflectanceSpectrum& spectrum);
 
-/// Builds the index array of the coat's setting. False, with a message and the array as it was,
-/// when it cannot be built.
-bool LoadCoatData(VEXATYPE& state, MessageService& messages);
+/// What came of building spectra from their settings.
+struct [[nodiscard]] SpectraBuilt {
+  bool all = true;             ///< each could be built
+  QList<MessageCall> notices;  ///< to be told one after another, named by their setting
+};
 
-/// Builds the reference reflectance and the index arrays from their settings. Where one cannot be
-/// built, a message names the setting, and the array stays as it was.
-void LoadDispersionData(VEXATYPE& state, MessageService& messages);
+/// Builds the index array of the coat's setting. One that cannot be built is zeros, as it is before
+/// anything was built: never the spectrum of an earlier setting.
+SpectraBuilt LoadCoatData(VEXATYPE& state);
+
+/// Builds the reference reflectance and the index arrays from their settings, likewise.
+SpectraBuilt LoadDispersionData(VEXATYPE& state);
 
 }  // namespace vexa

@@ -31,9 +31,13 @@ StockConditions VEXATYPE::ColourConditions() const {
   return {display.xyMode, colour.illuminant, colour.observer2Deg};
 }
 
-QString CompletePath(const VEXATYPE& state, const QString& name) {
+QString CompletePath(const QString& programDirectory, const QString& name) {
   const bool complete = name.contains(u':') || name.contains(u'\\') || name.contains(u'/');
-  return complete ? name : QDir(state.programDirectory).filePath(name);
+  return complete ? name : QDir(programDirectory).filePath(name);
+}
+
+QString CompletePath(const VEXATYPE& state, const QString& name) {
+  return CompletePath(state.programDirectory, name);
 }
 
 }  // namespace vexa

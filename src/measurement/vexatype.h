@@ -65,12 +65,14 @@ struct VEXATYPE {
 
   QString programDirectory;
   QString envFileName;
-  QString standardFileName;     ///< full path of the standard file in use
+  Flag envFileRead;          ///< the environment in force was read from that file, or written to it
+  QString standardFileName;  ///< full path of the standard file in use
   QString currentDataFileName;  ///< full path of the data file opened or saved last
   QString dataFileComment;      ///< second line of the block file read last
 };
 
 /// The name as a full path: as it is when it holds ":", "\" or "/", else in the program directory.
+[[nodiscard]] QString CompletePath(const QString& programDirectory, const QString& name);
 [[nodiscard]] QString CompletePath(const VEXATYPE& state, const QString& name);
 
 }  // namespace vexa

@@ -52,14 +52,14 @@ double ReflectanceToIndex(double percent) {
   return Divide(1.0 + amplitude, 1.0 - amplitude);
 }
 
-Status GetBunsanArray(Flag asReflectance, const DispersionSetting& setting,
-                      ReflectanceSpectrum& result, MessageService& messages) {
+Dispersion GetBunsanArray(Flag asReflectance, const DispersionSetting& setting) {
   ReflectanceSpectrum buffer;
   const auto formula = [&](auto indexAt) {
     return Fill(buffer, [&](int nm) {
       return asReflectance ? IndexToReflectance(indexAt(nm)) : indexAt(nm);
     });
   };
+  Dispersion result;
   bool computed = true;
   switch (setting.kind) {
     case DispersionKind::kFixedValue:
@@ -72,37 +72,49 @@ Status GetBunsanArray(Flag asReflectance, const DispersionSetting& setting,
       computed = formula([&](int nm) { return SellmeierIndex(setting.sellmeier, nm); });
       break;
     case DispersionKind::kIndexFile:
-      if (!ReadIndexFile(setting.indexFileName, buffer)) {
-        return kIndexFileFault;
+      if (const auto index = ReadIndexFile(setting.indexFileName)) {
+        buffer = *index;
+      } else {
+        result.status = kIndexFileFault;
       }
       break;
     case DispersionKind::kSubstrate:
-      if (!ReadSubstrateFile(setting.dataFileName, buffer, messages)) {
-        return kSubstrateFileFault;
+      if (const auto reflectance = ReadSubstrateFile(setting.dataFileName)) {
+        computed = Fill(buffer, [&](int nm) { return ReflectanceToIndex((*reflectance)[nm]); });
+      } else {
+        result.notice = SubstrateNotice(reflectance.Fault());
+        result.status = kSubstrateFileFault;
       }
-      computed = Fill(buffer, [&](int nm) { return ReflectanceToIndex(buffer[nm]); });
       break;
     default:
-      messages.MsgCall(QStringLiteral("Erroro GetBunsanArray(Bunsan.Bas)"),
-                       message_type::kOk | message_type::kStopIcon, QStringLiteral("VEXA-KT"));
+      result.notice = MessageCall{Message::kUnknownDispersionKind};
   }
   if (!computed) {
-    return kDispersionFault;
+    result.status = kDispersionFault;
   }
-  result = buffer;
-  return 0;
+  if (result.status == 0) {
+    result.spectrum = buffer;
+  }
+  return result;
 }
 
-QString DispersionStatusText(Status status) {
+std::optional<MessageCall> SubstrateNotice(const FileFault& fault) {
+  return fault.kind == FileFaultKind::kVersion
+             ? std::optional(MessageCall{Message::kSubstrateVersionError, {}, FaultText(fault)})
+             : std::nullopt;
+}
+
+std::optional<MessageCall> DispersionMessage(Status status, const QString& setting) {
+  const QStringList name{setting.isEmpty() ? setting : setting + u'\r'};
   switch (status) {
     case kDispersionFault:
-      return QStringLiteral("分散計算が発生しました。設定は無効となります。");
+      return MessageCall{Message::kDispersionFault, name};
     case kIndexFileFault:
-      return QStringLiteral("分散データが読み込まれていません。");
+      return MessageCall{Message::kIndexFileFault, name};
     case kSubstrateFileFault:
-      return QStringLiteral("基板屈折率データが読み込まれていません。");
+      return MessageCall{Message::kSubstrateFileFault, name};
     default:
-      return {};
+      return std::nullopt;
   }
 }
 

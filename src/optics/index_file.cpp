@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "optics/index_file.h"
 
+#include "base/file_kind.h"
 #include "base/header_version.h"
 #include "base/number_text.h"
 #include "base/text_file.h"
@@ -8,8 +9,6 @@
 namespace vexa {
 namespace {
 
-constexpr double kOldestVersion = 1.0;
-constexpr double kFirstCommaSeparatedVersion = 2.99;
 constexpr qsizetype kSlotColumns = 10;
 
 template <typename NextValue>
@@ -27,7 +26,7 @@ ReflectanceSpectrum ReadFirstColumn(TextReader& reader) {
   return ReadValues([&] {
     const auto value = ParseNumber(reader.Row(column + kSlotColumns)[column]);
     if (!value) {
-      throw ReadFault("not a number");
+      throw reader.Fault(FileFaultKind::kValue, column + 1);
     }
     return *value;
   });
@@ -42,45 +41,36 @@ ReflectanceSpectrum ReadFirstBlock(TextReader& reader) {
 
 }  // namespace
 
-bool ReadIndexFile(const QString& path, ReflectanceSpectrum& values) {
-  try {
+ReadResult<ReflectanceSpectrum> ReadIndexFile(const QString& path) {
+  return TryRead([&path] {
     TextReader reader = TextReader::Open(path);
     reader.Field();
-    values = ReadValues([&] { return reader.RealField(); });
-    return true;
-  } catch (const ReadFault&) {
-    return false;
-  }
+    return ReadValues([&] { return reader.RealField(); });
+  });
 }
 
-bool WriteIndexFile(const QString& path, IndexFileContent content,
-                    const ReflectanceSpectrum& values) {
+WriteResult WriteIndexFile(const QString& path, IndexFileContent content,
+                           const ReflectanceSpectrum& values) {
+  const FileKind& kind =
+      content == IndexFileContent::kIndex ? file_kind::kIndex : file_kind::kReference;
   FileText text;
-  text.Line(content == IndexFileContent::kIndex
-                ? QStringLiteral("VEXA-KT 440-840 Ver 3.21 Index File")
-                : QStringLiteral("VEXA-KT 440-840 Ver 3.21 Reference File"));
+  text.Line(kind.header.toString());
   for (const double value : values.Values()) {
     text.Line(FormatNumber(value, u"0.00000000E+00"));
   }
   return text.WriteTo(path);
 }
 
-bool ReadSubstrateFile(const QString& path, ReflectanceSpectrum& reflectance,
-                       MessageService& messages) {
-  try {
+ReadResult<ReflectanceSpectrum> ReadSubstrateFile(const QString& path) {
+  return TryRead([&path] {
     TextReader reader = TextReader::Open(path);
-    const double version = ReadHeaderVersion(reader.Line(), QStringLiteral("DAT"));
-    if (version < kOldestVersion) {
-      messages.MsgCall(QStringLiteral("ﾃﾞｰﾀ･ﾌｧｲﾙの読み込みでエラーが発生しました。"),
-                       message_type::kOk | message_type::kStopIcon, QStringLiteral("VEXA-KT"));
-      return false;
+    const double version = ReadHeaderVersion(reader.Line(), file_kind::kData.word);
+    if (version < file_kind::kData.oldest) {
+      throw ReadFault({.kind = FileFaultKind::kVersion, .line = 1, .version = version});
     }
-    reflectance =
-        version < kFirstCommaSeparatedVersion ? ReadFirstBlock(reader) : ReadFirstColumn(reader);
-    return true;
-  } catch (const ReadFault&) {
-    return false;
-  }
+    return version < file_kind::kData.currentLayout ? ReadFirstBlock(reader)
+                                                    : ReadFirstColumn(reader);
+  });
 }
 
 }  // namespace vexa

@@ -84,9 +84,11 @@ Status ComputeThickness(std::int16_t type, std::int16_t kind, std::int16_t subst
   result = {};
   Status status = kThicknessTypeFault;
   if (type >= ThicknessType::kA && type <= ThicknessType::kC) {
-    const bool deriveIndex =
-        substrateMode == DispersionKind::kSubstrate && type != ThicknessType::kC;
+    const bool deriveIndex = substrateMode == DispersionKind::kSubstrate;
     try {
+      if (deriveIndex && (type == ThicknessType::kC || Mean(substrateIndex) <= 0.0)) {
+        throw ArithmeticFault("no index");
+      }
       status = Compute(type, kind, deriveIndex, substrateIndex, spectrum, filmIndex, result);
     } catch (const ArithmeticFault&) {
       status = kThicknessFault;
@@ -98,18 +100,19 @@ Status ComputeThickness(std::int16_t type, std::int16_t kind, std::int16_t subst
   return status;
 }
 
-QString ThicknessStatusText(Status status) {
+MessageCall ThicknessMessage(Status status) {
   switch (status) {
-    case 0:
-      return {};
     case kTooFewExtrema:
-      return QStringLiteral("検出ピーク数が２個以下で膜厚計算にｴﾗｰが発生しました。");
+      return {Message::kTooFewExtrema};
     case kTooManyExtrema:
-      return QStringLiteral(
-          "検出ピーク個数が最大検出数を越えて膜厚計算にｴﾗｰが発生しました。(最大ﾋﾟｰｸ数50)");
+      return {Message::kTooManyExtrema};
     default:
-      return QStringLiteral("膜厚計算でｴﾗｰが発生しました。");
+      return {Message::kThicknessFault};
   }
+}
+
+QString ThicknessStatusText(Status status) {
+  return status == 0 ? QString() : MessageText(ThicknessMessage(status));
 }
 
 QString ThicknessUnit(bool physical) {

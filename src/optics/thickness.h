@@ -5,6 +5,7 @@
 #include <cstdint>
 
 #include "base/flag.h"
+#include "base/message.h"
 #include "base/spectrum.h"
 #include "base/status.h"
 #include "optics/extremum_list.h"
@@ -55,7 +56,8 @@ struct ThicknessResult {
 /// DispersionKind::kSubstrate and type A or B, it is first replaced, in place and at every
 /// wavelength, by sqrt(substrateIndex N(R)) with N(R) of ReflectanceToIndex; a fault on the way
 /// leaves the values before it replaced. The mean substrate index then decides which extrema count:
-/// minima when it is above N of the mean reflectance, otherwise maxima.
+/// minima when it is above N of the mean reflectance, otherwise maxima. A substrate without an
+/// index (zeros) is a fault, and so is type C with a substrate: nobody gave an index for it.
 ///
 /// With an unknown kind type A fails; types B and C succeed with the two extrema and a thickness of
 /// 0.
@@ -65,7 +67,10 @@ struct ThicknessResult {
                                       const ReflectanceSpectrum& spectrum,
                                       ReflectanceSpectrum& filmIndex, ThicknessResult& result);
 
-/// What to tell the user about a status of ComputeThickness; empty for success.
+/// What to tell the user about a status of ComputeThickness other than 0.
+[[nodiscard]] MessageCall ThicknessMessage(Status status);
+
+/// Its text; empty for success.
 [[nodiscard]] QString ThicknessStatusText(Status status);
 
 /// "[nm]" for a physical thickness, "[nd]" for an optical one.

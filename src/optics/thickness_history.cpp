@@ -4,6 +4,7 @@
 #include <algorithm>
 #include <cmath>
 
+#include "base/file_kind.h"
 #include "base/number_text.h"
 #include "base/text_file.h"
 #include "optics/thickness.h"
@@ -57,9 +58,9 @@ std::optional<ThicknessScale> AutoScale(std::span<const double> pointsNm) {
   return scale;
 }
 
-bool WriteThicknessFile(const QString& path, const ThicknessHistory& history) {
+WriteResult WriteThicknessFile(const QString& path, const ThicknessHistory& history) {
   FileText text;
-  text.Line(QStringLiteral("VEXA-KT 440-840 Ver 3.21 Thickness File"))
+  text.Line(file_kind::kThickness.header.toString())
       .Line(SignedText(history.count))
       .Line(ThicknessUnit(history.physical));
   for (const double thicknessNm : history.Points()) {

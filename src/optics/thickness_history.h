@@ -8,6 +8,7 @@
 #include <span>
 
 #include "base/flag.h"
+#include "base/replace_file.h"
 
 namespace vexa {
 
@@ -51,7 +52,7 @@ struct ThicknessScale {
 /// Example: points at 1510 and 1630 nm give 1500..1650.
 [[nodiscard]] std::optional<ThicknessScale> AutoScale(std::span<const double> pointsNm);
 
-/// Writes a *.thk file in the place of the file; false, and the file as it was, when that fails.
-[[nodiscard]] bool WriteThicknessFile(const QString& path, const ThicknessHistory& history);
+/// Writes a *.thk file; see ReplaceFile.
+WriteResult WriteThicknessFile(const QString& path, const ThicknessHistory& history);
 
 }  // namespace vexa

@@ -1,44 +1,39 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "standards/standard_check.h"
 
-#include <algorithm>
-
 #include "base/spectrum.h"
+#include "base/translation.h"
 
 namespace vexa {
 namespace {
 
-const QString kOutOfRange = QStringLiteral("波長範囲外エラー");
-const QString kNegative = QStringLiteral("規格マイナス指定エラー");
-const QString kReversed = QStringLiteral("大小反転エラー");
-const QString kSameWavelength = QStringLiteral("同一波長指定エラー");
-const QString kHueOutOfRange = QStringLiteral("範囲外エラー<範囲:0°-360°>");
-
-/// The name of an error; empty when there is none.
-using ErrorName = QString;
+/// The message of an error; nothing when there is none.
+using Error = std::optional<Message>;
 
 bool Within(double value, double first, double last) {
   return value >= first && value <= last;
 }
 
-ErrorName OrderError(const StandardLimits& limits) {
-  return limits.lower <= limits.upper ? ErrorName() : kReversed;
+Error OrderError(const StandardLimits& limits) {
+  return limits.lower <= limits.upper ? Error() : Message::kStandardReversed;
 }
 
-ErrorName QuantityError(const StandardLimits& limits) {
-  return limits.upper >= 0.0 && limits.lower >= 0.0 ? OrderError(limits) : kNegative;
+Error QuantityError(const StandardLimits& limits) {
+  return limits.upper >= 0.0 && limits.lower >= 0.0 ? OrderError(limits)
+                                                    : Message::kStandardNegative;
 }
 
-ErrorName WavelengthError(const StandardLimits& limits) {
+Error WavelengthError(const StandardLimits& limits) {
   const bool inRange =
       Within(limits.upper, ReflectanceSpectrum::kFirstNm, ReflectanceSpectrum::kLastNm) &&
       Within(limits.lower, ReflectanceSpectrum::kFirstNm, ReflectanceSpectrum::kLastNm);
-  return inRange ? OrderError(limits) : kOutOfRange;
+  return inRange ? OrderError(limits) : Message::kStandardOutOfRange;
 }
 
-ErrorName HueError(const StandardLimits& limits) {
-  return Within(limits.upper, 0.0, 360.0) && Within(limits.lower, 0.0, 360.0) ? ErrorName()
-                                                                              : kHueOutOfRange;
+Error HueError(const StandardLimits& limits) {
+  return Within(limits.upper, 0.0, 360.0) && Within(limits.lower, 0.0, 360.0)
+             ? Error()
+             : Message::kStandardHueOutOfRange;
 }
 
 bool SharesWavelength(const StandardSet& standard, std::size_t condition) {
@@ -51,45 +46,52 @@ bool SharesWavelength(const StandardSet& standard, std::size_t condition) {
   return false;
 }
 
-ErrorName BandError(const StandardSet& standard) {
+Error BandError(const StandardSet& standard) {
   for (std::size_t k = 0; k < kConditionCount; ++k) {
     if (!standard.conditions[k].enabled) {
       continue;
     }
     if (!ReflectanceSpectrum::Contains(standard.wavelengths[k])) {
-      return kOutOfRange;
+      return Message::kStandardOutOfRange;
     }
-    if (ErrorName error = QuantityError(standard.conditions[k]); !error.isEmpty()) {
+    if (const Error error = QuantityError(standard.conditions[k])) {
       return error;
     }
     if (SharesWavelength(standard, k)) {
-      return kSameWavelength;
+      return Message::kStandardSameWavelength;
     }
   }
   return {};
 }
 
-ErrorName IfOn(const StandardLimits& limits, ErrorName (*check)(const StandardLimits&)) {
-  return limits.enabled ? check(limits) : ErrorName();
+Error IfOn(const StandardLimits& limits, Error (*check)(const StandardLimits&)) {
+  return limits.enabled ? check(limits) : Error();
 }
 
 }  // namespace
 
-std::optional<QString> CheckStandardSet(const StandardSet& standard) {
+std::optional<MessageCall> CheckStandardSet(const StandardSet& standard) {
   const struct {
-    QString group;
-    ErrorName error;
+    const char* group;
+    Error error;
   } groups[] = {
-      {QStringLiteral("反射率規格"), standard.useReflectance ? BandError(standard) : ErrorName()},
-      {QStringLiteral("平均反射率規格"), IfOn(standard.averageReflectance, QuantityError)},
-      {QStringLiteral("波長値規格"), IfOn(standard.wavelengthValue.limits, WavelengthError)},
-      {QStringLiteral("クロマ規格"), IfOn(standard.chroma, QuantityError)},
-      {QStringLiteral("色相角規格"), IfOn(standard.hueAngle, HueError)},
-      {QStringLiteral("視感反射率規格"), IfOn(standard.luminousReflectance, QuantityError)},
+      {QT_TRANSLATE_NOOP("Text", "反射率規格"),
+       standard.useReflectance ? BandError(standard) : Error()},
+      {QT_TRANSLATE_NOOP("Text", "平均反射率規格"),
+       IfOn(standard.averageReflectance, QuantityError)},
+      {QT_TRANSLATE_NOOP("Text", "波長値規格"),
+       IfOn(standard.wavelengthValue.limits, WavelengthError)},
+      {QT_TRANSLATE_NOOP("Text", "クロマ規格"), IfOn(standard.chroma, QuantityError)},
+      {QT_TRANSLATE_NOOP("Text", "色相角規格"), IfOn(standard.hueAngle, HueError)},
+      {QT_TRANSLATE_NOOP("Text", "視感反射率規格"),
+       IfOn(standard.luminousReflectance, QuantityError)},
   };
-  const auto faulty = std::find_if(std::begin(groups), std::end(groups),
-                                   [](const auto& group) { return !group.error.isEmpty(); });
-  return faulty == std::end(groups) ? std::nullopt : std::optional(faulty->group + faulty->error);
+  for (const auto& [group, error] : groups) {
+    if (error) {
+      return MessageCall{*error, {Text::tr(group)}};
+    }
+  }
+  return std::nullopt;
 }
 
 }  // namespace vexa

@@ -1,20 +1,12 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "standards/standard_file.h"
 
+#include "base/file_kind.h"
 #include "base/header_version.h"
 #include "base/text_file.h"
 
 namespace vexa {
 namespace {
-
-const QString kHeader = QStringLiteral("VEXA-KT 440-840 Ver 3.21 Standard File");
-constexpr double kLastRefusedVersion = 2.99;
-
-void ShowRefusal(const QString& path, MessageService& messages) {
-  messages.MsgCall(QStringLiteral("規格ﾌｧｲﾙ名:") + path +
-                       QStringLiteral("\r\rVer1.10以前の規格ﾌｧｲﾙは読み込めません。"),
-                   message_type::kOk | message_type::kStopIcon, QStringLiteral("VEXA-KT"));
-}
 
 void ReadRange(TextReader& reader, StandardLimits& limits) {
   limits.upper = reader.RealField();
@@ -58,28 +50,25 @@ void WriteLimits(FileText& text, const StandardLimits& limits) {
 
 }  // namespace
 
-bool ReadStandardFile(const QString& path, StandardSet& standard, ReferenceMarker& chromaMarker,
-                      ReferenceMarker& hueMarker, MessageService& messages) {
-  try {
+ReadResult<StandardContents> ReadStandardFile(const QString& path) {
+  return TryRead([&path] {
     TextReader reader = TextReader::Open(path);
-    if (ReadHeaderVersion(reader.Row(1).constFirst(), QStringLiteral("STA")) <=
-        kLastRefusedVersion) {
-      ShowRefusal(path, messages);
-      return false;
+    const double version = ReadHeaderVersion(reader.Row(1).constFirst(), file_kind::kStandard.word);
+    if (version <= file_kind::kStandard.oldest) {
+      throw ReadFault({.kind = FileFaultKind::kVersion, .line = 1, .version = version});
     }
-    ReadStandard(reader, standard);
-    ReadMarker(reader, chromaMarker);
-    ReadMarker(reader, hueMarker);
-    return true;
-  } catch (const ReadFault&) {
-    return false;
-  }
+    StandardContents contents;
+    ReadStandard(reader, contents.standard);
+    ReadMarker(reader, contents.chromaMarker);
+    ReadMarker(reader, contents.hueMarker);
+    return contents;
+  });
 }
 
-bool WriteStandardFile(const QString& path, const StandardSet& standard,
-                       const ReferenceMarker& chromaMarker, const ReferenceMarker& hueMarker) {
+WriteResult WriteStandardFile(const QString& path, const StandardContents& contents) {
+  const auto& [standard, chromaMarker, hueMarker] = contents;
   FileText text;
-  text.Line(kHeader).Flag(standard.useReflectance);
+  text.Line(file_kind::kStandard.header.toString()).Flag(standard.useReflectance);
   for (std::size_t k = 0; k < kConditionCount; ++k) {
     text.Flag(standard.conditions[k].enabled).Number(standard.wavelengths[k]);
     WriteRange(text, standard.conditions[k]);
@@ -94,6 +83,12 @@ bool WriteStandardFile(const QString& path, const StandardSet& standard,
   text.Flag(chromaMarker.shown).Number(chromaMarker.value);
   text.Flag(hueMarker.shown).Number(hueMarker.value);
   return text.WriteTo(path);
+}
+
+MessageCall StandardMessage(const QString& path, const FileFault& fault) {
+  const Message id = fault.kind == FileFaultKind::kVersion ? Message::kStandardVersionRefused
+                                                           : Message::kStandardReadError;
+  return {id, {path}, FaultText(fault)};
 }
 
 }  // namespace vexa

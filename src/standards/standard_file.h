@@ -3,21 +3,29 @@
 
 #include <QString>
 
+#include "base/file_fault.h"
 #include "base/message.h"
+#include "base/replace_file.h"
 #include "standards/standard_set.h"
 
 namespace vexa {
 
-/// Reads a standard file. A file below version 3.00, or of another kind, is refused with a message
-/// and nothing is changed. False then, when the file cannot be opened, and when it is cut short or
-/// holds a value that is none of its kind: what was read before that stays.
-[[nodiscard]] bool ReadStandardFile(const QString& path, StandardSet& standard,
-                                    ReferenceMarker& chromaMarker, ReferenceMarker& hueMarker,
-                                    MessageService& messages);
+/// What a standard file holds.
+struct StandardContents {
+  StandardSet standard;
+  ReferenceMarker chromaMarker;
+  ReferenceMarker hueMarker;
 
-/// Writes the standard and both markers, 62 lines; true when written. See FileText::WriteTo.
-[[nodiscard]] bool WriteStandardFile(const QString& path, const StandardSet& standard,
-                                     const ReferenceMarker& chromaMarker,
-                                     const ReferenceMarker& hueMarker);
+  bool operator==(const StandardContents&) const = default;
+};
+
+/// Reads a standard file of version 3.00 or later.
+ReadResult<StandardContents> ReadStandardFile(const QString& path);
+
+/// Writes the standard and both markers, 62 lines; see ReplaceFile.
+WriteResult WriteStandardFile(const QString& path, const StandardContents& contents);
+
+/// What to tell of a standard file that cannot be read.
+[[nodiscard]] MessageCall StandardMessage(const QString& path, const FileFault& fault);
 
 }  // namespace vexa

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "views/colour/background_picture.h"
 
+#include <QPointer>
 #include <cmath>
 
 namespace vexa {
@@ -53,12 +54,15 @@ void BackgroundPicture::Turn() {
   }
 }
 
-void BackgroundPicture::ConfirmAbort() {
-  // The question waits in the event loop, where no more pixels may come.
+QCoro::Task<> BackgroundPicture::ConfirmAbort() {
+  // No more pixels come while the question waits.
   timer_.stop();
-  const MessageResult answer = messages_.MsgCall(
-      QStringLiteral("色座標の作成を中止します。"),
-      message_type::kOkCancel + message_type::kQuestionIcon, QStringLiteral("確認"));
+  const QPointer<BackgroundPicture> alive(this);
+  const MessageCall question{Message::kAbortDiagram};
+  const MessageResult answer = co_await messages_.Ask(question);
+  if (alive == nullptr) {
+    co_return;
+  }
   abortRequested_ = false;
   if (answer == MessageResult::kOk) {
     SetBuilding(false);

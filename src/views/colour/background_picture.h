@@ -44,7 +44,7 @@ class BackgroundPicture : public QObject {
  private:
   void Turn();
   void SetBuilding(bool building);
-  void ConfirmAbort();
+  QCoro::Task<> ConfirmAbort();
   void PaintNewPoints();
 
   MessageService& messages_;

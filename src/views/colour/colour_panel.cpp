@@ -3,6 +3,7 @@
 
 #include <QGridLayout>
 #include <QHBoxLayout>
+#include <QPointer>
 #include <QVBoxLayout>
 
 #include "base/number_text.h"
@@ -158,14 +159,16 @@ void ColourPanel::ShowStock() {
   }
 }
 
-void ColourPanel::SetAccumulating(bool checked) {
+QCoro::Task<> ColourPanel::SetAccumulating(bool checked) {
   state_.accumulate = checked;
   if (checked) {
     if (state_.stock.DiffersFrom(state_.ColourConditions())) {
-      const MessageResult answer = messages_.MsgCall(
-          QStringLiteral("現在累積されている色度図データと表示条件が異なります。現累積データをクリ"
-                         "アしますか？"),
-          message_type::kOkCancel + message_type::kQuestionIcon, message_title::kMessage);
+      const QPointer<ColourPanel> alive(this);
+      const MessageCall question{Message::kClearStock};
+      const MessageResult answer = co_await messages_.Ask(question);
+      if (alive == nullptr) {
+        co_return;
+      }
       if (answer == MessageResult::kOk) {
         state_.stock.RemoveAll();
       } else {

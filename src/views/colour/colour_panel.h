@@ -52,7 +52,7 @@ class ColourPanel : public QWidget {
                         const QString& unit);
   void ShowValues(int selectedSlot);
   void ShowStock();
-  void SetAccumulating(bool checked);
+  QCoro::Task<> SetAccumulating(bool checked);
   void OpenStockWindow();
 
   VEXATYPE& state_;

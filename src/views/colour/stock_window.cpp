@@ -25,11 +25,11 @@ StockWindow::StockWindow(VEXATYPE& state, MessageService& messages, FileDialogs&
       dialogs_(dialogs),
       diagram_(new ChromaticityDiagram(std::move(picture))),
       count_(new QLabel),
-      load_(AddButton("StockLoad", QStringLiteral("読み込み"), &StockWindow::Load)),
-      save_(AddButton("StockSave", QStringLiteral("保存"), &StockWindow::Save)),
-      clear_(AddButton("StockClearOne", QStringLiteral("ｸﾘｱ"), &StockWindow::ClearLast)),
-      clearAll_(AddButton("StockClearAll", QStringLiteral("全ｸﾘｱ"), &StockWindow::ClearAll)),
-      close_(AddButton("StockClose", QStringLiteral("閉じる"), &StockWindow::CloseWindow)) {
+      load_(AddButton("StockLoad", QStringLiteral("読み込み"), [this] { Load(); })),
+      save_(AddButton("StockSave", QStringLiteral("保存"), [this] { Save(); })),
+      clear_(AddButton("StockClearOne", QStringLiteral("ｸﾘｱ"), [this] { ClearLast(); })),
+      clearAll_(AddButton("StockClearAll", QStringLiteral("全ｸﾘｱ"), [this] { ClearAll(); })),
+      close_(AddButton("StockClose", QStringLiteral("閉じる"), [this] { CloseWindow(); })) {
   setObjectName(QStringLiteral("StockWindow"));
   setWindowTitle(QStringLiteral("累積色度図表示"));
   diagram_->setMinimumSize(kSmallestDiagram, ChromaticityDiagram::HeightFor(kSmallestDiagram));
@@ -71,12 +71,12 @@ void StockWindow::Refresh() {
 }
 
 QPushButton* StockWindow::AddButton(const char* name, const QString& caption,
-                                    void (StockWindow::*run)()) {
+                                    const std::function<void()>& run) {
   auto* button = new QPushButton(caption);
   button->setObjectName(QLatin1String(name));
   button->setAutoDefault(false);
   button->setMinimumWidth(116);
-  connect(button, &QPushButton::clicked, this, run);
+  connect(button, &QPushButton::clicked, this, [run] { run(); });
   return button;
 }
 
@@ -96,24 +96,25 @@ void StockWindow::Load() {
   if (!path) {
     return;
   }
-  // What was read before a fault stays, and is shown.
-  const bool read = ReadStockFile(*path, state_.stock);
-  emit StockChanged();
-  if (!read) {
-    messages_.MsgCall(StockReadErrorText(), message_type::kOk + message_type::kStopIcon,
-                      message_title::kError);
+  const ReadResult<ColourStock> stock = ReadStockFile(*path);
+  if (!stock) {
+    messages_.Tell(StockMessage(stock.Fault()));
+    return;
   }
+  state_.stock = *stock;
+  emit StockChanged();
 }
 
-void StockWindow::Save() {
+QCoro::Task<> StockWindow::Save() {
   const std::optional<SaveChoice> choice =
       dialogs_.AskSave(QStringLiteral("累積ﾃﾞｰﾀ･ﾌｧｲﾙの保存"), kFilter);
   if (!choice) {
-    return;
+    co_return;
   }
   const QString path = WithExtension(choice->path, QStringLiteral(".stc"));
-  if (MayReplace(path, messages_) && !WriteStockFile(path, state_.stock)) {
-    ShowWriteError(path, messages_);
+  const bool may = co_await MayReplace(path, messages_);
+  if (may) {
+    (void)TellWritten(WriteStockFile(path, state_.stock), path, messages_);
   }
 }
 

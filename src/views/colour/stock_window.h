@@ -4,6 +4,7 @@
 #include <QDialog>
 #include <QLabel>
 #include <QPushButton>
+#include <functional>
 #include <memory>
 
 #include "base/message.h"
@@ -30,11 +31,12 @@ class StockWindow : public QDialog {
   void StockChanged();
 
  private:
-  QPushButton* AddButton(const char* name, const QString& caption, void (StockWindow::*run)());
+  QPushButton* AddButton(const char* name, const QString& caption,
+                         const std::function<void()>& run);
   void ClearAll();
   void ClearLast();
   void Load();
-  void Save();
+  QCoro::Task<> Save();
   void CloseWindow();
 
   VEXATYPE& state_;

@@ -1,12 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "views/common/original_msg_frm.h"
 
-#include <QApplication>
 #include <QHBoxLayout>
 #include <QStyle>
 #include <QToolButton>
 #include <QVBoxLayout>
-#include <QWindow>
 
 namespace vexa {
 namespace {
@@ -96,7 +94,13 @@ OriginalMsgFrm::OriginalMsgFrm(QWidget* parent)
   layout->setSizeConstraint(QLayout::SetFixedSize);
 }
 
-void OriginalMsgFrm::MsgCall(const QString& text, std::int16_t type, const QString& title,
+void OriginalMsgFrm::Show(const MessageCall& call) {
+  Present(MessageText(call), MessageType(call.id), MessageTitle(call.id), call.details);
+  setModal(true);
+  show();
+}
+
+void OriginalMsgFrm::Present(const QString& text, std::int16_t type, const QString& title,
                              const QString& details) {
   setWindowTitle(title);
   QString lines = text;
@@ -111,7 +115,6 @@ void OriginalMsgFrm::MsgCall(const QString& text, std::int16_t type, const QStri
   ShowButtons(type);
   ShowIcon(type);
   ShowDetails(details);
-  exec();
 }
 
 void OriginalMsgFrm::reject() {
@@ -167,31 +170,6 @@ void OriginalMsgFrm::ShowDetails(const QString& details) {
   unfold_->setChecked(false);
   unfold_->setArrowType(Qt::RightArrow);
   details_->hide();
-}
-
-MessageResult WindowMessages::MsgCall(const QString& text, std::int16_t type,
-                                      const QString& title) {
-  return MsgCallWithDetails(text, type, title, {});
-}
-
-MessageResult WindowMessages::MsgCallWithDetails(const QString& text, std::int16_t type,
-                                                 const QString& title, const QString& details) {
-  if (dialog_ == nullptr) {
-    dialog_ = new OriginalMsgFrm(window_);
-  }
-  // Above the dialog that asks, where there is one.
-  const QWidget* above = QApplication::activeModalWidget();
-  above = above == nullptr ? window_ : above->window();
-  dialog_->winId();
-  if (above != nullptr) {
-    dialog_->windowHandle()->setTransientParent(above->windowHandle());
-  }
-  dialog_->MsgCall(text, type, title, details);
-  return dialog_->Result();
-}
-
-void WindowMessages::Beep() {
-  QApplication::beep();
 }
 
 }  // namespace vexa

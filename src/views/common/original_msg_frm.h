@@ -21,10 +21,13 @@ class OriginalMsgFrm : public QDialog {
  public:
   explicit OriginalMsgFrm(QWidget* parent = nullptr);
 
-  /// Shows the message modally; the button pressed is Result() afterwards. Details, where there are
-  /// any, unfold below the text.
-  void MsgCall(const QString& text, std::int16_t type, const QString& title,
-               const QString& details = {});
+  /// Shows the message over all windows and returns at once; finished() tells that a button was
+  /// pressed, which is Result() then. Details, where there are any, unfold below the text.
+  void Show(const MessageCall& call);
+
+  /// Puts a message into the dialog without showing it.
+  void Present(const QString& text, std::int16_t type, const QString& title,
+               const QString& details);
 
   [[nodiscard]] MessageResult Result() const { return result_; }
 
@@ -47,22 +50,6 @@ class OriginalMsgFrm : public QDialog {
   std::array<Button, 4> buttons_;
   MessageResult closedByFrame_ = MessageResult::kOk;
   MessageResult result_ = MessageResult::kOk;
-};
-
-/// Shows messages in an OriginalMsgFrm over a window.
-class WindowMessages : public MessageService {
- public:
-  /// The window over which the next messages are centred; null for none.
-  void SetWindow(QWidget* window) { window_ = window; }
-
-  MessageResult MsgCall(const QString& text, std::int16_t type, const QString& title) override;
-  MessageResult MsgCallWithDetails(const QString& text, std::int16_t type, const QString& title,
-                                   const QString& details) override;
-  void Beep() override;
-
- private:
-  QWidget* window_ = nullptr;
-  OriginalMsgFrm* dialog_ = nullptr;
 };
 
 }  // namespace vexa

@@ -25,20 +25,21 @@ void Paint(QCustomPlot& plot, QPaintDevice& device, double scale) {
   plot.toPainter(&painter, plot.width(), plot.height());
 }
 
-void SavePicture(QCustomPlot& plot, MessageService& messages, FileDialogs& dialogs) {
+QCoro::Task<> SavePicture(QCustomPlot& plot, MessageService& messages, FileDialogs& dialogs) {
   const std::optional<SaveChoice> choice =
       dialogs.AskSave(QStringLiteral("ｸﾞﾗﾌの保存"),
                       QStringLiteral("PNG(*.png)|*.png|SVG(*.svg)|*.svg|PDF(*.pdf)|*.pdf"));
   if (!choice) {
-    return;
+    co_return;
   }
   const QStringList suffixes{QStringLiteral(".png"), QStringLiteral(".svg"),
                              QStringLiteral(".pdf")};
   const QString path =
       WithExtension(choice->path, suffixes.value(choice->filterIndex - 1, suffixes[0]), suffixes);
-  if (MayReplace(path, messages) &&
-      !ReplaceFile(path, PlotPicture(plot, QFileInfo(path).suffix().toLower()))) {
-    ShowWriteError(path, messages);
+  const bool may = co_await MayReplace(path, messages);
+  if (may) {
+    const QByteArray picture = PlotPicture(plot, QFileInfo(path).suffix().toLower());
+    (void)TellWritten(ReplaceFile(path, picture), path, messages);
   }
 }
 

@@ -87,25 +87,32 @@ AddinpFrm::AddinpFrm(VEXATYPE& state, MessageService& messages, QWidget* parent)
 
 void AddinpFrm::accept() {
   std::array<SampleInfo, kSlotCount> infos;
+  QStringList splitting;
   for (std::size_t i = 0; i < infos.size(); ++i) {
     const auto& [sampleNumber, remark1, remark2, date] = rows_[i];
     for (QLineEdit* entry : {sampleNumber, remark1, remark2}) {
       if (!IsEncodable(entry->text())) {
-        return Refuse(*entry, QStringLiteral("ﾌｧｲﾙに保存できない文字が含まれています。"));
+        return Refuse(*entry, Message::kEntryNotEncodable);
       }
     }
-    // They stand between commas in a data file.
-    if (sampleNumber->text().contains(u',') || sampleNumber->text().contains(u'"')) {
-      return Refuse(*sampleNumber, QStringLiteral("ﾌｧｲﾙに保存できない文字が含まれています。"));
+    // A quote begins a field that ends with the next one.
+    if (sampleNumber->text().contains(u'"')) {
+      return Refuse(*sampleNumber, Message::kEntryNotEncodable);
+    }
+    if (sampleNumber->text().contains(u',')) {
+      splitting << sampleNumber->text();
     }
     const std::optional<QDateTime> measuredAt = ParseDateTime(date->text());
     if (!measuredAt) {
-      return Refuse(*date, QStringLiteral("測定日が日付ではありません。"));
+      return Refuse(*date, Message::kNotADate);
     }
     infos[i] = {sampleNumber->text(), remark1->text(), remark2->text(), *measuredAt};
   }
   for (int number = 1; number <= kSlotCount; ++number) {
     state_.Slot(number)->info = infos[static_cast<std::size_t>(number - 1)];
+  }
+  if (!splitting.isEmpty()) {
+    messages_.Tell({Message::kSampleNumberSplits, {splitting.join(u'\r')}});
   }
   QDialog::accept();
 }
@@ -141,9 +148,8 @@ bool AddinpFrm::eventFilter(QObject* watched, QEvent* event) {
   return QDialog::eventFilter(watched, event);
 }
 
-void AddinpFrm::Refuse(QLineEdit& entry, const QString& text) {
-  messages_.MsgCall(text + QStringLiteral("\r\r") + entry.text(),
-                    message_type::kOk + message_type::kStopIcon, message_title::kError);
+void AddinpFrm::Refuse(QLineEdit& entry, Message why) {
+  messages_.Tell({why, {entry.text()}});
   entry.setFocus();
 }
 

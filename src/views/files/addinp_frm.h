@@ -29,7 +29,7 @@ class AddinpFrm : public QDialog {
   static constexpr int kColumns = 4;
   using Row = std::array<QLineEdit*, kColumns>;
 
-  void Refuse(QLineEdit& entry, const QString& text);
+  void Refuse(QLineEdit& entry, Message why);
 
   VEXATYPE& state_;
   MessageService& messages_;

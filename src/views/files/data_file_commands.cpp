@@ -5,27 +5,37 @@
 
 namespace vexa {
 
-using namespace message_type;
-
-void OpenDataFile(VEXATYPE& state, MessageService& messages, FileDialogs& dialogs) {
+QCoro::Task<> OpenDataFile(VEXATYPE& state, MessageService& messages, FileDialogs& dialogs) {
   const std::optional<QString> path = dialogs.AskOpen(
       QStringLiteral("ﾌｧｲﾙを開く"), QStringLiteral("ﾃﾞｰﾀ･ﾌｧｲﾙ(*.csv,*.dat)|*.csv;*.dat|"));
-  if (path && ReadDataFile(*path, state, messages)) {
-    state.currentDataFileName = *path;
+  if (!path) {
+    co_return;
   }
+  const ReadResult<DataFileContent> content = ReadDataFile(*path);
+  if (!content) {
+    messages.Tell(DataFileMessage(content.Fault()));
+    co_return;
+  }
+  if (const std::optional<MessageCall> question = StoreQuestion(*content)) {
+    const MessageResult answer = co_await messages.Ask(*question);
+    if (answer != MessageResult::kOk) {
+      co_return;
+    }
+  }
+  StoreDataFile(*content, state, messages);
+  state.currentDataFileName = *path;
 }
 
-void SaveDataFileAs(VEXATYPE& state, MessageService& messages, FileDialogs& dialogs) {
+QCoro::Task<> SaveDataFileAs(VEXATYPE& state, MessageService& messages, FileDialogs& dialogs) {
   if (!state.HasValidSlot()) {
-    messages.MsgCall(QStringLiteral("有効ﾃﾞｰﾀがありません。"), kOk + kInformationIcon,
-                     message_title::kInformation);
-    return;
+    messages.Tell({Message::kNoValidData});
+    co_return;
   }
   const std::optional<SaveChoice> choice = dialogs.AskSave(
       QStringLiteral("ﾌｧｲﾙの名前を付けて保存"),
       QStringLiteral("Data File(*.csv)|*.csv|Data File(*.dat)|*.dat|Data File(5)(*.dat)|*.dat"));
   if (!choice) {
-    return;
+    co_return;
   }
   const QStringList extensions{QStringLiteral(".csv"), QStringLiteral(".dat")};
   auto layout = static_cast<DataFileLayout>(choice->filterIndex);
@@ -36,13 +46,9 @@ void SaveDataFileAs(VEXATYPE& state, MessageService& messages, FileDialogs& dial
   if ((ending == DataFileLayout::kCsv) != (layout == DataFileLayout::kCsv)) {
     layout = ending;
   }
-  if (!MayReplace(path, messages)) {
-    return;
-  }
-  if (WriteDataFile(path, layout, state)) {
+  const bool may = co_await MayReplace(path, messages);
+  if (may && TellWritten(WriteDataFile(path, layout, state), path, messages)) {
     state.currentDataFileName = path;
-  } else {
-    ShowWriteError(path, messages);
   }
 }
 

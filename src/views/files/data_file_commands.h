@@ -8,10 +8,11 @@
 
 namespace vexa {
 
-/// The open command: asks for a data file and reads it into the slots.
-void OpenDataFile(VEXATYPE& state, MessageService& messages, FileDialogs& dialogs);
+/// The open command: asks for a data file, reads it, asks whether slots may be cleared for it, and
+/// stores it.
+QCoro::Task<> OpenDataFile(VEXATYPE& state, MessageService& messages, FileDialogs& dialogs);
 
 /// The save-as command: asks for a name and writes the slots in the chosen layout.
-void SaveDataFileAs(VEXATYPE& state, MessageService& messages, FileDialogs& dialogs);
+QCoro::Task<> SaveDataFileAs(VEXATYPE& state, MessageService& messages, FileDialogs& dialogs);
 
 }  // namespace vexa

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "views/files/environment_commands.h"
 
+#include <QFileInfo>
+
 #include "files/configuration.h"
 #include "files/environment_file.h"
 #include "measurement/dispersion_data.h"
@@ -10,11 +12,9 @@
 namespace vexa {
 namespace {
 
-bool Write(const QString& path, const VEXATYPE& state, MessageService& messages) {
-  const bool written = WriteEnvFile(path, state);
-  if (!written) {
-    ShowWriteError(path, messages);
-  }
+bool Write(const QString& path, VEXATYPE& state, MessageService& messages) {
+  const bool written = TellWritten(WriteEnvFile(path, state), path, messages);
+  state.envFileRead = state.envFileRead || written;
   return written;
 }
 
@@ -27,30 +27,43 @@ bool OpenEnvironment(VEXATYPE& state, MessageService& messages, FileDialogs& dia
   if (!path || !MayKeepName(*path, messages)) {
     return false;
   }
-  (void)LoadEnvironment(*path, state, messages);
-  LoadDispersionData(state, messages);
+  const Environment environment = ReadEnvironment(*path, state.programDirectory);
+  (void)ApplyEnvironment(environment, state);
+  TellAll(environment.notices, messages);
+  TellAll(LoadDispersionData(state).notices, messages);
   EvaluateAgain(state);
   return true;
 }
 
-bool SaveEnvironment(VEXATYPE& state, MessageService& messages) {
+QCoro::Task<bool> SaveEnvironment(VEXATYPE& state, MessageService& messages) {
   if (state.envFileName.isEmpty()) {
-    messages.MsgCall(QStringLiteral("ﾌｧｲﾙ名が定義されていません。"),
-                     message_type::kOk + message_type::kStopIcon, message_title::kError);
-    return false;
+    messages.Tell({Message::kNoEnvironmentName});
+    co_return false;
   }
-  return Write(CompletePath(state, state.envFileName), state, messages);
+  const QString path = CompletePath(state, state.envFileName);
+  if (!state.envFileRead && QFileInfo::exists(path)) {
+    const MessageCall question{Message::kReplaceUnreadEnvironment, {path}};
+    const MessageResult answer = co_await messages.Ask(question);
+    if (answer != MessageResult::kYes) {
+      co_return false;
+    }
+  }
+  co_return Write(path, state, messages);
 }
 
-void SaveEnvironmentAs(VEXATYPE& state, MessageService& messages, FileDialogs& dialogs) {
+QCoro::Task<> SaveEnvironmentAs(VEXATYPE& state, MessageService& messages, FileDialogs& dialogs) {
   const std::optional<SaveChoice> choice =
       dialogs.AskSave(QStringLiteral("環境ﾌｧｲﾙの名前を付けて保存"),
                       QStringLiteral("Enviroment File (*.env)|*.env"));
   if (!choice) {
-    return;
+    co_return;
   }
   const QString path = WithExtension(choice->path, QStringLiteral(".env"));
-  if (MayKeepName(path, messages) && MayReplace(path, messages) && Write(path, state, messages)) {
+  if (!MayKeepName(path, messages)) {
+    co_return;
+  }
+  const bool may = co_await MayReplace(path, messages);
+  if (may && Write(path, state, messages)) {
     state.envFileName = path;
   }
 }

@@ -11,10 +11,11 @@ namespace vexa {
 /// True when the settings changed, be it to the defaults after a file that cannot be read.
 [[nodiscard]] bool OpenEnvironment(VEXATYPE& state, MessageService& messages, FileDialogs& dialogs);
 
-/// Writes the environment file in use without asking; true when written.
-bool SaveEnvironment(VEXATYPE& state, MessageService& messages);
+/// Writes the environment file in use; true when written. It asks only where a file of that name
+/// was never read, so that defaults do not take the place of a good one.
+QCoro::Task<bool> SaveEnvironment(VEXATYPE& state, MessageService& messages);
 
 /// Asks for a name, writes the environment under it and keeps it as the name in use.
-void SaveEnvironmentAs(VEXATYPE& state, MessageService& messages, FileDialogs& dialogs);
+QCoro::Task<> SaveEnvironmentAs(VEXATYPE& state, MessageService& messages, FileDialogs& dialogs);
 
 }  // namespace vexa

@@ -7,31 +7,28 @@
 
 namespace vexa {
 
-using namespace message_type;
-
-bool MayReplace(const QString& path, MessageService& messages, std::int16_t buttons) {
+QCoro::Task<bool> MayReplace(QString path, MessageService& messages, Message question) {
   if (!QFileInfo::exists(path)) {
-    return true;
+    co_return true;
   }
-  const MessageResult answer =
-      messages.MsgCall(QStringLiteral("同ﾌｧｲﾙ名が存在します。上書き保存しますか？"),
-                       static_cast<std::int16_t>(buttons + kWarningIcon), message_title::kWarning);
-  return answer == MessageResult::kYes || answer == MessageResult::kOk;
+  const MessageCall call{question};
+  const MessageResult answer = co_await messages.Ask(call);
+  co_return answer == MessageResult::kYes || answer == MessageResult::kOk;
 }
 
 bool MayKeepName(const QString& path, MessageService& messages) {
-  if (IsEncodable(path)) {
-    return true;
+  const bool may = IsEncodable(path);
+  if (!may) {
+    messages.Tell({Message::kNameNotEncodable, {path}});
   }
-  messages.MsgCall(
-      QStringLiteral("ﾌｧｲﾙ名に、設定ﾌｧｲﾙに保存できない文字が含まれています。\r\r") + path,
-      kOk + kStopIcon, message_title::kError);
-  return false;
+  return may;
 }
 
-void ShowWriteError(const QString& path, MessageService& messages) {
-  messages.MsgCall(QStringLiteral("ﾌｧｲﾙの書き込みでエラーが発生しました。\r\r") + path,
-                   kOk + kStopIcon, message_title::kError);
+bool TellWritten(const WriteResult& result, const QString& path, MessageService& messages) {
+  if (!result) {
+    messages.Tell({Message::kWriteError, {path, result.reason}});
+  }
+  return result.written;
 }
 
 }  // namespace vexa

@@ -4,18 +4,19 @@
 #include <QString>
 
 #include "base/message.h"
+#include "base/replace_file.h"
 
 namespace vexa {
 
-/// True when the file does not exist yet or the user agrees to replace it. `buttons` are those of
-/// the question, Yes and No unless the window asks with OK and Cancel.
-[[nodiscard]] bool MayReplace(const QString& path, MessageService& messages,
-                              std::int16_t buttons = message_type::kYesNo);
+/// True when the file does not exist yet or the user agrees to replace it. `question` may be
+/// kReplaceFileOrCancel, too.
+[[nodiscard]] QCoro::Task<bool> MayReplace(QString path, MessageService& messages,
+                                           Message question = Message::kReplaceFile);
 
 /// True when the settings files can hold the name; otherwise it is refused with a message.
 [[nodiscard]] bool MayKeepName(const QString& path, MessageService& messages);
 
-/// Shows that a file could not be written.
-void ShowWriteError(const QString& path, MessageService& messages);
+/// Tells that a file could not be written, and why; nothing when it was written. True when written.
+bool TellWritten(const WriteResult& result, const QString& path, MessageService& messages);
 
 }  // namespace vexa

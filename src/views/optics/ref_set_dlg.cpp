@@ -17,12 +17,7 @@
 
 namespace vexa {
 
-using namespace message_type;
-
 namespace {
-
-const QString kTitle = QStringLiteral("VEXA-KT");
-const QString kInputTitle = QStringLiteral("設定入力");
 
 /// What differs between the two uses.
 struct ModeTexts {
@@ -30,39 +25,37 @@ struct ModeTexts {
   QString kindFrame;
   QString valueLabel;
   QString unit;
-  QString rangeMessage;
+  Message outOfRange;
   double highestFixedValue;
   QString fileFilter;
   QString extension;
-  QString readFailure;
-  QString writeFailure;
+  Message readError;
+  Message writeError;
 };
 
 constexpr double kLowestFixedValue = 0.1;
 
 const ModeTexts& Texts(RefSetDlg::Mode mode) {
-  static const ModeTexts kReference{
-      QStringLiteral("ﾘﾌｧﾚﾝｽ設定"),
-      QStringLiteral("ﾘﾌｧﾚﾝｽ設定"),
-      QStringLiteral("反射率"),
-      QStringLiteral("[%]"),
-      QStringLiteral("固定反射率値が設定範囲を越えています。 (0.1 ≦ 設定値 ≦ 110)"),
-      110.0,
-      QStringLiteral("ﾘﾌｧﾚﾝｽ･ﾃﾞｰﾀﾌｧｲﾙ(*.ref)|*.ref|"),
-      QStringLiteral(".ref"),
-      QStringLiteral("ﾘﾌｧﾚﾝｽ･ﾌｧｲﾙの読み込みに失敗しました。"),
-      QStringLiteral("ﾘﾌｧﾚﾝｽ･ﾌｧｲﾙの書き込みに失敗しました。")};
-  static const ModeTexts kThickness{
-      QStringLiteral("膜厚設定"),
-      QStringLiteral("ｺｰﾄ屈折率設定"),
-      QStringLiteral("屈折率"),
-      QStringLiteral("[n]"),
-      QStringLiteral("固定屈折率が設定範囲を越えています。 (0.1 ≦ 設定値 ≦ 10)"),
-      10.0,
-      QStringLiteral("ｲﾝﾃﾞｯｸｽ･ﾃﾞｰﾀﾌｧｲﾙ(*.ind)|*.ind|"),
-      QStringLiteral(".ind"),
-      QStringLiteral("屈折率ﾌｧｲﾙの読み込みに失敗しました。"),
-      QStringLiteral("屈折率ﾌｧｲﾙの書き込みに失敗しました。")};
+  static const ModeTexts kReference{QStringLiteral("ﾘﾌｧﾚﾝｽ設定"),
+                                    QStringLiteral("ﾘﾌｧﾚﾝｽ設定"),
+                                    QStringLiteral("反射率"),
+                                    QStringLiteral("[%]"),
+                                    Message::kReferenceOutOfRange,
+                                    110.0,
+                                    QStringLiteral("ﾘﾌｧﾚﾝｽ･ﾃﾞｰﾀﾌｧｲﾙ(*.ref)|*.ref|"),
+                                    QStringLiteral(".ref"),
+                                    Message::kReferenceFileReadError,
+                                    Message::kReferenceFileWriteError};
+  static const ModeTexts kThickness{QStringLiteral("膜厚設定"),
+                                    QStringLiteral("ｺｰﾄ屈折率設定"),
+                                    QStringLiteral("屈折率"),
+                                    QStringLiteral("[n]"),
+                                    Message::kIndexOutOfRange,
+                                    10.0,
+                                    QStringLiteral("ｲﾝﾃﾞｯｸｽ･ﾃﾞｰﾀﾌｧｲﾙ(*.ind)|*.ind|"),
+                                    QStringLiteral(".ind"),
+                                    Message::kIndexFileReadError,
+                                    Message::kIndexFileWriteError};
   return mode == RefSetDlg::Mode::kReference ? kReference : kThickness;
 }
 
@@ -203,16 +196,18 @@ bool RefSetDlg::Apply(Edited& edited) {
   const bool thickness = mode_ == Mode::kThickness;
   if (thickness && edited.thickness.type == ThicknessType::kC &&
       edited.setting.kind == DispersionKind::kSubstrate) {
-    messages_.MsgCall(
-        QStringLiteral("’タイプＣ’と’基板屈折率を使用し計算’の組み合わせはできません。"),
-        kOk + kWarningIcon, kTitle);
+    messages_.Tell({Message::kTypeCWithSubstrate});
     return false;
   }
-  const Status status = GetBunsanArray(!thickness, edited.setting, edited.spectrum, messages_);
-  if (status != 0) {
-    messages_.MsgCall(DispersionStatusText(status), kOk + kWarningIcon, kTitle);
+  const Dispersion dispersion = GetBunsanArray(!thickness, edited.setting);
+  if (dispersion.notice) {
+    messages_.Tell(*dispersion.notice);
   }
-  return status == 0;
+  if (const std::optional<MessageCall> message = DispersionMessage(dispersion.status)) {
+    messages_.Tell(*message);
+  }
+  edited.spectrum = dispersion.spectrum;
+  return dispersion.status == 0;
 }
 
 // Only what the chosen kind uses can be wrong: the other fields cannot be reached to mend them.
@@ -222,15 +217,14 @@ bool RefSetDlg::TakeNumbers(DispersionSetting& setting) {
   if (setting.kind == DispersionKind::kFixedValue &&
       !(fixed && setting.fixedValue >= kLowestFixedValue &&
         setting.fixedValue <= texts.highestFixedValue)) {
-    messages_.MsgCall(texts.rangeMessage, kOk + kWarningIcon, kInputTitle);
+    messages_.Tell({texts.outOfRange});
     return false;
   }
   const bool schott = schott_->Take(setting.schott);
   const bool sellmeier = sellmeier_->Take(setting.sellmeier);
   if ((setting.kind == DispersionKind::kSchott && !schott) ||
       (setting.kind == DispersionKind::kSellmeier && !sellmeier)) {
-    messages_.MsgCall(QStringLiteral("係数が数値ではありません。"), kOk + kWarningIcon,
-                      kInputTitle);
+    messages_.Tell({Message::kCoefficientNotANumber});
     return false;
   }
   return true;
@@ -242,11 +236,11 @@ void RefSetDlg::LoadIndexFile() {
   if (!path || !MayKeepName(*path, messages_)) {
     return;
   }
-  ReflectanceSpectrum values;
-  if (ReadIndexFile(*path, values)) {
+  const auto values = ReadIndexFile(*path);
+  if (values) {
     indexFile_->SetPath(*path);
   } else {
-    messages_.MsgCall(texts.readFailure, kOk + kStopIcon, message_title::kError);
+    messages_.Tell({texts.readError, {}, FaultText(values.Fault())});
   }
 }
 
@@ -256,34 +250,37 @@ void RefSetDlg::LoadSubstrateFile() {
   if (!path || !MayKeepName(*path, messages_)) {
     return;
   }
-  ReflectanceSpectrum reflectance;
-  if (ReadSubstrateFile(*path, reflectance, messages_)) {
+  const auto reflectance = ReadSubstrateFile(*path);
+  if (reflectance) {
     substrateFile_->SetPath(*path);
-  } else {
-    messages_.MsgCall(QStringLiteral("屈折率ﾌｧｲﾙの読み込みに失敗しました。"), kOk + kStopIcon,
-                      message_title::kError);
+    return;
   }
+  if (const std::optional<MessageCall> notice = SubstrateNotice(reflectance.Fault())) {
+    messages_.Tell(*notice);
+  }
+  messages_.Tell({Message::kIndexFileReadError, {}, FaultText(reflectance.Fault())});
 }
 
-void RefSetDlg::Save() {
+QCoro::Task<> RefSetDlg::Save() {
   Edited edited;
   if (!Apply(edited)) {
-    return;
+    co_return;
   }
   const ModeTexts& texts = Texts(mode_);
   const std::optional<SaveChoice> choice =
       dialogs_.AskSave(texts.caption, QStringLiteral("全てのﾌｧｲﾙ(*.*)|*.*|") + texts.fileFilter);
   if (!choice) {
-    return;
+    co_return;
   }
   const QString path = WithExtension(choice->path, texts.extension);
-  if (!MayReplace(path, messages_, message_type::kOkCancel)) {
-    return;
+  const bool may = co_await MayReplace(path, messages_, Message::kReplaceFileOrCancel);
+  if (!may) {
+    co_return;
   }
   const auto content = mode_ == Mode::kReference ? IndexFileContent::kReferenceReflectance
                                                  : IndexFileContent::kIndex;
-  if (!WriteIndexFile(path, content, edited.spectrum)) {
-    messages_.MsgCall(texts.writeFailure, kOk + kStopIcon, message_title::kError);
+  if (const WriteResult written = WriteIndexFile(path, content, edited.spectrum); !written) {
+    messages_.Tell({texts.writeError, {}, written.reason});
   }
 }
 

@@ -49,7 +49,7 @@ class RefSetDlg : public QDialog {
   [[nodiscard]] bool TakeNumbers(DispersionSetting& setting);
   void LoadIndexFile();
   void LoadSubstrateFile();
-  void Save();
+  QCoro::Task<> Save();
 
   Mode mode_;
   VEXATYPE& state_;

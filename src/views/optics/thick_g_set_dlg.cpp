@@ -62,8 +62,7 @@ void ThickGSetDlg::accept() {
     QDialog::accept();
     return;
   }
-  messages_.MsgCall(QStringLiteral("ｽｹｰﾙ設定が設定範囲を越えています。(0 ≦ 設定値 ≦ 20000)"),
-                    message_type::kOk + message_type::kStopIcon, message_title::kError);
+  messages_.Tell({Message::kHistoryScaleOutOfRange});
 }
 
 void ThickGSetDlg::EnableFields() {

@@ -20,12 +20,9 @@
 
 namespace vexa {
 
-using namespace message_type;
-
 namespace {
 
 constexpr int kRepeatMs = 200;
-const QString kTitle = QStringLiteral("VEXA-KT");
 const QString kNothing = QStringLiteral("-");
 
 QLabel* Value(const char* name) {
@@ -82,13 +79,11 @@ void ThickGraph::AddPointProc(double thicknessNm, Flag physical) {
     history.physical = physical;
   }
   if (history.physical != physical) {
-    Warn(QStringLiteral("履歴の膜厚と種類（物理膜厚、光学膜厚）が異なります。\r"
-                        "全ﾃﾞｰﾀ･ｸﾘｱの後に追加して下さい。"),
-         kTitle);
+    messages_.Tell({Message::kHistoryKindDiffers});
     return;
   }
   if (!history.Append(thicknessNm)) {
-    Warn(QStringLiteral("ｸﾞﾗﾌ･ﾃﾞｰﾀ数が最大ﾃﾞｰﾀ数を越えました。　(最大ﾃﾞｰﾀ数 50 ﾎﾟｲﾝﾄ)"), kTitle);
+    messages_.Tell({Message::kHistoryFull});
     return;
   }
   cursor_ = history.count;
@@ -97,8 +92,7 @@ void ThickGraph::AddPointProc(double thicknessNm, Flag physical) {
 }
 
 void ThickGraph::BuildMenus() {
-  const auto add = [this](auto* to, const char* name, const QString& caption,
-                          void (ThickGraph::*run)()) {
+  const auto add = [this](auto* to, const char* name, const QString& caption, auto run) {
     QAction* action = to->addAction(caption);
     action->setObjectName(QLatin1String(name));
     connect(action, &QAction::triggered, this, run);
@@ -151,13 +145,12 @@ QWidget* ThickGraph::BuildInformation() {
 
 void ThickGraph::AddCurrent() {
   if (!state_.thickness.enabled) {
-    Warn(QStringLiteral("膜厚測定が設定されていません。"), message_title::kWarning);
+    messages_.Tell({Message::kHistoryThicknessDisabled});
     return;
   }
   const MeasurementSlot* slot = state_.Slot(slot_);
   if (slot == nullptr || !slot->valid || !slot->thickness.IsComputed()) {
-    messages_.MsgCall(QStringLiteral("有効ﾃﾞｰﾀがありません。"), kOk + kInformationIcon,
-                      message_title::kInformation);
+    messages_.Tell({Message::kNoValidData});
     return;
   }
   AddPointProc(slot->thickness.thicknessNm, slot->thickness.physical);
@@ -165,17 +158,18 @@ void ThickGraph::AddCurrent() {
 
 void ThickGraph::DeletePoint() {
   if (!state_.thicknessHistory.Delete(cursor_)) {
-    Warn(QStringLiteral("ﾃﾞｰﾀがありません。"), kTitle);
+    messages_.Tell({Message::kHistoryNoPoint});
     return;
   }
   RecomputeScale();
   MoveCursor(0);
 }
 
-void ThickGraph::ClearAll() {
-  if (messages_.MsgCall(QStringLiteral("測定ﾃﾞｰﾀをｸﾘｱします。"), kOkCancel + kQuestionIcon,
-                        kTitle) != MessageResult::kOk) {
-    return;
+QCoro::Task<> ThickGraph::ClearAll() {
+  const MessageCall question{Message::kHistoryClear};
+  const MessageResult answer = co_await messages_.Ask(question);
+  if (answer != MessageResult::kOk) {
+    co_return;
   }
   state_.thicknessHistory.Clear();
   RecomputeScale();
@@ -188,17 +182,19 @@ void ThickGraph::MoveCursor(int by) {
   ShowHistory();
 }
 
-void ThickGraph::Save() {
+QCoro::Task<> ThickGraph::Save() {
   const std::optional<SaveChoice> choice = dialogs_.AskSave(
       QStringLiteral("ﾌｧｲﾙの名前を付けて保存"), QStringLiteral("Data File (*.thk)|*.thk"));
   if (!choice) {
-    return;
+    co_return;
   }
   const QString path = WithExtension(choice->path, QStringLiteral(".thk"));
-  if (MayReplace(path, messages_, message_type::kOkCancel) &&
-      !WriteThicknessFile(path, state_.thicknessHistory)) {
-    messages_.MsgCall(QStringLiteral("膜厚履歴ﾌｧｲﾙの書き込みに失敗しました。"), kOk + kStopIcon,
-                      message_title::kError);
+  const bool may = co_await MayReplace(path, messages_, Message::kReplaceFileOrCancel);
+  if (!may) {
+    co_return;
+  }
+  if (const WriteResult written = WriteThicknessFile(path, state_.thicknessHistory); !written) {
+    messages_.Tell({Message::kHistoryWriteError, {}, written.reason});
   }
 }
 
@@ -227,7 +223,7 @@ void ThickGraph::RecomputeScale() {
   if (const std::optional<ThicknessScale> scale = AutoScale(state_.thicknessHistory.Points())) {
     scale_ = *scale;
   } else {
-    Warn(QStringLiteral("設定にｴﾗｰが発生しました。変更はされません。"), kTitle);
+    messages_.Tell({Message::kHistoryScaleFault});
   }
 }
 
@@ -239,10 +235,6 @@ void ThickGraph::ShowHistory() {
   thickness_->setText(
       cursor_ > 0 ? FormatNumber(history.Points()[static_cast<std::size_t>(cursor_ - 1)], u"###0.0")
                   : kNothing);
-}
-
-void ThickGraph::Warn(const QString& text, const QString& title) {
-  messages_.MsgCall(text, kOk + kWarningIcon, title);
 }
 
 }  // namespace vexa

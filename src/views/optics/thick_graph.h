@@ -34,14 +34,13 @@ class ThickGraph : public QMainWindow {
   QWidget* BuildInformation();
   void AddCurrent();
   void DeletePoint();
-  void ClearAll();
+  QCoro::Task<> ClearAll();
   void MoveCursor(int by);
-  void Save();
+  QCoro::Task<> Save();
   void Print();
   void AskScale();
   void RecomputeScale();
   void ShowHistory();
-  void Warn(const QString& text, const QString& title);
 
   VEXATYPE& state_;
   MessageService& messages_;

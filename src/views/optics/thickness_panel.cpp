@@ -9,8 +9,6 @@
 
 namespace vexa {
 
-using namespace message_type;
-
 namespace {
 
 constexpr int kWidth = 296;
@@ -86,14 +84,12 @@ void ThicknessPanel::Show(int selectedSlot) {
 
 void ThicknessPanel::ComputeThickness() {
   if (!state_.thickness.enabled) {
-    messages_.MsgCall(QStringLiteral("膜厚測定設定が有効ではありません。"), kOk + kStopIcon,
-                      message_title::kError);
+    messages_.Tell({Message::kThicknessDisabled});
     return;
   }
   MeasurementSlot* slot = state_.Slot(slot_);
   if (slot == nullptr || !slot->valid) {
-    messages_.MsgCall(QStringLiteral("有効ﾃﾞｰﾀがありません。"), kOk + kInformationIcon,
-                      message_title::kInformation);
+    messages_.Tell({Message::kNoValidData});
     return;
   }
   // A failure has had its message, and is shown as no thickness.

@@ -7,6 +7,8 @@
 #include <QPrinterInfo>
 
 #include "base/replace_file.h"
+#include "base/translation.h"
+#include "files/keep_unreadable.h"
 #include "views/common/pdf_text.h"
 #include "views/files/file_questions.h"
 
@@ -21,8 +23,8 @@ QString SettingsPath(const VEXATYPE& state) {
 
 }  // namespace
 
-bool WritePdf(const QString& path, const QString& title, const QPageLayout& layout,
-              const PageMaker& pages) {
+WriteResult WritePdf(const QString& path, const QString& title, const QPageLayout& layout,
+                     const PageMaker& pages) {
   QBuffer buffer;
   bool painted = buffer.open(QIODevice::WriteOnly);
   {
@@ -34,11 +36,13 @@ bool WritePdf(const QString& path, const QString& title, const QPageLayout& layo
   }
   QByteArray bytes = buffer.data();
   NameCharacters(bytes, QFont());
-  return painted && ReplaceFile(path, bytes);
+  return painted ? ReplaceFile(path, bytes)
+                 : WriteResult{false, Text::tr("PDFを作れませんでした。")};
 }
 
 PrintSettings SavedPrintSettings(const VEXATYPE& state) {
-  return ReadPrintFile(SettingsPath(state)).value_or(PrintSettings());
+  const ReadResult<PrintSettings> settings = ReadPrintFile(SettingsPath(state));
+  return settings ? *settings : PrintSettings();
 }
 
 CurrentPrinter::CurrentPrinter(const VEXATYPE& state, MessageService& messages,
@@ -47,44 +51,48 @@ CurrentPrinter::CurrentPrinter(const VEXATYPE& state, MessageService& messages,
 
 const PrintSettings& CurrentPrinter::Settings() {
   if (!settings_) {
-    settings_ = SavedPrintSettings(state_);
+    const QString path = SettingsPath(state_);
+    const ReadResult<PrintSettings> settings = ReadPrintFile(path);
+    settings_ = settings ? *settings : PrintSettings();
+    if (!settings && settings.Fault().kind != FileFaultKind::kMissing) {
+      messages_.Tell({Message::kSettingsReadError, {path}, FaultText(settings.Fault())});
+    }
   }
   return *settings_;
 }
 
 void CurrentPrinter::SetSettings(const PrintSettings& settings) {
   settings_ = settings;
-  if (!WritePrintFile(SettingsPath(state_), settings)) {
-    ShowWriteError(SettingsPath(state_), messages_);
+  const QString path = SettingsPath(state_);
+  const WriteResult kept =
+      KeepUnreadable(path, [&path] { return static_cast<bool>(ReadPrintFile(path)); });
+  (void)TellWritten(kept ? WritePrintFile(path, settings) : kept, path, messages_);
+}
+
+QCoro::Task<bool> CurrentPrinter::Print(QString title, PageMaker pages, int copies) {
+  if (!Settings().printerName.isEmpty()) {
+    co_return PrintOnPaper(title, pages, copies);
   }
+  const bool printed = co_await PrintToFile(title, pages);
+  co_return printed;
 }
 
-bool CurrentPrinter::Print(const QString& title, const PageMaker& pages, int copies) {
-  return Settings().printerName.isEmpty() ? PrintToFile(title, pages)
-                                          : PrintOnPaper(title, pages, copies);
-}
-
-bool CurrentPrinter::PrintToFile(const QString& title, const PageMaker& pages) {
+QCoro::Task<bool> CurrentPrinter::PrintToFile(QString title, PageMaker pages) {
   const std::optional<SaveChoice> choice =
       dialogs_.AskSave(QStringLiteral("印刷"), QStringLiteral("PDF(*.pdf)|*.pdf"));
   if (!choice) {
-    return false;
+    co_return false;
   }
   const QString path = WithExtension(choice->path, QStringLiteral(".pdf"));
-  if (!MayReplace(path, messages_)) {
-    return false;
-  }
-  if (!WritePdf(path, title, PageLayoutOf(Settings()), pages)) {
-    ShowWriteError(path, messages_);
-    return false;
-  }
-  return true;
+  const bool may = co_await MayReplace(path, messages_);
+  co_return may&& TellWritten(WritePdf(path, title, PageLayoutOf(Settings()), pages), path,
+                              messages_);
 }
 
 bool CurrentPrinter::PrintOnPaper(const QString& title, const PageMaker& pages, int copies) {
   const QString& name = Settings().printerName;
   if (QPrinterInfo::printerInfo(name).isNull()) {
-    ShowError(QStringLiteral("ﾌﾟﾘﾝﾀが見つかりません。\r\r") + name);
+    messages_.Tell({Message::kPrinterMissing, {name}});
     return false;
   }
   QPrinter printer(QPrinter::HighResolution);
@@ -93,14 +101,10 @@ bool CurrentPrinter::PrintOnPaper(const QString& title, const PageMaker& pages, 
   printer.setDocName(title);
   printer.setCopyCount(copies);
   if (!PaintPages(printer, pages) || printer.printerState() == QPrinter::Error) {
-    ShowError(QStringLiteral("印刷でｴﾗｰが発生しました。\r\r") + name);
+    messages_.Tell({Message::kPrintError, {name}});
     return false;
   }
   return true;
-}
-
-void CurrentPrinter::ShowError(const QString& text) {
-  messages_.MsgCall(text, message_type::kOk + message_type::kStopIcon, message_title::kError);
 }
 
 }  // namespace vexa

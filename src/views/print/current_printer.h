@@ -12,9 +12,9 @@
 namespace vexa {
 
 /// Writes the pages as a PDF file: the file is replaced whole or, when anything fails, left as it
-/// was. True when written.
-[[nodiscard]] bool WritePdf(const QString& path, const QString& title, const QPageLayout& layout,
-                            const PageMaker& pages);
+/// was.
+WriteResult WritePdf(const QString& path, const QString& title, const QPageLayout& layout,
+                     const PageMaker& pages);
 
 /// The print settings of the program directory, its `vexa.prt`; a PDF file on A4 without that file.
 [[nodiscard]] PrintSettings SavedPrintSettings(const VEXATYPE& state);
@@ -32,12 +32,11 @@ class CurrentPrinter {
 
   /// Prints the pages, or asks for a file name where the printer is a PDF file. False when
   /// cancelled and, shown, when the printer is missing or fails or the file cannot be written.
-  bool Print(const QString& title, const PageMaker& pages, int copies = 1);
+  QCoro::Task<bool> Print(QString title, PageMaker pages, int copies = 1);
 
  private:
-  bool PrintToFile(const QString& title, const PageMaker& pages);
+  QCoro::Task<bool> PrintToFile(QString title, PageMaker pages);
   bool PrintOnPaper(const QString& title, const PageMaker& pages, int copies);
-  void ShowError(const QString& text);
 
   const VEXATYPE& state_;
   MessageService& messages_;

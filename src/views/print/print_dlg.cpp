@@ -19,8 +19,6 @@
 
 namespace vexa {
 
-using namespace message_type;
-
 namespace {
 
 constexpr int kLongestText = 100;
@@ -175,8 +173,15 @@ void PrintDlg::ShowPrinter() {
 }
 
 void PrintDlg::accept() {
+  Print();
+}
+
+QCoro::Task<> PrintDlg::Print() {
   const ReportRequest entries = Entries();
-  if (printer_.Print(ReportTitle(entries), MakeReport(state_, entries), copies_->value())) {
+  const QString title = ReportTitle(entries);
+  const PageMaker pages = MakeReport(state_, entries);
+  const bool printed = co_await printer_.Print(title, pages, copies_->value());
+  if (printed) {
     request_ = entries;
     QDialog::accept();
   }
@@ -185,8 +190,7 @@ void PrintDlg::accept() {
 void PrintSlots(const VEXATYPE& state, int selectedSlot, ReportRequest& request,
                 CurrentPrinter& printer, MessageService& messages, QWidget* parent) {
   if (!state.HasValidSlot()) {
-    messages.MsgCall(QStringLiteral("有効ﾃﾞｰﾀがありません。"), kOk + kInformationIcon,
-                     message_title::kInformation);
+    messages.Tell({Message::kNoValidData});
     return;
   }
   PrintDlg(state, selectedSlot, request, printer, messages, parent).exec();

@@ -36,6 +36,7 @@ class PrintDlg : public QDialog {
   QWidget* BuildPrinter();
   [[nodiscard]] ReportRequest Entries() const;
   void ShowPrinter();
+  QCoro::Task<> Print();
 
   const VEXATYPE& state_;
   int selectedSlot_;

@@ -4,19 +4,17 @@
 #include <QRectF>
 #include <algorithm>
 
+#include "base/file_kind.h"
 #include "base/header_version.h"
 #include "base/text_file.h"
 
 namespace vexa {
 namespace {
 
-const QString kHeader = QStringLiteral("VEXA-KT 440-840 Ver 3.21 Print File");
-const QString kKind = QStringLiteral("PRINT");
-
 double ReadMargin(TextReader& reader) {
   const double margin = reader.RealField();
   if (!(margin >= 0.0 && margin <= kLargestMarginMm)) {
-    throw ReadFault("margin");
+    throw reader.Fault(FileFaultKind::kRange);
   }
   return margin;
 }
@@ -44,11 +42,11 @@ QString PrintSettingsText(const PrintSettings& settings) {
            settings.landscape ? QStringLiteral("横") : QStringLiteral("縦"));
 }
 
-std::optional<PrintSettings> ReadPrintFile(const QString& path) {
-  try {
+ReadResult<PrintSettings> ReadPrintFile(const QString& path) {
+  return TryRead([&path] {
     TextReader reader = TextReader::Open(path);
-    if (ReadHeaderVersion(reader.Line(), kKind) <= 0.0) {
-      return std::nullopt;
+    if (ReadHeaderVersion(reader.Line(), file_kind::kPrint.word) <= 0.0) {
+      throw reader.Fault(FileFaultKind::kVersion);
     }
     PrintSettings settings;
     settings.printerName = reader.Line();
@@ -56,7 +54,7 @@ std::optional<PrintSettings> ReadPrintFile(const QString& path) {
     const auto* const known =
         std::ranges::find(kPapers, paper, [](auto id) { return QPageSize::key(id); });
     if (known == kPapers.end()) {
-      return std::nullopt;
+      throw reader.Fault(FileFaultKind::kValue);
     }
     settings.paper = *known;
     settings.landscape = reader.FlagLine();
@@ -64,16 +62,17 @@ std::optional<PrintSettings> ReadPrintFile(const QString& path) {
     const double top = ReadMargin(reader);
     const double right = ReadMargin(reader);
     settings.marginsMm = {left, top, right, ReadMargin(reader)};
-    return LeavesRoom(settings) ? std::optional(settings) : std::nullopt;
-  } catch (const ReadFault&) {
-    return std::nullopt;
-  }
+    if (!LeavesRoom(settings)) {
+      throw reader.Fault(FileFaultKind::kRange);
+    }
+    return settings;
+  });
 }
 
-bool WritePrintFile(const QString& path, const PrintSettings& settings) {
+WriteResult WritePrintFile(const QString& path, const PrintSettings& settings) {
   const QMarginsF& margins = settings.marginsMm;
   return FileText()
-      .Line(kHeader)
+      .Line(file_kind::kPrint.header.toString())
       .Line(settings.printerName)
       .Line(QPageSize::key(settings.paper))
       .Flag(settings.landscape)

@@ -5,7 +5,9 @@
 #include <QPageLayout>
 #include <QString>
 #include <array>
-#include <optional>
+
+#include "base/file_fault.h"
+#include "base/replace_file.h"
 
 namespace vexa {
 
@@ -38,10 +40,10 @@ struct PrintSettings {
 /// Printer, paper and orientation in one line.
 [[nodiscard]] QString PrintSettingsText(const PrintSettings& settings);
 
-/// Reads a print settings file; nothing when it is none or holds values out of range.
-[[nodiscard]] std::optional<PrintSettings> ReadPrintFile(const QString& path);
+/// Reads a print settings file.
+ReadResult<PrintSettings> ReadPrintFile(const QString& path);
 
-/// Replaces the file whole or, when anything fails, leaves it as it was; true when written.
-[[nodiscard]] bool WritePrintFile(const QString& path, const PrintSettings& settings);
+/// Writes one; see ReplaceFile.
+WriteResult WritePrintFile(const QString& path, const PrintSettings& settings);
 
 }  // namespace vexa

@@ -13,8 +13,6 @@
 
 namespace vexa {
 
-using namespace message_type;
-
 PrintSetupDlg::PrintSetupDlg(CurrentPrinter& printer, MessageService& messages, QWidget* parent)
     : QDialog(parent),
       printer_(printer),
@@ -108,8 +106,7 @@ void PrintSetupDlg::accept() {
   for (std::size_t i = 0; i < margins.size(); ++i) {
     const std::optional<double> margin = margins_[i]->Value();
     if (!margin || *margin < 0.0 || *margin > kLargestMarginMm) {
-      messages_.MsgCall(QStringLiteral("余白が設定範囲を越えています。 (0 ≦ 設定値 ≦ 50)"),
-                        kOk + kStopIcon, message_title::kError);
+      messages_.Tell({Message::kMarginOutOfRange});
       return;
     }
     margins[i] = *margin;
@@ -119,8 +116,7 @@ void PrintSetupDlg::accept() {
   settings.landscape = landscape_->isChecked();
   settings.marginsMm = {margins[0], margins[1], margins[2], margins[3]};
   if (!LeavesRoom(settings)) {
-    messages_.MsgCall(QStringLiteral("余白が大きすぎます。 (印刷範囲は縦横とも100mm以上)"),
-                      kOk + kStopIcon, message_title::kError);
+    messages_.Tell({Message::kMarginsTooLarge});
     return;
   }
   printer_.SetSettings(settings);

@@ -10,8 +10,6 @@
 
 namespace vexa {
 
-using namespace message_type;
-
 CalibrationDlg::CalibrationDlg(VEXATYPE& state, MessageService& messages, QWidget* parent)
     : QDialog(parent),
       state_(state),
@@ -35,20 +33,14 @@ CalibrationDlg::CalibrationDlg(VEXATYPE& state, MessageService& messages, QWidge
 void CalibrationDlg::accept() {
   const std::optional<int> shift = shift_->Field().Value();
   if (!shift || *shift < 0 || *shift > kLargestCalibrationShiftNm) {
-    messages_.MsgCall(
-        QStringLiteral("ｷｬﾘﾌﾞﾚｰｼｮﾝのｼﾌﾄ値が設定範囲を越えています。 (0 ≦ 設定値 ≦ 7)"),
-        kOk + kStopIcon, message_title::kError);
+    messages_.Tell({Message::kShiftOutOfRange});
     return;
   }
   const QString path = CompletePath(state_, QStringLiteral("vexa.cal"));
-  messages_.MsgCall(QStringLiteral("この設定は、再起動を含め次の測定から有効になります。"
-                                   "\r\rｷｬﾘﾌﾞﾚｰｼｮﾝ･ﾌｧｲﾙ名:") +
-                        path,
-                    kOk + kInformationIcon, message_title::kInformation);
+  messages_.Tell({Message::kShiftChanged, {path}});
   state_.instrument.calibrationShiftNm = static_cast<std::int16_t>(*shift);
-  if (!WriteCalibrationFile(path, state_.instrument.calibrationShiftNm)) {
-    ShowWriteError(path, messages_);
-  }
+  (void)TellWritten(WriteCalibrationFile(path, state_.instrument.calibrationShiftNm), path,
+                    messages_);
   QDialog::accept();
 }
 

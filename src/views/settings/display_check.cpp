@@ -18,32 +18,30 @@ bool Within(const Entry& entry, double minimum, double maximum) {
   return entry && *entry >= minimum && *entry <= maximum;
 }
 
-QString OutOfBounds(const QString& text, double lower, double upper) {
-  return text + QStringLiteral(" (") + FormatNumber(lower, u"##0.###") +
-         QStringLiteral("<= 設定値 <=") + FormatNumber(upper, u"##0.###") + QStringLiteral(")");
+MessageCall OutOfBounds(Message id, double lower, double upper) {
+  return {id, {FormatNumber(lower, u"##0.###"), FormatNumber(upper, u"##0.###")}};
 }
 
-std::optional<QString> CheckWavelengths(const DisplayEntries& entries) {
+std::optional<MessageCall> CheckWavelengths(const DisplayEntries& entries) {
   if (!Within(entries.shortestNm, kFirstNm, kLastNm)) {
-    return OutOfBounds(QStringLiteral("波長表示の最短波長値が設定範囲外です。"), kFirstNm, kLastNm);
+    return OutOfBounds(Message::kShortestOutOfRange, kFirstNm, kLastNm);
   }
   if (!Within(entries.longestNm, *entries.shortestNm, kLastNm)) {
-    return OutOfBounds(QStringLiteral("波長表示の最長波長値が設定範囲外です。"),
-                       *entries.shortestNm, kLastNm);
+    return OutOfBounds(Message::kLongestOutOfRange, *entries.shortestNm, kLastNm);
   }
   if (*entries.longestNm - *entries.shortestNm < 20.0) {
-    return QStringLiteral("波長表示の幅が範囲を越えています。 (20 ≦ 設定値 ≦ 401)");
+    return MessageCall{Message::kWidthOutOfRange};
   }
   return std::nullopt;
 }
 
-std::optional<QString> CheckReflectance(const DisplayEntries& entries) {
+std::optional<MessageCall> CheckReflectance(const DisplayEntries& entries) {
   if (!Within(entries.minimumPercent, 0.0, 100.0)) {
-    return QStringLiteral("反射率の最小値の設定範囲を越えています。 (0 ≦ 設定値 ≦ 100)");
+    return MessageCall{Message::kMinimumOutOfRange};
   }
   if (!Within(entries.maximumPercent, kSmallestMaximum, 100.0) ||
       *entries.maximumPercent <= *entries.minimumPercent) {
-    return QStringLiteral("反射率の最大値の設定範囲を越えています。 (0.01 ≦ 設定値 ≦ 100)");
+    return MessageCall{Message::kMaximumOutOfRange};
   }
   return std::nullopt;
 }
@@ -57,31 +55,29 @@ bool TicksFit(const DisplayEntries& entries) {
          (*entries.maximumPercent - *entries.minimumPercent) / *entries.tickPercent <= kMostTicks;
 }
 
-std::optional<QString> CheckAverage(const DisplayEntries& entries) {
+std::optional<MessageCall> CheckAverage(const DisplayEntries& entries) {
   if (!Within(entries.averageShortestNm, kFirstNm, kLastNm)) {
-    return OutOfBounds(QStringLiteral("平均反射率の最短波長値が設定範囲外です。"), kFirstNm,
-                       kLastNm);
+    return OutOfBounds(Message::kAverageShortestOutOfRange, kFirstNm, kLastNm);
   }
   if (!Within(entries.averageLongestNm, kFirstNm, kLastNm)) {
-    return OutOfBounds(QStringLiteral("平均反射率の最長波長値が設定範囲外です。"), kFirstNm,
-                       kLastNm);
+    return OutOfBounds(Message::kAverageLongestOutOfRange, kFirstNm, kLastNm);
   }
   if (*entries.averageLongestNm < *entries.averageShortestNm) {
-    return QStringLiteral("平均反射率の幅が範囲を越えています。 (1 ≦ 設定値 ≦ 401)");
+    return MessageCall{Message::kAverageWidthOutOfRange};
   }
   return std::nullopt;
 }
 
 }  // namespace
 
-std::optional<QString> CheckDisplayEntries(const DisplayEntries& entries) {
+std::optional<MessageCall> CheckDisplayEntries(const DisplayEntries& entries) {
   if (!entries.fullScale) {
     if (auto fault = CheckWavelengths(entries)) {
       return fault;
     }
   }
   if (!Within(entries.wavelengthTickNm, 5.0, 1000.0)) {
-    return QStringLiteral("波長の目盛り間隔が設定範囲を越えています。 (5 ≦ 設定値 ≦ 1000)");
+    return MessageCall{Message::kWavelengthTickOutOfRange};
   }
   if (!entries.autoScale) {
     if (auto fault = CheckReflectance(entries)) {
@@ -89,13 +85,13 @@ std::optional<QString> CheckDisplayEntries(const DisplayEntries& entries) {
     }
   }
   if (!entries.autoTicks && !TicksFit(entries)) {
-    return QStringLiteral("反射率の目盛り間隔が設定範囲を越えています。 (最大目盛り本数 100)");
+    return MessageCall{Message::kTickOutOfRange};
   }
   if (!entries.textStepNm) {
-    return QStringLiteral("ﾃｷｽﾄ表示ｽﾃｯﾌﾟが設定範囲を越えています。 (1≦ 設定値 ≦ 100)");
+    return MessageCall{Message::kTextStepNotANumber};
   }
   if (!Within(entries.textStepNm, 1.0, 100.0)) {
-    return QStringLiteral("ﾃｷｽﾄ表示の表示ｽﾃｯﾌﾟが設定範囲を越えています。 (1 ≦ 設定値 ≦ 100)");
+    return MessageCall{Message::kTextStepOutOfRange};
   }
   return CheckAverage(entries);
 }

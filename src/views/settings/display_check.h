@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include <QString>
 #include <optional>
 
 #include "base/flag.h"
+#include "base/message.h"
 
 namespace vexa {
 
@@ -30,6 +30,6 @@ struct DisplayEntries {
 /// within 440..840 nm, at least 20 nm apart for the axis; ticks every 5..1000 nm; reflectance
 /// within 0..100 % with the maximum above the minimum and at most 100 ticks; text steps of 1..100
 /// nm.
-[[nodiscard]] std::optional<QString> CheckDisplayEntries(const DisplayEntries& entries);
+[[nodiscard]] std::optional<MessageCall> CheckDisplayEntries(const DisplayEntries& entries);
 
 }  // namespace vexa

@@ -3,6 +3,7 @@
 
 #include <QGroupBox>
 #include <QLabel>
+#include <QPointer>
 #include <QRadioButton>
 #include <QVBoxLayout>
 #include <cmath>
@@ -13,8 +14,6 @@
 #include "views/optics/option_frame.h"
 
 namespace vexa {
-
-using namespace message_type;
 
 namespace {
 
@@ -63,17 +62,26 @@ dispset::dispset(VEXATYPE& state, MessageService& messages, QWidget* parent)
 }
 
 void dispset::accept() {
+  Finish();
+}
+
+QCoro::Task<> dispset::Finish() {
   const DisplayEntries entries = Entries();
-  if (const std::optional<QString> fault = CheckDisplayEntries(entries)) {
-    messages_.MsgCall(*fault, kOk + kWarningIcon, QStringLiteral("設定入力"));
-    return;
+  if (const std::optional<MessageCall> fault = CheckDisplayEntries(entries)) {
+    messages_.Tell(*fault);
+    co_return;
   }
   const StockConditions conditions = Conditions();
-  if (conditions != state_.ColourConditions() && state_.stock.Count > 0 &&
-      messages_.MsgCall(QStringLiteral("現在累積されている色度図データと表示条件が異なります。現累"
-                                       "積データをクリアしますか？"),
-                        kYesNo + kQuestionIcon, message_title::kMessage) == MessageResult::kYes) {
-    state_.stock.RemoveAll();
+  if (conditions != state_.ColourConditions() && state_.stock.Count > 0) {
+    const QPointer<dispset> alive(this);
+    const MessageCall question{Message::kClearStockForDisplay};
+    const MessageResult answer = co_await messages_.Ask(question);
+    if (alive == nullptr) {
+      co_return;
+    }
+    if (answer == MessageResult::kYes) {
+      state_.stock.RemoveAll();
+    }
   }
   Store(entries, conditions);
   EvaluateAgain(state_);
@@ -85,10 +93,8 @@ NumberField* dispset::AddNumber(QGridLayout& grid, const char* name, const QStri
   auto* field = new NumberField(QStringLiteral(" ##0.0###"));
   field->setObjectName(QLatin1String(name));
   field->SetValue(value);
-  connect(field, &QLineEdit::inputRejected, this, [this] {
-    messages_.MsgCall(QStringLiteral("ﾃﾞｰﾀが入力できません。再入力して下さい。"), kOk + kStopIcon,
-                      message_title::kError);
-  });
+  connect(field, &QLineEdit::inputRejected, this,
+          [this] { messages_.Tell({Message::kEntryRefused}); });
   const int row = grid.rowCount();
   grid.addWidget(new QLabel(caption), row, 0);
   grid.addWidget(field, row, 1);

@@ -36,6 +36,7 @@ class dispset : public QDialog {
   void BuildColours(QBoxLayout& column);
   void BuildMarks(QBoxLayout& column);
   void BuildAverage(QBoxLayout& column);
+  QCoro::Task<> Finish();
   [[nodiscard]] DisplayEntries Entries() const;
   [[nodiscard]] StockConditions Conditions() const;
   void Store(const DisplayEntries& entries, const StockConditions& conditions);

@@ -10,8 +10,6 @@
 
 namespace vexa {
 
-using namespace message_type;
-
 namespace {
 
 constexpr int kShortestTimeMs = 30;
@@ -52,15 +50,11 @@ void SamplingDlg::accept() {
   const std::optional<int> timeMs = time_->Value();
   const std::optional<int> averaging = averaging_->Field().Value();
   if (!timeMs || !averaging || *timeMs < kShortestTimeMs || *timeMs > kLongestTimeMs) {
-    messages_.MsgCall(
-        QStringLiteral("ｻﾝﾌﾟﾘﾝｸﾞ時間が設定範囲を越えています。 (30 ≦ 設定値 ≦ 10000)"),
-        kOk + kStopIcon, message_title::kError);
+    messages_.Tell({Message::kSamplingTimeOutOfRange});
     return;
   }
   if (*averaging < 1 || *averaging > kMostLines) {
-    messages_.MsgCall(
-        QStringLiteral("取り込み平均回数が設定範囲を越えています。 (1 ≦ 設定値 ≦ 16)"),
-        kOk + kStopIcon, message_title::kError);
+    messages_.Tell({Message::kAveragingOutOfRange});
     return;
   }
   state_.instrument.samplingTimeMs = static_cast<std::int16_t>(*timeMs);

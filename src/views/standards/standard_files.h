@@ -6,19 +6,12 @@
 
 #include "base/message.h"
 #include "measurement/vexatype.h"
+#include "standards/standard_file.h"
 #include "views/common/file_dialogs.h"
 
 namespace vexa {
 
-/// What a standard file holds.
-struct StandardContents {
-  StandardSet standard;
-  ReferenceMarker chromaMarker;
-  ReferenceMarker hueMarker;
-
-  bool operator==(const StandardContents&) const = default;
-};
-
+/// What a standard file of the state would hold.
 [[nodiscard]] StandardContents ContentsOf(const VEXATYPE& state);
 
 /// A standard file and its full path.
@@ -34,14 +27,14 @@ struct StandardFile {
 
 /// Asks for a name under the filter and writes the standards. The path; nothing when cancelled,
 /// and, shown, when it cannot be written.
-[[nodiscard]] std::optional<QString> SaveStandardFile(const StandardContents& contents,
-                                                      const QString& filter,
-                                                      MessageService& messages,
-                                                      FileDialogs& dialogs);
+[[nodiscard]] QCoro::Task<std::optional<QString>> SaveStandardFile(StandardContents contents,
+                                                                   QString filter,
+                                                                   MessageService& messages,
+                                                                   FileDialogs& dialogs);
 
 /// The question at the end of the program when the standards were changed and their file has a
 /// name. False when they were to be saved and are not: the program is to go on then.
-[[nodiscard]] bool SaveStandardsBeforeExit(VEXATYPE& state, MessageService& messages,
-                                           FileDialogs& dialogs);
+[[nodiscard]] QCoro::Task<bool> SaveStandardsBeforeExit(VEXATYPE& state, MessageService& messages,
+                                                        FileDialogs& dialogs);
 
 }  // namespace vexa

@@ -186,20 +186,16 @@ std::optional<StandardContents> StandardFrm::Entered() {
   StandardContents contents;
   QString where;
   if (QLineEdit* field = TakeInto(contents, where); field != nullptr) {
-    Warn(where + QStringLiteral("数値入力エラー"));
+    messages_.Tell({Message::kStandardNotANumber, {where}});
     field->setFocus();
     field->selectAll();
     return std::nullopt;
   }
-  if (const std::optional<QString> fault = CheckStandardSet(contents.standard)) {
-    Warn(*fault);
+  if (const std::optional<MessageCall> fault = CheckStandardSet(contents.standard)) {
+    messages_.Tell(*fault);
     return std::nullopt;
   }
   return contents;
-}
-
-void StandardFrm::Warn(const QString& text) {
-  messages_.MsgCall(text, message_type::kOk + message_type::kWarningIcon, message_title::kError);
 }
 
 void StandardFrm::Load() {
@@ -211,15 +207,16 @@ void StandardFrm::Load() {
   }
 }
 
-void StandardFrm::Save() {
+QCoro::Task<> StandardFrm::Save() {
   const std::optional<StandardContents> contents = Entered();
   if (!contents) {
-    return;
+    co_return;
   }
-  const std::optional<QString> path = SaveStandardFile(
-      *contents, QStringLiteral("Standard Files (*.std)|*.std"), messages_, dialogs_);
+  const QString filter = QStringLiteral("Standard Files (*.std)|*.std");
+  const std::optional<QString> path =
+      co_await SaveStandardFile(*contents, filter, messages_, dialogs_);
   if (!path) {
-    return;
+    co_return;
   }
   fileName_ = *path;
   inFile_ = contents;

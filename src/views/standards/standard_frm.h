@@ -34,9 +34,8 @@ class StandardFrm : public QDialog {
   /// What was entered; nothing, and a message, when it is no standard.
   std::optional<StandardContents> Entered();
   QLineEdit* TakeInto(StandardContents& contents, QString& where) const;
-  void Warn(const QString& text);
   void Load();
-  void Save();
+  QCoro::Task<> Save();
 
   VEXATYPE& state_;
   MessageService& messages_;
