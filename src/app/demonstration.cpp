@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "app/demonstration.h"
 
+#include <QCoroSignal>
 #include <QApplication>
 #include <QDir>
 #include <QFile>
@@ -107,13 +108,16 @@ bool Demonstration::PlaceLibrary() {
   return QFileInfo::exists(library) && QFile::link(library, place);
 }
 
-int Demonstration::Drive(VEXA& window) {
+QCoro::Task<int> Demonstration::Drive(VEXA& window) {
   QStringList buttons{QStringLiteral("Background"), QStringLiteral("Reference")};
   for (int slot = 1; slot <= kSamples; ++slot) {
     buttons << QStringLiteral("Mes%1").arg(slot);
   }
   for (const QString& name : buttons) {
     window.findChild<QPushButton*>(name)->click();
+    while (!window.Desk().IsIdle()) {
+      co_await qCoro(&window.Desk(), &InstrumentDesk::ActivityChanged);
+    }
   }
   window.findChild<QPushButton*>(QStringLiteral("ThicknessButton"))->click();
   window.Commands().saveFileAs->trigger();
@@ -127,7 +131,7 @@ int Demonstration::Drive(VEXA& window) {
     Complain(QStringLiteral("%1: cannot be written").arg(picture));
   }
   const bool saved = window.State().currentDataFileName == dialogs_.dataFile;
-  return drawn && saved && messages_.faults == 0 ? 0 : 1;
+  co_return drawn && saved && messages_.faults == 0 ? 0 : 1;
 }
 
 std::optional<QString> Demonstration::Names::AskOpen(const QString& /*title*/,

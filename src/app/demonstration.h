@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include <QCoroTask>
 #include <QProcess>
 #include <QString>
 #include <optional>
@@ -26,7 +27,7 @@ class Demonstration {
   [[nodiscard]] bool StartInstrument();
 
   /// Presses the buttons of a loaded window; the exit status of the program.
-  [[nodiscard]] int Drive(VEXA& window);
+  [[nodiscard]] QCoro::Task<int> Drive(VEXA& window);
 
   [[nodiscard]] MessageService& Messages() { return messages_; }
   [[nodiscard]] FileDialogs& Dialogs() { return dialogs_; }

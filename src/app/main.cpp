@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include <QApplication>
+#include <QCoroTask>
 #include <QCommandLineParser>
 #include <QDir>
 #include <QLibraryInfo>
@@ -13,6 +14,7 @@
 #include "app/report_command.h"
 #include "app/unattended_messages.h"
 #include "app/vexa.h"
+#include "base/end_signals.h"
 #include "measurement/controller_start.h"
 #include "views/common/theme.h"
 #include "views/common/window_messages.h"
@@ -20,9 +22,8 @@
 namespace {
 
 vexa::Services MakeServices(vexa::MessageService& messages, vexa::FileDialogs& dialogs) {
-  return {messages, dialogs, QDateTime::currentDateTime, [&messages](const vexa::VEXATYPE& state) {
-            return vexa::MakeController(state, messages);
-          }};
+  return {messages, dialogs, QDateTime::currentDateTime,
+          [](const vexa::VEXATYPE& state) { return vexa::MakeController(state); }};
 }
 
 int RunDemonstration(const QString& directory, bool gpib, const QString& pictures) {
@@ -35,12 +36,19 @@ int RunDemonstration(const QString& directory, bool gpib, const QString& picture
   // Whatever the screen, or none: all of it in the picture.
   window.resize(1280, 900);
   window.show();
-  window.Load();
-  int status = demonstration.Drive(window);
-  if (!pictures.isEmpty() && vexa::Gallery(pictures).Take(window) != 0) {
-    status = 1;
-  }
-  window.close();
+  int status = 1;
+  const auto drive = [](vexa::Demonstration& run, vexa::VEXA& driven, const QString pictureDirectory,
+                        int& outcome) -> QCoro::Task<> {
+    co_await driven.Load();
+    outcome = co_await run.Drive(driven);
+    if (!pictureDirectory.isEmpty() && vexa::Gallery(pictureDirectory).Take(driven) != 0) {
+      outcome = 1;
+    }
+    driven.close();
+    QApplication::quit();
+  };
+  QTimer::singleShot(0, &window, [&] { drive(demonstration, window, pictures, status); });
+  QApplication::exec();
   return status;
 }
 
@@ -51,10 +59,12 @@ int RunWindow() {
   messages.SetWindow(&window);
   dialogs.SetWindow(&window);
   window.show();
-  QTimer::singleShot(0, &window, [&window] {
-    window.Load();
-    window.OfferSession();
-  });
+  const vexa::EndSignals endSignals([&window] { window.EndAtOnce(); });
+  const auto start = [](vexa::VEXA& started) -> QCoro::Task<> {
+    co_await started.Load();
+    co_await started.OfferSession();
+  };
+  QTimer::singleShot(0, &window, [&] { start(window); });
   return QApplication::exec();
 }
 

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "app/main_menu.h"
 
+#include "base/translation.h"
+
 namespace vexa {
 namespace {
 
@@ -64,6 +66,8 @@ MenuCommands BuildMenu(QMenuBar& bar) {
   commands.referenceSettings = Add(system, QStringLiteral("ﾘﾌｧﾚﾝｽ設定(&R)"));
   commands.samplingSettings = Add(system, QStringLiteral("ｻﾝﾌﾟﾘﾝｸﾞ設定(&S)"));
   commands.calibration = Add(system, QStringLiteral("ｷｬﾘﾌﾞﾚｰｼｮﾝ(&C)"));
+  system->addSeparator();
+  commands.reconnect = Add(system, Text::tr("再接続(&N)"));
 
   QMenu* help = bar.addMenu(QStringLiteral("ﾍﾙﾌﾟ(&H)"));
   commands.version = Add(help, QStringLiteral("ﾊﾞｰｼﾞｮﾝ(&A)"));

@@ -28,6 +28,7 @@ struct MenuCommands {
   QAction* referenceSettings;
   QAction* samplingSettings;
   QAction* calibration;
+  QAction* reconnect;  ///< tries the controller again
   QAction* version;
 };
 

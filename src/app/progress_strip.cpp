@@ -5,6 +5,7 @@
 #include <algorithm>
 
 #include "base/number_text.h"
+#include "base/translation.h"
 #include "views/common/theme.h"
 
 namespace vexa {
@@ -41,7 +42,7 @@ QString Seconds(qint64 ms) {
 }  // namespace
 
 ProgressStrip::ProgressStrip(QWidget* parent)
-    : QWidget(parent), text_(new QLabel), bar_(new QProgressBar) {
+    : QWidget(parent), text_(new QLabel), bar_(new QProgressBar), cancel_(new QPushButton(Text::tr("中止"))) {
   setFixedHeight(kHeight);
   text_->setObjectName(QStringLiteral("ProgressText"));
   bar_->setTextVisible(false);
@@ -55,6 +56,13 @@ ProgressStrip::ProgressStrip(QWidget* parent)
   layout->setSpacing(12);
   layout->addWidget(text_, 1);
   layout->addWidget(bar_);
+  layout->addWidget(cancel_);
+  cancel_->setObjectName(QStringLiteral("Cancel"));
+  cancel_->setToolTip(Text::tr("待っている操作を中止します (Esc)"));
+  cancel_->setShortcut(Qt::Key_Escape);
+  cancel_->setFocusPolicy(Qt::NoFocus);
+  cancel_->hide();
+  connect(cancel_, &QPushButton::clicked, this, &ProgressStrip::CancelRequested);
   ticks_.setInterval(kTickMs);
   connect(&ticks_, &QTimer::timeout, this, &ProgressStrip::Refresh);
   EndWait();
@@ -78,11 +86,12 @@ void ProgressStrip::EndWait() {
   text_->setText(idleText_);
 }
 
-void ProgressStrip::SetIdleText(const QString& text) {
-  idleText_ = text;
+void ProgressStrip::ShowLink(bool connected, bool busy) {
+  idleText_ = connected ? QString() : Text::tr("ｺﾝﾄﾛｰﾗ未接続");
   if (!ticks_.isActive()) {
-    text_->setText(text);
+    text_->setText(idleText_);
   }
+  cancel_->setVisible(busy);
 }
 
 void ProgressStrip::Refresh() {

@@ -4,6 +4,7 @@
 #include <QElapsedTimer>
 #include <QLabel>
 #include <QProgressBar>
+#include <QPushButton>
 #include <QTimer>
 #include <QWidget>
 
@@ -22,14 +23,19 @@ class ProgressStrip : public QWidget {
   void BeginWait(AwaitedStep step, int expectedMs, int limitMs);
   void EndWait();
 
-  /// The text while nothing is awaited.
-  void SetIdleText(const QString& text);
+  /// `connected`: the controller is there, or may be yet; otherwise the strip says that it is not.
+  /// `busy`: something runs that can be cancelled.
+  void ShowLink(bool connected, bool busy);
+
+ signals:
+  void CancelRequested();
 
  private:
   void Refresh();
 
   QLabel* text_;
   QProgressBar* bar_;
+  QPushButton* cancel_;
   QTimer ticks_;
   QElapsedTimer elapsed_;
   AwaitedStep step_{};

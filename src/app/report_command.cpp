@@ -7,7 +7,7 @@
 #include "files/configuration.h"
 #include "files/data_file.h"
 #include "measurement/dispersion_data.h"
-#include "measurement/evaluation.h"
+#include "measurement/session.h"
 #include "views/common/quiet_messages.h"
 #include "views/paper/current_printer.h"
 #include "views/print/page_header.h"
@@ -16,11 +16,11 @@
 namespace vexa {
 namespace {
 
-void ComputeThicknesses(VEXATYPE& state, MessageService& messages) {
-  for (MeasurementSlot& slot : state.measurementSlots) {
-    if (slot.valid && state.thickness.enabled) {
+void ComputeThicknesses(Session& session) {
+  for (int number = 1; number <= kSlotCount; ++number) {
+    if (session.State().Slot(number)->valid && session.State().thickness.enabled) {
       // The report shows no thickness where there is none.
-      (void)ComputeSlotThickness(state, slot, messages);
+      (void)session.ComputeThickness(number);
     }
   }
 }
@@ -35,13 +35,16 @@ int RunReport(const ReportCommand& command, const QString& programDirectory) {
     return 1;
   }
   UnattendedMessages messages;
-  VEXATYPE state;
-  state.programDirectory = programDirectory;
-  TellAll(LoadConfiguration(state), messages);
-  TellAll(LoadDispersionData(state).notices, messages);
+  Session session(programDirectory);
+  Settings settings = session.State();
+  TellAll(LoadConfiguration(settings), messages);
+  TellAll(LoadDispersionData(settings).notices, messages);
+  session.TakeSettings(settings);
+  const VEXATYPE& state = session.State();
   const ReadResult<DataFileContent> content = ReadDataFile(command.dataFile);
   if (content) {
-    StoreDataFile(*content, state, messages);
+    (void)session.LoadSlots(SlotsWith(*content, {}),
+                            QFileInfo(command.dataFile).absoluteFilePath(), content->comment);
   } else {
     messages.Tell(DataFileMessage(content.Fault()));
   }
@@ -49,9 +52,7 @@ int RunReport(const ReportCommand& command, const QString& programDirectory) {
     Complain(QStringLiteral("%1: no readable data file").arg(command.dataFile));
     return 1;
   }
-  state.currentDataFileName = QFileInfo(command.dataFile).absoluteFilePath();
-  QuietMessages quiet(messages);
-  ComputeThicknesses(state, quiet);
+  ComputeThicknesses(session);
 
   ReportRequest request = UsualReport(state, QDate::currentDate());
   request.title = command.title;

@@ -2,21 +2,19 @@
 #include "app/session_journal.h"
 
 #include "base/date_text.h"
-#include "measurement/evaluation.h"
+#include "base/translation.h"
 
 namespace vexa {
-
-using namespace message_type;
 
 namespace {
 
 QString ContentText(const VEXATYPE& session) {
   QStringList lines;
   if (session.backgroundMeasured) {
-    lines << QStringLiteral("ﾊﾞｯｸｸﾞﾗﾝﾄﾞ: ") + DateTimeText(session.backgroundTaken.takenAt);
+    lines << Text::tr("ﾊﾞｯｸｸﾞﾗﾝﾄﾞ: ") + DateTimeText(session.backgroundTaken.takenAt);
   }
   if (session.referenceMeasured) {
-    lines << QStringLiteral("ﾘﾌｧﾚﾝｽ: ") + DateTimeText(session.referenceTaken.takenAt);
+    lines << Text::tr("ﾘﾌｧﾚﾝｽ: ") + DateTimeText(session.referenceTaken.takenAt);
   }
   QStringList numbers;
   for (int number = 1; number <= kSlotCount; ++number) {
@@ -25,50 +23,52 @@ QString ContentText(const VEXATYPE& session) {
     }
   }
   if (!numbers.isEmpty()) {
-    lines << QStringLiteral("ｽﾛｯﾄ: ") + numbers.join(QStringLiteral(", "));
+    lines << Text::tr("ｽﾛｯﾄ: ") + numbers.join(QStringLiteral(", "));
   }
   if (session.stock.Count > 0) {
-    lines << QStringLiteral("累積数: %1").arg(session.stock.Count);
+    lines << Text::tr("累積数: %1").arg(session.stock.Count);
   }
   if (session.thicknessHistory.count > 0) {
-    lines << QStringLiteral("膜厚ｸﾞﾗﾌ: %1").arg(session.thicknessHistory.count);
+    lines << Text::tr("膜厚ｸﾞﾗﾌ: %1").arg(session.thicknessHistory.count);
   }
   return lines.join(u'\r');
 }
 
-QString Question(const VEXATYPE& session, bool damaged) {
-  QString text =
-      QStringLiteral("前回のﾌﾟﾛｸﾞﾗﾑは正常に終了していません。測定ﾃﾞｰﾀを復元しますか。\r\r") +
-      ContentText(session);
-  if (damaged) {
-    text += QStringLiteral("\r\r壊れた記録があります。読めた記録を復元し、ﾌｧｲﾙの写しを残します。");
-  }
-  return text + QStringLiteral("\r\rいいえ: 破棄します。\rｷｬﾝｾﾙ: 次の起動まで残します。");
-}
-
 }  // namespace
 
-SessionJournal::SessionJournal(VEXATYPE& state, MessageService& messages,
-                               const QString& programDirectory)
-    : state_(state), messages_(messages), journal_(programDirectory) {}
+SessionJournal::SessionJournal(Session& session, MessageService& messages)
+    : session_(session), messages_(messages), journal_(session.State().programDirectory) {
+  connect(&session, &Session::FrameChanged, this, &SessionJournal::Update);
+  connect(&session, &Session::SlotChanged, this, &SessionJournal::Update);
+  connect(&session, &Session::SlotsReplaced, this, &SessionJournal::Update);
+  connect(&session, &Session::StockChanged, this, &SessionJournal::Update);
+  connect(&session, &Session::HistoryChanged, this, &SessionJournal::Update);
+}
 
-bool SessionJournal::Offer() {
+QCoro::Task<bool> SessionJournal::Offer() {
+  offering_ = true;
   std::optional<JournalContent> left = TakeLeft();
-  while (left && !IsWanted(*left)) {
+  while (left) {
+    const bool wanted = co_await IsWanted(*left);
+    if (wanted) {
+      break;
+    }
     left = TakeLeft();
   }
+  offering_ = false;
   if (!left) {
-    return false;
+    Update();
+    co_return false;
   }
-  const bool damaged = !PutImage(left->image, state_) || left->damaged;
-  EvaluateAgain(state_);
+  VEXATYPE kept;
+  const bool damaged = !PutImage(left->image, kept) || left->damaged;
   if (damaged && journal_.KeepCopy().isEmpty()) {
     journal_.Release();  // it stays as it is, and this session begins a journal of its own
   } else {
     written_ = left->image;
   }
-  Update();
-  return true;
+  session_.Restore(kept);
+  co_return true;
 }
 
 std::optional<JournalContent> SessionJournal::TakeLeft() {
@@ -78,27 +78,26 @@ std::optional<JournalContent> SessionJournal::TakeLeft() {
   return left;
 }
 
-bool SessionJournal::IsWanted(const JournalContent& left) {
-  VEXATYPE session;
-  const bool damaged = !PutImage(left.image, session) || left.damaged;
-  const MessageResult answer = messages_.MsgCall(
-      Question(session, damaged), kYesNoCancel + kQuestionIcon, message_title::kMessage);
+QCoro::Task<bool> SessionJournal::IsWanted(JournalContent left) {
+  VEXATYPE kept;
+  const bool damaged = !PutImage(left.image, kept) || left.damaged;
+  const MessageCall question{
+      damaged ? Message::kRestoreDamagedSession : Message::kRestoreSession, {ContentText(kept)}};
+  const MessageResult answer = co_await messages_.Ask(question);
   if (answer == MessageResult::kNo) {
     journal_.Remove();
   } else if (answer != MessageResult::kYes) {
     journal_.Release();
   }
-  return answer == MessageResult::kYes;
+  co_return answer == MessageResult::kYes;
 }
 
+// False when what has changed could not be put on the disk.
 bool SessionJournal::Write() {
-  if (ended_) {
-    return true;
-  }
   if (!journal_.IsInPlace()) {
     written_ = EmptySession();
   }
-  const SessionImage now = TakeImage(state_);
+  const SessionImage now = TakeImage(session_.State());
   if (now == written_) {
     return true;
   }
@@ -109,14 +108,14 @@ bool SessionJournal::Write() {
   return written;
 }
 
+// A failure is told once until it works again.
 void SessionJournal::Update() {
+  if (ended_ || offering_) {
+    return;
+  }
   const bool written = Write();
   if (!written && !failureTold_) {
-    failureTold_ = true;
-    messages_.MsgCall(QStringLiteral("ｼﾞｬｰﾅﾙ･ﾌｧｲﾙに書き込めません。測定は続けられますが、ﾌﾟﾛｸﾞﾗﾑが"
-                                     "異常終了すると測定ﾃﾞｰﾀは失われます。\r\r") +
-                          journal_.Path(),
-                      kOk + kWarningIcon, message_title::kWarning);
+    messages_.Tell({Message::kJournalWriteError, {journal_.Path()}});
   }
   failureTold_ = !written;
 }

@@ -9,10 +9,10 @@
 
 namespace vexa {
 
-void ShowVersion(QWidget* parent) {
-  QDialog dialog(parent);
-  dialog.setObjectName(QStringLiteral("VersionDialog"));
-  dialog.setWindowTitle(QStringLiteral("ﾊﾞｰｼﾞｮﾝ"));
+QDialog* MakeVersionDialog(QWidget* parent) {
+  auto* dialog = new QDialog(parent);
+  dialog->setObjectName(QStringLiteral("VersionDialog"));
+  dialog->setWindowTitle(QStringLiteral("ﾊﾞｰｼﾞｮﾝ"));
   auto* title = new QLabel(QStringLiteral("MERIDOX VEXA-KT"));
   QFont large = title->font();
   large.setPixelSize(20);
@@ -22,8 +22,8 @@ void ShowVersion(QWidget* parent) {
   auto* buttons = new QDialogButtonBox;
   QPushButton* close = buttons->addButton(QStringLiteral("閉じる"), QDialogButtonBox::AcceptRole);
   close->setDefault(true);
-  QObject::connect(buttons, &QDialogButtonBox::accepted, &dialog, &QDialog::accept);
-  auto* layout = new QVBoxLayout(&dialog);
+  QObject::connect(buttons, &QDialogButtonBox::accepted, dialog, &QDialog::accept);
+  auto* layout = new QVBoxLayout(dialog);
   layout->setContentsMargins(32, 26, 32, 18);
   layout->setSpacing(8);
   layout->addWidget(title, 0, Qt::AlignHCenter);
@@ -33,7 +33,7 @@ void ShowVersion(QWidget* parent) {
   layout->addSpacing(12);
   layout->addWidget(buttons);
   layout->setSizeConstraint(QLayout::SetFixedSize);
-  dialog.exec();
+  return dialog;
 }
 
 }  // namespace vexa

@@ -1,11 +1,12 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+class QDialog;
 class QWidget;
 
 namespace vexa {
 
-/// Shows title and version of the program until it is closed.
-void ShowVersion(QWidget* parent);
+/// Shows title and version of the program.
+[[nodiscard]] QDialog* MakeVersionDialog(QWidget* parent);
 
 }  // namespace vexa

@@ -1,42 +1,31 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include <QCoroTask>
 #include <QMainWindow>
-#include <QTimer>
-#include <functional>
-#include <memory>
 
+#include "app/instrument_desk.h"
 #include "app/main_menu.h"
 #include "app/session_journal.h"
 #include "base/message.h"
-#include "instrument/controller.h"
-#include "measurement/measurement_sequence.h"
-#include "measurement/vexatype.h"
+#include "measurement/session.h"
 #include "views/common/file_dialogs.h"
-#include "views/files/saved_slots.h"
-#include "views/paper/current_printer.h"
-#include "views/print/report_request.h"
 
 namespace vexa {
 
-class ColourPanel;
-class MainViews;
-class MeasurementBar;
-class ProgressStrip;
+class MainPanels;
 class StatusPanels;
-class ThickGraph;
-class ThicknessPanel;
+class WindowCommands;
 
 /// What the main window is given from outside.
 struct Services {
   MessageService& messages;
   FileDialogs& dialogs;
-  MeasurementSequence::Clock clock;
-  /// Makes the controller that the settings name.
-  std::function<std::unique_ptr<Controller>(const VEXATYPE&)> makeController;
+  Session::Clock clock;
+  InstrumentDesk::MakeController makeController;
 };
 
-/// The main window: it owns the shared state and the controller, and puts the panels together.
+/// The main window: it owns the session, and puts instrument, journal, panels and menu together.
 class VEXA : public QMainWindow {
   Q_OBJECT
 
@@ -45,54 +34,44 @@ class VEXA : public QMainWindow {
   VEXA(Services services, const QString& programDirectory);
   ~VEXA() override;
 
-  /// Brings the program into a measurable state. Waits for the controller in the event loop, so
-  /// call it once the window is shown.
-  void Load();
+  /// Brings the program into a measurable state; done when the controller has answered, or not.
+  QCoro::Task<> Load();
 
-  /// Offers what a crash has left; call it once Load has ended. Waits as Load does.
-  void OfferSession();
+  /// Offers what a crash has left; to be called once Load is done.
+  QCoro::Task<> OfferSession();
+
+  /// Ends the program as a signal asks it to: whatever runs is cancelled, the instrument is set to
+  /// rest, nothing is asked, and the journal stays for the next start.
+  QCoro::Task<> EndAtOnce();
 
   [[nodiscard]] int GetOption() const;
-  [[nodiscard]] const VEXATYPE& State() const { return state_; }
-  [[nodiscard]] const MenuCommands& Commands() const { return commands_; }
+  [[nodiscard]] const VEXATYPE& State() const { return session_.State(); }
+  [[nodiscard]] const MenuCommands& Commands() const { return menu_; }
+  [[nodiscard]] InstrumentDesk& Desk() { return desk_; }
 
  protected:
   void closeEvent(QCloseEvent* event) override;
 
  private:
-  void BuildPanels();
-  QWidget* BuildResults();
-  void ConnectCommands();
-  void ConnectSequence();
-  void StartController();
-  [[nodiscard]] bool Unload();
-  void TakeOverEnvironment();
-  ThickGraph& ThicknessGraph();
-  void Print();
-  void ShowThicknessGraph();
+  /// What the program is doing, besides what the instrument does.
+  enum class Phase { kStarting, kWorking, kEnding, kEnded };
+
+  QCoro::Task<> End();
+  QCoro::Task<bool> Unload();
+  void ListenToSession();
   void Refresh();
-  void UpdateCommands();
+  void SetPhase(Phase phase);
+  void ShowAvailable();
 
   Services services_;
-  VEXATYPE state_;
-  std::unique_ptr<Controller> controller_;
-  MeasurementSequence sequence_;
+  Session session_;
+  InstrumentDesk desk_;
   SessionJournal journal_;
-  QTimer ageTimer_;
-  CurrentPrinter printer_;
-  ReportRequest report_;  ///< as printed last
-  SavedSlots saved_;
-  MenuCommands commands_{};
-  MeasurementBar* bar_ = nullptr;
-  ProgressStrip* progress_ = nullptr;
-  ColourPanel* colour_ = nullptr;
-  MainViews* views_ = nullptr;
-  ThicknessPanel* thickness_ = nullptr;
-  ThickGraph* thicknessGraph_ = nullptr;
+  Phase phase_ = Phase::kStarting;
+  MenuCommands menu_{};
+  MainPanels* panels_ = nullptr;
   StatusPanels* status_ = nullptr;
-  bool loading_ = false;
-  bool controllerReady_ = false;
-  bool unloaded_ = false;
+  WindowCommands* commands_ = nullptr;
 };
 
 }  // namespace vexa

@@ -136,6 +136,8 @@ constexpr std::array<MessageEntry, kMessageCount> kCatalogue{{
      QT_TRANSLATE_NOOP("Text", "取り込んだﾃﾞｰﾀが飽和しています。")},
     {Message::kAcquisitionFailed, title::kWarning, MessageIcon::kWarning, MessageButtons::kOk,
      QT_TRANSLATE_NOOP("Text", "データ取得でエラーが発生しました。")},
+    {Message::kEndMeasurement, title::kMessage, MessageIcon::kQuestion, MessageButtons::kOkCancel,
+     QT_TRANSLATE_NOOP("Text", "測定中です。測定を中止して終了しますか。")},
     {Message::kUnexpectedFault, title::kError, MessageIcon::kStop, MessageButtons::kOk,
      QT_TRANSLATE_NOOP("Text", "予期しないエラーが発生しました。\r%1")},
     {Message::kNoValidData, title::kInformation, MessageIcon::kInformation, MessageButtons::kOk,

@@ -10,22 +10,22 @@
 namespace vexa {
 namespace {
 
-void SetEnvironmentDefaults(VEXATYPE& state) {
-  const VEXATYPE defaults;
-  state.envFileName = defaults.envFileName;
-  state.display = defaults.display;
-  state.colour = defaults.colour;
-  state.referenceSetting = defaults.referenceSetting;
-  state.thickness = defaults.thickness;
-  state.standardFileName = defaults.standardFileName;
-  state.instrument.samplingTimeMs = defaults.instrument.samplingTimeMs;
+void SetEnvironmentDefaults(Settings& settings) {
+  const Settings defaults;
+  settings.envFileName = defaults.envFileName;
+  settings.display = defaults.display;
+  settings.colour = defaults.colour;
+  settings.referenceSetting = defaults.referenceSetting;
+  settings.thickness = defaults.thickness;
+  settings.standardFileName = defaults.standardFileName;
+  settings.instrument.samplingTimeMs = defaults.instrument.samplingTimeMs;
 }
 
-void ApplyStandards(const StandardContents& contents, VEXATYPE& state) {
-  state.standard = contents.standard;
-  state.chromaMarker = contents.chromaMarker;
-  state.hueMarker = contents.hueMarker;
-  state.standardsChanged = false;
+void ApplyStandards(const StandardContents& contents, Settings& settings) {
+  settings.standard = contents.standard;
+  settings.chromaMarker = contents.chromaMarker;
+  settings.hueMarker = contents.hueMarker;
+  settings.standardsChanged = false;
 }
 
 MessageCall SettingsMessage(const QString& path, const FileFault& fault) {
@@ -63,13 +63,13 @@ void ReadStandards(const QString& programDirectory, Environment& environment) {
 
 }  // namespace
 
-void SetEnvDefaults(VEXATYPE& state) {
-  const VEXATYPE defaults;
-  SetEnvironmentDefaults(state);
-  state.instrument.controllerPort = defaults.instrument.controllerPort;
-  state.instrument.linePositions = defaults.instrument.linePositions;
-  state.instrument.detectorStartNm = defaults.instrument.detectorStartNm;
-  state.instrument.settlingTimeMs = defaults.instrument.settlingTimeMs;
+void SetEnvDefaults(Settings& settings) {
+  const Settings defaults;
+  SetEnvironmentDefaults(settings);
+  settings.instrument.controllerPort = defaults.instrument.controllerPort;
+  settings.instrument.linePositions = defaults.instrument.linePositions;
+  settings.instrument.detectorStartNm = defaults.instrument.detectorStartNm;
+  settings.instrument.settlingTimeMs = defaults.instrument.settlingTimeMs;
 }
 
 QString FindSettingsFile(const QString& programDirectory, const QString& name) {
@@ -95,15 +95,15 @@ Environment ReadEnvironment(const QString& path, const QString& programDirectory
   return environment;
 }
 
-bool ApplyEnvironment(const Environment& environment, VEXATYPE& state) {
-  state.envFileRead = environment.content.has_value();
+bool ApplyEnvironment(const Environment& environment, Settings& settings) {
+  settings.envFileRead = environment.content.has_value();
   if (!environment.content) {
-    SetEnvironmentDefaults(state);
+    SetEnvironmentDefaults(settings);
     return false;
   }
-  state.envFileName = environment.path;
-  ApplyEnvironment(*environment.content, state);
-  ApplyStandards(environment.standards.value_or(StandardContents()), state);
+  settings.envFileName = environment.path;
+  ApplyEnvironment(*environment.content, settings);
+  ApplyStandards(environment.standards.value_or(StandardContents()), settings);
   return true;
 }
 
@@ -128,23 +128,23 @@ Configuration ReadConfiguration(const QString& programDirectory, UnnamedEnvironm
   return configuration;
 }
 
-void ApplyConfiguration(const Configuration& configuration, VEXATYPE& state) {
-  SetEnvDefaults(state);
+void ApplyConfiguration(const Configuration& configuration, Settings& settings) {
+  SetEnvDefaults(settings);
   if (configuration.startup) {
-    ApplyStartup(*configuration.startup, state);
+    ApplyStartup(*configuration.startup, settings);
   }
   if (configuration.environment) {
-    (void)ApplyEnvironment(*configuration.environment, state);
+    (void)ApplyEnvironment(*configuration.environment, settings);
   }
-  state.instrument.averagingCount = 1;
-  state.instrument.serialController = state.instrument.controllerPort != 0;
-  state.instrument.calibrationShiftNm =
+  settings.instrument.averagingCount = 1;
+  settings.instrument.serialController = settings.instrument.controllerPort != 0;
+  settings.instrument.calibrationShiftNm =
       configuration.calibrationShiftNm.value_or(InstrumentSettings().calibrationShiftNm);
 }
 
-QList<MessageCall> LoadConfiguration(VEXATYPE& state, UnnamedEnvironment unnamed) {
-  const Configuration configuration = ReadConfiguration(state.programDirectory, unnamed);
-  ApplyConfiguration(configuration, state);
+QList<MessageCall> LoadConfiguration(Settings& settings, UnnamedEnvironment unnamed) {
+  const Configuration configuration = ReadConfiguration(settings.programDirectory, unnamed);
+  ApplyConfiguration(configuration, settings);
   return configuration.notices;
 }
 

@@ -15,7 +15,7 @@ namespace vexa {
 
 /// The built-in defaults of the start-up file and the environment file, and "vexa.env" as the name
 /// of the latter.
-void SetEnvDefaults(VEXATYPE& state);
+void SetEnvDefaults(Settings& settings);
 
 /// Where a named settings file is: where it is named, else under its bare name in the program
 /// directory. The first where it is nowhere.
@@ -33,7 +33,7 @@ struct Environment {
 
 /// Puts the environment in force under its name; one that cannot be read becomes the defaults under
 /// theirs. True when it was read.
-bool ApplyEnvironment(const Environment& environment, VEXATYPE& state);
+bool ApplyEnvironment(const Environment& environment, Settings& settings);
 
 /// What the files of a program directory say at the start.
 struct Configuration {
@@ -52,10 +52,10 @@ enum class UnnamedEnvironment { kIgnored, kRead };
     const QString& programDirectory, UnnamedEnvironment unnamed = UnnamedEnvironment::kIgnored);
 
 /// Puts the configuration in force, defaults in the place of what could not be read.
-void ApplyConfiguration(const Configuration& configuration, VEXATYPE& state);
+void ApplyConfiguration(const Configuration& configuration, Settings& settings);
 
 /// Both, for the program directory of the state; what is to be told.
 [[nodiscard]] QList<MessageCall> LoadConfiguration(
-    VEXATYPE& state, UnnamedEnvironment unnamed = UnnamedEnvironment::kIgnored);
+    Settings& settings, UnnamedEnvironment unnamed = UnnamedEnvironment::kIgnored);
 
 }  // namespace vexa

@@ -59,8 +59,8 @@ ReadResult<DataFileContent> ReadDatDataFile(const QString& path);
 /// What is to be asked before a content takes the place of slots; nothing of a comma-separated one.
 [[nodiscard]] std::optional<MessageCall> StoreQuestion(const DataFileContent& content);
 
-/// Puts the content into its slots and evaluates those that are valid. Their sample information is
+/// The slots with those of the content in their places, not evaluated. Their sample information is
 /// what the file says of it, and empty otherwise.
-void StoreDataFile(const DataFileContent& content, VEXATYPE& state, MessageService& messages);
+[[nodiscard]] SlotTable SlotsWith(const DataFileContent& content, SlotTable present);
 
 }  // namespace vexa

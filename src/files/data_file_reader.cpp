@@ -121,21 +121,16 @@ std::optional<MessageCall> StoreQuestion(const DataFileContent& content) {
                      {SignedText(static_cast<double>(content.entries.size()))}};
 }
 
-void StoreDataFile(const DataFileContent& content, VEXATYPE& state, MessageService& messages) {
-  if (content.blocks) {
-    state.dataFileComment = content.comment;
-  }
+SlotTable SlotsWith(const DataFileContent& content, SlotTable present) {
   for (std::size_t i = 0; i < content.entries.size(); ++i) {
     const DataFileSlot& read = content.entries[i];
-    MeasurementSlot& slot = state.measurementSlots[i];
+    MeasurementSlot& slot = present[i];
     slot = {};
     slot.reflectance = read.reflectance;
     slot.info.sampleNumber = read.sampleNumber;
     slot.valid = read.valid;
-    if (slot.valid) {
-      EvaluateSlot(state, slot, messages);
-    }
   }
+  return present;
 }
 
 }  // namespace vexa

@@ -45,11 +45,11 @@ struct LineWriter {
 
 }  // namespace
 
-EnvironmentTable<EnvironmentPlace> EnvironmentLines(VEXATYPE& state) {
-  DisplaySettings& display = state.display;
-  ColourSettings& colour = state.colour;
-  DispersionSetting& reference = state.referenceSetting;
-  ThicknessSettings& film = state.thickness;
+EnvironmentTable<EnvironmentPlace> EnvironmentLines(Settings& settings) {
+  DisplaySettings& display = settings.display;
+  ColourSettings& colour = settings.colour;
+  DispersionSetting& reference = settings.referenceSetting;
+  ThicknessSettings& film = settings.thickness;
   EnvironmentTable<EnvironmentPlace> lines{{{},
                                             {},
                                             &display.view,
@@ -70,7 +70,7 @@ EnvironmentTable<EnvironmentPlace> EnvironmentLines(VEXATYPE& state) {
                                             &display.labScale,
                                             &display.showCursor,
                                             &display.showMinimum,
-                                            &state.standardFileName,
+                                            &settings.standardFileName,
                                             &reference.kind,
                                             &reference.fixedValue}};
   const auto place = [&lines](std::size_t first, std::array<double, 6>& values) {
@@ -81,7 +81,7 @@ EnvironmentTable<EnvironmentPlace> EnvironmentLines(VEXATYPE& state) {
   place(23, reference.schott);
   place(29, reference.sellmeier);
   lines[35] = &reference.indexFileName;
-  lines[36] = &state.instrument.samplingTimeMs;
+  lines[36] = &settings.instrument.samplingTimeMs;
   lines[37] = &film.enabled;
   lines[38] = &film.type;
   lines[39] = &film.kind;
@@ -104,7 +104,7 @@ ReadResult<EnvironmentContent> ReadEnvFile(const QString& path) {
     if (content.version < file_kind::kEnvironment.oldest) {
       throw ReadFault({.kind = FileFaultKind::kVersion, .line = 1, .version = content.version});
     }
-    VEXATYPE kinds;
+    Settings kinds;
     const auto places = EnvironmentLines(kinds);
     const auto read = [&](std::size_t number) {
       content.lines[number] = std::visit(LineReader{reader}, places[number]);
@@ -120,8 +120,8 @@ ReadResult<EnvironmentContent> ReadEnvFile(const QString& path) {
   });
 }
 
-void ApplyEnvironment(const EnvironmentContent& content, VEXATYPE& state) {
-  const auto places = EnvironmentLines(state);
+void ApplyEnvironment(const EnvironmentContent& content, Settings& settings) {
+  const auto places = EnvironmentLines(settings);
   for (std::size_t number = 2; number <= kEnvironmentLines; ++number) {
     std::visit(
         [&content, number](auto place) {
@@ -134,9 +134,9 @@ void ApplyEnvironment(const EnvironmentContent& content, VEXATYPE& state) {
         },
         places[number]);
   }
-  if (state.display.fullScale) {
-    state.display.shortestNm = ReflectanceSpectrum::kFirstNm;
-    state.display.longestNm = ReflectanceSpectrum::kLastNm;
+  if (settings.display.fullScale) {
+    settings.display.shortestNm = ReflectanceSpectrum::kFirstNm;
+    settings.display.longestNm = ReflectanceSpectrum::kLastNm;
   }
 }
 
@@ -159,7 +159,7 @@ QList<MessageCall> EnvironmentDoubts(const QString& path, const EnvironmentConte
   return {{Message::kUnknownIlluminant, {path, QString::number(*illuminant)}}};
 }
 
-WriteResult WriteEnvFile(const QString& path, const VEXATYPE& state) {
+WriteResult WriteEnvFile(const QString& path, const Settings& settings) {
   const WriteResult kept =
       KeepUnreadable(path, [&path] { return static_cast<bool>(ReadEnvFile(path)); });
   if (!kept) {
@@ -167,7 +167,7 @@ WriteResult WriteEnvFile(const QString& path, const VEXATYPE& state) {
   }
   FileText text;
   text.Line(file_kind::kEnvironment.header.toString());
-  VEXATYPE copy = state;
+  Settings copy = settings;
   for (const EnvironmentPlace& value : EnvironmentLines(copy)) {
     std::visit(LineWriter{text}, value);
   }

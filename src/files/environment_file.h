@@ -26,7 +26,7 @@ template <typename Line>
 using EnvironmentTable = std::array<Line, kEnvironmentLines + 1>;
 
 /// The places of all lines.
-[[nodiscard]] EnvironmentTable<EnvironmentPlace> EnvironmentLines(VEXATYPE& state);
+[[nodiscard]] EnvironmentTable<EnvironmentPlace> EnvironmentLines(Settings& settings);
 
 /// What an environment file holds, by the line numbers of the current layout.
 struct EnvironmentContent {
@@ -39,7 +39,7 @@ struct EnvironmentContent {
 ReadResult<EnvironmentContent> ReadEnvFile(const QString& path);
 
 /// Puts the content in force; settings that it lacks stay as they are.
-void ApplyEnvironment(const EnvironmentContent& content, VEXATYPE& state);
+void ApplyEnvironment(const EnvironmentContent& content, Settings& settings);
 
 /// What to tell of an environment file that cannot be read: that it has another version, or that it
 /// is missing, or anything else.
@@ -51,6 +51,6 @@ void ApplyEnvironment(const EnvironmentContent& content, VEXATYPE& state);
 
 /// Writes the 57 lines. A file of that name that is no readable environment file is kept beside it
 /// as NAME.bad.
-WriteResult WriteEnvFile(const QString& path, const VEXATYPE& state);
+WriteResult WriteEnvFile(const QString& path, const Settings& settings);
 
 }  // namespace vexa

@@ -13,10 +13,10 @@
 namespace vexa {
 namespace {
 
-QString NameForStartup(const VEXATYPE& state) {
-  const QFileInfo file(CompletePath(state, state.envFileName));
-  const bool here = QFileInfo(file.absolutePath()) == QFileInfo(state.programDirectory);
-  return here ? file.fileName() : state.envFileName;
+QString NameForStartup(const Settings& settings) {
+  const QFileInfo file(CompletePath(settings, settings.envFileName));
+  const bool here = QFileInfo(file.absolutePath()) == QFileInfo(settings.programDirectory);
+  return here ? file.fileName() : settings.envFileName;
 }
 
 }  // namespace
@@ -43,15 +43,15 @@ ReadResult<StartupContent> ReadStartupFile(const QString& path) {
   });
 }
 
-void ApplyStartup(const StartupContent& content, VEXATYPE& state) {
-  state.envFileName = content.envFileName;
-  state.instrument.controllerPort = content.controllerPort;
-  std::ranges::copy(content.linePositions, state.instrument.linePositions.begin());
-  state.instrument.detectorStartNm = content.detectorStartNm;
+void ApplyStartup(const StartupContent& content, Settings& settings) {
+  settings.envFileName = content.envFileName;
+  settings.instrument.controllerPort = content.controllerPort;
+  std::ranges::copy(content.linePositions, settings.instrument.linePositions.begin());
+  settings.instrument.detectorStartNm = content.detectorStartNm;
 }
 
-WriteResult WriteStartupFile(const VEXATYPE& state) {
-  const QString path = StartupPath(state.programDirectory);
+WriteResult WriteStartupFile(const Settings& settings) {
+  const QString path = StartupPath(settings.programDirectory);
   const WriteResult kept =
       KeepUnreadable(path, [&path] { return static_cast<bool>(ReadStartupFile(path)); });
   if (!kept) {
@@ -60,12 +60,12 @@ WriteResult WriteStartupFile(const VEXATYPE& state) {
   const StartupContent written;
   FileText text;
   text.Line(file_kind::kStartup.header.toString())
-      .Line(NameForStartup(state))
-      .Number(state.instrument.controllerPort);
+      .Line(NameForStartup(settings))
+      .Number(settings.instrument.controllerPort);
   for (std::size_t i = 0; i < written.linePositions.size(); ++i) {
-    text.Number(state.instrument.linePositions[i]);
+    text.Number(settings.instrument.linePositions[i]);
   }
-  text.Number(state.instrument.detectorStartNm);
+  text.Number(settings.instrument.detectorStartNm);
   return text.WriteTo(path);
 }
 

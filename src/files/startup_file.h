@@ -26,11 +26,11 @@ struct StartupContent {
 ReadResult<StartupContent> ReadStartupFile(const QString& path);
 
 /// Puts the content in force.
-void ApplyStartup(const StartupContent& content, VEXATYPE& state);
+void ApplyStartup(const StartupContent& content, Settings& settings);
 
 /// Writes that of the program directory. The environment file in use is named by its bare name when
 /// it lies there, so that the directory may be moved and called anything. One that cannot be read
 /// is kept beside it as `vexa.int.bad`.
-WriteResult WriteStartupFile(const VEXATYPE& state);
+WriteResult WriteStartupFile(const Settings& settings);
 
 }  // namespace vexa

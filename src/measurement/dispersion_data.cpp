@@ -20,27 +20,27 @@ ReflectanceSpectrum Build(Flag asReflectance, const DispersionSetting& setting, 
   return dispersion.spectrum;
 }
 
-void BuildCoat(VEXATYPE& state, SpectraBuilt& built) {
-  StoreCoatSpectrum(state, Build(false, state.thickness.coat, Text::tr("ｲﾝﾃﾞｯｸｽ"), built));
+void BuildCoat(Settings& settings, SpectraBuilt& built) {
+  StoreCoatSpectrum(settings, Build(false, settings.thickness.coat, Text::tr("ｲﾝﾃﾞｯｸｽ"), built));
 }
 
 }  // namespace
 
-void StoreCoatSpectrum(VEXATYPE& state, const ReflectanceSpectrum& spectrum) {
-  (state.thickness.coat.kind == DispersionKind::kSubstrate ? state.substrateIndex
-                                                           : state.filmIndex) = spectrum;
+void StoreCoatSpectrum(Settings& settings, const ReflectanceSpectrum& spectrum) {
+  (settings.thickness.coat.kind == DispersionKind::kSubstrate ? settings.substrateIndex
+                                                           : settings.filmIndex) = spectrum;
 }
 
-SpectraBuilt LoadCoatData(VEXATYPE& state) {
+SpectraBuilt LoadCoatData(Settings& settings) {
   SpectraBuilt built;
-  BuildCoat(state, built);
+  BuildCoat(settings, built);
   return built;
 }
 
-SpectraBuilt LoadDispersionData(VEXATYPE& state) {
+SpectraBuilt LoadDispersionData(Settings& settings) {
   SpectraBuilt built;
-  state.referenceReflectance = Build(true, state.referenceSetting, Text::tr("ﾘﾌｧﾚﾝｽ"), built);
-  BuildCoat(state, built);
+  settings.referenceReflectance = Build(true, settings.referenceSetting, Text::tr("ﾘﾌｧﾚﾝｽ"), built);
+  BuildCoat(settings, built);
   return built;
 }
 

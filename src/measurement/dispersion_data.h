@@ -10,7 +10,7 @@ namespace vexa {
 
 /// Stores a spectrum computed for the coat's setting: as the index of the substrate when the
 /// setting is a substrate, else as the index of the film.
-void StoreCoatSpectrum(VEXATYPE& state, const ReflectanceSpectrum& spectrum);
+void StoreCoatSpectrum(Settings& settings, const ReflectanceSpectrum& spectrum);
 
 /// What came of building spectra from their settings.
 struct [[nodiscard]] SpectraBuilt {
@@ -20,9 +20,9 @@ struct [[nodiscard]] SpectraBuilt {
 
 /// Builds the index array of the coat's setting. One that cannot be built is zeros, as it is before
 /// anything was built: never the spectrum of an earlier setting.
-SpectraBuilt LoadCoatData(VEXATYPE& state);
+SpectraBuilt LoadCoatData(Settings& settings);
 
 /// Builds the reference reflectance and the index arrays from their settings, likewise.
-SpectraBuilt LoadDispersionData(VEXATYPE& state);
+SpectraBuilt LoadDispersionData(Settings& settings);
 
 }  // namespace vexa

@@ -46,6 +46,28 @@ Status ComputeSlotThickness(const VEXATYPE& state, MeasurementSlot& slot) {
   return status;
 }
 
+std::optional<MessageCall> AccumulationMessage(std::optional<StockAddResult> result) {
+  if (result == StockAddResult::kStoredLast) {
+    return MessageCall{Message::kStockNowFull};
+  }
+  if (result == StockAddResult::kRefused) {
+    return MessageCall{Message::kStockFull};
+  }
+  return std::nullopt;
+}
+
+std::optional<MessageCall> HistoryRefusal(HistoryAddResult result) {
+  switch (result) {
+    case HistoryAddResult::kKindDiffers:
+      return MessageCall{Message::kHistoryKindDiffers};
+    case HistoryAddResult::kFull:
+      return MessageCall{Message::kHistoryFull};
+    case HistoryAddResult::kAdded:
+      break;
+  }
+  return std::nullopt;
+}
+
 MessageCall ThicknessMessage(Status status) {
   switch (status) {
     case kTooFewExtrema:

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include <optional>
+
 #include "base/message.h"
 #include "base/status.h"
 #include "measurement/vexatype.h"
@@ -23,6 +25,12 @@ void EvaluateAgain(VEXATYPE& state);
 [[nodiscard]] Status ComputeSlotThickness(const VEXATYPE& state, MeasurementSlot& slot);
 
 inline constexpr Status kIndexMissing = -5;  ///< the index that the setting names is not loaded
+
+/// What to tell of a colour that filled the accumulated ones, or found them full.
+[[nodiscard]] std::optional<MessageCall> AccumulationMessage(std::optional<StockAddResult> result);
+
+/// What to tell of a thickness that the history did not take.
+[[nodiscard]] std::optional<MessageCall> HistoryRefusal(HistoryAddResult result);
 
 /// What to tell of a status of ComputeSlotThickness other than success.
 [[nodiscard]] MessageCall ThicknessMessage(Status status);

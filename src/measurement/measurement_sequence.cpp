@@ -30,14 +30,20 @@ void AddFailure(Status status, const Controller& controller, std::vector<Message
   }
 }
 
-void AddStorage(const SampleStorage& storage, std::vector<MessageCall>& messages) {
-  if (storage.stock == StockAddResult::kStoredLast) {
-    messages.push_back({Message::kStockNowFull});
-  } else if (storage.stock == StockAddResult::kRefused) {
-    messages.push_back({Message::kStockFull});
+// That the history takes nothing more is told once until it does again.
+void AddStorage(const SampleStorage& storage, std::optional<HistoryAddResult>& lastHistory,
+                std::vector<MessageCall>& messages) {
+  if (const std::optional<MessageCall> message = AccumulationMessage(storage.stock)) {
+    messages.push_back(*message);
   }
   if (storage.thickness.value_or(kSuccess) != kSuccess) {
     messages.push_back(ThicknessMessage(*storage.thickness));
+  }
+  if (storage.history && storage.history != lastHistory) {
+    if (const std::optional<MessageCall> refusal = HistoryRefusal(*storage.history)) {
+      messages.push_back(*refusal);
+    }
+    lastHistory = storage.history;
   }
 }
 
@@ -137,7 +143,7 @@ void MeasurementSequence::Store(MeasurementKind kind, int slot, const RawSpectru
       session_.StoreFrame(FrameKind::kReference, counts, taken);
       break;
     case MeasurementKind::kSample:
-      AddStorage(session_.StoreSample(slot, counts, taken), outcome.messages);
+      AddStorage(session_.StoreSample(slot, counts, taken), lastHistory_, outcome.messages);
       break;
   }
 }

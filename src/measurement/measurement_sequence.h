@@ -65,6 +65,7 @@ class MeasurementSequence : public QObject {
   Session& session_;
   Controller* controller_ = nullptr;
   bool running_ = false;
+  std::optional<HistoryAddResult> lastHistory_;
 };
 
 }  // namespace vexa

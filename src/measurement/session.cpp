@@ -12,6 +12,15 @@ Session::Session(const QString& programDirectory, Clock clock) : clock_(std::mov
   state_.programDirectory = programDirectory;
 }
 
+std::optional<int> Session::FirstValidSlot() const {
+  for (int number = 1; number <= kSlotCount; ++number) {
+    if (state_.Slot(number)->valid) {
+      return number;
+    }
+  }
+  return std::nullopt;
+}
+
 FrameConditions Session::ConditionsNow() const {
   return vexa::ConditionsNow(state_.instrument, clock_());
 }
@@ -61,12 +70,11 @@ SampleStorage Session::StoreSample(int slotNumber, const RawSpectrum& counts,
 void Session::ClearSlots() {
   state_.ClearSlots();
   state_.slotsSaved = false;
-  AnnounceSlots();
+  emit SlotsReplaced();
 }
 
 std::optional<StockAddResult> Session::LoadSlots(
-    const std::array<MeasurementSlot, kSlotCount>& slotsRead, const QString& dataFileName,
-    const QString& comment) {
+    const SlotTable& slotsRead, const QString& dataFileName, const QString& comment) {
   std::optional<StockAddResult> stocked;
   state_.measurementSlots = slotsRead;
   for (MeasurementSlot& slot : state_.measurementSlots) {
@@ -81,7 +89,7 @@ std::optional<StockAddResult> Session::LoadSlots(
   state_.dataFileComment = comment;
   state_.currentDataFileName = dataFileName;
   state_.slotsSaved = true;
-  AnnounceSlots();
+  emit SlotsReplaced();
   return stocked;
 }
 
@@ -99,7 +107,7 @@ void Session::Restore(const VEXATYPE& kept) {
   EvaluateAgain(state_);
   emit FrameChanged(FrameKind::kBackground);
   emit FrameChanged(FrameKind::kReference);
-  AnnounceSlots();
+  emit SlotsReplaced();
   emit StockChanged();
   emit HistoryChanged();
 }
@@ -115,8 +123,10 @@ void Session::EditInformation(const std::array<SampleInfo, kSlotCount>& informat
     MeasurementSlot& slot = *state_.Slot(number);
     const SampleInfo& typed = information[static_cast<std::size_t>(number) - 1];
     if (slot.info != typed) {
+      slot.informationTyped = slot.informationTyped ||
+                              slot.info.sampleNumber != typed.sampleNumber ||
+                              slot.info.remark1 != typed.remark1 || slot.info.remark2 != typed.remark2;
       slot.info = typed;
-      slot.informationTyped = true;
       state_.slotsSaved = false;
       emit SlotChanged(number);
     }
@@ -131,21 +141,8 @@ Status Session::ComputeThickness(int slotNumber) {
   return status;
 }
 
-void Session::TakeSettings(const VEXATYPE& settings) {
-  state_.instrument = settings.instrument;
-  state_.display = settings.display;
-  state_.colour = settings.colour;
-  state_.referenceSetting = settings.referenceSetting;
-  state_.thickness = settings.thickness;
-  state_.referenceReflectance = settings.referenceReflectance;
-  state_.filmIndex = settings.filmIndex;
-  state_.substrateIndex = settings.substrateIndex;
-  state_.standard = settings.standard;
-  state_.chromaMarker = settings.chromaMarker;
-  state_.hueMarker = settings.hueMarker;
-  state_.standardsChanged = settings.standardsChanged;
-  state_.envFileName = settings.envFileName;
-  state_.standardFileName = settings.standardFileName;
+void Session::TakeSettings(const Settings& settings) {
+  static_cast<Settings&>(state_) = settings;
   EvaluateAgain(state_);
   KeepStockPure();
   emit SettingsChanged();
@@ -187,18 +184,12 @@ void Session::ReplaceStock(const ColourStock& stock) {
 }
 
 HistoryAddResult Session::AddToHistory(const ThicknessResult& thickness) {
-  ThicknessHistory& history = state_.thicknessHistory;
-  if (history.count == 0) {
-    history.physical = thickness.physical;
+  const HistoryAddResult result =
+      state_.thicknessHistory.Append(thickness.thicknessNm, thickness.physical);
+  if (result == HistoryAddResult::kAdded) {
+    emit HistoryChanged();
   }
-  if (history.physical != thickness.physical) {
-    return HistoryAddResult::kKindDiffers;
-  }
-  if (!history.Append(thickness.thicknessNm)) {
-    return HistoryAddResult::kFull;
-  }
-  emit HistoryChanged();
-  return HistoryAddResult::kAdded;
+  return result;
 }
 
 bool Session::RemoveFromHistory(int point) {
@@ -230,12 +221,6 @@ void Session::KeepStockPure() {
     state_.stock.Record(state_.ColourConditions());
   }
   emit StockChanged();
-}
-
-void Session::AnnounceSlots() {
-  for (int number = 1; number <= kSlotCount; ++number) {
-    emit SlotChanged(number);
-  }
 }
 
 }  // namespace vexa

@@ -13,13 +13,6 @@ namespace vexa {
 
 enum class FrameKind { kBackground, kReference };
 
-/// What became of a thickness that was offered to the history.
-enum class HistoryAddResult {
-  kAdded,
-  kKindDiffers,  ///< the history holds physical thicknesses and this is an optical one, or reversed
-  kFull,
-};
-
 /// What storing a sample brought about besides its slot.
 struct SampleStorage {
   std::optional<StockAddResult> stock;      ///< nothing unless colours are accumulated
@@ -41,6 +34,9 @@ class Session : public QObject {
   [[nodiscard]] const VEXATYPE& State() const { return state_; }
   [[nodiscard]] QDateTime Now() const { return clock_(); }
 
+  /// The number of the first slot that holds a spectrum.
+  [[nodiscard]] std::optional<int> FirstValidSlot() const;
+
   /// The conditions of a frame that is taken now under the settings in force.
   [[nodiscard]] FrameConditions ConditionsNow() const;
 
@@ -57,9 +53,8 @@ class Session : public QObject {
   /// Takes the slots of a data file of this name in the place of all ten, and evaluates each valid
   /// one; accumulates too, and gives back the last result of that. `comment` is the second line of
   /// a block file.
-  std::optional<StockAddResult> LoadSlots(
-      const std::array<MeasurementSlot, kSlotCount>& slotsRead, const QString& dataFileName,
-      const QString& comment);
+  std::optional<StockAddResult> LoadSlots(const SlotTable& slotsRead, const QString& dataFileName,
+                                          const QString& comment);
 
   /// Takes frames, slots, accumulated colours and history of another state, as a journal kept them,
   /// and evaluates the slots; nothing is accumulated.
@@ -74,10 +69,9 @@ class Session : public QObject {
   /// The thickness of a slot under the settings in force. A failure leaves the slot none.
   [[nodiscard]] Status ComputeThickness(int slot);
 
-  /// Puts the settings of another state in force, as a file or a dialog has made them: instrument,
-  /// display, colour, reference, thickness, standards, and the names of their files. Colours and
-  /// verdicts are computed again.
-  void TakeSettings(const VEXATYPE& settings);
+  /// Puts settings in force, as a file or a dialog has made them. Colours and verdicts are computed
+  /// again.
+  void TakeSettings(const Settings& settings);
 
   void SetView(std::int16_t view);
   void SetAutoThickness(bool on);
@@ -98,6 +92,8 @@ class Session : public QObject {
  signals:
   void FrameChanged(vexa::FrameKind kind);
   void SlotChanged(int slot);
+  /// All ten were cleared, loaded, or restored.
+  void SlotsReplaced();
   /// A sample was measured into the slot; after its SlotChanged.
   void SampleStored(int slot);
   void SettingsChanged();
@@ -107,7 +103,6 @@ class Session : public QObject {
  private:
   StockAddResult Accumulate(const ColourResult& colour);
   void KeepStockPure();
-  void AnnounceSlots();
 
   VEXATYPE state_;
   Clock clock_;

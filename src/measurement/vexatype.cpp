@@ -6,8 +6,6 @@
 
 namespace vexa {
 
-VEXATYPE::VEXATYPE() : envFileName(QStringLiteral("vexa.env")) {}
-
 MeasurementSlot* VEXATYPE::Slot(int number) {
   return number >= 1 && number <= kSlotCount
              ? &measurementSlots[static_cast<std::size_t>(number) - 1]
@@ -27,7 +25,7 @@ void VEXATYPE::ClearSlots() {
   measurementSlots.fill({});
 }
 
-StockConditions VEXATYPE::ColourConditions() const {
+StockConditions Settings::ColourConditions() const {
   return {display.xyMode, colour.illuminant, colour.observer2Deg};
 }
 
@@ -36,8 +34,8 @@ QString CompletePath(const QString& programDirectory, const QString& name) {
   return complete ? name : QDir(programDirectory).filePath(name);
 }
 
-QString CompletePath(const VEXATYPE& state, const QString& name) {
-  return CompletePath(state.programDirectory, name);
+QString CompletePath(const Settings& settings, const QString& name) {
+  return CompletePath(settings.programDirectory, name);
 }
 
 }  // namespace vexa

@@ -11,13 +11,19 @@
 
 namespace vexa {
 
-bool ThicknessHistory::Append(double thicknessNm) {
+HistoryAddResult ThicknessHistory::Append(double thicknessNm, Flag isPhysical) {
+  if (count == 0) {
+    physical = isPhysical;
+  }
+  if (physical != isPhysical) {
+    return HistoryAddResult::kKindDiffers;
+  }
   if (count >= kCapacity) {
-    return false;
+    return HistoryAddResult::kFull;
   }
   values[static_cast<std::size_t>(count)] = thicknessNm;
   ++count;
-  return true;
+  return HistoryAddResult::kAdded;
 }
 
 bool ThicknessHistory::Delete(int point) {

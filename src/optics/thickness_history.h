@@ -12,6 +12,13 @@
 
 namespace vexa {
 
+/// What became of a thickness that was offered to a history.
+enum class HistoryAddResult {
+  kAdded,
+  kKindDiffers,  ///< the history holds physical thicknesses and this is an optical one, or reversed
+  kFull,
+};
+
 /// The thicknesses of successive measurements, oldest first.
 struct ThicknessHistory {
   static constexpr std::int16_t kCapacity = 50;
@@ -24,8 +31,9 @@ struct ThicknessHistory {
     return std::span(values).first(static_cast<std::size_t>(count));
   }
 
-  /// Appends a point; false, and all as it was, when the history is full.
-  [[nodiscard]] bool Append(double thicknessNm);
+  /// Appends a point; all stays as it was when it is not added. The first point makes the history
+  /// one of physical or of optical thicknesses.
+  HistoryAddResult Append(double thicknessNm, Flag isPhysical);
 
   /// Removes point 1..count, later points move down by one; false when there is no such point.
   [[nodiscard]] bool Delete(int point);

@@ -2,7 +2,7 @@
 #include <QCoreApplication>
 #include <cstdio>
 
-#include "simulator/end_signals.h"
+#include "base/end_signals.h"
 #include "simulator/instrument.h"
 
 namespace {

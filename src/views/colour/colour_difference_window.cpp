@@ -239,12 +239,12 @@ void ColourDifferenceWindow::Print() {
   });
 }
 
-void ColourDifferenceWindow::Export() {
+QCoro::Task<> ColourDifferenceWindow::Export() {
   const std::optional<SaveChoice> choice =
       dialogs_.AskSave(windowTitle(), QStringLiteral("CSV(*.csv)|*.csv"),
                        WithExtension(ProposedName(state_), QStringLiteral(".csv")));
   if (!choice) {
-    return;
+    co_return;
   }
   const QString path = WithExtension(choice->path, QStringLiteral(".csv"));
   FileText text;
@@ -256,8 +256,9 @@ void ColourDifferenceWindow::Export() {
     }
     text.Line(cells.join(u','));
   }
-  if (MayReplace(path, messages_) && !text.WriteTo(path)) {
-    ShowWriteError(path, messages_);
+  const bool may = co_await MayReplace(path, messages_);
+  if (may) {
+    (void)TellWritten(text.WriteTo(path), path, messages_);
   }
 }
 

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include <QCoroTask>
 #include <QComboBox>
 #include <QDialog>
 #include <QLabel>
@@ -34,7 +35,7 @@ class ColourDifferenceWindow : public QDialog {
   [[nodiscard]] QList<QStringList> Content() const;
   void CopyTable() const;
   void Print();
-  void Export();
+  QCoro::Task<> Export();
 
   const VEXATYPE& state_;
   CurrentPrinter& printer_;

@@ -26,10 +26,11 @@ const QString kNone = QStringLiteral("-");
 
 }  // namespace
 
-ColourPanel::ColourPanel(VEXATYPE& state, MessageService& messages, FileDialogs& dialogs,
+ColourPanel::ColourPanel(Session& session, MessageService& messages, FileDialogs& dialogs,
                          QWidget* parent)
     : QWidget(parent),
-      state_(state),
+      session_(session),
+      state_(session.State()),
       messages_(messages),
       dialogs_(dialogs),
       picture_(std::make_shared<BackgroundPicture>(messages)) {
@@ -123,12 +124,9 @@ QWidget* ColourPanel::BuildStock() {
   open->setFixedWidth(open->fontMetrics().horizontalAdvance(open->text()) + kButtonPadding);
 
   connect(accumulate_, &QCheckBox::clicked, this, &ColourPanel::SetAccumulating);
-  connect(clear_, &QPushButton::clicked, this, [this] {
-    state_.stock.RemoveLast();
-    emit StockChanged();
-  });
+  connect(clear_, &QPushButton::clicked, &session_, &Session::RemoveLastColour);
   connect(open, &QPushButton::clicked, this, &ColourPanel::OpenStockWindow);
-  connect(this, &ColourPanel::StockChanged, this, [this] { Show(slot_); });
+  connect(&session_, &Session::StockChanged, this, [this] { Show(slot_); });
   return group;
 }
 
@@ -167,31 +165,23 @@ void ColourPanel::ShowStock() {
 }
 
 QCoro::Task<> ColourPanel::SetAccumulating(bool checked) {
-  state_.accumulate = checked;
-  if (checked) {
-    if (state_.stock.DiffersFrom(state_.ColourConditions())) {
-      const QPointer<ColourPanel> alive(this);
-      const MessageCall question{Message::kClearStock};
-      const MessageResult answer = co_await messages_.Ask(question);
-      if (alive == nullptr) {
-        co_return;
-      }
-      if (answer == MessageResult::kOk) {
-        state_.stock.RemoveAll();
-      } else {
-        state_.accumulate = false;
-      }
+  if (checked && state_.stock.DiffersFrom(state_.ColourConditions())) {
+    const QPointer<ColourPanel> alive(this);
+    const MessageCall question{Message::kClearStock};
+    const MessageResult answer = co_await messages_.Ask(question);
+    if (alive == nullptr) {
+      co_return;
     }
-    // The conditions are taken over even when the old points stay.
-    state_.stock.Record(state_.ColourConditions());
+    if (answer == MessageResult::kOk) {
+      session_.RemoveAllColours();
+    }
   }
-  emit StockChanged();
+  session_.SetAccumulating(checked);
 }
 
 void ColourPanel::OpenStockWindow() {
   if (stockWindow_ == nullptr) {
-    stockWindow_ = new StockWindow(state_, messages_, dialogs_, picture_, this);
-    connect(stockWindow_, &StockWindow::StockChanged, this, &ColourPanel::StockChanged);
+    stockWindow_ = new StockWindow(session_, messages_, dialogs_, picture_, this);
   }
   stockWindow_->Refresh();
   stockWindow_->show();

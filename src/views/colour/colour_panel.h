@@ -8,7 +8,7 @@
 #include <memory>
 
 #include "base/message.h"
-#include "measurement/vexatype.h"
+#include "measurement/session.h"
 #include "views/common/file_dialogs.h"
 
 class QGridLayout;
@@ -25,7 +25,7 @@ class ColourPanel : public QWidget {
   Q_OBJECT
 
  public:
-  ColourPanel(VEXATYPE& state, MessageService& messages, FileDialogs& dialogs,
+  ColourPanel(Session& session, MessageService& messages, FileDialogs& dialogs,
               QWidget* parent = nullptr);
 
   /// Shows the state as it is now.
@@ -33,10 +33,6 @@ class ColourPanel : public QWidget {
 
   /// For further diagrams, so that they need not build it again.
   [[nodiscard]] std::shared_ptr<BackgroundPicture> Picture() const { return picture_; }
-
- signals:
-  /// Points or conditions of the accumulation were changed here or in its window.
-  void StockChanged();
 
  private:
   struct Value {
@@ -55,7 +51,8 @@ class ColourPanel : public QWidget {
   QCoro::Task<> SetAccumulating(bool checked);
   void OpenStockWindow();
 
-  VEXATYPE& state_;
+  Session& session_;
+  const VEXATYPE& state_;
   MessageService& messages_;
   FileDialogs& dialogs_;
   std::shared_ptr<BackgroundPicture> picture_;

@@ -17,10 +17,11 @@ const QString kFilter = QStringLiteral("累積ﾃﾞｰﾀ･ﾌｧｲﾙ(*.stc)
 
 }  // namespace
 
-StockWindow::StockWindow(VEXATYPE& state, MessageService& messages, FileDialogs& dialogs,
+StockWindow::StockWindow(Session& session, MessageService& messages, FileDialogs& dialogs,
                          std::shared_ptr<BackgroundPicture> picture, QWidget* parent)
     : QDialog(parent),
-      state_(state),
+      session_(session),
+      state_(session.State()),
       messages_(messages),
       dialogs_(dialogs),
       diagram_(new ChromaticityDiagram(std::move(picture))),
@@ -57,7 +58,7 @@ StockWindow::StockWindow(VEXATYPE& state, MessageService& messages, FileDialogs&
   layout->setSpacing(12);
   layout->addWidget(frame, 1);
   layout->addLayout(column);
-  connect(this, &StockWindow::StockChanged, this, &StockWindow::Refresh);
+  connect(&session_, &Session::StockChanged, this, &StockWindow::Refresh);
   Refresh();
 }
 
@@ -81,13 +82,11 @@ QPushButton* StockWindow::AddButton(const char* name, const QString& caption,
 }
 
 void StockWindow::ClearAll() {
-  state_.stock.RemoveAll();
-  emit StockChanged();
+  session_.RemoveAllColours();
 }
 
 void StockWindow::ClearLast() {
-  state_.stock.RemoveLast();
-  emit StockChanged();
+  session_.RemoveLastColour();
 }
 
 void StockWindow::Load() {
@@ -101,8 +100,7 @@ void StockWindow::Load() {
     messages_.Tell(StockMessage(stock.Fault()));
     return;
   }
-  state_.stock = *stock;
-  emit StockChanged();
+  session_.ReplaceStock(*stock);
 }
 
 QCoro::Task<> StockWindow::Save() {

@@ -8,7 +8,7 @@
 #include <memory>
 
 #include "base/message.h"
-#include "measurement/vexatype.h"
+#include "measurement/session.h"
 #include "views/common/file_dialogs.h"
 
 namespace vexa {
@@ -21,14 +21,11 @@ class StockWindow : public QDialog {
   Q_OBJECT
 
  public:
-  StockWindow(VEXATYPE& state, MessageService& messages, FileDialogs& dialogs,
+  StockWindow(Session& session, MessageService& messages, FileDialogs& dialogs,
               std::shared_ptr<BackgroundPicture> picture, QWidget* parent = nullptr);
 
   /// Shows the stock as it is now.
   void Refresh();
-
- signals:
-  void StockChanged();
 
  private:
   QPushButton* AddButton(const char* name, const QString& caption,
@@ -39,7 +36,8 @@ class StockWindow : public QDialog {
   QCoro::Task<> Save();
   void CloseWindow();
 
-  VEXATYPE& state_;
+  Session& session_;
+  const VEXATYPE& state_;
   MessageService& messages_;
   FileDialogs& dialogs_;
   ChromaticityDiagram* diagram_;

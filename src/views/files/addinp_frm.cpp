@@ -34,8 +34,10 @@ std::array<QString, 4> Texts(const SampleInfo& info) {
 
 }  // namespace
 
-AddinpFrm::AddinpFrm(VEXATYPE& state, MessageService& messages, QWidget* parent)
-    : QDialog(parent), state_(state), messages_(messages) {
+AddinpFrm::AddinpFrm(Session& session, MessageService& messages, int selectedSlot,
+                     QWidget* parent)
+    : QDialog(parent), session_(session),
+      state_(session.State()), messages_(messages) {
   setObjectName(QStringLiteral("AddinpFrm"));
   setWindowTitle(QStringLiteral("試料情報"));
   auto* grid = new QGridLayout;
@@ -49,7 +51,7 @@ AddinpFrm::AddinpFrm(VEXATYPE& state, MessageService& messages, QWidget* parent)
   }
   for (int number = 1; number <= kSlotCount; ++number) {
     grid->addWidget(new QLabel(QString::number(number)), number, 0, Qt::AlignRight);
-    const std::array<QString, 4> texts = Texts(state.Slot(number)->info);
+    const std::array<QString, 4> texts = Texts(state_.Slot(number)->info);
     for (int column = 0; column < kColumns; ++column) {
       auto* entry = new QLineEdit(texts[static_cast<std::size_t>(column)]);
       entry->setObjectName(
@@ -88,7 +90,9 @@ AddinpFrm::AddinpFrm(VEXATYPE& state, MessageService& messages, QWidget* parent)
   grid->setContentsMargins(0, 0, 0, 0);
   layout->addWidget(new ScrollBody(entries), 1);
   layout->addLayout(buttons);
-  BeginWithFirstField(*this);
+  if (state_.Slot(selectedSlot) != nullptr) {
+    EnterAgain(*rows_[static_cast<std::size_t>(selectedSlot) - 1].front());
+  }
   resize(sizeHint());
 }
 
@@ -113,11 +117,12 @@ void AddinpFrm::accept() {
     if (!measuredAt) {
       return Refuse(*date, Message::kNotADate);
     }
-    infos[i] = {sampleNumber->text(), remark1->text(), remark2->text(), *measuredAt};
+    // A date that was left alone keeps what its text does not show.
+    const QDateTime& before = state_.measurementSlots[i].info.measuredAt;
+    infos[i] = {sampleNumber->text(), remark1->text(), remark2->text(),
+                date->text() == DateTimeText(before) ? before : *measuredAt};
   }
-  for (int number = 1; number <= kSlotCount; ++number) {
-    state_.Slot(number)->info = infos[static_cast<std::size_t>(number - 1)];
-  }
+  session_.EditInformation(infos);
   if (!splitting.isEmpty()) {
     messages_.Tell({Message::kSampleNumberSplits, {splitting.join(u'\r')}});
   }

@@ -6,7 +6,7 @@
 #include <array>
 
 #include "base/message.h"
-#include "measurement/vexatype.h"
+#include "measurement/session.h"
 
 namespace vexa {
 
@@ -16,7 +16,8 @@ class AddinpFrm : public QDialog {
   Q_OBJECT
 
  public:
-  AddinpFrm(VEXATYPE& state, MessageService& messages, QWidget* parent = nullptr);
+  AddinpFrm(Session& session, MessageService& messages, int selectedSlot,
+            QWidget* parent = nullptr);
 
   /// Takes the entries over. One that is no date, or that the files' code page cannot hold, is
   /// refused with a message, and nothing is taken over.
@@ -31,7 +32,8 @@ class AddinpFrm : public QDialog {
 
   void Refuse(QLineEdit& entry, Message why);
 
-  VEXATYPE& state_;
+  Session& session_;
+  const VEXATYPE& state_;
   MessageService& messages_;
   std::array<Row, kSlotCount> rows_{};
 };

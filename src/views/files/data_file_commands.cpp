@@ -2,10 +2,11 @@
 #include "views/files/data_file_commands.h"
 
 #include "files/data_file.h"
+#include "measurement/evaluation.h"
 
 namespace vexa {
 
-QCoro::Task<> OpenDataFile(VEXATYPE& state, MessageService& messages, FileDialogs& dialogs) {
+QCoro::Task<> OpenDataFile(Session& session, MessageService& messages, FileDialogs& dialogs) {
   const std::optional<QString> path = dialogs.AskOpen(
       QStringLiteral("ﾌｧｲﾙを開く"), QStringLiteral("ﾃﾞｰﾀ･ﾌｧｲﾙ(*.csv,*.dat)|*.csv;*.dat|"));
   if (!path) {
@@ -22,11 +23,16 @@ QCoro::Task<> OpenDataFile(VEXATYPE& state, MessageService& messages, FileDialog
       co_return;
     }
   }
-  StoreDataFile(*content, state, messages);
-  state.currentDataFileName = *path;
+  const VEXATYPE& state = session.State();
+  const QString comment = content->blocks ? content->comment : state.dataFileComment;
+  const SlotTable slotsRead = SlotsWith(*content, state.measurementSlots);
+  if (const auto message = AccumulationMessage(session.LoadSlots(slotsRead, *path, comment))) {
+    messages.Tell(*message);
+  }
 }
 
-QCoro::Task<> SaveDataFileAs(VEXATYPE& state, MessageService& messages, FileDialogs& dialogs) {
+QCoro::Task<> SaveDataFileAs(Session& session, MessageService& messages, FileDialogs& dialogs) {
+  const VEXATYPE& state = session.State();
   if (!state.HasValidSlot()) {
     messages.Tell({Message::kNoValidData});
     co_return;
@@ -48,10 +54,8 @@ QCoro::Task<> SaveDataFileAs(VEXATYPE& state, MessageService& messages, FileDial
   }
   const bool may = co_await MayReplace(path, messages);
   if (may && TellWritten(WriteDataFile(path, layout, state), path, messages)) {
-    state.currentDataFileName = path;
+    session.SetDataFileName(path);
   }
-  state.currentDataFileName = path;
-  return true;
 }
 
 }  // namespace vexa

@@ -12,30 +12,38 @@
 namespace vexa {
 namespace {
 
-bool Write(const QString& path, VEXATYPE& state, MessageService& messages) {
-  const bool written = TellWritten(WriteEnvFile(path, state), path, messages);
-  state.envFileRead = state.envFileRead || written;
+// The environment in force is in the file of this name now, which becomes the name in use.
+bool Write(const QString& path, const QString& name, Session& session, MessageService& messages) {
+  const bool written = TellWritten(WriteEnvFile(path, session.State()), path, messages);
+  if (written) {
+    Settings settings = session.State();
+    settings.envFileRead = true;
+    settings.envFileName = name;
+    session.TakeSettings(settings);
+  }
   return written;
 }
 
 }  // namespace
 
-bool OpenEnvironment(VEXATYPE& state, MessageService& messages, FileDialogs& dialogs) {
+bool OpenEnvironment(Session& session, MessageService& messages, FileDialogs& dialogs) {
   const std::optional<QString> path = dialogs.AskOpen(
       QStringLiteral("環境ﾌｧｲﾙを開く"),
       QStringLiteral("環境ﾃﾞｰﾀ･ﾌｧｲﾙ(*.env)|*.env|") + QStringLiteral("全てのﾌｧｲﾙ(*.*)|*.*|"));
   if (!path || !MayKeepName(*path, messages)) {
     return false;
   }
-  const Environment environment = ReadEnvironment(*path, state.programDirectory);
-  (void)ApplyEnvironment(environment, state);
+  Settings settings = session.State();
+  const Environment environment = ReadEnvironment(*path, settings.programDirectory);
+  (void)ApplyEnvironment(environment, settings);
   TellAll(environment.notices, messages);
-  TellAll(LoadDispersionData(state).notices, messages);
-  EvaluateAgain(state);
+  TellAll(LoadDispersionData(settings).notices, messages);
+  session.TakeSettings(settings);
   return true;
 }
 
-QCoro::Task<bool> SaveEnvironment(VEXATYPE& state, MessageService& messages) {
+QCoro::Task<bool> SaveEnvironment(Session& session, MessageService& messages) {
+  const VEXATYPE& state = session.State();
   if (state.envFileName.isEmpty()) {
     messages.Tell({Message::kNoEnvironmentName});
     co_return false;
@@ -48,10 +56,10 @@ QCoro::Task<bool> SaveEnvironment(VEXATYPE& state, MessageService& messages) {
       co_return false;
     }
   }
-  co_return Write(path, state, messages);
+  co_return Write(path, state.envFileName, session, messages);
 }
 
-QCoro::Task<> SaveEnvironmentAs(VEXATYPE& state, MessageService& messages, FileDialogs& dialogs) {
+QCoro::Task<> SaveEnvironmentAs(Session& session, MessageService& messages, FileDialogs& dialogs) {
   const std::optional<SaveChoice> choice =
       dialogs.AskSave(QStringLiteral("環境ﾌｧｲﾙの名前を付けて保存"),
                       QStringLiteral("Enviroment File (*.env)|*.env"));
@@ -63,8 +71,8 @@ QCoro::Task<> SaveEnvironmentAs(VEXATYPE& state, MessageService& messages, FileD
     co_return;
   }
   const bool may = co_await MayReplace(path, messages);
-  if (may && Write(path, state, messages)) {
-    state.envFileName = path;
+  if (may) {
+    (void)Write(path, path, session, messages);
   }
 }
 

@@ -2,20 +2,20 @@
 #pragma once
 
 #include "base/message.h"
-#include "measurement/vexatype.h"
+#include "measurement/session.h"
 #include "views/common/file_dialogs.h"
 
 namespace vexa {
 
 /// Asks for an environment file and reads it, with the standards and dispersion data that it names.
 /// True when the settings changed, be it to the defaults after a file that cannot be read.
-[[nodiscard]] bool OpenEnvironment(VEXATYPE& state, MessageService& messages, FileDialogs& dialogs);
+[[nodiscard]] bool OpenEnvironment(Session& session, MessageService& messages, FileDialogs& dialogs);
 
 /// Writes the environment file in use; true when written. It asks only where a file of that name
 /// was never read, so that defaults do not take the place of a good one.
-QCoro::Task<bool> SaveEnvironment(VEXATYPE& state, MessageService& messages);
+QCoro::Task<bool> SaveEnvironment(Session& session, MessageService& messages);
 
 /// Asks for a name, writes the environment under it and keeps it as the name in use.
-QCoro::Task<> SaveEnvironmentAs(VEXATYPE& state, MessageService& messages, FileDialogs& dialogs);
+QCoro::Task<> SaveEnvironmentAs(Session& session, MessageService& messages, FileDialogs& dialogs);
 
 }  // namespace vexa

@@ -26,7 +26,7 @@ constexpr QStringView kLightPattern = u"###0.0";
 
 }  // namespace
 
-MainViews::MainViews(VEXATYPE& state, MessageService& messages, FileDialogs& dialogs,
+MainViews::MainViews(const VEXATYPE& state, MessageService& messages, FileDialogs& dialogs,
                      std::shared_ptr<BackgroundPicture> picture, QWidget* parent)
     : QWidget(parent),
       state_(state),

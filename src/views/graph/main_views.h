@@ -25,7 +25,7 @@ class MainViews : public QWidget {
   Q_OBJECT
 
  public:
-  MainViews(VEXATYPE& state, MessageService& messages, FileDialogs& dialogs,
+  MainViews(const VEXATYPE& state, MessageService& messages, FileDialogs& dialogs,
             std::shared_ptr<BackgroundPicture> picture, QWidget* parent = nullptr);
 
   /// Brings the view that the display settings name to the front and up to date; an unknown number
@@ -55,7 +55,7 @@ class MainViews : public QWidget {
   void ShowCursor();
   void AskJump();
 
-  VEXATYPE& state_;
+  const VEXATYPE& state_;
   MessageService& messages_;
   FileDialogs& dialogs_;
   std::shared_ptr<BackgroundPicture> picture_;

@@ -62,14 +62,15 @@ const ModeTexts& Texts(RefSetDlg::Mode mode) {
 
 }  // namespace
 
-RefSetDlg::RefSetDlg(Mode mode, VEXATYPE& state, MessageService& messages, FileDialogs& dialogs,
+RefSetDlg::RefSetDlg(Mode mode, Session& session, MessageService& messages, FileDialogs& dialogs,
                      QWidget* parent)
     : QDialog(parent),
       mode_(mode),
-      state_(state),
+      session_(session),
+      state_(session.State()),
       messages_(messages),
       dialogs_(dialogs),
-      original_(mode == Mode::kReference ? state.referenceSetting : state.thickness.coat),
+      original_(mode == Mode::kReference ? session.State().referenceSetting : session.State().thickness.coat),
       pages_(new QTabWidget),
       kind_(new QButtonGroup(this)) {
   setObjectName(QStringLiteral("RefSetDlg"));
@@ -95,13 +96,15 @@ void RefSetDlg::accept() {
   if (!Apply(edited)) {
     return;
   }
+  Settings settings = state_;
   if (mode_ == Mode::kReference) {
-    state_.referenceSetting = edited.setting;
-    state_.referenceReflectance = edited.spectrum;
+    settings.referenceSetting = edited.setting;
+    settings.referenceReflectance = edited.spectrum;
   } else {
-    state_.thickness = edited.thickness;
-    StoreCoatSpectrum(state_, edited.spectrum);
+    settings.thickness = edited.thickness;
+    StoreCoatSpectrum(settings, edited.spectrum);
   }
+  session_.TakeSettings(settings);
   QDialog::accept();
 }
 

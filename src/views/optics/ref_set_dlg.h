@@ -7,7 +7,7 @@
 #include <QTabWidget>
 
 #include "base/message.h"
-#include "measurement/vexatype.h"
+#include "measurement/session.h"
 #include "views/common/file_dialogs.h"
 
 namespace vexa {
@@ -24,7 +24,7 @@ class RefSetDlg : public QDialog {
  public:
   enum class Mode { kReference, kThickness };
 
-  RefSetDlg(Mode mode, VEXATYPE& state, MessageService& messages, FileDialogs& dialogs,
+  RefSetDlg(Mode mode, Session& session, MessageService& messages, FileDialogs& dialogs,
             QWidget* parent = nullptr);
 
   /// "OK" once the settings are stored, else "CANCEL".
@@ -54,7 +54,8 @@ class RefSetDlg : public QDialog {
   QCoro::Task<> Save();
 
   Mode mode_;
-  VEXATYPE& state_;
+  Session& session_;
+  const VEXATYPE& state_;
   MessageService& messages_;
   FileDialogs& dialogs_;
   DispersionSetting original_;

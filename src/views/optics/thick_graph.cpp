@@ -11,6 +11,7 @@
 #include <algorithm>
 
 #include "base/number_text.h"
+#include "measurement/evaluation.h"
 #include "views/common/file_questions.h"
 #include "views/common/plot_export.h"
 #include "views/optics/history_plot.h"
@@ -40,14 +41,17 @@ QPushButton* Button(const char* name, const QString& caption) {
 
 }  // namespace
 
-ThickGraph::ThickGraph(VEXATYPE& state, MessageService& messages, FileDialogs& dialogs,
-                       CurrentPrinter& printer, QWidget* parent)
+ThickGraph::ThickGraph(Session& session, MessageService& messages, FileDialogs& dialogs,
+                       CurrentPrinter& printer, std::function<int()> selectedSlot,
+                       QWidget* parent)
     : QMainWindow(parent),
-      state_(state),
+      session_(session),
+      state_(session.State()),
       messages_(messages),
       dialogs_(dialogs),
       printer_(printer),
-      cursor_(state.thicknessHistory.count),
+      selectedSlot_(std::move(selectedSlot)),
+      cursor_(session.State().thicknessHistory.count),
       plot_(new HistoryPlot),
       count_(Value("TotalCount")),
       thickness_(Value("Thickness")),
@@ -69,24 +73,14 @@ ThickGraph::ThickGraph(VEXATYPE& state, MessageService& messages, FileDialogs& d
   layout->addWidget(BuildInformation(), 0, Qt::AlignTop);
   setCentralWidget(central);
   resize(760, 460);
-  RecomputeScale();
-  ShowHistory();
+  connect(&session_, &Session::HistoryChanged, this, &ThickGraph::ShowChange);
+  ShowChange();
 }
 
-void ThickGraph::AddPointProc(double thicknessNm, Flag physical) {
-  ThicknessHistory& history = state_.thicknessHistory;
-  if (history.count == 0) {
-    history.physical = physical;
-  }
-  if (history.physical != physical) {
-    messages_.Tell({Message::kHistoryKindDiffers});
-    return;
-  }
-  if (!history.Append(thicknessNm)) {
-    messages_.Tell({Message::kHistoryFull});
-    return;
-  }
-  cursor_ = history.count;
+void ThickGraph::ShowChange() {
+  const int count = state_.thicknessHistory.count;
+  cursor_ = count > shownCount_ ? count : std::clamp(cursor_, std::min(1, count), count);
+  shownCount_ = count;
   RecomputeScale();
   ShowHistory();
 }
@@ -148,21 +142,21 @@ void ThickGraph::AddCurrent() {
     messages_.Tell({Message::kHistoryThicknessDisabled});
     return;
   }
-  const MeasurementSlot* slot = state_.Slot(slot_);
+  const MeasurementSlot* slot = state_.Slot(selectedSlot_());
   if (slot == nullptr || !slot->valid || !slot->thickness.IsComputed()) {
     messages_.Tell({Message::kNoValidData});
     return;
   }
-  AddPointProc(slot->thickness.thicknessNm, slot->thickness.physical);
+  const HistoryAddResult result = session_.AddToHistory(slot->thickness);
+  if (const std::optional<MessageCall> refusal = HistoryRefusal(result)) {
+    messages_.Tell(*refusal);
+  }
 }
 
 void ThickGraph::DeletePoint() {
-  if (!state_.thicknessHistory.Delete(cursor_)) {
+  if (!session_.RemoveFromHistory(cursor_)) {
     messages_.Tell({Message::kHistoryNoPoint});
-    return;
   }
-  RecomputeScale();
-  MoveCursor(0);
 }
 
 QCoro::Task<> ThickGraph::ClearAll() {
@@ -171,9 +165,7 @@ QCoro::Task<> ThickGraph::ClearAll() {
   if (answer != MessageResult::kOk) {
     co_return;
   }
-  state_.thicknessHistory.Clear();
-  RecomputeScale();
-  MoveCursor(0);
+  session_.ClearHistory();
 }
 
 void ThickGraph::MoveCursor(int by) {

@@ -3,9 +3,10 @@
 
 #include <QLabel>
 #include <QMainWindow>
+#include <functional>
 
 #include "base/message.h"
-#include "measurement/vexatype.h"
+#include "measurement/session.h"
 #include "views/common/file_dialogs.h"
 
 namespace vexa {
@@ -18,16 +19,10 @@ class ThickGraph : public QMainWindow {
   Q_OBJECT
 
  public:
-  ThickGraph(VEXATYPE& state, MessageService& messages, FileDialogs& dialogs,
-             CurrentPrinter& printer, QWidget* parent = nullptr);
-
-  /// The slot (1..10) whose thickness the add button appends.
-  void SetCurrentSlot(int slot) { slot_ = slot; }
-
-  /// Appends a thickness and moves the cursor to it. The first point makes the history one of
-  /// physical or of optical thicknesses; a point of the other kind is refused, and so is one past
-  /// the fiftieth, both with a message.
-  void AddPointProc(double thicknessNm, Flag physical);
+  /// `selectedSlot` tells the slot (1..10) whose thickness the add button appends.
+  ThickGraph(Session& session, MessageService& messages, FileDialogs& dialogs,
+             CurrentPrinter& printer, std::function<int()> selectedSlot,
+             QWidget* parent = nullptr);
 
  private:
   void BuildMenus();
@@ -41,12 +36,15 @@ class ThickGraph : public QMainWindow {
   void AskScale();
   void RecomputeScale();
   void ShowHistory();
+  void ShowChange();
 
-  VEXATYPE& state_;
+  Session& session_;
+  const VEXATYPE& state_;
   MessageService& messages_;
   FileDialogs& dialogs_;
   CurrentPrinter& printer_;
-  int slot_ = 1;
+  std::function<int()> selectedSlot_;
+  int shownCount_ = 0;
   int cursor_;  ///< 1..count, 0 without points
   bool autoScale_ = true;
   ThicknessScale scale_;

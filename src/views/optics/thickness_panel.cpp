@@ -23,9 +23,10 @@ QLabel* Value(const QString& name) {
 
 }  // namespace
 
-ThicknessPanel::ThicknessPanel(VEXATYPE& state, MessageService& messages, QWidget* parent)
+ThicknessPanel::ThicknessPanel(Session& session, MessageService& messages, QWidget* parent)
     : QGroupBox(QStringLiteral("膜厚"), parent),
-      state_(state),
+      session_(session),
+      state_(session.State()),
       messages_(messages),
       automatic_(new QCheckBox(QStringLiteral("自動測定"))),
       thickness_(Value(QStringLiteral("Thickness"))) {
@@ -36,9 +37,9 @@ ThicknessPanel::ThicknessPanel(VEXATYPE& state, MessageService& messages, QWidge
   compute->setToolTip(QStringLiteral("選択ｽﾛｯﾄの膜厚を計算"));
   automatic_->setObjectName(QStringLiteral("AutoMesThickChk"));
   automatic_->setToolTip(QStringLiteral("測定後に膜厚を計算"));
-  automatic_->setChecked(state.autoThickness);
+  automatic_->setChecked(state_.autoThickness);
   connect(compute, &QPushButton::clicked, this, &ThicknessPanel::ComputeThickness);
-  connect(automatic_, &QCheckBox::toggled, this, [this](bool on) { state_.autoThickness = on; });
+  connect(automatic_, &QCheckBox::toggled, this, [this](bool on) { session_.SetAutoThickness(on); });
 
   QFont large = font();
   large.setPixelSize(19);
@@ -87,15 +88,15 @@ void ThicknessPanel::ComputeThickness() {
     messages_.Tell({Message::kThicknessDisabled});
     return;
   }
-  MeasurementSlot* slot = state_.Slot(slot_);
+  const MeasurementSlot* slot = state_.Slot(slot_);
   if (slot == nullptr || !slot->valid) {
     messages_.Tell({Message::kNoValidData});
     return;
   }
-  // A failure has had its message, and is shown as no thickness.
-  (void)ComputeSlotThickness(state_, *slot, messages_);
-  Show(slot_);
-  emit Computed();
+  // A failure is shown as no thickness, too.
+  if (const Status status = session_.ComputeThickness(slot_); status != kSuccess) {
+    messages_.Tell(ThicknessMessage(status));
+  }
 }
 
 }  // namespace vexa

@@ -7,7 +7,7 @@
 #include <array>
 
 #include "base/message.h"
-#include "measurement/vexatype.h"
+#include "measurement/session.h"
 
 namespace vexa {
 
@@ -17,7 +17,7 @@ class ThicknessPanel : public QGroupBox {
   Q_OBJECT
 
  public:
-  ThicknessPanel(VEXATYPE& state, MessageService& messages, QWidget* parent = nullptr);
+  ThicknessPanel(Session& session, MessageService& messages, QWidget* parent = nullptr);
 
   /// Shows what the slot (1..10) holds; the button computes for this slot from now on.
   void Show(int selectedSlot);
@@ -25,17 +25,14 @@ class ThicknessPanel : public QGroupBox {
   /// Computes the thickness of the slot shown, with a message when that is not possible.
   void ComputeThickness();
 
- signals:
-  /// A thickness was computed for the slot shown, whether it could be or not.
-  void Computed();
-
  private:
   struct ExtremumLine {
     QLabel* wavelength;
     QLabel* index;
   };
 
-  VEXATYPE& state_;
+  Session& session_;
+  const VEXATYPE& state_;
   MessageService& messages_;
   int slot_ = 1;
   QCheckBox* automatic_;

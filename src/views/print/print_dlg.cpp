@@ -215,7 +215,9 @@ void PrintSlots(const VEXATYPE& state, int selectedSlot, ReportRequest& request,
     messages.Tell({Message::kNoValidData});
     return;
   }
-  PrintDlg(state, selectedSlot, request, printer, messages, parent).exec();
+  auto* dialog = new PrintDlg(state, selectedSlot, request, printer, messages, parent);
+  dialog->setAttribute(Qt::WA_DeleteOnClose);
+  dialog->open();
 }
 
 }  // namespace vexa

@@ -11,9 +11,10 @@
 
 namespace vexa {
 
-CalibrationDlg::CalibrationDlg(VEXATYPE& state, MessageService& messages, QWidget* parent)
+CalibrationDlg::CalibrationDlg(Session& session, MessageService& messages, QWidget* parent)
     : QDialog(parent),
-      state_(state),
+      session_(session),
+      state_(session.State()),
       messages_(messages),
       shift_(new UpDownField(0, kLargestCalibrationShiftNm)) {
   setObjectName(QStringLiteral("CalibrationDlg"));
@@ -21,7 +22,7 @@ CalibrationDlg::CalibrationDlg(VEXATYPE& state, MessageService& messages, QWidge
   shift_->setToolTip(
       Text::tr("光量の波長をずらす量です (0～7 nm)。測定済みの光量にも、次の計算から使われます。"));
   shift_->Field().setObjectName(QStringLiteral("Shift"));
-  shift_->Field().SetValue(state.instrument.calibrationShiftNm);
+  shift_->Field().SetValue(state_.instrument.calibrationShiftNm);
   auto* form = new QFormLayout;
   form->setHorizontalSpacing(24);
   form->addRow(QStringLiteral("ｼﾌﾄ値"), shift_);
@@ -42,7 +43,9 @@ void CalibrationDlg::accept() {
   }
   const QString path = CompletePath(state_, QStringLiteral("vexa.cal"));
   messages_.Tell({Message::kShiftChanged, {path}});
-  state_.instrument.calibrationShiftNm = static_cast<std::int16_t>(*shift);
+  Settings settings = state_;
+  settings.instrument.calibrationShiftNm = static_cast<std::int16_t>(*shift);
+  session_.TakeSettings(settings);
   (void)TellWritten(WriteCalibrationFile(path, state_.instrument.calibrationShiftNm), path,
                     messages_);
   QDialog::accept();

@@ -4,7 +4,7 @@
 #include <QDialog>
 
 #include "base/message.h"
-#include "measurement/vexatype.h"
+#include "measurement/session.h"
 
 namespace vexa {
 
@@ -15,12 +15,13 @@ class CalibrationDlg : public QDialog {
   Q_OBJECT
 
  public:
-  CalibrationDlg(VEXATYPE& state, MessageService& messages, QWidget* parent = nullptr);
+  CalibrationDlg(Session& session, MessageService& messages, QWidget* parent = nullptr);
 
   void accept() override;
 
  private:
-  VEXATYPE& state_;
+  Session& session_;
+  const VEXATYPE& state_;
   MessageService& messages_;
   UpDownField* shift_;
 };

@@ -40,8 +40,9 @@ std::int16_t Whole(double value) {
 
 }  // namespace
 
-dispset::dispset(VEXATYPE& state, MessageService& messages, QWidget* parent)
-    : QDialog(parent), state_(state), messages_(messages) {
+dispset::dispset(Session& session, MessageService& messages, QWidget* parent)
+    : QDialog(parent), session_(session),
+      state_(session.State()), messages_(messages) {
   setObjectName(QStringLiteral("dispset"));
   setWindowTitle(QStringLiteral("表示設定"));
   auto* body = new QWidget;
@@ -95,11 +96,10 @@ QCoro::Task<> dispset::Finish() {
       co_return;
     }
     if (answer == MessageResult::kYes) {
-      state_.stock.RemoveAll();
+      session_.RemoveAllColours();
     }
   }
   Store(entries, conditions);
-  EvaluateAgain(state_);
   QDialog::accept();
 }
 
@@ -306,7 +306,8 @@ StockConditions dispset::Conditions() const {
 
 // Entries that a flag replaces are stored where they are numbers, and kept as they were elsewhere.
 void dispset::Store(const DisplayEntries& entries, const StockConditions& conditions) {
-  DisplaySettings& display = state_.display;
+  Settings settings = state_;
+  DisplaySettings& display = settings.display;
   display.fullScale = entries.fullScale;
   display.shortestNm =
       entries.fullScale ? ReflectanceSpectrum::kFirstNm : std::round(*entries.shortestNm);
@@ -324,10 +325,11 @@ void dispset::Store(const DisplayEntries& entries, const StockConditions& condit
   display.showReferenceData = reference_->isChecked();
   display.showCursor = cursor_->isChecked();
   display.showMinimum = minimumMark_->isChecked();
-  state_.colour.illuminant = conditions.illuminant;
-  state_.colour.observer2Deg = conditions.observer2Deg;
-  state_.colour.avgFrom = Whole(*entries.averageShortestNm);
-  state_.colour.avgTo = Whole(*entries.averageLongestNm);
+  settings.colour.illuminant = conditions.illuminant;
+  settings.colour.observer2Deg = conditions.observer2Deg;
+  settings.colour.avgFrom = Whole(*entries.averageShortestNm);
+  settings.colour.avgTo = Whole(*entries.averageLongestNm);
+  session_.TakeSettings(settings);
 }
 
 }  // namespace vexa

@@ -7,7 +7,7 @@
 #include <QGridLayout>
 
 #include "base/message.h"
-#include "measurement/vexatype.h"
+#include "measurement/session.h"
 #include "views/common/number_field.h"
 #include "views/settings/display_check.h"
 
@@ -19,7 +19,7 @@ class dispset : public QDialog {
   Q_OBJECT
 
  public:
-  dispset(VEXATYPE& state, MessageService& messages, QWidget* parent = nullptr);
+  dispset(Session& session, MessageService& messages, QWidget* parent = nullptr);
 
   void accept() override;
 
@@ -42,7 +42,8 @@ class dispset : public QDialog {
   [[nodiscard]] StockConditions Conditions() const;
   void Store(const DisplayEntries& entries, const StockConditions& conditions);
 
-  VEXATYPE& state_;
+  Session& session_;
+  const VEXATYPE& state_;
   MessageService& messages_;
   QCheckBox* fullScale_ = nullptr;
   NumberField* shortest_ = nullptr;

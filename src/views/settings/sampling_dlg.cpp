@@ -6,9 +6,9 @@
 #include <QHBoxLayout>
 #include <QLabel>
 
+#include "instrument/controller.h"
 #include "base/number_text.h"
 #include "base/translation.h"
-#include "measurement/controller_start.h"
 #include "views/common/dialog_buttons.h"
 #include "views/common/theme.h"
 #include "views/common/up_down_field.h"
@@ -25,11 +25,11 @@ constexpr int kUnitGap = 6;
 
 }  // namespace
 
-SamplingDlg::SamplingDlg(VEXATYPE& state, Controller& controller, MessageService& messages,
+SamplingDlg::SamplingDlg(Session& session, MessageService& messages,
                          QWidget* parent)
     : QDialog(parent),
-      state_(state),
-      controller_(controller),
+      session_(session),
+      state_(session.State()),
       messages_(messages),
       time_(new IntegerField),
       averaging_(new UpDownField(1, kMostLines)),
@@ -37,9 +37,9 @@ SamplingDlg::SamplingDlg(VEXATYPE& state, Controller& controller, MessageService
   setObjectName(QStringLiteral("SamplingDlg"));
   setWindowTitle(QStringLiteral("ｻﾝﾌﾟﾘﾝｸﾞ設定"));
   averaging_->Field().setObjectName(QStringLiteral("Averaging"));
-  averaging_->Field().SetValue(state.instrument.averagingCount);
+  averaging_->Field().SetValue(state_.instrument.averagingCount);
   time_->setObjectName(QStringLiteral("Time"));
-  time_->SetValue(state.instrument.samplingTimeMs);
+  time_->SetValue(state_.instrument.samplingTimeMs);
   auto* group = new QGroupBox(QStringLiteral("ｻﾝﾌﾟﾘﾝｸﾞ"));
   auto* form = new QFormLayout(group);
   form->setHorizontalSpacing(24);
@@ -108,9 +108,10 @@ void SamplingDlg::accept() {
     EnterAgain(averaging_->Field());
     return;
   }
-  state_.instrument.samplingTimeMs = static_cast<std::int16_t>(*timeMs);
-  state_.instrument.averagingCount = static_cast<std::int16_t>(*averaging);
-  (void)SendSamplingSettings(controller_, state_.instrument, messages_);
+  Settings settings = state_;
+  settings.instrument.samplingTimeMs = static_cast<std::int16_t>(*timeMs);
+  settings.instrument.averagingCount = static_cast<std::int16_t>(*averaging);
+  session_.TakeSettings(settings);
   QDialog::accept();
 }
 

@@ -4,8 +4,7 @@
 #include <QDialog>
 
 #include "base/message.h"
-#include "instrument/controller.h"
-#include "measurement/vexatype.h"
+#include "measurement/session.h"
 
 class QLabel;
 
@@ -20,7 +19,7 @@ class SamplingDlg : public QDialog {
   Q_OBJECT
 
  public:
-  SamplingDlg(VEXATYPE& state, Controller& controller, MessageService& messages,
+  SamplingDlg(Session& session, MessageService& messages,
               QWidget* parent = nullptr);
 
   void accept() override;
@@ -28,8 +27,8 @@ class SamplingDlg : public QDialog {
  private:
   void UpdateHint();
 
-  VEXATYPE& state_;
-  Controller& controller_;
+  Session& session_;
+  const VEXATYPE& state_;
   MessageService& messages_;
   IntegerField* time_;
   UpDownField* averaging_;

@@ -3,11 +3,11 @@
 
 #include "standards/standard_file.h"
 #include "views/common/file_questions.h"
-#include "views/files/file_questions.h"
+#include "views/common/file_questions.h"
 
 namespace vexa {
 
-StandardContents ContentsOf(const VEXATYPE& state) {
+StandardContents ContentsOf(const Settings& state) {
   return {state.standard, state.chromaMarker, state.hueMarker};
 }
 
@@ -44,8 +44,9 @@ QCoro::Task<std::optional<QString>> SaveStandardFile(StandardContents contents, 
   co_return std::nullopt;
 }
 
-QCoro::Task<bool> SaveStandardsBeforeExit(VEXATYPE& state, MessageService& messages,
+QCoro::Task<bool> SaveStandardsBeforeExit(Session& session, MessageService& messages,
                                           FileDialogs& dialogs) {
+  const VEXATYPE& state = session.State();
   if (!state.standardsChanged || state.standardFileName.isEmpty()) {
     co_return true;
   }
@@ -61,8 +62,10 @@ QCoro::Task<bool> SaveStandardsBeforeExit(VEXATYPE& state, MessageService& messa
   if (!path) {
     co_return false;
   }
-  state.standardFileName = *path;
-  state.standardsChanged = false;
+  Settings settings = session.State();
+  settings.standardFileName = *path;
+  settings.standardsChanged = false;
+  session.TakeSettings(settings);
   co_return true;
 }
 

@@ -5,14 +5,14 @@
 #include <optional>
 
 #include "base/message.h"
-#include "measurement/vexatype.h"
+#include "measurement/session.h"
 #include "standards/standard_file.h"
 #include "views/common/file_dialogs.h"
 
 namespace vexa {
 
 /// What a standard file of the state would hold.
-[[nodiscard]] StandardContents ContentsOf(const VEXATYPE& state);
+[[nodiscard]] StandardContents ContentsOf(const Settings& state);
 
 /// A standard file and its full path.
 struct StandardFile {
@@ -34,7 +34,7 @@ struct StandardFile {
 
 /// The question at the end of the program when the standards were changed and their file has a
 /// name. False when they were to be saved and are not: the program is to go on then.
-[[nodiscard]] QCoro::Task<bool> SaveStandardsBeforeExit(VEXATYPE& state, MessageService& messages,
+[[nodiscard]] QCoro::Task<bool> SaveStandardsBeforeExit(Session& session, MessageService& messages,
                                                         FileDialogs& dialogs);
 
 }  // namespace vexa

@@ -28,13 +28,14 @@ QPushButton* MakeButton(const char* name, const QString& caption) {
 
 }  // namespace
 
-StandardFrm::StandardFrm(VEXATYPE& state, MessageService& messages, FileDialogs& dialogs,
+StandardFrm::StandardFrm(Session& session, MessageService& messages, FileDialogs& dialogs,
                          QWidget* parent)
     : QDialog(parent),
-      state_(state),
+      session_(session),
+      state_(session.State()),
       messages_(messages),
       dialogs_(dialogs),
-      fileName_(state.standardFileName),
+      fileName_(session.State().standardFileName),
       conditions_(new ConditionsGroup),
       average_(new LimitsGroup(QStringLiteral("averageReflectance"),
                                QStringLiteral("平均反射率を使用する"), QStringLiteral("%"))),
@@ -56,8 +57,8 @@ StandardFrm::StandardFrm(VEXATYPE& state, MessageService& messages, FileDialogs&
       fileHint_(new QLabel(QStringLiteral("保存されていない規格は終了時に失われます。"))) {
   setObjectName(QStringLiteral("StandardFrm"));
   setWindowTitle(QStringLiteral("規格設定"));
-  if (!state.standardsChanged) {
-    inFile_ = ContentsOf(state);
+  if (!state_.standardsChanged) {
+    inFile_ = ContentsOf(state_);
   }
   auto* ok = MakeButton("btnOK", QStringLiteral("OK"));
   ok->setDefault(true);
@@ -83,7 +84,7 @@ StandardFrm::StandardFrm(VEXATYPE& state, MessageService& messages, FileDialogs&
   layout->addWidget(new ScrollBody(body), 1);
   layout->addLayout(BuildFileRow());
   layout->addLayout(buttons);
-  Show(ContentsOf(state));
+  Show(ContentsOf(state_));
   ShowFileName();
   BeginWithFirstField(*this);
   resize(sizeHint());
@@ -233,7 +234,9 @@ QCoro::Task<> StandardFrm::Save() {
   fileName_ = *path;
   inFile_ = contents;
   if (*path == state_.standardFileName) {
-    state_.standardsChanged = *contents != ContentsOf(state_);
+    Settings settings = state_;
+    settings.standardsChanged = *contents != ContentsOf(state_);
+    session_.TakeSettings(settings);
   }
   ShowFileName();
 }
@@ -243,16 +246,13 @@ void StandardFrm::accept() {
   if (!contents) {
     return;
   }
-  state_.standardsChanged = contents != inFile_;
-  state_.standard = contents->standard;
-  state_.chromaMarker = contents->chromaMarker;
-  state_.hueMarker = contents->hueMarker;
-  state_.standardFileName = fileName_;
-  for (MeasurementSlot& slot : state_.measurementSlots) {
-    if (slot.valid) {
-      JudgeSlot(state_, slot);
-    }
-  }
+  Settings settings = state_;
+  settings.standardsChanged = contents != inFile_;
+  settings.standard = contents->standard;
+  settings.chromaMarker = contents->chromaMarker;
+  settings.hueMarker = contents->hueMarker;
+  settings.standardFileName = fileName_;
+  session_.TakeSettings(settings);
   QDialog::accept();
 }
 

@@ -6,6 +6,7 @@
 #include <QRadioButton>
 #include <optional>
 
+#include "measurement/session.h"
 #include "views/standards/conditions_group.h"
 #include "views/standards/limits_group.h"
 #include "views/standards/marker_group.h"
@@ -20,7 +21,7 @@ class StandardFrm : public QDialog {
   Q_OBJECT
 
  public:
-  StandardFrm(VEXATYPE& state, MessageService& messages, FileDialogs& dialogs,
+  StandardFrm(Session& session, MessageService& messages, FileDialogs& dialogs,
               QWidget* parent = nullptr);
 
   void accept() override;
@@ -37,7 +38,8 @@ class StandardFrm : public QDialog {
   void Load();
   QCoro::Task<> Save();
 
-  VEXATYPE& state_;
+  Session& session_;
+  const VEXATYPE& state_;
   MessageService& messages_;
   FileDialogs& dialogs_;
   QString fileName_;

@@ -5,7 +5,7 @@
 #include <functional>
 #include <memory>
 
-namespace vexa::simulator {
+namespace vexa {
 
 /// Turns SIGINT, SIGTERM and SIGHUP into a call in the event loop, and lets writing to a closed
 /// pipe fail instead of ending the program. To be made after the application object and
@@ -23,4 +23,4 @@ class EndSignals {
   std::unique_ptr<QSocketNotifier> notifier_;
 };
 
-}  // namespace vexa::simulator
+}  // namespace vexa

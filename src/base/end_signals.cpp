@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "simulator/end_signals.h"
+#include "base/end_signals.h"
 
 #include <sys/signalfd.h>
 #include <unistd.h>
@@ -9,7 +9,7 @@
 #include <system_error>
 #include <utility>
 
-namespace vexa::simulator {
+namespace vexa {
 
 EndSignals::EndSignals(std::function<void()> asked) {
   sigset_t endings;
@@ -38,4 +38,4 @@ EndSignals::~EndSignals() {
   ::close(descriptor_);
 }
 
-}  // namespace vexa::simulator
+}  // namespace vexa

@@ -1,0 +1,80 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <QCoroTask>
+#include <QObject>
+#include <functional>
+#include <memory>
+
+#include "base/awakening.h"
+#include "base/message.h"
+#include "instrument/controller.h"
+#include "measurement/measurement_sequence.h"
+
+namespace vexa {
+
+/// The instrument as a window works with it: its controller, and what is asked of it, one thing
+/// after the other. Whatever goes wrong is told here.
+class InstrumentDesk : public QObject {
+  Q_OBJECT
+
+ public:
+  enum class Activity {
+    kIdle,
+    kStarting,   ///< the controller is being initialised, or set up
+    kMeasuring,
+  };
+  /// Makes the controller that the settings name.
+  using MakeController = std::function<std::unique_ptr<Controller>(const VEXATYPE&)>;
+
+  InstrumentDesk(Session& session, MessageService& messages, MakeController makeController);
+  ~InstrumentDesk() override;
+
+  [[nodiscard]] Activity CurrentActivity() const { return activity_; }
+  [[nodiscard]] bool IsIdle() const { return activity_ == Activity::kIdle; }
+  /// The controller has been initialised.
+  [[nodiscard]] bool IsReady() const { return ready_; }
+  [[nodiscard]] bool IsLightPathClosed() const;
+
+  /// Initialises the controller that the settings name, in the place of an earlier one.
+  QCoro::Task<> Connect();
+  /// Sends the sampling in force, where there is a controller.
+  QCoro::Task<> SendSampling();
+  /// Opens the light as a background leaves it, for frames that were restored.
+  QCoro::Task<> OpenLightPath();
+
+  QCoro::Task<> MeasureBackground();
+  QCoro::Task<> MeasureReference();
+  /// Asks before a measured slot is measured over.
+  QCoro::Task<> MeasureSample(int slot);
+  /// Empties all slots after a question.
+  QCoro::Task<> ClearAll();
+
+  /// Ends at once what is being done.
+  void Cancel();
+  /// Likewise, and is done when all is at rest.
+  QCoro::Task<> Finish();
+  /// Closes the link.
+  void Close();
+
+ signals:
+  void ActivityChanged();
+  void Began(vexa::MeasurementKind kind, int slot);
+  void Ended(vexa::MeasurementKind kind, int slot);
+  void WaitBegan(vexa::AwaitedStep step, int expectedMs, int limitMs);
+  void WaitEnded();
+
+ private:
+  void SetActivity(Activity activity);
+
+  Session& session_;
+  MessageService& messages_;
+  MakeController makeController_;
+  MeasurementSequence sequence_;
+  Activity activity_ = Activity::kIdle;
+  bool ready_ = false;
+  Awakening idle_;
+  std::unique_ptr<Controller> controller_;
+};
+
+}  // namespace vexa

@@ -1,0 +1,152 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "app/window_commands.h"
+
+#include <QDialog>
+#include <utility>
+
+#include "app/version_dialog.h"
+#include "views/colour/colour_difference_window.h"
+#include "views/common/quiet_messages.h"
+#include "views/files/addinp_frm.h"
+#include "views/files/data_file_commands.h"
+#include "views/files/environment_commands.h"
+#include "views/optics/ref_set_dlg.h"
+#include "views/optics/thick_graph.h"
+#include "views/optics/wave_list_dlg.h"
+#include "views/print/print_dlg.h"
+#include "views/print/print_setup_dlg.h"
+#include "views/print/report.h"
+#include "views/settings/calibration_dlg.h"
+#include "views/settings/dispset.h"
+#include "views/settings/sampling_dlg.h"
+#include "views/settings/table.h"
+#include "views/standards/standard_frm.h"
+
+namespace vexa {
+
+WindowCommands::WindowCommands(const MenuCommands& menu, Session& session, InstrumentDesk& desk,
+                               MessageService& messages, FileDialogs& dialogs,
+                               std::function<int()> selectedSlot, QWidget& window)
+    : menu_(menu),
+      session_(session),
+      state_(session.State()),
+      desk_(desk),
+      messages_(messages),
+      dialogs_(dialogs),
+      selectedSlot_(std::move(selectedSlot)),
+      window_(window),
+      printer_(session.State(), messages, dialogs) {
+  ConnectFiles();
+  ConnectWindows();
+}
+
+void WindowCommands::ShowAvailable(bool usable) {
+  const bool idle = usable && desk_.IsIdle();
+  for (QAction* action : {menu_.openFile, menu_.openEnvironment, menu_.sampleInformation}) {
+    action->setEnabled(idle);
+  }
+  menu_.samplingSettings->setEnabled(idle && desk_.IsReady());
+  menu_.reconnect->setEnabled(idle && !desk_.IsReady());
+}
+
+void WindowCommands::ConnectFiles() {
+  Do(menu_.openFile, [this] { OpenDataFile(session_, messages_, dialogs_); });
+  Do(menu_.saveFileAs, [this] { SaveDataFileAs(session_, messages_, dialogs_); });
+  Do(menu_.openEnvironment, [this] { TakeOverEnvironment(); });
+  Do(menu_.saveEnvironment, [this] { SaveEnvironment(session_, messages_); });
+  Do(menu_.saveEnvironmentAs, [this] { SaveEnvironmentAs(session_, messages_, dialogs_); });
+  Do(menu_.print, [this] { Print(); });
+  Do(menu_.quit, [this] { window_.close(); });
+  Do(menu_.reconnect, [this] { TakeOverController(); });
+  for (QAction* view : menu_.views->actions()) {
+    Do(view, [this, view] { session_.SetView(static_cast<std::int16_t>(view->data().toInt())); });
+  }
+}
+
+void WindowCommands::ConnectWindows() {
+  Open(menu_.printSettings, [this] { return new PrintSetupDlg(printer_, messages_, &window_); });
+  Open(menu_.sampleInformation,
+       [this] { return new AddinpFrm(session_, messages_, selectedSlot_(), &window_); });
+  Open(menu_.referenceSettings, [this] {
+    return new RefSetDlg(RefSetDlg::Mode::kReference, session_, messages_, dialogs_, &window_);
+  });
+  Open(menu_.thicknessSettings, [this] {
+    return new RefSetDlg(RefSetDlg::Mode::kThickness, session_, messages_, dialogs_, &window_);
+  });
+  Open(menu_.displaySettings, [this] { return new dispset(session_, messages_, &window_); });
+  Open(menu_.settingsList, [this] { return MakeSettingsList(); });
+  Open(menu_.colourDifference, [this] {
+    return new ColourDifferenceWindow(state_, selectedSlot_(), printer_, messages_, dialogs_,
+                                      &window_);
+  });
+  Open(menu_.standards,
+       [this] { return new StandardFrm(session_, messages_, dialogs_, &window_); });
+  Open(menu_.wavelengthList,
+       [this] { return new WaveListDlg(state_, selectedSlot_(), printer_, &window_); });
+  Open(menu_.samplingSettings, [this] {
+    auto* dialog = new SamplingDlg(session_, messages_, &window_);
+    connect(dialog, &QDialog::accepted, &desk_, &InstrumentDesk::SendSampling);
+    return dialog;
+  });
+  Open(menu_.calibration, [this] { return new CalibrationDlg(session_, messages_, &window_); });
+  Open(menu_.version, [this] { return MakeVersionDialog(&window_); });
+  Do(menu_.thicknessGraph, [this] { ShowThicknessGraph(); });
+}
+
+void WindowCommands::Do(QAction* action, std::function<void()> run) {
+  action->setEnabled(true);
+  connect(action, &QAction::triggered, this, std::move(run));
+}
+
+void WindowCommands::Open(QAction* action, std::function<QDialog*()> make) {
+  Do(action, [make = std::move(make)] {
+    QDialog* dialog = make();
+    dialog->setAttribute(Qt::WA_DeleteOnClose);
+    dialog->open();
+  });
+}
+
+QCoro::Task<> WindowCommands::TakeOverEnvironment() {
+  if (OpenEnvironment(session_, messages_, dialogs_)) {
+    co_await desk_.SendSampling();
+  }
+}
+
+QCoro::Task<> WindowCommands::TakeOverController() {
+  co_await desk_.Connect();
+  co_await desk_.SendSampling();
+  if (state_.backgroundMeasured) {
+    co_await desk_.OpenLightPath();
+  }
+}
+
+void WindowCommands::Print() {
+  const QDate today = session_.Now().date();
+  if (!report_.date.isValid()) {
+    report_ = UsualReport(state_, today);
+  }
+  report_.date = today;
+  report_.unsaved = !state_.slotsSaved;
+  PrintSlots(state_, selectedSlot_(), report_, printer_, messages_, &window_);
+}
+
+void WindowCommands::ShowThicknessGraph() {
+  if (thicknessGraph_ == nullptr) {
+    thicknessGraph_ =
+        new ThickGraph(session_, messages_, dialogs_, printer_, selectedSlot_, &window_);
+  }
+  thicknessGraph_->show();
+  thicknessGraph_->raise();
+}
+
+QDialog* WindowCommands::MakeSettingsList() {
+  // The list is printed as it is shown: a printer of its own tells nothing about its settings.
+  auto quiet = std::make_shared<QuietMessages>(messages_);
+  auto printer = std::make_shared<CurrentPrinter>(state_, *quiet, dialogs_);
+  const auto print = [quiet, printer](const table::Paint& paint) {
+    printer->Print(QStringLiteral("VEXA設定一覧"), SinglePage(paint));
+  };
+  return new table(state_, print, &window_);
+}
+
+}  // namespace vexa
