@@ -11,18 +11,15 @@
 #include "files/keep_unreadable.h"
 
 namespace vexa {
-namespace {
-
-QString NameForStartup(const VEXATYPE& state) {
-  const QFileInfo file(CompletePath(state, state.envFileName));
-  const bool here = QFileInfo(file.absolutePath()) == QFileInfo(state.programDirectory);
-  return here ? file.fileName() : state.envFileName;
-}
-
-}  // namespace
 
 QString StartupPath(const QString& programDirectory) {
   return QDir(programDirectory).filePath(QStringLiteral("vexa.int"));
+}
+
+QString NameForStartup(const VEXATYPE& state, const QString& envFileName) {
+  const QFileInfo file(CompletePath(state, envFileName));
+  const bool here = QFileInfo(file.absolutePath()) == QFileInfo(state.programDirectory);
+  return here ? file.fileName() : envFileName;
 }
 
 ReadResult<StartupContent> ReadStartupFile(const QString& path) {
@@ -60,7 +57,7 @@ WriteResult WriteStartupFile(const VEXATYPE& state) {
   const StartupContent written;
   FileText text;
   text.Line(file_kind::kStartup.header.toString())
-      .Line(NameForStartup(state))
+      .Line(NameForStartup(state, state.envFileName))
       .Number(state.instrument.controllerPort);
   for (std::size_t i = 0; i < written.linePositions.size(); ++i) {
     text.Number(state.instrument.linePositions[i]);

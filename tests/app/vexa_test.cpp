@@ -394,7 +394,7 @@ TEST_F(MainWindow, VerdictsStandInTheStatusBar) {
   set.averageReflectance = {true, 100.0, 0.0};
   set.luminousReflectance = {true, 0.5, 0.0};
   state.standardFileName = files.Path("規格.std");
-  ASSERT_TRUE(WriteStandardFile(state.standardFileName, set, {}, {}));
+  ASSERT_TRUE(WriteStandardFile(state.standardFileName, {set, {}, {}}));
   MeasureThrough(1);
   OpenEnvironment(state);
   EXPECT_EQ(Text("StatusPanel2"), "");

@@ -99,7 +99,7 @@ TEST_F(Analysis, ComputesTheThicknessOnRequest) {
 TEST_F(Analysis, JudgesWithAStandard) {
   StandardSet standard;
   standard.luminousReflectance = {true, 25.0, 15.0};
-  ASSERT_TRUE(WriteStandardFile(files.Path("s.std"), standard, {}, {}));
+  ASSERT_TRUE(WriteStandardFile(files.Path("s.std"), {standard, {}, {}}));
   const Outcome outcome = Analyse("--json --standard @s.std");
   EXPECT_EQ(outcome.status, 3) << outcome.err.constData();
   const auto panels = [&outcome](int index) {
@@ -112,7 +112,7 @@ TEST_F(Analysis, JudgesWithAStandard) {
   EXPECT_TRUE(Analyse("--standard @s.std").out.contains("slot judgement\n   1 "));
 
   standard.luminousReflectance.lower = 0.0;
-  ASSERT_TRUE(WriteStandardFile(files.Path("s.std"), standard, {}, {}));
+  ASSERT_TRUE(WriteStandardFile(files.Path("s.std"), {standard, {}, {}}));
   EXPECT_EQ(Analyse("--standard @s.std").status, 0);
   EXPECT_EQ(Analyse("--standard @missing.std").status, 1);
 }

@@ -33,8 +33,8 @@ class Judging : public test::CommandLine {
   }
 
   void WriteStandard() const {
-    ASSERT_TRUE(WriteStandardFile(files.Path("a.std"), state.standard, state.chromaMarker,
-                                  state.hueMarker));
+    ASSERT_TRUE(WriteStandardFile(files.Path("a.std"),
+                                  {state.standard, state.chromaMarker, state.hueMarker}));
   }
   [[nodiscard]] Outcome Judge(const QByteArray& arguments = {}) const {
     return Run("judge @data.csv --standard @a.std --dir @ " + arguments);

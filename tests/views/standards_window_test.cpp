@@ -49,8 +49,7 @@ class StandardsWindow : public test::WindowTest {
   }
   bool HintIsShown() { return Find<QWidget>("fileHint").isVisibleTo(window.get()); }
   QString Write(const char* name, const StandardContents& contents) const {
-    EXPECT_TRUE(WriteStandardFile(files.Path(name), contents.standard, contents.chromaMarker,
-                                  contents.hueMarker));
+    EXPECT_TRUE(WriteStandardFile(files.Path(name), contents));
     return files.Path(name);
   }
 

@@ -5,6 +5,7 @@
 
 #include "files/configuration.h"
 #include "files/environment_file.h"
+#include "files/startup_file.h"
 #include "measurement/dispersion_data.h"
 #include "measurement/evaluation.h"
 #include "views/files/file_questions.h"
@@ -24,7 +25,7 @@ bool OpenEnvironment(VEXATYPE& state, MessageService& messages, FileDialogs& dia
   const std::optional<QString> path = dialogs.AskOpen(
       QStringLiteral("環境ﾌｧｲﾙを開く"),
       QStringLiteral("環境ﾃﾞｰﾀ･ﾌｧｲﾙ(*.env)|*.env|") + QStringLiteral("全てのﾌｧｲﾙ(*.*)|*.*|"));
-  if (!path || !MayKeepName(*path, messages)) {
+  if (!path || !MayKeepName(NameForStartup(state, *path), messages)) {
     return false;
   }
   const Environment environment = ReadEnvironment(*path, state.programDirectory);
@@ -59,7 +60,7 @@ QCoro::Task<> SaveEnvironmentAs(VEXATYPE& state, MessageService& messages, FileD
     co_return;
   }
   const QString path = WithExtension(choice->path, QStringLiteral(".env"));
-  if (!MayKeepName(path, messages)) {
+  if (!MayKeepName(NameForStartup(state, path), messages)) {
     co_return;
   }
   const bool may = co_await MayReplace(path, messages);
