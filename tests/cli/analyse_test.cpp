@@ -96,6 +96,15 @@ TEST_F(Analysis, ComputesTheThicknessOnRequest) {
   }
 }
 
+TEST_F(Analysis, NoThicknessFromAnIndexThatNobodyGave) {
+  files.Write("bare.csv", files.Read("data.csv"));
+  const Outcome both = Analyse("--json --thickness --type C --substrate @bare.csv");
+  EXPECT_EQ(Object(Slot(both, 1), "thickness")[QLatin1String("status")].toInt(), -3);
+  for (const char* index : {"0.099", "10.01", "-1"}) {
+    EXPECT_EQ(Analyse(QByteArray("--thickness --index ") + index).status, 2) << index;
+  }
+}
+
 TEST_F(Analysis, JudgesWithAStandard) {
   StandardSet standard;
   standard.luminousReflectance = {true, 25.0, 15.0};
@@ -148,7 +157,7 @@ TEST_F(Analysis, ShowsAndRewritesAStockFile) {
   const Outcome cut = Run("stock @cut.stc --json");
   EXPECT_EQ(cut.status, 1);
   EXPECT_FALSE(cut["read"].toBool(true));
-  EXPECT_EQ(cut["points"].toArray().size(), 1);
+  EXPECT_EQ(cut["points"].toArray().size(), 0);
   EXPECT_TRUE(cut.err.startsWith("VEXA-KT ｴﾗｰ: ")) << cut.err.constData();
 }
 

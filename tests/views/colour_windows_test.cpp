@@ -17,10 +17,8 @@ namespace {
 using test::Shown;
 using test::ShownMessage;
 
-const ShownMessage kReadError{
-    "VEXA-KT ｴﾗｰ: ﾃﾞｰﾀ･ﾌｧｲﾙの読み込みでエラーが発生しました。\r\r"
-    "VEXA-KT 440-840 Ver3.21 Stock Fileﾌｧｲﾙではありません\r\rﾌｧｲﾙを確認してください。",
-    16};
+const ShownMessage kReadError{Message::kStockReadError,
+                              {QStringLiteral("VEXA-KT 440-840 Ver3.21 Stock File")}};
 
 class Stock : public test::WindowTest {
  protected:
