@@ -37,10 +37,15 @@ inline void PrintTo(const ShownMessage& message, std::ostream* out) {
 
 using Shown = std::vector<ShownMessage>;
 
-/// Keeps every message and gives the prepared answers one after another, then OK.
+/// Keeps every message and gives the prepared answers to questions one after another, then OK.
 class PreparedAnswers : public MessageService {
  public:
-  void Tell(const MessageCall& call) override { Show({call.id, call.arguments}); }
+  void Tell(const MessageCall& call) override {
+    shown_.push_back({call.id, call.arguments});
+    if (whenShown) {
+      whenShown();
+    }
+  }
   QCoro::Task<MessageResult> Ask(MessageCall call) override {
     co_return Show({call.id, call.arguments});
   }
