@@ -6,6 +6,7 @@
 #include <numbers>
 
 #include "cli/running_programs.h"
+#include "files/environment_file.h"
 #include "standards/standard_file.h"
 
 namespace vexa {
@@ -103,6 +104,13 @@ TEST_F(Analysis, NoThicknessFromAnIndexThatNobodyGave) {
   for (const char* index : {"0.099", "10.01", "-1"}) {
     EXPECT_EQ(Analyse(QByteArray("--thickness --index ") + index).status, 2) << index;
   }
+}
+
+TEST_F(Analysis, TheEnvironmentOfTheDirectoryCountsWithoutAStartupFile) {
+  VEXATYPE settings;
+  settings.colour.avgFrom = settings.colour.avgTo = 840;
+  ASSERT_TRUE(WriteEnvFile(files.Path("vexa.env"), settings));
+  EXPECT_NEAR(Number(Object(Slot(Analyse("--json"), 2), "colour"), "Rm"), 1.0, 1e-12);
 }
 
 TEST_F(Analysis, JudgesWithAStandard) {
