@@ -306,6 +306,7 @@ TEST_F(MainWindow, CalibrationShiftIsKeptInItsFile) {
     EXPECT_EQ(messages.Take(), std::vector{range});
   }
   EXPECT_FALSE(peer.files.Has("vexa.cal"));
+  peer.files.Write("vexa.cal", "unreadable");
   InDialog(window->Commands().calibration, [](QWidget& dialog) {
     Type(dialog, "Shift", "7");
     Click(dialog, "OK");
@@ -316,6 +317,7 @@ TEST_F(MainWindow, CalibrationShiftIsKeptInItsFile) {
                         Path("vexa.cal").toStdString(),
                     64}}));
   EXPECT_EQ(peer.files.Read("vexa.cal"), "VEXA-KT 440-840 Ver 3.21 Calibration File\r\n 7 \r\n");
+  EXPECT_EQ(peer.files.Read("vexa.cal.bad"), "unreadable");
   EXPECT_EQ(window->State().instrument.calibrationShiftNm, 7);
 }
 

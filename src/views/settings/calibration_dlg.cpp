@@ -3,6 +3,7 @@
 
 #include <QFormLayout>
 
+#include "files/keep_unreadable.h"
 #include "instrument/calibration_file.h"
 #include "views/common/dialog_buttons.h"
 #include "views/common/up_down_field.h"
@@ -39,8 +40,10 @@ void CalibrationDlg::accept() {
   const QString path = CompletePath(state_, QStringLiteral("vexa.cal"));
   messages_.Tell({Message::kShiftChanged, {path}});
   state_.instrument.calibrationShiftNm = static_cast<std::int16_t>(*shift);
-  (void)TellWritten(WriteCalibrationFile(path, state_.instrument.calibrationShiftNm), path,
-                    messages_);
+  const WriteResult kept =
+      KeepUnreadable(path, [&path] { return static_cast<bool>(ReadCalibrationFile(path)); });
+  (void)TellWritten(kept ? WriteCalibrationFile(path, state_.instrument.calibrationShiftNm) : kept,
+                    path, messages_);
   QDialog::accept();
 }
 
