@@ -101,8 +101,8 @@ ReadResult<EnvironmentContent> ReadEnvFile(const QString& path) {
     TextReader reader = TextReader::Open(path);
     // An empty file has no header, and so no version.
     const QString header = reader.AtEnd() ? QString() : reader.Field();
-    EnvironmentContent content{
-        .version = ReadHeaderVersion(header, file_kind::kEnvironment.word), .lines = {}};
+    EnvironmentContent content{.version = ReadHeaderVersion(header, file_kind::kEnvironment.word),
+                               .lines = {}};
     if (content.version < file_kind::kEnvironment.oldest) {
       throw ReadFault({.kind = FileFaultKind::kVersion, .line = 1, .version = content.version});
     }
