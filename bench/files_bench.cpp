@@ -34,7 +34,10 @@ void ReadTenSlots(benchmark::State& state) {
     state.SkipWithError("not written");
   }
   while (state.KeepRunning()) {
-    if (!vexa::ReadCsvDataFile(path, slots10, messages)) {
+    const auto content = vexa::ReadCsvDataFile(path);
+    if (content) {
+      vexa::StoreDataFile(*content, slots10, messages);
+    } else {
       state.SkipWithError("not read");
     }
   }

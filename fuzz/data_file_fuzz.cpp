@@ -9,8 +9,14 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
   vexa::fuzz::Silence messages;
   vexa::VEXATYPE state;
   state.accumulate = true;
-  (void)vexa::ReadCsvDataFile(file.Path(), state, messages);
-  (void)vexa::ReadDatDataFile(file.Path(), state, messages);
-  (void)vexa::ReadAddDataFile(file.Path(), state, messages);
+  for (const auto& content :
+       {vexa::ReadCsvDataFile(file.Path()), vexa::ReadDatDataFile(file.Path())}) {
+    if (content) {
+      vexa::StoreDataFile(*content, state, messages);
+    }
+  }
+  if (const auto infos = vexa::ReadAddDataFile(file.Path())) {
+    vexa::StoreSampleInfos(*infos, state);
+  }
   return 0;
 }

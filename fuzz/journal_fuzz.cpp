@@ -10,7 +10,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
   const QByteArray bytes(reinterpret_cast<const char*>(data), static_cast<qsizetype>(size));
   vexa::SessionImage entries = vexa::EmptySession();
   entries.fill(bytes);
-  const QByteArray sealed = vexa::kJournalHeader.toByteArray() + vexa::SealRecord(bytes);
+  const QByteArray sealed = vexa::JournalHeader() + vexa::SealRecord(bytes);
   for (const vexa::SessionImage& image :
        {vexa::ReadJournal(bytes).image, vexa::ReadJournal(sealed).image, entries}) {
     vexa::VEXATYPE state;

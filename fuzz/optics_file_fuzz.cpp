@@ -7,7 +7,6 @@
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
   const vexa::fuzz::MemoryFile file(data, size);
-  vexa::fuzz::Silence messages;
   vexa::DispersionSetting setting;
   setting.indexFileName = file.Path();
   setting.dataFileName = file.Path();
@@ -15,7 +14,9 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
   for (const std::int16_t kind :
        {vexa::DispersionKind::kIndexFile, vexa::DispersionKind::kSubstrate}) {
     setting.kind = kind;
-    (void)vexa::GetBunsanArray(false, setting, spectrum, messages);
+    if (const vexa::Dispersion read = vexa::GetBunsanArray(false, setting); read.status == 0) {
+      spectrum = read.spectrum;
+    }
   }
   for (std::int16_t type = 0; type < 3; ++type) {
     vexa::ReflectanceSpectrum filmIndex = spectrum;

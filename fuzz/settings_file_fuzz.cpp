@@ -12,11 +12,16 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
   const vexa::fuzz::MemoryFile file(data, size);
   vexa::fuzz::Silence messages;
   vexa::VEXATYPE state;
-  (void)vexa::ReadEnvFile(file.Path(), state, messages);
+  if (const auto content = vexa::ReadEnvFile(file.Path())) {
+    vexa::ApplyEnvironment(*content, state);
+  }
   (void)vexa::ReadCalibrationFile(file.Path());
-  (void)vexa::ReadStockFile(file.Path(), state.stock);
-  (void)vexa::ReadStandardFile(file.Path(), state.standard, state.chromaMarker, state.hueMarker,
-                               messages);
+  if (const auto stock = vexa::ReadStockFile(file.Path())) {
+    state.stock = *stock;
+  }
+  if (const auto contents = vexa::ReadStandardFile(file.Path())) {
+    state.standard = contents->standard;
+  }
   vexa::EvaluateSlot(state, *state.Slot(1), messages);
   return 0;
 }

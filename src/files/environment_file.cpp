@@ -99,8 +99,10 @@ EnvironmentTable<EnvironmentPlace> EnvironmentLines(Settings& settings) {
 ReadResult<EnvironmentContent> ReadEnvFile(const QString& path) {
   return TryRead([&path] {
     TextReader reader = TextReader::Open(path);
-    EnvironmentContent content{
-        .version = ReadHeaderVersion(reader.Field(), file_kind::kEnvironment.word), .lines = {}};
+    // An empty file has no header, and so no version.
+    const QString header = reader.AtEnd() ? QString() : reader.Field();
+    EnvironmentContent content{.version = ReadHeaderVersion(header, file_kind::kEnvironment.word),
+                               .lines = {}};
     if (content.version < file_kind::kEnvironment.oldest) {
       throw ReadFault({.kind = FileFaultKind::kVersion, .line = 1, .version = content.version});
     }

@@ -11,18 +11,15 @@
 #include "files/keep_unreadable.h"
 
 namespace vexa {
-namespace {
-
-QString NameForStartup(const Settings& settings) {
-  const QFileInfo file(CompletePath(settings, settings.envFileName));
-  const bool here = QFileInfo(file.absolutePath()) == QFileInfo(settings.programDirectory);
-  return here ? file.fileName() : settings.envFileName;
-}
-
-}  // namespace
 
 QString StartupPath(const QString& programDirectory) {
   return QDir(programDirectory).filePath(QStringLiteral("vexa.int"));
+}
+
+QString NameForStartup(const Settings& settings, const QString& envFileName) {
+  const QFileInfo file(CompletePath(settings, envFileName));
+  const bool here = QFileInfo(file.absolutePath()) == QFileInfo(settings.programDirectory);
+  return here ? file.fileName() : envFileName;
 }
 
 ReadResult<StartupContent> ReadStartupFile(const QString& path) {
@@ -60,7 +57,7 @@ WriteResult WriteStartupFile(const Settings& settings) {
   const StartupContent written;
   FileText text;
   text.Line(file_kind::kStartup.header.toString())
-      .Line(NameForStartup(settings))
+      .Line(NameForStartup(settings, settings.envFileName))
       .Number(settings.instrument.controllerPort);
   for (std::size_t i = 0; i < written.linePositions.size(); ++i) {
     text.Number(settings.instrument.linePositions[i]);

@@ -28,9 +28,12 @@ ReadResult<StartupContent> ReadStartupFile(const QString& path);
 /// Puts the content in force.
 void ApplyStartup(const StartupContent& content, Settings& settings);
 
-/// Writes that of the program directory. The environment file in use is named by its bare name when
-/// it lies there, so that the directory may be moved and called anything. One that cannot be read
-/// is kept beside it as `vexa.int.bad`.
+/// The name of an environment file in the start-up file: its bare name when it lies in the program
+/// directory, so that the directory may be moved and called anything.
+[[nodiscard]] QString NameForStartup(const Settings& settings, const QString& envFileName);
+
+/// Writes that of the program directory. One that cannot be read is kept beside it as
+/// `vexa.int.bad`.
 WriteResult WriteStartupFile(const Settings& settings);
 
 }  // namespace vexa

@@ -211,9 +211,9 @@ TEST_F(MainWindow, EverySavedFileOpensAgain) {
   for (const auto& [name, filter, file] : cases) {
     dialogs.save = SaveChoice{Path(name), filter};
     window->Commands().saveFileAs->trigger();
-    VEXATYPE read;
-    EXPECT_TRUE(ReadDataFile(Path(file), read, messages)) << file;
-    EXPECT_NEAR(read.Slot(1)->reflectance[440], window->State().Slot(1)->reflectance[440], 1e-12)
+    const auto read = ReadDataFile(Path(file));
+    ASSERT_TRUE(read) << file;
+    EXPECT_NEAR(read->entries[0].reflectance[440], window->State().Slot(1)->reflectance[440], 1e-12)
         << file;
   }
 }
@@ -232,7 +232,7 @@ TEST_F(MainWindow, AsksAboutTheEnvironmentAtTheEnd) {
 
   Start();
   EXPECT_TRUE(window->close());
-  EXPECT_TRUE(ReadEnvFile(Path("vexa.env"), state, messages).read);
+  EXPECT_TRUE(ReadEnvFile(Path("vexa.env")));
 }
 
 // Opens the window of a command, lets `act` use it, and closes it if `act` did not.
@@ -306,6 +306,7 @@ TEST_F(MainWindow, CalibrationShiftIsKeptInItsFile) {
     EXPECT_EQ(messages.Take(), std::vector{range});
   }
   EXPECT_FALSE(peer.files.Has("vexa.cal"));
+  peer.files.Write("vexa.cal", "unreadable");
   InDialog(window->Commands().calibration, [](QWidget& dialog) {
     Type(dialog, "Shift", "7");
     Click(dialog, "OK");
@@ -316,6 +317,7 @@ TEST_F(MainWindow, CalibrationShiftIsKeptInItsFile) {
                         Path("vexa.cal").toStdString(),
                     64}}));
   EXPECT_EQ(peer.files.Read("vexa.cal"), "VEXA-KT 440-840 Ver 3.21 Calibration File\r\n 7 \r\n");
+  EXPECT_EQ(peer.files.Read("vexa.cal.bad"), "unreadable");
   EXPECT_EQ(window->State().instrument.calibrationShiftNm, 7);
 }
 
@@ -332,9 +334,11 @@ TEST_F(MainWindow, SampleInformationIsTakenOverAsTyped) {
   EXPECT_EQ(window->State().Slot(10)->info.remark2, QStringLiteral("装置"));
   EXPECT_EQ(window->State().Slot(2)->info.measuredAt, QDateTime({2026, 3, 9}, {7, 5, 3}));
 
-  const std::pair<const char*, const char*> refused[] = {
-      {"MesDate_txt2", "yesterday"}, {"MesDate_txt3", ""},   {"SampNo_txt1", "é"},
-      {"SampNo_txt1", "A,1"},        {"SampNo_txt1", "\"A"}, {"MesPoint_txt4", "😀"}};
+  const std::pair<const char*, const char*> refused[] = {{"MesDate_txt2", "yesterday"},
+                                                         {"MesDate_txt3", ""},
+                                                         {"SampNo_txt1", "é"},
+                                                         {"SampNo_txt1", "\"A"},
+                                                         {"MesPoint_txt4", "😀"}};
   for (const auto& [field, text] : refused) {
     InDialog(window->Commands().sampleInformation,
              [&, name = field, typed = text](QWidget& dialog) {
@@ -346,6 +350,13 @@ TEST_F(MainWindow, SampleInformationIsTakenOverAsTyped) {
     EXPECT_EQ(messages.Take().size(), 1U) << field;
     EXPECT_EQ(window->State().Slot(5)->info.sampleNumber, QString());
   }
+
+  InDialog(window->Commands().sampleInformation, [](QWidget& dialog) {
+    Insert(dialog, "SampNo_txt1", "A,1");
+    Click(dialog, "OK_b");
+  });
+  EXPECT_EQ(messages.Take(), (Shown{{Message::kSampleNumberSplits, {QStringLiteral("A,1")}}}));
+  EXPECT_EQ(window->State().Slot(1)->info.sampleNumber, QStringLiteral("A,1"));
 }
 
 TEST_F(MainWindow, CursorFollowsClickKeysAndJump) {
@@ -394,7 +405,7 @@ TEST_F(MainWindow, VerdictsStandInTheStatusBar) {
   set.averageReflectance = {true, 100.0, 0.0};
   set.luminousReflectance = {true, 0.5, 0.0};
   state.standardFileName = files.Path("規格.std");
-  ASSERT_TRUE(WriteStandardFile(state.standardFileName, set, {}, {}));
+  ASSERT_TRUE(WriteStandardFile(state.standardFileName, {set, {}, {}}));
   MeasureThrough(1);
   OpenEnvironment(state);
   EXPECT_EQ(Text("StatusPanel2"), "");
@@ -419,6 +430,17 @@ TEST_F(MainWindow, OpensDataFilesAndEnvironments) {
   EXPECT_EQ(dialogs.filter, "ﾃﾞｰﾀ･ﾌｧｲﾙ(*.csv,*.dat)|*.csv;*.dat|");
   EXPECT_NEAR(Reflectance(2), 0.5, 1e-14) << "the file has 15 digits";
   EXPECT_EQ(window->State().currentDataFileName, dialogs.open);
+
+  // A broken one puts the defaults in force under their name, which must cost no other file.
+  peer.files.Write("vexa.env", "precious");
+  dialogs.open = peer.files.Write("broken.env", "none");
+  window->Commands().openEnvironment->trigger();
+  EXPECT_EQ(window->State().envFileName, QStringLiteral("vexa.env"));
+  messages.answers = {MessageResult::kNo};
+  window->Commands().saveEnvironment->trigger();
+  EXPECT_EQ(messages.Take().back(),
+            ShownMessage(Message::kReplaceUnreadEnvironment, {Path("vexa.env")}));
+  EXPECT_EQ(peer.files.Read("vexa.env"), "precious");
 
   peer.TakeFrames();
   dialogs.open = environment;

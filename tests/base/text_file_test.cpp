@@ -2,13 +2,25 @@
 #include "base/text_file.h"
 
 #include <gtest/gtest.h>
+#include <sys/stat.h>
 
 #include <QDir>
 
 #include "base/header_version.h"
 #include "base/number_text.h"
+#include "base/read_file.h"
 #include "support/full_disk.h"
 #include "support/temporary_files.h"
+
+namespace {
+int brokenFlush = 0;  // the error number of every fsync; 0 for none
+}  // namespace
+
+// Takes the place of the system's.
+extern "C" int fsync(int /*descriptor*/) {
+  errno = brokenFlush;
+  return brokenFlush == 0 ? 0 : -1;
+}
 
 namespace vexa {
 namespace {
@@ -91,9 +103,25 @@ TEST(TextReader, ValuesThatAreNoneAreFaults) {
   }
   EXPECT_THROW(TextReader("#MAYBE#").FlagLine(), ReadFault);
   EXPECT_THROW(TextReader("1E999").RealLine(), ReadFault);
-  EXPECT_THROW((void)TextReader::Open(QStringLiteral("/nowhere")), ReadFault);
-  EXPECT_THROW((void)TextReader::Open(QStringLiteral("/")), ReadFault);
-  EXPECT_THROW((void)TextReader::Open(QStringLiteral("/dev/zero")), ReadFault) << "endless";
+}
+
+TEST(ReadRegularFile, ReadsNothingElse) {
+  const test::TemporaryFiles files;
+  const QString pipe = files.Path("pipe.env");
+  ASSERT_EQ(::mkfifo(QFile::encodeName(pipe).constData(), 0600), 0);
+  const std::pair<QString, FileFaultKind> cases[] = {
+      {QStringLiteral("/nowhere"), FileFaultKind::kMissing},
+      {QStringLiteral("/"), FileFaultKind::kNotRegular},
+      {QStringLiteral("/dev/zero"), FileFaultKind::kNotRegular},
+      {pipe, FileFaultKind::kNotRegular},
+      {files.Write("large", QByteArray(101, 'x')), FileFaultKind::kTooLarge},
+  };
+  for (const auto& [path, kind] : cases) {
+    const auto bytes = ReadRegularFile(path, 100);
+    ASSERT_FALSE(bytes) << qPrintable(path);
+    EXPECT_EQ(bytes.Fault().kind, kind) << qPrintable(path);
+  }
+  EXPECT_EQ(ReadRegularFile(files.Path("large"), 101)->size(), 101);
 }
 
 TEST(FileText, ReplacesItsFileWholeOrNotAtAll) {
@@ -117,7 +145,16 @@ TEST(FileText, ReplacesItsFileWholeOrNotAtAll) {
     EXPECT_EQ(files.Read(name), before) << limit;
     EXPECT_EQ(QDir(files.Directory()).entryList(QDir::Files).size(), 1) << "nothing is left behind";
   }
-  EXPECT_FALSE(longer.WriteTo(QStringLiteral("/nowhere/file")));
+  const WriteResult nowhere = longer.WriteTo(QStringLiteral("/nowhere/file"));
+  EXPECT_FALSE(nowhere);
+  EXPECT_EQ(nowhere.reason, QStringLiteral("ﾌｫﾙﾀﾞがありません。"));
+
+  brokenFlush = EIO;
+  EXPECT_FALSE(longer.WriteTo(files.Path(name)));
+  brokenFlush = ENOSPC;
+  EXPECT_EQ(longer.WriteTo(files.Path(name)).reason, QStringLiteral("ﾃﾞｨｽｸに空きがありません。"));
+  brokenFlush = 0;
+  EXPECT_EQ(files.Read(name), before);
 }
 
 }  // namespace

@@ -115,10 +115,26 @@ TEST_F(Analysis, AddsTheCieColour) {
       << text.constData();
 }
 
+TEST_F(Analysis, NoThicknessFromAnIndexThatNobodyGave) {
+  files.Write("bare.csv", files.Read("data.csv"));
+  const Outcome both = Analyse("--json --thickness --type C --substrate @bare.csv");
+  EXPECT_EQ(Object(Slot(both, 1), "thickness")[QLatin1String("status")].toInt(), -3);
+  for (const char* index : {"0.099", "10.01", "-1"}) {
+    EXPECT_EQ(Analyse(QByteArray("--thickness --index ") + index).status, 2) << index;
+  }
+}
+
+TEST_F(Analysis, TheEnvironmentOfTheDirectoryCountsWithoutAStartupFile) {
+  VEXATYPE settings;
+  settings.colour.avgFrom = settings.colour.avgTo = 840;
+  ASSERT_TRUE(WriteEnvFile(files.Path("vexa.env"), settings));
+  EXPECT_NEAR(Number(Object(Slot(Analyse("--json"), 2), "colour"), "Rm"), 1.0, 1e-12);
+}
+
 TEST_F(Analysis, JudgesWithAStandard) {
   StandardSet standard;
   standard.luminousReflectance = {true, 25.0, 15.0};
-  ASSERT_TRUE(WriteStandardFile(files.Path("s.std"), standard, {}, {}));
+  ASSERT_TRUE(WriteStandardFile(files.Path("s.std"), {standard, {}, {}}));
   const Outcome outcome = Analyse("--json --standard @s.std");
   EXPECT_EQ(outcome.status, 3) << outcome.err.constData();
   const auto panels = [&outcome](int index) {
@@ -136,6 +152,7 @@ TEST_F(Analysis, JudgesWithAStandard) {
   standard.luminousReflectance.enabled = false;
   standard.averageReflectance = {true, 25.0, 0.0};
   ASSERT_TRUE(WriteStandardFile(files.Path("s.std"), standard, {}, {}));
+  ASSERT_TRUE(WriteStandardFile(files.Path("s.std"), {standard, {}, {}}));
   EXPECT_EQ(Analyse("--standard @s.std").status, 0);
   EXPECT_EQ(Analyse("--standard @missing.std").status, 1);
 
@@ -179,7 +196,7 @@ TEST_F(Analysis, ShowsAndRewritesAStockFile) {
   const Outcome cut = Run("stock @cut.stc --json");
   EXPECT_EQ(cut.status, 1);
   EXPECT_FALSE(cut["read"].toBool(true));
-  EXPECT_EQ(cut["points"].toArray().size(), 1);
+  EXPECT_EQ(cut["points"].toArray().size(), 0);
   EXPECT_TRUE(cut.err.startsWith("VEXA-KT ｴﾗｰ: ")) << cut.err.constData();
 }
 

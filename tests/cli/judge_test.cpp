@@ -33,8 +33,8 @@ class Judging : public test::CommandLine {
   }
 
   void WriteStandard() const {
-    ASSERT_TRUE(WriteStandardFile(files.Path("a.std"), state.standard, state.chromaMarker,
-                                  state.hueMarker));
+    ASSERT_TRUE(WriteStandardFile(files.Path("a.std"),
+                                  {state.standard, state.chromaMarker, state.hueMarker}));
   }
   [[nodiscard]] Outcome Judge(const QByteArray& arguments = {}) const {
     return Run("judge @data.csv --standard @a.std --dir @ " + arguments);
@@ -81,7 +81,7 @@ TEST_F(Judging, UnreadableFilesEndWithStatusOne) {
   const Outcome missing = Run("judge @missing.csv --standard @a.std");
   EXPECT_EQ(missing.status, 1);
   EXPECT_EQ(missing.out, "");
-  EXPECT_TRUE(missing.err.contains("missing.csv: no data file was read\n"));
+  EXPECT_TRUE(missing.err.contains("missing.csv: not read\n"));
   files.Write("a.std", "VEXA-KT 440-840 Ver 2.99 Standard File\r\n");
   const Outcome old = Judge("--json");
   EXPECT_EQ(old.status, 1);

@@ -124,11 +124,9 @@ TEST_F(CommandLine, ConvertsOneFileOrMany) {
   EXPECT_EQ(files.Read("出力/in99.csv").toStdString(), text.toStdString());
 
   EXPECT_EQ(Run("convert @in0.csv @out.dat").status, 0);
-  const Outcome back = Run("convert @out.dat @back.csv");
+  const Outcome back = Run("convert @out.dat @back.csv --no");
   EXPECT_EQ(back.status, 0);
-  EXPECT_EQ(back.err.toStdString(),
-            "VEXA-KT:  1ﾃﾞｰﾀをひらくためﾃﾞｰﾀ１～ﾃﾞｰﾀ 1までのﾃﾞｰﾀが消去されます。\n");
-  EXPECT_EQ(Run("convert @out.dat @x.csv --no").status, 1);
+  EXPECT_EQ(back.err, "") << "nothing is lost, so nothing is asked";
   EXPECT_EQ(Run("convert @missing.csv @x.csv").status, 1);
 }
 

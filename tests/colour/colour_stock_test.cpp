@@ -74,60 +74,56 @@ TEST_F(StockFile, IsWrittenAndReadByteForByte) {
 
   for (const char* version : {"3.21", "3.00"}) {
     files_.Write(kName, QByteArray(kGolden).replace("3.21", version));
-    ColourStock read;
-    (void)read.StockAdd(kColour, true);
-    (void)read.StockAdd(kColour, true);
-    (void)read.StockAdd(kColour, true);
-    ASSERT_TRUE(ReadStockFile(path_, read)) << version;
-    EXPECT_EQ(read.Count, 2);
-    EXPECT_EQ(read.P1[1], 0.123457);
-    EXPECT_EQ(read.P1[2], 0.0) << "no point of before is left";
-    ASSERT_TRUE(WriteStockFile(path_, read));
+    const auto read = ReadStockFile(path_);
+    ASSERT_TRUE(read) << version;
+    EXPECT_EQ(read->Count, 2);
+    EXPECT_EQ(read->P1[1], 0.123457);
+    ASSERT_TRUE(WriteStockFile(path_, *read));
     EXPECT_EQ(files_.Read(kName), kGolden) << version;
   }
 }
 
-TEST_F(StockFile, ABadFileEndsTheReadingAndKeepsWhatWasRead) {
+TEST_F(StockFile, ABadFileIsNamedByItsDefectAndPlace) {
   struct Case {
     const char* defect;
     QByteArray bytes;
-    bool mode;                // afterwards; true before
-    std::int16_t illuminant;  // afterwards; 1 before
-    std::int16_t count;       // afterwards; 1 before
+    FileFaultKind kind;
+    int line;
   };
   const QByteArray head = "VEXA-KT 440-840 Ver3.21 Stock File\r\n";
   const QByteArray conditions = head + "False\r\n 4 \r\nFalse\r\n";
   const Case cases[] = {
-      {"empty", "", true, 1, 1},
-      {"another version", QByteArray(kGolden).replace("3.21", "3.10"), true, 1, 1},
-      {"another kind", "VEXA-KT 440-840 Ver 3.21 Data File\r\nFalse\r\n", true, 1, 1},
-      {"header with a blank behind", QByteArray(kGolden).replace("File\r", "File \r"), true, 1, 1},
-      {"not text", QByteArray("\x00\xff\x81\x40\x0a\xff", 6), true, 1, 1},
-      {"header alone", head, true, 1, 1},
-      {"no flag", head + "Maybe\r\n 4 \r\n", true, 1, 1},
-      {"text for the illuminant", head + "False\r\nD65\r\n", false, 1, 1},
-      {"count 101", conditions + " 101 \r\n" + QByteArray("1,2,3\r\n").repeated(101), false, 4, 1},
-      {"count -1", conditions + "-1 \r\n", false, 4, 1},
-      {"count beyond 16 bits", conditions + " 65537 \r\n1,2,3\r\n", false, 4, 1},
-      {"text for the count", conditions + "two\r\n", false, 4, 1},
-      {"cut before the points", conditions + " 3 \r\n", false, 4, 0},
-      {"cut in the third point", conditions + " 3 \r\n1,2,3\r\n4,5,6\r\n7,8", false, 4, 2},
-      {"text in the second point", conditions + " 3 \r\n1,2,3\r\n4,x,6\r\n7,8,9\r\n", false, 4, 1},
-      {"number beyond a double", conditions + " 1 \r\n1,1E999,3\r\n", false, 4, 0},
+      {"empty", "", FileFaultKind::kEnd, 1},
+      {"another version", QByteArray(kGolden).replace("3.21", "3.10"), FileFaultKind::kVersion, 1},
+      {"another kind", "VEXA-KT 440-840 Ver 3.21 Data File\r\nFalse\r\n", FileFaultKind::kVersion,
+       1},
+      {"header with a blank behind", QByteArray(kGolden).replace("File\r", "File \r"),
+       FileFaultKind::kVersion, 1},
+      {"not text", QByteArray("\x00\xff\x81\x40\x0a\xff", 6), FileFaultKind::kVersion, 1},
+      {"header alone", head, FileFaultKind::kEnd, 2},
+      {"no flag", head + "Maybe\r\n 4 \r\n", FileFaultKind::kValue, 2},
+      {"text for the illuminant", head + "False\r\nD65\r\n", FileFaultKind::kValue, 3},
+      {"count 101", conditions + " 101 \r\n" + QByteArray("1,2,3\r\n").repeated(101),
+       FileFaultKind::kRange, 5},
+      {"count -1", conditions + "-1 \r\n", FileFaultKind::kRange, 5},
+      {"count beyond 16 bits", conditions + " 65537 \r\n1,2,3\r\n", FileFaultKind::kRange, 5},
+      {"text for the count", conditions + "two\r\n", FileFaultKind::kValue, 5},
+      {"cut before the points", conditions + " 3 \r\n", FileFaultKind::kEnd, 6},
+      {"cut in the third point", conditions + " 3 \r\n1,2,3\r\n4,5,6\r\n7,8", FileFaultKind::kEnd,
+       9},
+      {"text in the second point", conditions + " 3 \r\n1,2,3\r\n4,x,6\r\n7,8,9\r\n",
+       FileFaultKind::kValue, 7},
+      {"number beyond a double", conditions + " 1 \r\n1,1E999,3\r\n", FileFaultKind::kValue, 6},
   };
   for (const Case& c : cases) {
     files_.Write(kName, c.bytes);
-    ColourStock stock;
-    (void)stock.StockAdd(kColour, true);
-    EXPECT_FALSE(ReadStockFile(path_, stock)) << c.defect;
-    EXPECT_EQ(stock.StockMode, c.mode) << c.defect;
-    EXPECT_EQ(stock.StockIlluminant, c.illuminant) << c.defect;
-    EXPECT_EQ(stock.Count, c.count) << c.defect;
-    EXPECT_EQ(stock.P1[2], 0.0) << c.defect;
+    const auto read = ReadStockFile(path_);
+    ASSERT_FALSE(read) << c.defect;
+    EXPECT_EQ(read.Fault().kind, c.kind) << c.defect;
+    EXPECT_EQ(read.Fault().line, c.line) << c.defect;
   }
-  ColourStock stock;
-  EXPECT_FALSE(ReadStockFile(files_.Path("none.stc"), stock));
-  EXPECT_FALSE(WriteStockFile(QStringLiteral("/nowhere/file.stc"), stock));
+  EXPECT_EQ(ReadStockFile(files_.Path("none.stc")).Fault().kind, FileFaultKind::kMissing);
+  EXPECT_FALSE(WriteStockFile(QStringLiteral("/nowhere/file.stc"), {}));
 }
 
 }  // namespace

@@ -6,7 +6,6 @@
 #include "files/environment_file.h"
 #include "files/startup_file.h"
 #include "standards/standard_file.h"
-#include "support/prepared_answers.h"
 #include "support/temporary_files.h"
 
 namespace vexa {
@@ -16,26 +15,66 @@ class Configuration : public testing::Test {
  protected:
   Configuration() { state.programDirectory = written.programDirectory = files.Directory(); }
 
+  // Loads the configuration; which messages it has to tell.
+  std::vector<Message> Load(UnnamedEnvironment unnamed = UnnamedEnvironment::kIgnored) {
+    std::vector<Message> told;
+    for (const MessageCall& notice : LoadConfiguration(state, unnamed)) {
+      told.push_back(notice.id);
+    }
+    return told;
+  }
+
   test::TemporaryFiles files;
-  test::PreparedAnswers messages;
   VEXATYPE written;
   VEXATYPE state;
 };
 
-TEST_F(Configuration, WithoutAnEnvironmentTheDefaultsHold) {
-  written.envFileName = QStringLiteral("gone.env");
+TEST_F(Configuration, AMissingEnvironmentIsToldAndPortAndPositionsStay) {
+  state.instrument.averagingCount = 8;
+  EXPECT_EQ(Load(), std::vector<Message>()) << "the first start";
+  EXPECT_EQ(state.instrument.controllerPort, 5);
+  EXPECT_EQ(state.instrument.averagingCount, 1);
+  EXPECT_EQ(state.instrument.calibrationShiftNm, 4);
+
+  written.envFileName = QStringLiteral("/gone/mine.env");
   written.instrument.controllerPort = 3;
-  for (const bool named : {false, true}) {
-    EXPECT_TRUE(!named || WriteStartupFile(written));
-    state.instrument.controllerPort = 9;
-    state.instrument.averagingCount = 8;
-    LoadConfiguration(state, messages);
-    EXPECT_EQ(state.instrument.controllerPort, 5);
-    EXPECT_EQ(state.instrument.averagingCount, 1);
-    EXPECT_EQ(state.envFileName, QStringLiteral("vexa.env"));
-    EXPECT_EQ(state.instrument.calibrationShiftNm, 4);
-    EXPECT_TRUE(messages.Take().empty()) << named;
+  written.instrument.linePositions[2] = 379;
+  ASSERT_TRUE(WriteStartupFile(written));
+  EXPECT_EQ(Load(), std::vector{Message::kEnvironmentMissing});
+  EXPECT_EQ(state.instrument.controllerPort, 3);
+  EXPECT_EQ(state.instrument.linePositions[2], 379);
+  EXPECT_EQ(state.envFileName, QStringLiteral("vexa.env"));
+
+  written.display.view = 2;
+  ASSERT_TRUE(WriteEnvFile(files.Path("mine.env"), written));
+  EXPECT_EQ(Load(), std::vector<Message>()) << "found by its name";
+  EXPECT_EQ(state.display.view, 2);
+  EXPECT_EQ(state.envFileName, files.Path("mine.env"));
+}
+
+TEST_F(Configuration, AnEnvironmentOfTheProgramDirectoryIsNamedBare) {
+  written.programDirectory = files.Path("測定〜9");  // no name for the code page
+  ASSERT_TRUE(QDir().mkpath(written.programDirectory));
+  const std::pair<QString, QString> names[] = {
+      {files.Path("測定〜9/my.env"), QStringLiteral("my.env")},
+      {QStringLiteral("vexa.env"), QStringLiteral("vexa.env")},
+      {QStringLiteral("/elsewhere/vexa.env"), QStringLiteral("/elsewhere/vexa.env")},
+  };
+  for (const auto& [name, inFile] : names) {
+    written.envFileName = name;
+    ASSERT_TRUE(WriteStartupFile(written));
+    EXPECT_EQ(ReadStartupFile(StartupPath(written.programDirectory))->envFileName, inFile);
   }
+}
+
+TEST_F(Configuration, AnUnnamedEnvironmentCountsWhereItIsAskedFor) {
+  written.display.view = 6;
+  written.colour.illuminant = 7;
+  ASSERT_TRUE(WriteEnvFile(files.Path("vexa.env"), written));
+  EXPECT_EQ(Load(), std::vector<Message>());
+  EXPECT_EQ(state.display.view, 0);
+  EXPECT_EQ(Load(UnnamedEnvironment::kRead), std::vector{Message::kUnknownIlluminant});
+  EXPECT_EQ(state.display.view, 6);
 }
 
 TEST_F(Configuration, FollowsTheNamesFromFileToFile) {
@@ -46,15 +85,18 @@ TEST_F(Configuration, FollowsTheNamesFromFileToFile) {
   written.standard.useReflectance = true;
   ASSERT_TRUE(WriteStartupFile(written));
   ASSERT_TRUE(WriteEnvFile(files.Path("mine.env"), written));
-  ASSERT_TRUE(WriteStandardFile(written.standardFileName, written.standard, {}, {}));
+  ASSERT_TRUE(WriteStandardFile(written.standardFileName, {written.standard, {}, {}}));
   files.Write("vexa.cal", "another header, 7 \n");
-  LoadConfiguration(state, messages);
+  EXPECT_EQ(Load(), std::vector<Message>());
   EXPECT_EQ(state.instrument.controllerPort, 0);
   EXPECT_FALSE(state.instrument.serialController);
   EXPECT_EQ(state.display.view, 2);
   EXPECT_TRUE(state.standard.useReflectance);
   EXPECT_EQ(state.instrument.calibrationShiftNm, 7);
-  EXPECT_TRUE(messages.Take().empty());
+
+  files.Write("mine.std", "broken");
+  EXPECT_EQ(Load(), std::vector{Message::kStandardVersionRefused});
+  EXPECT_FALSE(state.standard.useReflectance);
 }
 
 TEST_F(Configuration, ABrokenEnvironmentIsToldAndNothingElseIsLost) {
@@ -62,8 +104,11 @@ TEST_F(Configuration, ABrokenEnvironmentIsToldAndNothingElseIsLost) {
   state.display.view = 5;
   const QString path =
       files.Write("cut.env", "VEXA-KT 440-840 Ver 3.21 Environment File\r\n 3 \r\n");
-  EXPECT_FALSE(LoadEnvironment(path, state, messages));
-  EXPECT_EQ(messages.Take().size(), 1U);
+  state.envFileName = files.Path("good.env");
+  const Environment environment = ReadEnvironment(path, files.Directory());
+  EXPECT_FALSE(ApplyEnvironment(environment, state));
+  EXPECT_EQ(environment.notices.size(), 1);
+  EXPECT_FALSE(state.envFileRead);
   EXPECT_EQ(state.display.view, 0);
   EXPECT_TRUE(state.measurementSlots[0].valid);
   EXPECT_EQ(state.envFileName, QStringLiteral("vexa.env"));
@@ -73,7 +118,7 @@ TEST_F(Configuration, CalibrationShiftsThatAreNoneLeaveTheDefault) {
   for (const char* bytes :
        {"", "header", "header\r\n", "header\r\n 8 ", "header\r\n-1", "header\r\nx"}) {
     files.Write("vexa.cal", bytes);
-    LoadConfiguration(state, messages);
+    EXPECT_EQ(Load(), std::vector{Message::kSettingsReadError}) << bytes;
     EXPECT_EQ(state.instrument.calibrationShiftNm, 4) << bytes;
   }
 }

@@ -12,19 +12,12 @@ namespace {
 
 using test::ShownMessage;
 
-const ShownMessage kReadError{
-    "VEXA-KT ｴﾗｰ: ﾃﾞｰﾀ･ﾌｧｲﾙの読み込みでエラーが発生しました。\r\r"
-    "VEXA-KT 440-840 Ver 3.21 Data Fileﾌｧｲﾙではありません。\r\rﾌｧｲﾙを確認してください。",
-    16};
-const ShownMessage kOldVersion{
-    "VEXA-KT ｴﾗｰ: ﾃﾞｰﾀ･ﾌｧｲﾙの読み込みでエラーが発生しました。\r\r"
-    "VEXA-KT 旧Verのデータﾌｧｲﾙではありません。\r\rﾌｧｲﾙを確認してください。",
-    16};
+const ShownMessage kReadError{Message::kDataReadError,
+                              {QStringLiteral("VEXA-KT 440-840 Ver 3.21 Data File")}};
+const ShownMessage kOldVersion{Message::kOldDataVersion};
 
 ShownMessage Erase(const char* count) {
-  return {std::string("VEXA-KT: ") + count + "ﾃﾞｰﾀをひらくためﾃﾞｰﾀ１～ﾃﾞｰﾀ" + count +
-              "までのﾃﾞｰﾀが消去されます。",
-          49};
+  return {Message::kEraseSlots, {QString::fromUtf8(count)}};
 }
 
 // 401 lines of the text that `line` makes of a wavelength.
@@ -63,13 +56,27 @@ const QByteArray kHeader = "VEXA-KT 440-840 Ver 3.21 Data File";
 
 class DataFile : public testing::Test {
  protected:
+  // Asks, stores and tells as the open command does.
+  bool Load(const ReadResult<DataFileContent>& content) {
+    if (!content) {
+      messages.Tell(DataFileMessage(content.Fault()));
+      return false;
+    }
+    const std::optional<MessageCall> question = StoreQuestion(*content);
+    if (question && QCoro::waitFor(messages.Ask(*question)) != MessageResult::kOk) {
+      return false;
+    }
+    StoreDataFile(*content, state, messages);
+    return true;
+  }
+
   test::TemporaryFiles files;
   test::PreparedAnswers messages;
   VEXATYPE state;
 };
 
 TEST_F(DataFile, CsvGoesRoundUnchanged) {
-  EXPECT_TRUE(ReadDataFile(files.Write("a.csv", CsvText()), state, messages));
+  EXPECT_TRUE(Load(ReadDataFile(files.Write("a.csv", CsvText()))));
   EXPECT_EQ(state.Slot(1)->reflectance[840], 12.3456789012346);
   EXPECT_EQ(state.Slot(2)->reflectance[555], 555.0);
   EXPECT_EQ(state.Slot(2)->info.sampleNumber, QStringLiteral("表"));
@@ -100,6 +107,12 @@ TEST_F(DataFile, CsvLayouts) {
        0x201},
       {"Wave in another case shifts the columns",
        head + "Wave,b,c,d,e,f,g,h,i,j\r\n" + rowsOf("440,5,0,0,0,0,0,0,0,0"), 440, 3},
+      {"one comma too many in line 2",
+       head + "wave,a,,,,,,,,,,\r\n" + rowsOf("440,6,0,0,0,0,0,0,0,0,0"), 6, 1},
+      {"a comma in a quoted sample number, written without its quotes",
+       head + "wave,b,x,,,,,,,,,\r\n" + rowsOf("440,7,0,0,0,0,0,0,0,0,0"), 7, 1},
+      {"Wave and eleven fields",
+       head + "Wave,b,c,d,e,f,g,h,i,j,k\r\n" + rowsOf("440,5,0,0,0,0,0,0,0,0,0"), 440, 3},
       {"texts read as their leading number",
        head + "a,,,,,,,,,\r\n" + rowsOf("1.5e1x,x,,+2,0,0,0,0,0,0"), 15, 9},
       {"zero at 440, 450 and 840 alone is empty",
@@ -113,7 +126,7 @@ TEST_F(DataFile, CsvLayouts) {
   };
   for (const Case& c : cases) {
     state.Slot(7)->info.remark1 = QStringLiteral("old");
-    ASSERT_TRUE(ReadCsvDataFile(files.Write("a.csv", c.bytes), state, messages)) << c.name;
+    ASSERT_TRUE(Load(ReadCsvDataFile(files.Write("a.csv", c.bytes)))) << c.name;
     EXPECT_EQ(state.Slot(1)->reflectance[500], c.first) << c.name;
     for (int slot = 1; slot <= kSlotCount; ++slot) {
       EXPECT_EQ(bool{state.Slot(slot)->valid}, ((c.valid >> (slot - 1)) & 1U) != 0)
@@ -124,7 +137,7 @@ TEST_F(DataFile, CsvLayouts) {
 }
 
 TEST_F(DataFile, BlocksGoRoundAndFiveStopAtSlotFive) {
-  EXPECT_TRUE(ReadDataFile(files.Write("a.DAT", DatText(kHeader, " 2", 10)), state, messages));
+  EXPECT_TRUE(Load(ReadDataFile(files.Write("a.DAT", DatText(kHeader, " 2", 10)))));
   EXPECT_EQ(messages.Take(), std::vector{Erase(" 2")});
   EXPECT_TRUE(state.Slot(1)->valid) << "a single value that is not 0";
   EXPECT_EQ(state.Slot(1)->reflectance[441], 0.5);
@@ -164,11 +177,10 @@ TEST_F(DataFile, BlockVersionsAndCounts) {
       {kHeader, " 0", true, {Erase(" 0")}},
       {kHeader, "11", false, {kReadError}},
       {kHeader, "-1", false, {kReadError}},
-      {kHeader, " 3", false, {Erase(" 3"), kReadError}},  // two blocks alone
+      {kHeader, " 3", false, {kReadError}},  // two blocks alone
   };
   for (const Case& c : cases) {
-    EXPECT_EQ(ReadDatDataFile(files.Write("a.dat", DatText(c.header, c.count, 2)), state, messages),
-              c.read)
+    EXPECT_EQ(Load(ReadDatDataFile(files.Write("a.dat", DatText(c.header, c.count, 2)))), c.read)
         << c.header.constData() << c.count.constData();
     EXPECT_EQ(messages.Take(), c.shown) << c.header.constData() << c.count.constData();
   }
@@ -176,38 +188,61 @@ TEST_F(DataFile, BlockVersionsAndCounts) {
 
 TEST_F(DataFile, RefusedBlocksChangeNothingAndLaterSlotsStay) {
   state.Slot(1)->reflectance[500] = 1.0;
+  state.Slot(2)->info.remark1 = QStringLiteral("of the former lens");
   state.Slot(3)->valid = true;
   const QString path = files.Write("a.dat", DatText(kHeader, " 2", 2));
   messages.answers = {MessageResult::kCancel};
-  EXPECT_FALSE(ReadDatDataFile(path, state, messages));
+  EXPECT_FALSE(Load(ReadDatDataFile(path)));
   EXPECT_EQ(state.Slot(1)->reflectance[500], 1.0);
-  EXPECT_TRUE(ReadDatDataFile(path, state, messages));
+  EXPECT_TRUE(Load(ReadDatDataFile(path)));
   EXPECT_EQ(state.Slot(1)->reflectance[500], 0.0);
+  EXPECT_EQ(state.Slot(2)->info.remark1, QString());
   EXPECT_TRUE(state.Slot(3)->valid);
 }
 
-TEST_F(DataFile, DefectiveCsvIsShownAndEndsTheRead) {
+TEST_F(DataFile, ADefectIsToldWithItsPlaceAndChangesNothing) {
   const QByteArray good = CsvText();
-  const std::pair<const char*, QByteArray> defects[] = {
-      {"empty", ""},
-      {"version 2.98", CsvText("2.98")},
-      {"another kind", QByteArray(good).replace("Data File", "Stock File")},
-      {"one row short", good.left(good.indexOf(" 840,"))},
-      {"a row with too few fields", QByteArray(good).replace(" 700,12.345678901234600,", "700,")},
-      {"a number out of range", QByteArray(good).replace("700.000000000000000", "1E999")},
-      {"binary", QByteArray("\x00\xff\x81\x00,\"\n\r", 8)},
+  struct Case {
+    const char* defect;
+    QByteArray bytes;
+    FileFaultKind kind;
+    int line;
+    int field;
   };
-  for (const auto& [name, bytes] : defects) {
-    EXPECT_FALSE(ReadCsvDataFile(files.Write("a.csv", bytes), state, messages)) << name;
-    EXPECT_EQ(messages.Take(), std::vector{kReadError}) << name;
+  using enum FileFaultKind;
+  const Case cases[] = {
+      {"empty", "", kEnd, 1, 0},
+      {"version 2.98", CsvText("2.98"), kVersion, 1, 0},
+      {"another kind", QByteArray(good).replace("Data File", "Stock File"), kVersion, 1, 0},
+      {"ten fields with the wavelength column", QByteArray(good).replace(",,,,,,,,", ",,,,,,,"),
+       kFields, 2, 0},
+      {"one row short", good.left(good.indexOf(" 840,")), kEnd, 403, 0},
+      {"a row with too few fields", QByteArray(good).replace(" 700,12.345678901234600,", "700,"),
+       kFields, 263, 0},
+      {"a number out of range", QByteArray(good).replace("700.000000000000000", "1E999"), kValue,
+       263, 3},
+      {"binary", QByteArray("\x00\xff\x81\x00,\"\n\r", 8), kVersion, 1, 0},
+  };
+  state.Slot(1)->valid = true;
+  state.Slot(1)->reflectance[500] = 1.0;
+  for (const Case& c : cases) {
+    const auto content = ReadCsvDataFile(files.Write("a.csv", c.bytes));
+    ASSERT_FALSE(content) << c.defect;
+    EXPECT_EQ(content.Fault().kind, c.kind) << c.defect;
+    EXPECT_EQ(content.Fault().line, c.line) << c.defect;
+    EXPECT_EQ(content.Fault().field, c.field) << c.defect;
+    EXPECT_FALSE(Load(content));
+    EXPECT_EQ(messages.Take(), std::vector{kReadError}) << c.defect;
   }
-  EXPECT_FALSE(ReadCsvDataFile(files.Path("missing.csv"), state, messages));
-  EXPECT_FALSE(ReadDatDataFile(files.Directory(), state, messages));
+  EXPECT_FALSE(Load(ReadCsvDataFile(files.Path("missing.csv"))));
+  EXPECT_FALSE(Load(ReadDatDataFile(files.Directory())));
   EXPECT_EQ(messages.Take(), (std::vector{kReadError, kReadError}));
+  EXPECT_TRUE(state.Slot(1)->valid);
+  EXPECT_EQ(state.Slot(1)->reflectance[500], 1.0);
 }
 
 TEST_F(DataFile, AdditionalDataHasItsOwnForm) {
-  ASSERT_TRUE(ReadCsvDataFile(files.Write("a.csv", CsvText()), state, messages));
+  ASSERT_TRUE(Load(ReadCsvDataFile(files.Write("a.csv", CsvText()))));
   for (MeasurementSlot& slot : state.measurementSlots) {
     slot.colour = {
         .L = 50.5, .a = -1.25, .b = 2, .x = 0.25, .y = 0.5, .C = 3, .h = 90, .Rm = 4, .Y = 5};
@@ -239,14 +274,17 @@ TEST_F(DataFile, AdditionalDataHasItsOwnForm) {
 
   const VEXATYPE before = state;
   state.ClearSlots();
-  EXPECT_TRUE(ReadAddDataFile(files.Path("a.add"), state, messages));
+  const ReadResult<SampleInfos> infos = ReadAddDataFile(files.Path("a.add"));
+  ASSERT_TRUE(infos);
+  StoreSampleInfos(*infos, state);
   EXPECT_EQ(state.Slot(2)->info.sampleNumber, QStringLiteral("表"));
   EXPECT_EQ(state.Slot(2)->info.measuredAt, before.Slot(2)->info.measuredAt);
   EXPECT_EQ(state.Slot(3)->info.measuredAt, before.Slot(3)->info.measuredAt);
   EXPECT_FALSE(state.Slot(4)->info.measuredAt.isValid());
   files.Write("b.add", files.Read("a.add").replace("2026/3/9 7:05:03", "soon"));
-  EXPECT_FALSE(ReadAddDataFile(files.Path("b.add"), state, messages));
-  EXPECT_EQ(messages.Take(), std::vector{kReadError});
+  const FileFault fault = ReadAddDataFile(files.Path("b.add")).Fault();
+  EXPECT_EQ(fault.line, 15);
+  EXPECT_EQ(fault.field, 3);
 }
 
 }  // namespace

@@ -4,7 +4,6 @@
 #include <gtest/gtest.h>
 
 #include "files/startup_file.h"
-#include "support/prepared_answers.h"
 #include "support/temporary_files.h"
 
 namespace vexa {
@@ -26,15 +25,21 @@ const char* const kGolden =
 
 class EnvironmentFile : public testing::Test {
  protected:
+  // The version that was read and put in force; 0 when there was a fault.
+  double Load(const QString& path) {
+    const auto content = ReadEnvFile(path);
+    if (content) {
+      ApplyEnvironment(*content, state);
+    }
+    return content ? content->version : 0.0;
+  }
+
   const test::TemporaryFiles files;
-  test::PreparedAnswers messages;
   VEXATYPE state;
 };
 
 TEST_F(EnvironmentFile, EveryLineHasItsPlaceAndGoesRoundUnchanged) {
-  const EnvironmentRead result = ReadEnvFile(files.Write("a.env", kGolden), state, messages);
-  EXPECT_TRUE(result.read);
-  EXPECT_EQ(result.version, 3.21);
+  EXPECT_EQ(Load(files.Write("a.env", kGolden)), 3.21);
   EXPECT_EQ(state.display.view, 3);
   EXPECT_EQ(state.display.longestNm, 800.5);
   EXPECT_EQ(state.display.maximumPercent, 12.5);
@@ -52,13 +57,12 @@ TEST_F(EnvironmentFile, EveryLineHasItsPlaceAndGoesRoundUnchanged) {
   EXPECT_EQ(state.colour.avgTo, 600);
   EXPECT_TRUE(WriteEnvFile(files.Path("b.env"), state));
   EXPECT_EQ(files.Read("b.env").toStdString(), kGolden);
-  EXPECT_TRUE(messages.Take().empty());
 }
 
 TEST_F(EnvironmentFile, FullScaleSetsTheWavelengths) {
   QByteArray full = kGolden;
   full.replace("#TRUE#\r\n#FALSE#\r\n 450", "#TRUE#\r\n#TRUE#\r\n 450");
-  EXPECT_TRUE(ReadEnvFile(files.Write("a.env", full), state, messages).read);
+  EXPECT_EQ(Load(files.Write("a.env", full)), 3.21);
   EXPECT_EQ(state.display.shortestNm, 440.0);
   EXPECT_EQ(state.display.longestNm, 840.0);
 }
@@ -76,9 +80,7 @@ TEST_F(EnvironmentFile, OlderLayoutKeepsWhatItLacks) {
       "i.ind\r\ns.csv\r\n";
   state.standardFileName = QStringLiteral("kept.std");
   state.display.view = 6;
-  const EnvironmentRead result = ReadEnvFile(files.Write("old.env", old), state, messages);
-  EXPECT_TRUE(result.read);
-  EXPECT_EQ(result.version, 1.1);
+  EXPECT_EQ(Load(files.Write("old.env", old)), 1.1);
   EXPECT_EQ(state.display.minimumPercent, 1.0);
   EXPECT_EQ(state.display.maximumPercent, 8.0);
   EXPECT_EQ(state.display.tickPercent, 2.0);
@@ -96,39 +98,50 @@ TEST_F(EnvironmentFile, OlderLayoutKeepsWhatItLacks) {
   EXPECT_EQ(state.display.view, 6);
 }
 
-TEST_F(EnvironmentFile, DefectsEndTheRead) {
+TEST_F(EnvironmentFile, ADefectHasItsMessageAndPlace) {
   const QByteArray golden = kGolden;
   struct Case {
     const char* name;
     QByteArray bytes;
-    bool read;
-    const char* version;  ///< in the message; null where there is none
+    std::optional<Message> fault;
+    int line = 0;
+    const char* version = nullptr;  ///< in the message
   };
+  using enum Message;
   const Case cases[] = {
-      {"version 3.00", QByteArray(golden).replace("3.21", "3.00"), true, nullptr},
-      {"version 0.5", QByteArray(golden).replace("3.21", "0.5"), false, "0.5"},
-      {"another model", QByteArray(golden).replace("VEXA", "OTHER"), false, "0"},
-      {"another kind", QByteArray(golden).replace("Environment", "Data"), false, "0"},
-      {"empty", "", false, "0"},
-      {"binary", QByteArray("\0\xff\x81\r\n\n,\"", 8), false, "0"},
-      {"cut short", golden.left(300), false, nullptr},
-      {"no flag", QByteArray(golden).replace("#TRUE#", "TRUE?"), false, nullptr},
-      {"number beyond 16 bits", QByteArray(golden).replace(" 3 \r\n#", " 40000 \r\n#"), false,
-       nullptr},
+      {"version 3.00", QByteArray(golden).replace("3.21", "3.00"), {}},
+      {"version 1.00 is the older layout", QByteArray(golden).replace("3.21", "1.00"),
+       kEnvironmentReadError, 2},
+      {"version 0.99", QByteArray(golden).replace("3.21", "0.99"), kEnvironmentVersionError, 1,
+       "0.99"},
+      {"another model", QByteArray(golden).replace("VEXA", "OTHER"), kEnvironmentVersionError, 1,
+       "0"},
+      {"another kind", QByteArray(golden).replace("Environment", "Data"), kEnvironmentVersionError,
+       1, "0"},
+      {"empty", "", kEnvironmentVersionError, 1, "0"},
+      {"binary", QByteArray("\0\xff\x81\r\n\n,\"", 8), kEnvironmentVersionError, 1, "0"},
+      {"cut short", golden.left(golden.indexOf("\r\na.ref")), kEnvironmentReadError, 35},
+      {"no flag", QByteArray(golden).replace("#TRUE#\r\n#FALSE#\r\n 450", "TRUE?\r\n"),
+       kEnvironmentReadError, 3},
+      {"number beyond 16 bits", QByteArray(golden).replace(" 3 \r\n#", " 40000 \r\n#"),
+       kEnvironmentReadError, 2},
   };
   for (const Case& c : cases) {
-    state = {};
     const QString path = files.Write("x.env", c.bytes);
-    EXPECT_EQ(ReadEnvFile(path, state, messages).read, c.read) << c.name;
-    const auto shown = messages.Take();
-    ASSERT_EQ(shown.size(), c.version == nullptr ? 0U : 1U) << c.name;
+    const auto content = ReadEnvFile(path);
+    ASSERT_EQ(static_cast<bool>(content), !c.fault) << c.name;
+    if (!c.fault) {
+      continue;
+    }
+    const MessageCall message = EnvironmentMessage(path, content.Fault());
+    EXPECT_EQ(message.id, *c.fault) << c.name;
+    EXPECT_EQ(content.Fault().line, c.line) << c.name;
     if (c.version != nullptr) {
-      EXPECT_EQ(shown[0].text, "VEXA-KT ｴﾗｰ: 環境ﾌｧｲﾙのVerエラーが発生しました。\r\r環境ﾌｧｲﾙ名:" +
-                                   path.toStdString() + "\r\r環境ﾌｧｲﾙVer:" + c.version +
-                                   "\r\r環境ﾊﾟﾗﾒｰﾀｰはﾃﾞﾌｫﾙﾄ値に設定されます。");
-      EXPECT_EQ(shown[0].type, 16);
+      EXPECT_EQ(message.arguments, (QStringList{path, QString::fromUtf8(c.version)})) << c.name;
     }
   }
+  EXPECT_EQ(EnvironmentMessage({}, ReadEnvFile(files.Path("none.env")).Fault()).id,
+            kEnvironmentMissing);
 }
 
 TEST_F(EnvironmentFile, AnUnreadableOneIsKeptWhenItIsOverwritten) {
@@ -136,7 +149,11 @@ TEST_F(EnvironmentFile, AnUnreadableOneIsKeptWhenItIsOverwritten) {
   EXPECT_TRUE(WriteEnvFile(path, state));
   EXPECT_EQ(files.Read("a.env.bad"), "precious but broken");
   EXPECT_TRUE(WriteEnvFile(path, state));
-  EXPECT_EQ(files.Read("a.env.bad"), "precious but broken") << "a readable one needs no copy";
+  EXPECT_FALSE(files.Has("a.env.bad2")) << "a readable one needs no copy";
+  files.Write("a.env", "broken again");
+  EXPECT_TRUE(WriteEnvFile(path, state));
+  EXPECT_EQ(files.Read("a.env.bad2"), "broken again");
+  EXPECT_EQ(files.Read("a.env.bad"), "precious but broken");
 }
 
 TEST_F(EnvironmentFile, StartupFileHasNineLines) {
@@ -144,9 +161,10 @@ TEST_F(EnvironmentFile, StartupFileHasNineLines) {
       "VEXA-KT 440-840 Ver 3.21 Environment File\r\nC:\\\x95\x5c.env\r\n 0 \r\n 130 \r\n 320 \r\n "
       "370 \r\n 400 \r\n"
       " 460 \r\n 380 \r\n";
-  files.Write("vexa.int", golden);
   state.programDirectory = files.Directory();
-  EXPECT_TRUE(ReadStartupFile(state));
+  const auto startup = ReadStartupFile(files.Write("vexa.int", golden));
+  ASSERT_TRUE(startup);
+  ApplyStartup(*startup, state);
   EXPECT_EQ(state.envFileName, QStringLiteral("C:\\表.env"));
   EXPECT_EQ(state.instrument.controllerPort, 0);
   EXPECT_EQ(state.instrument.linePositions, (LinePositions{130, 320, 370, 400, 460, 0}));
@@ -156,8 +174,7 @@ TEST_F(EnvironmentFile, StartupFileHasNineLines) {
 
   for (const QByteArray& bytes :
        {QByteArray(), golden.left(70), QByteArray(golden).replace("VEXA", "V")}) {
-    files.Write("vexa.int", bytes);
-    EXPECT_FALSE(ReadStartupFile(state));
+    EXPECT_FALSE(ReadStartupFile(files.Write("vexa.int", bytes)));
   }
 }
 

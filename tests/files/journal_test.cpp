@@ -40,7 +40,7 @@ std::array<SessionImage, 4> Moments() {
 }
 
 QByteArray JournalOf(const std::array<SessionImage, 4>& moments, std::vector<qsizetype>& ends) {
-  QByteArray bytes = kJournalHeader.toByteArray();
+  QByteArray bytes = JournalHeader();
   ends = {bytes.size()};
   for (std::size_t i = 1; i < moments.size(); ++i) {
     bytes += ChangeRecord(moments[i - 1], moments[i]);
@@ -80,15 +80,25 @@ TEST(Journal, DamageCostsItsOwnRecordAlone) {
   EXPECT_TRUE(content.damaged);
   EXPECT_EQ(content.image[0], EmptySession()[0]);
   EXPECT_EQ(content.image[11], moments[2][11]);
+  const QByteArray noise(100, 'x');
+  EXPECT_TRUE(ReadJournal(bytes.first(ends[0]) + noise).damaged) << "no record cut short";
   bytes[20] = '9';
   EXPECT_FALSE(ReadJournal(bytes).readable) << "another version";
+}
+
+// Each mark begins a record of 60 kB whose sum is wrong: summing all of them would take hours.
+TEST(Journal, AJournalOfMarksIsReadInLinearTime) {
+  QByteArray marks("VREC\x60\xea\0\0", 8);
+  const JournalContent content = ReadJournal(JournalHeader() + marks.repeated(1 << 20));
+  EXPECT_TRUE(content.readable && content.damaged);
+  EXPECT_EQ(content.image, EmptySession());
 }
 
 TEST(Journal, RunningProgramsKeepApart) {
   const test::TemporaryFiles files;
   const auto moments = Moments();
   const QByteArray record = ChangeRecord(moments[0], moments[2]);
-  QStringList setAside;
+  JournalsSetAside setAside;
   Journal first(files.Directory());
   ASSERT_TRUE(first.Append(record));
   {
@@ -114,10 +124,17 @@ TEST(Journal, ForeignOnesGetOutOfTheWay) {
   files.Write("vexa.journal", "VEXA-KT 440-840 Ver 4.00 Journal File\r\nabc");
   files.Write("vexa.journal.bad", "earlier");
   files.Write("vexa-2.journal", "VEXA-KT");
-  QStringList setAside;
+  QByteArray damaged = JournalHeader() + ChangeRecord(Moments()[0], Moments()[1]);
+  damaged.back() = static_cast<char>(~damaged.back());
+  files.Write("vexa-3.journal", damaged);
+  QFile huge(files.Write("vexa-4.journal", JournalHeader()));
+  ASSERT_TRUE(huge.resize(qint64{6} << 30));
+  JournalsSetAside setAside;
   Journal journal(files.Directory());
   EXPECT_FALSE(journal.TakeLeft(setAside));
-  EXPECT_EQ(setAside, QStringList{files.Path("vexa.journal.bad2")});
+  EXPECT_EQ(setAside.otherVersions, QStringList{files.Path("vexa.journal.bad2")});
+  EXPECT_EQ(setAside.unreadable,
+            (QStringList{files.Path("vexa-3.journal.bad"), files.Path("vexa-4.journal.bad")}));
   EXPECT_TRUE(files.Read("vexa.journal.bad2").endsWith("abc"));
   EXPECT_EQ(files.Read("vexa.journal.bad"), "earlier");
   EXPECT_FALSE(QFile::exists(files.Path("vexa-2.journal"))) << "ended before its first record";

@@ -158,7 +158,8 @@ TEST(Thickness, SubstrateChoosesTheExtremaAndReplacesTheIndex) {
   const Outcome derived = Compute(1, 0, Peaks({500, 600}, 15.0), Flat(9.0), 1.5);
   EXPECT_NEAR(derived.film[600], std::sqrt(4.5), 1E-12);
   EXPECT_NEAR(derived.result.thicknessNm, 1500.0 / std::sqrt(4.5), 1E-9);
-  EXPECT_EQ(Compute(2, 1, spectrum, Flat(9.0), 1.5).film, Flat(9.0)) << "not for type C";
+  EXPECT_EQ(Compute(2, 1, spectrum, Flat(9.0), 1.5).status, -3) << "not for type C";
+  EXPECT_EQ(Compute(1, 1, spectrum, Flat(9.0), 0.0).status, -3) << "a substrate without an index";
   EXPECT_EQ(Compute(1, 1, Peaks({500, 600}, 90.0), Flat(9.0), 1.5).status, -3)
       << "100 % has no index";
 }

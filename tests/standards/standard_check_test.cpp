@@ -26,37 +26,44 @@ StandardSet GoodStandard() {
 TEST(CheckStandardSet, TheFirstFaultInTheOrderOfTheGroups) {
   struct Case {
     void (*spoil)(StandardSet& standard);
-    const char* text;  // null: no fault
+    std::optional<Message> fault;
+    const char* group = "";
   };
   const Case cases[] = {
-      {[](StandardSet&) {}, nullptr},
-      {[](StandardSet& s) { s.wavelengths[1] = 841; }, "反射率規格波長範囲外エラー"},
-      {[](StandardSet& s) { s.conditions[3].lower = -0.1; }, "反射率規格規格マイナス指定エラー"},
-      {[](StandardSet& s) { s.conditions[2].lower = 2.1; }, "反射率規格大小反転エラー"},
-      {[](StandardSet& s) { s.wavelengths[3] = 440; }, "反射率規格同一波長指定エラー"},
+      {[](StandardSet&) {}, {}},
+      {[](StandardSet& s) { s.wavelengths[1] = 841; }, Message::kStandardOutOfRange, "反射率規格"},
+      {[](StandardSet& s) { s.conditions[3].lower = -0.1; }, Message::kStandardNegative,
+       "反射率規格"},
+      {[](StandardSet& s) { s.conditions[2].lower = 2.1; }, Message::kStandardReversed,
+       "反射率規格"},
+      {[](StandardSet& s) { s.wavelengths[3] = 440; }, Message::kStandardSameWavelength,
+       "反射率規格"},
       {[](StandardSet& s) {
          s.conditions[4] = {true, 1.0, 0.0};
        },
-       "反射率規格同一波長指定エラー"},
-      {[](StandardSet& s) { s.averageReflectance.lower = -1.0; },
-       "平均反射率規格規格マイナス指定エラー"},
-      {[](StandardSet& s) { s.wavelengthValue.limits.upper = 840.5; },
-       "波長値規格波長範囲外エラー"},
+       Message::kStandardSameWavelength, "反射率規格"},
+      {[](StandardSet& s) { s.averageReflectance.lower = -1.0; }, Message::kStandardNegative,
+       "平均反射率規格"},
+      {[](StandardSet& s) { s.wavelengthValue.limits.upper = 840.5; }, Message::kStandardOutOfRange,
+       "波長値規格"},
       {[](StandardSet& s) {
          s.wavelengthValue.limits = {true, 500.0, 600.0};
        },
-       "波長値規格大小反転エラー"},
-      {[](StandardSet& s) { s.chroma.upper = s.chroma.lower = -1.0; },
-       "クロマ規格規格マイナス指定エラー"},
-      {[](StandardSet& s) { s.chroma.lower = 6.0; }, "クロマ規格大小反転エラー"},
-      {[](StandardSet& s) { s.hueAngle.lower = 360.1; }, "色相角規格範囲外エラー<範囲:0°-360°>"},
-      {[](StandardSet& s) { s.hueAngle.upper = -0.1; }, "色相角規格範囲外エラー<範囲:0°-360°>"},
-      {[](StandardSet& s) { s.luminousReflectance.upper = 0.0; }, "視感反射率規格大小反転エラー"},
+       Message::kStandardReversed, "波長値規格"},
+      {[](StandardSet& s) { s.chroma.upper = s.chroma.lower = -1.0; }, Message::kStandardNegative,
+       "クロマ規格"},
+      {[](StandardSet& s) { s.chroma.lower = 6.0; }, Message::kStandardReversed, "クロマ規格"},
+      {[](StandardSet& s) { s.hueAngle.lower = 360.1; }, Message::kStandardHueOutOfRange,
+       "色相角規格"},
+      {[](StandardSet& s) { s.hueAngle.upper = -0.1; }, Message::kStandardHueOutOfRange,
+       "色相角規格"},
+      {[](StandardSet& s) { s.luminousReflectance.upper = 0.0; }, Message::kStandardReversed,
+       "視感反射率規格"},
       // the order of the groups
       {[](StandardSet& s) { s.luminousReflectance.upper = s.hueAngle.upper = -1.0; },
-       "色相角規格範囲外エラー<範囲:0°-360°>"},
+       Message::kStandardHueOutOfRange, "色相角規格"},
       {[](StandardSet& s) { s.averageReflectance.upper = s.conditions[0].upper = -1.0; },
-       "反射率規格規格マイナス指定エラー"},
+       Message::kStandardNegative, "反射率規格"},
       // groups that are off are not looked at
       {[](StandardSet& s) {
          s.wavelengths[0] = 900;
@@ -66,12 +73,15 @@ TEST(CheckStandardSet, TheFirstFaultInTheOrderOfTheGroups) {
            *limits = {false, -5.0, 1000.0};
          }
        },
-       nullptr},
+       {}},
   };
   for (const Case& c : cases) {
     StandardSet standard = GoodStandard();
     c.spoil(standard);
-    EXPECT_EQ(CheckStandardSet(standard).value_or(QString()), QString::fromUtf8(c.text));
+    EXPECT_EQ(
+        CheckStandardSet(standard),
+        c.fault ? std::optional(MessageCall{*c.fault, {QString::fromUtf8(c.group)}}) : std::nullopt)
+        << c.group;
   }
   EXPECT_FALSE(CheckStandardSet({})) << "the defaults";
 }

@@ -3,7 +3,6 @@
 
 #include <gtest/gtest.h>
 
-#include "support/prepared_answers.h"
 #include "support/temporary_files.h"
 
 namespace vexa {
@@ -13,14 +12,18 @@ constexpr const char* kName = "レンズ 1.std";
 
 class StandardFile : public testing::Test {
  protected:
-  bool Read() { return ReadStandardFile(path_, standard_, chroma_, hue_, messages_); }
+  // Whether it was read; what it held, or the message about it.
+  bool Read() {
+    const auto read = ReadStandardFile(path_);
+    contents_ = read ? *read : StandardContents();
+    message_ = read ? std::nullopt : std::optional(StandardMessage(path_, read.Fault()).id);
+    return static_cast<bool>(read);
+  }
 
   test::TemporaryFiles files_;
   QString path_ = files_.Path(kName);
-  test::PreparedAnswers messages_;
-  StandardSet standard_;
-  ReferenceMarker chroma_;
-  ReferenceMarker hue_;
+  StandardContents contents_;
+  std::optional<Message> message_;
 };
 
 const QByteArray kGolden =
@@ -58,16 +61,13 @@ TEST_F(StandardFile, IsWrittenAndReadByteForByte) {
   standard.hueAngle = {true, 10.0, 350.0};
   const ReferenceMarker chroma{true, 3.5};
   const ReferenceMarker hue{false, 275.0};
-  ASSERT_TRUE(WriteStandardFile(path_, standard, chroma, hue));
+  ASSERT_TRUE(WriteStandardFile(path_, {standard, chroma, hue}));
   EXPECT_EQ(files_.Read(kName), kGolden);
   EXPECT_EQ(kGolden.count('\n'), 62);
 
   ASSERT_TRUE(Read());
-  EXPECT_EQ(standard_, standard);
-  EXPECT_EQ(chroma_, chroma);
-  EXPECT_EQ(hue_, hue);
-  EXPECT_FALSE(WriteStandardFile(QStringLiteral("/nowhere/file.std"), standard, chroma, hue));
-  EXPECT_TRUE(messages_.Take().empty());
+  EXPECT_EQ(contents_, (StandardContents{standard, chroma, hue}));
+  EXPECT_FALSE(WriteStandardFile(QStringLiteral("/nowhere/file.std"), {}));
 }
 
 TEST_F(StandardFile, OldVersionsAndOtherKindsAreRefusedWithAMessage) {
@@ -80,29 +80,21 @@ TEST_F(StandardFile, OldVersionsAndOtherKindsAreRefusedWithAMessage) {
       {"VEXA-KT 440-840 Ver 3.21 Data File", false},
       {"", false},
   };
-  const test::ShownMessage refusal{
-      "VEXA-KT: 規格ﾌｧｲﾙ名:" + path_.toStdString() + "\r\rVer1.10以前の規格ﾌｧｲﾙは読み込めません。",
-      16};
   for (const auto& [header, read] : cases) {
     files_.Write(kName,
                  QByteArray(kGolden).replace("VEXA-KT 440-840 Ver 3.21 Standard File", header));
-    standard_ = {};
     EXPECT_EQ(Read(), read) << header;
-    EXPECT_EQ(standard_ == StandardSet{}, !read) << header;
-    EXPECT_EQ(messages_.Take(), read ? std::vector<test::ShownMessage>() : std::vector{refusal})
+    EXPECT_EQ(message_, read ? std::nullopt : std::optional(Message::kStandardVersionRefused))
         << header;
   }
 }
 
-TEST_F(StandardFile, AnyCutEndsTheReadingAndKeepsWhatWasRead) {
+TEST_F(StandardFile, AnyCutIsAFault) {
   const QList<QByteArray> lines = kGolden.chopped(2).split('\n');
   for (qsizetype count = 1; count < lines.size(); ++count) {
     files_.Write(kName, lines.first(count).join('\n'));
-    standard_ = {};
     EXPECT_FALSE(Read()) << count;
-    EXPECT_EQ(standard_.useReflectance, count > 1) << count;
-    EXPECT_EQ(standard_.conditions[1].upper, count > 8 ? 2.25 : 100.0) << count;
-    EXPECT_EQ(standard_.hueAngle.lower, count > 57 ? 350.0 : 0.0) << count;
+    EXPECT_EQ(message_, Message::kStandardReadError) << count;
   }
 }
 
@@ -111,23 +103,23 @@ TEST_F(StandardFile, AValueOfAnotherKindEndsTheReading) {
     const char* defect;
     const char* from;
     const char* to;
-    double firstUpper;  // afterwards; 100 before
+    int line;
   };
   const Case cases[] = {
-      {"text for a flag", "#TRUE#\r\n 450", "yes\r\n 450", 100.0},
-      {"text for a wavelength", " 450 ", "blue", 100.0},
-      {"wavelength beyond 16 bits", " 450 ", "65986", 100.0},
-      {"text for a limit", " 2.25 ", "2.25 %", 1.5},
-      {"limit beyond a double", " 2.25 ", "1E999", 1.5},
-      {"an empty line", " 2.25 ", "", 1.5},
-      {"text for the selector", "\r\n0\r\n", "\r\npeak\r\n", 1.5},
-      {"a flag for the last number", " 275 ", "#TRUE#", 1.5},
+      {"text for a flag", "#TRUE#\r\n 450", "yes\r\n 450", 3},
+      {"text for a wavelength", " 450 ", "blue", 4},
+      {"wavelength beyond 16 bits", " 450 ", "65986", 4},
+      {"text for a limit", " 2.25 ", "2.25 %", 9},
+      {"limit beyond a double", " 2.25 ", "1E999", 9},
+      {"an empty line", " 2.25 ", "", 9},
+      {"text for the selector", "\r\n0\r\n", "\r\npeak\r\n", 50},
+      {"a flag for the last number", " 275 ", "#TRUE#", 62},
   };
   for (const Case& c : cases) {
     files_.Write(kName, QByteArray(kGolden).replace(c.from, c.to));
-    standard_ = {};
-    EXPECT_FALSE(Read()) << c.defect;
-    EXPECT_EQ(standard_.conditions[0].upper, c.firstUpper) << c.defect;
+    const auto read = ReadStandardFile(path_);
+    ASSERT_FALSE(read) << c.defect;
+    EXPECT_EQ(read.Fault().line, c.line) << c.defect;
   }
   files_.Write(kName, "\xff\xfe\x00\x81");
   EXPECT_FALSE(Read());

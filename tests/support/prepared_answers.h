@@ -3,6 +3,7 @@
 
 #include <deque>
 #include <functional>
+#include <optional>
 #include <string>
 #include <utility>
 #include <vector>
@@ -11,11 +12,23 @@
 
 namespace vexa::test {
 
-/// A message that was shown: "TITLE: TEXT", and its type code.
+/// A message that was shown: which one and with what arguments. One that was called by its text is
+/// "TITLE: TEXT" and its type code.
 struct ShownMessage {
+  ShownMessage(Message id, QStringList arguments = {})  // NOLINT: a message alone is one shown
+      : call(MessageCall{id, std::move(arguments)}),
+        text(MessageTitle(id).toStdString() + ": " + MessageText(*call).toStdString()),
+        type(MessageType(id)) {}
+  ShownMessage(std::string titleAndText, int typeCode)
+      : text(std::move(titleAndText)), type(typeCode) {}
+
+  bool operator==(const ShownMessage& other) const {
+    return call && other.call ? call == other.call : text == other.text && type == other.type;
+  }
+
+  std::optional<MessageCall> call;
   std::string text;
   int type = 0;
-  bool operator==(const ShownMessage&) const = default;
 };
 
 inline void PrintTo(const ShownMessage& message, std::ostream* out) {
@@ -24,18 +37,20 @@ inline void PrintTo(const ShownMessage& message, std::ostream* out) {
 
 using Shown = std::vector<ShownMessage>;
 
-/// Keeps every message and gives the prepared answers one after another, then OK.
+/// Keeps every message and gives the prepared answers to questions one after another, then OK.
 class PreparedAnswers : public MessageService {
  public:
-  MessageResult MsgCall(const QString& text, std::int16_t type, const QString& title) override {
-    shown_.push_back({title.toStdString() + ": " + text.toStdString(), type});
+  void Tell(const MessageCall& call) override {
+    shown_.push_back({call.id, call.arguments});
     if (whenShown) {
       whenShown();
     }
-    if (answers.empty()) {
-      return MessageResult::kOk;
-    }
-    return std::exchange(answers, {answers.begin() + 1, answers.end()}).front();
+  }
+  QCoro::Task<MessageResult> Ask(MessageCall call) override {
+    co_return Show({call.id, call.arguments});
+  }
+  MessageResult MsgCall(const QString& text, std::int16_t type, const QString& title) override {
+    return Show({title.toStdString() + ": " + text.toStdString(), type});
   }
   void Beep() override { ++beeps; }
 
@@ -46,6 +61,17 @@ class PreparedAnswers : public MessageService {
   int beeps = 0;
 
  private:
+  MessageResult Show(ShownMessage message) {
+    shown_.push_back(std::move(message));
+    if (whenShown) {
+      whenShown();
+    }
+    if (answers.empty()) {
+      return MessageResult::kOk;
+    }
+    return std::exchange(answers, {answers.begin() + 1, answers.end()}).front();
+  }
+
   Shown shown_;
 };
 

@@ -15,7 +15,7 @@ namespace {
 
 using test::ShownMessage;
 
-const ShownMessage kQuestion{"確認: 色座標の作成を中止します。", 33};
+const ShownMessage kQuestion{Message::kAbortDiagram};
 
 class Diagram : public test::ViewTest {
  protected:

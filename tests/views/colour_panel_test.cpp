@@ -63,10 +63,7 @@ TEST_F(Panel, ShowsTheColourOfTheSelectedSlot) {
 }
 
 TEST_F(Panel, AsksWhenTheStockWasTakenUnderOtherConditions) {
-  const ShownMessage question{
-      "VEXA-KT ﾒｯｾｰｼﾞ: "
-      "現在累積されている色度図データと表示条件が異なります。現累積データをクリアしますか？",
-      33};
+  const ShownMessage question{Message::kClearStock};
   struct Case {
     int points;
     StockConditions taken;

@@ -20,10 +20,8 @@ namespace {
 using test::Shown;
 using test::ShownMessage;
 
-const ShownMessage kReadError{
-    "VEXA-KT ｴﾗｰ: ﾃﾞｰﾀ･ﾌｧｲﾙの読み込みでエラーが発生しました。\r\r"
-    "VEXA-KT 440-840 Ver3.21 Stock Fileﾌｧｲﾙではありません\r\rﾌｧｲﾙを確認してください。",
-    16};
+const ShownMessage kReadError{Message::kStockReadError,
+                              {QStringLiteral("VEXA-KT 440-840 Ver3.21 Stock File")}};
 
 class Stock : public test::WindowTest {
  protected:
@@ -71,14 +69,15 @@ TEST_F(Stock, SavesLoadsAndClears) {
   EXPECT_EQ(messages.Take().at(0).type, 16);
 }
 
-TEST_F(Stock, AFaultyFileIsShownAndWhatWasReadStays) {
+TEST_F(Stock, AFaultyFileIsToldAndChangesNothing) {
   (void)state.stock.StockAdd({.x = 0.3}, true);
   dialogs.open = files.Write(
       "x.stc",
       "VEXA-KT 440-840 Ver3.21 Stock File\r\nTrue\r\n 1 \r\nTrue\r\n 3 \r\n1,2,3\r\n4,5,6\r\n7,");
   Press("StockLoad");
   EXPECT_EQ(messages.Take(), std::vector{kReadError});
-  EXPECT_EQ(state.stock.Count, 2);
+  EXPECT_EQ(state.stock.Count, 1);
+  EXPECT_EQ(state.stock.P1[0], 0.3);
 }
 
 // A flat spectrum but for a bump in the green.

@@ -88,7 +88,7 @@ TEST_F(DisplaySettings, AClickSelectsAnEntryAndOtherCharactersAreRefused) {
   QCoreApplication::processEvents();
   EXPECT_EQ(step.selectedText(), QStringLiteral("1.0"));
   QTest::keyClicks(&step, QStringLiteral("2x5"));
-  const test::ShownMessage refused{"VEXA-KT ｴﾗｰ: ﾃﾞｰﾀが入力できません。再入力して下さい。", 16};
+  const test::ShownMessage refused{Message::kEntryRefused};
   EXPECT_EQ(messages.Take(), std::vector{refused});
   window.accept();
   EXPECT_EQ(state.display.textStepNm, 25);

@@ -49,8 +49,7 @@ TEST_F(History, GrowsToFiftyPointsAndNoFurther) {
   Add(std::vector<double>(48, 1600.0));
   EXPECT_TRUE(messages.Take().empty());
   Add({1700.0});
-  EXPECT_EQ(messages.Take(),
-            (Shown{{"VEXA-KT: ｸﾞﾗﾌ･ﾃﾞｰﾀ数が最大ﾃﾞｰﾀ数を越えました。　(最大ﾃﾞｰﾀ数 50 ﾎﾟｲﾝﾄ)", 48}}));
+  EXPECT_EQ(messages.Take(), (Shown{{Message::kHistoryFull}}));
   EXPECT_EQ(Labels(), "50 1600.0 50");
 }
 
@@ -66,8 +65,8 @@ TEST_F(History, KeepsPhysicalAndOpticalThicknessesApart) {
 }
 
 TEST_F(History, AddsTheThicknessOfTheCurrentSlot) {
-  const ShownMessage notSetUp{"VEXA-KT ﾜｰﾆﾝｸﾞ: 膜厚測定が設定されていません。", 48};
-  const ShownMessage nothing{"VEXA-KT 情報: 有効ﾃﾞｰﾀがありません。", 64};
+  const ShownMessage notSetUp{Message::kHistoryThicknessDisabled};
+  const ShownMessage nothing{Message::kNoValidData};
   Press("AddPoint");
   EXPECT_EQ(messages.Take(), std::vector{notSetUp});
   state.thickness.enabled = true;
@@ -103,7 +102,7 @@ TEST_F(History, CursorStepsAtOnceAndRepeatsWhileTheButtonIsHeld) {
 
 TEST_F(History, DeletesThePointAtTheCursor) {
   Press("DeletePoint");
-  EXPECT_EQ(messages.Take(), (Shown{{"VEXA-KT: ﾃﾞｰﾀがありません。", 48}}));
+  EXPECT_EQ(messages.Take(), (Shown{{Message::kHistoryNoPoint}}));
   Add({100.0, 2000.0, 300.0});
   emit Find<QAbstractButton>("CursorLeft").pressed();
   Press("DeletePoint");
@@ -119,7 +118,7 @@ TEST_F(History, ClearsAfterAQuestion) {
   Add({100.0, 200.0});
   messages.answers = {MessageResult::kCancel};
   Choose("ClearAll");
-  EXPECT_EQ(messages.Take(), (Shown{{"VEXA-KT: 測定ﾃﾞｰﾀをｸﾘｱします。", 33}}));
+  EXPECT_EQ(messages.Take(), (Shown{{Message::kHistoryClear}}));
   EXPECT_EQ(Labels(), "2 200.0 2");
   Choose("ClearAll");
   EXPECT_EQ(Labels(), "0 - -");
@@ -127,7 +126,7 @@ TEST_F(History, ClearsAfterAQuestion) {
 
 TEST_F(History, APointOffTheScaleKeepsTheScale) {
   Add({1510.0, 1630.0, 20001.0});
-  EXPECT_EQ(messages.Take(), (Shown{{"VEXA-KT: 設定にｴﾗｰが発生しました。変更はされません。", 48}}));
+  EXPECT_EQ(messages.Take(), (Shown{{Message::kHistoryScaleFault}}));
   EXPECT_EQ(Scale(), QCPRange(1500.0, 1650.0));
 }
 
@@ -141,12 +140,11 @@ TEST_F(History, IsSaved) {
   Add({1600.0});
   messages.answers = {MessageResult::kCancel};
   Choose("SaveAs");
-  EXPECT_EQ(messages.Take(),
-            (Shown{{"VEXA-KT ﾜｰﾆﾝｸﾞ: 同ﾌｧｲﾙ名が存在します。上書き保存しますか？", 49}}));
+  EXPECT_EQ(messages.Take(), (Shown{{Message::kReplaceFileOrCancel}}));
   EXPECT_TRUE(files.Read("履歴.thk").endsWith("1512.25\r\n"));
   dialogs.save = SaveChoice{files.Path("missing/x"), 1};
   Choose("SaveAs");
-  EXPECT_EQ(messages.Take(), (Shown{{"VEXA-KT ｴﾗｰ: 膜厚履歴ﾌｧｲﾙの書き込みに失敗しました。", 16}}));
+  EXPECT_EQ(messages.Take(), (Shown{{Message::kHistoryWriteError}}));
 }
 
 TEST_F(History, ScaleDialogKeepsItsLimits) {
@@ -171,8 +169,7 @@ TEST_F(History, ScaleDialogKeepsItsLimits) {
     EXPECT_EQ(dialog.Outcome(), c.accepted ? QStringLiteral("OK") : QStringLiteral("CANCEL"))
         << c.minimum << ".." << c.maximum;
     EXPECT_EQ(dialog.isVisible(), !c.accepted);
-    const ShownMessage refusal{
-        "VEXA-KT ｴﾗｰ: ｽｹｰﾙ設定が設定範囲を越えています。(0 ≦ 設定値 ≦ 20000)", 16};
+    const ShownMessage refusal{Message::kHistoryScaleOutOfRange};
     EXPECT_EQ(messages.Take(), c.accepted ? Shown{} : std::vector{refusal});
   }
 }

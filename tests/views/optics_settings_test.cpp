@@ -59,10 +59,8 @@ TEST_F(Settings, FieldsTakeNumbersAloneAndShowThemInTheirPattern) {
 }
 
 TEST_F(Settings, FixedValuesHaveTheirRange) {
-  const ShownMessage reflectance{
-      "設定入力: 固定反射率値が設定範囲を越えています。 (0.1 ≦ 設定値 ≦ 110)", 48};
-  const ShownMessage index{"設定入力: 固定屈折率が設定範囲を越えています。 (0.1 ≦ 設定値 ≦ 10)",
-                           48};
+  const ShownMessage reflectance{Message::kReferenceOutOfRange};
+  const ShownMessage index{Message::kIndexOutOfRange};
   const struct {
     Mode mode;
     const char* typed;
@@ -102,12 +100,11 @@ TEST_F(Settings, NumbersThatWereNotEditedKeepTheirDigits) {
 }
 
 TEST_F(Settings, RejectedSettingsChangeNothing) {
-  const ShownMessage computed{"VEXA-KT: 分散計算が発生しました。設定は無効となります。", 48};
-  const ShownMessage noFile{"VEXA-KT: 分散データが読み込まれていません。", 48};
-  const ShownMessage noSubstrate{"VEXA-KT: 基板屈折率データが読み込まれていません。", 48};
-  const ShownMessage typeC{
-      "VEXA-KT: ’タイプＣ’と’基板屈折率を使用し計算’の組み合わせはできません。", 48};
-  const ShownMessage noNumber{"設定入力: 係数が数値ではありません。", 48};
+  const ShownMessage computed{Message::kDispersionFault, {QStringLiteral("")}};
+  const ShownMessage noFile{Message::kIndexFileFault, {QStringLiteral("")}};
+  const ShownMessage noSubstrate{Message::kSubstrateFileFault, {QStringLiteral("")}};
+  const ShownMessage typeC{Message::kTypeCWithSubstrate};
+  const ShownMessage noNumber{Message::kCoefficientNotANumber};
   const struct {
     const char* kind;
     const char* type;
@@ -174,7 +171,7 @@ TEST_F(Settings, FilesAreSavedAndLoaded) {
       {Mode::kThickness, "膜.ind", "VEXA-KT 440-840 Ver 3.21 Index File\r\n",
        "ｲﾝﾃﾞｯｸｽ･ﾃﾞｰﾀﾌｧｲﾙ(*.ind)|*.ind|"},
   };
-  const ShownMessage question{"VEXA-KT ﾜｰﾆﾝｸﾞ: 同ﾌｧｲﾙ名が存在します。上書き保存しますか？", 49};
+  const ShownMessage question{Message::kReplaceFileOrCancel};
   for (const auto& c : cases) {
     Open(c.mode);
     Press("Kind0");
@@ -202,8 +199,8 @@ TEST_F(Settings, FilesAreSavedAndLoaded) {
 }
 
 TEST_F(Settings, BadFilesLeaveTheFieldsAsTheyWere) {
-  const ShownMessage reference{"VEXA-KT ｴﾗｰ: ﾘﾌｧﾚﾝｽ･ﾌｧｲﾙの読み込みに失敗しました。", 16};
-  const ShownMessage index{"VEXA-KT ｴﾗｰ: 屈折率ﾌｧｲﾙの読み込みに失敗しました。", 16};
+  const ShownMessage reference{Message::kReferenceFileReadError};
+  const ShownMessage index{Message::kIndexFileReadError};
   const struct {
     Mode mode;
     const char* kind;
@@ -233,7 +230,7 @@ TEST_F(Settings, BadFilesLeaveTheFieldsAsTheyWere) {
   dialogs.save = SaveChoice{files.Path("missing/x"), 1};
   Press("Kind2");
   Press("Save");
-  EXPECT_EQ(messages.Take(), (Shown{{"VEXA-KT ｴﾗｰ: 屈折率ﾌｧｲﾙの書き込みに失敗しました。", 16}}));
+  EXPECT_EQ(messages.Take(), (Shown{{Message::kIndexFileWriteError}}));
 }
 
 TEST_F(Settings, SubstrateFilesGiveTheIndexOfTheSubstrate) {

@@ -80,10 +80,9 @@ TEST_F(Thickness, KeepsTheIndexDerivedFromASubstrateWithItsSlot) {
 }
 
 TEST_F(Thickness, WithoutAResultThereIsAMessage) {
-  const ShownMessage disabled{"VEXA-KT ｴﾗｰ: 膜厚測定設定が有効ではありません。", 16};
-  const ShownMessage empty{"VEXA-KT 情報: 有効ﾃﾞｰﾀがありません。", 64};
-  const ShownMessage tooFew{"VEXA-KT ｴﾗｰ: 検出ピーク数が２個以下で膜厚計算にｴﾗｰが発生しました。",
-                            16};
+  const ShownMessage disabled{Message::kThicknessDisabled};
+  const ShownMessage empty{Message::kNoValidData};
+  const ShownMessage tooFew{Message::kTooFewExtrema};
   Compute();
   EXPECT_EQ(messages.Take(), std::vector{disabled});
   state.thickness.enabled = true;

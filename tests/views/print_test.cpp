@@ -154,7 +154,7 @@ TEST_F(Printing, NothingLeavesThePaper) {
 
 TEST_F(Printing, DialogPrintsIntoAFileAndRemembersWhatWasPrinted) {
   PrintSlots(state, 2, request, printer, messages, nullptr);
-  EXPECT_EQ(messages.Take(), (Shown{{"VEXA-KT 情報: 有効ﾃﾞｰﾀがありません。", 64}}));
+  EXPECT_EQ(messages.Take(), (Shown{{Message::kNoValidData}}));
   Fill(2);
   PrintDlg dialog(state, 2, request, printer, messages);
   dialog.show();
@@ -221,8 +221,8 @@ TEST_F(Printing, AMissingPrinterIsToldAndStaysChosen) {
   settings.printerName = QStringLiteral("倉庫の印刷機");
   printer.SetSettings(settings);
   Fill(1);
-  EXPECT_FALSE(printer.Print(request.title, MakeReport(state, request)));
-  EXPECT_EQ(messages.Take(), (Shown{{"VEXA-KT ｴﾗｰ: ﾌﾟﾘﾝﾀが見つかりません。\r\r倉庫の印刷機", 16}}));
+  EXPECT_FALSE(QCoro::waitFor(printer.Print(request.title, MakeReport(state, request))));
+  EXPECT_EQ(messages.Take(), (Shown{{Message::kPrinterMissing, {QStringLiteral("倉庫の印刷機")}}}));
   PrintSetupDlg dialog(printer, messages);
   EXPECT_EQ(Child<QComboBox>(dialog, "Printer").currentText(), settings.printerName);
 }

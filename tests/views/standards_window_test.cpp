@@ -15,8 +15,8 @@ namespace {
 using test::Shown;
 using test::ShownMessage;
 
-const ShownMessage kExists{"VEXA-KT ﾜｰﾆﾝｸﾞ: 同ﾌｧｲﾙ名が存在します。上書き保存しますか？", 52};
-const ShownMessage kUnsaved{"VEXA-KT ﾒｯｾｰｼﾞ: 規格ﾌｧｲﾙがｾｰﾌﾞされていません。ｾｰﾌﾞしますか。", 36};
+const ShownMessage kExists{Message::kReplaceFile};
+const ShownMessage kUnsaved{Message::kSaveStandards};
 
 StandardContents Example() {
   StandardContents contents;
@@ -49,8 +49,7 @@ class StandardsWindow : public test::WindowTest {
   }
   bool HintIsShown() { return Find<QWidget>("fileHint").isVisibleTo(window.get()); }
   QString Write(const char* name, const StandardContents& contents) const {
-    EXPECT_TRUE(WriteStandardFile(files.Path(name), contents.standard, contents.chromaMarker,
-                                  contents.hueMarker));
+    EXPECT_TRUE(WriteStandardFile(files.Path(name), contents));
     return files.Path(name);
   }
 
@@ -188,20 +187,16 @@ TEST_F(StandardsWindow, UnreadableFilesAreToldAndLeaveTheFields) {
   Write("whole.std", Example());
   const QByteArray whole = files.Read("whole.std");
   files.Write("cut.std", whole.left(whole.size() / 2));
-  const std::string unreadable =
-      "VEXA-KT ｴﾗｰ: 規格ﾌｧｲﾙの読み込みでエラーが発生しました。\r\r規格ﾌｧｲﾙ名:";
-  const std::pair<const char*, std::string> cases[] = {
-      {"old.std", "VEXA-KT: 規格ﾌｧｲﾙ名:" + files.Path("old.std").toStdString() +
-                      "\r\rVer1.10以前の規格ﾌｧｲﾙは読み込めません。"},
-      {"cut.std", unreadable + files.Path("cut.std").toStdString()},
-      {"missing.std", unreadable + files.Path("missing.std").toStdString()},
-      {"€.std", "VEXA-KT ｴﾗｰ: ﾌｧｲﾙ名に、設定ﾌｧｲﾙに保存できない文字が含まれています。\r\r" +
-                    files.Path("€.std").toStdString()},
+  const std::pair<const char*, Message> cases[] = {
+      {"old.std", Message::kStandardVersionRefused},
+      {"cut.std", Message::kStandardReadError},
+      {"missing.std", Message::kStandardReadError},
+      {"€.std", Message::kNameNotEncodable},
   };
   for (const auto& [name, message] : cases) {
     dialogs.open = files.Path(name);
     Press("load_bt");
-    EXPECT_EQ(messages.Take(), (Shown{{message, 16}}));
+    EXPECT_EQ(messages.Take(), (Shown{{message, {files.Path(name)}}}));
     EXPECT_FALSE(Find<QGroupBox>("useReflectance").isChecked());
     EXPECT_EQ(Text("fileName"), "規格ﾌｧｲﾙ名:");
   }
@@ -217,9 +212,9 @@ TEST_F(StandardsWindow, SavingOverAFileIsAskedAndItsFailureShown) {
 
   dialogs.save = SaveChoice{files.Path("missing/b.std")};
   Press("save_bt");
-  EXPECT_EQ(messages.Take(), (Shown{{"VEXA-KT ｴﾗｰ: ﾌｧｲﾙの書き込みでエラーが発生しました。\r\r" +
-                                         files.Path("missing/b.std").toStdString(),
-                                     16}}));
+  EXPECT_EQ(messages.Take(),
+            (Shown{{Message::kWriteError,
+                    {files.Path("missing/b.std"), QStringLiteral("ﾌｫﾙﾀﾞがありません。")}}}));
   EXPECT_EQ(Text("fileName"), "規格ﾌｧｲﾙ名:");
 }
 
@@ -260,8 +255,7 @@ TEST_F(StandardsWindow, TellsWhatTheConditionsDoNotTest) {
 TEST_F(StandardsWindow, AsksAtTheEndOnlyForChangedStandardsOfANamedFile) {
   const QString target = files.Path("end.std");
   const QString bad = files.Path("missing/end.std");
-  const ShownMessage unwritten{
-      "VEXA-KT ｴﾗｰ: ﾌｧｲﾙの書き込みでエラーが発生しました。\r\r" + bad.toStdString(), 16};
+  const ShownMessage unwritten{Message::kWriteError, {bad, QStringLiteral("ﾌｫﾙﾀﾞがありません。")}};
   constexpr MessageResult kYes = MessageResult::kYes;
   struct Case {
     bool changed;
@@ -285,7 +279,7 @@ TEST_F(StandardsWindow, AsksAtTheEndOnlyForChangedStandardsOfANamedFile) {
     messages.answers = {c.answer};
     dialogs.save = c.save ? std::optional(SaveChoice{*c.save}) : std::nullopt;
     EXPECT_FALSE(files.Has("end.std"));
-    EXPECT_EQ(SaveStandardsBeforeExit(state, messages, dialogs), c.goesOn);
+    EXPECT_EQ(QCoro::waitFor(SaveStandardsBeforeExit(state, messages, dialogs)), c.goesOn);
     EXPECT_EQ(messages.Take(), c.shown);
   }
   EXPECT_TRUE(files.Has("end.std"));

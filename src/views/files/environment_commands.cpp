@@ -5,6 +5,7 @@
 
 #include "files/configuration.h"
 #include "files/environment_file.h"
+#include "files/startup_file.h"
 #include "measurement/dispersion_data.h"
 #include "measurement/evaluation.h"
 #include "views/common/file_questions.h"
@@ -30,7 +31,7 @@ bool OpenEnvironment(Session& session, MessageService& messages, FileDialogs& di
   const std::optional<QString> path = dialogs.AskOpen(
       QStringLiteral("環境ﾌｧｲﾙを開く"),
       QStringLiteral("環境ﾃﾞｰﾀ･ﾌｧｲﾙ(*.env)|*.env|") + QStringLiteral("全てのﾌｧｲﾙ(*.*)|*.*|"));
-  if (!path || !MayKeepName(*path, messages)) {
+  if (!path || !MayKeepName(NameForStartup(state, *path), messages)) {
     return false;
   }
   Settings settings = session.State();
@@ -67,7 +68,7 @@ QCoro::Task<> SaveEnvironmentAs(Session& session, MessageService& messages, File
     co_return;
   }
   const QString path = WithExtension(choice->path, QStringLiteral(".env"));
-  if (!MayKeepName(path, messages)) {
+  if (!MayKeepName(NameForStartup(state, path), messages)) {
     co_return;
   }
   const bool may = co_await MayReplace(path, messages);

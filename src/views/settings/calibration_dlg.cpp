@@ -4,6 +4,7 @@
 #include <QFormLayout>
 
 #include "base/translation.h"
+#include "files/keep_unreadable.h"
 #include "instrument/calibration_file.h"
 #include "views/common/dialog_buttons.h"
 #include "views/common/file_questions.h"
@@ -46,8 +47,10 @@ void CalibrationDlg::accept() {
   Settings settings = state_;
   settings.instrument.calibrationShiftNm = static_cast<std::int16_t>(*shift);
   session_.TakeSettings(settings);
-  (void)TellWritten(WriteCalibrationFile(path, state_.instrument.calibrationShiftNm), path,
-                    messages_);
+  const WriteResult kept =
+      KeepUnreadable(path, [&path] { return static_cast<bool>(ReadCalibrationFile(path)); });
+  (void)TellWritten(kept ? WriteCalibrationFile(path, state_.instrument.calibrationShiftNm) : kept,
+                    path, messages_);
   QDialog::accept();
 }
 
