@@ -136,6 +136,10 @@ TEST_F(Settings, RejectedSettingsChangeNothing) {
       Press(button);
       EXPECT_EQ(messages.Take(), std::vector{c.shown}) << c.kind << button;
       EXPECT_TRUE(dialog->isVisible());
+      if (c.shown == noNumber) {
+        EXPECT_EQ(dialog->focusWidget(), &Find<QWidget>(c.field)) << "on its page";
+        EXPECT_EQ(Find<QTabWidget>("Pages").currentIndex(), 3);
+      }
       EXPECT_EQ(dialogs.filter, "") << "no name is asked for";
       EXPECT_FALSE(state.thickness.enabled);
       EXPECT_EQ(state.thickness.coat, DefaultCoatSetting());
