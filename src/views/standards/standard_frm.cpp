@@ -6,6 +6,7 @@
 #include <QPushButton>
 #include <QVBoxLayout>
 
+#include "base/translation.h"
 #include "measurement/evaluation.h"
 #include "standards/condition_caption.h"
 #include "standards/standard_check.h"
@@ -113,6 +114,8 @@ QWidget* StandardFrm::BuildGroups() {
 }
 
 QWidget* StandardFrm::BuildPeakChoice() {
+  peak_->setToolTip(Text::tr("反射率が最大になる波長を判定します。"));
+  bottom_->setToolTip(Text::tr("反射率が最小になる波長を判定します。"));
   peak_->setObjectName(QStringLiteral("peak"));
   bottom_->setObjectName(QStringLiteral("bottom"));
   auto* choice = new QButtonGroup(this);
