@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include <gtest/gtest.h>
 
+#include <QScreen>
+
 #include "support/window_test.h"
 #include "views/settings/dispset.h"
 
@@ -80,6 +82,7 @@ TEST_F(DisplaySettings, BeginsWithItsFirstFieldAndTabEntersAGroupOnWhatIsChosen)
   state.colour.illuminant = 3;
   dispset window(state, messages);
   window.show();
+  EXPECT_LT(window.width(), window.screen()->availableSize().width()) << "it scrolls instead";
   EXPECT_EQ(window.focusWidget()->objectName(), QStringLiteral("FullScale"));
   for (int i = 0; i < 4; ++i) {
     const auto& button =

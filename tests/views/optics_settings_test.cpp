@@ -32,6 +32,9 @@ TEST_F(Settings, PagesAndFieldsAreThoseOfTheModeAndTheKind) {
     Open(mode);
     EXPECT_EQ(dialog->windowTitle(),
               thickness ? QStringLiteral("膜厚設定") : QStringLiteral("ﾘﾌｧﾚﾝｽ設定"));
+    EXPECT_EQ(dialog->focusWidget()->objectName(),
+              thickness ? QStringLiteral("ThicknessEnabled")
+                        : QStringLiteral("Kind%1").arg(state.referenceSetting.kind));
     auto& pages = Find<QTabWidget>("Pages");
     ASSERT_EQ(pages.count(), 7);
     for (int i = 0; i < 7; ++i) {
