@@ -39,10 +39,11 @@ QPushButton* Button(const QString& name, const QString& caption, const QString& 
   return button;
 }
 
-QPushButton* TwoStateButton(const QString& caption, const QString& tip, const QKeySequence& key) {
+QPushButton* TwoStateButton(const char* name, const QString& caption, const QString& tip,
+                            const QKeySequence& key) {
   QPushButton* button = Button(
-      caption, caption, QStringLiteral("%1 (%2)").arg(tip, key.toString(QKeySequence::NativeText)),
-      kFrameButton);
+      QLatin1String(name), caption,
+      QStringLiteral("%1 (%2)").arg(tip, key.toString(QKeySequence::NativeText)), kFrameButton);
   button->setCheckable(true);
   button->setShortcut(key);
   button->setIconSize(QSize(16, 16));
@@ -73,9 +74,11 @@ MeasurementBar::MeasurementBar(QWidget* parent)
     : QWidget(parent),
       open_(DoneIcon(false)),
       done_(DoneIcon(true)),
-      background_(TwoStateButton(kBackgroundAtRest, QStringLiteral("ﾊﾞｯｸｸﾞﾗﾝﾄﾞ測定"), Qt::Key_F5)),
+      background_(TwoStateButton("Background", kBackgroundAtRest, QStringLiteral("ﾊﾞｯｸｸﾞﾗﾝﾄﾞ測定"),
+                                 Qt::Key_F5)),
       backgroundAge_(SmallLabel(QStringLiteral("BackgroundAge"))),
-      reference_(TwoStateButton(kReferenceAtRest, QStringLiteral("ﾘﾌｧﾚﾝｽ測定"), Qt::Key_F6)),
+      reference_(
+          TwoStateButton("Reference", kReferenceAtRest, QStringLiteral("ﾘﾌｧﾚﾝｽ測定"), Qt::Key_F6)),
       referenceAge_(SmallLabel(QStringLiteral("ReferenceAge"))),
       allClear_(Button(QStringLiteral("AllClear"), QStringLiteral("ALL CLEAR"),
                        QStringLiteral("全ｽﾛｯﾄをｸﾘｱ"), kCommandButton)),

@@ -256,6 +256,15 @@ void Insert(QWidget& dialog, const char* field, const char* text) {
   edit.insert(QString::fromUtf8(text));
 }
 
+TEST_F(MainWindow, FitsOntoASmallScreen) {
+  // Of 1024 x 600, without the frame of a window.
+  const QSize room(1008, 556);
+  Press("Background");
+  window->resize(room);
+  QCoreApplication::processEvents();
+  EXPECT_EQ(window->size(), room);
+}
+
 TEST_F(MainWindow, SamplingSettingsAreCheckedAndSentAtOnce) {
   const ShownMessage timeError{
       "VEXA-KT ｴﾗｰ: ｻﾝﾌﾟﾘﾝｸﾞ時間が設定範囲を越えています。 (30 ≦ 設定値 ≦ 10000)", 16};
@@ -277,6 +286,10 @@ TEST_F(MainWindow, SamplingSettingsAreCheckedAndSentAtOnce) {
       Type(dialog, "Averaging", c.averaging);
       Click(dialog, "OK");
       closed = !dialog.isVisible();
+      if (!closed) {
+        EXPECT_EQ(dialog.focusWidget()->objectName().toStdString(),
+                  *c.error == timeError ? "Time" : "Averaging");
+      }
     });
     EXPECT_EQ(closed, !c.error.has_value()) << c.time;
     EXPECT_EQ(messages.Take(), c.error ? std::vector{*c.error} : Shown{}) << c.time;
@@ -286,6 +299,14 @@ TEST_F(MainWindow, SamplingSettingsAreCheckedAndSentAtOnce) {
   EXPECT_EQ(window->State().instrument.averagingCount, 1);
 
   InDialog(window->Commands().samplingSettings, [](QWidget& dialog) {
+    EXPECT_EQ(dialog.focusWidget()->objectName(), QStringLiteral("Averaging"));
+    const auto& hint = test::Child<QLabel>(dialog, "SamplingHint");
+    for (const auto& [time, averaging, warned] :
+         {std::tuple{"19999", "2", false}, {"20000", "2", true}, {"", "2", false}}) {
+      Type(dialog, "Time", time);
+      Type(dialog, "Averaging", averaging);
+      EXPECT_EQ(!hint.text().isEmpty(), warned) << time << " ms: answered within 40 s";
+    }
     for (const auto& [button, limit] : {std::pair{"Up", u"16"}, {"Down", u"1"}}) {
       for (int i = 0; i < 20; ++i) {
         Click(dialog, button);

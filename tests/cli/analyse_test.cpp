@@ -147,11 +147,10 @@ TEST_F(Analysis, JudgesWithAStandard) {
   EXPECT_TRUE(Analyse("--standard @s.std").out.contains("slot judgement\n   1 "));
 
   standard.luminousReflectance.lower = 0.0;
-  ASSERT_TRUE(WriteStandardFile(files.Path("s.std"), standard, {}, {}));
+  ASSERT_TRUE(WriteStandardFile(files.Path("s.std"), {standard, {}, {}}));
   EXPECT_EQ(Analyse("--standard @s.std").status, 3) << "the dark slot has no colour";
   standard.luminousReflectance.enabled = false;
   standard.averageReflectance = {true, 25.0, 0.0};
-  ASSERT_TRUE(WriteStandardFile(files.Path("s.std"), standard, {}, {}));
   ASSERT_TRUE(WriteStandardFile(files.Path("s.std"), {standard, {}, {}}));
   EXPECT_EQ(Analyse("--standard @s.std").status, 0);
   EXPECT_EQ(Analyse("--standard @missing.std").status, 1);

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include <gtest/gtest.h>
 
+#include <QScreen>
+
 #include "support/window_test.h"
 #include "views/settings/dispset.h"
 
@@ -11,32 +13,45 @@ using DisplaySettings = test::ViewTest;
 
 struct Case {
   std::vector<std::pair<const char*, const char*>> typed;
-  const char* message;  ///< null when accepted
+  const char* message;          ///< null when accepted
+  const char* fault = nullptr;  ///< the field to be entered again
 };
 
 TEST_F(DisplaySettings, EntriesAreCheckedInTheirOrder) {
   const char* const kWidth = "波長表示の幅が範囲を越えています。 (20 ≦ 設定値 ≦ 401)";
   const char* const kMaximum = "反射率の最大値の設定範囲を越えています。 (0.01 ≦ 設定値 ≦ 100)";
   const Case cases[] = {
-      {{{"Shortest", "439"}}, "波長表示の最短波長値が設定範囲外です。 (440<= 設定値 <=840)"},
+      {{{"Shortest", "439"}},
+       "波長表示の最短波長値が設定範囲外です。 (440<= 設定値 <=840)",
+       "Shortest"},
       {{{"Shortest", "500"}, {"Longest", "499"}},
-       "波長表示の最長波長値が設定範囲外です。 (500<= 設定値 <=840)"},
-      {{{"Shortest", "440"}, {"Longest", "459"}, {"WavelengthTick", "-"}}, kWidth},
+       "波長表示の最長波長値が設定範囲外です。 (500<= 設定値 <=840)",
+       "Longest"},
+      {{{"Shortest", "440"}, {"Longest", "459"}, {"WavelengthTick", "-"}}, kWidth, "Longest"},
       {{{"WavelengthTick", "4.9"}},
-       "波長の目盛り間隔が設定範囲を越えています。 (5 ≦ 設定値 ≦ 1000)"},
+       "波長の目盛り間隔が設定範囲を越えています。 (5 ≦ 設定値 ≦ 1000)",
+       "WavelengthTick"},
       {{{"Minimum", "-1"}, {"Maximum", "0"}},
-       "反射率の最小値の設定範囲を越えています。 (0 ≦ 設定値 ≦ 100)"},
-      {{{"Maximum", "0.009"}}, kMaximum},
-      {{{"Minimum", "5"}, {"Maximum", "5"}}, kMaximum},
+       "反射率の最小値の設定範囲を越えています。 (0 ≦ 設定値 ≦ 100)",
+       "Minimum"},
+      {{{"Maximum", "0.009"}}, kMaximum, "Maximum"},
+      {{{"Minimum", "5"}, {"Maximum", "5"}}, kMaximum, "Maximum"},
       {{{"Minimum", "0"}, {"Maximum", "10"}, {"Tick", "0.09"}},
-       "反射率の目盛り間隔が設定範囲を越えています。 (最大目盛り本数 100)"},
-      {{{"TextStep", "101"}}, "ﾃｷｽﾄ表示の表示ｽﾃｯﾌﾟが設定範囲を越えています。 (1 ≦ 設定値 ≦ 100)"},
-      {{{"TextStep", ""}}, "ﾃｷｽﾄ表示ｽﾃｯﾌﾟが設定範囲を越えています。 (1≦ 設定値 ≦ 100)"},
+       "反射率の目盛り間隔が設定範囲を越えています。 (最大目盛り本数 100)",
+       "Tick"},
+      {{{"TextStep", "101"}},
+       "ﾃｷｽﾄ表示の表示ｽﾃｯﾌﾟが設定範囲を越えています。 (1 ≦ 設定値 ≦ 100)",
+       "TextStep"},
+      {{{"TextStep", ""}}, "ﾃｷｽﾄ表示ｽﾃｯﾌﾟが設定範囲を越えています。 (1≦ 設定値 ≦ 100)", "TextStep"},
       {{{"AverageShortest", "841"}},
-       "平均反射率の最短波長値が設定範囲外です。 (440<= 設定値 <=840)"},
-      {{{"AverageLongest", "-"}}, "平均反射率の最長波長値が設定範囲外です。 (440<= 設定値 <=840)"},
+       "平均反射率の最短波長値が設定範囲外です。 (440<= 設定値 <=840)",
+       "AverageShortest"},
+      {{{"AverageLongest", "-"}},
+       "平均反射率の最長波長値が設定範囲外です。 (440<= 設定値 <=840)",
+       "AverageLongest"},
       {{{"AverageShortest", "600"}, {"AverageLongest", "599"}},
-       "平均反射率の幅が範囲を越えています。 (1 ≦ 設定値 ≦ 401)"},
+       "平均反射率の幅が範囲を越えています。 (1 ≦ 設定値 ≦ 401)",
+       "AverageLongest"},
       {{{"Shortest", "440"}, {"Longest", "460"}, {"Maximum", "0.01"}, {"Tick", "0.0001"}}, nullptr},
   };
   for (const Case& c : cases) {
@@ -56,8 +71,27 @@ TEST_F(DisplaySettings, EntriesAreCheckedInTheirOrder) {
     if (c.message != nullptr) {
       EXPECT_EQ(shown[0].text, std::string("設定入力: ") + c.message);
       EXPECT_EQ(state.display.maximumPercent, 4.0) << "nothing is stored";
+      const auto& field = test::Child<QLineEdit>(window, c.fault);
+      EXPECT_EQ(window.focusWidget(), &field) << c.fault;
+      EXPECT_EQ(field.selectedText(), field.text());
     }
   }
+}
+
+TEST_F(DisplaySettings, BeginsWithItsFirstFieldAndTabEntersAGroupOnWhatIsChosen) {
+  state.colour.illuminant = 3;
+  dispset window(state, messages);
+  window.show();
+  EXPECT_LT(window.width(), window.screen()->availableSize().width()) << "it scrolls instead";
+  EXPECT_EQ(window.focusWidget()->objectName(), QStringLiteral("FullScale"));
+  for (int i = 0; i < 4; ++i) {
+    const auto& button =
+        test::Child<QWidget>(window, qPrintable(QStringLiteral("Illuminant%1").arg(i)));
+    EXPECT_EQ((button.focusPolicy() & Qt::TabFocus) != 0, i == 2) << i;
+  }
+  test::Click(window, "Illuminant0");
+  EXPECT_TRUE(test::Child<QWidget>(window, "Illuminant0").focusPolicy() & Qt::TabFocus);
+  EXPECT_FALSE(test::Child<QWidget>(window, "Illuminant2").focusPolicy() & Qt::TabFocus);
 }
 
 TEST_F(DisplaySettings, ChangedConditionsOfferToClearTheStock) {

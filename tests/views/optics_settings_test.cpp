@@ -32,6 +32,9 @@ TEST_F(Settings, PagesAndFieldsAreThoseOfTheModeAndTheKind) {
     Open(mode);
     EXPECT_EQ(dialog->windowTitle(),
               thickness ? QStringLiteral("膜厚設定") : QStringLiteral("ﾘﾌｧﾚﾝｽ設定"));
+    EXPECT_EQ(dialog->focusWidget()->objectName(),
+              thickness ? QStringLiteral("ThicknessEnabled")
+                        : QStringLiteral("Kind%1").arg(state.referenceSetting.kind));
     auto& pages = Find<QTabWidget>("Pages");
     ASSERT_EQ(pages.count(), 7);
     for (int i = 0; i < 7; ++i) {
@@ -133,6 +136,10 @@ TEST_F(Settings, RejectedSettingsChangeNothing) {
       Press(button);
       EXPECT_EQ(messages.Take(), std::vector{c.shown}) << c.kind << button;
       EXPECT_TRUE(dialog->isVisible());
+      if (c.shown == noNumber) {
+        EXPECT_EQ(dialog->focusWidget(), &Find<QWidget>(c.field)) << "on its page";
+        EXPECT_EQ(Find<QTabWidget>("Pages").currentIndex(), 3);
+      }
       EXPECT_EQ(dialogs.filter, "") << "no name is asked for";
       EXPECT_FALSE(state.thickness.enabled);
       EXPECT_EQ(state.thickness.coat, DefaultCoatSetting());

@@ -7,6 +7,8 @@
 #include "support/pdf_words.h"
 #include "support/spectra.h"
 #include "support/window_test.h"
+#include "views/common/proposed_name.h"
+#include "views/files/saved_slots.h"
 #include "views/print/print_dlg.h"
 #include "views/print/print_preview.h"
 #include "views/print/print_setup_dlg.h"
@@ -107,6 +109,87 @@ TEST_F(Printing, ReportHoldsWhatIsAskedFor) {
       const QString footer = QStringLiteral("VEXA-KT%1/%2").arg(++number).arg(pages.size());
       EXPECT_TRUE(QString(page).remove(u' ').trimmed().endsWith(footer)) << where;
     }
+  }
+}
+
+TEST_F(Printing, ReportSaysUnderWhichConditionsAndFromWhichFile) {
+  Fill(2);
+  const QString name(70, u'Q');
+  state.Slot(1)->info.sampleNumber = name;
+  state.standard.useReflectance = true;
+  state.standard.conditions[0] = {true, 7.6, 3.4};
+  state.standard.conditions[1] = {true, 7.2, 3.6};
+  state.standard.wavelengths = {500, 700};
+  state.instrument.samplingTimeMs = 250;
+  state.instrument.averagingCount = 8;
+  state.envFileName = QStringLiteral("C:\\顧客\\甲.env");
+  request.content = ReportContent::kGraph;
+  const struct {
+    const char* dataFile;
+    bool unsaved;
+    const char* shown;
+  } files[] = {{"/顧客/ﾛｯﾄ7.csv", false, "ﾃﾞｰﾀﾌｧｲﾙ ﾛｯﾄ7.csv"},
+               {"/顧客/ﾛｯﾄ7.csv", true, "ﾃﾞｰﾀﾌｧｲﾙ 未保存"},
+               {"", false, "ﾃﾞｰﾀﾌｧｲﾙ 未保存"}};
+  for (const auto& c : files) {
+    state.currentDataFileName = QString::fromUtf8(c.dataFile);
+    request.unsaved = c.unsaved;
+    const QString all = Pages().join(QString());
+    for (const char* text : {c.shown, "環境ﾌｧｲﾙ 甲.env", "測定条件 250 ms × 8回",
+                             "波長 [nm] 500 700", "上限 [%] 7.6 7.2", "下限 [%] 3.4 3.6"}) {
+      EXPECT_TRUE(all.contains(QString::fromUtf8(text))) << text << all.toStdString();
+    }
+    EXPECT_FALSE(all.contains(QStringLiteral("顧客")));
+    EXPECT_GE(all.count(u'Q'), name.size()) << "whole at least once";
+  }
+}
+
+TEST_F(Printing, TheDiagramIsPrintedWhenItIsChosen) {
+  Fill(1);
+  request.content = ReportContent::kGraph;
+  for (const bool chosen : {false, true}) {
+    dialogs.save = SaveChoice{files.Path("図.pdf")};
+    PrintDlg dialog(state, 1, request, printer, messages);
+    Child<QAbstractButton>(dialog, "ReportDiagram").setChecked(chosen);
+    Click(dialog, "OK");
+    const QString all = test::PdfPages(files.Path("図.pdf")).join(QString());
+    EXPECT_EQ(all.contains(QStringLiteral("560")), chosen) << "a wavelength of the locus";
+    EXPECT_EQ(dialogs.proposed, "A-001.pdf");
+    messages.answers = {MessageResult::kYes};
+  }
+}
+
+TEST_F(Printing, FilesAreProposedAfterTheDataFileOrTheSampleAndTheDay) {
+  EXPECT_EQ(ProposedName(state), QString());
+  Fill(3);
+  state.Slot(1)->info.sampleNumber = QStringLiteral("A/1: \"x\"");
+  EXPECT_EQ(ProposedName(state), QStringLiteral("A1 x"));
+  state.Slot(3)->info.measuredAt = QDateTime({2026, 3, 8}, {7, 5, 3});
+  state.Slot(2)->info.measuredAt = QDateTime({2026, 3, 9}, {7, 5, 3});
+  EXPECT_EQ(ProposedName(state), QStringLiteral("A1 x_20260309"));
+  state.currentDataFileName = QStringLiteral("/データ/ﾛｯﾄ.7.csv");
+  EXPECT_EQ(ProposedName(state), QStringLiteral("ﾛｯﾄ.7_20260309"));
+}
+
+TEST_F(Printing, SlotsAreUnsavedOnceTheyAreNotThoseOfTheirFile) {
+  SavedSlots saved;
+  EXPECT_TRUE(saved.DifferFrom(state)) << "no file";
+  Fill(3);
+  state.currentDataFileName = QStringLiteral("/a.csv");
+  saved.Remember(state);
+  state.colour.illuminant = 2;
+  EvaluateAgain(state);
+  EXPECT_FALSE(saved.DifferFrom(state)) << "no data file holds the settings";
+  const std::function<void()> changes[] = {
+      [this] { state.Slot(2)->reflectance[500] += 0.1; },
+      [this] { state.Slot(3)->info.remark2 = QStringLiteral("再測定"); },
+      [this] { state.Slot(1)->valid = false; },
+      [this] { state.currentDataFileName = QStringLiteral("/b.csv"); }};
+  const VEXATYPE before = state;
+  for (const auto& change : changes) {
+    state = before;
+    change();
+    EXPECT_TRUE(saved.DifferFrom(state)) << &change - changes;
   }
 }
 

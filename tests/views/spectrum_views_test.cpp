@@ -7,7 +7,9 @@
 #include "support/spectra.h"
 #include "support/window_test.h"
 #include "views/colour/background_picture.h"
+#include "views/common/axis_scale.h"
 #include "views/common/plot_export.h"
+#include "views/common/proposed_name.h"
 #include "views/graph/light_graph.h"
 #include "views/graph/main_views.h"
 #include "views/graph/reflectance_graph.h"
@@ -62,6 +64,71 @@ TEST_F(SpectrumViews, MinimumIsThatOfTheShownRange) {
   EXPECT_FALSE(text->visible()) << "the selected slot is empty";
 }
 
+TEST_F(SpectrumViews, LegendTellsLongNamesApartAtEverySize) {
+  for (int number = 1; number <= kSlotCount; ++number) {
+    *state.Slot(number) = *state.Slot(2);
+    state.Slot(number)->info.sampleNumber = QStringLiteral("ﾛｯﾄ2026-03 位置 %1 中央").arg(number);
+  }
+  ReflectanceGraph graph;
+  graph.Show(state, 1);
+  for (const auto& [width, whole] : {std::pair{1400, true}, {420, false}}) {
+    graph.toPixmap(width, 500);
+    QSet<QString> names;
+    for (int i = 0; i < kSlotCount; ++i) {
+      const QString name = graph.graph(i)->name();
+      names << name;
+      EXPECT_EQ(name == graph.Curves()[static_cast<std::size_t>(i)].name, whole);
+    }
+    EXPECT_EQ(names.size(), kSlotCount) << width;
+    EXPECT_LE(graph.legend->outerRect().right(), width);
+    EXPECT_LT(graph.legend->outerRect().height(), 120);
+  }
+}
+
+TEST_F(SpectrumViews, LabelsOfTheAxesStandApart) {
+  ReflectanceGraph graph;
+  graph.Show(state, 2);
+  graph.setViewport(QRect(0, 0, 600, 400));
+  graph.replot();
+  for (const double interval : {5.0, 20.0, 100.0}) {
+    SetTicks(*graph.xAxis, interval);
+    QVector<double> ticks;
+    QVector<QString> labels;
+    graph.xAxis->ticker()->generate(graph.xAxis->range(), QLocale::c(), u'g', 6, ticks, nullptr,
+                                    &labels);
+    double end = -1.0;
+    int shown = 0;
+    for (qsizetype i = 0; i < ticks.size(); ++i) {
+      const double half = graph.fontMetrics().horizontalAdvance(labels[i]) / 2.0;
+      const double place = graph.xAxis->coordToPixel(ticks[i]);
+      if (!labels[i].isEmpty()) {
+        EXPECT_GT(place - half, end) << interval << ' ' << ticks[i];
+        end = place + half;
+        ++shown;
+      }
+    }
+    EXPECT_EQ(ticks.size(), static_cast<qsizetype>(std::floor(840.0 / interval) -
+                                                   std::ceil(440.0 / interval) + 1.0));
+    EXPECT_GE(shown, 4) << interval;
+  }
+}
+
+TEST_F(SpectrumViews, TheViewFollowsACursorThatLeavesIt) {
+  state.display.shortestNm = 500.0;
+  state.display.longestNm = 600.0;
+  for (const Abscissa abscissa : {Abscissa::kWavelength, Abscissa::kReciprocal}) {
+    ReflectanceGraph graph(abscissa);
+    graph.Show(state, 2);
+    const QCPRange full = graph.xAxis->range();
+    graph.SetCursor(700);
+    graph.MoveCursor(510);
+    EXPECT_EQ(graph.xAxis->range(), full);
+    graph.MoveCursor(700);
+    EXPECT_TRUE(graph.xAxis->range().contains(AbscissaOf(abscissa, 700.0)));
+    EXPECT_NEAR(graph.xAxis->range().size(), full.size(), 1e-9);
+  }
+}
+
 TEST_F(SpectrumViews, AllGraphsShareTheCursor) {
   MainViews views(state, messages, dialogs, std::make_shared<BackgroundPicture>(messages));
   views.resize(900, 600);
@@ -81,7 +148,10 @@ TEST_F(SpectrumViews, PicturesAreSavedInTheKindOfTheirEnding) {
   ReflectanceGraph graph;
   graph.resize(600, 400);
   graph.Show(state, 2);
-  AddExport(graph, messages, dialogs);
+  AddExport(graph, messages, dialogs, [this] { return ProposedName(state); });
+  const QByteArray picture = PlotPicture(graph, QStringLiteral("png"));
+  graph.MoveCursor(610);
+  EXPECT_EQ(PlotPicture(graph, QStringLiteral("png")), picture) << "the cursor is left out";
   const std::pair<const char*, const char*> kinds[] = {
       {"図.png", "\x89PNG"}, {"図.svg", "<?xml"}, {"図.pdf", "%PDF-"}};
   for (const auto& [name, beginning] : kinds) {
@@ -89,6 +159,7 @@ TEST_F(SpectrumViews, PicturesAreSavedInTheKindOfTheirEnding) {
     graph.actions().constLast()->trigger();
     EXPECT_TRUE(files.Read(name).startsWith(beginning)) << name;
   }
+  EXPECT_EQ(dialogs.proposed, "S-2");
   dialogs.save = SaveChoice{QStringLiteral("/nowhere/a.png")};
   graph.actions().constLast()->trigger();
   EXPECT_EQ(messages.Take().size(), 1U);

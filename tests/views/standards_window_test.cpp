@@ -146,6 +146,8 @@ TEST_F(StandardsWindow, RefusesFaultyEntriesAndStaysOpen) {
       Press(button);
       EXPECT_EQ(messages.Take(), (Shown{{std::string("VEXA-KT ｴﾗｰ: ") + c.message, 48}}));
       EXPECT_TRUE(window->isVisible());
+      const char* fault = c.conditions.size() > 1 ? "condition10Wavelength" : c.field;
+      EXPECT_EQ(window->focusWidget(), &Find<QWidget>(fault)) << fault;
     }
     EXPECT_EQ(state.standard, StandardSet());
     EXPECT_FALSE(files.Has("faulty.std"));

@@ -8,6 +8,7 @@
 #include "views/colour/chromaticity_diagram.h"
 #include "views/common/file_questions.h"
 #include "views/common/plot_export.h"
+#include "views/common/proposed_name.h"
 
 namespace vexa {
 namespace {
@@ -34,7 +35,7 @@ StockWindow::StockWindow(Session& session, MessageService& messages, FileDialogs
   setObjectName(QStringLiteral("StockWindow"));
   setWindowTitle(QStringLiteral("累積色度図表示"));
   diagram_->setMinimumSize(kSmallestDiagram, ChromaticityDiagram::HeightFor(kSmallestDiagram));
-  AddExport(*diagram_, messages_, dialogs_);
+  AddExport(*diagram_, messages_, dialogs_, [this] { return ProposedName(state_); });
   count_->setObjectName(QStringLiteral("StockWindowCount"));
   count_->setAlignment(Qt::AlignCenter);
   clear_->setToolTip(QStringLiteral("最後の累積データを取り消します。"));

@@ -5,6 +5,7 @@
 #include <QHBoxLayout>
 #include <QLineEdit>
 #include <QPushButton>
+#include <QTabBar>
 
 namespace vexa {
 namespace {
@@ -27,10 +28,10 @@ class FirstField : public QObject {
   void Enter() {
     for (QWidget* widget = dialog_.nextInFocusChain(); widget != nullptr && widget != &dialog_;
          widget = widget->nextInFocusChain()) {
-      const bool entered = (widget->focusPolicy() & Qt::TabFocus) != 0 &&
-                           widget->isEnabledTo(&dialog_) && widget->isVisibleTo(&dialog_) &&
-                           qobject_cast<QPushButton*>(widget) == nullptr &&
-                           widget->focusProxy() == nullptr;
+      const bool entered =
+          (widget->focusPolicy() & Qt::TabFocus) != 0 && widget->isEnabledTo(&dialog_) &&
+          widget->isVisibleTo(&dialog_) && qobject_cast<QPushButton*>(widget) == nullptr &&
+          qobject_cast<QTabBar*>(widget) == nullptr && widget->focusProxy() == nullptr;
       if (entered) {
         widget->setFocus(Qt::TabFocusReason);
         if (auto* field = qobject_cast<QLineEdit*>(widget)) {

@@ -2,11 +2,21 @@
 #include "views/common/fitted_legend.h"
 
 #include <algorithm>
+#include <numeric>
 
 namespace vexa {
 namespace {
 
-constexpr int kMostRows = 3;
+constexpr int kUsualRows = 3;
+constexpr int kMostRows = 5;
+constexpr double kEnough = 90.0;
+
+// The number of a slot stays.
+QString Shortened(const QString& name, const QFontMetricsF& metrics, double room) {
+  const QString number = name.left(name.indexOf(u' ') + 1);
+  const double left = std::max(room - metrics.horizontalAdvance(number), 0.0);
+  return number + metrics.elidedText(name.mid(number.size()), Qt::ElideMiddle, left);
+}
 
 }  // namespace
 
@@ -37,11 +47,13 @@ void FittedLegend::Fit(double width) {
     return;
   }
   const QFontMetricsF metrics(font());
-  const double besides = iconSize().width() + iconTextPadding() + 2.0;
+  const double besidesName = iconSize().width() + iconTextPadding() + 2.0;
   const int count = static_cast<int>(entries_.size());
+  // As few rows as hold the names whole, else as many as leave enough of each.
   int columns = count;
-  double wanted = 0.0;
-  for (int rows = 1; rows <= std::min(kMostRows, count); ++rows) {
+  double room = 0.0;
+  bool whole = false;
+  for (int rows = 1; !whole && rows <= std::min(kMostRows, count); ++rows) {
     columns = (count + rows - 1) / rows;
     std::vector<double> widths(static_cast<std::size_t>(columns));
     for (int i = 0; i < count; ++i) {
@@ -49,18 +61,15 @@ void FittedLegend::Fit(double width) {
       widest =
           std::max(widest, metrics.horizontalAdvance(entries_[static_cast<std::size_t>(i)].second));
     }
-    wanted = (columns - 1) * columnSpacing();
-    for (const double widest : widths) {
-      wanted += widest + besides;
-    }
-    if (wanted <= width) {
+    const double besides = columns * besidesName + (columns - 1) * columnSpacing();
+    whole = std::accumulate(widths.begin(), widths.end(), besides) <= width;
+    room = std::max((width - besides) / columns, 0.0);
+    if (rows >= kUsualRows && room >= kEnough) {
       break;
     }
   }
-  const double room = (width - (columns - 1) * columnSpacing()) / columns - besides;
   for (const auto& [graph, name] : entries_) {
-    graph->setName(
-        wanted <= width ? name : metrics.elidedText(name, Qt::ElideMiddle, std::max(room, 0.0)));
+    graph->setName(whole ? name : Shortened(name, metrics, room));
   }
   setWrap(columns);
   setFillOrder(foColumnsFirst, true);

@@ -7,9 +7,10 @@
 
 namespace vexa {
 
-/// A legend in a row of its own above the axes, as wide as the plot. The names stand whole, in as
-/// few rows as hold them; where three rows do not, the longest lose their middle. It is laid out
-/// anew for every size that the plot is drawn in, so also for paper and pictures.
+/// A legend in a row of its own above the axes, as wide as the plot. The names stand whole in up to
+/// three rows; where these do not hold them they lose their middle, but never the number of their
+/// slot, in up to five. It is laid out anew for every size that the plot is drawn in, so also for
+/// paper and pictures.
 class FittedLegend : public QCPLegend {
   Q_OBJECT
 

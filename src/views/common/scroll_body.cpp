@@ -2,7 +2,7 @@
 #include "views/common/scroll_body.h"
 
 #include <QScreen>
-#include <QScrollBar>
+#include <QStyle>
 #include <algorithm>
 
 namespace vexa {

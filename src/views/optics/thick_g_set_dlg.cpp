@@ -7,6 +7,7 @@
 #include <QVBoxLayout>
 #include <cmath>
 
+#include "base/translation.h"
 #include "views/common/dialog_buttons.h"
 
 namespace vexa {
@@ -26,6 +27,7 @@ ThickGSetDlg::ThickGSetDlg(const ThicknessScale& scale, bool autoScale, MessageS
   maximum_->setObjectName(QStringLiteral("Maximum"));
   maximum_->SetValue(scale.maximumNm);
   autoScale_->setObjectName(QStringLiteral("AutoScale"));
+  autoScale_->setToolTip(Text::tr("軸の範囲を履歴の値に合わせます。"));
   autoScale_->setChecked(autoScale);
   EnableFields();
   connect(autoScale_, &QCheckBox::toggled, this, [this](bool on) {

@@ -14,6 +14,7 @@
 #include "measurement/evaluation.h"
 #include "views/common/file_questions.h"
 #include "views/common/plot_export.h"
+#include "views/common/proposed_name.h"
 #include "views/optics/history_plot.h"
 #include "views/optics/optics_print.h"
 #include "views/optics/thick_g_set_dlg.h"
@@ -59,7 +60,7 @@ ThickGraph::ThickGraph(Session& session, MessageService& messages, FileDialogs& 
   setObjectName(QStringLiteral("ThickGraph"));
   setWindowTitle(QStringLiteral("膜厚ｸﾞﾗﾌ"));
   BuildMenus();
-  AddExport(*plot_, messages_, dialogs_);
+  AddExport(*plot_, messages_, dialogs_, [this] { return ProposedName(state_); });
   auto* frame = new QFrame;
   frame->setFrameShape(QFrame::StyledPanel);
   auto* framed = new QVBoxLayout(frame);

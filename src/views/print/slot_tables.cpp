@@ -151,7 +151,8 @@ std::optional<PageTable> BandTable(const VEXATYPE& state) {
   if (!standard.useReflectance || !standard.conditions.front().enabled) {
     return std::nullopt;
   }
-  PageTable table{.caption = Text::tr("反射率規格"), .columns = {{{}, kNameWidth, Qt::AlignLeft}}};
+  PageTable table{
+      .caption = Text::tr("反射率規格"), .columns = {{{}, kNameWidth, Qt::AlignLeft}}, .rows = {}};
   std::vector<Row> rows{
       {{Text::tr("波長 [nm]")}}, {{Text::tr("上限 [%]")}}, {{Text::tr("下限 [%]")}}};
   const auto text = [](double limit) { return FormatNumber(limit, u"##0.0##").trimmed(); };

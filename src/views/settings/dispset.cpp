@@ -23,8 +23,11 @@ namespace {
 const QString kNm = QStringLiteral("[nm]");
 
 struct Group {
-  explicit Group(const QString& caption) : box(new QGroupBox(caption)), grid(new QGridLayout(box)) {
-    grid->setContentsMargins(12, 8, 12, 8);
+  explicit Group(const QString& caption) : box(new QGroupBox(caption)), grid(new QGridLayout) {
+    auto* above = new QVBoxLayout(box);
+    above->setContentsMargins(12, 8, 12, 8);
+    above->addLayout(grid);
+    above->addStretch();
     grid->setHorizontalSpacing(8);
     grid->setVerticalSpacing(5);
     grid->setColumnStretch(0, 1);
@@ -57,14 +60,16 @@ dispset::dispset(Session& session, MessageService& messages, QWidget* parent)
   QVBoxLayout* left = addColumn();
   BuildWavelengths(*left);
   BuildText(*left);
-  BuildAverage(*left);
+  BuildMarks(*left);
   QVBoxLayout* middle = addColumn();
   BuildReflectance(*middle);
-  BuildMarks(*middle);
+  BuildAverage(*middle);
   QVBoxLayout* right = addColumn();
   BuildColours(*right);
+  BuildReference(*right);
+  // The last groups end in one line.
   for (QVBoxLayout* column : {left, middle, right}) {
-    column->addStretch();
+    column->setStretch(column->count() - 1, 1);
   }
   auto* layout = new QVBoxLayout(this);
   layout->setContentsMargins(18, 14, 18, 14);
@@ -218,11 +223,15 @@ void dispset::BuildColours(QBoxLayout& column) {
   }
 }
 
-void dispset::BuildMarks(QBoxLayout& column) {
+void dispset::BuildReference(QBoxLayout& column) {
   const Group shown(QStringLiteral("ﾘﾌｧﾚﾝｽﾃﾞｰﾀ"));
   reference_ = AddCheck(*shown.grid, "ShowReference", QStringLiteral("ﾘﾌｧﾚﾝｽﾃﾞｰﾀを表示する"),
                         state_.display.showReferenceData,
                         Text::tr("ﾘﾌｧﾚﾝｽ試料の理論反射率をｸﾞﾗﾌと表に加えます。"));
+  column.addWidget(shown.box);
+}
+
+void dispset::BuildMarks(QBoxLayout& column) {
   const Group cursor(QStringLiteral("ｶｰｿﾙ表示"));
   cursor_ = AddCheck(*cursor.grid, "ShowCursor", QStringLiteral("ｶｰｿﾙを表示する"),
                      state_.display.showCursor,
@@ -234,7 +243,6 @@ void dispset::BuildMarks(QBoxLayout& column) {
   auto* marks = new QHBoxLayout;
   marks->addWidget(cursor.box);
   marks->addWidget(minimum.box);
-  column.addWidget(shown.box);
   column.addLayout(marks);
 }
 

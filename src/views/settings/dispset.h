@@ -34,6 +34,7 @@ class dispset : public QDialog {
   void BuildReflectance(QBoxLayout& column);
   void BuildText(QBoxLayout& column);
   void BuildColours(QBoxLayout& column);
+  void BuildReference(QBoxLayout& column);
   void BuildMarks(QBoxLayout& column);
   void BuildAverage(QBoxLayout& column);
   QCoro::Task<> Finish();

@@ -20,7 +20,7 @@ constexpr std::array<std::size_t, 3> kColumns{3, 6, 8};
 
 // In all groups of a column, so that their fields stand below one another.
 constexpr int kLabelWidth = 80;
-constexpr int kUnitWidth = 28;
+constexpr int kUnitWidth = 32;
 constexpr int kGap = 8;
 
 bool IsFirst(std::size_t group) {

@@ -22,6 +22,13 @@ class ConditionsGroup : public QGroupBox {
 
   void Show(const StandardSet& standard);
 
+  [[nodiscard]] QLineEdit* WavelengthField(std::size_t condition) const {
+    return rows_[condition].wavelength;
+  }
+  [[nodiscard]] const RangeFields& Fields(std::size_t condition) const {
+    return rows_[condition].range;
+  }
+
   /// An entry that should be a number and is none, and the condition it belongs to.
   struct Fault {
     QLineEdit* field = nullptr;

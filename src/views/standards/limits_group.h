@@ -22,6 +22,7 @@ class LimitsGroup : public QGroupBox {
   void AddBeside(QWidget* widget);
 
   void Show(const StandardLimits& limits);
+  [[nodiscard]] const RangeFields& Fields() const { return range_; }
   /// See RangeFields.
   [[nodiscard]] QLineEdit* TakeInto(StandardLimits& limits) const;
 

@@ -6,6 +6,7 @@
 #include <QPushButton>
 #include <QVBoxLayout>
 
+#include "base/translation.h"
 #include "measurement/evaluation.h"
 #include "standards/condition_caption.h"
 #include "standards/standard_check.h"
@@ -114,6 +115,8 @@ QWidget* StandardFrm::BuildGroups() {
 }
 
 QWidget* StandardFrm::BuildPeakChoice() {
+  peak_->setToolTip(Text::tr("反射率が最大になる波長を判定します。"));
+  bottom_->setToolTip(Text::tr("反射率が最小になる波長を判定します。"));
   peak_->setObjectName(QStringLiteral("peak"));
   bottom_->setObjectName(QStringLiteral("bottom"));
   auto* choice = new QButtonGroup(this);
@@ -196,6 +199,50 @@ QLineEdit* StandardFrm::TakeInto(StandardContents& contents, QString& where) con
   return nullptr;
 }
 
+// The first entry, in the order of the check, that spoils what without it would be accepted.
+QLineEdit* StandardFrm::FieldAtFault(const StandardSet& entered) const {
+  StandardSet tried;
+  const auto limitAtFault = [&tried](StandardLimits& part, const StandardLimits& limits,
+                                     const RangeFields& fields) -> QLineEdit* {
+    part.enabled = limits.enabled;
+    part.upper = limits.upper;
+    if (CheckStandardSet(tried)) {
+      return fields.upper;
+    }
+    part.lower = limits.lower;
+    return CheckStandardSet(tried) ? fields.lower : nullptr;
+  };
+  tried.useReflectance = entered.useReflectance;
+  for (std::size_t k = 0; k < kConditionCount; ++k) {
+    tried.wavelengths[k] = entered.wavelengths[k];
+    tried.conditions[k].enabled = entered.conditions[k].enabled;
+    if (CheckStandardSet(tried)) {
+      return conditions_->WavelengthField(k);
+    }
+    if (QLineEdit* field =
+            limitAtFault(tried.conditions[k], entered.conditions[k], conditions_->Fields(k))) {
+      return field;
+    }
+  }
+  const struct {
+    StandardLimits& part;
+    const StandardLimits& limits;
+    const LimitsGroup* group;
+  } groups[] = {
+      {tried.averageReflectance, entered.averageReflectance, average_},
+      {tried.wavelengthValue.limits, entered.wavelengthValue.limits, wavelengthValue_},
+      {tried.chroma, entered.chroma, chroma_},
+      {tried.hueAngle, entered.hueAngle, hue_},
+      {tried.luminousReflectance, entered.luminousReflectance, luminous_},
+  };
+  for (const auto& [part, limits, group] : groups) {
+    if (QLineEdit* field = limitAtFault(part, limits, group->Fields())) {
+      return field;
+    }
+  }
+  return nullptr;
+}
+
 std::optional<StandardContents> StandardFrm::Entered() {
   StandardContents contents;
   QString where;
@@ -206,6 +253,9 @@ std::optional<StandardContents> StandardFrm::Entered() {
   }
   if (const std::optional<MessageCall> fault = CheckStandardSet(contents.standard)) {
     messages_.Tell(*fault);
+    if (QLineEdit* field = FieldAtFault(contents.standard)) {
+      EnterAgain(*field);
+    }
     return std::nullopt;
   }
   return contents;

@@ -35,6 +35,7 @@ class StandardFrm : public QDialog {
   /// What was entered; nothing, and a message, when it is no standard.
   std::optional<StandardContents> Entered();
   QLineEdit* TakeInto(StandardContents& contents, QString& where) const;
+  [[nodiscard]] QLineEdit* FieldAtFault(const StandardSet& entered) const;
   void Load();
   QCoro::Task<> Save();
 
