@@ -18,7 +18,6 @@ namespace {
 using test::PeerAction;
 using Frames = std::vector<std::string>;
 
-constexpr int kShortTimeoutMs = 100;
 const Frames kInitialiseFrames{"E1000000", "96009100", "87FF0000", "A5010000", "A5010000"};
 // With 30 ms the settling wait is 380 - 30 + 50 ms; the tests set it to nothing.
 constexpr int kNoSettling = 0;
@@ -40,7 +39,7 @@ class H8Controller : public testing::Test {
 
   test::ScriptedPeer peer;
   frmComH8Ctrl controller{[this](int n) { return SerialPortPath(peer.Directory(), n); },
-                          kShortTimeoutMs};
+                          test::ScriptedPeer::kReplyTimeoutMs};
   RawSpectrum spectrum;
 };
 
@@ -206,7 +205,8 @@ TEST_F(H8Controller, CloseEndsAWait) {
 TEST(H8ControllerStart, FailuresOfTheInitialisation) {
   for (const auto& [frame, status] : {std::pair{1, -15}, {2, -4}, {3, -5}, {4, -6}, {5, -7}}) {
     test::ScriptedPeer peer;
-    frmComH8Ctrl controller([&peer](int) { return peer.Path(); }, kShortTimeoutMs);
+    frmComH8Ctrl controller([&peer](int) { return peer.Path(); },
+                            test::ScriptedPeer::kReplyTimeoutMs);
     peer.At(frame, kSilence);
     QString text = QStringLiteral("before");
     EXPECT_EQ(controller.H8Init(5, text), status);
@@ -226,7 +226,7 @@ TEST(H8ControllerStart, FailureIsExplained) {
   EXPECT_TRUE(nowhere.FailureDetails().startsWith(QStringLiteral("/nowhere/com5 という装置が")));
 
   test::ScriptedPeer peer;
-  frmComH8Ctrl silent([&peer](int) { return peer.Path(); }, kShortTimeoutMs);
+  frmComH8Ctrl silent([&peer](int) { return peer.Path(); }, test::ScriptedPeer::kReplyTimeoutMs);
   peer.At(1, kSilence);
   EXPECT_NE(silent.Initialise(5), 0);
   EXPECT_TRUE(silent.FailureDetails().contains(QStringLiteral("応答がありません")));
