@@ -73,6 +73,11 @@ TEST_F(MainWindow, MeasuresIntoASlot) {
 
   Measure("Mes10", 50);
   EXPECT_EQ(Reflectance(10), 0.0) << "darker than the background";
+  EXPECT_EQ(window->GetOption(), 10);
+  for (int slot = 1; slot <= kSlotCount; ++slot) {
+    Press(qPrintable(QStringLiteral("Mes%1Option").arg(slot)));
+    EXPECT_EQ(window->GetOption(), slot);
+  }
 
   Press("Mes7Option");
   EXPECT_EQ(window->GetOption(), 7);
@@ -346,6 +351,29 @@ TEST_F(MainWindow, SampleInformationIsTakenOverAsTyped) {
     EXPECT_EQ(messages.Take().size(), 1U) << field;
     EXPECT_EQ(window->State().Slot(5)->info.sampleNumber, QString());
   }
+}
+
+TEST_F(MainWindow, ArrowKeysStayInTheColumnOfTheSampleInformation) {
+  struct Case {
+    const char* from;
+    Qt::Key key;
+    const char* to;
+  };
+  const Case cases[] = {
+      {"SampNo_txt1", Qt::Key_Down, "SampNo_txt2"},
+      {"MesPoint_txt9", Qt::Key_Down, "MesPoint_txt10"},
+      {"DevNo_txt2", Qt::Key_Up, "DevNo_txt1"},
+      {"SampNo_txt1", Qt::Key_Up, "SampNo_txt1"},
+      {"MesDate_txt10", Qt::Key_Down, "MesDate_txt10"},
+  };
+  InDialog(window->Commands().sampleInformation, [&cases](QWidget& dialog) {
+    for (const Case& c : cases) {
+      auto& entry = test::Child<QLineEdit>(dialog, c.from);
+      entry.setFocus();
+      QTest::keyClick(&entry, c.key);
+      EXPECT_EQ(dialog.focusWidget()->objectName(), QLatin1String(c.to)) << c.from;
+    }
+  });
 }
 
 TEST_F(MainWindow, CursorFollowsClickKeysAndJump) {

@@ -87,6 +87,19 @@ TEST_F(StockFile, IsWrittenAndReadByteForByte) {
   }
 }
 
+TEST_F(StockFile, AnEmptyStockIsAStock) {
+  ColourStock stock;
+  stock.Record({true, 3, false});
+  EXPECT_FALSE(stock.DiffersFrom({false, 1, true})) << "no point was taken under its conditions";
+  ASSERT_TRUE(WriteStockFile(path_, stock));
+  EXPECT_EQ(files_.Read(kName),
+            "VEXA-KT 440-840 Ver3.21 Stock File\r\nTrue\r\n 3 \r\nFalse\r\n 0 \r\n");
+  ColourStock read;
+  (void)read.StockAdd(kColour, true);
+  EXPECT_TRUE(ReadStockFile(path_, read));
+  EXPECT_EQ(read, stock);
+}
+
 TEST_F(StockFile, ABadFileEndsTheReadingAndKeepsWhatWasRead) {
   struct Case {
     const char* defect;

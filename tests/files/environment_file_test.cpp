@@ -91,9 +91,15 @@ TEST_F(EnvironmentFile, OlderLayoutKeepsWhatItLacks) {
   EXPECT_EQ(state.referenceSetting.indexFileName, QStringLiteral("r.ref"));
   EXPECT_EQ(state.thickness.coat.kind, 3);
   EXPECT_EQ(state.thickness.coat.schott[0], 41.0);
+  EXPECT_EQ(state.thickness.coat.indexFileName, QStringLiteral("i.ind"));
   EXPECT_EQ(state.thickness.coat.dataFileName, QStringLiteral("s.csv"));
   EXPECT_EQ(state.standardFileName, QStringLiteral("kept.std"));
   EXPECT_EQ(state.display.view, 6);
+  state = {};
+  EXPECT_TRUE(
+      ReadEnvFile(files.Write("old.env", old.replace("1.10", "1.00")), state, messages).read);
+  EXPECT_EQ(state.instrument.samplingTimeMs, 500);
+  EXPECT_TRUE(messages.Take().empty());
 }
 
 TEST_F(EnvironmentFile, DefectsEndTheRead) {
@@ -106,7 +112,10 @@ TEST_F(EnvironmentFile, DefectsEndTheRead) {
   };
   const Case cases[] = {
       {"version 3.00", QByteArray(golden).replace("3.21", "3.00"), true, nullptr},
-      {"version 0.5", QByteArray(golden).replace("3.21", "0.5"), false, "0.5"},
+      {"version 2.99", QByteArray(golden).replace("3.21", "2.99"), true, nullptr},
+      {"version 2.98, whose layout is another", QByteArray(golden).replace("3.21", "2.98"), false,
+       nullptr},
+      {"version 0.99", QByteArray(golden).replace("3.21", "0.99"), false, "0.99"},
       {"another model", QByteArray(golden).replace("VEXA", "OTHER"), false, "0"},
       {"another kind", QByteArray(golden).replace("Environment", "Data"), false, "0"},
       {"empty", "", false, "0"},
@@ -150,12 +159,15 @@ TEST_F(EnvironmentFile, StartupFileHasNineLines) {
   EXPECT_EQ(state.envFileName, QStringLiteral("C:\\表.env"));
   EXPECT_EQ(state.instrument.controllerPort, 0);
   EXPECT_EQ(state.instrument.linePositions, (LinePositions{130, 320, 370, 400, 460, 0}));
+  files.Write("vexa.int", QByteArray(golden).replace("3.21", "1.00"));
+  EXPECT_TRUE(ReadStartupFile(state));
   QFile::remove(files.Path("vexa.int"));
   EXPECT_TRUE(WriteStartupFile(state));
   EXPECT_EQ(files.Read("vexa.int"), golden);
 
   for (const QByteArray& bytes :
-       {QByteArray(), golden.left(70), QByteArray(golden).replace("VEXA", "V")}) {
+       {QByteArray(), golden.left(70), QByteArray(golden).replace("VEXA", "V"),
+        QByteArray(golden).replace("3.21", "0.99")}) {
     files.Write("vexa.int", bytes);
     EXPECT_FALSE(ReadStartupFile(state));
   }

@@ -2,6 +2,7 @@
 #include <gtest/gtest.h>
 
 #include <QComboBox>
+#include <QSpinBox>
 
 #include "measurement/evaluation.h"
 #include "support/pdf_words.h"
@@ -158,6 +159,12 @@ TEST_F(Printing, DialogPrintsIntoAFileAndRemembersWhatWasPrinted) {
   Fill(2);
   PrintDlg dialog(state, 2, request, printer, messages);
   dialog.show();
+  auto& copies = Child<QSpinBox>(dialog, "Copies");
+  for (const auto& [typed, taken] : {std::pair{0, 1}, {1, 1}, {99, 99}, {100, 99}}) {
+    copies.setValue(typed);
+    EXPECT_EQ(copies.value(), taken);
+  }
+  EXPECT_FALSE(copies.isEnabled()) << "of a file there is one";
   auto& print = Child<QAbstractButton>(dialog, "OK");
   Child<QLineEdit>(dialog, "Title").setText(QStringLiteral("ロット12"));
   Click(dialog, "Slots1");
