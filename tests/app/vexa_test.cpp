@@ -353,29 +353,6 @@ TEST_F(MainWindow, SampleInformationIsTakenOverAsTyped) {
   }
 }
 
-TEST_F(MainWindow, ArrowKeysStayInTheColumnOfTheSampleInformation) {
-  struct Case {
-    const char* from;
-    Qt::Key key;
-    const char* to;
-  };
-  const Case cases[] = {
-      {"SampNo_txt1", Qt::Key_Down, "SampNo_txt2"},
-      {"MesPoint_txt9", Qt::Key_Down, "MesPoint_txt10"},
-      {"DevNo_txt2", Qt::Key_Up, "DevNo_txt1"},
-      {"SampNo_txt1", Qt::Key_Up, "SampNo_txt1"},
-      {"MesDate_txt10", Qt::Key_Down, "MesDate_txt10"},
-  };
-  InDialog(window->Commands().sampleInformation, [&cases](QWidget& dialog) {
-    for (const Case& c : cases) {
-      auto& entry = test::Child<QLineEdit>(dialog, c.from);
-      entry.setFocus();
-      QTest::keyClick(&entry, c.key);
-      EXPECT_EQ(dialog.focusWidget()->objectName(), QLatin1String(c.to)) << c.from;
-    }
-  });
-}
-
 TEST_F(MainWindow, CursorFollowsClickKeysAndJump) {
   MeasureThrough(1);
   auto& graph = Find<ReflectanceGraph>("ReflectanceGraph");
