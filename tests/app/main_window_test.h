@@ -23,7 +23,8 @@ class MainWindowTest : public WindowTest {
         Services{messages, dialogs, [this] { return now; },
                  [this](const VEXATYPE&) {
                    return std::make_unique<frmComH8Ctrl>(
-                       [this](int port) { return SerialPortPath(peer.Directory(), port); }, 100);
+                       [this](int port) { return SerialPortPath(peer.Directory(), port); },
+                       ScriptedPeer::kReplyTimeoutMs);
                  }},
         peer.Directory());
     window->show();

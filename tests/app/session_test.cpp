@@ -5,6 +5,7 @@
 
 #include "app/main_window_test.h"
 #include "files/environment_file.h"
+#include "files/journal.h"
 #include "files/journal_records.h"
 #include "files/session_image.h"
 #include "files/startup_file.h"
@@ -54,6 +55,26 @@ TEST_F(Session, IsRestoredAndGoesOn) {
   EXPECT_EQ(window->State().Slot(3)->reflectance, window->State().Slot(2)->reflectance);
   EXPECT_TRUE(window->close());
   EXPECT_EQ(Journals(), QStringList());
+}
+
+TEST_F(Session, TheOfferListsAllThatWasLeft) {
+  VEXATYPE left;
+  for (const int number : {2, 10}) {
+    left.Slot(number)->valid = true;
+  }
+  for (int i = 0; i < 3; ++i) {
+    (void)left.stock.StockAdd({.x = 0.3, .y = 0.3, .Y = 4.0}, true);
+  }
+  left.thicknessHistory.count = 2;
+  Journal journal(peer.Directory());
+  ASSERT_TRUE(journal.Append(ChangeRecord(EmptySession(), TakeImage(left))));
+  journal.Release();
+  messages.answers = {MessageResult::kNo};
+  Start();
+  const test::Shown offers = messages.Take();
+  ASSERT_EQ(offers.size(), 1U);
+  EXPECT_NE(offers[0].text.find("。\r\rｽﾛｯﾄ: 2, 10\r累積数: 3\r膜厚ｸﾞﾗﾌ: 2\r\r"), std::string::npos)
+      << offers[0].text;
 }
 
 TEST_F(Session, ASlotIsKeptBeforeAnyMessageAboutItIsAnswered) {

@@ -73,6 +73,11 @@ TEST_F(MainWindow, MeasuresIntoASlot) {
 
   Measure("Mes10", 50);
   EXPECT_EQ(Reflectance(10), 0.0) << "darker than the background";
+  EXPECT_EQ(window->GetOption(), 10);
+  for (int slot = 1; slot <= kSlotCount; ++slot) {
+    Press(qPrintable(QStringLiteral("Mes%1Option").arg(slot)));
+    EXPECT_EQ(window->GetOption(), slot);
+  }
 
   Press("Mes7Option");
   EXPECT_EQ(window->GetOption(), 7);

@@ -97,7 +97,9 @@ TEST(TextReader, RowsStandOnOneLine) {
 }
 
 TEST(TextReader, ValuesThatAreNoneAreFaults) {
-  const char* const integers[] = {"40000", "-40000", "x", "1.5x"};
+  EXPECT_EQ(TextReader("-32768").IntegerField(), -32768);
+  EXPECT_EQ(TextReader("32767").IntegerField(), 32767);
+  const char* const integers[] = {"32768", "-32769", "x", "1.5x"};
   for (const char* text : integers) {
     EXPECT_THROW(TextReader(text).IntegerField(), ReadFault) << text;
   }

@@ -20,7 +20,6 @@ using test::Done;
 using test::PeerAction;
 using Frames = std::vector<std::string>;
 
-constexpr int kShortTimeoutMs = 100;
 const Frames kInitialiseFrames{"E1000000", "96009100", "87FF0000", "A5010000", "A5010000"};
 // With 30 ms the settling wait is 380 - 30 + 50 ms; the tests set it to nothing.
 constexpr int kNoSettling = 0;
@@ -56,7 +55,7 @@ class H8Controller : public testing::Test {
   test::ScriptedPeer peer;
   Sampling sampling;
   frmComH8Ctrl controller{[this](int n) { return SerialPortPath(peer.Directory(), n); },
-                          kShortTimeoutMs};
+                          test::ScriptedPeer::kReplyTimeoutMs};
   RawSpectrum spectrum;
 };
 
@@ -263,7 +262,8 @@ TEST_F(H8Controller, CloseEndsAWait) {
 TEST(H8ControllerStart, FailuresOfTheInitialisation) {
   for (const auto& [frame, status] : {std::pair{1, -15}, {2, -4}, {3, -5}, {4, -6}, {5, -7}}) {
     test::ScriptedPeer peer;
-    frmComH8Ctrl controller([&peer](int) { return peer.Path(); }, kShortTimeoutMs);
+    frmComH8Ctrl controller([&peer](int) { return peer.Path(); },
+                            test::ScriptedPeer::kReplyTimeoutMs);
     peer.At(frame, kSilence);
     EXPECT_EQ(Done(controller.H8Init(5)), status);
     EXPECT_EQ(controller.InitialisationText().isEmpty(), status == -15);
@@ -281,7 +281,7 @@ TEST(H8ControllerStart, FailureIsExplained) {
   EXPECT_TRUE(nowhere.FailureDetails().startsWith(QStringLiteral("/nowhere/com5 という装置が")));
 
   test::ScriptedPeer peer;
-  frmComH8Ctrl silent([&peer](int) { return peer.Path(); }, kShortTimeoutMs);
+  frmComH8Ctrl silent([&peer](int) { return peer.Path(); }, test::ScriptedPeer::kReplyTimeoutMs);
   peer.At(1, kSilence);
   EXPECT_NE(Done(silent.Initialise(5)), 0);
   EXPECT_TRUE(silent.FailureDetails().contains(QStringLiteral("応答がありません")));

@@ -29,21 +29,22 @@ inline QStringList PdfPages(const QString& path) {
   return pages;
 }
 
-/// The parts of the page (0..1 on either axis) that the words of a PDF file take.
-inline std::vector<QRectF> PdfWordPlaces(const QString& path) {
+/// The parts of their page (0..1 on either axis) that the words of a PDF file take, page by page.
+inline std::vector<std::vector<QRectF>> PdfWordPlaces(const QString& path) {
   static const QRegularExpression kPlace(QStringLiteral(
       "<(page) width=\"([\\d.]+)\" height=\"([\\d.]+)\"|"
       "<word xMin=\"([-\\d.]+)\" yMin=\"([-\\d.]+)\" xMax=\"([-\\d.]+)\" yMax=\"([-\\d.]+)\""));
-  std::vector<QRectF> places;
+  std::vector<std::vector<QRectF>> places;
   QSizeF page;
   for (const QRegularExpressionMatch& match :
        kPlace.globalMatch(RunPdfToText(path, {QStringLiteral("-bbox")}))) {
     const auto number = [&match](int i) { return match.captured(i).toDouble(); };
     if (match.hasCaptured(1)) {
       page = {number(2), number(3)};
+      places.emplace_back();
     } else {
-      places.emplace_back(QPointF(number(4) / page.width(), number(5) / page.height()),
-                          QPointF(number(6) / page.width(), number(7) / page.height()));
+      places.back().emplace_back(QPointF(number(4) / page.width(), number(5) / page.height()),
+                                 QPointF(number(6) / page.width(), number(7) / page.height()));
     }
   }
   return places;

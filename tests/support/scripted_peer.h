@@ -30,10 +30,18 @@ enum class PeerAction {
 /// records every 4-byte frame and answers shutter, sampling, scan and initialise commands with
 /// "OK", a measurement with "END", a quit with "QUIT" and a data request with `lines`. An action
 /// can be set for the n-th frame from now on (counted from 1).
+///
+/// On a busy machine a test stands still for longer than any short time-out, and what it sent to
+/// itself would count as silence. So a time-out of kReplyTimeoutMs takes effect only the fifth time
+/// that it is due, after about 100 ms: between two of them the event loop turns, and an answer that
+/// is on its way arrives. No other timer of a test may have this interval.
 class ScriptedPeer : public QObject {
   Q_OBJECT
 
  public:
+  /// The reply time-out of a controller that is to talk to this peer.
+  static constexpr int kReplyTimeoutMs = 23;
+
   ScriptedPeer();
   ~ScriptedPeer() override;
 
@@ -55,6 +63,8 @@ class ScriptedPeer : public QObject {
 
   const TemporaryFiles files;
 
+  bool eventFilter(QObject* watched, QEvent* event) override;
+
  private:
   void Unplug();
   void WritePending();
@@ -70,6 +80,7 @@ class ScriptedPeer : public QObject {
   std::vector<std::string> frames_;
   std::map<int, PeerAction> actions_;
   int received_ = 0;
+  std::map<int, int> timesDue_;  ///< of a time-out by its timer's number
 };
 
 /// `count` detector lines in which every pixel has the same value.

@@ -2,6 +2,8 @@
 #include <gtest/gtest.h>
 
 #include <QComboBox>
+#include <QSpinBox>
+#include <algorithm>
 
 #include "measurement/evaluation.h"
 #include "support/pdf_words.h"
@@ -227,10 +229,29 @@ TEST_F(Printing, NothingLeavesThePaper) {
                                   inner.width() / whole.width(), inner.height() / whole.height())
                                .adjusted(-0.002, -0.002, 0.002, 0.002);
     EXPECT_GE(Pages().size(), 1);
-    for (const QRectF& word : test::PdfWordPlaces(Path())) {
-      EXPECT_TRUE(allowed.contains(word))
-          << PrintSettingsText(paper).toStdString() << ": " << word.x() << ' ' << word.y() << ' '
-          << word.right() << ' ' << word.bottom();
+    for (const std::vector<QRectF>& words : test::PdfWordPlaces(Path())) {
+      for (const QRectF& word : words) {
+        EXPECT_TRUE(allowed.contains(word))
+            << PrintSettingsText(paper).toStdString() << ": " << word.x() << ' ' << word.y() << ' '
+            << word.right() << ' ' << word.bottom();
+      }
+    }
+  }
+}
+
+TEST_F(Printing, NoWordOfATableStandsOnAnother) {
+  Fill(10);
+  request.content = ReportContent::kText;
+  Pages();
+  for (const std::vector<QRectF>& words : test::PdfWordPlaces(Path())) {
+    for (auto word = words.begin(); word != words.end(); ++word) {
+      // The box of a word is higher than its letters.
+      const double slack = 0.2 * word->height();
+      const QRectF letters = word->adjusted(0.0, slack, 0.0, -slack);
+      EXPECT_TRUE(
+          std::none_of(words.begin(), word,
+                       [&letters](const QRectF& other) { return other.intersects(letters); }))
+          << letters.x() << ' ' << letters.y();
     }
   }
 }
@@ -241,6 +262,12 @@ TEST_F(Printing, DialogPrintsIntoAFileAndRemembersWhatWasPrinted) {
   Fill(2);
   PrintDlg dialog(state, 2, request, printer, messages);
   dialog.show();
+  auto& copies = Child<QSpinBox>(dialog, "Copies");
+  for (const auto& [typed, taken] : {std::pair{0, 1}, {1, 1}, {99, 99}, {100, 99}}) {
+    copies.setValue(typed);
+    EXPECT_EQ(copies.value(), taken);
+  }
+  EXPECT_FALSE(copies.isEnabled()) << "of a file there is one";
   auto& print = Child<QAbstractButton>(dialog, "OK");
   Child<QLineEdit>(dialog, "Title").setText(QStringLiteral("ロット12"));
   Click(dialog, "Slots1");
