@@ -105,7 +105,10 @@ std::optional<std::vector<RunRule>> ChosenRules(const QCommandLineParser& parser
 
 int Xmr(const QCommandLineParser& parser, const QString& path) {
   const auto baseline = IntegerOption(parser, kBaseline, 0, 2, std::numeric_limits<int>::max());
-  const auto rules = baseline ? ChosenRules(parser) : std::nullopt;
+  if (!baseline) {
+    return kUsageError;
+  }
+  const auto rules = ChosenRules(parser);
   if (!rules) {
     return kUsageError;
   }

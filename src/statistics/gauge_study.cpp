@@ -119,24 +119,37 @@ SumsOfSquares ComputeSums(const CrossedTable& table) {
   return sums;
 }
 
-VarianceRow Row(VarianceSource source, std::size_t df, long double ss) {
-  const auto degrees = static_cast<double>(df);
-  const auto sum = static_cast<double>(ss);
-  return {source, degrees, sum, sum / degrees, {}, {}};
+struct Term {
+  VarianceSource source;
+  double df;
+  double ss;
+
+  [[nodiscard]] double Ms() const { return ss / df; }
+};
+
+Term MakeTerm(VarianceSource source, std::size_t df, long double ss) {
+  return {source, static_cast<double>(df), static_cast<double>(ss)};
 }
 
-// Without spread in the denominator F is beyond any number, or nothing when its row has none too.
-void TestAgainst(VarianceRow& row, const VarianceRow& error) {
-  if (*error.ms > 0.0 && std::isfinite(*row.ms / *error.ms)) {
-    row.f = *row.ms / *error.ms;
-    row.p = FAbove(*row.f, row.df, error.df);
-  } else if (*row.ms > 0.0) {
-    row.p = 0.0;
+struct FTest {
+  std::optional<double> f;
+  std::optional<double> p;
+};
+
+// Without spread in the denominator F is beyond any number, or nothing when there is none at all.
+FTest TestAgainst(const Term& term, const Term& error) {
+  if (const double f = term.Ms() / error.Ms(); std::isfinite(f)) {
+    return {f, FAbove(f, term.df, error.df)};
   }
+  return {{}, term.Ms() > 0.0 ? std::optional(0.0) : std::nullopt};
 }
 
-double Component(const VarianceRow& row, const VarianceRow& error, std::size_t readingsPerLevel) {
-  return std::sqrt(std::max(*row.ms - *error.ms, 0.0) / static_cast<double>(readingsPerLevel));
+VarianceRow Row(const Term& term, const FTest& test = {}) {
+  return {term.source, term.df, term.ss, term.Ms(), test.f, test.p};
+}
+
+double Component(const Term& term, const Term& error, std::size_t readingsPerLevel) {
+  return std::sqrt(std::max(term.Ms() - error.Ms(), 0.0) / static_cast<double>(readingsPerLevel));
 }
 
 }  // namespace
@@ -154,22 +167,20 @@ Result<GaugeStudy> AnalyseGauge(std::span<const GaugeReading> readings,
   const std::size_t o = table->operators;
   const std::size_t r = table->trials;
   const SumsOfSquares sums = ComputeSums(*table);
-  VarianceRow part = Row(VarianceSource::kPart, p - 1, sums.part);
-  VarianceRow gaugeOperator = Row(VarianceSource::kOperator, o - 1, sums.gaugeOperator);
-  VarianceRow interaction = Row(VarianceSource::kInteraction, (p - 1) * (o - 1), sums.interaction);
-  const VarianceRow repeatability =
-      Row(VarianceSource::kRepeatability, p * o * (r - 1), sums.repeatability);
-  const VarianceRow pooled =
-      Row(VarianceSource::kPooled, p * o * r - p - o + 1, sums.interaction + sums.repeatability);
-  const auto total =
-      static_cast<double>(sums.part + sums.gaugeOperator + sums.interaction + sums.repeatability);
+  const Term part = MakeTerm(VarianceSource::kPart, p - 1, sums.part);
+  const Term gaugeOperator = MakeTerm(VarianceSource::kOperator, o - 1, sums.gaugeOperator);
+  const Term interaction =
+      MakeTerm(VarianceSource::kInteraction, (p - 1) * (o - 1), sums.interaction);
+  const Term repeatability =
+      MakeTerm(VarianceSource::kRepeatability, p * o * (r - 1), sums.repeatability);
+  const Term pooled = MakeTerm(VarianceSource::kPooled, p * o * r - p - o + 1,
+                               sums.interaction + sums.repeatability);
+  const FTest ofInteraction = TestAgainst(interaction, repeatability);
+
   GaugeStudy study;
-  TestAgainst(interaction, repeatability);
-  study.pooled = interaction.p.value_or(1.0) > kPoolAbove;
-  const VarianceRow& error = study.pooled ? pooled : interaction;
-  TestAgainst(part, error);
-  TestAgainst(gaugeOperator, error);
-  study.repeatability = std::sqrt(study.pooled ? *pooled.ms : *repeatability.ms);
+  study.pooled = ofInteraction.p.value_or(1.0) > kPoolAbove;
+  const Term& error = study.pooled ? pooled : interaction;
+  study.repeatability = std::sqrt(study.pooled ? pooled.Ms() : repeatability.Ms());
   study.reproducibility = Component(gaugeOperator, error, p * r);
   study.interaction = study.pooled ? 0.0 : Component(interaction, repeatability, r);
   study.grr = std::hypot(study.repeatability, study.reproducibility, study.interaction);
@@ -186,12 +197,15 @@ Result<GaugeStudy> AnalyseGauge(std::span<const GaugeReading> readings,
   if (const double ndc = 1.41 * study.part / study.grr; ndc < kMostCategories) {
     study.ndc = static_cast<std::int64_t>(ndc);
   }
-  study.table = {part, gaugeOperator, interaction, repeatability};
+  study.table = {Row(part, TestAgainst(part, error)),
+                 Row(gaugeOperator, TestAgainst(gaugeOperator, error)),
+                 Row(interaction, ofInteraction), Row(repeatability)};
   if (study.pooled) {
-    study.table.push_back(pooled);
+    study.table.push_back(Row(pooled));
   }
+  const double ss = part.ss + gaugeOperator.ss + interaction.ss + repeatability.ss;
   study.table.push_back(
-      {VarianceSource::kTotal, static_cast<double>(p * o * r - 1), total, {}, {}, {}});
+      {VarianceSource::kTotal, static_cast<double>(p * o * r - 1), ss, {}, {}, {}});
   return study;
 }
 

@@ -44,6 +44,19 @@ TEST(Capability, FollowsItsFormulas) {
   EXPECT_NEAR(upper->expectedOutside, below(-2 / overall), 1e-12);
 }
 
+TEST(Capability, HoldsForAMillionValues) {
+  std::vector<double> values(1000000, 9.0);
+  for (std::size_t i = 0; i < values.size(); i += 2) {
+    values[i] = 11.0;
+  }
+  const auto capability = ComputeCapability(values, {4.0, 13.0});
+  ASSERT_TRUE(capability);
+  // s of so many values is normally distributed, with a relative deviation of 1 / sqrt(2 n).
+  const double reach = 1.959964 * std::sqrt(0.5e-6);
+  EXPECT_NEAR(capability->pp->interval.lower / capability->pp->value, 1 - reach, 1e-6);
+  EXPECT_NEAR(capability->pp->interval.upper / capability->pp->value, 1 + reach, 1e-6);
+}
+
 TEST(Capability, RefusesWhatHasNoIndex) {
   constexpr double kNan = std::numeric_limits<double>::quiet_NaN();
   const std::vector<double> values{1, 2, 3};
