@@ -5,7 +5,10 @@
 
 #include <cmath>
 #include <limits>
+#include <random>
 #include <vector>
+
+#include "statistics/control_chart.h"
 
 namespace vexa::statistics {
 namespace {
@@ -44,17 +47,61 @@ TEST(Capability, FollowsItsFormulas) {
   EXPECT_NEAR(upper->expectedOutside, below(-2 / overall), 1e-12);
 }
 
-TEST(Capability, HoldsForAMillionValues) {
-  std::vector<double> values(1000000, 9.0);
-  for (std::size_t i = 0; i < values.size(); i += 2) {
+// The bounds of Cp over Cp do not depend on the values, only on how many there are.
+Interval RelativeInterval(std::size_t n, bool within) {
+  std::vector<double> values(n, 9.0);
+  for (std::size_t i = 0; i < n; i += 2) {
     values[i] = 11.0;
   }
   const auto capability = ComputeCapability(values, {4.0, 13.0});
-  ASSERT_TRUE(capability);
-  // s of so many values is normally distributed, with a relative deviation of 1 / sqrt(2 n).
+  if (!capability) {
+    return {};
+  }
+  const CapabilityIndex& index = within ? *capability->cp : *capability->pp;
+  return {index.interval.lower / index.value, index.interval.upper / index.value};
+}
+
+TEST(Capability, HoldsForManyValues) {
+  // Chi-square, 20,000 degrees of freedom: 19609.9049 and 20393.8836; beyond, s is normally
+  // distributed with a relative deviation of 1 / sqrt(2 n).
   const double reach = 1.959964 * std::sqrt(0.5e-6);
-  EXPECT_NEAR(capability->pp->interval.lower / capability->pp->value, 1 - reach, 1e-6);
-  EXPECT_NEAR(capability->pp->interval.upper / capability->pp->value, 1 + reach, 1e-6);
+  const struct {
+    std::size_t n;
+    double lower;
+    double upper;
+  } cases[] = {
+      {20001, std::sqrt(19609.9049 / 20000), std::sqrt(20393.8836 / 20000)},
+      {1000000, 1 - reach, 1 + reach},
+  };
+  for (const auto& c : cases) {
+    const Interval interval = RelativeInterval(c.n, false);
+    EXPECT_NEAR(interval.lower, c.lower, 1e-6) << c.n;
+    EXPECT_NEAR(interval.upper, c.upper, 1e-6) << c.n;
+  }
+}
+
+TEST(Capability, MissesTheTrueCpAboutAsOftenOnEitherSide) {
+  constexpr int kSamples = 20000;
+  constexpr double kMostOff = 0.9;  // percent; a mean range is only nearly chi-distributed
+  std::mt19937_64 generator(1);
+  std::normal_distribution<double> normal;
+  for (const std::size_t n : {10U, 25U}) {
+    const Interval interval = RelativeInterval(n, true);
+    std::vector<double> values(n);
+    int below = 0;
+    int above = 0;
+    for (int sample = 0; sample < kSamples; ++sample) {
+      for (double& value : values) {
+        value = normal(generator);
+      }
+      // sWithin over the true sigma of 1, which is the true Cp over that of the sample.
+      const double ratio = MeanMovingRange(values) / 1.1283791670955126;
+      below += ratio < interval.lower ? 1 : 0;
+      above += ratio > interval.upper ? 1 : 0;
+    }
+    EXPECT_NEAR(100.0 * below / kSamples, 2.5, kMostOff) << n;
+    EXPECT_NEAR(100.0 * above / kSamples, 2.5, kMostOff) << n;
+  }
 }
 
 TEST(Capability, RefusesWhatHasNoIndex) {

@@ -106,6 +106,9 @@ TEST(GaugeStudy, NeverGivesWhatIsNoNumber) {
   EXPECT_EQ(perfect->percentGrr, 0);
   EXPECT_FALSE(perfect->ndc);
   EXPECT_TRUE(perfect->pooled);
+  const auto nearlyPerfect = AnalyseGauge(Readings({{0, 0}, {1e12, 1e12}}, 1e-3));
+  ASSERT_TRUE(nearlyPerfect);
+  EXPECT_FALSE(nearlyPerfect->ndc);
 }
 
 TEST(GaugeStudy, RefusesATableWithHoles) {

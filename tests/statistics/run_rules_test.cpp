@@ -38,10 +38,10 @@ TEST(RunRules, SignalAtThePointThatCompletesThePattern) {
   } cases[] = {
       {western[0], {3.0, 2.9, 0}, {}},
       {western[0], {0, 3.01, 0}, {2}},
-      {western[1], {2.1, 0, 0, 2.1}, {}},      // two of four
-      {western[1], {2.1, 0, 2.0}, {}},         // on the line is not beyond it
-      {western[1], {2.1, 0, -2.1}, {}},        // not the same side
-      {western[1], {2.1, 0, 2.1, 0, 0}, {3}},  // once, not again at the fourth
+      {western[1], {2.1, 0, 0, 2.1}, {}},     // two of four
+      {western[1], {2.1, 0, 2.0}, {}},        // on the line is not beyond it
+      {western[1], {2.1, 0, -2.1}, {}},       // not the same side
+      {western[1], {2.1, 2.1, 0.5, 0}, {2}},  // once, not again at the third
       {western[1], {0, 2.1, 2.1}, {3}},
       {western[2], {1.1, 1.1, 1.1, 0, 0, 1.1}, {}},
       {western[2], {1.1, 1.1, 1.1, 0, -1.1}, {}},
@@ -117,6 +117,7 @@ TEST(ControlChart, DrawsItsLinesFromTheBaseline) {
   ASSERT_TRUE(found);
   EXPECT_EQ(*found, (std::vector<Signal>{{6, 1}}));
   EXPECT_EQ(WideRanges(*limits, values), (std::vector<std::size_t>{6, 7}));
+  EXPECT_EQ(WideRanges(*limits, Points{0, 5.71, 11.43}), (std::vector<std::size_t>{3}));
 
   constexpr double kNan = std::numeric_limits<double>::quiet_NaN();
   EXPECT_EQ(JudgeValues(*limits, Points{1, kNan}, NelsonRules()).Why(), Refusal::kNotANumber);
