@@ -31,6 +31,7 @@ struct Command {
 [[nodiscard]] Command MeasureCommand();
 [[nodiscard]] Command ReflectanceCommand();
 [[nodiscard]] Command StandardCommand();
+[[nodiscard]] Command StatisticsCommand();
 [[nodiscard]] Command StockCommand();
 
 /// The value of a whole-number option, or `otherwise` when it was not given. Nothing, and a
