@@ -152,7 +152,7 @@ class Fitter {
 
   [[nodiscard]] bool IsSensible(const Point& point) const {
     return std::ranges::all_of(point.state.thicknessesNm,
-                               [](double nm) { return nm >= 0.0 && nm < 2.0 * 60000.0; }) &&
+                               [](double nm) { return nm >= 0.0 && nm < 2.0 * kMostFilmNm; }) &&
            point.scale > 0.0 && point.scale < 10.0 && std::abs(point.state.spread) < 0.3 &&
            point.state.index > 0.5 && point.state.index < 2.0;
   }
@@ -533,6 +533,8 @@ class Fitter {
       fit.rms = RmsWithoutFilm();
     }
     fit.outcome = FitOutcome::kNone;
+    fit.spread = 0.0;
+    fit.index = 1.0;
     fit.layers.assign(ranges_.size(), {kNotANumber, kNotANumber, kNotANumber});
     fit.alternatives.clear();
     return fit;
@@ -567,14 +569,33 @@ bool IsNumberWithin(double value, double low, double high) {
 std::optional<FilmFitFault> FaultOf(const ReflectanceSpectrum& spectrum, const FilmStack& stack,
                                     std::span<const ThicknessRange> ranges,
                                     const FilmFitOptions& options) {
-  if (stack.layers.empty() || stack.layers.size() > kMostFilmLayers ||
-      stack.layers.size() != ranges.size() || !IsUsable(stack.substrate) ||
+  if (const auto fault = CheckFilmFit(ranges, options)) {
+    return fault;
+  }
+  if (stack.layers.size() != ranges.size() || !IsUsable(stack.substrate) ||
       !std::ranges::all_of(stack.layers, IsUsable)) {
+    return FilmFitFault::kLayers;
+  }
+  bool dark = true;
+  for (int nm = options.fromNm; nm <= options.toNm; ++nm) {
+    if (!std::isfinite(spectrum[nm]) || std::abs(spectrum[nm]) > 1e6) {
+      return FilmFitFault::kSpectrum;
+    }
+    dark = dark && spectrum[nm] == 0.0;
+  }
+  return dark ? std::optional(FilmFitFault::kSpectrum) : std::nullopt;
+}
+
+}  // namespace
+
+std::optional<FilmFitFault> CheckFilmFit(std::span<const ThicknessRange> ranges,
+                                         const FilmFitOptions& options) {
+  if (ranges.empty() || ranges.size() > kMostFilmLayers) {
     return FilmFitFault::kLayers;
   }
   for (const ThicknessRange& range : ranges) {
     if (!IsNumberWithin(range.fromNm, 0.0, range.toNm) ||
-        !IsNumberWithin(range.toNm, range.fromNm, 60000.0)) {
+        !IsNumberWithin(range.toNm, range.fromNm, kMostFilmNm)) {
       return FilmFitFault::kThicknessRange;
     }
   }
@@ -589,20 +610,8 @@ std::optional<FilmFitFault> FaultOf(const ReflectanceSpectrum& spectrum, const F
       !IsNumberWithin(options.confidence, 0.5, 0.9999)) {
     return FilmFitFault::kOption;
   }
-  bool dark = true;
-  for (int nm = options.fromNm; nm <= options.toNm; ++nm) {
-    if (!std::isfinite(spectrum[nm]) || std::abs(spectrum[nm]) > 1e6) {
-      return FilmFitFault::kSpectrum;
-    }
-    dark = dark && spectrum[nm] == 0.0;
-  }
-  if (dark) {
-    return FilmFitFault::kSpectrum;
-  }
   return std::nullopt;
 }
-
-}  // namespace
 
 std::variant<FilmFit, FilmFitFault> FitFilm(const ReflectanceSpectrum& spectrum,
                                             const FilmStack& stack,

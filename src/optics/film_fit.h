@@ -3,6 +3,7 @@
 
 #include <QString>
 #include <QStringList>
+#include <optional>
 #include <span>
 #include <variant>
 #include <vector>
@@ -12,10 +13,12 @@
 
 namespace vexa {
 
+inline constexpr double kMostFilmNm = 60000.0;
+
 /// Where the thickness of a layer is looked for; a layer whose limits are equal is known.
 struct ThicknessRange {
   double fromNm = 50.0;
-  double toNm = 60000.0;
+  double toNm = kMostFilmNm;
 
   [[nodiscard]] bool IsFixed() const { return fromNm == toNm; }
   bool operator==(const ThicknessRange&) const = default;
@@ -77,6 +80,10 @@ enum class FilmFitFault {
   kOption,          ///< bandwidth, uncertainty or confidence out of its range
   kSpectrum,        ///< a value that is no number, or nothing but zeros
 };
+
+/// What is wrong with the settings of a fit, before there is a spectrum.
+[[nodiscard]] std::optional<FilmFitFault> CheckFilmFit(std::span<const ThicknessRange> ranges,
+                                                       const FilmFitOptions& options);
 
 /// The thicknesses of a stack by a least-squares fit of its FilmModel to a spectrum in percent.
 ///
