@@ -22,15 +22,17 @@ namespace {
 constexpr int kFewestPoints = 20;
 constexpr std::size_t kMostSolved = 4;
 constexpr std::size_t kMostAlternatives = 3;
-constexpr double kHopelessRatio = 6.0;  // of a seed's sum of squares to the best one's
+constexpr double kHopelessRatio = 3.0;  // of a seed's sum of squares to the best one's
 constexpr double kCorrelated = 0.95;
 constexpr double kNearlyAsGood = 1.05;  // of the root mean squares
 constexpr double kBetterBy = 16.0;      // in chi squared, for one more parameter
 constexpr double kPoorNoises = 2.5;
-constexpr double kPoorPart = 0.03;     // of what the film explains
-constexpr double kNoFilmRatio = 1.08;  // of the sums of squares without and with the film
-constexpr double kNoFilmPart = 0.4;    // of the sum of squares that a poor fit may leave
-constexpr double kRoughStep = 1e-5;    // relative, of what is refined once more
+constexpr double kPoorPart = 0.03;        // of what the film explains
+constexpr double kNoFilmRatio = 1.08;     // of the sums of squares without and with the film
+constexpr double kNoFilmPart = 0.4;       // of the sum of squares that a poor fit may leave
+constexpr double kRoughStep = 1e-5;       // relative, of what is refined once more
+constexpr double kUneven = 0.4;           // square of the phases' scatter in radians
+constexpr double kSmallestSpread = 1e-3;  // to start from: at 0 there is no slope
 constexpr int kNoiseReachNm = 50;
 constexpr double kSmallestScale = 0.5;
 constexpr double kGreatestScale = 1.6;
@@ -106,7 +108,7 @@ class Fitter {
   }
 
   FilmFit Run() {
-    std::vector<Solution> found = SolveAll(false);
+    std::vector<Solution> found = SolveAll();
     if (found.empty()) {
       return NoFilm();
     }
@@ -267,10 +269,31 @@ class Fitter {
     return residuals;
   }
 
+  // The phase of a state in the bluest light, from the air to the substrate and back.
+  [[nodiscard]] double WholePhase(const FilmState& state) const {
+    double phase = 1.0;
+    for (std::size_t j = 0; j < ranges_.size(); ++j) {
+      phase += 4.0 * std::numbers::pi * stack_.layers[j].n[options_.fromNm] *
+               state.thicknessesNm[j] / options_.fromNm;
+    }
+    return phase;
+  }
+
+  // The spread that takes from the fringes what a seed misses beyond the slit; 0 for next to none.
+  [[nodiscard]] double SpreadOf(const FilmSeed& seed) const {
+    const double middleNm = (options_.fromNm + options_.toNm) / 2.0;
+    const double phase =
+        WholePhase({.thicknessesNm = seed.thicknessesNm}) * options_.fromNm / middleNm;
+    const double slit = phase * options_.bandwidthNm / 2.355 / middleNm;
+    const double missing = -2.0 * std::log(std::max(seed.visibility, 0.01)) - slit * slit;
+    return missing > kUneven + slit * slit ? std::min(std::sqrt(missing) / phase, 0.2) : 0.0;
+  }
+
   // The minima next to the seeds, best first.
-  std::vector<Solution> SolveAll(bool withSpread) {
+  std::vector<Solution> SolveAll() {
     std::vector<Solution> found;
     const auto seeds = FindFilmSeeds(spectrum_, stack_, ranges_, options_);
+    const bool uneven = !seeds.empty() && SpreadOf(seeds.front()) > 0.0;
     for (const FilmSeed& seed : seeds) {
       if (found.size() >= kMostSolved ||
           seed.sumOfSquares > kHopelessRatio * seeds.front().sumOfSquares + 1e-9) {
@@ -278,13 +301,14 @@ class Fitter {
       }
       Point start;
       start.state.thicknessesNm = seed.thicknessesNm;
+      start.state.spread = uneven ? std::max(SpreadOf(seed), kSmallestSpread) : 0.0;
       model_.Reflect(start.state, values_);
       const LinearMatch match =
           MatchLinear(values_, measured_, options_.scaleFree, options_.offsetFree);
       start.scale = match.scale;
       start.offset = match.offset;
       if (auto solution =
-              Solve(start, FreeParameters(withSpread), {.iterations = 40, .step = kRoughStep})) {
+              Solve(start, FreeParameters(uneven), {.iterations = 40, .step = kRoughStep})) {
         AddDistinct(std::move(*solution), found);
       }
     }
@@ -313,11 +337,7 @@ class Fitter {
   // The spread, out of a few, that leaves the least of a fit with a matched scale; 0 when none
   // makes it better than the noise would.
   double RoughSpread(const Solution& from) {
-    double phase = 1.0;
-    for (std::size_t j = 0; j < ranges_.size(); ++j) {
-      phase += 4.0 * std::numbers::pi * stack_.layers[j].n[options_.fromNm] *
-               from.point.state.thicknessesNm[j] / options_.fromNm;
-    }
+    const double phase = WholePhase(from.point.state);
     const auto points = static_cast<double>(measured_.size());
     const double enough = points * from.rms * from.rms * (1.0 - kBetterBy / 2.0 / points);
     double best = enough;
@@ -338,7 +358,7 @@ class Fitter {
 
   // A spread is taken in when the best fit is clearly better with it; then all get one.
   void TakeInSpread(std::vector<Solution>& found) {
-    const double rough = RoughSpread(found.front());
+    const double rough = found.front().point.state.spread > 0.0 ? 0.0 : RoughSpread(found.front());
     if (rough == 0.0) {
       return;
     }

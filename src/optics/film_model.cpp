@@ -20,7 +20,8 @@ struct Node {
   double weight;
 };
 
-/// A rule is good, to some 1e-6 of the fringe, for phases that scatter up to `reach` radians.
+/// A rule is good, to some 1e-6 of the fringe's first harmonic, for phases that scatter up to
+/// `reach` radians.
 struct Rule {
   double reach;
   std::vector<Node> nodes;
@@ -42,7 +43,7 @@ Rule MakeRule(double reach, std::size_t count) {
 
 const std::array<Rule, 6>& Rules() {
   static const std::array<Rule, 6> kRules{MakeRule(0.001, 1), MakeRule(0.2, 3),  MakeRule(0.7, 5),
-                                          MakeRule(1.6, 9),   MakeRule(2.8, 15), MakeRule(5.0, 31)};
+                                          MakeRule(1.6, 11),  MakeRule(2.8, 21), MakeRule(5.0, 63)};
   return kRules;
 }
 

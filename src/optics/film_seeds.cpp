@@ -4,6 +4,8 @@
 #include <algorithm>
 #include <array>
 #include <cmath>
+#include <numeric>
+#include <optional>
 
 #include "optics/fourier_thickness.h"
 
@@ -16,8 +18,11 @@ constexpr double kWeakestPeak = 0.1;     // of the strongest
 constexpr double kFewestScales = 0.5;
 constexpr double kMostScales = 1.6;
 constexpr std::size_t kMostSeeds = 8;
-constexpr std::size_t kMostCombinations = 1500;
-constexpr std::size_t kMostRefined = 6;
+constexpr double kClearRatio = 10.0;  // of the peak of a fringe that is surely there
+constexpr std::size_t kMostCombinations = 3000;
+constexpr std::size_t kMostEnumerated = 200000;
+constexpr std::size_t kMostRefined = 12;
+constexpr std::size_t kMostPeaks = 6;  // of a layer among several
 constexpr int kStepsAnOrder = 12;
 
 /// Values of the model against the spectrum at every `stepNm`-th wavelength, without the slit.
@@ -27,23 +32,52 @@ class Score {
         int stepNm)
       : options_(options),
         model_(stack, options.fromNm, options.toNm, stepNm, 0.0),
-        values_(model_.Points()) {
+        values_(model_.Points()),
+        incoherent_(model_.Points()) {
     for (std::size_t i = 0; i < model_.Points(); ++i) {
       measured_.push_back(spectrum[model_.Nm(i)]);
     }
+    // So thick and so uneven that nothing is left of the fringes.
+    model_.Reflect(
+        {.thicknessesNm = std::vector<double>(stack.layers.size(), 5000.0), .spread = 0.2},
+        incoherent_);
   }
 
   double operator()(const std::vector<double>& thicknessesNm) {
-    state_.thicknessesNm = thicknessesNm;
-    model_.Reflect(state_, values_);
+    Reflect(thicknessesNm);
+    return MatchLinear(values_, measured_, options_.scaleFree, options_.offsetFree).sumOfSquares;
+  }
+
+  /// The sum of squares with the coherent part damped as the spectrum has it: `visibility` 0 to 1.
+  double Damped(const std::vector<double>& thicknessesNm, double& visibility) {
+    Reflect(thicknessesNm);
+    const double scale =
+        MatchLinear(incoherent_, measured_, options_.scaleFree, options_.offsetFree).scale;
+    double cross = 0.0;
+    double square = 0.0;
+    for (std::size_t i = 0; i < values_.size(); ++i) {
+      const double coherent = scale * (values_[i] - incoherent_[i]);
+      cross += coherent * (measured_[i] - scale * incoherent_[i]);
+      square += coherent * coherent;
+    }
+    visibility = square > 0.0 ? std::clamp(cross / square, 0.0, 1.0) : 1.0;
+    for (std::size_t i = 0; i < values_.size(); ++i) {
+      values_[i] = std::lerp(incoherent_[i], values_[i], visibility);
+    }
     return MatchLinear(values_, measured_, options_.scaleFree, options_.offsetFree).sumOfSquares;
   }
 
  private:
+  void Reflect(const std::vector<double>& thicknessesNm) {
+    state_.thicknessesNm = thicknessesNm;
+    model_.Reflect(state_, values_);
+  }
+
   const FilmFitOptions& options_;
   FilmModel model_;
   std::vector<double> measured_;
   std::vector<double> values_;
+  std::vector<double> incoherent_;
   FilmState state_;
 };
 
@@ -99,7 +133,7 @@ class Search {
 
   std::vector<FilmSeed> Run() {
     if (free_.empty()) {
-      return {{start_, fine_(start_)}};
+      return {{start_, fine_(start_), 1.0}};
     }
     std::vector<FilmSeed> seeds;
     if (free_.size() == 1) {
@@ -117,6 +151,10 @@ class Search {
         TransformFringes(spectrum, stack_.layers.front().n, options_.fromNm, options_.toNm);
     if (!transform || transform->peaks.empty()) {
       return;
+    }
+    if (const FourierPeak& first = transform->peaks.front();
+        first.ratio > kClearRatio && first.thicknessNm > kThinNm) {
+      strongest_ = first.thicknessNm;
     }
     for (const FourierPeak& peak : transform->peaks) {
       if (peak.amplitude >= kWeakestPeak * transform->peaks.front().amplitude) {
@@ -140,15 +178,37 @@ class Search {
       return;
     }
     const auto steps = std::max(1, static_cast<int>(std::ceil((toNm - fromNm) / stepNm)));
+    const auto seedAt = [&](double nm) {
+      at[layer] = nm;
+      FilmSeed seed{at, 0.0, 1.0};
+      seed.sumOfSquares =
+          nm > kThinNm && free_.size() == 1 ? score.Damped(at, seed.visibility) : score(at);
+      return seed;
+    };
     std::vector<FilmSeed> line;
     for (int i = 0; i <= steps; ++i) {
-      at[layer] = std::lerp(fromNm, toNm, static_cast<double>(i) / steps);
-      line.push_back({at, score(at)});
+      line.push_back(seedAt(std::lerp(fromNm, toNm, static_cast<double>(i) / steps)));
     }
     for (std::size_t i = 0; i < line.size(); ++i) {
-      const bool below = i == 0 || line[i].sumOfSquares <= line[i - 1].sumOfSquares;
-      if (below && (i + 1 == line.size() || line[i].sumOfSquares < line[i + 1].sumOfSquares)) {
-        seeds.push_back(line[i]);
+      const bool first = i == 0;
+      const bool last = i + 1 == line.size();
+      const double here = line[i].sumOfSquares;
+      if ((!first && line[i - 1].sumOfSquares < here) ||
+          (!last && line[i + 1].sumOfSquares <= here)) {
+        continue;
+      }
+      seeds.push_back(line[i]);
+      if (first || last) {
+        continue;
+      }
+      // On the parabola through the lowest three the sums of different minima can be compared.
+      const double before = line[i - 1].sumOfSquares;
+      const double after = line[i + 1].sumOfSquares;
+      const double bend = before + after - 2.0 * here;
+      const double step = (toNm - fromNm) / steps;
+      if (bend > 0.0) {
+        seeds.push_back(seedAt(std::clamp(
+            line[i].thicknessesNm[layer] + step * 0.5 * (before - after) / bend, fromNm, toNm)));
       }
     }
   }
@@ -201,21 +261,50 @@ class Search {
     return found;
   }
 
-  // Candidates of a layer among several: peaks, and a grid where it may be thin or is nearly known.
+  // Candidates of a layer among several: the orders around the peaks, and a grid where it may be
+  // thin or is nearly known.
   [[nodiscard]] std::vector<double> GridAndCandidates(std::size_t layer) const {
     const ThicknessRange& range = ranges_[layer];
     const double step = orders_[layer] / 4.0;
     std::vector<double> found;
     const bool narrow = range.toNm - range.fromNm < 8.0 * orders_[layer];
-    if (!narrow) {
-      found = Candidates(layer);
-      found.resize(std::min<std::size_t>(found.size(), 10));
-    }
-    for (double nm = range.fromNm; nm <= (narrow ? range.toNm : std::min(kThinNm, range.toNm));
-         nm += step) {
+    const double gridEnd = narrow ? range.toNm : std::min(kThinNm, range.toNm);
+    for (double nm = range.fromNm; nm <= gridEnd; nm += step) {
       found.push_back(nm);
     }
+    if (!narrow) {
+      std::vector<double> peaks = Candidates(layer);
+      peaks.resize(std::min(peaks.size(), kMostPeaks));
+      for (const double peak : peaks) {
+        for (int i = -3; i <= 3; ++i) {
+          const double nm = peak + i * orders_[layer] / 6.0;
+          if (nm > gridEnd && nm <= range.toNm) {
+            found.push_back(nm);
+          }
+        }
+      }
+    }
+    if (found.empty()) {
+      found.push_back(std::midpoint(range.fromNm, range.toNm));
+    }
     return found;
+  }
+
+  // The strongest fringe is made by a layer or by several that follow one another.
+  [[nodiscard]] bool ExplainsTheStrongest(const std::vector<double>& thicknessesNm) const {
+    if (!strongest_) {
+      return true;
+    }
+    for (std::size_t first = 0; first < thicknessesNm.size(); ++first) {
+      double path = 0.0;
+      for (std::size_t j = first; j < thicknessesNm.size(); ++j) {
+        path += thicknessesNm[j] / InLayer(1.0, j);
+        if (std::abs(path - *strongest_) < orders_.front()) {
+          return true;
+        }
+      }
+    }
+    return false;
   }
 
   void Combine(std::vector<FilmSeed>& seeds) {
@@ -223,21 +312,26 @@ class Search {
     std::size_t count = 1;
     for (const std::size_t layer : free_) {
       candidates.push_back(GridAndCandidates(layer));
-      count *= std::max<std::size_t>(candidates.back().size(), 1);
+      count *= candidates.back().size();
     }
-    // With many layers the far candidates of each are thinned out evenly.
-    const std::size_t stride = (count + kMostCombinations - 1) / kMostCombinations;
-    std::vector<FilmSeed> rough;
+    // With many layers the combinations are thinned out evenly.
+    std::vector<std::vector<double>> combinations;
+    const std::size_t stride = count / kMostEnumerated + 1;
     for (std::size_t number = 0; number < count; number += stride) {
       std::vector<double> at = start_;
       std::size_t rest = number;
       for (std::size_t i = 0; i < free_.size(); ++i) {
-        if (!candidates[i].empty()) {
-          at[free_[i]] = candidates[i][rest % candidates[i].size()];
-          rest /= candidates[i].size();
-        }
+        at[free_[i]] = candidates[i][rest % candidates[i].size()];
+        rest /= candidates[i].size();
       }
-      rough.push_back({at, coarse_(at)});
+      if (ExplainsTheStrongest(at)) {
+        combinations.push_back(std::move(at));
+      }
+    }
+    std::vector<FilmSeed> rough;
+    const std::size_t skip = combinations.size() / kMostCombinations + 1;
+    for (std::size_t i = 0; i < combinations.size(); i += skip) {
+      rough.push_back({combinations[i], coarse_(combinations[i]), 1.0});
     }
     for (const FilmSeed& seed : Distinct(std::move(rough), orders_, kMostRefined)) {
       seeds.push_back(Refined(seed));
@@ -269,6 +363,7 @@ class Search {
   std::vector<double> start_;
   std::vector<std::size_t> free_;
   std::vector<double> peaks_;
+  std::optional<double> strongest_;  // fringe, as a thickness of the first layer
 };
 
 }  // namespace

@@ -12,6 +12,7 @@ namespace vexa {
 struct FilmSeed {
   std::vector<double> thicknessesNm;
   double sumOfSquares = 0.0;  ///< with the best scale and offset, over all points
+  double visibility = 1.0;    ///< of the fringes, over that of an even film
 };
 
 /// The scale and the offset with which a model fits measured values best.
