@@ -423,11 +423,17 @@ class Fitter {
     return fit;
   }
 
-  // What a spectrum without any film leaves.
+  // What is left when no thickness is told: by the bare substrate, or by films so uneven that they
+  // make no fringes.
   double RmsWithoutFilm() {
-    FilmState none;
-    none.thicknessesNm.assign(ranges_.size(), 0.0);
-    model_.Reflect(none, values_);
+    const FilmState bare{.thicknessesNm = std::vector<double>(ranges_.size(), 0.0)};
+    const FilmState washedOut{.thicknessesNm = std::vector<double>(ranges_.size(), 5000.0),
+                              .spread = 0.2};
+    return std::min(RmsWithoutFringes(bare), RmsWithoutFringes(washedOut));
+  }
+
+  double RmsWithoutFringes(const FilmState& state) {
+    model_.Reflect(state, values_);
     const LinearMatch match =
         MatchLinear(values_, measured_, options_.scaleFree, options_.offsetFree);
     if (!options_.scaleFree) {

@@ -131,7 +131,9 @@ void FilmModel::ReflectPoint(std::size_t point, const FilmState& state, Shares& 
   double width = std::hypot(state.spread, slit);
   const auto& rules = Rules();
   // Beyond the last rule nothing is left of the fringes; more scatter changes nothing.
-  width = std::min(width, rules.back().reach / std::max(wholePhase, 1e-300));
+  const double widest = rules.back().reach / std::max(wholePhase, 1e-300);
+  const bool isWashedOut = width > widest;
+  width = std::min(width, widest);
   const Rule& rule = *std::ranges::find_if(
       rules.begin(), rules.end() - 1, [&](double reach) { return width * wholePhase <= reach; },
       &Rule::reach);
@@ -164,7 +166,7 @@ void FilmModel::ReflectPoint(std::size_t point, const FilmState& state, Shares& 
       byWidth += node.weight * node.place * byFactor;
     }
   }
-  shares.bySpread = width > 0.0 ? byWidth * state.spread / width : 0.0;
+  shares.bySpread = width > 0.0 && !isWashedOut ? byWidth * state.spread / width : 0.0;
 }
 
 }  // namespace vexa

@@ -23,6 +23,8 @@ constexpr double kSpacingPart = 0.35;  // of an order; a missing or false extrem
 constexpr double kNoiseHeights = 4.0;  // a fringe in standard deviations of the noise
 constexpr double kAgreement = 0.012;   // of a number with the fringes as a whole
 constexpr double kDenial = 0.014;      // less than the 2 % that must not slip
+constexpr double kFreePhaseAgreement = 0.022;
+constexpr double kFreePhaseRatio = 1.5;
 constexpr double kThinNm = 1500.0;
 constexpr double kThinnestNm = 100.0;
 constexpr double kClear = 60.0;     // chi squared that the fringes must explain
@@ -187,15 +189,14 @@ bool IsUnevenlySpaced(const Counted& counted) {
 
 bool IsInTheNoise(const Counted& counted, const ReflectanceSpectrum& spectrum) {
   const double noise = NoiseOf(spectrum);
+  const ReflectanceSpectrum smoothed = Smoothed(spectrum);
   for (std::size_t i = 1; i < counted.extrema.size(); ++i) {
-    const ExtremumPoint& one = counted.extrema[i - 1].point;
-    const ExtremumPoint& other = counted.extrema[i].point;
-    double lowest = std::min(one.reflectance, other.reflectance);
-    double highest = std::max(one.reflectance, other.reflectance);
-    for (int nm = NearestNm(one.wavelengthNm); nm <= NearestNm(other.wavelengthNm); ++nm) {
-      lowest = std::min(lowest, spectrum[nm]);
-      highest = std::max(highest, spectrum[nm]);
-    }
+    // Refining may have moved neighbours past one another.
+    const auto [from, to] = std::minmax({NearestNm(counted.extrema[i - 1].point.wavelengthNm),
+                                         NearestNm(counted.extrema[i].point.wavelengthNm)});
+    const auto between = smoothed.Values().subspan(static_cast<std::size_t>(from - kFirstNm),
+                                                   static_cast<std::size_t>(to - from + 1));
+    const auto [lowest, highest] = std::ranges::minmax(between);
     if (highest - lowest < kNoiseHeights * noise) {
       return true;
     }
@@ -222,7 +223,8 @@ ReflectanceSpectrum SmoothIndex(const ReflectanceSpectrum& index, const Thicknes
 /// What the fringes as a whole say of a result.
 enum class Verdict { kConfirmed, kUndecided, kDenied, kUnknown };
 
-Verdict CompareWith(const std::optional<WholeFringeThickness>& whole, double statedNm) {
+Verdict CompareWith(const std::optional<WholeFringeThickness>& whole, double statedNm,
+                    double agreement, double denial) {
   if (!whole) {
     return Verdict::kUnknown;
   }
@@ -230,9 +232,9 @@ Verdict CompareWith(const std::optional<WholeFringeThickness>& whole, double sta
   for (const double rivalNm : whole->rivalsNm) {
     difference = std::max(difference, std::abs(statedNm / rivalNm - 1.0));
   }
-  return difference > kDenial      ? Verdict::kDenied
-         : difference > kAgreement ? Verdict::kUndecided
-                                   : Verdict::kConfirmed;
+  return difference > denial      ? Verdict::kDenied
+         : difference > agreement ? Verdict::kUndecided
+                                  : Verdict::kConfirmed;
 }
 
 Verdict Compare(const ReflectanceSpectrum& spectrum, const ReflectanceSpectrum& filmIndex,
@@ -241,22 +243,26 @@ Verdict Compare(const ReflectanceSpectrum& spectrum, const ReflectanceSpectrum& 
   if (!std::isfinite(result.thicknessNm) || result.thicknessNm <= 0.0) {
     return Verdict::kUnknown;
   }
-  if (result.physical) {
-    return CompareWith(FitWholeFringes(spectrum, index, result.thicknessNm), result.thicknessNm);
-  }
   // What the optical formula means by the thickness of a film whose index changes.
   const double w1 = result.first.wavelengthNm;
   const double w2 = result.second.wavelengthNm;
-  const double unit = (index[NearestNm(w1)] * w2 - index[NearestNm(w2)] * w1) / (w2 - w1);
+  const double unit =
+      result.physical ? 1.0 : (index[NearestNm(w1)] * w2 - index[NearestNm(w2)] * w1) / (w2 - w1);
   const double statedNm = result.thicknessNm / unit;
-  const Verdict verdict = CompareWith(FitWholeFringes(spectrum, index, statedNm), statedNm);
-  if (verdict == Verdict::kConfirmed) {
+  const auto known = FitWholeFringes(spectrum, index, statedNm);
+  const Verdict verdict = CompareWith(known, statedNm, kAgreement, kDenial);
+  if (result.physical || verdict == Verdict::kConfirmed) {
     return verdict;
   }
-  // An optical thickness is also asked for where the index is not known, and the order is not then.
+  // An optical thickness is also asked for where the index is not known. Then a free phase fits far
+  // better, but without the order it says less.
   ReflectanceSpectrum one;
   std::ranges::fill(one.Values(), 1.0);
-  return CompareWith(FitWholeFringes(spectrum, one, result.thicknessNm, false), result.thicknessNm);
+  const auto free = FitWholeFringes(spectrum, one, result.thicknessNm, false);
+  if (known && (!free || known->sumOfSquares < kFreePhaseRatio * free->sumOfSquares)) {
+    return verdict;
+  }
+  return CompareWith(free, result.thicknessNm, kFreePhaseAgreement, kFreePhaseAgreement);
 }
 
 }  // namespace
@@ -291,7 +297,7 @@ std::optional<WholeFringeThickness> FitWholeFringes(const ReflectanceSpectrum& s
   if ((without - best.sumOfSquares) * points < kClear * best.sumOfSquares || without <= 0.0) {
     return std::nullopt;
   }
-  WholeFringeThickness result{best.thicknessNm, {}};
+  WholeFringeThickness result{best.thicknessNm, best.sumOfSquares, {}};
   const double limit =
       best.sumOfSquares * (1.0 + std::max(kRivalPart, kRivalChi / points)) + 1e-6 * without;
   for (const Minimum& minimum : found) {

@@ -29,6 +29,7 @@ enum class ThicknessDoubt {
 /// `phaseKnown` false it is free, for an index that is not known.
 struct WholeFringeThickness {
   double thicknessNm = 0.0;
+  double sumOfSquares = 0.0;  ///< of the residual, squared percent
   /// Further thicknesses that fit nearly as well.
   std::vector<double> rivalsNm;
 };

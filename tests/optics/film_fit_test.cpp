@@ -34,6 +34,19 @@ FilmStack PrimedStack() {
   return stack;
 }
 
+// A coat of 3000 nm whose thickness scatters.
+ReflectanceSpectrum Uneven(double spread) {
+  ReflectanceSpectrum spectrum;
+  FilmModel(CoatStack(), 440, 840, 1, 0.0)
+      .Reflect({.thicknessesNm = {3000.0}, .spread = spread}, spectrum.Values());
+  const ReflectanceSpectrum noisy = Reflected(Coat(0.0), kNoise);
+  const ReflectanceSpectrum clean = Reflected(Coat(0.0));
+  for (int nm = 440; nm <= 840; ++nm) {
+    spectrum[nm] += noisy[nm] - clean[nm];
+  }
+  return spectrum;
+}
+
 // The virtual instrument's optics have no slit.
 FilmFit Fit(const ReflectanceSpectrum& spectrum, const FilmStack& stack,
             std::vector<ThicknessRange> ranges = {},
@@ -103,6 +116,7 @@ TEST(FilmFit, TellsWhatTheStackIsNot) {
       {"bare without noise", Reflected(Coat(0.0)), FitOutcome::kNone},
       {"mirror", test::SpectrumOf([](int nm) { return 88.0 + nm * 0.005; }), FitOutcome::kNone},
       {"flat", Flat(20.0), FitOutcome::kNone},
+      {"washed out", Uneven(0.06), FitOutcome::kNone},
       {"primed coat", Reflected(PrimedCoat(3000.0, 700.0), kNoise), FitOutcome::kPoor},
       {"coat without noise", Reflected(Coat(1500.0)), FitOutcome::kOk},
   };
@@ -146,15 +160,7 @@ TEST(FilmFit, FreesWhatItIsTold) {
 
 TEST(FilmFit, MeasuresTheSpread) {
   for (const double spread : {0.005, 0.01, 0.02}) {
-    ReflectanceSpectrum spectrum = Reflected(Coat(0.0), kNoise);  // for its noise
-    const ReflectanceSpectrum bare = Reflected(Coat(0.0));
-    const FilmModel model(CoatStack(), 440, 840, 1, 0.0);
-    std::vector<double> uneven(model.Points());
-    model.Reflect({.thicknessesNm = {3000.0}, .spread = spread}, uneven);
-    for (int nm = 440; nm <= 840; ++nm) {
-      spectrum[nm] += uneven[static_cast<std::size_t>(nm - 440)] - bare[nm];
-    }
-    const FilmFit fit = Fit(spectrum, CoatStack());
+    const FilmFit fit = Fit(Uneven(spread), CoatStack());
     EXPECT_EQ(FitOutcomeName(fit.outcome), QStringLiteral("ok")) << spread;
     EXPECT_NEAR(fit.spread, spread, 0.1 * spread);
     EXPECT_NEAR(fit.layers[0].thicknessNm, 3000.0, 2.0) << spread;
