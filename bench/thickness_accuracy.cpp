@@ -248,6 +248,12 @@ int PrintOnce(const std::vector<double>& coatsNm, const Conditions& conditions) 
   return unexplained;
 }
 
+std::string OneDecimal(double value) {
+  char text[32];
+  std::snprintf(text, sizeof text, "%.1f", value);
+  return text;
+}
+
 // Many measurements with noise of the same coat, a row for each type.
 void PrintRepeated(const std::vector<double>& coatsNm, const Conditions& conditions) {
   PrintHeader(conditions, "within limit % | median deviation | middle 90 % from | to |");
@@ -270,8 +276,9 @@ void PrintRepeated(const std::vector<double>& coatsNm, const Conditions& conditi
       const auto at = [&deviations](double part) {
         return deviations[static_cast<std::size_t>(std::lround(part * (kRepeats - 1)))];
       };
-      std::printf("| %.0f | %s | physical | %.1f | %+.1f | %+.1f | %+.1f |\n", coatNm, name.c_str(),
-                  100.0 * within / kRepeats, at(0.5), at(0.05), at(0.95));
+      const std::string share = name == "Fourier" ? "-" : OneDecimal(100.0 * within / kRepeats);
+      std::printf("| %.0f | %s | physical | %s | %+.1f | %+.1f | %+.1f |\n", coatNm, name.c_str(),
+                  share.c_str(), at(0.5), at(0.05), at(0.95));
     };
     for (int type = 0; type < 3; ++type) {
       print(std::string(1, kTypes[type]), [&](const ReflectanceSpectrum& spectrum) {

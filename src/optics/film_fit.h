@@ -85,6 +85,12 @@ enum class FilmFitFault {
 [[nodiscard]] std::optional<FilmFitFault> CheckFilmFit(std::span<const ThicknessRange> ranges,
                                                        const FilmFitOptions& options);
 
+/// What is wrong with all that a fit takes.
+[[nodiscard]] std::optional<FilmFitFault> CheckFilmFit(const ReflectanceSpectrum& spectrum,
+                                                       const FilmStack& stack,
+                                                       std::span<const ThicknessRange> ranges,
+                                                       const FilmFitOptions& options);
+
 /// The thicknesses of a stack by a least-squares fit of its FilmModel to a spectrum in percent.
 ///
 /// The start values are the peaks of the Fourier transform and, below 1.2 um, a scan; from the best

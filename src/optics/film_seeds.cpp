@@ -7,6 +7,7 @@
 #include <numeric>
 #include <optional>
 
+#include "optics/film_score.h"
 #include "optics/fourier_thickness.h"
 
 namespace vexa {
@@ -15,8 +16,6 @@ namespace {
 constexpr double kThinNm = 1200.0;       // below it the transform's peaks are too wide
 constexpr double kLowestPeakNm = 600.0;  // of optical equivalents that are taken for peaks
 constexpr double kWeakestPeak = 0.1;     // of the strongest
-constexpr double kFewestScales = 0.5;
-constexpr double kMostScales = 1.6;
 constexpr std::size_t kMostSeeds = 8;
 constexpr double kClearRatio = 10.0;  // of the peak of a fringe that is surely there
 constexpr std::size_t kMostCombinations = 3000;
@@ -24,62 +23,6 @@ constexpr std::size_t kMostEnumerated = 200000;
 constexpr std::size_t kMostRefined = 12;
 constexpr std::size_t kMostPeaks = 6;  // of a layer among several
 constexpr int kStepsAnOrder = 12;
-
-/// Values of the model against the spectrum at every `stepNm`-th wavelength, without the slit.
-class Score {
- public:
-  Score(const ReflectanceSpectrum& spectrum, const FilmStack& stack, const FilmFitOptions& options,
-        int stepNm)
-      : options_(options),
-        model_(stack, options.fromNm, options.toNm, stepNm, 0.0),
-        values_(model_.Points()),
-        incoherent_(model_.Points()) {
-    for (std::size_t i = 0; i < model_.Points(); ++i) {
-      measured_.push_back(spectrum[model_.Nm(i)]);
-    }
-    // So thick and so uneven that nothing is left of the fringes.
-    model_.Reflect(
-        {.thicknessesNm = std::vector<double>(stack.layers.size(), 5000.0), .spread = 0.2},
-        incoherent_);
-  }
-
-  double operator()(const std::vector<double>& thicknessesNm) {
-    Reflect(thicknessesNm);
-    return MatchLinear(values_, measured_, options_.scaleFree, options_.offsetFree).sumOfSquares;
-  }
-
-  /// The sum of squares with the coherent part damped as the spectrum has it: `visibility` 0 to 1.
-  double Damped(const std::vector<double>& thicknessesNm, double& visibility) {
-    Reflect(thicknessesNm);
-    const double scale =
-        MatchLinear(incoherent_, measured_, options_.scaleFree, options_.offsetFree).scale;
-    double cross = 0.0;
-    double square = 0.0;
-    for (std::size_t i = 0; i < values_.size(); ++i) {
-      const double coherent = scale * (values_[i] - incoherent_[i]);
-      cross += coherent * (measured_[i] - scale * incoherent_[i]);
-      square += coherent * coherent;
-    }
-    visibility = square > 0.0 ? std::clamp(cross / square, 0.0, 1.0) : 1.0;
-    for (std::size_t i = 0; i < values_.size(); ++i) {
-      values_[i] = std::lerp(incoherent_[i], values_[i], visibility);
-    }
-    return MatchLinear(values_, measured_, options_.scaleFree, options_.offsetFree).sumOfSquares;
-  }
-
- private:
-  void Reflect(const std::vector<double>& thicknessesNm) {
-    state_.thicknessesNm = thicknessesNm;
-    model_.Reflect(state_, values_);
-  }
-
-  const FilmFitOptions& options_;
-  FilmModel model_;
-  std::vector<double> measured_;
-  std::vector<double> values_;
-  std::vector<double> incoherent_;
-  FilmState state_;
-};
 
 double MeanIndex(const Material& material, const FilmFitOptions& options) {
   return material.n[(options.fromNm + options.toNm) / 2];
@@ -170,7 +113,7 @@ class Search {
   }
 
   // Adds every local minimum of a scan of one layer.
-  void Scan(Score& score, std::vector<double> at, std::size_t layer, double fromNm, double toNm,
+  void Scan(FilmScore& score, std::vector<double> at, std::size_t layer, double fromNm, double toNm,
             double stepNm, std::vector<FilmSeed>& seeds) {
     fromNm = std::max(fromNm, ranges_[layer].fromNm);
     toNm = std::min(toNm, ranges_[layer].toNm);
@@ -357,8 +300,8 @@ class Search {
   const FilmStack& stack_;
   std::span<const ThicknessRange> ranges_;
   const FilmFitOptions& options_;
-  Score fine_;
-  Score coarse_;
+  FilmScore fine_;
+  FilmScore coarse_;
   std::vector<double> orders_;
   std::vector<double> start_;
   std::vector<std::size_t> free_;
@@ -367,35 +310,6 @@ class Search {
 };
 
 }  // namespace
-
-LinearMatch MatchLinear(std::span<const double> model, std::span<const double> measured,
-                        bool scaleFree, bool offsetFree) {
-  double m = 0.0;
-  double y = 0.0;
-  double mm = 0.0;
-  double my = 0.0;
-  double yy = 0.0;
-  for (std::size_t i = 0; i < model.size(); ++i) {
-    m += model[i];
-    y += measured[i];
-    mm += model[i] * model[i];
-    my += model[i] * measured[i];
-    yy += measured[i] * measured[i];
-  }
-  const auto count = static_cast<double>(model.size());
-  if (offsetFree) {
-    mm -= m * m / count;
-    my -= m * y / count;
-    yy -= y * y / count;
-  }
-  LinearMatch match;
-  if (scaleFree && mm > 0.0) {
-    match.scale = std::clamp(my / mm, kFewestScales, kMostScales);
-  }
-  match.offset = offsetFree ? (y - match.scale * m) / count : 0.0;
-  match.sumOfSquares = std::max(0.0, yy + match.scale * (match.scale * mm - 2.0 * my));
-  return match;
-}
 
 std::vector<FilmSeed> FindFilmSeeds(const ReflectanceSpectrum& spectrum, const FilmStack& stack,
                                     std::span<const ThicknessRange> ranges,

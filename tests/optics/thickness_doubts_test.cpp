@@ -6,6 +6,7 @@
 #include <cmath>
 
 #include "optics/dispersion_setting.h"
+#include "optics/whole_fringes.h"
 #include "support/films.h"
 
 namespace vexa {
