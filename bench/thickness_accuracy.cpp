@@ -9,32 +9,22 @@
 #include <string>
 #include <vector>
 
-#include "instrument/h8_reply.h"
-#include "instrument/wavelength_mapping.h"
-#include "measurement/reflectance.h"
 #include "optics/dispersion_setting.h"
 #include "optics/extremum_search.h"
+#include "optics/film_fit.h"
+#include "optics/fourier_thickness.h"
 #include "optics/thickness.h"
-#include "simulator/detector.h"
 #include "simulator/film_stack.h"
+#include "support/measured_film.h"
 
 namespace vexa {
 namespace {
 
-constexpr int kShiftNm = 4;
-constexpr double kReferencePercent = 4.0;
 constexpr double kExtremumUncertaintyNm = 1.0;
 constexpr unsigned kSeed = 1;
 constexpr int kRepeats = 200;
 constexpr const char* kTypes = "ABC";
 constexpr const char* kKinds[] = {"physical", "optical"};
-
-/// How the frames are taken.
-struct Conditions {
-  double integrationMs;
-  int averaging;
-  bool noise;
-};
 
 simulator::ReflectanceCurve HardCoat(double thicknessNm) {
   return [stack = simulator::FilmStack{simulator::LensPlasticIndex,
@@ -49,41 +39,6 @@ ReflectanceSpectrum FilmIndex() {
     index[nm] = simulator::HardCoatIndex(nm);
   }
   return index;
-}
-
-// One frame: the body of a data reply, taken apart and mapped as an acquisition does it.
-RawSpectrum Acquire(const simulator::ReflectanceCurve& percent, bool dark,
-                    const Conditions& conditions, std::mt19937_64& generator) {
-  const simulator::PixelCounts mean = simulator::MeanCounts(
-      percent, {.integrationMs = conditions.integrationMs, .lightShutterClosed = dark});
-  std::vector<std::uint8_t> body(4);
-  for (int n = 0; n < conditions.averaging; ++n) {
-    for (const std::uint16_t count :
-         simulator::ReadOut(mean, conditions.noise ? &generator : nullptr)) {
-      body.push_back(static_cast<std::uint8_t>(count & 0xff));
-      body.push_back(static_cast<std::uint8_t>(count >> 8));
-    }
-  }
-  LineBuffers lines;
-  RawSpectrum spectrum;
-  if (FillLines(body, lines)) {
-    const MappedSpectrum mapped = LinesToWaves(lines, kDefaultLinePositions, kDetectorStartNm);
-    if (mapped.status == 0) {
-      std::ranges::copy(mapped.values, spectrum.Values().begin());
-    }
-  }
-  return spectrum;
-}
-
-ReflectanceSpectrum Measure(double thicknessNm, const Conditions& conditions,
-                            std::mt19937_64& generator) {
-  const auto reference = [](double) { return kReferencePercent; };
-  ReflectanceSpectrum percent;
-  std::ranges::fill(percent.Values(), kReferencePercent);
-  const RawSpectrum background = Acquire(reference, true, conditions, generator);
-  const RawSpectrum bright = Acquire(reference, false, conditions, generator);
-  const RawSpectrum sample = Acquire(HardCoat(thicknessNm), false, conditions, generator);
-  return ComputeReflectance(sample, background, bright, kShiftNm, percent);
 }
 
 struct Outcome {
@@ -140,6 +95,37 @@ Outcome Evaluate(const ReflectanceSpectrum& spectrum, int type, int kind, double
     const double shifted = Formula(halfOrders, w1 + by, w2 - by, physical, trueIndex);
     outcome.limitNm = std::max(outcome.limitNm, std::abs(shifted - outcome.resultNm));
   }
+  return outcome;
+}
+
+// By the transform, whose own limit is not known, and by the fit, whose limit is its interval.
+Outcome EvaluateFourier(const ReflectanceSpectrum& spectrum, double thicknessNm) {
+  const auto transform = TransformFringes(spectrum, FilmIndex());
+  Outcome outcome;
+  outcome.truthNm = thicknessNm;
+  outcome.status = transform && !transform->peaks.empty() ? Status{0} : kTooFewExtrema;
+  if (outcome.status == 0) {
+    outcome.resultNm = transform->peaks.front().thicknessNm;
+  }
+  return outcome;
+}
+
+Outcome EvaluateFit(const ReflectanceSpectrum& spectrum, double thicknessNm) {
+  static const FilmStack kStack = [] {
+    FilmStack stack;
+    stack.layers.resize(1);
+    stack.layers[0].n = FilmIndex();
+    for (int nm = ReflectanceSpectrum::kFirstNm; nm <= ReflectanceSpectrum::kLastNm; ++nm) {
+      stack.substrate.n[nm] = simulator::LensPlasticIndex(nm);
+    }
+    return stack;
+  }();
+  const auto fit = std::get<FilmFit>(FitFilm(spectrum, kStack, std::vector<ThicknessRange>(1)));
+  Outcome outcome;
+  outcome.truthNm = thicknessNm;
+  outcome.status = fit.outcome == FitOutcome::kOk ? Status{0} : kThicknessFault;
+  outcome.resultNm = fit.layers[0].thicknessNm;
+  outcome.limitNm = fit.layers[0].uncertaintyNm;
   return outcome;
 }
 
@@ -237,7 +223,7 @@ int PrintOnce(const std::vector<double>& coatsNm, const Conditions& conditions) 
   for (const double coatNm : coatsNm) {
     std::mt19937_64 generator(kSeed);
     const bool mayBeSplit = HasExtremumNearAnEnd(coatNm);
-    const ReflectanceSpectrum spectrum = Measure(coatNm, conditions, generator);
+    const ReflectanceSpectrum spectrum = Measure(HardCoat(coatNm), conditions, generator);
     for (int type = 0; type < 3; ++type) {
       for (int kind = 0; kind < 2; ++kind) {
         const Outcome o = Evaluate(spectrum, type, kind, coatNm);
@@ -249,9 +235,23 @@ int PrintOnce(const std::vector<double>& coatsNm, const Conditions& conditions) 
                     WhyOutside(o, type, coatNm, conditions.noise).c_str());
       }
     }
+    const Outcome fourier = EvaluateFourier(spectrum, coatNm);
+    std::printf("| %.0f | Fourier | physical | | | | %.1f | %.1f | %+.1f | | |\n", coatNm, coatNm,
+                fourier.resultNm, fourier.Deviation());
+    const Outcome fit = EvaluateFit(spectrum, coatNm);
+    std::printf("| %.0f | fit | physical | | | | %.1f | %.1f | %+.1f | %.1f | %s |\n", coatNm,
+                coatNm, fit.resultNm, fit.Deviation(), fit.limitNm,
+                fit.WithinLimit() ? "" : "outside");
   }
-  std::printf("\n%d outside, %d of them without an extremum near an end\n", outside, unexplained);
+  std::printf("\n%d outside by A, B and C, %d of them without an extremum near an end\n", outside,
+              unexplained);
   return unexplained;
+}
+
+std::string OneDecimal(double value) {
+  char text[32];
+  std::snprintf(text, sizeof text, "%.1f", value);
+  return text;
 }
 
 // Many measurements with noise of the same coat, a row for each type.
@@ -262,13 +262,13 @@ void PrintRepeated(const std::vector<double>& coatsNm, const Conditions& conditi
     std::mt19937_64 generator(kSeed);
     std::vector<ReflectanceSpectrum> spectra;
     for (int i = 0; i < kRepeats; ++i) {
-      spectra.push_back(Measure(coatNm, conditions, generator));
+      spectra.push_back(Measure(HardCoat(coatNm), conditions, generator));
     }
-    for (int type = 0; type < 3; ++type) {
+    const auto print = [&](const std::string& name, const auto& evaluate) {
       std::vector<double> deviations;
       int within = 0;
       for (const ReflectanceSpectrum& spectrum : spectra) {
-        const Outcome o = Evaluate(spectrum, type, ThicknessKind::kPhysical, coatNm);
+        const Outcome o = evaluate(spectrum);
         within += o.WithinLimit() ? 1 : 0;
         deviations.push_back(o.Deviation());
       }
@@ -276,9 +276,17 @@ void PrintRepeated(const std::vector<double>& coatsNm, const Conditions& conditi
       const auto at = [&deviations](double part) {
         return deviations[static_cast<std::size_t>(std::lround(part * (kRepeats - 1)))];
       };
-      std::printf("| %.0f | %c | physical | %.1f | %+.1f | %+.1f | %+.1f |\n", coatNm, kTypes[type],
-                  100.0 * within / kRepeats, at(0.5), at(0.05), at(0.95));
+      const std::string share = name == "Fourier" ? "-" : OneDecimal(100.0 * within / kRepeats);
+      std::printf("| %.0f | %s | physical | %s | %+.1f | %+.1f | %+.1f |\n", coatNm, name.c_str(),
+                  share.c_str(), at(0.5), at(0.05), at(0.95));
+    };
+    for (int type = 0; type < 3; ++type) {
+      print(std::string(1, kTypes[type]), [&](const ReflectanceSpectrum& spectrum) {
+        return Evaluate(spectrum, type, ThicknessKind::kPhysical, coatNm);
+      });
     }
+    print("Fourier", [&](const auto& spectrum) { return EvaluateFourier(spectrum, coatNm); });
+    print("fit", [&](const auto& spectrum) { return EvaluateFit(spectrum, coatNm); });
   }
 }
 

@@ -13,6 +13,7 @@
 #include "cli/program_settings.h"
 #include "files/data_file.h"
 #include "measurement/evaluation.h"
+#include "optics/thickness_doubts.h"
 
 namespace vexa::cli {
 namespace {
@@ -26,6 +27,7 @@ struct SlotReport {
   bool colourOk = false;
   ColourResult colour;  ///< not a number what could not be computed
   std::optional<Status> thickness;
+  std::vector<ThicknessDoubt> doubts;  ///< about the thickness
 };
 
 struct Part {
@@ -66,10 +68,12 @@ std::vector<SlotReport> Evaluate(VEXATYPE& state, MessageService& messages) {
     if (!slot.valid) {
       continue;
     }
-    SlotReport& report = reports.emplace_back(SlotReport{number, &slot, false, {}, {}});
+    SlotReport& report = reports.emplace_back(SlotReport{number, &slot, false, {}, {}, {}});
     FillColour(state.colour, report);
     if (state.thickness.enabled) {
       report.thickness = ComputeSlotThickness(state, slot, messages);
+      report.doubts = FindThicknessDoubts(state.thickness.type, slot.reflectance, state.filmIndex,
+                                          slot.thickness);
     }
   }
   return reports;
@@ -87,7 +91,9 @@ QJsonObject ColourJson(const SlotReport& report) {
   return object;
 }
 
-QJsonObject ThicknessJson(Status status, const ThicknessResult& result) {
+QJsonObject ThicknessJson(const SlotReport& report) {
+  const Status status = *report.thickness;
+  const ThicknessResult& result = report.slot->thickness;
   const auto number = [status](double value) {
     return status == 0 ? QJsonValue(value) : QJsonValue();
   };
@@ -102,11 +108,16 @@ QJsonObject ThicknessJson(Status status, const ThicknessResult& result) {
         {QStringLiteral("reflectance"), extremum.point.reflectance},
         {QStringLiteral("kind"), extremum.maximum ? QStringLiteral("P") : QStringLiteral("V")}});
   }
+  QJsonArray doubts;
+  for (const ThicknessDoubt doubt : report.doubts) {
+    doubts.append(ThicknessDoubtName(doubt));
+  }
   return {{QStringLiteral("status"), status},
           {QStringLiteral("thickness"), number(result.thicknessNm)},
           {QStringLiteral("first"), point(result.first)},
           {QStringLiteral("second"), point(result.second)},
-          {QStringLiteral("extrema"), extrema}};
+          {QStringLiteral("extrema"), extrema},
+          {QStringLiteral("doubts"), doubts}};
 }
 
 void PrintReportsJson(const QString& path, const std::vector<SlotReport>& reports, bool judged,
@@ -123,7 +134,7 @@ void PrintReportsJson(const QString& path, const std::vector<SlotReport>& report
       object[QLatin1String("judgement")] = JudgementJson(report.slot->judgement);
     }
     if (report.thickness) {
-      object[QLatin1String("thickness")] = ThicknessJson(*report.thickness, report.slot->thickness);
+      object[QLatin1String("thickness")] = ThicknessJson(report);
     }
     slotList.append(object);
   }
@@ -169,19 +180,26 @@ void PrintJudgements(const std::vector<SlotReport>& reports) {
 }
 
 void PrintThicknesses(const std::vector<SlotReport>& reports, const QString& unit) {
-  Print(QStringLiteral("\nslot thickness%1    first[nm]   second[nm]  extrema\n").arg(unit));
+  Print(
+      QStringLiteral("\nslot thickness%1    first[nm]   second[nm]  extrema  doubts\n").arg(unit));
   for (const SlotReport& report : reports) {
     const auto text = [&report](double value) {
       return report.thickness == Status{0} ? FormatNumber(value, u"0.0").trimmed()
                                            : QStringLiteral("-");
     };
     const ThicknessResult& result = report.slot->thickness;
-    Print(QStringLiteral("%1 %2 %3 %4 %5\n")
+    QStringList doubts;
+    for (const ThicknessDoubt doubt : report.doubts) {
+      doubts << ThicknessDoubtName(doubt);
+    }
+    const QString end = doubts.isEmpty() ? QString() : QStringLiteral("  ") + doubts.join(u',');
+    Print(QStringLiteral("%1 %2 %3 %4 %5%6\n")
               .arg(report.number, 4)
               .arg(text(result.thicknessNm), 13)
               .arg(text(result.first.wavelengthNm), 12)
               .arg(text(result.second.wavelengthNm), 12)
-              .arg(result.extrema.count, 8));
+              .arg(result.extrema.count, 8)
+              .arg(end));
   }
 }
 

@@ -27,6 +27,7 @@ struct Command {
 [[nodiscard]] Command DecodeCommand();
 [[nodiscard]] Command DispersionCommand();
 [[nodiscard]] Command EnvCommand();
+[[nodiscard]] Command FitCommand();
 [[nodiscard]] Command JudgeCommand();
 [[nodiscard]] Command MeasureCommand();
 [[nodiscard]] Command ReflectanceCommand();

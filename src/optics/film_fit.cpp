@@ -1,0 +1,373 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "optics/film_fit.h"
+
+#include <gsl/gsl_cdf.h>
+
+#include <algorithm>
+#include <atomic>
+#include <cmath>
+#include <limits>
+#include <numbers>
+#include <numeric>
+#include <optional>
+#include <thread>
+
+#include "base/translation.h"
+#include "optics/film_seeds.h"
+#include "optics/film_solver.h"
+
+namespace vexa {
+namespace {
+
+constexpr std::size_t kMostSolved = 4;
+constexpr std::size_t kMostAlternatives = 3;
+constexpr double kHopelessRatio = 3.0;  // of a seed's sum of squares to the best one's
+constexpr double kCorrelated = 0.95;
+constexpr double kNearlyAsGood = 1.05;  // of the root mean squares
+constexpr double kBetterBy = 16.0;      // in chi squared, for one more parameter
+constexpr double kPoorNoises = 2.5;
+constexpr double kPoorPart = 0.03;        // of what the film explains
+constexpr double kNoFilmRatio = 1.08;     // of the sums of squares without and with the film
+constexpr double kNoFilmPart = 0.4;       // of the sum of squares that a poor fit may leave
+constexpr double kRoughStep = 1e-5;       // relative, of what is refined once more
+constexpr double kUneven = 0.4;           // square of the phases' scatter in radians
+constexpr double kSmallestSpread = 1e-3;  // to start from: at 0 there is no slope
+
+QString ParameterText(const FilmParameter& parameter) {
+  switch (parameter.kind) {
+    case FilmParameter::kThickness:
+      return Text::tr("膜厚%1").arg(parameter.layer + 1);
+    case FilmParameter::kScale:
+      return Text::tr("倍率");
+    case FilmParameter::kOffset:
+      return Text::tr("オフセット");
+    case FilmParameter::kSpread:
+      return Text::tr("膜厚むら");
+    case FilmParameter::kIndex:
+      return Text::tr("屈折率");
+  }
+  return {};
+}
+
+// The noise of single points, from third differences, in which smooth curves vanish.
+double NoiseOf(std::span<const double> values) {
+  std::vector<double> differences;
+  for (std::size_t i = 3; i < values.size(); ++i) {
+    differences.push_back((values[i] - 3.0 * values[i - 1] + 3.0 * values[i - 2] - values[i - 3]) /
+                          std::sqrt(20.0));
+  }
+  return Rms(differences);
+}
+
+class Fitter {
+ public:
+  Fitter(const ReflectanceSpectrum& spectrum, const FilmStack& stack,
+         std::span<const ThicknessRange> ranges, const FilmFitOptions& options)
+      : spectrum_(spectrum),
+        stack_(stack),
+        ranges_(ranges),
+        options_(options),
+        solver_(spectrum, stack, ranges, options),
+        measured_(solver_.Measured()) {}
+
+  FilmFit Run() {
+    std::vector<FilmSolution> found = SolveAll();
+    if (found.empty()) {
+      return NoFilm();
+    }
+    TakeInSpread(found);
+    return Judged(found);
+  }
+
+ private:
+  // The phase of a state in the bluest light, from the air to the substrate and back.
+  [[nodiscard]] double WholePhase(const FilmState& state) const {
+    double phase = 1.0;
+    for (std::size_t j = 0; j < ranges_.size(); ++j) {
+      phase += 4.0 * std::numbers::pi * stack_.layers[j].n[options_.fromNm] *
+               state.thicknessesNm[j] / options_.fromNm;
+    }
+    return phase;
+  }
+
+  // The spread that takes from the fringes what a seed misses beyond the slit; 0 for next to none.
+  [[nodiscard]] double SpreadOf(const FilmSeed& seed) const {
+    const double middleNm = (options_.fromNm + options_.toNm) / 2.0;
+    const double phase =
+        WholePhase({.thicknessesNm = seed.thicknessesNm}) * options_.fromNm / middleNm;
+    const double slit = phase * options_.bandwidthNm / 2.355 / middleNm;
+    const double missing = -2.0 * std::log(std::max(seed.visibility, 0.01)) - slit * slit;
+    return missing > kUneven + slit * slit ? std::min(std::sqrt(missing) / phase, 0.2) : 0.0;
+  }
+
+  // The minima next to the seeds, best first.
+  std::vector<FilmSolution> SolveAll() {
+    std::vector<FilmSolution> found;
+    const auto seeds = FindFilmSeeds(spectrum_, stack_, ranges_, options_);
+    const bool uneven = !seeds.empty() && SpreadOf(seeds.front()) > 0.0;
+    for (const FilmSeed& seed : seeds) {
+      if (found.size() >= kMostSolved ||
+          seed.sumOfSquares > kHopelessRatio * seeds.front().sumOfSquares + 1e-9) {
+        break;
+      }
+      FilmPoint start;
+      start.state.thicknessesNm = seed.thicknessesNm;
+      start.state.spread = uneven ? std::max(SpreadOf(seed), kSmallestSpread) : 0.0;
+      const LinearMatch match = solver_.Match(start.state);
+      start.scale = match.scale;
+      start.offset = match.offset;
+      if (auto solution = solver_.Solve(start, solver_.FreeParameters(uneven),
+                                        {.iterations = 40, .step = kRoughStep})) {
+        AddDistinct(std::move(*solution), found);
+      }
+    }
+    std::ranges::sort(found, {}, &FilmSolution::rms);
+    return found;
+  }
+
+  static void AddDistinct(FilmSolution solution, std::vector<FilmSolution>& found) {
+    constexpr double kSameNm = 2.0;
+    for (FilmSolution& other : found) {
+      bool same = true;
+      for (std::size_t j = 0; j < solution.point.state.thicknessesNm.size(); ++j) {
+        same = same && std::abs(solution.point.state.thicknessesNm[j] -
+                                other.point.state.thicknessesNm[j]) < kSameNm;
+      }
+      if (same) {
+        if (solution.rms < other.rms) {
+          other = std::move(solution);
+        }
+        return;
+      }
+    }
+    found.push_back(std::move(solution));
+  }
+
+  // The spread, out of a few, that leaves the least of a fit with a matched scale; 0 when none
+  // makes it better than the noise would.
+  double RoughSpread(const FilmSolution& from) {
+    const double phase = WholePhase(from.point.state);
+    const auto points = static_cast<double>(measured_.size());
+    const double enough = points * from.rms * from.rms * (1.0 - kBetterBy / 2.0 / points);
+    double best = enough;
+    double spread = 0.0;
+    for (const double radians : {0.3, 0.7, 1.5, 3.0}) {
+      FilmState state = from.point.state;
+      state.spread = std::min(radians / phase, 0.1);
+      const LinearMatch match = solver_.Match(state);
+      if (match.sumOfSquares < best) {
+        best = match.sumOfSquares;
+        spread = state.spread;
+      }
+    }
+    return spread;
+  }
+
+  // A spread is taken in when the best fit is clearly better with it; then all get one.
+  void TakeInSpread(std::vector<FilmSolution>& found) {
+    const double rough = found.front().point.state.spread > 0.0 ? 0.0 : RoughSpread(found.front());
+    if (rough == 0.0) {
+      return;
+    }
+    const auto spreadOut = [&](const FilmSolution& from) {
+      FilmPoint start = from.point;
+      start.state.spread = rough;
+      return solver_.Solve(start, solver_.FreeParameters(true),
+                           {.iterations = 60, .step = kRoughStep});
+    };
+    const auto better = spreadOut(found.front());
+    const auto points = static_cast<double>(measured_.size());
+    if (!better || points * (std::pow(found.front().rms / std::max(better->rms, 1e-12), 2) - 1.0) <
+                       kBetterBy) {
+      return;
+    }
+    for (FilmSolution& solution : found) {
+      if (auto with = spreadOut(solution); with && with->rms < solution.rms) {
+        solution = std::move(*with);
+      }
+    }
+    std::ranges::sort(found, {}, &FilmSolution::rms);
+  }
+
+  FilmFit Judged(std::vector<FilmSolution>& found) {
+    FilmSolution& best = found.front();
+    const double quickRms = best.rms;
+    solver_.WeighBy(solver_.Residuals(best.point));
+    if (auto weighted = solver_.Solve(best.point, best.parameters, {.step = 1e-8})) {
+      best = std::move(*weighted);
+    }
+    FilmFit fit;
+    const std::vector<double> residuals = solver_.Residuals(best.point);
+    for (std::size_t i = 0; i < residuals.size(); ++i) {
+      fit.fitted.push_back(measured_[i] - residuals[i]);
+    }
+    fit.rms = Rms(residuals);
+    fit.noise = std::min(NoiseOf(measured_), NoiseOf(residuals));
+    fit.scale = best.point.scale;
+    fit.offset = best.point.offset;
+    fit.spread = best.point.state.spread;
+    fit.index = best.point.state.index;
+    FillLayers(best, fit);
+    for (std::size_t i = 1; i < found.size() && i <= kMostAlternatives; ++i) {
+      fit.alternatives.push_back({found[i].point.state.thicknessesNm, found[i].rms});
+    }
+    fit.outcome = OutcomeOf(fit, quickRms);
+    if (fit.outcome == FitOutcome::kNone) {
+      return NoFilm(fit);
+    }
+    Warn(best, fit);
+    return fit;
+  }
+
+  // What is left when no thickness is told: by the bare substrate, or by films so uneven that they
+  // make no fringes.
+  double RmsWithoutFilm() {
+    const FilmState bare{.thicknessesNm = std::vector<double>(ranges_.size(), 0.0)};
+    const FilmState washedOut{.thicknessesNm = std::vector<double>(ranges_.size(), 5000.0),
+                              .spread = 0.2};
+    return std::min(RmsWithoutFringes(bare), RmsWithoutFringes(washedOut));
+  }
+
+  double RmsWithoutFringes(const FilmState& state) {
+    if (!options_.scaleFree) {
+      return std::sqrt(solver_.Match(state).sumOfSquares / static_cast<double>(measured_.size()));
+    }
+    const std::span<const double> values = solver_.Reflect(state);
+    // With any scale, and one that changes evenly over the range.
+    std::vector<double> ratio;
+    for (std::size_t i = 0; i < values.size(); ++i) {
+      ratio.push_back(measured_[i] / std::max(values[i], 1e-9));
+    }
+    const auto count = static_cast<double>(ratio.size());
+    const double mean = std::accumulate(ratio.begin(), ratio.end(), 0.0) / count;
+    double slope = 0.0;
+    double places = 0.0;
+    for (std::size_t i = 0; i < ratio.size(); ++i) {
+      const double place = static_cast<double>(i) - (count - 1.0) / 2.0;
+      slope += place * ratio[i];
+      places += place * place;
+    }
+    std::vector<double> left;
+    for (std::size_t i = 0; i < ratio.size(); ++i) {
+      const double place = static_cast<double>(i) - (count - 1.0) / 2.0;
+      left.push_back(values[i] * (ratio[i] - mean - place * slope / places));
+    }
+    return Rms(left);
+  }
+
+  FitOutcome OutcomeOf(const FilmFit& fit, double quickRms) {
+    const double without = RmsWithoutFilm();
+    const bool poor = fit.rms > kPoorNoises * fit.noise && fit.rms > kPoorPart * without;
+    const double gain = std::pow(without / std::max(fit.rms, 1e-12), 2);
+    const bool untold = std::ranges::any_of(fit.layers, [](const FittedLayer& layer) {
+      return layer.statisticalNm > layer.thicknessNm / 2.0;
+    });
+    if (gain < kNoFilmRatio || (poor && gain < 1.0 / kNoFilmPart) || untold) {
+      return FitOutcome::kNone;
+    }
+    if (poor) {
+      return FitOutcome::kPoor;
+    }
+    const bool another =
+        std::ranges::any_of(fit.alternatives, [&](const FitAlternative& alternative) {
+          return alternative.rms < kNearlyAsGood * quickRms;
+        });
+    return another ? FitOutcome::kAmbiguous : FitOutcome::kOk;
+  }
+
+  void FillLayers(const FilmSolution& best, FilmFit& fit) {
+    for (const double nm : best.point.state.thicknessesNm) {
+      fit.layers.push_back({nm, 0.0, 0.0});
+    }
+    const std::size_t count = best.parameters.size();
+    const auto freedom = static_cast<double>(measured_.size() - count);
+    const double variance = best.result.sumOfSquares / freedom;
+    const double quantile = gsl_cdf_tdist_Pinv(0.5 + options_.confidence / 2.0, freedom);
+    const std::vector<double> byWavelength = solver_.WavelengthShifts(best);
+    for (std::size_t i = 0; i < count; ++i) {
+      if (best.parameters[i].kind != FilmParameter::kThickness) {
+        continue;
+      }
+      FittedLayer& layer = fit.layers[best.parameters[i].layer];
+      layer.statisticalNm = quantile * std::sqrt(variance * best.result.Covariance(i, i));
+      const bool known = best.parameters[i].layer > 0 || !options_.indexFree;
+      const double byIndex = known ? layer.thicknessNm * options_.indexUncertainty : 0.0;
+      layer.uncertaintyNm = std::hypot(layer.statisticalNm, byWavelength[i], byIndex);
+    }
+  }
+
+  void Warn(const FilmSolution& best, FilmFit& fit) const {
+    const LeastSquaresResult& result = best.result;
+    for (std::size_t i = 0; i < best.parameters.size(); ++i) {
+      for (std::size_t k = i + 1; k < best.parameters.size(); ++k) {
+        const double correlation =
+            result.Covariance(i, k) / std::sqrt(result.Covariance(i, i) * result.Covariance(k, k));
+        if (std::abs(correlation) > kCorrelated) {
+          fit.warnings << Text::tr("%1と%2の相関が高く、区別できません。")
+                              .arg(ParameterText(best.parameters[i]),
+                                   ParameterText(best.parameters[k]));
+        }
+      }
+    }
+    if (options_.scaleFree &&
+        (fit.scale == kSmallestFilmScale || fit.scale == kGreatestFilmScale)) {
+      fit.warnings << Text::tr("倍率が限界に達しました。");
+    }
+  }
+
+  FilmFit NoFilm(FilmFit fit = {}) {
+    constexpr double kNotANumber = std::numeric_limits<double>::quiet_NaN();
+    if (fit.fitted.empty()) {
+      fit.noise = NoiseOf(measured_);
+      fit.rms = RmsWithoutFilm();
+    }
+    fit.outcome = FitOutcome::kNone;
+    fit.spread = 0.0;
+    fit.index = 1.0;
+    fit.layers.assign(ranges_.size(), {kNotANumber, kNotANumber, kNotANumber});
+    fit.alternatives.clear();
+    return fit;
+  }
+
+  const ReflectanceSpectrum& spectrum_;
+  const FilmStack& stack_;
+  std::span<const ThicknessRange> ranges_;
+  const FilmFitOptions& options_;
+  FilmSolver solver_;
+  std::span<const double> measured_;
+};
+
+}  // namespace
+
+std::variant<FilmFit, FilmFitFault> FitFilm(const ReflectanceSpectrum& spectrum,
+                                            const FilmStack& stack,
+                                            std::span<const ThicknessRange> ranges,
+                                            const FilmFitOptions& options) {
+  if (const auto fault = CheckFilmFit(spectrum, stack, ranges, options)) {
+    return *fault;
+  }
+  return Fitter(spectrum, stack, ranges, options).Run();
+}
+
+std::vector<std::variant<FilmFit, FilmFitFault>> FitFilms(
+    std::span<const ReflectanceSpectrum> spectra, const FilmStack& stack,
+    std::span<const ThicknessRange> ranges, const FilmFitOptions& options) {
+  std::vector<std::variant<FilmFit, FilmFitFault>> fits(spectra.size());
+  std::atomic<std::size_t> next = 0;
+  const auto work = [&] {
+    for (std::size_t i = next++; i < spectra.size(); i = next++) {
+      fits[i] = FitFilm(spectra[i], stack, ranges, options);
+    }
+  };
+  {
+    std::vector<std::jthread> threads;
+    const std::size_t most = std::max(1U, std::thread::hardware_concurrency());
+    for (std::size_t i = 1; i < std::min(most, spectra.size()); ++i) {
+      threads.emplace_back(work);
+    }
+    work();
+  }
+  return fits;
+}
+
+}  // namespace vexa

@@ -1,0 +1,116 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <QString>
+#include <QStringList>
+#include <optional>
+#include <span>
+#include <variant>
+#include <vector>
+
+#include "base/spectrum.h"
+#include "optics/film_model.h"
+
+namespace vexa {
+
+inline constexpr double kMostFilmNm = 60000.0;
+
+/// Where the thickness of a layer is looked for; a layer whose limits are equal is known.
+struct ThicknessRange {
+  double fromNm = 50.0;
+  double toNm = kMostFilmNm;
+
+  [[nodiscard]] bool IsFixed() const { return fromNm == toNm; }
+  bool operator==(const ThicknessRange&) const = default;
+};
+
+struct FilmFitOptions {
+  int fromNm = ReflectanceSpectrum::kFirstNm;  ///< wavelengths used
+  int toNm = ReflectanceSpectrum::kLastNm;
+  bool scaleFree = true;     ///< a factor of 0.5 to 1.6 on the model: an error of the reference
+  bool offsetFree = false;   ///< a constant background
+  bool indexFree = false;    ///< a factor on the index of the first layer
+  double bandwidthNm = 1.0;  ///< full width at half maximum of the instrument's slit
+  // What the interval takes into it besides the noise, as half widths at its confidence.
+  double wavelengthUncertaintyNm = 0.1;
+  double indexUncertainty = 0.0;  ///< relative
+  double confidence = 0.95;       ///< of the interval, between 0 and 1
+
+  bool operator==(const FilmFitOptions&) const = default;
+};
+
+enum class FitOutcome {
+  kOk,
+  kAmbiguous,  ///< another minimum fits nearly as well
+  kPoor,       ///< the residual is far above the noise: the stack is not the sample's
+  kNone,       ///< no film can be told; thicknesses are not numbers
+};
+
+struct FittedLayer {
+  double thicknessNm = 0.0;
+  double uncertaintyNm = 0.0;  ///< half width of the interval: noise, wavelength scale and index
+  double statisticalNm = 0.0;  ///< the part of the noise
+};
+
+/// A further minimum.
+struct FitAlternative {
+  std::vector<double> thicknessesNm;
+  double rms = 0.0;  ///< percent of reflectance
+};
+
+struct FilmFit {
+  FitOutcome outcome = FitOutcome::kNone;
+  std::vector<FittedLayer> layers;
+  double scale = 1.0;          ///< multiplies the model
+  double offset = 0.0;         ///< percent
+  double spread = 0.0;         ///< relative standard deviation of the thickness within the spot
+  double index = 1.0;          ///< factor on the index of the first layer
+  double rms = 0.0;            ///< of the residual, percent
+  double noise = 0.0;          ///< of the spectrum, percent
+  std::vector<double> fitted;  ///< the model from `fromNm` to `toNm`, percent
+  std::vector<FitAlternative> alternatives;
+  QStringList warnings;  ///< for the user
+};
+
+/// Why a fit is refused.
+enum class FilmFitFault {
+  kLayers,          ///< not one to four layers, or not one range a layer
+  kThicknessRange,  ///< reversed, negative, not finite, or above 60 um
+  kWavelengths,     ///< fewer than 20 points, or outside 440..840
+  kOption,          ///< bandwidth, uncertainty or confidence out of its range
+  kSpectrum,        ///< a value that is no number, or nothing but zeros
+};
+
+/// What is wrong with the settings of a fit, before there is a spectrum.
+[[nodiscard]] std::optional<FilmFitFault> CheckFilmFit(std::span<const ThicknessRange> ranges,
+                                                       const FilmFitOptions& options);
+
+/// What is wrong with all that a fit takes.
+[[nodiscard]] std::optional<FilmFitFault> CheckFilmFit(const ReflectanceSpectrum& spectrum,
+                                                       const FilmStack& stack,
+                                                       std::span<const ThicknessRange> ranges,
+                                                       const FilmFitOptions& options);
+
+/// The thicknesses of a stack by a least-squares fit of its FilmModel to a spectrum in percent.
+///
+/// The start values are the peaks of the Fourier transform and, below 1.2 um, a scan; from the best
+/// of them the solver goes to the minimum, at last with weights from the residual's own noise. The
+/// spread is taken in when it makes the fit clearly better. The statistical part of the interval is
+/// Student's, from the covariance and the residual; the other parts are added in squares.
+[[nodiscard]] std::variant<FilmFit, FilmFitFault> FitFilm(const ReflectanceSpectrum& spectrum,
+                                                          const FilmStack& stack,
+                                                          std::span<const ThicknessRange> ranges,
+                                                          const FilmFitOptions& options = {});
+
+/// FitFilm for several spectra at once, on as many threads as there are processors.
+[[nodiscard]] std::vector<std::variant<FilmFit, FilmFitFault>> FitFilms(
+    std::span<const ReflectanceSpectrum> spectra, const FilmStack& stack,
+    std::span<const ThicknessRange> ranges, const FilmFitOptions& options = {});
+
+/// "ok", "ambiguous", "poor", "none".
+[[nodiscard]] QString FitOutcomeName(FitOutcome outcome);
+
+/// What to tell the user.
+[[nodiscard]] QString FilmFitFaultText(FilmFitFault fault);
+
+}  // namespace vexa

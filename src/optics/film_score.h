@@ -1,0 +1,50 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <span>
+#include <vector>
+
+#include "optics/film_fit.h"
+
+namespace vexa {
+
+inline constexpr double kSmallestFilmScale = 0.5;
+inline constexpr double kGreatestFilmScale = 1.6;
+
+/// The scale and the offset with which a model fits measured values best.
+struct LinearMatch {
+  double scale = 1.0;
+  double offset = 0.0;
+  double sumOfSquares = 0.0;
+};
+
+/// As far as they are free; the scale stays within 0.5 to 1.6.
+[[nodiscard]] LinearMatch MatchLinear(std::span<const double> model,
+                                      std::span<const double> measured, bool scaleFree,
+                                      bool offsetFree);
+
+/// How well thicknesses explain a spectrum at every `stepNm`-th wavelength, without the slit: what
+/// a search for starting points asks many times. The options must outlive it.
+class FilmScore {
+ public:
+  FilmScore(const ReflectanceSpectrum& spectrum, const FilmStack& stack,
+            const FilmFitOptions& options, int stepNm);
+
+  /// The sum of squares with the best scale and offset.
+  [[nodiscard]] double operator()(const std::vector<double>& thicknessesNm);
+
+  /// The same with the coherent part damped as the spectrum has it: `visibility` 0 to 1.
+  [[nodiscard]] double Damped(const std::vector<double>& thicknessesNm, double& visibility);
+
+ private:
+  void Reflect(const std::vector<double>& thicknessesNm);
+
+  const FilmFitOptions& options_;
+  FilmModel model_;
+  std::vector<double> measured_;
+  std::vector<double> values_;
+  std::vector<double> incoherent_;
+  FilmState state_;
+};
+
+}  // namespace vexa

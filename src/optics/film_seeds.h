@@ -1,0 +1,25 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <span>
+#include <vector>
+
+#include "optics/film_fit.h"
+
+namespace vexa {
+
+/// Thicknesses from which a fit may start.
+struct FilmSeed {
+  std::vector<double> thicknessesNm;
+  double sumOfSquares = 0.0;  ///< with the best scale and offset, over all points
+  double visibility = 1.0;    ///< of the fringes, over that of an even film
+};
+
+/// Distinct starting points within the ranges, best first, from the Fourier peaks of the spectrum
+/// and from scans of thin or narrowly known layers. Takes what FitFilm has checked.
+[[nodiscard]] std::vector<FilmSeed> FindFilmSeeds(const ReflectanceSpectrum& spectrum,
+                                                  const FilmStack& stack,
+                                                  std::span<const ThicknessRange> ranges,
+                                                  const FilmFitOptions& options);
+
+}  // namespace vexa

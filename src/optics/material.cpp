@@ -1,0 +1,180 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "optics/material.h"
+
+#include <QDir>
+#include <QRegularExpression>
+#include <algorithm>
+#include <cmath>
+#include <optional>
+#include <vector>
+
+#include "base/message.h"
+#include "base/number_text.h"
+#include "base/text_file.h"
+#include "base/translation.h"
+#include "optics/bunsan.h"
+#include "optics/index_file.h"
+
+namespace vexa {
+namespace {
+
+using Result = std::variant<Material, MaterialFault>;
+
+/// The formulas have nothing to say; an unknown kind does not occur here.
+class NoMessages : public MessageService {
+ public:
+  MessageResult MsgCall(const QString&, std::int16_t, const QString&) override {
+    return MessageResult::kOk;
+  }
+  void Beep() override {}
+};
+
+bool IsIndex(const Material& material) {
+  return std::ranges::all_of(material.n.Values(),
+                             [](double n) { return std::isfinite(n) && n > 0.0; }) &&
+         std::ranges::all_of(material.k.Values(),
+                             [](double k) { return std::isfinite(k) && k >= 0.0; });
+}
+
+Result Checked(const Material& material) {
+  return IsIndex(material) ? Result(material) : Result(MaterialFault::kIndex);
+}
+
+// The numbers of a text with commas between; nothing when one of them is none.
+std::optional<std::vector<double>> Numbers(const QString& text) {
+  std::vector<double> numbers;
+  for (const QString& part : text.split(u',')) {
+    const std::optional<double> number = ParseNumber(part);
+    if (!number) {
+      return std::nullopt;
+    }
+    numbers.push_back(*number);
+  }
+  return numbers;
+}
+
+Result FromSetting(const DispersionSetting& setting) {
+  NoMessages messages;
+  Material material;
+  if (GetBunsanArray(false, setting, material.n, messages) != 0) {
+    return MaterialFault::kIndex;
+  }
+  return Checked(material);
+}
+
+Result FromFormula(const QString& name, const std::vector<double>& numbers) {
+  DispersionSetting setting;
+  if (name == QLatin1String("schott") && numbers.size() == setting.schott.size()) {
+    setting.kind = DispersionKind::kSchott;
+    std::ranges::copy(numbers, setting.schott.begin());
+    return FromSetting(setting);
+  }
+  if (name == QLatin1String("sellmeier") && numbers.size() == setting.sellmeier.size()) {
+    setting.kind = DispersionKind::kSellmeier;
+    std::ranges::copy(numbers, setting.sellmeier.begin());
+    return FromSetting(setting);
+  }
+  if (name == QLatin1String("cauchy") && (numbers.size() == 2 || numbers.size() == 3)) {
+    Material material;
+    for (int nm = ReflectanceSpectrum::kFirstNm; nm <= ReflectanceSpectrum::kLastNm; ++nm) {
+      const double squareUm = nm * nm / 1.0e6;
+      const double last = numbers.size() == 3 ? numbers[2] : 0.0;
+      material.n[nm] = numbers[0] + (numbers[1] + last / squareUm) / squareUm;
+    }
+    return Checked(material);
+  }
+  return MaterialFault::kText;
+}
+
+struct TableRow {
+  double nm, n, k;
+};
+
+std::vector<TableRow> ReadRows(const QString& path) {
+  static const QRegularExpression kBetween(QStringLiteral("[\\s,]+"));
+  std::vector<TableRow> rows;
+  TextReader reader = TextReader::Open(path);
+  while (!reader.AtEnd()) {
+    const QString line = reader.Line();
+    const QStringList parts = line.left(line.indexOf(u'#')).split(kBetween, Qt::SkipEmptyParts);
+    if (parts.isEmpty()) {
+      continue;
+    }
+    const auto numbers = Numbers(parts.join(u','));
+    if (!numbers || numbers->size() != 3 || (!rows.empty() && (*numbers)[0] <= rows.back().nm)) {
+      throw ReadFault("not an ascending row of three numbers");
+    }
+    rows.push_back({(*numbers)[0], (*numbers)[1], (*numbers)[2]});
+  }
+  return rows;
+}
+
+Result FromTable(const QString& path) {
+  std::vector<TableRow> rows;
+  try {
+    rows = ReadRows(path);
+  } catch (const ReadFault&) {
+    return MaterialFault::kFile;
+  }
+  if (rows.empty() || rows.front().nm > ReflectanceSpectrum::kFirstNm ||
+      rows.back().nm < ReflectanceSpectrum::kLastNm) {
+    return MaterialFault::kCoverage;
+  }
+  Material material;
+  std::size_t next = 0;
+  for (int nm = ReflectanceSpectrum::kFirstNm; nm <= ReflectanceSpectrum::kLastNm; ++nm) {
+    while (rows[next].nm < nm) {
+      ++next;
+    }
+    const TableRow& high = rows[next];
+    const TableRow& low = next == 0 ? high : rows[next - 1];
+    const double part = next == 0 ? 0.0 : (nm - low.nm) / (high.nm - low.nm);
+    material.n[nm] = std::lerp(low.n, high.n, part);
+    material.k[nm] = std::lerp(low.k, high.k, part);
+  }
+  return Checked(material);
+}
+
+}  // namespace
+
+Result ReadMaterial(const QString& text, const QString& directory) {
+  const QString trimmed = text.trimmed();
+  if (const std::optional<double> number = ParseNumber(trimmed)) {
+    Material material;
+    std::ranges::fill(material.n.Values(), *number);
+    return Checked(material);
+  }
+  const QString path = QDir(directory).filePath(trimmed);
+  if (trimmed.endsWith(QLatin1String(".ind"), Qt::CaseInsensitive)) {
+    Material material;
+    if (!ReadIndexFile(path, material.n)) {
+      return MaterialFault::kFile;
+    }
+    return Checked(material);
+  }
+  if (trimmed.endsWith(QLatin1String(".nk"), Qt::CaseInsensitive)) {
+    return FromTable(path);
+  }
+  if (const qsizetype colon = trimmed.indexOf(u':'); colon > 0) {
+    if (const auto numbers = Numbers(trimmed.sliced(colon + 1))) {
+      return FromFormula(trimmed.left(colon).toLower(), *numbers);
+    }
+  }
+  return MaterialFault::kText;
+}
+
+QString MaterialFaultText(MaterialFault fault) {
+  switch (fault) {
+    case MaterialFault::kText:
+      return Text::tr("材料は数値、式、または .ind・.nk ファイルで指定してください。");
+    case MaterialFault::kFile:
+      return Text::tr("材料のファイルを読み込めません。");
+    case MaterialFault::kCoverage:
+      return Text::tr("材料の表が440～840nmを含んでいません。");
+    case MaterialFault::kIndex:
+      return Text::tr("材料の屈折率が正の数でないか、吸収が負です。");
+  }
+  return {};
+}
+
+}  // namespace vexa

@@ -1,0 +1,230 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "optics/film_fit.h"
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <cmath>
+#include <limits>
+
+#include "optics/fourier_thickness.h"
+#include "support/films.h"
+
+namespace vexa {
+namespace {
+
+using test::Coat;
+using test::CoatStack;
+using test::Flat;
+using test::Reflected;
+
+constexpr double kNoise = 0.02;  // percent of reflectance
+
+double Primer(double nm) {
+  return 1.515 + 5000.0 / (nm * nm);
+}
+
+simulator::FilmStack PrimedCoat(double coatNm, double primerNm) {
+  return {simulator::LensPlasticIndex, {{simulator::HardCoatIndex, coatNm}, {Primer, primerNm}}};
+}
+
+FilmStack PrimedStack() {
+  FilmStack stack = CoatStack();
+  stack.layers.push_back(test::MaterialOf(Primer));
+  return stack;
+}
+
+// A coat of 3000 nm whose thickness scatters.
+ReflectanceSpectrum Uneven(double spread) {
+  ReflectanceSpectrum spectrum;
+  FilmModel(CoatStack(), 440, 840, 1, 0.0)
+      .Reflect({.thicknessesNm = {3000.0}, .spread = spread}, spectrum.Values());
+  const ReflectanceSpectrum noisy = Reflected(Coat(0.0), kNoise);
+  const ReflectanceSpectrum clean = Reflected(Coat(0.0));
+  for (int nm = 440; nm <= 840; ++nm) {
+    spectrum[nm] += noisy[nm] - clean[nm];
+  }
+  return spectrum;
+}
+
+// The virtual instrument's optics have no slit.
+FilmFit Fit(const ReflectanceSpectrum& spectrum, const FilmStack& stack,
+            std::vector<ThicknessRange> ranges = {},
+            FilmFitOptions options = {.bandwidthNm = 0.0}) {
+  ranges.resize(stack.layers.size());
+  const auto fit = FitFilm(spectrum, stack, ranges, options);
+  EXPECT_TRUE(std::holds_alternative<FilmFit>(fit));
+  return std::get<FilmFit>(fit);
+}
+
+TEST(FourierThickness, ReadsASingleFilm) {
+  for (const double truthNm : {1200.0, 1500.0, 2730.0, 6000.0, 12000.0, 40000.0}) {
+    const auto transform =
+        TransformFringes(Reflected(Coat(truthNm), kNoise), CoatStack().layers[0].n);
+    ASSERT_TRUE(transform && !transform->peaks.empty()) << truthNm;
+    // 2 nm, and the fringes that the wavelengths sample too coarsely.
+    EXPECT_NEAR(transform->peaks[0].thicknessNm, truthNm, 2.0 + 5e-4 * truthNm) << truthNm;
+    EXPECT_GT(transform->peaks[0].ratio, 20.0) << truthNm;
+  }
+  const auto bare = TransformFringes(Reflected(Coat(0.0), kNoise), CoatStack().layers[0].n);
+  ASSERT_TRUE(bare);
+  EXPECT_LT(bare->peaks[0].ratio, 5.0) << "noise alone";
+  EXPECT_TRUE(TransformFringes(Flat(0.0), Flat(1.5))->peaks.empty());
+  for (const double index : {0.0, -1.5, std::nan("")}) {
+    EXPECT_FALSE(TransformFringes(Flat(4.0), Flat(index))) << index;
+  }
+  EXPECT_FALSE(TransformFringes(Flat(4.0), Flat(1.5), 440, 458)) << "19 points";
+}
+
+TEST(FilmFit, FindsOneLayerWithoutAHint) {
+  for (const double truthNm :
+       {80.0, 100.0, 200.0, 450.0, 1100.0, 1500.0, 2000.0, 4000.0, 12000.0, 20000.0, 48000.0}) {
+    const FilmFit fit = Fit(Reflected(Coat(truthNm), kNoise), CoatStack());
+    EXPECT_EQ(FitOutcomeName(fit.outcome), QStringLiteral("ok")) << truthNm;
+    const FittedLayer& layer = fit.layers[0];
+    EXPECT_NEAR(layer.thicknessNm, truthNm, std::max(0.1, 1e-4 * truthNm));
+    EXPECT_NEAR(layer.thicknessNm, truthNm, 1.5 * layer.uncertaintyNm) << truthNm;
+    EXPECT_LT(layer.statisticalNm, layer.uncertaintyNm);
+    EXPECT_NEAR(fit.scale, 1.0, 0.02) << truthNm;
+    EXPECT_NEAR(fit.rms, kNoise, 0.1 * kNoise) << truthNm;
+    EXPECT_EQ(fit.fitted.size(), 401U);
+  }
+}
+
+TEST(FilmFit, FindsSeveralLayers) {
+  const std::pair<double, double> films[] = {{3000, 700}, {2500, 1200}, {4000, 300}, {2000, 2000}};
+  for (const auto& [coatNm, primerNm] : films) {
+    const ReflectanceSpectrum spectrum = Reflected(PrimedCoat(coatNm, primerNm), kNoise);
+    const FilmFit fit = Fit(spectrum, PrimedStack());
+    EXPECT_EQ(FitOutcomeName(fit.outcome), QStringLiteral("ok")) << coatNm << ' ' << primerNm;
+    EXPECT_NEAR(fit.layers[0].thicknessNm, coatNm, 1.0);
+    EXPECT_NEAR(fit.layers[1].thicknessNm, primerNm, 2.0);
+    const FilmFit known = Fit(spectrum, PrimedStack(), {{}, {primerNm, primerNm}});
+    EXPECT_EQ(known.layers[1].thicknessNm, primerNm);
+    EXPECT_EQ(known.layers[1].uncertaintyNm, 0.0);
+    EXPECT_NEAR(known.layers[0].thicknessNm, coatNm, 1.0);
+  }
+}
+
+TEST(FilmFit, TellsWhatTheStackIsNot) {
+  const struct {
+    const char* name;
+    ReflectanceSpectrum spectrum;
+    FitOutcome outcome;
+  } cases[] = {
+      {"bare", Reflected(Coat(0.0), kNoise), FitOutcome::kNone},
+      {"bare without noise", Reflected(Coat(0.0)), FitOutcome::kNone},
+      {"mirror", test::SpectrumOf([](int nm) { return 88.0 + nm * 0.005; }), FitOutcome::kNone},
+      {"flat", Flat(20.0), FitOutcome::kNone},
+      {"washed out", Uneven(0.06), FitOutcome::kNone},
+      {"primed coat", Reflected(PrimedCoat(3000.0, 700.0), kNoise), FitOutcome::kPoor},
+      {"coat without noise", Reflected(Coat(1500.0)), FitOutcome::kOk},
+  };
+  for (const auto& c : cases) {
+    const FilmFit fit = Fit(c.spectrum, CoatStack());
+    EXPECT_EQ(FitOutcomeName(fit.outcome), FitOutcomeName(c.outcome)) << c.name;
+    EXPECT_EQ(std::isnan(fit.layers[0].thicknessNm), c.outcome == FitOutcome::kNone) << c.name;
+  }
+  // Of few fringes under much noise the next order fits as well.
+  const FilmFit unsure = Fit(Reflected(Coat(9000.0), 1.2), CoatStack(), {},
+                             {.fromNm = 600, .toNm = 700, .bandwidthNm = 0.0});
+  EXPECT_EQ(FitOutcomeName(unsure.outcome), QStringLiteral("ambiguous"));
+  EXPECT_FALSE(unsure.alternatives.empty());
+}
+
+TEST(FilmFit, FreesWhatItIsTold) {
+  ReflectanceSpectrum spectrum = Reflected(Coat(3000.0), kNoise);
+  for (double& value : spectrum.Values()) {
+    value = 1.3 * value + 0.5;
+  }
+  const FilmFit moved = Fit(spectrum, CoatStack(), {}, {.offsetFree = true, .bandwidthNm = 0.0});
+  EXPECT_NEAR(moved.scale, 1.3, 0.02);
+  EXPECT_NEAR(moved.offset, 0.5, 0.1);
+  EXPECT_NEAR(moved.layers[0].thicknessNm, 3000.0, 0.3);
+
+  // The index of the fit is 1 % too high: without freedom the thickness makes up for it.
+  FilmStack wrong = CoatStack();
+  for (double& n : wrong.layers[0].n.Values()) {
+    n *= 1.01;
+  }
+  const ReflectanceSpectrum plain = Reflected(Coat(3000.0), kNoise);
+  EXPECT_NEAR(Fit(plain, wrong).layers[0].thicknessNm, 2970.0, 5.0);
+  const FilmFit freed =
+      Fit(plain, wrong, {}, {.scaleFree = false, .indexFree = true, .bandwidthNm = 0.0});
+  EXPECT_NEAR(freed.index, 1.0 / 1.01, 1e-3);
+  EXPECT_NEAR(freed.layers[0].thicknessNm, 3000.0, 3.0);
+  const FilmFit warned = Fit(Reflected(Coat(300.0), kNoise), CoatStack(), {{200.0, 400.0}},
+                             {.offsetFree = true, .indexFree = true, .bandwidthNm = 0.0});
+  EXPECT_FALSE(warned.warnings.isEmpty()) << "scale, offset and index of a thin film";
+}
+
+TEST(FilmFit, MeasuresTheSpread) {
+  for (const double spread : {0.005, 0.01, 0.02}) {
+    const FilmFit fit = Fit(Uneven(spread), CoatStack());
+    EXPECT_EQ(FitOutcomeName(fit.outcome), QStringLiteral("ok")) << spread;
+    EXPECT_NEAR(fit.spread, spread, 0.1 * spread);
+    EXPECT_NEAR(fit.layers[0].thicknessNm, 3000.0, 2.0) << spread;
+  }
+}
+
+TEST(FilmFit, AddsTheUncertaintiesThatItIsTold) {
+  const ReflectanceSpectrum spectrum = Reflected(Coat(4000.0), kNoise);
+  const auto uncertainty = [&](double wavelengthNm, double index) {
+    return Fit(spectrum, CoatStack(), {},
+               {.bandwidthNm = 0.0,
+                .wavelengthUncertaintyNm = wavelengthNm,
+                .indexUncertainty = index})
+        .layers[0]
+        .uncertaintyNm;
+  };
+  EXPECT_LT(uncertainty(0.0, 0.0), 0.1);
+  // 4000 nm times 0.1 in 577, the middle in wave numbers, and the dispersion of the coat.
+  EXPECT_NEAR(uncertainty(0.1, 0.0), 0.72, 0.05);
+  EXPECT_NEAR(uncertainty(0.0, 0.01), 40.0, 0.1);
+  EXPECT_NEAR(uncertainty(0.1, 1e-4), std::hypot(0.72, 0.4), 0.05);
+}
+
+TEST(FilmFit, RefusesWhatHasNoMeaning) {
+  const ReflectanceSpectrum good = Reflected(Coat(1500.0));
+  FilmStack noIndex = CoatStack();
+  noIndex.layers[0].n[600] = 0.0;
+  FilmStack gain = CoatStack();
+  gain.substrate.k[600] = -1.0;
+  ReflectanceSpectrum broken = good;
+  broken[500] = std::numeric_limits<double>::quiet_NaN();
+  const std::vector<ThicknessRange> one(1);
+  struct Case {
+    const char* name;
+    ReflectanceSpectrum spectrum;
+    FilmStack stack;
+    std::vector<ThicknessRange> ranges;
+    FilmFitOptions options;
+    FilmFitFault fault;
+  };
+  const Case cases[] = {
+      {"no layer", good, {Material{}, {}}, {}, {}, FilmFitFault::kLayers},
+      {"ranges missing", good, PrimedStack(), one, {}, FilmFitFault::kLayers},
+      {"index 0", good, noIndex, one, {}, FilmFitFault::kLayers},
+      {"gain", good, gain, one, {}, FilmFitFault::kLayers},
+      {"reversed", good, CoatStack(), {{900, 800}}, {}, FilmFitFault::kThicknessRange},
+      {"negative", good, CoatStack(), {{-1, 800}}, {}, FilmFitFault::kThicknessRange},
+      {"too thick", good, CoatStack(), {{50, 70000}}, {}, FilmFitFault::kThicknessRange},
+      {"no number", good, CoatStack(), {{50, std::nan("")}}, {}, FilmFitFault::kThicknessRange},
+      {"19 points", good, CoatStack(), one, {.toNm = 458}, FilmFitFault::kWavelengths},
+      {"outside", good, CoatStack(), one, {.fromNm = 400}, FilmFitFault::kWavelengths},
+      {"confidence", good, CoatStack(), one, {.confidence = 1.0}, FilmFitFault::kOption},
+      {"bandwidth", good, CoatStack(), one, {.bandwidthNm = -1.0}, FilmFitFault::kOption},
+      {"dark", Flat(0.0), CoatStack(), one, {}, FilmFitFault::kSpectrum},
+      {"not a number", broken, CoatStack(), one, {}, FilmFitFault::kSpectrum},
+  };
+  for (const Case& c : cases) {
+    const auto fit = FitFilm(c.spectrum, c.stack, c.ranges, c.options);
+    ASSERT_TRUE(std::holds_alternative<FilmFitFault>(fit)) << c.name;
+    EXPECT_EQ(std::get<FilmFitFault>(fit), c.fault) << c.name;
+    EXPECT_FALSE(FilmFitFaultText(c.fault).isEmpty());
+  }
+  EXPECT_EQ(FitFilms(std::vector{good, Flat(0.0), good}, CoatStack(), one).size(), 3U);
+}
+
+}  // namespace
+}  // namespace vexa
