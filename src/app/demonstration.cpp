@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "app/demonstration.h"
 
-#include <QCoroSignal>
 #include <QApplication>
+#include <QCoroSignal>
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
@@ -131,7 +131,7 @@ QCoro::Task<int> Demonstration::Drive(VEXA& window) {
     Complain(QStringLiteral("%1: cannot be written").arg(picture));
   }
   const bool saved = window.State().currentDataFileName == dialogs_.dataFile;
-  co_return drawn && saved && messages_.faults == 0 ? 0 : 1;
+  co_return drawn&& saved&& messages_.faults == 0 ? 0 : 1;
 }
 
 std::optional<QString> Demonstration::Names::AskOpen(const QString& /*title*/,

@@ -21,7 +21,7 @@ class InstrumentDesk : public QObject {
  public:
   enum class Activity {
     kIdle,
-    kStarting,   ///< the controller is being initialised, or set up
+    kStarting,  ///< the controller is being initialised, or set up
     kMeasuring,
   };
   /// Makes the controller that the settings name.

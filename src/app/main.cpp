@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include <QApplication>
-#include <QCoroTask>
 #include <QCommandLineParser>
+#include <QCoroTask>
 #include <QDir>
 #include <QLibraryInfo>
 #include <QTimer>
@@ -37,8 +37,8 @@ int RunDemonstration(const QString& directory, bool gpib, const QString& picture
   window.resize(1280, 900);
   window.show();
   int status = 1;
-  const auto drive = [](vexa::Demonstration& run, vexa::VEXA& driven, const QString pictureDirectory,
-                        int& outcome) -> QCoro::Task<> {
+  const auto drive = [](vexa::Demonstration& run, vexa::VEXA& driven,
+                        const QString pictureDirectory, int& outcome) -> QCoro::Task<> {
     co_await driven.Load();
     outcome = co_await run.Drive(driven);
     if (!pictureDirectory.isEmpty() && vexa::Gallery(pictureDirectory).Take(driven) != 0) {

@@ -42,7 +42,10 @@ QString Seconds(qint64 ms) {
 }  // namespace
 
 ProgressStrip::ProgressStrip(QWidget* parent)
-    : QWidget(parent), text_(new QLabel), bar_(new QProgressBar), cancel_(new QPushButton(Text::tr("中止"))) {
+    : QWidget(parent),
+      text_(new QLabel),
+      bar_(new QProgressBar),
+      cancel_(new QPushButton(Text::tr("中止"))) {
   setFixedHeight(kHeight);
   text_->setObjectName(QStringLiteral("ProgressText"));
   bar_->setTextVisible(false);

@@ -43,8 +43,8 @@ int RunReport(const ReportCommand& command, const QString& programDirectory) {
   const VEXATYPE& state = session.State();
   const ReadResult<DataFileContent> content = ReadDataFile(command.dataFile);
   if (content) {
-    (void)session.LoadSlots(SlotsWith(*content, {}),
-                            QFileInfo(command.dataFile).absoluteFilePath(), content->comment);
+    (void)session.LoadSlots(SlotsWith(*content, {}), QFileInfo(command.dataFile).absoluteFilePath(),
+                            content->comment);
   } else {
     messages.Tell(DataFileMessage(content.Fault()));
   }

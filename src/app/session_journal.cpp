@@ -81,8 +81,8 @@ std::optional<JournalContent> SessionJournal::TakeLeft() {
 QCoro::Task<bool> SessionJournal::IsWanted(JournalContent left) {
   VEXATYPE kept;
   const bool damaged = !PutImage(left.image, kept) || left.damaged;
-  const MessageCall question{
-      damaged ? Message::kRestoreDamagedSession : Message::kRestoreSession, {ContentText(kept)}};
+  const MessageCall question{damaged ? Message::kRestoreDamagedSession : Message::kRestoreSession,
+                             {ContentText(kept)}};
   const MessageResult answer = co_await messages_.Ask(question);
   if (answer == MessageResult::kNo) {
     journal_.Remove();

@@ -24,8 +24,8 @@ class WindowCommands : public QObject {
  public:
   /// `selectedSlot` tells the slot that is shown.
   WindowCommands(const MenuCommands& menu, Session& session, InstrumentDesk& desk,
-                 MessageService& messages, FileDialogs& dialogs,
-                 std::function<int()> selectedSlot, QWidget& window);
+                 MessageService& messages, FileDialogs& dialogs, std::function<int()> selectedSlot,
+                 QWidget& window);
 
   /// Takes or gives away what must not happen while something runs.
   void ShowAvailable(bool usable);

@@ -7,9 +7,9 @@
 
 namespace vexa {
 
-/// Where one coroutine sleeps until something happens: `co_await awakening.Sleep();` in it, Wake() from a
-/// notification. It goes on from the event loop, never from within the notification, and may be
-/// woken for nothing: look again and sleep on.
+/// Where one coroutine sleeps until something happens: `co_await awakening.Sleep();` in it, Wake()
+/// from a notification. It goes on from the event loop, never from within the notification, and may
+/// be woken for nothing: look again and sleep on.
 class Awakening {
  public:
   Awakening() = default;
@@ -20,7 +20,8 @@ class Awakening {
 
   void Wake() {
     if (IsAwaited()) {
-      QMetaObject::invokeMethod(&turn_, [this] { WakeAtOnce(); }, Qt::QueuedConnection);
+      QMetaObject::invokeMethod(
+          &turn_, [this] { WakeAtOnce(); }, Qt::QueuedConnection);
     }
   }
 

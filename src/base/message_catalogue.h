@@ -57,7 +57,7 @@ enum class Message : std::uint8_t {
   kClearAll,
   kSaturated,
   kAcquisitionFailed,  ///< with the port's diagnosis as details
-  kEndMeasurement,  ///< asked when the window is closed while something runs
+  kEndMeasurement,     ///< asked when the window is closed while something runs
   kUnexpectedFault,    ///< %1 what the system says
   kNoValidData,
 

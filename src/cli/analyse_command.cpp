@@ -61,19 +61,24 @@ void FillColour(const ColourSettings& settings, SlotReport& report) {
   (void)AverageReflectance(report.slot->reflectance, settings.avgFrom, settings.avgTo, colour.Rm);
 }
 
-std::vector<SlotReport> Evaluate(VEXATYPE& state, MessageService& messages) {
+std::vector<SlotReport> Evaluate(Session& session, MessageService& messages) {
+  const VEXATYPE& state = session.State();
   std::vector<SlotReport> reports;
   for (int number = 1; number <= kSlotCount; ++number) {
-    MeasurementSlot& slot = *state.Slot(number);
+    const MeasurementSlot& slot = *state.Slot(number);
     if (!slot.valid) {
       continue;
     }
     SlotReport& report = reports.emplace_back(SlotReport{number, &slot, false, {}, {}, {}});
     FillColour(state.colour, report);
     if (state.thickness.enabled) {
-      report.thickness = ComputeSlotThickness(state, slot, messages);
-      report.doubts = FindThicknessDoubts(state.thickness.type, slot.reflectance, state.filmIndex,
-                                          slot.thickness);
+      report.thickness = session.ComputeThickness(number);
+      if (report.thickness != kSuccess) {
+        messages.Tell(SlotThicknessMessage(*report.thickness));
+      }
+      report.doubts = FindThicknessDoubts(
+          state.thickness.type, slot.reflectance,
+          slot.filmIndex.IsEmpty() ? state.filmIndex : slot.filmIndex, slot.thickness);
     }
   }
   return reports;
@@ -205,15 +210,18 @@ void PrintThicknesses(const std::vector<SlotReport>& reports, const QString& uni
 
 int Analyse(const QCommandLineParser& parser) {
   ConsoleMessages messages(parser.isSet(option::kNo));
-  VEXATYPE state = LoadSettings(parser, messages);
-  if (const ExitStatus taken = TakeAnalysisOptions(parser, state, messages); taken != kDone) {
+  Settings settings = LoadSettings(parser, messages);
+  if (const ExitStatus taken = TakeAnalysisOptions(parser, settings, messages); taken != kDone) {
     return taken;
   }
+  Session session(settings.programDirectory);
+  session.TakeSettings(settings);
+  const VEXATYPE& state = session.State();
   const QString path = parser.positionalArguments().front();
-  if (!LoadDataFile(path, state, messages)) {
+  if (!LoadDataFile(path, session, messages)) {
     return kFailed;
   }
-  const std::vector<SlotReport> reports = Evaluate(state, messages);
+  const std::vector<SlotReport> reports = Evaluate(session, messages);
   const bool judged = IsJudged(state, parser);
   const auto cie = parser.isSet(kCie) ? std::optional(state.colour) : std::nullopt;
   if (parser.isSet(option::kJson)) {

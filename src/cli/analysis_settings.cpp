@@ -59,17 +59,17 @@ bool TakeAverage(const QCommandLineParser& parser, ColourSettings& colour) {
   return true;
 }
 
-bool TakeWords(const QCommandLineParser& parser, VEXATYPE& state) {
+bool TakeWords(const QCommandLineParser& parser, Settings& settings) {
   return TakeWord(
              parser, kIlluminant, QStringLiteral("A B C D65").split(u' '),
-             [&](qsizetype i) { state.colour.illuminant = static_cast<std::int16_t>(i + 1); }) &&
+             [&](qsizetype i) { settings.colour.illuminant = static_cast<std::int16_t>(i + 1); }) &&
          TakeWord(parser, kObserver, QStringLiteral("2 10").split(u' '),
-                  [&](qsizetype i) { state.colour.observer2Deg = i == 0; }) &&
-         TakeAverage(parser, state.colour) &&
+                  [&](qsizetype i) { settings.colour.observer2Deg = i == 0; }) &&
+         TakeAverage(parser, settings.colour) &&
          TakeWord(parser, kType, QStringLiteral("A B C").split(u' '),
-                  [&](qsizetype i) { state.thickness.type = static_cast<std::int16_t>(i); }) &&
+                  [&](qsizetype i) { settings.thickness.type = static_cast<std::int16_t>(i); }) &&
          TakeWord(parser, kThicknessKind, QStringLiteral("physical optical").split(u' '),
-                  [&](qsizetype i) { state.thickness.kind = static_cast<std::int16_t>(i); });
+                  [&](qsizetype i) { settings.thickness.kind = static_cast<std::int16_t>(i); });
 }
 
 // An index that the settings window would take, too; a file name is no number.
@@ -125,9 +125,9 @@ void DeclareAnalysisOptions(QCommandLineParser& parser) {
   add(kSubstrate, "Data file of the bare substrate.", "FILE");
 }
 
-ExitStatus TakeAnalysisOptions(const QCommandLineParser& parser, VEXATYPE& state,
+ExitStatus TakeAnalysisOptions(const QCommandLineParser& parser, Settings& settings,
                                MessageService& messages) {
-  if (VEXATYPE scratch = state; !TakeWords(parser, scratch) || !IndexIsInRange(parser)) {
+  if (Settings scratch = settings; !TakeWords(parser, scratch) || !IndexIsInRange(parser)) {
     return kUsageError;
   }
   if (parser.isSet(kIndex) && parser.isSet(kSubstrate)) {
@@ -135,24 +135,24 @@ ExitStatus TakeAnalysisOptions(const QCommandLineParser& parser, VEXATYPE& state
     return kUsageError;
   }
   if (parser.isSet(kEnv)) {
-    const Environment environment = ReadEnvironment(parser.value(kEnv), state.programDirectory);
+    const Environment environment = ReadEnvironment(parser.value(kEnv), settings.programDirectory);
     TellAll(environment.notices, messages);
-    if (!ApplyEnvironment(environment, state)) {
+    if (!ApplyEnvironment(environment, settings)) {
       Complain(QStringLiteral("%1: no readable environment file").arg(parser.value(kEnv)));
       return kFailed;
     }
-    TellAll(LoadDispersionData(state).notices, messages);
+    TellAll(LoadDispersionData(settings).notices, messages);
   }
-  (void)TakeWords(parser, state);
-  if (TakeCoat(parser, state.thickness.coat)) {
-    const SpectraBuilt built = LoadCoatData(state);
+  (void)TakeWords(parser, settings);
+  if (TakeCoat(parser, settings.thickness.coat)) {
+    const SpectraBuilt built = LoadCoatData(settings);
     TellAll(built.notices, messages);
     if (!built.all) {
       return kFailed;
     }
   }
   if (parser.isSet(kThickness)) {
-    state.thickness.enabled = true;
+    settings.thickness.enabled = true;
   }
   if (parser.isSet(option::kStandard)) {
     const QString path = parser.value(option::kStandard);
@@ -162,7 +162,7 @@ ExitStatus TakeAnalysisOptions(const QCommandLineParser& parser, VEXATYPE& state
       Complain(QStringLiteral("%1: no readable standard file").arg(path));
       return kFailed;
     }
-    state.standard = contents->standard;
+    settings.standard = contents->standard;
   }
   return kDone;
 }

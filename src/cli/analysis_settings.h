@@ -14,7 +14,7 @@ void DeclareAnalysisOptions(QCommandLineParser& parser);
 
 /// Takes the options over into a state that has its settings; kDone, or the exit status after a
 /// complaint. The options are checked before a file is read.
-[[nodiscard]] ExitStatus TakeAnalysisOptions(const QCommandLineParser& parser, VEXATYPE& state,
+[[nodiscard]] ExitStatus TakeAnalysisOptions(const QCommandLineParser& parser, Settings& settings,
                                              MessageService& messages);
 
 }  // namespace vexa::cli

@@ -33,6 +33,10 @@ void Complain(const QString& text) {
   Write(stderr, QStringLiteral("vexa-cli: %1\n").arg(text));
 }
 
+void Prompt(const QString& text) {
+  Write(stderr, text);
+}
+
 QJsonArray ToJson(std::span<const double> values) {
   QJsonArray array;
   for (const double value : values) {

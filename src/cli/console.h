@@ -30,6 +30,9 @@ void Complain(const QString& text);
 /// That a file cannot be written, and why; nothing when it was written. True when written.
 bool ComplainUnwritten(const WriteResult& result, const QString& path);
 
+/// A question of the command itself on standard error, without a line end.
+void Prompt(const QString& text);
+
 /// Values as a JSON array, those that are not finite as null.
 [[nodiscard]] QJsonArray ToJson(std::span<const double> values);
 

@@ -32,9 +32,9 @@ bool ConvertFile(const QString& in, const QString& out, DataFileLayout layout,
     Complain(QStringLiteral("%1: not read").arg(in));
     return false;
   }
-  VEXATYPE state;
-  StoreDataFile(*content, state, messages);
-  return ComplainUnwritten(WriteDataFile(out, layout, state), out);
+  Session session({});
+  (void)session.LoadSlots(SlotsWith(*content, {}), in, content->comment);
+  return ComplainUnwritten(WriteDataFile(out, layout, session.State()), out);
 }
 
 int Convert(const QCommandLineParser& parser) {

@@ -24,7 +24,7 @@ struct JsonValue {
 int Environment(const QCommandLineParser& parser) {
   const QString path = parser.positionalArguments().front();
   ConsoleMessages messages(parser.isSet(option::kNo));
-  VEXATYPE state;
+  Settings state;
   const ReadResult<EnvironmentContent> content = ReadEnvFile(path);
   const bool read = static_cast<bool>(content);
   const double version = read ? content->version : content.Fault().version;

@@ -256,10 +256,10 @@ int Fit(const QCommandLineParser& parser) {
   }
   const auto& stack = std::get<FilmStack>(read);
   ConsoleMessages messages(parser.isSet(option::kNo));
-  VEXATYPE state;
+  Session session({});
+  const VEXATYPE& state = session.State();
   const QString path = parser.positionalArguments().front();
-  if (!ReadDataFile(path, state, messages)) {
-    Complain(QStringLiteral("%1: not read").arg(path));
+  if (!LoadDataFile(path, session, messages)) {
     return kFailed;
   }
   if (*only != 0 && !state.Slot(*only)->valid) {

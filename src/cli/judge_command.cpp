@@ -64,7 +64,7 @@ int Judge(const QCommandLineParser& parser) {
     return kUsageError;
   }
   ConsoleMessages messages(parser.isSet(option::kNo));
-  VEXATYPE state = LoadSettings(parser, messages);
+  Settings settings = LoadSettings(parser, messages);
   const QString standard = parser.value(option::kStandard);
   const ReadResult<StandardContents> contents = ReadStandardFile(standard);
   if (!contents) {
@@ -72,9 +72,12 @@ int Judge(const QCommandLineParser& parser) {
     Complain(QStringLiteral("%1: not a readable standard file").arg(standard));
     return kFailed;
   }
-  state.standard = contents->standard;
+  settings.standard = contents->standard;
+  Session session(settings.programDirectory);
+  session.TakeSettings(settings);
+  const VEXATYPE& state = session.State();
   const QString path = parser.positionalArguments().constFirst();
-  if (!LoadDataFile(path, state, messages)) {
+  if (!LoadDataFile(path, session, messages)) {
     return kFailed;
   }
   if (parser.isSet(option::kJson)) {

@@ -1,110 +1,22 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include <QFileInfo>
-#include <QTextStream>
+#include <QJsonArray>
+#include <QScopeGuard>
+#include <memory>
 
+#include "base/end_signals.h"
 #include "cli/command_line.h"
 #include "cli/console.h"
+#include "cli/line_input.h"
+#include "cli/measure_plan.h"
 #include "cli/program_settings.h"
-#include "files/data_file.h"
+#include "cli/sample_file.h"
 #include "instrument/frm_com_h8_ctrl.h"
 #include "measurement/controller_start.h"
 #include "measurement/measurement_sequence.h"
 
 namespace vexa::cli {
 namespace {
-
-const QString kPort = QStringLiteral("port");
-const QString kDevice = QStringLiteral("device");
-const QString kSamplingTime = QStringLiteral("sampling-time");
-const QString kAveraging = QStringLiteral("averaging");
-const QString kSamples = QStringLiteral("samples");
-const QString kPrompt = QStringLiteral("prompt");
-const QString kReplyTimeout = QStringLiteral("reply-timeout");
-
-void DeclareOptions(QCommandLineParser& parser) {
-  const auto add = [&parser](const QString& name, const char* text, const char* value) {
-    parser.addOption({name, QLatin1String(text), QLatin1String(value)});
-  };
-  add(kPort, "Serial port number of the controller; 0 is the control box on the GP-IB.", "N");
-  add(kDevice, "Device of the controller, instead of a port number.", "PATH");
-  add(option::kOut, "Data file for the measured slots.", "FILE");
-  add(kSamplingTime, "Integration time of a line, 30 to 20000 ms (default: from the environment).",
-      "MS");
-  add(kAveraging, "Lines averaged for a frame, 1 to 16 (default 1).", "N");
-  add(kSamples, "Samples to measure, 1 to 10 (default 1).", "N");
-  parser.addOption({kPrompt, QStringLiteral("Waits for Enter before each measurement.")});
-  DeclareReferenceReflectance(parser);
-  add(option::kShift, "Calibration shift, 0 to 7 nm (default: from vexa.cal, else 4).", "K");
-  add(kReplyTimeout, "Longest wait for a reply of the controller (default 40000 ms).", "MS");
-}
-
-// The options of a run, checked.
-struct Plan {
-  int port = 0;
-  QString device;
-  QString out;
-  int samples = 1;
-  int replyTimeoutMs = Controller::kReplyTimeoutMs;
-  bool prompt = false;
-};
-
-bool ReadSettings(const QCommandLineParser& parser, VEXATYPE& state) {
-  InstrumentSettings& instrument = state.instrument;
-  const auto timeMs = IntegerOption(parser, kSamplingTime, instrument.samplingTimeMs, 30, 20000);
-  const auto averaging = IntegerOption(parser, kAveraging, instrument.averagingCount, 1, 16);
-  const auto shift = IntegerOption(parser, option::kShift, instrument.calibrationShiftNm, 0, 7);
-  if (!timeMs || !averaging || !shift) {
-    return false;
-  }
-  instrument.samplingTimeMs = static_cast<std::int16_t>(*timeMs);
-  instrument.averagingCount = static_cast<std::int16_t>(*averaging);
-  instrument.calibrationShiftNm = static_cast<std::int16_t>(*shift);
-  return true;
-}
-
-std::optional<Plan> ReadPlan(const QCommandLineParser& parser, const VEXATYPE& state) {
-  const auto port = IntegerOption(parser, kPort, state.instrument.controllerPort, 0, 256);
-  const auto samples = IntegerOption(parser, kSamples, 1, 1, kSlotCount);
-  const auto timeoutMs =
-      IntegerOption(parser, kReplyTimeout, Controller::kReplyTimeoutMs, 1, 3600000);
-  if (!port || !samples || !timeoutMs) {
-    return std::nullopt;
-  }
-  if (!parser.isSet(option::kOut) || parser.value(option::kOut).isEmpty()) {
-    Complain(QStringLiteral("measure needs --out FILE"));
-    return std::nullopt;
-  }
-  if (!parser.isSet(kPort) && !parser.isSet(kDevice)) {
-    Complain(QStringLiteral("measure needs --port N or --device PATH"));
-    return std::nullopt;
-  }
-  if (parser.isSet(kPort) && parser.isSet(kDevice)) {
-    Complain(QStringLiteral("--port and --device exclude each other"));
-    return std::nullopt;
-  }
-  return Plan{*port,      parser.value(kDevice), parser.value(option::kOut), *samples,
-              *timeoutMs, parser.isSet(kPrompt)};
-}
-
-// False when nobody is there to answer.
-bool AskFor(const Plan& plan, const QString& what) {
-  if (!plan.prompt) {
-    return true;
-  }
-  std::fputs(qUtf8Printable(QStringLiteral("Place the %1 and press Enter: ").arg(what)), stderr);
-  if (QTextStream(stdin).readLine().isNull()) {
-    Complain(QStringLiteral("standard input ended"));
-    return false;
-  }
-  return true;
-}
-
-// Said before the instrument is asked for anything.
-bool CanBeWritten(const QString& path) {
-  const QFileInfo file(path);
-  const QFileInfo directory(file.absolutePath());
-  return directory.isDir() && directory.isWritable() && (!file.exists() || file.isFile());
-}
 
 QJsonValue ToJson(const std::optional<Status>& status) {
   return status ? QJsonValue(*status) : QJsonValue();
@@ -120,52 +32,134 @@ struct Report {
   bool complete = false;
 };
 
-void MeasureAll(const Plan& plan, MeasurementSequence& sequence, Report& report) {
-  if (!AskFor(plan, QStringLiteral("reference (background)"))) {
-    return;
-  }
-  report.background = sequence.MeasureBackground();
-  if (report.background != Status{0}) {
-    return;
-  }
-  if (!AskFor(plan, QStringLiteral("reference"))) {
-    return;
-  }
-  report.reference = sequence.MeasureReference();
-  if (report.reference != Status{0}) {
-    return;
-  }
-  for (int slot = 1; slot <= plan.samples; ++slot) {
-    if (!AskFor(plan, QStringLiteral("sample %1").arg(slot))) {
-      return;
-    }
-    const std::optional<Status> status = sequence.MeasureSample(slot);
-    report.samples.append(ToJson(status));
-    if (status != Status{0}) {
-      return;
-    }
-  }
-  report.complete = true;
-}
-
-Status StartController(Controller& controller, const InstrumentSettings& settings,
-                       MessageService& messages) {
-  const Status status = controller.Initialise(settings.controllerPort);
-  if (status != 0) {
-    ReportControllerFailure(controller, messages);
-    return status;
-  }
-  return SendSamplingSettings(controller, settings, messages);
-}
-
-std::unique_ptr<Controller> ConnectTo(const Plan& plan, const VEXATYPE& state,
-                                      MessageService& messages) {
+std::unique_ptr<Controller> ConnectTo(const MeasurePlan& plan, const VEXATYPE& state) {
   if (plan.device.isEmpty()) {
-    return MakeController(state, messages, plan.replyTimeoutMs);
+    return MakeController(state, plan.replyTimeoutMs);
   }
-  return std::make_unique<frmComH8Ctrl>([device = plan.device](int) { return device; },
-                                        plan.replyTimeoutMs);
+  // The port itself takes a relative name for one under /dev.
+  const QString device = QFileInfo(plan.device).absoluteFilePath();
+  return std::make_unique<frmComH8Ctrl>([device](int) { return device; }, plan.replyTimeoutMs);
 }
+
+// One run: it can be interrupted at any moment, and what was measured by then is on the disk.
+class Run {
+ public:
+  Run(const MeasurePlan& plan, Session& session, MessageService& messages)
+      : plan_(plan),
+        session_(session),
+        messages_(messages),
+        controller_(ConnectTo(plan, session.State())),
+        sequence_(session),
+        file_(plan.out) {
+    sequence_.UseController(controller_.get());
+  }
+
+  QCoro::Task<Report> MeasureAll() {
+    if (!file_.CanBeWritten()) {
+      Complain(QStringLiteral("%1: cannot be written").arg(plan_.out));
+      co_return report_;
+    }
+    report_.initialise = co_await StartController();
+    if (report_.initialise == kSuccess) {
+      report_.complete = co_await TakeFrames();
+    }
+    for (int slot = 1; report_.complete && slot <= plan_.samples; ++slot) {
+      report_.complete = co_await TakeSample(slot);
+    }
+    file_.Finish();
+    co_return report_;
+  }
+
+  void Interrupt() {
+    interrupted_ = true;
+    input_.Interrupt();
+    controller_->Cancel();
+  }
+
+ private:
+  QCoro::Task<Status> StartController() {
+    Status status = co_await controller_->Initialise(session_.State().instrument.controllerPort);
+    Message failure = Message::kControllerFailed;
+    if (status == kSuccess) {
+      const Sampling sampling = SamplingOf(session_.State().instrument);
+      status = co_await controller_->SetSampling(sampling);
+      failure = Message::kSamplingFailed;
+    }
+    if (status != kSuccess && status != Controller::kCancelled) {
+      TellControllerFailure(*controller_, failure, messages_);
+    }
+    co_return status;
+  }
+
+  QCoro::Task<bool> TakeFrames() {
+    const QString darkness = QStringLiteral("reference (background)");
+    bool going = co_await Place(darkness);
+    if (going) {
+      const MeasurementOutcome outcome = co_await sequence_.MeasureBackground();
+      report_.background = outcome.status;
+      going = IsDone(outcome);
+    }
+    const QString reference = QStringLiteral("reference");
+    if (going) {
+      going = co_await Place(reference);
+    }
+    if (going) {
+      const MeasurementOutcome outcome = co_await sequence_.MeasureReference();
+      report_.reference = outcome.status;
+      going = IsDone(outcome);
+    }
+    co_return going;
+  }
+
+  QCoro::Task<bool> TakeSample(int slot) {
+    const QString what = QStringLiteral("sample %1").arg(slot);
+    const bool placed = co_await Place(what);
+    if (!placed) {
+      co_return false;
+    }
+    const MeasurementOutcome outcome = co_await sequence_.MeasureSample(slot);
+    report_.samples.append(ToJson(outcome.status));
+    const bool done = IsDone(outcome);
+    co_return done&& Save();
+  }
+
+  bool Save() {
+    const WriteResult written = file_.Save(session_.State());
+    if (ComplainUnwritten(written, plan_.out)) {
+      report_.file = plan_.out;
+      return true;
+    }
+    return false;
+  }
+
+  // Waits until the operator has placed it. False when nobody is there, or the run is to end.
+  QCoro::Task<bool> Place(QString what) {
+    if (!plan_.prompt || interrupted_) {
+      co_return !interrupted_;
+    }
+    Prompt(QStringLiteral("Place the %1 and press Enter: ").arg(what));
+    const bool placed = co_await input_.Next();
+    if (!placed && !interrupted_) {
+      Complain(QStringLiteral("standard input ended"));
+    }
+    co_return placed;
+  }
+
+  bool IsDone(const MeasurementOutcome& outcome) {
+    Tell(outcome, messages_);
+    return outcome.IsDone() && !interrupted_;
+  }
+
+  const MeasurePlan& plan_;
+  Session& session_;
+  MessageService& messages_;
+  std::unique_ptr<Controller> controller_;
+  MeasurementSequence sequence_;
+  LineInput input_;
+  SampleFile file_;
+  Report report_;
+  bool interrupted_ = false;
+};
 
 void PrintReport(const Report& report, bool json) {
   if (json) {
@@ -195,42 +189,21 @@ void PrintReport(const Report& report, bool json) {
 
 int Measure(const QCommandLineParser& parser) {
   ConsoleMessages messages(parser.isSet(option::kNo));
-  VEXATYPE state = LoadSettings(parser, messages);
-  if (!ReadSettings(parser, state)) {
-    return kUsageError;
-  }
-  if (const ExitStatus taken = TakeReferenceReflectance(parser, state); taken != kDone) {
-    return taken;
-  }
-  const std::optional<Plan> plan = ReadPlan(parser, state);
+  Settings settings = LoadSettings(parser, messages);
+  const std::optional<MeasurePlan> plan = ReadMeasurePlan(parser, settings);
   if (!plan) {
     return kUsageError;
   }
-  if (!CanBeWritten(plan->out)) {
-    Complain(QStringLiteral("%1: cannot be written").arg(plan->out));
-    return kFailed;
+  if (const ExitStatus taken = TakeReferenceReflectance(parser, settings); taken != kDone) {
+    return taken;
   }
-  state.instrument.controllerPort = static_cast<std::int16_t>(plan->port);
-
-  const std::unique_ptr<Controller> controller = ConnectTo(*plan, state, messages);
-  MeasurementSequence sequence(state, messages, [] { return QDateTime::currentDateTime(); });
-  sequence.UseController(controller.get());
-
-  Report report;
-  report.initialise = StartController(*controller, state.instrument, messages);
-  if (report.initialise == 0) {
-    MeasureAll(*plan, sequence, report);
-  }
-  bool saved = true;
-  if (state.HasValidSlot()) {
-    saved =
-        ComplainUnwritten(WriteDataFile(plan->out, LayoutByEnding(plan->out), state), plan->out);
-    if (saved) {
-      report.file = plan->out;
-    }
-  }
+  Session session(settings.programDirectory);
+  session.TakeSettings(settings);
+  Run run(*plan, session, messages);
+  const EndSignals endSignals([&run] { run.Interrupt(); });
+  const Report report = QCoro::waitFor(run.MeasureAll());
   PrintReport(report, parser.isSet(option::kJson));
-  return report.complete && saved ? kDone : kFailed;
+  return report.complete ? kDone : kFailed;
 }
 
 }  // namespace
@@ -240,7 +213,7 @@ Command MeasureCommand() {
           QStringLiteral("(--port N | --device PATH) --out FILE [options]"),
           QStringLiteral("Measures background, reference and samples into a data file."),
           0,
-          DeclareOptions,
+          DeclareMeasureOptions,
           Measure};
 }
 

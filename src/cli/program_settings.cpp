@@ -12,28 +12,23 @@
 
 namespace vexa::cli {
 
-VEXATYPE LoadSettings(const QCommandLineParser& parser, MessageService& messages) {
-  VEXATYPE state;
-  state.programDirectory =
+Settings LoadSettings(const QCommandLineParser& parser, MessageService& messages) {
+  Settings settings;
+  settings.programDirectory =
       parser.isSet(option::kDir) ? parser.value(option::kDir) : QDir::currentPath();
-  TellAll(LoadConfiguration(state, UnnamedEnvironment::kRead), messages);
-  TellAll(LoadDispersionData(state).notices, messages);
-  return state;
+  TellAll(LoadConfiguration(settings, UnnamedEnvironment::kRead), messages);
+  TellAll(LoadDispersionData(settings).notices, messages);
+  return settings;
 }
 
-bool LoadDataFile(const QString& path, VEXATYPE& state, MessageService& messages) {
+bool LoadDataFile(const QString& path, Session& session, MessageService& messages) {
   const ReadResult<DataFileContent> content = ReadDataFile(path);
   if (!content) {
     messages.Tell(DataFileMessage(content.Fault()));
     Complain(QStringLiteral("%1: not read").arg(path));
     return false;
   }
-  if (const std::optional<MessageCall> question = StoreQuestion(*content);
-      question && QCoro::waitFor(messages.Ask(*question)) != MessageResult::kOk) {
-    Complain(QStringLiteral("%1: not read").arg(path));
-    return false;
-  }
-  StoreDataFile(*content, state, messages);
+  (void)session.LoadSlots(SlotsWith(*content, {}), path, content->comment);
   return true;
 }
 
@@ -44,7 +39,7 @@ void DeclareReferenceReflectance(QCommandLineParser& parser) {
                     QStringLiteral("V|FILE.ref")});
 }
 
-ExitStatus TakeReferenceReflectance(const QCommandLineParser& parser, VEXATYPE& state) {
+ExitStatus TakeReferenceReflectance(const QCommandLineParser& parser, Settings& settings) {
   if (!parser.isSet(option::kReferenceReflectance)) {
     return kDone;
   }
@@ -55,7 +50,7 @@ ExitStatus TakeReferenceReflectance(const QCommandLineParser& parser, VEXATYPE& 
                    .arg(option::kReferenceReflectance, value));
       return kUsageError;
     }
-    std::ranges::fill(state.referenceReflectance.Values(), *percent);
+    std::ranges::fill(settings.referenceReflectance.Values(), *percent);
     return kDone;
   }
   const auto reflectance = ReadIndexFile(value);
@@ -63,7 +58,7 @@ ExitStatus TakeReferenceReflectance(const QCommandLineParser& parser, VEXATYPE& 
     Complain(QStringLiteral("%1: neither a number nor a readable reference file").arg(value));
     return kFailed;
   }
-  state.referenceReflectance = *reflectance;
+  settings.referenceReflectance = *reflectance;
   return kDone;
 }
 

@@ -5,7 +5,7 @@
 #include <optional>
 
 #include "cli/console.h"
-#include "measurement/vexatype.h"
+#include "measurement/session.h"
 
 namespace vexa::cli {
 
@@ -20,19 +20,19 @@ inline const QString kShift = QStringLiteral("shift");
 inline const QString kStandard = QStringLiteral("standard");
 }  // namespace option
 
-/// The state with the settings of the program directory, as the window has it after its start.
+/// The settings of the program directory, as the window has it after its start.
 /// Messages of the files go to `messages`.
-[[nodiscard]] VEXATYPE LoadSettings(const QCommandLineParser& parser, MessageService& messages);
+[[nodiscard]] Settings LoadSettings(const QCommandLineParser& parser, MessageService& messages);
 
 /// Reads a data file into the slots and evaluates them, as the window does. False, after messages
 /// and a complaint, when it cannot be read or a question is refused.
-[[nodiscard]] bool LoadDataFile(const QString& path, VEXATYPE& state, MessageService& messages);
+[[nodiscard]] bool LoadDataFile(const QString& path, Session& session, MessageService& messages);
 
 void DeclareReferenceReflectance(QCommandLineParser& parser);
 
 /// Takes over the reference reflectance of its option, a number of percent or a *.ref file; kDone,
 /// or the exit status after a complaint.
 [[nodiscard]] ExitStatus TakeReferenceReflectance(const QCommandLineParser& parser,
-                                                  VEXATYPE& state);
+                                                  Settings& settings);
 
 }  // namespace vexa::cli

@@ -31,13 +31,13 @@ void DeclareOptions(QCommandLineParser& parser) {
 
 int Reflectance(const QCommandLineParser& parser) {
   ConsoleMessages messages(parser.isSet(option::kNo));
-  VEXATYPE state = LoadSettings(parser, messages);
+  Settings settings = LoadSettings(parser, messages);
   const std::optional<int> shift =
-      IntegerOption(parser, option::kShift, state.instrument.calibrationShiftNm, 0, 7);
+      IntegerOption(parser, option::kShift, settings.instrument.calibrationShiftNm, 0, 7);
   if (!shift) {
     return kUsageError;
   }
-  if (const ExitStatus taken = TakeReferenceReflectance(parser, state); taken != kDone) {
+  if (const ExitStatus taken = TakeReferenceReflectance(parser, settings); taken != kDone) {
     return taken;
   }
   std::array<FrameOption, 3> frames{{{QStringLiteral("background"), {}},
@@ -65,7 +65,7 @@ int Reflectance(const QCommandLineParser& parser) {
   }
   const ReflectanceSpectrum reflectance =
       ComputeReflectance(frames[2].spectrum, frames[0].spectrum, frames[1].spectrum, *shift,
-                         state.referenceReflectance);
+                         settings.referenceReflectance);
   if (parser.isSet(option::kJson)) {
     PrintJson({{QStringLiteral("status"), status},
                {QStringLiteral("first"), ReflectanceSpectrum::kFirstNm},

@@ -38,8 +38,7 @@ QCoro::Task<BlockingCalls::Outcome> BlockingCalls::Run(std::function<int()> call
   QTimer limit;
   limit.setSingleShot(true);
   limit.callOnTimeout([this] { awakening_.Wake(); });
-  QObject::connect(&watcher, &QFutureWatcher<int>::finished, &limit,
-                   [this] { awakening_.Wake(); });
+  QObject::connect(&watcher, &QFutureWatcher<int>::finished, &limit, [this] { awakening_.Wake(); });
   thread_->start([promise, call = std::move(call)] {
     promise->addResult(call());
     promise->finish();

@@ -41,8 +41,7 @@ Status AnswerStatus(End end) {
 
 // The status of a whole operation for the status of one of its steps.
 Status StepStatus(Status step, Status failure) {
-  const bool itself =
-      step == 0 || step == frmComH8Ctrl::kTimeOut || step == Controller::kCancelled;
+  const bool itself = step == 0 || step == frmComH8Ctrl::kTimeOut || step == Controller::kCancelled;
   return itself ? step : failure;
 }
 
@@ -101,12 +100,13 @@ QCoro::Task<Status> frmComH8Ctrl::H8_DataReq() {
   if (!SendFrame(DataRequestText(count))) {
     co_return Status{-1};
   }
-  const int expectedMs = static_cast<int>(1000 * kBytesPerLine * count / std::size_t{kBytesPerSecond});
+  const int expectedMs =
+      static_cast<int>(1000 * kBytesPerLine * count / std::size_t{kBytesPerSecond});
   const Reply reply = co_await Receive(SerialLink::Kind::kLines, AwaitedStep::kData, expectedMs);
   if (reply.end == End::kCancelled) {
     co_return kCancelled;
   }
-  co_return reply.end == End::kComplete && FillLines(Bytes(reply), lines_) ? kSuccess : Status{-1};
+  co_return reply.end == End::kComplete&& FillLines(Bytes(reply), lines_) ? kSuccess : Status{-1};
 }
 
 QCoro::Task<Status> frmComH8Ctrl::H8_HiScan(bool on) {

@@ -100,7 +100,7 @@ class frmComH8Ctrl : public Controller {
   bool lightOpenAtRest_ = false;
   std::int16_t port_ = 0;
   std::uint8_t secondCount_ = 1;
-  Sampling wanted_;             ///< what frames are to be taken with
+  Sampling wanted_;                 ///< what frames are to be taken with
   Sampling sampling_{.timeMs = 0};  ///< what the controller has confirmed last
   QString initialisationText_;
   bool busy_ = false;

@@ -71,8 +71,8 @@ QCoro::Task<Acquisition> GpibControlBox::Acquire(LightFlag light, AcquisitionSet
   wanted_ = settings.sampling;
   acquisition.status = co_await Operate([this, light] { return MeasureLine(light); });
   if (acquisition.status == 0) {
-    acquisition.status = FillSpectrum({&line_, 1}, settings.linePositions, kDetectorStartNm,
-                                      acquisition.counts);
+    acquisition.status =
+        FillSpectrum({&line_, 1}, settings.linePositions, kDetectorStartNm, acquisition.counts);
   }
   co_return acquisition;
 }
@@ -134,10 +134,8 @@ QCoro::Task<bool> GpibControlBox::Connect() {
     LibraryCall call;
   } calls[] = {
       {"gp_init", kInitCode, [](const GpLibrary& gp) { return gp.gp_init(kInterfaceAddress); }},
-      {"gp_delm", kDelimiterCode,
-       [](const GpLibrary& gp) { return gp.gp_delm("t", kDelimiter); }},
-      {"gp_delm", kDelimiterCode,
-       [](const GpLibrary& gp) { return gp.gp_delm("l", kDelimiter); }},
+      {"gp_delm", kDelimiterCode, [](const GpLibrary& gp) { return gp.gp_delm("t", kDelimiter); }},
+      {"gp_delm", kDelimiterCode, [](const GpLibrary& gp) { return gp.gp_delm("l", kDelimiter); }},
       {"gp_tmout", kTimeOutCode, [](const GpLibrary& gp) { return gp.gp_tmout(kCallSeconds); }},
       {"gp_cli", kInterfaceClearCode, [](const GpLibrary& gp) { return gp.gp_cli(); }},
       {"gp_cli", kInterfaceClearCode, [](const GpLibrary& gp) { return gp.gp_cli(); }},
@@ -196,7 +194,7 @@ QCoro::Task<bool> GpibControlBox::MeasureLine(LightFlag light) {
   if (measured && !rested) {
     (void)co_await RestLight();  // what failed is the setting back itself
   }
-  co_return measured && rested;
+  co_return measured&& rested;
 }
 
 QCoro::Task<bool> GpibControlBox::SetLight(LightFlag light) {

@@ -61,9 +61,9 @@ QCoro::Task<SerialLink::Reply> SerialLink::Receive(Kind kind) {
   deadline_.start(limitMs_);
   while (!HasArrived(kind, reply)) {
     if (cancelled_ || !deadline_.isActive() || !port_.isOpen()) {
-      reply.end = cancelled_             ? Reply::End::kCancelled
-                  : !port_.isOpen()      ? Reply::End::kClosed
-                                         : Reply::End::kTimeOut;
+      reply.end = cancelled_        ? Reply::End::kCancelled
+                  : !port_.isOpen() ? Reply::End::kClosed
+                                    : Reply::End::kTimeOut;
       break;
     }
     co_await awakening_.Sleep();
@@ -103,8 +103,8 @@ bool SerialLink::HasArrived(Kind kind, Reply& reply) {
   if (status_ == (command ? LinkStatus::kRequestEnd : LinkStatus::kDataEnd)) {
     const std::span<const std::uint8_t> body = ring_.Body();
     reply.end = Reply::End::kComplete;
-    reply.body = QByteArray(reinterpret_cast<const char*>(body.data()),
-                            static_cast<qsizetype>(body.size()));
+    reply.body =
+        QByteArray(reinterpret_cast<const char*>(body.data()), static_cast<qsizetype>(body.size()));
     return true;
   }
   if (command && status_ == LinkStatus::kBytesArriving) {

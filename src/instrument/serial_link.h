@@ -24,10 +24,10 @@ class SerialLink : public QObject {
 
   struct Reply {
     enum class End {
-      kComplete,   ///< "REQEND" to a command, "DATEND" to a request for lines
-      kError,      ///< "REQERR" to a command
+      kComplete,  ///< "REQEND" to a command, "DATEND" to a request for lines
+      kError,     ///< "REQERR" to a command
       kTimeOut,
-      kClosed,     ///< the port was lost or closed
+      kClosed,  ///< the port was lost or closed
       kCancelled,
     };
     End end = End::kTimeOut;

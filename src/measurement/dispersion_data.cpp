@@ -28,7 +28,7 @@ void BuildCoat(Settings& settings, SpectraBuilt& built) {
 
 void StoreCoatSpectrum(Settings& settings, const ReflectanceSpectrum& spectrum) {
   (settings.thickness.coat.kind == DispersionKind::kSubstrate ? settings.substrateIndex
-                                                           : settings.filmIndex) = spectrum;
+                                                              : settings.filmIndex) = spectrum;
 }
 
 SpectraBuilt LoadCoatData(Settings& settings) {

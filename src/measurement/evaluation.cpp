@@ -68,17 +68,10 @@ std::optional<MessageCall> HistoryRefusal(HistoryAddResult result) {
   return std::nullopt;
 }
 
-MessageCall ThicknessMessage(Status status) {
-  switch (status) {
-    case kTooFewExtrema:
-      return {Message::kTooFewExtrema};
-    case kTooManyExtrema:
-      return {Message::kTooManyExtrema};
-    case kIndexMissing:
-      return {Message::kIndexFileFault, {Text::tr("ｲﾝﾃﾞｯｸｽ") + u'\r'}};
-    default:
-      return {Message::kThicknessFault};
-  }
+MessageCall SlotThicknessMessage(Status status) {
+  return status == kIndexMissing
+             ? MessageCall{Message::kIndexFileFault, {Text::tr("ｲﾝﾃﾞｯｸｽ") + u'\r'}}
+             : ThicknessMessage(status);
 }
 
 }  // namespace vexa

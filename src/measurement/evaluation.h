@@ -33,6 +33,6 @@ inline constexpr Status kIndexMissing = -5;  ///< the index that the setting nam
 [[nodiscard]] std::optional<MessageCall> HistoryRefusal(HistoryAddResult result);
 
 /// What to tell of a status of ComputeSlotThickness other than success.
-[[nodiscard]] MessageCall ThicknessMessage(Status status);
+[[nodiscard]] MessageCall SlotThicknessMessage(Status status);
 
 }  // namespace vexa

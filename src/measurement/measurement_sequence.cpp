@@ -37,7 +37,7 @@ void AddStorage(const SampleStorage& storage, std::optional<HistoryAddResult>& l
     messages.push_back(*message);
   }
   if (storage.thickness.value_or(kSuccess) != kSuccess) {
-    messages.push_back(ThicknessMessage(*storage.thickness));
+    messages.push_back(SlotThicknessMessage(*storage.thickness));
   }
   if (storage.history && storage.history != lastHistory) {
     if (const std::optional<MessageCall> refusal = HistoryRefusal(*storage.history)) {
@@ -99,8 +99,7 @@ std::optional<MessageCall> MeasurementSequence::Refusal(MeasurementKind kind) co
 
 QCoro::Task<MeasurementOutcome> MeasurementSequence::Measure(MeasurementKind kind, int slot) {
   MeasurementOutcome outcome;
-  const bool hasPlace =
-      kind != MeasurementKind::kSample || session_.State().Slot(slot) != nullptr;
+  const bool hasPlace = kind != MeasurementKind::kSample || session_.State().Slot(slot) != nullptr;
   if (running_ || !hasPlace) {
     co_return outcome;
   }
@@ -125,8 +124,7 @@ QCoro::Task<MeasurementOutcome> MeasurementSequence::Measure(MeasurementKind kin
       AddFailure(acquisition.status, *controller_, outcome.messages);
     }
   } catch (const std::exception& fault) {
-    outcome.messages.push_back(
-        {Message::kUnexpectedFault, {QString::fromLocal8Bit(fault.what())}});
+    outcome.messages.push_back({Message::kUnexpectedFault, {QString::fromLocal8Bit(fault.what())}});
   }
   running_ = false;
   emit Ended(kind, slot);

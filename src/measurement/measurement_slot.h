@@ -28,7 +28,7 @@ struct MeasurementSlot {
   SampleInfo info;
   ColourResult colour;
   Judgement judgement;
-  ThicknessResult thickness;  ///< zero when none was computed
+  ThicknessResult thickness;      ///< zero when none was computed
   ReflectanceSpectrum filmIndex;  ///< that the thickness was computed with, where the substrate's
                                   ///< index gives it; else zero
   Flag valid;                     ///< the slot holds a spectrum, measured or loaded

@@ -73,8 +73,9 @@ void Session::ClearSlots() {
   emit SlotsReplaced();
 }
 
-std::optional<StockAddResult> Session::LoadSlots(
-    const SlotTable& slotsRead, const QString& dataFileName, const QString& comment) {
+std::optional<StockAddResult> Session::LoadSlots(const SlotTable& slotsRead,
+                                                 const QString& dataFileName,
+                                                 const QString& comment) {
   std::optional<StockAddResult> stocked;
   state_.measurementSlots = slotsRead;
   for (MeasurementSlot& slot : state_.measurementSlots) {
@@ -123,9 +124,9 @@ void Session::EditInformation(const std::array<SampleInfo, kSlotCount>& informat
     MeasurementSlot& slot = *state_.Slot(number);
     const SampleInfo& typed = information[static_cast<std::size_t>(number) - 1];
     if (slot.info != typed) {
-      slot.informationTyped = slot.informationTyped ||
-                              slot.info.sampleNumber != typed.sampleNumber ||
-                              slot.info.remark1 != typed.remark1 || slot.info.remark2 != typed.remark2;
+      slot.informationTyped =
+          slot.informationTyped || slot.info.sampleNumber != typed.sampleNumber ||
+          slot.info.remark1 != typed.remark1 || slot.info.remark2 != typed.remark2;
       slot.info = typed;
       state_.slotsSaved = false;
       emit SlotChanged(number);

@@ -1,18 +1,16 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "optics/film_stack_file.h"
 
-#include <QFile>
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
 
-#include "base/replace_file.h"
+#include "base/read_file.h"
 #include "base/translation.h"
 
 namespace vexa {
 namespace {
 
-constexpr qint64 kLargestFile = 1 << 20;
 constexpr int kVersion = 1;
 const QLatin1String kFormat("vexa film stack");
 
@@ -104,15 +102,11 @@ FilmStackSetting SettingOf(const QJsonObject& object) {
 }  // namespace
 
 std::variant<FilmStackSetting, FilmStackFileFault> ReadFilmStackFile(const QString& path) {
-  QFile file(path);
-  if (!file.open(QIODevice::ReadOnly)) {
+  const ReadResult<QByteArray> bytes = ReadRegularFile(path);
+  if (!bytes) {
     return FilmStackFileFault::kUnreadable;
   }
-  const QByteArray bytes = file.read(kLargestFile);
-  if (file.error() != QFile::NoError) {
-    return FilmStackFileFault::kUnreadable;
-  }
-  const QJsonObject object = QJsonDocument::fromJson(bytes).object();
+  const QJsonObject object = QJsonDocument::fromJson(*bytes).object();
   if (object[QLatin1String("format")].toString() != kFormat) {
     return FilmStackFileFault::kNoStack;
   }
@@ -126,7 +120,7 @@ std::variant<FilmStackSetting, FilmStackFileFault> ReadFilmStackFile(const QStri
   }
 }
 
-bool WriteFilmStackFile(const QString& path, const FilmStackSetting& setting) {
+WriteResult WriteFilmStackFile(const QString& path, const FilmStackSetting& setting) {
   QJsonArray layers;
   for (const FilmLayerSetting& layer : setting.layers) {
     layers.append(QJsonObject{{QStringLiteral("material"), layer.material},

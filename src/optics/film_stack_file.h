@@ -5,6 +5,7 @@
 #include <variant>
 #include <vector>
 
+#include "base/replace_file.h"
 #include "optics/film_fit.h"
 
 namespace vexa {
@@ -38,7 +39,7 @@ enum class FilmStackFileFault {
     const QString& path);
 
 /// Writes the file in the place of the old one; false, and the old one as it was, when that fails.
-[[nodiscard]] bool WriteFilmStackFile(const QString& path, const FilmStackSetting& setting);
+WriteResult WriteFilmStackFile(const QString& path, const FilmStackSetting& setting);
 
 /// The materials of a setting; a relative file name counts from `directory`.
 struct FilmMaterialFault {

@@ -8,7 +8,6 @@
 #include <optional>
 #include <vector>
 
-#include "base/message.h"
 #include "base/number_text.h"
 #include "base/text_file.h"
 #include "base/translation.h"
@@ -19,15 +18,6 @@ namespace vexa {
 namespace {
 
 using Result = std::variant<Material, MaterialFault>;
-
-/// The formulas have nothing to say; an unknown kind does not occur here.
-class NoMessages : public MessageService {
- public:
-  MessageResult MsgCall(const QString&, std::int16_t, const QString&) override {
-    return MessageResult::kOk;
-  }
-  void Beep() override {}
-};
 
 bool IsIndex(const Material& material) {
   return std::ranges::all_of(material.n.Values(),
@@ -54,11 +44,12 @@ std::optional<std::vector<double>> Numbers(const QString& text) {
 }
 
 Result FromSetting(const DispersionSetting& setting) {
-  NoMessages messages;
-  Material material;
-  if (GetBunsanArray(false, setting, material.n, messages) != 0) {
+  const Dispersion dispersion = GetBunsanArray(false, setting);
+  if (dispersion.status != kSuccess) {
     return MaterialFault::kIndex;
   }
+  Material material;
+  material.n = dispersion.spectrum;
   return Checked(material);
 }
 
@@ -102,7 +93,7 @@ std::vector<TableRow> ReadRows(const QString& path) {
     }
     const auto numbers = Numbers(parts.join(u','));
     if (!numbers || numbers->size() != 3 || (!rows.empty() && (*numbers)[0] <= rows.back().nm)) {
-      throw ReadFault("not an ascending row of three numbers");
+      throw reader.Fault(FileFaultKind::kValue);
     }
     rows.push_back({(*numbers)[0], (*numbers)[1], (*numbers)[2]});
   }
@@ -147,9 +138,11 @@ Result ReadMaterial(const QString& text, const QString& directory) {
   const QString path = QDir(directory).filePath(trimmed);
   if (trimmed.endsWith(QLatin1String(".ind"), Qt::CaseInsensitive)) {
     Material material;
-    if (!ReadIndexFile(path, material.n)) {
+    const auto index = ReadIndexFile(path);
+    if (!index) {
       return MaterialFault::kFile;
     }
+    material.n = *index;
     return Checked(material);
   }
   if (trimmed.endsWith(QLatin1String(".nk"), Qt::CaseInsensitive)) {

@@ -31,7 +31,7 @@ bool OpenEnvironment(Session& session, MessageService& messages, FileDialogs& di
   const std::optional<QString> path = dialogs.AskOpen(
       QStringLiteral("環境ﾌｧｲﾙを開く"),
       QStringLiteral("環境ﾃﾞｰﾀ･ﾌｧｲﾙ(*.env)|*.env|") + QStringLiteral("全てのﾌｧｲﾙ(*.*)|*.*|"));
-  if (!path || !MayKeepName(NameForStartup(state, *path), messages)) {
+  if (!path || !MayKeepName(NameForStartup(session.State(), *path), messages)) {
     return false;
   }
   Settings settings = session.State();
@@ -68,7 +68,7 @@ QCoro::Task<> SaveEnvironmentAs(Session& session, MessageService& messages, File
     co_return;
   }
   const QString path = WithExtension(choice->path, QStringLiteral(".env"));
-  if (!MayKeepName(NameForStartup(state, path), messages)) {
+  if (!MayKeepName(NameForStartup(session.State(), path), messages)) {
     co_return;
   }
   const bool may = co_await MayReplace(path, messages);

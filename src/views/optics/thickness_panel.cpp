@@ -95,7 +95,7 @@ void ThicknessPanel::ComputeThickness() {
   }
   // A failure is shown as no thickness, too.
   if (const Status status = session_.ComputeThickness(slot_); status != kSuccess) {
-    messages_.Tell(ThicknessMessage(status));
+    messages_.Tell(SlotThicknessMessage(status));
   }
 }
 

@@ -1,0 +1,87 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "cli/measure_plan.h"
+
+#include "cli/command_line.h"
+#include "cli/console.h"
+#include "cli/program_settings.h"
+
+namespace vexa::cli {
+namespace {
+
+const QString kPort = QStringLiteral("port");
+const QString kDevice = QStringLiteral("device");
+const QString kSamplingTime = QStringLiteral("sampling-time");
+const QString kAveraging = QStringLiteral("averaging");
+const QString kSamples = QStringLiteral("samples");
+const QString kPrompt = QStringLiteral("prompt");
+const QString kReplyTimeout = QStringLiteral("reply-timeout");
+
+bool ReadSettings(const QCommandLineParser& parser, Settings& settings) {
+  InstrumentSettings& instrument = settings.instrument;
+  const auto timeMs = IntegerOption(parser, kSamplingTime, instrument.samplingTimeMs, 30, 20000);
+  const auto averaging = IntegerOption(parser, kAveraging, instrument.averagingCount, 1, 16);
+  const auto shift = IntegerOption(parser, option::kShift, instrument.calibrationShiftNm, 0, 7);
+  if (!timeMs || !averaging || !shift) {
+    return false;
+  }
+  instrument.samplingTimeMs = static_cast<std::int16_t>(*timeMs);
+  instrument.averagingCount = static_cast<std::int16_t>(*averaging);
+  instrument.calibrationShiftNm = static_cast<std::int16_t>(*shift);
+  return true;
+}
+
+std::optional<MeasurePlan> Read(const QCommandLineParser& parser, const Settings& settings) {
+  const auto port = IntegerOption(parser, kPort, settings.instrument.controllerPort, 0, 256);
+  const auto samples = IntegerOption(parser, kSamples, 1, 1, kSlotCount);
+  const auto timeoutMs =
+      IntegerOption(parser, kReplyTimeout, Controller::kReplyTimeoutMs, 1, 3600000);
+  if (!port || !samples || !timeoutMs) {
+    return std::nullopt;
+  }
+  if (!parser.isSet(option::kOut) || parser.value(option::kOut).isEmpty()) {
+    Complain(QStringLiteral("measure needs --out FILE"));
+    return std::nullopt;
+  }
+  if (!parser.isSet(kPort) && !parser.isSet(kDevice)) {
+    Complain(QStringLiteral("measure needs --port N or --device PATH"));
+    return std::nullopt;
+  }
+  if (parser.isSet(kPort) && parser.isSet(kDevice)) {
+    Complain(QStringLiteral("--port and --device exclude each other"));
+    return std::nullopt;
+  }
+  return MeasurePlan{*port,      parser.value(kDevice), parser.value(option::kOut), *samples,
+                     *timeoutMs, parser.isSet(kPrompt)};
+}
+
+}  // namespace
+
+void DeclareMeasureOptions(QCommandLineParser& parser) {
+  const auto add = [&parser](const QString& name, const char* text, const char* value) {
+    parser.addOption({name, QLatin1String(text), QLatin1String(value)});
+  };
+  add(kPort, "Serial port number of the controller; 0 is the control box on the GP-IB.", "N");
+  add(kDevice, "Device of the controller, instead of a port number.", "PATH");
+  add(option::kOut, "Data file for the measured slots.", "FILE");
+  add(kSamplingTime, "Integration time of a line, 30 to 20000 ms (default: from the environment).",
+      "MS");
+  add(kAveraging, "Lines averaged for a frame, 1 to 16 (default 1).", "N");
+  add(kSamples, "Samples to measure, 1 to 10 (default 1).", "N");
+  parser.addOption({kPrompt, QStringLiteral("Waits for Enter before each measurement.")});
+  DeclareReferenceReflectance(parser);
+  add(option::kShift, "Calibration shift, 0 to 7 nm (default: from vexa.cal, else 4).", "K");
+  add(kReplyTimeout, "Longest wait for a reply of the controller (default 40000 ms).", "MS");
+}
+
+std::optional<MeasurePlan> ReadMeasurePlan(const QCommandLineParser& parser, Settings& settings) {
+  if (!ReadSettings(parser, settings)) {
+    return std::nullopt;
+  }
+  const std::optional<MeasurePlan> plan = Read(parser, settings);
+  if (plan) {
+    settings.instrument.controllerPort = static_cast<std::int16_t>(plan->port);
+  }
+  return plan;
+}
+
+}  // namespace vexa::cli
