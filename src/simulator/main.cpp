@@ -32,7 +32,7 @@ void PrintLine(const QString& line) {
 
 int main(int argc, char** argv) {
   const QCoreApplication application(argc, argv);
-  const EndSignals endSignals([] { QCoreApplication::quit(); });
+  const vexa::EndSignals endSignals([] { QCoreApplication::quit(); });
   const auto read = ReadOptions(QCoreApplication::arguments());
   if (const auto* end = std::get_if<EarlyEnd>(&read)) {
     std::fputs(qUtf8Printable(end->text), end->exitStatus == 0 ? stdout : stderr);
