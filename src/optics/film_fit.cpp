@@ -13,6 +13,7 @@
 #include <thread>
 
 #include "base/translation.h"
+#include "optics/film_score.h"
 #include "optics/film_seeds.h"
 #include "optics/film_solver.h"
 
@@ -151,7 +152,7 @@ class Fitter {
     const double enough = points * from.rms * from.rms * (1.0 - kBetterBy / 2.0 / points);
     double best = enough;
     double spread = 0.0;
-    for (const double radians : {0.3, 0.7, 1.5, 3.0}) {
+    for (const double radians : {0.3, 0.7, 1.5, 2.5}) {
       FilmState state = from.point.state;
       state.spread = std::min(radians / phase, 0.1);
       const LinearMatch match = solver_.Match(state);
@@ -223,16 +224,15 @@ class Fitter {
   // make no fringes.
   double RmsWithoutFilm() {
     const FilmState bare{.thicknessesNm = std::vector<double>(ranges_.size(), 0.0)};
-    const FilmState washedOut{.thicknessesNm = std::vector<double>(ranges_.size(), 5000.0),
-                              .spread = 0.2};
-    return std::min(RmsWithoutFringes(bare), RmsWithoutFringes(washedOut));
+    return std::min(RmsWithoutFringes(solver_.Reflect(bare)),
+                    RmsWithoutFringes(IncoherentReflectance(stack_, options_)));
   }
 
-  double RmsWithoutFringes(const FilmState& state) {
+  [[nodiscard]] double RmsWithoutFringes(std::span<const double> values) const {
     if (!options_.scaleFree) {
-      return std::sqrt(solver_.Match(state).sumOfSquares / static_cast<double>(measured_.size()));
+      const LinearMatch match = MatchLinear(values, measured_, false, options_.offsetFree);
+      return std::sqrt(match.sumOfSquares / static_cast<double>(measured_.size()));
     }
-    const std::span<const double> values = solver_.Reflect(state);
     // With any scale, and one that changes evenly over the range.
     std::vector<double> ratio;
     for (std::size_t i = 0; i < values.size(); ++i) {

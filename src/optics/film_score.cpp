@@ -35,18 +35,32 @@ LinearMatch MatchLinear(std::span<const double> model, std::span<const double> m
   return match;
 }
 
+std::vector<double> IncoherentReflectance(const FilmStack& stack, const FilmFitOptions& options) {
+  constexpr int kStepNm = 8;
+  const FilmModel model(stack, options.fromNm, options.toNm, kStepNm, 0.0);
+  std::vector<double> coarse(model.Points());
+  model.Reflect({.thicknessesNm = std::vector<double>(stack.layers.size(), 5000.0), .spread = 0.2},
+                coarse);
+  std::vector<double> percent;
+  for (int nm = options.fromNm; nm <= options.toNm; ++nm) {
+    const std::size_t low =
+        std::min(static_cast<std::size_t>((nm - options.fromNm) / kStepNm), coarse.size() - 2);
+    const double part = static_cast<double>(nm - model.Nm(low)) / kStepNm;
+    percent.push_back(std::lerp(coarse[low], coarse[low + 1], part));
+  }
+  return percent;
+}
+
 FilmScore::FilmScore(const ReflectanceSpectrum& spectrum, const FilmStack& stack,
                      const FilmFitOptions& options, int stepNm)
     : options_(options),
       model_(stack, options.fromNm, options.toNm, stepNm, 0.0),
-      values_(model_.Points()),
-      incoherent_(model_.Points()) {
+      values_(model_.Points()) {
+  const std::vector<double> incoherent = IncoherentReflectance(stack, options);
   for (std::size_t i = 0; i < model_.Points(); ++i) {
     measured_.push_back(spectrum[model_.Nm(i)]);
+    incoherent_.push_back(incoherent[static_cast<std::size_t>(model_.Nm(i) - options.fromNm)]);
   }
-  // So thick and so uneven that nothing is left of the fringes.
-  model_.Reflect({.thicknessesNm = std::vector<double>(stack.layers.size(), 5000.0), .spread = 0.2},
-                 incoherent_);
 }
 
 double FilmScore::operator()(const std::vector<double>& thicknessesNm) {

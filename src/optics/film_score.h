@@ -23,6 +23,12 @@ struct LinearMatch {
                                       std::span<const double> measured, bool scaleFree,
                                       bool offsetFree);
 
+/// The reflectance of layers so thick and so uneven that no fringes are left, at each nanometre of
+/// the options' range, in percent. It is as smooth as the indices; what lies between 8 nm is
+/// interpolated.
+[[nodiscard]] std::vector<double> IncoherentReflectance(const FilmStack& stack,
+                                                        const FilmFitOptions& options);
+
 /// How well thicknesses explain a spectrum at every `stepNm`-th wavelength, without the slit: what
 /// a search for starting points asks many times. The options must outlive it.
 class FilmScore {
