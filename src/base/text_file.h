@@ -72,6 +72,8 @@ class FileText {
   /// "#TRUE#" or "#FALSE#".
   FileText& Flag(bool value);
 
+  [[nodiscard]] const QString& Text() const { return text_; }
+
   /// Writes the lines, each with CR LF, in the program's code page. The file is replaced whole or,
   /// when anything fails, left as it was; true when written.
   [[nodiscard]] bool WriteTo(const QString& path) const;

@@ -76,8 +76,8 @@ bool ReadStandardFile(const QString& path, StandardSet& standard, ReferenceMarke
   }
 }
 
-bool WriteStandardFile(const QString& path, const StandardSet& standard,
-                       const ReferenceMarker& chromaMarker, const ReferenceMarker& hueMarker) {
+FileText StandardFileText(const StandardSet& standard, const ReferenceMarker& chromaMarker,
+                          const ReferenceMarker& hueMarker) {
   FileText text;
   text.Line(kHeader).Flag(standard.useReflectance);
   for (std::size_t k = 0; k < kConditionCount; ++k) {
@@ -93,7 +93,12 @@ bool WriteStandardFile(const QString& path, const StandardSet& standard,
   WriteLimits(text, standard.hueAngle);
   text.Flag(chromaMarker.shown).Number(chromaMarker.value);
   text.Flag(hueMarker.shown).Number(hueMarker.value);
-  return text.WriteTo(path);
+  return text;
+}
+
+bool WriteStandardFile(const QString& path, const StandardSet& standard,
+                       const ReferenceMarker& chromaMarker, const ReferenceMarker& hueMarker) {
+  return StandardFileText(standard, chromaMarker, hueMarker).WriteTo(path);
 }
 
 }  // namespace vexa

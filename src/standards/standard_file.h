@@ -4,6 +4,7 @@
 #include <QString>
 
 #include "base/message.h"
+#include "base/text_file.h"
 #include "standards/standard_set.h"
 
 namespace vexa {
@@ -14,6 +15,11 @@ namespace vexa {
 [[nodiscard]] bool ReadStandardFile(const QString& path, StandardSet& standard,
                                     ReferenceMarker& chromaMarker, ReferenceMarker& hueMarker,
                                     MessageService& messages);
+
+/// The lines of a standard file with these standards and markers.
+[[nodiscard]] FileText StandardFileText(const StandardSet& standard,
+                                        const ReferenceMarker& chromaMarker,
+                                        const ReferenceMarker& hueMarker);
 
 /// Writes the standard and both markers, 62 lines; true when written. See FileText::WriteTo.
 [[nodiscard]] bool WriteStandardFile(const QString& path, const StandardSet& standard,

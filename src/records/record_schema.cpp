@@ -1,0 +1,105 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "records/record_schema.h"
+
+#include <QStringList>
+#include <array>
+
+namespace vexa {
+namespace {
+
+// What is searched for stands in the document, and so in its hash; the columns only repeat it. They
+// stand before the long ones, so that reading them does not read those.
+const QStringList kVersion1{
+    QStringLiteral(R"(CREATE TABLE record_row (
+  number INTEGER PRIMARY KEY AUTOINCREMENT,
+  id TEXT GENERATED ALWAYS AS (json_extract(document, '$.id')) STORED,
+  kind TEXT GENERATED ALWAYS AS (json_extract(document, '$.kind')) STORED,
+  utc INTEGER GENERATED ALWAYS AS (json_extract(document, '$.utc')) STORED,
+  time TEXT GENERATED ALWAYS AS (json_extract(document, '$.time')) STORED,
+  station TEXT GENERATED ALWAYS AS (coalesce(json_extract(document, '$.station'), '')) STORED,
+  lot TEXT GENERATED ALWAYS AS (json_extract(document, '$.lot')) STORED,
+  recipe TEXT GENERATED ALWAYS AS (json_extract(document, '$.recipe')) STORED,
+  sample TEXT GENERATED ALWAYS AS (json_extract(document, '$.sample')) STORED,
+  operator TEXT GENERATED ALWAYS AS (json_extract(document, '$.operator')) STORED,
+  verdict TEXT GENERATED ALWAYS AS (json_extract(document, '$.verdict')) STORED,
+  subject TEXT GENERATED ALWAYS AS (json_extract(document, '$.subject')) STORED,
+  supersedes TEXT GENERATED ALWAYS AS (json_extract(document, '$.supersedes')) STORED,
+  hash BLOB NOT NULL,
+  document TEXT NOT NULL,
+  numbers BLOB NOT NULL))"),
+    QStringLiteral("CREATE UNIQUE INDEX by_id ON record_row(id)"),
+    QStringLiteral("CREATE INDEX by_time ON record_row(kind, utc, station, number, sample, lot,"
+                   " recipe, operator, verdict, id)"),
+    QStringLiteral("CREATE INDEX by_lot ON record_row(lot, kind, utc, station, number, id)"),
+    QStringLiteral("CREATE INDEX by_recipe ON record_row(recipe, kind, utc, station, number, id)"),
+    QStringLiteral("CREATE INDEX by_supersedes ON record_row(supersedes)"
+                   " WHERE supersedes IS NOT NULL"),
+    QStringLiteral("CREATE INDEX by_subject ON record_row(subject) WHERE subject IS NOT NULL"),
+    QStringLiteral("CREATE TRIGGER no_update BEFORE UPDATE ON record_row BEGIN"
+                   " SELECT RAISE(ABORT, 'a record is never changed'); END"),
+    QStringLiteral("CREATE TRIGGER no_delete BEFORE DELETE ON record_row BEGIN"
+                   " SELECT RAISE(ABORT, 'a record is never deleted'); END"),
+    // A replacing insert deletes without the trigger above.
+    QStringLiteral("CREATE TRIGGER in_order BEFORE INSERT ON record_row"
+                   " WHEN NEW.number IS NOT 1 + coalesce((SELECT seq FROM sqlite_sequence"
+                   " WHERE name = 'record_row'), 0) BEGIN"
+                   " SELECT RAISE(ABORT, 'a record comes behind the last'); END"),
+};
+
+const std::array kVersions{kVersion1};
+
+Answer<int> VersionOf(const SqlSession& session) {
+  const Answer<QVariant> mark = session.Value(QStringLiteral("PRAGMA application_id"));
+  const Answer<QVariant> version = session.Value(QStringLiteral("PRAGMA user_version"));
+  const Answer<QVariant> tables =
+      session.Value(QStringLiteral("SELECT count(*) FROM sqlite_schema"));
+  for (const StoreFault fault : {mark.fault, version.fault, tables.fault}) {
+    if (fault != StoreFault::kNone) {
+      return {0, fault};
+    }
+  }
+  const bool empty = tables.value.toInt() == 0 && mark.value.toInt() == 0;
+  const bool ours = mark.value.toInt() == kStoreApplicationId &&
+                    version.value.toInt() <= static_cast<int>(kVersions.size());
+  return {version.value.toInt(), empty || ours ? StoreFault::kNone : StoreFault::kForeign};
+}
+
+}  // namespace
+
+StoreFault BringUpToDate(const SqlSession& session) {
+  if (const Answer<int> now = VersionOf(session);
+      !now || now.value == static_cast<int>(kVersions.size())) {
+    return now.fault;
+  }
+  Transaction transaction(session, QStringLiteral("BEGIN IMMEDIATE"));
+  if (transaction.Fault() != StoreFault::kNone) {
+    return transaction.Fault();
+  }
+  const Answer<int> version = VersionOf(session);  // another program may have been quicker
+  if (!version) {
+    return version.fault;
+  }
+  QStringList statements;
+  for (auto next = static_cast<std::size_t>(version.value); next < kVersions.size(); ++next) {
+    statements << kVersions[next];
+  }
+  statements << QStringLiteral("PRAGMA application_id = %1").arg(kStoreApplicationId)
+             << QStringLiteral("PRAGMA user_version = %1").arg(kVersions.size());
+  for (const QString& statement : statements) {
+    if (const StoreFault fault = session.Run(statement); fault != StoreFault::kNone) {
+      return fault;
+    }
+  }
+  return transaction.Commit();
+}
+
+StoreFault CheckVersion(const SqlSession& session) {
+  const Answer<int> version = VersionOf(session);
+  if (!version) {
+    return version.fault;
+  }
+  return version.value == static_cast<int>(kVersions.size()) ? StoreFault::kNone
+                                                             : StoreFault::kForeign;
+}
+
+}  // namespace vexa
