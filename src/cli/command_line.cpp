@@ -12,9 +12,9 @@
 namespace vexa::cli {
 namespace {
 
-const std::array kCommands{AnalyseCommand,  ConvertCommand, DecodeCommand,  DispersionCommand,
-                           EnvCommand,      JudgeCommand,   MeasureCommand, ReflectanceCommand,
-                           StandardCommand, StockCommand};
+const std::array kCommands{AnalyseCommand,     ConvertCommand,  DecodeCommand,  DispersionCommand,
+                           EnvCommand,         JudgeCommand,    MeasureCommand, RecordsCommand,
+                           ReflectanceCommand, StandardCommand, StockCommand};
 
 QString Overview() {
   QString text = QStringLiteral("Usage: vexa-cli COMMAND [arguments] [options]\n\nCommands:\n");

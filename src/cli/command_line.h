@@ -29,6 +29,7 @@ struct Command {
 [[nodiscard]] Command EnvCommand();
 [[nodiscard]] Command JudgeCommand();
 [[nodiscard]] Command MeasureCommand();
+[[nodiscard]] Command RecordsCommand();
 [[nodiscard]] Command ReflectanceCommand();
 [[nodiscard]] Command StandardCommand();
 [[nodiscard]] Command StockCommand();

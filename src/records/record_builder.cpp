@@ -31,32 +31,6 @@ FrameRecord FrameOf(FrameKind kind, const RawSpectrum& counts, const FrameCondit
   return {kind, counts, taken, ControllerName(state.instrument), station};
 }
 
-SampleRecord SampleOf(const VEXATYPE& state, const MeasurementSlot& slot,
-                      const RecordContext& context) {
-  SampleRecord sample;
-  sample.measuredAt = slot.info.measuredAt;
-  sample.station = context.station;
-  sample.lot = context.lot;
-  sample.recipe = context.recipe;
-  sample.sampleNumber = slot.info.sampleNumber;
-  sample.remark1 = slot.info.remark1;
-  sample.remark2 = slot.info.remark2;
-  sample.operatorName = context.operatorName;
-  sample.programVersion = QStringLiteral(VEXA_VERSION);
-  sample.reflectance = slot.reflectance;
-  sample.colour = ComputableColour(slot.reflectance, state.colour);
-  sample.cie = context.cie;
-  if (slot.thickness.IsComputed()) {
-    sample.thickness = slot.thickness;
-    sample.doubts = context.doubts;
-  }
-  sample.fit = context.fit;
-  sample.groups = slot.judgement.groups;
-  sample.supersedes = context.supersedes;
-  sample.reason = context.reason;
-  return sample;
-}
-
 }  // namespace
 
 QList<Row> MeasuredSample::Rows() const {
@@ -85,6 +59,32 @@ SettingsRecord SettingsOf(const VEXATYPE& state) {
   return settings;
 }
 
+SampleRecord ResultsOf(const VEXATYPE& state, const MeasurementSlot& slot,
+                       const RecordContext& context) {
+  SampleRecord sample;
+  sample.measuredAt = slot.info.measuredAt;
+  sample.station = context.station;
+  sample.lot = context.lot;
+  sample.recipe = context.recipe;
+  sample.sampleNumber = slot.info.sampleNumber;
+  sample.remark1 = slot.info.remark1;
+  sample.remark2 = slot.info.remark2;
+  sample.operatorName = context.operatorName;
+  sample.programVersion = QStringLiteral(VEXA_VERSION);
+  sample.reflectance = slot.reflectance;
+  sample.colour = ComputableColour(slot.reflectance, state.colour);
+  sample.cie = context.cie;
+  if (slot.thickness.IsComputed()) {
+    sample.thickness = slot.thickness;
+    sample.doubts = context.doubts;
+  }
+  sample.fit = context.fit;
+  sample.groups = slot.judgement.groups;
+  sample.supersedes = context.supersedes;
+  sample.reason = context.reason;
+  return sample;
+}
+
 std::optional<MeasuredSample> MeasuredSampleOf(const VEXATYPE& state, int slotNumber,
                                                const RecordContext& context) {
   const MeasurementSlot* slot = state.Slot(slotNumber);
@@ -94,7 +94,7 @@ std::optional<MeasuredSample> MeasuredSampleOf(const VEXATYPE& state, int slotNu
     return std::nullopt;
   }
   MeasuredSample measured{SettingsOf(state), *background, *reference,
-                          SampleOf(state, *slot, context)};
+                          ResultsOf(state, *slot, context)};
   measured.sample.settingsId = ToRow(measured.settings).id;
   measured.sample.backgroundId = ToRow(measured.background).id;
   measured.sample.referenceId = ToRow(measured.reference).id;
@@ -106,7 +106,7 @@ std::optional<MeasuredSample> MeasuredSampleOf(const VEXATYPE& state, int slotNu
 
 SampleRecord ImportedSampleOf(const VEXATYPE& state, const MeasurementSlot& slot,
                               const QString& path, const RecordContext& context) {
-  SampleRecord sample = SampleOf(state, slot, context);
+  SampleRecord sample = ResultsOf(state, slot, context);
   const QFileInfo file(path);
   sample.source = file.fileName();
   if (!sample.measuredAt.isValid()) {

@@ -44,6 +44,10 @@ struct MeasuredSample {
 /// The settings in force that a result depends on.
 [[nodiscard]] SettingsRecord SettingsOf(const VEXATYPE& state);
 
+/// The record of a slot's results alone, without frames and settings.
+[[nodiscard]] SampleRecord ResultsOf(const VEXATYPE& state, const MeasurementSlot& slot,
+                                     const RecordContext& context);
+
 /// The record of the slot that was measured last: its frame is the sample frame of the state.
 /// Nothing when the number is no slot's, the slot is empty, or background or reference are missing.
 [[nodiscard]] std::optional<MeasuredSample> MeasuredSampleOf(const VEXATYPE& state, int slot,

@@ -31,6 +31,9 @@ class Conditions {
 Conditions ConditionsOf(const RecordQuery& query) {
   Conditions conditions;
   conditions.Add(QStringLiteral("kind = 'sample'"), {});
+  if (query.id) {
+    conditions.Add(QStringLiteral("id = ?"), {*query.id});
+  }
   if (query.lot) {
     conditions.Add(QStringLiteral("lot = ?"), {*query.lot});
   }
@@ -56,7 +59,7 @@ Conditions ConditionsOf(const RecordQuery& query) {
   if (!query.samplePart.isEmpty()) {
     conditions.Add(QStringLiteral("lower(sample) LIKE ? ESCAPE '\\'"), {Pattern(query.samplePart)});
   }
-  if (!query.withSuperseded) {
+  if (!query.withSuperseded && !query.id) {
     conditions.Add(
         QStringLiteral("NOT EXISTS (SELECT 1 FROM record_row s WHERE s.supersedes = k.id)"), {});
   }

@@ -28,6 +28,7 @@ struct RecordSummary {
 
 /// Which samples are wanted; what is not given does not restrict.
 struct RecordQuery {
+  std::optional<QString> id;  ///< also one that is superseded
   std::optional<QString> lot;
   std::optional<QString> recipe;
   std::optional<QString> operatorName;
