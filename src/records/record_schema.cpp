@@ -64,10 +64,16 @@ Answer<int> VersionOf(const SqlSession& session) {
   return {version.value.toInt(), empty || ours ? StoreFault::kNone : StoreFault::kForeign};
 }
 
+// The three numbers of one moment: another program may just be making the store.
+Answer<int> VersionAtOneMoment(const SqlSession& session) {
+  const Transaction moment(session, QStringLiteral("BEGIN"));
+  return moment.Fault() == StoreFault::kNone ? VersionOf(session) : Answer<int>{0, moment.Fault()};
+}
+
 }  // namespace
 
 StoreFault BringUpToDate(const SqlSession& session) {
-  if (const Answer<int> now = VersionOf(session);
+  if (const Answer<int> now = VersionAtOneMoment(session);
       !now || now.value == static_cast<int>(kVersions.size())) {
     return now.fault;
   }
@@ -94,7 +100,7 @@ StoreFault BringUpToDate(const SqlSession& session) {
 }
 
 StoreFault CheckVersion(const SqlSession& session) {
-  const Answer<int> version = VersionOf(session);
+  const Answer<int> version = VersionAtOneMoment(session);
   if (!version) {
     return version.fault;
   }

@@ -1,9 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "records/record_store.h"
 
-#include <fcntl.h>
 #include <sys/stat.h>
-#include <unistd.h>
 
 #include <QDeadlineTimer>
 #include <QFile>
@@ -12,6 +10,7 @@
 #include <algorithm>
 
 #include "records/record_schema.h"
+#include "records/sync_path.h"
 
 namespace vexa {
 namespace {
@@ -24,15 +23,6 @@ StoredRow RowOf(const QSqlQuery& query) {
       query.value(0).toLongLong(),
       {query.value(1).toString(), query.value(2).toString().toUtf8(), query.value(3).toByteArray()},
       query.value(4).toByteArray()};
-}
-
-bool SyncFile(const QString& path) {
-  const int file = ::open(QFile::encodeName(path).constData(), O_RDONLY | O_CLOEXEC);
-  const bool synced = file >= 0 && ::fsync(file) == 0;
-  if (file >= 0) {
-    ::close(file);
-  }
-  return synced;
 }
 
 }  // namespace
@@ -199,9 +189,9 @@ StoreFault RecordStore::Backup(const QString& path) const {
   QFile::remove(part);
   StoreFault fault = session_.Run(QStringLiteral("VACUUM INTO ?"), {part});
   if (fault == StoreFault::kNone &&
-      (!SyncFile(part) ||
+      (!SyncPath(part) ||
        ::rename(QFile::encodeName(part).constData(), QFile::encodeName(path).constData()) != 0 ||
-       !SyncFile(QFileInfo(path).absolutePath()))) {
+       !SyncPath(QFileInfo(path).absolutePath()))) {
     fault = StoreFault::kFull;
   }
   if (fault != StoreFault::kNone) {
