@@ -36,6 +36,7 @@ int ExportFiles(const QCommandLineParser& parser, const QStringList& arguments);
 int ImportFiles(const QCommandLineParser& parser, const QStringList& arguments);
 int SupersedeRecord(const QCommandLineParser& parser, const QStringList& arguments);
 int VerifyStore(const QCommandLineParser& parser, const QStringList& arguments);
+int SyncStore(const QCommandLineParser& parser, const QStringList& arguments);
 int BackUpStore(const QCommandLineParser& parser, const QStringList& arguments);
 
 /// The fault in words.

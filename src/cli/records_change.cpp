@@ -20,7 +20,7 @@ std::optional<QList<Row>> RowsOfFile(const QString& path, const RecordContext& c
     Complain(QStringLiteral("%1: not read").arg(path));
     return std::nullopt;
   }
-  QList<Row> rows{ToRow(SettingsOf(state))};
+  QList<Row> rows{ToRow(SettingsOf(state, context.station))};
   for (const MeasurementSlot& slot : state.measurementSlots) {
     if (slot.valid) {
       SampleRecord sample = ImportedSampleOf(state, slot, path, context);

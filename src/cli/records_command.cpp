@@ -53,6 +53,7 @@ const QList<Action>& Actions() {
        {kBy, kReason, kOperator},
        SupersedeRecord},
       {QStringLiteral("verify"), QString(), 0, 0, {}, VerifyStore},
+      {QStringLiteral("sync"), QStringLiteral("[--to CONNECTION]"), 0, 0, {kTo}, SyncStore},
       {QStringLiteral("backup"), QStringLiteral("FILE"), 1, 1, {}, BackUpStore},
   };
   return kActions;

@@ -66,9 +66,14 @@ bool IsOfKind(const QJsonObject& document, const QString& kind) {
   return document[QStringLiteral("kind")] == kind;
 }
 
+// A text that every database can hold: no NUL, no half of a pair of surrogates.
+QString Storable(const QString& text) {
+  return QString::fromUtf8(text.toUtf8()).replace(QChar(u'\0'), QChar::ReplacementCharacter);
+}
+
 void PutText(QJsonObject& document, const char* name, const QString& text) {
   if (!text.isEmpty()) {
-    document[QLatin1String(name)] = text;
+    document[QLatin1String(name)] = Storable(text);
   }
 }
 
@@ -110,13 +115,15 @@ Row ToRow(const FrameRecord& frame) {
   document[QStringLiteral("kind")] = kFrame;
   document[QStringLiteral("frame")] =
       QLatin1String(kFrameKinds[static_cast<std::size_t>(frame.kind)]);
-  document[QStringLiteral("station")] = frame.station;
+  document[QStringLiteral("station")] = Storable(frame.station);
   return MakeRow(document, ToBytes(frame.counts.Values()));
 }
 
 Row ToRow(const SettingsRecord& settings) {
   return MakeRow(
-      {{QStringLiteral("kind"), kSettings}, {QStringLiteral("values"), settings.values}},
+      {{QStringLiteral("kind"), kSettings},
+       {QStringLiteral("station"), Storable(settings.station)},
+       {QStringLiteral("values"), settings.values}},
       ToBytes(settings.referenceReflectance.Values()) + ToBytes(settings.index.Values()));
 }
 
@@ -184,6 +191,7 @@ std::optional<SettingsRecord> ToSettings(const Row& row) {
       !FromBytes(row.numbers, kReflectanceBytes, settings.index.Values())) {
     return std::nullopt;
   }
+  settings.station = document[QStringLiteral("station")].toString();
   settings.values = document[QStringLiteral("values")].toObject();
   return settings;
 }

@@ -30,6 +30,7 @@ struct FrameRecord {
 
 /// Under which settings samples are computed; one row as long as nothing of it changes.
 struct SettingsRecord {
+  QString station;
   QJsonObject values;                        ///< see SettingsJson
   ReflectanceSpectrum referenceReflectance;  ///< percent
   ReflectanceSpectrum index;  ///< of the film or, where the film's is derived, of the substrate

@@ -51,8 +51,8 @@ std::optional<FrameRecord> ReferenceOf(const VEXATYPE& state, const QString& sta
   return FrameOf(FrameKind::kReference, state.reference, state.referenceTaken, state, station);
 }
 
-SettingsRecord SettingsOf(const VEXATYPE& state) {
-  SettingsRecord settings{SettingsJson(state), state.referenceReflectance, {}};
+SettingsRecord SettingsOf(const VEXATYPE& state, const QString& station) {
+  SettingsRecord settings{station, SettingsJson(state), state.referenceReflectance, {}};
   // The index of the film is then derived from each sample, and no setting.
   settings.index = state.thickness.coat.kind == DispersionKind::kSubstrate ? state.substrateIndex
                                                                            : state.filmIndex;
@@ -93,7 +93,7 @@ std::optional<MeasuredSample> MeasuredSampleOf(const VEXATYPE& state, int slotNu
   if (slot == nullptr || !slot->valid || !background || !reference) {
     return std::nullopt;
   }
-  MeasuredSample measured{SettingsOf(state), *background, *reference,
+  MeasuredSample measured{SettingsOf(state, context.station), *background, *reference,
                           ResultsOf(state, *slot, context)};
   measured.sample.settingsId = ToRow(measured.settings).id;
   measured.sample.backgroundId = ToRow(measured.background).id;

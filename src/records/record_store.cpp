@@ -13,20 +13,6 @@
 #include "records/sync_path.h"
 
 namespace vexa {
-namespace {
-
-const QString kColumns = QStringLiteral("number, id, document, numbers, hash");
-
-// Of a query of kColumns that stands on a row.
-StoredRow RowOf(const QSqlQuery& query) {
-  return {
-      query.value(0).toLongLong(),
-      {query.value(1).toString(), query.value(2).toString().toUtf8(), query.value(3).toByteArray()},
-      query.value(4).toByteArray()};
-}
-
-}  // namespace
-
 StoreFault RecordStore::Open(const QString& path, Mode mode, int waitMs) {
   path_ = path;
   if (mode == Mode::kRead && !QFileInfo::exists(path)) {
@@ -94,24 +80,14 @@ Answer<QList<qint64>> RecordStore::AppendIf(const QList<Row>& rows,
 Answer<StoredRow> RecordStore::Find(const QString& idOrNumber) const {
   bool isNumber = false;
   const qint64 number = idOrNumber.toLongLong(&isNumber);
-  Answer<QSqlQuery> query = session_.Select(
-      QStringLiteral("SELECT %1 FROM record_row WHERE %2 = ?")
-          .arg(kColumns, isNumber ? QStringLiteral("number") : QStringLiteral("id")),
-      {isNumber ? QVariant(number) : QVariant(idOrNumber)});
-  if (!query) {
-    return {{}, query.fault};
-  }
-  if (query.value.next()) {
-    return {RowOf(query.value), StoreFault::kNone};
-  }
-  const StoreFault fault = FaultOf(query.value.lastError());
-  return {{}, fault == StoreFault::kNone ? StoreFault::kMissing : fault};
+  return isNumber ? FindRow(session_, QStringLiteral("number"), number)
+                  : FindRow(session_, QStringLiteral("id"), idOrNumber);
 }
 
 Answer<QList<StoredRow>> RecordStore::RowsAfter(qint64 number, int limit) const {
   Answer<QSqlQuery> query = session_.Select(
       QStringLiteral("SELECT %1 FROM record_row WHERE number > ? ORDER BY number LIMIT ?")
-          .arg(kColumns),
+          .arg(kRowColumns),
       {number, limit});
   Answer<QList<StoredRow>> rows{{}, query.fault};
   while (query && query.value.next()) {
@@ -125,6 +101,16 @@ Answer<QList<StoredRow>> RecordStore::RowsAfter(qint64 number, int limit) const 
 
 Answer<QList<RecordSummary>> RecordStore::Search(const RecordQuery& query) const {
   return SearchRecords(session_, query);
+}
+
+Answer<QStringList> RecordStore::Stations() const {
+  Answer<QSqlQuery> query =
+      session_.Select(QStringLiteral("SELECT DISTINCT station FROM record_row"));
+  Answer<QStringList> stations{{}, query.fault};
+  while (query && query.value.next()) {
+    stations.value << query.value.value(0).toString();
+  }
+  return stations;
 }
 
 Answer<bool> RecordStore::IsSuperseded(const QString& id) const {
@@ -150,7 +136,7 @@ Answer<ChainCheck> RecordStore::Verify() const {
   const Transaction moment(session_, QStringLiteral("BEGIN"));
   const Answer<ChainHead> end = End();
   Answer<QSqlQuery> query =
-      session_.Select(QStringLiteral("SELECT %1 FROM record_row ORDER BY number").arg(kColumns));
+      session_.Select(QStringLiteral("SELECT %1 FROM record_row ORDER BY number").arg(kRowColumns));
   if (!end || !query) {
     return {{}, end ? query.fault : end.fault};
   }

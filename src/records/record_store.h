@@ -7,7 +7,7 @@
 #include <functional>
 #include <optional>
 
-#include "records/record_search.h"
+#include "records/record_source.h"
 #include "records/row.h"
 #include "records/sql_session.h"
 
@@ -33,7 +33,7 @@ struct ChainCheck {
 /// The records of one program directory, a SQLite database. Rows are put behind the last and never
 /// changed; each holds the hash of the one before it and its own content. Several programs may
 /// write at once. Not for several threads; nothing throws.
-class RecordStore {
+class RecordStore : public RecordSource {
  public:
   enum class Mode {
     kRead,   ///< the file must be there
@@ -59,12 +59,15 @@ class RecordStore {
                                                const std::function<bool()>& allowed);
 
   /// The row by its id, or by its number in digits; kMissing when there is none.
-  [[nodiscard]] Answer<StoredRow> Find(const QString& idOrNumber) const;
+  [[nodiscard]] Answer<StoredRow> Find(const QString& idOrNumber) const override;
 
   /// At most `limit` rows behind the one of that number.
   [[nodiscard]] Answer<QList<StoredRow>> RowsAfter(qint64 number, int limit) const;
 
-  [[nodiscard]] Answer<QList<RecordSummary>> Search(const RecordQuery& query) const;
+  [[nodiscard]] Answer<QList<RecordSummary>> Search(const RecordQuery& query) const override;
+
+  /// The stations whose rows it holds: one, unless the station got another name.
+  [[nodiscard]] Answer<QStringList> Stations() const;
 
   /// Whether another sample has taken the place of this one.
   [[nodiscard]] Answer<bool> IsSuperseded(const QString& id) const;

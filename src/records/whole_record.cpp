@@ -11,7 +11,7 @@ namespace {
 
 // The record of a row that the sample names; nothing when it names none or there is none.
 template <typename Record>
-std::optional<Record> Named(const RecordStore& store, const QString& id,
+std::optional<Record> Named(const RecordSource& store, const QString& id,
                             std::optional<Record> (*convert)(const Row&), StoreFault& fault) {
   if (id.isEmpty()) {
     return std::nullopt;
@@ -71,7 +71,7 @@ QJsonValue OptionalText(const QString& text) {
 
 }  // namespace
 
-Answer<WholeRecord> LoadRecord(const RecordStore& store, const QString& idOrNumber) {
+Answer<WholeRecord> LoadRecord(const RecordSource& store, const QString& idOrNumber) {
   const Answer<StoredRow> row = store.Find(idOrNumber);
   if (!row) {
     return {{}, row.fault};

@@ -6,7 +6,7 @@
 
 #include "base/message.h"
 #include "measurement/vexatype.h"
-#include "records/record_store.h"
+#include "records/record_source.h"
 
 namespace vexa {
 
@@ -20,8 +20,8 @@ struct WholeRecord {
   std::optional<SettingsRecord> settings;
 };
 
-/// The sample of this id or number; kMissing when there is none.
-[[nodiscard]] Answer<WholeRecord> LoadRecord(const RecordStore& store, const QString& idOrNumber);
+/// The sample of this id (in a store also of this number); kMissing when there is none.
+[[nodiscard]] Answer<WholeRecord> LoadRecord(const RecordSource& store, const QString& id);
 
 /// Everything of a record; docs/records.md describes it.
 [[nodiscard]] QJsonObject RecordJson(const WholeRecord& record);

@@ -9,6 +9,7 @@
 #include "records/record_store.h"
 #include "records/samples.h"
 #include "standards/standard_file.h"
+#include "support/private_postgres.h"
 
 namespace vexa {
 namespace {
@@ -161,10 +162,32 @@ TEST_F(Records, VerifyTellsAChangedRow) {
   EXPECT_TRUE(damaged.err.contains("row 3 ")) << damaged.err.constData();
 }
 
+TEST_F(Records, SyncSendsWhatTheSharedStoreLacks) {
+  test::PrivatePostgres server;
+  if (!server.IsInstalled()) {
+    GTEST_SKIP() << "PostgreSQL is not installed; scripts/setup --dev installs it";
+  }
+  server.Create();
+  const int rows = static_cast<int>(store.Head().value.number);
+  const Outcome sent = Do("sync --json --to " + server.Uri().toUtf8());
+  EXPECT_EQ(sent.Json(),
+            (QJsonObject{{QStringLiteral("sent"), rows}, {QStringLiteral("waiting"), 0}}))
+      << sent.err.constData();
+  files.Write("records.json", "{\"shared\": \"" + server.Uri().toUtf8() + "\"}");
+  EXPECT_EQ(Do("sync --json")["sent"], 0);
+  server.Stop();
+  const Outcome away = Do("sync --json");
+  EXPECT_EQ(away.status, 1);
+  EXPECT_TRUE(away.err.contains("the server cannot be reached")) << away.err.constData();
+  files.Write("records.json", "{\"shared\": 1}");
+  EXPECT_EQ(Do("sync").status, 1) << "not readable as such";
+}
+
 TEST_F(Records, WrongUsageEndsWithStatusTwo) {
   for (const char* arguments :
        {"forget 1", "show", "show 1 2", "list --limit 0", "list --from yesterday",
-        "list --verdict maybe", "list --reason x", "export 1", "supersede 1 --by 2"}) {
+        "list --verdict maybe", "list --reason x", "sync", "sync --to postgresql://a:b@c/d",
+        "export 1", "supersede 1 --by 2"}) {
     const Outcome outcome = Do(arguments);
     EXPECT_EQ(outcome.status, 2) << arguments;
     EXPECT_EQ(outcome.out, "") << arguments;
