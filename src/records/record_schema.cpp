@@ -7,26 +7,14 @@
 namespace vexa {
 namespace {
 
-// What is searched for stands in the document, and so in its hash; the columns only repeat it. They
-// stand before the long ones, so that reading them does not read those.
+// What is searched for stands in the document, and so in its hash; the columns repeat it (they are
+// no generated ones, as those never make a covering index). They stand before the long ones, so
+// that reading them does not read those.
 const QStringList kVersion1{
-    QStringLiteral(R"(CREATE TABLE record_row (
-  number INTEGER PRIMARY KEY AUTOINCREMENT,
-  id TEXT GENERATED ALWAYS AS (json_extract(document, '$.id')) STORED,
-  kind TEXT GENERATED ALWAYS AS (json_extract(document, '$.kind')) STORED,
-  utc INTEGER GENERATED ALWAYS AS (json_extract(document, '$.utc')) STORED,
-  time TEXT GENERATED ALWAYS AS (json_extract(document, '$.time')) STORED,
-  station TEXT GENERATED ALWAYS AS (coalesce(json_extract(document, '$.station'), '')) STORED,
-  lot TEXT GENERATED ALWAYS AS (json_extract(document, '$.lot')) STORED,
-  recipe TEXT GENERATED ALWAYS AS (json_extract(document, '$.recipe')) STORED,
-  sample TEXT GENERATED ALWAYS AS (json_extract(document, '$.sample')) STORED,
-  operator TEXT GENERATED ALWAYS AS (json_extract(document, '$.operator')) STORED,
-  verdict TEXT GENERATED ALWAYS AS (json_extract(document, '$.verdict')) STORED,
-  subject TEXT GENERATED ALWAYS AS (json_extract(document, '$.subject')) STORED,
-  supersedes TEXT GENERATED ALWAYS AS (json_extract(document, '$.supersedes')) STORED,
-  hash BLOB NOT NULL,
-  document TEXT NOT NULL,
-  numbers BLOB NOT NULL))"),
+    QStringLiteral("CREATE TABLE record_row (number INTEGER PRIMARY KEY AUTOINCREMENT, id TEXT,"
+                   " kind TEXT, utc INTEGER, time TEXT, station TEXT, lot TEXT, recipe TEXT,"
+                   " sample TEXT, operator TEXT, verdict TEXT, subject TEXT, supersedes TEXT,"
+                   " hash BLOB NOT NULL, document TEXT NOT NULL, numbers BLOB NOT NULL)"),
     QStringLiteral("CREATE UNIQUE INDEX by_id ON record_row(id)"),
     QStringLiteral("CREATE INDEX by_time ON record_row(kind, utc, station, number, sample, lot,"
                    " recipe, operator, verdict, id)"),
@@ -47,6 +35,15 @@ const QStringList kVersion1{
 };
 
 const std::array kVersions{kVersion1};
+
+// The columns that repeat the document, and each as the document has it.
+constexpr std::array kRepeated{"id",     "kind",   "utc",      "time",    "station", "lot",
+                               "recipe", "sample", "operator", "verdict", "subject", "supersedes"};
+
+QString InDocument(const char* column) {
+  const QString value = QStringLiteral("json_extract(document, '$.%1')").arg(QLatin1String(column));
+  return QLatin1String(column) == QLatin1String("station") ? QStringLiteral("coalesce(%1, '')").arg(value) : value;
+}
 
 Answer<int> VersionOf(const SqlSession& session) {
   const Answer<QVariant> mark = session.Value(QStringLiteral("PRAGMA application_id"));
@@ -71,6 +68,29 @@ Answer<int> VersionAtOneMoment(const SqlSession& session) {
 }
 
 }  // namespace
+
+QString InsertStatement() {
+  QStringList columns;
+  QStringList values;
+  for (const char* column : kRepeated) {
+    columns << QLatin1String(column);
+    values << InDocument(column);
+  }
+  return QStringLiteral(
+             "INSERT INTO record_row (number, document, numbers, hash, %1)"
+             " SELECT number, document, numbers, hash, %2"
+             " FROM (SELECT ? AS number, ? AS document, ? AS numbers, ? AS hash)")
+      .arg(columns.join(QStringLiteral(", ")), values.join(QStringLiteral(", ")));
+}
+
+QString RepeatsDocument() {
+  QStringList equal;
+  for (const char* column : kRepeated) {
+    equal << QLatin1String(column) + QStringLiteral(" IS ") + InDocument(column);
+  }
+  return QStringLiteral("CASE WHEN json_valid(document) THEN %1 ELSE 0 END")
+      .arg(equal.join(QStringLiteral(" AND ")));
+}
 
 StoreFault BringUpToDate(const SqlSession& session) {
   if (const Answer<int> now = VersionAtOneMoment(session);

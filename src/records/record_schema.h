@@ -15,4 +15,10 @@ inline constexpr int kStoreApplicationId = 0x56585243;
 /// kNone when the store has the tables of this program.
 [[nodiscard]] StoreFault CheckVersion(const SqlSession& session);
 
+/// Puts one row in; binds number, document, numbers and hash.
+[[nodiscard]] QString InsertStatement();
+
+/// An expression of a row: whether its columns are what its document says.
+[[nodiscard]] QString RepeatsDocument();
+
 }  // namespace vexa

@@ -64,8 +64,7 @@ Answer<QList<qint64>> RecordStore::AppendIf(const QList<Row>& rows,
     const qint64 number = end.value.number + 1;
     const QByteArray hash = ChainHash(end.value.hash, number, row);
     const StoreFault fault = session_.Run(
-        QStringLiteral("INSERT INTO record_row (number, document, numbers, hash)"
-                       " VALUES (?, ?, ?, ?)"),
+        InsertStatement(),
         {number, QString::fromUtf8(row.document), row.numbers.isNull() ? "" : row.numbers, hash});
     if (fault != StoreFault::kNone) {
       return {{}, fault};
@@ -136,7 +135,8 @@ Answer<ChainCheck> RecordStore::Verify() const {
   const Transaction moment(session_, QStringLiteral("BEGIN"));
   const Answer<ChainHead> end = End();
   Answer<QSqlQuery> query =
-      session_.Select(QStringLiteral("SELECT %1 FROM record_row ORDER BY number").arg(kRowColumns));
+      session_.Select(QStringLiteral("SELECT %1, %2 FROM record_row ORDER BY number")
+                          .arg(kRowColumns, RepeatsDocument()));
   if (!end || !query) {
     return {{}, end ? query.fault : end.fault};
   }
@@ -153,7 +153,8 @@ Answer<ChainCheck> RecordStore::Verify() const {
     ++check.rows;
     if (row.number != check.head.number + 1) {
       damaged(check.head.number + 1, ChainCheck::Damage::kMissing);
-    } else if (row.hash != ChainHash(check.head.hash, row.number, row.row)) {
+    } else if (row.hash != ChainHash(check.head.hash, row.number, row.row) ||
+               !query.value.value(5).toBool()) {
       damaged(row.number, ChainCheck::Damage::kChanged);
     }
     check.head = {row.number, row.hash};
