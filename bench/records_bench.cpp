@@ -1,8 +1,12 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // Prints the figures of the record store. Usage: records_bench [ROWS [URI]]
 //   ROWS: samples of the largest store (default 100000); URI: also the rows a second to that server
+#include <unistd.h>
+
 #include <QCoreApplication>
+#include <QDir>
 #include <QElapsedTimer>
+#include <QFile>
 #include <QFileInfo>
 #include <QTemporaryDir>
 #include <algorithm>
@@ -18,6 +22,7 @@ namespace vexa {
 namespace {
 
 constexpr int kSamplesOfALot = 300;
+constexpr int kSamplesOfAShift = 2000;
 
 /// A sample that differs from every other in its number, its time and the noise of its spectra.
 class Day {
@@ -75,6 +80,12 @@ double MedianMs(int times, const Task& task) {
   return all[all.size() / 2];
 }
 
+long ResidentKiB() {
+  QFile file(QStringLiteral("/proc/self/statm"));
+  const bool open = file.open(QIODevice::ReadOnly);
+  return open ? file.readAll().split(' ').value(1).toLong() * sysconf(_SC_PAGESIZE) / 1024 : 0;
+}
+
 double SearchMs(const RecordStore& store, const RecordQuery& query, qsizetype expected) {
   return MedianMs(9, [&] {
     const Answer<QList<RecordSummary>> found = store.Search(query);
@@ -113,18 +124,29 @@ void Fail(const char* what, StoreFault fault) {
   }
 }
 
+// A shift of one lot, one sample after the other.
+void AppendOneByOne(const QString& path) {
+  RecordStore store;
+  Fail("opening", store.Open(path, RecordStore::Mode::kWrite));
+  Day day;
+  const auto append = [&store, &day] { Fail("appending", store.Append(day.Next()).fault); };
+  (void)MedianMs(200, append);
+  const long before = ResidentKiB();
+  const double appendMs = MedianMs(kSamplesOfAShift, append);
+  std::printf(
+      "one sample into the store and on the disk: %.1f ms (median of %d), memory grown by"
+      " %ld KiB\n\n",
+      appendMs, kSamplesOfAShift, ResidentKiB() - before);
+}
+
 void Bench(int largest, const QString& uri) {
   const QTemporaryDir directory(QDir::currentPath() + QStringLiteral("/records_bench-XXXXXX"));
+  AppendOneByOne(directory.filePath(QStringLiteral("shift.db")));
   const QString path = directory.filePath(QStringLiteral("records.db"));
   RecordStore store;
   Fail("opening", store.Open(path, RecordStore::Mode::kWrite));
   Day day;
   int samples = 0;
-  const double append = MedianMs(500, [&] {
-    Fail("appending", store.Append(day.Next()).fault);
-    ++samples;
-  });
-  std::printf("one sample into the store and on the disk: %.1f ms (median of 500)\n\n", append);
   std::printf(
       "| samples | a lot of 300, ms | one by part of its number, ms | a part that is nowhere,"
       " ms | NG, first 100, ms | first page, ms | page in the middle, ms |\n"

@@ -42,7 +42,9 @@ constexpr std::array kRepeated{"id",     "kind",   "utc",      "time",    "stati
 
 QString InDocument(const char* column) {
   const QString value = QStringLiteral("json_extract(document, '$.%1')").arg(QLatin1String(column));
-  return QLatin1String(column) == QLatin1String("station") ? QStringLiteral("coalesce(%1, '')").arg(value) : value;
+  return QLatin1String(column) == QLatin1String("station")
+             ? QStringLiteral("coalesce(%1, '')").arg(value)
+             : value;
 }
 
 Answer<int> VersionOf(const SqlSession& session) {

@@ -84,18 +84,14 @@ Answer<StoredRow> RecordStore::Find(const QString& idOrNumber) const {
 }
 
 Answer<QList<StoredRow>> RecordStore::RowsAfter(qint64 number, int limit) const {
-  Answer<QSqlQuery> query = session_.Select(
-      QStringLiteral("SELECT %1 FROM record_row WHERE number > ? ORDER BY number LIMIT ?")
-          .arg(kRowColumns),
-      {number, limit});
-  Answer<QList<StoredRow>> rows{{}, query.fault};
-  while (query && query.value.next()) {
-    rows.value << RowOf(query.value);
-  }
-  if (query) {
-    rows.fault = FaultOf(query.value.lastError());
-  }
-  return rows;
+  return Rows(QStringLiteral("number > ? ORDER BY number LIMIT ?"), {number, limit});
+}
+
+Answer<QList<StoredRow>> RecordStore::Events(const QString& type, const QString& subject,
+                                             int limit) const {
+  return Rows(QStringLiteral("kind = 'event' AND json_extract(document, '$.type') = ?"
+                             " AND (? = '' OR subject = ?) ORDER BY utc DESC, number DESC LIMIT ?"),
+              {type, subject.isNull() ? QStringLiteral("") : subject, subject, limit});
 }
 
 Answer<QList<RecordSummary>> RecordStore::Search(const RecordQuery& query) const {
@@ -217,6 +213,20 @@ StoreFault RecordStore::Prepare(Mode mode, int waitMs) const {
     QThread::msleep(10);
   } while (!deadline.hasExpired());
   return fault;
+}
+
+Answer<QList<StoredRow>> RecordStore::Rows(const QString& condition,
+                                           const QVariantList& values) const {
+  Answer<QSqlQuery> query = session_.Select(
+      QStringLiteral("SELECT %1 FROM record_row WHERE %2").arg(kRowColumns, condition), values);
+  Answer<QList<StoredRow>> rows{{}, query.fault};
+  while (query && query.value.next()) {
+    rows.value << RowOf(query.value);
+  }
+  if (query) {
+    rows.fault = FaultOf(query.value.lastError());
+  }
+  return rows;
 }
 
 // Behind what the next row comes: the last number ever given, and the hash of the last row there.

@@ -66,6 +66,10 @@ class RecordStore : public RecordSource {
 
   [[nodiscard]] Answer<QList<RecordSummary>> Search(const RecordQuery& query) const override;
 
+  /// The events of that type, of that subject unless it is empty, the newest first.
+  [[nodiscard]] Answer<QList<StoredRow>> Events(const QString& type, const QString& subject = {},
+                                                int limit = 100) const;
+
   /// The stations whose rows it holds: one, unless the station got another name.
   [[nodiscard]] Answer<QStringList> Stations() const;
 
@@ -88,6 +92,8 @@ class RecordStore : public RecordSource {
   [[nodiscard]] static std::optional<FileIdentity> IdentityOf(const QString& path);
   [[nodiscard]] StoreFault Prepare(Mode mode, int waitMs) const;
   [[nodiscard]] Answer<ChainHead> End() const;
+  [[nodiscard]] Answer<QList<StoredRow>> Rows(const QString& condition,
+                                              const QVariantList& values) const;
 
   SqlSession session_;
   QString path_;

@@ -297,6 +297,30 @@ TEST_F(Store, SearchFindsBySeveralConditions) {
   EXPECT_EQ(store.Search({}).value.first().supersedes, first);
 }
 
+TEST_F(Store, DecisionsAreFoundByTypeAndSubject) {
+  EventRecord event;
+  event.data = {{QStringLiteral("limit"), 4.5}};
+  for (const char* name : {"release a", "freeze b", "release b", "release"}) {
+    const QStringList words = QString::fromLatin1(name).split(u' ');
+    event.type = words[0];
+    event.subject = words.value(1);
+    event.time = QDateTime::fromSecsSinceEpoch(1763000000 + store.Head().value.number);
+    ASSERT_TRUE(store.Append({ToRow(event)}));
+  }
+  const auto found = [this](const char* type, const char* subject) {
+    QStringList subjects;
+    for (const StoredRow& row : store.Events(QLatin1String(type), QLatin1String(subject)).value) {
+      const std::optional<EventRecord> read = ToEvent(row.row);
+      EXPECT_EQ(read->data[QStringLiteral("limit")], 4.5);
+      subjects << read->subject;
+    }
+    return subjects.join(u',').toStdString();
+  };
+  EXPECT_EQ(found("release", ""), ",b,a");
+  EXPECT_EQ(found("release", "b"), "b");
+  EXPECT_EQ(found("freeze", "a"), "");
+}
+
 TEST_F(Store, NoticesThatItsFileIsGone) {
   ASSERT_TRUE(store.IsInPlace());
   ASSERT_TRUE(QFile::remove(path));
