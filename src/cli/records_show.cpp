@@ -118,8 +118,11 @@ int ShowRecord(const QCommandLineParser& parser, const QStringList& arguments) {
 int EvaluateRecords(const QCommandLineParser& parser, const QStringList& arguments) {
   ConsoleMessages messages(parser.isSet(option::kNo));
   const std::optional<QList<WholeRecord>> records = LoadAll(parser, arguments);
-  std::optional<VEXATYPE> state;
-  if (!records || !(state = EvaluationState(parser, messages))) {
+  if (!records) {
+    return kFailed;
+  }
+  std::optional<VEXATYPE> state = EvaluationState(parser, messages);
+  if (!state) {
     return kFailed;
   }
   QJsonArray results;

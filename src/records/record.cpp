@@ -10,9 +10,8 @@
 namespace vexa {
 namespace {
 
-constexpr auto kCountsBytes = static_cast<qsizetype>(RawSpectrum::kCount * sizeof(double));
-constexpr auto kReflectanceBytes =
-    static_cast<qsizetype>(ReflectanceSpectrum::kCount * sizeof(double));
+constexpr qsizetype kCountsBytes = RawSpectrum::kCount * sizeof(double);
+constexpr qsizetype kReflectanceBytes = ReflectanceSpectrum::kCount * sizeof(double);
 
 const QString kFrame = QStringLiteral("frame");
 const QString kSettings = QStringLiteral("settings");
@@ -210,7 +209,7 @@ std::optional<SampleRecord> ToSample(const Row& row) {
   sample.groups = GroupsOf(document[QStringLiteral("verdicts")].toArray());
   if (const QJsonValue thickness = document[QStringLiteral("thickness")]; thickness.isObject()) {
     sample.thickness = ThicknessOf(thickness.toObject());
-    for (const QJsonValue& doubt : thickness.toObject()[QStringLiteral("doubts")].toArray()) {
+    for (const auto& doubt : thickness.toObject()[QStringLiteral("doubts")].toArray()) {
       sample.doubts << doubt.toString();
     }
   }

@@ -99,7 +99,7 @@ ThicknessResult ThicknessOf(const QJsonObject& object) {
   result.physical = object[QStringLiteral("kind")] == QStringLiteral("physical");
   TakePoint(object[QStringLiteral("first")].toObject(), result.first, result.firstIndex);
   TakePoint(object[QStringLiteral("second")].toObject(), result.second, result.secondIndex);
-  for (const QJsonValue& value : object[QStringLiteral("extrema")].toArray()) {
+  for (const auto& value : object[QStringLiteral("extrema")].toArray()) {
     if (static_cast<std::size_t>(result.extrema.count) == result.extrema.entries.size()) {
       break;
     }
@@ -115,17 +115,18 @@ ThicknessResult ThicknessOf(const QJsonObject& object) {
 QJsonArray GroupsJson(const GroupJudgements& groups) {
   QJsonArray array;
   for (std::size_t i = 0; i < groups.size(); ++i) {
-    array.append(QJsonObject{{QStringLiteral("group"), QLatin1String(kGroupNames[i])},
-                             {QStringLiteral("verdict"), PassedWord(groups[i].passed)},
-                             {QStringLiteral("margin"),
-                              groups[i].margin ? NumberJson(*groups[i].margin) : QJsonValue()}});
+    const std::optional<double> margin = groups[i].margin;
+    array.append(
+        QJsonObject{{QStringLiteral("group"), QLatin1String(kGroupNames[i])},
+                    {QStringLiteral("verdict"), PassedWord(groups[i].passed)},
+                    {QStringLiteral("margin"), margin ? NumberJson(*margin) : QJsonValue()}});
   }
   return array;
 }
 
 GroupJudgements GroupsOf(const QJsonArray& array) {
   GroupJudgements groups;
-  for (const QJsonValue& value : array) {
+  for (const auto& value : array) {
     const QJsonObject object = value.toObject();
     const auto name = std::ranges::find_if(kGroupNames, [&object](const char* known) {
       return object[QStringLiteral("group")] == QLatin1String(known);
