@@ -79,6 +79,8 @@ class FileText {
   /// "#TRUE#" or "#FALSE#".
   FileText& Flag(bool value);
 
+  [[nodiscard]] const QString& Text() const { return text_; }
+
   /// Writes the lines, each with CR LF, in the program's code page; see ReplaceFile.
   WriteResult WriteTo(const QString& path) const;
 

@@ -125,6 +125,38 @@ void DeclareAnalysisOptions(QCommandLineParser& parser) {
   add(kSubstrate, "Data file of the bare substrate.", "FILE");
 }
 
+bool TakeEnvironment(const QCommandLineParser& parser, Settings& settings,
+                     MessageService& messages) {
+  if (!parser.isSet(kEnv)) {
+    return true;
+  }
+  const Environment environment = ReadEnvironment(parser.value(kEnv), settings.programDirectory);
+  TellAll(environment.notices, messages);
+  if (!ApplyEnvironment(environment, settings)) {
+    Complain(QStringLiteral("%1: no readable environment file").arg(parser.value(kEnv)));
+    return false;
+  }
+  TellAll(LoadDispersionData(settings).notices, messages);
+  return true;
+}
+
+bool TakeStandard(const QCommandLineParser& parser, Settings& settings, MessageService& messages) {
+  if (!parser.isSet(option::kStandard)) {
+    return true;
+  }
+  const QString path = parser.value(option::kStandard);
+  const ReadResult<StandardContents> contents = ReadStandardFile(path);
+  if (!contents) {
+    messages.Tell(StandardMessage(path, contents.Fault()));
+    Complain(QStringLiteral("%1: no readable standard file").arg(path));
+    return false;
+  }
+  settings.standard = contents->standard;
+  settings.chromaMarker = contents->chromaMarker;
+  settings.hueMarker = contents->hueMarker;
+  return true;
+}
+
 ExitStatus TakeAnalysisOptions(const QCommandLineParser& parser, Settings& settings,
                                MessageService& messages) {
   if (Settings scratch = settings; !TakeWords(parser, scratch) || !IndexIsInRange(parser)) {
@@ -134,14 +166,8 @@ ExitStatus TakeAnalysisOptions(const QCommandLineParser& parser, Settings& setti
     Complain(QStringLiteral("--%1 and --%2 exclude each other").arg(kIndex, kSubstrate));
     return kUsageError;
   }
-  if (parser.isSet(kEnv)) {
-    const Environment environment = ReadEnvironment(parser.value(kEnv), settings.programDirectory);
-    TellAll(environment.notices, messages);
-    if (!ApplyEnvironment(environment, settings)) {
-      Complain(QStringLiteral("%1: no readable environment file").arg(parser.value(kEnv)));
-      return kFailed;
-    }
-    TellAll(LoadDispersionData(settings).notices, messages);
+  if (!TakeEnvironment(parser, settings, messages)) {
+    return kFailed;
   }
   (void)TakeWords(parser, settings);
   if (TakeCoat(parser, settings.thickness.coat)) {
@@ -154,15 +180,8 @@ ExitStatus TakeAnalysisOptions(const QCommandLineParser& parser, Settings& setti
   if (parser.isSet(kThickness)) {
     settings.thickness.enabled = true;
   }
-  if (parser.isSet(option::kStandard)) {
-    const QString path = parser.value(option::kStandard);
-    const ReadResult<StandardContents> contents = ReadStandardFile(path);
-    if (!contents) {
-      messages.Tell(StandardMessage(path, contents.Fault()));
-      Complain(QStringLiteral("%1: no readable standard file").arg(path));
-      return kFailed;
-    }
-    settings.standard = contents->standard;
+  if (!TakeStandard(parser, settings, messages)) {
+    return kFailed;
   }
   return kDone;
 }

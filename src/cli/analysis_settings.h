@@ -17,4 +17,12 @@ void DeclareAnalysisOptions(QCommandLineParser& parser);
 [[nodiscard]] ExitStatus TakeAnalysisOptions(const QCommandLineParser& parser, Settings& settings,
                                              MessageService& messages);
 
+/// Takes over the file of --env; false after a complaint.
+[[nodiscard]] bool TakeEnvironment(const QCommandLineParser& parser, Settings& settings,
+                                   MessageService& messages);
+
+/// Likewise of --standard.
+[[nodiscard]] bool TakeStandard(const QCommandLineParser& parser, Settings& settings,
+                                MessageService& messages);
+
 }  // namespace vexa::cli

@@ -12,10 +12,10 @@
 namespace vexa::cli {
 namespace {
 
-const std::array kCommands{AnalyseCommand,    ConvertCommand,    DecodeCommand,
-                           DispersionCommand, EnvCommand,        FitCommand,
-                           JudgeCommand,      MeasureCommand,    ReflectanceCommand,
-                           StandardCommand,   StatisticsCommand, StockCommand};
+const std::array kCommands{AnalyseCommand, ConvertCommand,     DecodeCommand,   DispersionCommand,
+                           EnvCommand,     FitCommand,         JudgeCommand,    MeasureCommand,
+                           RecordsCommand, ReflectanceCommand, StandardCommand, StatisticsCommand,
+                           StockCommand};
 
 QString Overview() {
   QString text = QStringLiteral("Usage: vexa-cli COMMAND [arguments] [options]\n\nCommands:\n");

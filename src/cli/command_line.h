@@ -30,6 +30,7 @@ struct Command {
 [[nodiscard]] Command FitCommand();
 [[nodiscard]] Command JudgeCommand();
 [[nodiscard]] Command MeasureCommand();
+[[nodiscard]] Command RecordsCommand();
 [[nodiscard]] Command ReflectanceCommand();
 [[nodiscard]] Command StandardCommand();
 [[nodiscard]] Command StatisticsCommand();

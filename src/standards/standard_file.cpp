@@ -65,7 +65,7 @@ ReadResult<StandardContents> ReadStandardFile(const QString& path) {
   });
 }
 
-WriteResult WriteStandardFile(const QString& path, const StandardContents& contents) {
+FileText StandardFileText(const StandardContents& contents) {
   const auto& [standard, chromaMarker, hueMarker] = contents;
   FileText text;
   text.Line(file_kind::kStandard.header.toString()).Flag(standard.useReflectance);
@@ -82,7 +82,11 @@ WriteResult WriteStandardFile(const QString& path, const StandardContents& conte
   WriteLimits(text, standard.hueAngle);
   text.Flag(chromaMarker.shown).Number(chromaMarker.value);
   text.Flag(hueMarker.shown).Number(hueMarker.value);
-  return text.WriteTo(path);
+  return text;
+}
+
+WriteResult WriteStandardFile(const QString& path, const StandardContents& contents) {
+  return StandardFileText(contents).WriteTo(path);
 }
 
 MessageCall StandardMessage(const QString& path, const FileFault& fault) {

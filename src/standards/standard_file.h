@@ -6,6 +6,7 @@
 #include "base/file_fault.h"
 #include "base/message.h"
 #include "base/replace_file.h"
+#include "base/text_file.h"
 #include "standards/standard_set.h"
 
 namespace vexa {
@@ -21,6 +22,9 @@ struct StandardContents {
 
 /// Reads a standard file of version 3.00 or later.
 ReadResult<StandardContents> ReadStandardFile(const QString& path);
+
+/// The lines of a standard file of these contents.
+[[nodiscard]] FileText StandardFileText(const StandardContents& contents);
 
 /// Writes the standard and both markers, 62 lines; see ReplaceFile.
 WriteResult WriteStandardFile(const QString& path, const StandardContents& contents);

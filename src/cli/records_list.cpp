@@ -1,0 +1,139 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include <limits>
+
+#include "base/date_text.h"
+#include "cli/command_line.h"
+#include "cli/program_settings.h"
+#include "cli/records_actions.h"
+#include "cli/text_columns.h"
+
+namespace vexa::cli {
+namespace {
+
+using namespace records_option;
+
+/// A moment, or a whole day.
+struct Date {
+  QDateTime time;
+  bool day = false;
+};
+
+std::optional<Date> ParseDate(const QString& text) {
+  if (const QDate day = QDate::fromString(text, Qt::ISODate); day.isValid() && text.size() == 10) {
+    return Date{day.startOfDay(), true};
+  }
+  if (const QDateTime time = QDateTime::fromString(text, Qt::ISODateWithMs); time.isValid()) {
+    return Date{time, false};
+  }
+  if (const std::optional<QDateTime> time = ParseDateTime(text); time && time->isValid()) {
+    return Date{*time, !text.contains(u':')};
+  }
+  return std::nullopt;
+}
+
+// Takes the option over; false, with a complaint, when it is no date.
+bool TakeDate(const QCommandLineParser& parser, const QString& name, bool end, QDateTime& time) {
+  if (!parser.isSet(name)) {
+    return true;
+  }
+  const std::optional<Date> date = ParseDate(parser.value(name));
+  if (!date) {
+    Complain(QStringLiteral("--%1 takes a date, yyyy-mm-dd, or a time, not \"%2\"")
+                 .arg(name, parser.value(name)));
+    return false;
+  }
+  time = !end ? date->time : date->day ? date->time.addDays(1) : date->time.addMSecs(1);
+  return true;
+}
+
+bool TakeVerdict(const QCommandLineParser& parser, std::optional<Verdict>& verdict) {
+  if (!parser.isSet(kVerdict)) {
+    return true;
+  }
+  for (const Verdict known : {Verdict::kOk, Verdict::kNotGood, Verdict::kNone}) {
+    if (parser.value(kVerdict) == VerdictWord(known)) {
+      verdict = known;
+      return true;
+    }
+  }
+  Complain(QStringLiteral("--%1 takes OK, NG or none, not \"%2\"")
+               .arg(kVerdict, parser.value(kVerdict)));
+  return false;
+}
+
+std::optional<RecordQuery> QueryOf(const QCommandLineParser& parser) {
+  RecordQuery query;
+  const auto take = [&parser](const QString& name, std::optional<QString>& value) {
+    if (parser.isSet(name)) {
+      value = parser.value(name);
+    }
+  };
+  take(kLot, query.lot);
+  take(kRecipe, query.recipe);
+  take(kOperator, query.operatorName);
+  query.samplePart = parser.value(kSample);
+  query.withSuperseded = parser.isSet(kAll);
+  const std::optional<int> limit =
+      IntegerOption(parser, kLimit, query.limit, 1, std::numeric_limits<int>::max());
+  if (!limit || !TakeDate(parser, kFrom, false, query.from) ||
+      !TakeDate(parser, kTo, true, query.to) || !TakeVerdict(parser, query.verdict)) {
+    return std::nullopt;
+  }
+  query.limit = *limit;
+  return query;
+}
+
+QJsonObject SummaryJson(const RecordSummary& record) {
+  return {{QStringLiteral("id"), record.id},
+          {QStringLiteral("number"), record.number},
+          {QStringLiteral("time"), record.time},
+          {QStringLiteral("station"), record.station},
+          {QStringLiteral("lot"), record.lot},
+          {QStringLiteral("recipe"), record.recipe},
+          {QStringLiteral("sample"), record.sampleNumber},
+          {QStringLiteral("operator"), record.operatorName},
+          {QStringLiteral("verdict"), record.verdict},
+          {QStringLiteral("supersedes"),
+           record.supersedes.isEmpty() ? QJsonValue() : QJsonValue(record.supersedes)}};
+}
+
+}  // namespace
+
+int ListRecords(const QCommandLineParser& parser, const QStringList& /*arguments*/) {
+  const std::optional<RecordQuery> query = QueryOf(parser);
+  if (!query) {
+    return kUsageError;
+  }
+  RecordStore store;
+  if (!OpenStore(parser, RecordStore::Mode::kRead, store)) {
+    return kFailed;
+  }
+  const Answer<QList<RecordSummary>> found = store.Search(*query);
+  if (!found) {
+    return ComplainOf(StorePath(parser), found.fault);
+  }
+  if (parser.isSet(option::kJson)) {
+    QJsonArray records;
+    for (const RecordSummary& record : found.value) {
+      records.append(SummaryJson(record));
+    }
+    PrintJson({{QStringLiteral("records"), records}});
+    return kDone;
+  }
+  QList<QStringList> rows{{QStringLiteral("number"), QStringLiteral("time"), QStringLiteral("id"),
+                           QStringLiteral("verdict"), QStringLiteral("lot"),
+                           QStringLiteral("sample"), QStringLiteral("operator")}};
+  for (const RecordSummary& record : found.value) {
+    rows << QStringList{QString::number(record.number),
+                        record.time,
+                        record.id,
+                        record.verdict,
+                        record.lot,
+                        record.sampleNumber,
+                        record.operatorName};
+  }
+  Print(TextColumns(rows));
+  return kDone;
+}
+
+}  // namespace vexa::cli

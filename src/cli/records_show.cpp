@@ -1,0 +1,167 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "base/number_text.h"
+#include "cli/analysis_settings.h"
+#include "cli/program_settings.h"
+#include "cli/records_actions.h"
+#include "cli/text_columns.h"
+#include "files/configuration.h"
+#include "measurement/dispersion_data.h"
+#include "records/record_files.h"
+#include "records/whole_record.h"
+#include "standards/standard_file.h"
+
+namespace vexa::cli {
+namespace {
+
+using namespace records_option;
+
+// All records of these ids; nothing after a complaint.
+std::optional<QList<WholeRecord>> LoadAll(const QCommandLineParser& parser,
+                                          const QStringList& ids) {
+  RecordStore store;
+  if (!OpenStore(parser, RecordStore::Mode::kRead, store)) {
+    return std::nullopt;
+  }
+  QList<WholeRecord> records;
+  for (const QString& id : ids) {
+    Answer<WholeRecord> record = LoadRecord(store, id);
+    if (!record) {
+      (void)ComplainOf(QStringLiteral("sample %1").arg(id), record.fault);
+      return std::nullopt;
+    }
+    records << std::move(record.value);
+  }
+  return records;
+}
+
+QString Number(double value, QStringView pattern) {
+  return FormatNumber(value, pattern).trimmed();
+}
+
+QString ResultText(const SampleRecord& sample) {
+  QList<QStringList> rows{{QStringLiteral("verdict"), VerdictWord(VerdictOf(sample.groups))},
+                          {QStringLiteral("L* a* b*"), Number(sample.colour.L, u"##0.00"),
+                           Number(sample.colour.a, u"0.0000"), Number(sample.colour.b, u"0.0000")},
+                          {QStringLiteral("x y Y"), Number(sample.colour.x, u"0.0000"),
+                           Number(sample.colour.y, u"0.0000"), Number(sample.colour.Y, u"##0.0##")},
+                          {QStringLiteral("Rm"), Number(sample.colour.Rm, u"##0.0##")}};
+  if (sample.thickness) {
+    rows << QStringList{
+        QStringLiteral("thickness"),
+        Number(sample.thickness->thicknessNm, u"0.0") + ThicknessUnit(sample.thickness->physical),
+        sample.doubts.join(u' ')};
+  }
+  return TextColumns(rows);
+}
+
+QString FrameText(const std::optional<FrameRecord>& frame) {
+  return frame ? QStringLiteral("%1, %2 ms x %3")
+                     .arg(TimeWithOffset(frame->taken.takenAt))
+                     .arg(frame->taken.samplingTimeMs)
+                     .arg(frame->taken.averagingCount)
+               : QStringLiteral("-");
+}
+
+QString RecordText(const WholeRecord& record) {
+  const SampleRecord& sample = record.sample;
+  return TextColumns({{QStringLiteral("id"), record.summary.id},
+                      {QStringLiteral("number"), QString::number(record.summary.number)},
+                      {QStringLiteral("time"), record.summary.time},
+                      {QStringLiteral("station"), sample.station},
+                      {QStringLiteral("lot"), sample.lot},
+                      {QStringLiteral("recipe"), sample.recipe},
+                      {QStringLiteral("sample"), sample.sampleNumber},
+                      {QStringLiteral("operator"), sample.operatorName},
+                      {QStringLiteral("remarks"), sample.remark1, sample.remark2},
+                      {QStringLiteral("supersedes"), record.summary.supersedes, sample.reason},
+                      {QStringLiteral("background"), FrameText(record.background)},
+                      {QStringLiteral("reference"), FrameText(record.reference)},
+                      {QStringLiteral("sample"), FrameText(sample.frame)}}) +
+         ResultText(sample) +
+         SpectrumText(ReflectanceSpectrum::kFirstNm, sample.reflectance.Values());
+}
+
+// The settings under which records are evaluated anew; nothing after a complaint.
+std::optional<Settings> EvaluationSettings(const QCommandLineParser& parser,
+                                           MessageService& messages) {
+  Settings settings = LoadSettings(parser, messages);
+  if (!TakeEnvironment(parser, settings, messages) || !TakeStandard(parser, settings, messages)) {
+    return std::nullopt;
+  }
+  return settings;
+}
+
+}  // namespace
+
+int ShowRecord(const QCommandLineParser& parser, const QStringList& arguments) {
+  const std::optional<QList<WholeRecord>> records = LoadAll(parser, arguments);
+  if (!records) {
+    return kFailed;
+  }
+  if (parser.isSet(option::kJson)) {
+    PrintJson(RecordJson(records->first()));
+  } else {
+    Print(RecordText(records->first()));
+  }
+  return kDone;
+}
+
+int EvaluateRecords(const QCommandLineParser& parser, const QStringList& arguments) {
+  ConsoleMessages messages(parser.isSet(option::kNo));
+  const std::optional<QList<WholeRecord>> records = LoadAll(parser, arguments);
+  if (!records) {
+    return kFailed;
+  }
+  const std::optional<Settings> settings = EvaluationSettings(parser, messages);
+  if (!settings) {
+    return kFailed;
+  }
+  QJsonArray results;
+  for (const WholeRecord& record : *records) {
+    const SampleRecord anew = EvaluateAnew(record, *settings, parser.isSet(kEnv));
+    if (parser.isSet(option::kJson)) {
+      QJsonObject object = ResultsJson(anew);
+      object[QStringLiteral("id")] = record.summary.id;
+      results.append(object);
+    } else {
+      Print(TextColumns({{QStringLiteral("id"), record.summary.id},
+                         {QStringLiteral("sample"), record.sample.sampleNumber}}) +
+            ResultText(anew));
+    }
+  }
+  if (parser.isSet(option::kJson)) {
+    PrintJson({{QStringLiteral("records"), results}});
+  }
+  return kDone;
+}
+
+int ExportFiles(const QCommandLineParser& parser, const QStringList& arguments) {
+  if (!parser.isSet(option::kOut)) {
+    Complain(QStringLiteral("records export: --out is missing"));
+    return kUsageError;
+  }
+  const QString path = parser.value(option::kOut);
+  const std::optional<QList<WholeRecord>> records = LoadAll(parser, arguments);
+  if (!records) {
+    return kFailed;
+  }
+  switch (ExportRecords(path, *records)) {
+    case ExportOutcome::kWritten:
+      break;
+    case ExportOutcome::kUnknownKind:
+      Complain(QStringLiteral("%1: ends in none of csv, dat, json, jdx").arg(path));
+      return kUsageError;
+    case ExportOutcome::kTooMany:
+      Complain(QStringLiteral("%1: a data file holds ten samples at most").arg(path));
+      return kFailed;
+    case ExportOutcome::kNotWritten:
+      Complain(QStringLiteral("%1: cannot be written").arg(path));
+      return kFailed;
+  }
+  if (parser.isSet(option::kJson)) {
+    PrintJson({{QStringLiteral("out"), path}, {QStringLiteral("written"), records->size()}});
+  }
+  return kDone;
+}
+
+}  // namespace vexa::cli

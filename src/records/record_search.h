@@ -1,0 +1,50 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <QDateTime>
+#include <QList>
+#include <QString>
+#include <optional>
+
+#include "records/record.h"
+#include "records/sql_session.h"
+
+namespace vexa {
+
+/// What a table shows of one sample.
+struct RecordSummary {
+  QString id;
+  qint64 number = 0;
+  qint64 utcMs = 0;
+  QString time;  ///< ISO 8601 with offset
+  QString station;
+  QString lot;
+  QString recipe;
+  QString sampleNumber;
+  QString operatorName;
+  QString verdict;     ///< "OK", "NG" or "none"
+  QString supersedes;  ///< the id of the sample that it replaces, or empty
+};
+
+/// Which samples are wanted; what is not given does not restrict.
+struct RecordQuery {
+  std::optional<QString> id;  ///< also one that is superseded
+  std::optional<QString> lot;
+  std::optional<QString> recipe;
+  std::optional<QString> operatorName;
+  QString samplePart;  ///< of the sample number; the case of A to Z does not matter
+  QDateTime from;      ///< this moment included
+  QDateTime to;        ///< this moment not included
+  std::optional<Verdict> verdict;
+  bool withSuperseded = false;
+  int limit = 100;
+
+  /// Only what comes behind this one: the last of the page before.
+  std::optional<RecordSummary> after;
+};
+
+/// The newest first; samples of the same millisecond by station and number.
+[[nodiscard]] Answer<QList<RecordSummary>> SearchRecords(const SqlSession& session,
+                                                         const RecordQuery& query);
+
+}  // namespace vexa

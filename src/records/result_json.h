@@ -1,0 +1,36 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <QJsonArray>
+#include <QJsonObject>
+#include <QStringList>
+#include <span>
+
+#include "colour/colorimetry.h"
+#include "optics/thickness.h"
+#include "standards/judgement.h"
+
+namespace vexa {
+
+using GroupJudgements = std::array<GroupJudgement, kStandardGroupCount>;
+
+/// A number, or null when it is not finite.
+[[nodiscard]] QJsonValue NumberJson(double value);
+/// The number, or not a number for null.
+[[nodiscard]] double NumberOf(const QJsonValue& value);
+[[nodiscard]] QJsonArray NumbersJson(std::span<const double> values);
+
+/// {"L": 0, "a": 0, "b": 0, "x": 0, "y": 0, "C": 0, "h": 0, "Rm": 0, "Y": 0}
+[[nodiscard]] QJsonObject ColourJson(const ColourResult& colour);
+[[nodiscard]] ColourResult ColourOf(const QJsonObject& object);
+
+/// {"thickness": nm, "kind": "physical" or "optical", "first" and "second": {"wavelength", "value",
+/// "index"}, "extrema": [{"wavelength", "reflectance", "kind": "P" or "V"}], "doubts": []}
+[[nodiscard]] QJsonObject ThicknessJson(const ThicknessResult& result, const QStringList& doubts);
+[[nodiscard]] ThicknessResult ThicknessOf(const QJsonObject& object);
+
+/// One object a group: {"group": "reflectance", "verdict": "OK", "NG" or "none", "margin": 0.1}
+[[nodiscard]] QJsonArray GroupsJson(const GroupJudgements& groups);
+[[nodiscard]] GroupJudgements GroupsOf(const QJsonArray& array);
+
+}  // namespace vexa
