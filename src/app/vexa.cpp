@@ -13,17 +13,29 @@
 #include "files/configuration.h"
 #include "files/startup_file.h"
 #include "measurement/dispersion_data.h"
+#include "records/record_settings.h"
 #include "views/common/file_questions.h"
 #include "views/files/environment_commands.h"
 #include "views/standards/standard_files.h"
 
 namespace vexa {
+namespace {
+
+// What the records of the window tell beside its state.
+RecordContext ContextOf(const QString& programDirectory) {
+  RecordContext context;
+  context.station = ReadRecordSettings(programDirectory).value_or(RecordSettings()).station;
+  return context;
+}
+
+}  // namespace
 
 VEXA::VEXA(Services services, const QString& programDirectory)
     : services_(std::move(services)),
       session_(programDirectory, services_.clock),
       desk_(session_, services_.messages, services_.makeController),
       journal_(session_, services_.messages),
+      recorder_(session_, RecordStorePath(programDirectory), ContextOf(programDirectory)),
       menu_(BuildMenu(*menuBar())),
       panels_(new MainPanels(session_, desk_, services_.messages, services_.dialogs)),
       status_(new StatusPanels),
@@ -149,6 +161,11 @@ void VEXA::ListenToSession() {
   connect(&session_, &Session::SampleStored, panels_, &MainPanels::SelectSlot);
   connect(&session_, &Session::SettingsChanged, this, &VEXA::Refresh);
   connect(&session_, &Session::StockChanged, this, &VEXA::Refresh);
+  connect(&recorder_, &SessionRecorder::Faulted, this, [this](StoreFault fault) {
+    services_.messages.Tell({Message::kRecordStoreFault,
+                             {RecordStorePath(State().programDirectory)},
+                             StoreFaultText(fault)});
+  });
   connect(&desk_, &InstrumentDesk::ActivityChanged, this, &VEXA::ShowAvailable);
   connect(panels_, &MainPanels::SlotSelected, this, &VEXA::Refresh);
   connect(panels_, &MainPanels::SampleInformationRequested, menu_.sampleInformation,

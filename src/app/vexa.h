@@ -9,6 +9,7 @@
 #include "app/session_journal.h"
 #include "base/message.h"
 #include "measurement/session.h"
+#include "records/session_recorder.h"
 #include "views/common/file_dialogs.h"
 
 namespace vexa {
@@ -67,6 +68,7 @@ class VEXA : public QMainWindow {
   Session session_;
   InstrumentDesk desk_;
   SessionJournal journal_;
+  SessionRecorder recorder_;
   Phase phase_ = Phase::kStarting;
   MenuCommands menu_{};
   MainPanels* panels_ = nullptr;

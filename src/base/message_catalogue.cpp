@@ -102,6 +102,11 @@ constexpr std::array<MessageEntry, kMessageCount> kCatalogue{{
      QT_TRANSLATE_NOOP("Text",
                        "ｼﾞｬｰﾅﾙ･ﾌｧｲﾙに書き込めません。測定は続けられますが、ﾌﾟﾛｸﾞﾗﾑが異常終了すると"
                        "測定ﾃﾞｰﾀは失われます。\r\r%1")},
+    {Message::kRecordStoreFault, title::kWarning, MessageIcon::kWarning, MessageButtons::kOk,
+     QT_TRANSLATE_NOOP(
+         "Text",
+         "記録に書き込めません。測定は続けられます。書き込めなかった記録は、書き込める"
+         "ようになった時に書き込まれます。\r\r%1")},
     {Message::kControllerFailed, title::kController, MessageIcon::kStop, MessageButtons::kOk,
      kDeviceText},
     {Message::kGpibServiceRequest, title::kError, MessageIcon::kStop, MessageButtons::kOk,

@@ -38,6 +38,7 @@ enum class Message : std::uint8_t {
   kRestoreSession,         ///< %1 what it holds
   kRestoreDamagedSession,  ///< %1 what it holds
   kJournalWriteError,      ///< %1 path
+  kRecordStoreFault,       ///< %1 path
 
   // Controller and measurement.
   kControllerFailed,    ///< with the port's diagnosis as details

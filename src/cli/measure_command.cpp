@@ -2,6 +2,7 @@
 #include <QFileInfo>
 #include <QJsonArray>
 #include <QScopeGuard>
+#include <array>
 #include <memory>
 
 #include "base/end_signals.h"
@@ -14,6 +15,8 @@
 #include "instrument/frm_com_h8_ctrl.h"
 #include "measurement/controller_start.h"
 #include "measurement/measurement_sequence.h"
+#include "records/record_settings.h"
+#include "records/session_recorder.h"
 
 namespace vexa::cli {
 namespace {
@@ -52,6 +55,10 @@ class Run {
         sequence_(session),
         file_(plan.out) {
     sequence_.UseController(controller_.get());
+    NameSamples();
+    if (plan.record) {
+      Record();
+    }
   }
 
   QCoro::Task<Report> MeasureAll() {
@@ -77,6 +84,28 @@ class Run {
   }
 
  private:
+  void NameSamples() {
+    std::array<SampleInfo, kSlotCount> information;
+    for (qsizetype i = 0; i < plan_.sampleNumbers.size(); ++i) {
+      information[static_cast<std::size_t>(i)].sampleNumber = plan_.sampleNumbers[i];
+    }
+    session_.EditInformation(information);
+  }
+
+  void Record() {
+    const QString& directory = session_.State().programDirectory;
+    const QString store = plan_.store.isEmpty() ? RecordStorePath(directory) : plan_.store;
+    RecordContext context;
+    context.station = ReadRecordSettings(directory).value_or(RecordSettings()).station;
+    context.lot = plan_.lot;
+    context.operatorName = plan_.operatorName;
+    recorder_ = std::make_unique<SessionRecorder>(session_, store, context);
+    QObject::connect(recorder_.get(), &SessionRecorder::Faulted, recorder_.get(),
+                     [this, store](StoreFault fault) {
+                       messages_.Tell({Message::kRecordStoreFault, {store}, StoreFaultText(fault)});
+                     });
+  }
+
   QCoro::Task<Status> StartController() {
     Status status = co_await controller_->Initialise(session_.State().instrument.controllerPort);
     Message failure = Message::kControllerFailed;
@@ -155,6 +184,7 @@ class Run {
   MessageService& messages_;
   std::unique_ptr<Controller> controller_;
   MeasurementSequence sequence_;
+  std::unique_ptr<SessionRecorder> recorder_;
   LineInput input_;
   SampleFile file_;
   Report report_;

@@ -15,6 +15,11 @@ const QString kAveraging = QStringLiteral("averaging");
 const QString kSamples = QStringLiteral("samples");
 const QString kPrompt = QStringLiteral("prompt");
 const QString kReplyTimeout = QStringLiteral("reply-timeout");
+const QString kRecord = QStringLiteral("record");
+const QString kStore = QStringLiteral("store");
+const QString kLot = QStringLiteral("lot");
+const QString kOperator = QStringLiteral("operator");
+const QString kSampleNumber = QStringLiteral("sample-number");
 
 bool ReadSettings(const QCommandLineParser& parser, Settings& settings) {
   InstrumentSettings& instrument = settings.instrument;
@@ -50,8 +55,27 @@ std::optional<MeasurePlan> Read(const QCommandLineParser& parser, const Settings
     Complain(QStringLiteral("--port and --device exclude each other"));
     return std::nullopt;
   }
-  return MeasurePlan{*port,      parser.value(kDevice), parser.value(option::kOut), *samples,
-                     *timeoutMs, parser.isSet(kPrompt)};
+  MeasurePlan plan;
+  plan.port = *port;
+  plan.device = parser.value(kDevice);
+  plan.out = parser.value(option::kOut);
+  plan.samples = *samples;
+  plan.replyTimeoutMs = *timeoutMs;
+  plan.prompt = parser.isSet(kPrompt);
+  plan.record = parser.isSet(kRecord);
+  plan.store = parser.value(kStore);
+  plan.lot = parser.value(kLot);
+  plan.operatorName = parser.value(kOperator);
+  plan.sampleNumbers = parser.values(kSampleNumber);
+  if (!plan.record && (parser.isSet(kStore) || parser.isSet(kLot) || parser.isSet(kOperator))) {
+    Complain(QStringLiteral("--store, --lot and --operator belong to --record"));
+    return std::nullopt;
+  }
+  if (plan.sampleNumbers.size() > plan.samples) {
+    Complain(QStringLiteral("more --sample-number than samples"));
+    return std::nullopt;
+  }
+  return plan;
 }
 
 }  // namespace
@@ -70,6 +94,11 @@ void DeclareMeasureOptions(QCommandLineParser& parser) {
   parser.addOption({kPrompt, QStringLiteral("Waits for Enter before each measurement.")});
   DeclareReferenceReflectance(parser);
   add(option::kShift, "Calibration shift, 0 to 7 nm (default: from vexa.cal, else 4).", "K");
+  parser.addOption({kRecord, QStringLiteral("Keeps every frame and sample in the record store.")});
+  add(kStore, "The record store (default: records.db of the program directory).", "FILE");
+  add(kLot, "Lot of the records.", "NAME");
+  add(kOperator, "Operator of the records.", "NAME");
+  add(kSampleNumber, "Number of the next sample; once a sample.", "TEXT");
   add(kReplyTimeout, "Longest wait for a reply of the controller (default 40000 ms).", "MS");
 }
 

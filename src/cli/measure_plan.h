@@ -2,7 +2,7 @@
 #pragma once
 
 #include <QCommandLineParser>
-#include <QString>
+#include <QStringList>
 #include <optional>
 
 #include "instrument/controller.h"
@@ -18,6 +18,11 @@ struct MeasurePlan {
   int samples = 1;
   int replyTimeoutMs = Controller::kReplyTimeoutMs;
   bool prompt = false;
+  bool record = false;  ///< everything goes into the record store, too
+  QString store;        ///< of the records; empty for that of the program directory
+  QString lot;
+  QString operatorName;
+  QStringList sampleNumbers;  ///< of samples 1, 2, ...; no more than there are samples
 };
 
 void DeclareMeasureOptions(QCommandLineParser& parser);

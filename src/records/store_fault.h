@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include <QString>
+
 namespace vexa {
 
 /// Why a record store did not do what it was asked.
@@ -17,6 +19,9 @@ enum class StoreFault {
   kOtherStore,   ///< the shared store has other rows under the name of this station
   kFailed,       ///< anything else
 };
+
+/// The fault in words, for the user.
+[[nodiscard]] QString StoreFaultText(StoreFault fault);
 
 /// What was asked for, or the fault for which it is not there.
 template <typename Value>

@@ -1,0 +1,40 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <QObject>
+
+#include "measurement/session.h"
+#include "records/record_builder.h"
+#include "records/record_keeper.h"
+
+namespace vexa {
+
+/// Keeps a record of everything that is measured in a session: each background and reference as it
+/// is stored, and each sample with all that it was computed with, before anyone else hears of it
+/// who listens to the session later than this.
+class SessionRecorder : public QObject {
+  Q_OBJECT
+
+ public:
+  /// `context` is what the records tell beside the state: station, lot, operator.
+  SessionRecorder(Session& session, const QString& storePath, RecordContext context);
+
+  /// What the records tell from now on.
+  void SetContext(const RecordContext& context) { context_ = context; }
+
+  [[nodiscard]] const RecordKeeper& Keeper() const { return keeper_; }
+
+ signals:
+  void Faulted(vexa::StoreFault fault);  ///< the first time that something was not stored
+  void Paid();                           ///< all that was owed is in the store
+
+ private:
+  void KeepFrame(FrameKind kind);
+  void KeepSample(int slot);
+
+  Session& session_;
+  RecordContext context_;
+  RecordKeeper keeper_;
+};
+
+}  // namespace vexa
