@@ -4,6 +4,8 @@
 #include <QStringList>
 #include <algorithm>
 
+#include "base/translation.h"
+
 namespace vexa {
 namespace {
 
@@ -19,29 +21,28 @@ QString TimeText(const QDateTime& time, const QDateTime& now) {
 QString AgeText(qint64 minutes) {
   const qint64 hours = minutes / 60;
   if (hours < 2) {
-    return QStringLiteral("%1分前").arg(minutes);
+    return Text::tr("%1分前").arg(minutes);
   }
-  return hours < 48 ? QStringLiteral("%1時間前").arg(hours)
-                    : QStringLiteral("%1日前").arg(hours / 24);
+  return hours < 48 ? Text::tr("%1時間前").arg(hours) : Text::tr("%1日前").arg(hours / 24);
 }
 
 QString ChangesText(const FrameChanges& changes) {
   QStringList settings;
   if (changes.samplingTime) {
-    settings << QStringLiteral("時間");
+    settings << Text::tr("時間");
   }
   if (changes.averagingCount) {
-    settings << QStringLiteral("回数");
+    settings << Text::tr("回数");
   }
   QStringList texts;
   if (!settings.isEmpty()) {
-    texts << settings.join(u'･') + QStringLiteral("変更");
+    texts << settings.join(u'･') + Text::tr("変更");
   }
   if (changes.old) {
-    texts << QStringLiteral("%1分経過").arg(kFrameAgeLimitMinutes);
+    texts << Text::tr("%1分経過").arg(kFrameAgeLimitMinutes);
   }
   if (changes.future) {
-    texts << QStringLiteral("時計変更");
+    texts << Text::tr("時計変更");
   }
   return texts.join(u' ');
 }

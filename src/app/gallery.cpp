@@ -9,6 +9,7 @@
 #include <cstdio>
 
 #include "app/vexa.h"
+#include "base/translation.h"
 #include "views/colour/background_picture.h"
 #include "views/colour/colour_panel.h"
 #include "views/common/original_msg_frm.h"
@@ -108,9 +109,8 @@ void Gallery::TakeWindows(VEXA& window) {
 void Gallery::TakeMessage() {
   OriginalMsgFrm message;
   const auto show = [&message] {
-    message.Show({Message::kControllerFailed,
-                  {},
-                  QStringLiteral("com5 (/dev/ttyUSB0) という装置がありません。")});
+    message.Show(
+        {Message::kControllerFailed, {}, Text::tr("com5 (/dev/ttyUSB0) という装置がありません。")});
     message.exec();
   };
   TakeDialog(show, QStringLiteral("message"), [this](QWidget& dialog) {

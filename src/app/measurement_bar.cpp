@@ -7,6 +7,7 @@
 
 #include "app/frame_age.h"
 #include "base/date_text.h"
+#include "base/translation.h"
 #include "views/common/option_frame.h"
 #include "views/common/slot_style.h"
 #include "views/common/theme.h"
@@ -65,7 +66,7 @@ QFrame* Line() {
 }
 
 QString Tip(int slot) {
-  return QStringLiteral("ｻﾝﾌﾟﾙをｽﾛｯﾄ%1に測定 (Ctrl+%2)").arg(slot).arg(slot % 10);
+  return Text::tr("ｻﾝﾌﾟﾙをｽﾛｯﾄ%1に測定 (Ctrl+%2)").arg(slot).arg(slot % 10);
 }
 
 }  // namespace
@@ -74,15 +75,14 @@ MeasurementBar::MeasurementBar(QWidget* parent)
     : QWidget(parent),
       open_(DoneIcon(false)),
       done_(DoneIcon(true)),
-      background_(TwoStateButton("Background", kBackgroundAtRest, QStringLiteral("ﾊﾞｯｸｸﾞﾗﾝﾄﾞ測定"),
-                                 Qt::Key_F5)),
+      background_(
+          TwoStateButton("Background", kBackgroundAtRest, Text::tr("ﾊﾞｯｸｸﾞﾗﾝﾄﾞ測定"), Qt::Key_F5)),
       backgroundAge_(SmallLabel(QStringLiteral("BackgroundAge"))),
-      reference_(
-          TwoStateButton("Reference", kReferenceAtRest, QStringLiteral("ﾘﾌｧﾚﾝｽ測定"), Qt::Key_F6)),
+      reference_(TwoStateButton("Reference", kReferenceAtRest, Text::tr("ﾘﾌｧﾚﾝｽ測定"), Qt::Key_F6)),
       referenceAge_(SmallLabel(QStringLiteral("ReferenceAge"))),
       allClear_(Button(QStringLiteral("AllClear"), QStringLiteral("ALL CLEAR"),
-                       QStringLiteral("全ｽﾛｯﾄをｸﾘｱ"), kCommandButton)),
-      data_(Button(QStringLiteral("Data"), QStringLiteral("Data"), QStringLiteral("試料情報"),
+                       Text::tr("全ｽﾛｯﾄをｸﾘｱ"), kCommandButton)),
+      data_(Button(QStringLiteral("Data"), QStringLiteral("Data"), Text::tr("試料情報"),
                    kCommandButton)),
       time_(new QLabel),
       lightWarning_(SmallLabel(QStringLiteral("LightWarning"))) {
@@ -99,7 +99,7 @@ MeasurementBar::MeasurementBar(QWidget* parent)
   connect(allClear_, &QPushButton::clicked, this, &MeasurementBar::ClearRequested);
   connect(data_, &QPushButton::clicked, this, &MeasurementBar::DataRequested);
 
-  lightWarning_->setText(QStringLiteral("光路が閉じています。\n測定すると開きます。"));
+  lightWarning_->setText(Text::tr("光路が閉じています。\n測定すると開きます。"));
   lightWarning_->setStyleSheet(kCalmWarning);
   lightWarning_->hide();
   time_->setObjectName(QStringLiteral("Time"));
@@ -124,7 +124,7 @@ MeasurementBar::MeasurementBar(QWidget* parent)
     const QString name = QStringLiteral("Mes%1").arg(slot);
     auto* option = new QRadioButton(QString::number(slot));
     option->setObjectName(name + QStringLiteral("Option"));
-    option->setToolTip(QStringLiteral("ｽﾛｯﾄ%1を表示").arg(slot));
+    option->setToolTip(Text::tr("ｽﾛｯﾄ%1を表示").arg(slot));
     option->setAccessibleName(option->toolTip());
     option->setIconSize(QSize(22, 12));
     option->setMinimumHeight(kSlotButton.lowest);

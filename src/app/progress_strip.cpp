@@ -18,19 +18,19 @@ constexpr int kOverdueMs = 1000;
 QString StepText(AwaitedStep step) {
   switch (step) {
     case AwaitedStep::kController:
-      return QStringLiteral("ｺﾝﾄﾛｰﾗの応答を待っています");
+      return Text::tr("ｺﾝﾄﾛｰﾗの応答を待っています");
     case AwaitedStep::kLightShutter:
-      return QStringLiteral("光ｼｬｯﾀの応答を待っています");
+      return Text::tr("光ｼｬｯﾀの応答を待っています");
     case AwaitedStep::kEyepieceShutter:
-      return QStringLiteral("接眼ｼｬｯﾀの応答を待っています");
+      return Text::tr("接眼ｼｬｯﾀの応答を待っています");
     case AwaitedStep::kLamp:
-      return QStringLiteral("ﾗﾝﾌﾟの応答を待っています");
+      return Text::tr("ﾗﾝﾌﾟの応答を待っています");
     case AwaitedStep::kSettling:
-      return QStringLiteral("安定するのを待っています");
+      return Text::tr("安定するのを待っています");
     case AwaitedStep::kMeasurement:
-      return QStringLiteral("測定しています");
+      return Text::tr("測定しています");
     case AwaitedStep::kData:
-      return QStringLiteral("ﾃﾞｰﾀを受信しています");
+      return Text::tr("ﾃﾞｰﾀを受信しています");
   }
   return {};
 }
@@ -101,12 +101,12 @@ void ProgressStrip::Refresh() {
   const qint64 waited = elapsed_.elapsed();
   QString text = StepText(step_) + QStringLiteral("  ") + Seconds(waited);
   if (expectedMs_ > 0) {
-    text += QStringLiteral(" / %1 秒").arg(Seconds(expectedMs_));
+    text += Text::tr(" / %1 秒").arg(Seconds(expectedMs_));
   } else {
-    text += QStringLiteral(" 秒");
+    text += Text::tr(" 秒");
   }
   if (waited > expectedMs_ + kOverdueMs && limitMs_ > expectedMs_) {
-    text += QStringLiteral("  (%1 秒で中断)").arg(limitMs_ / 1000);
+    text += Text::tr("  (%1 秒で中断)").arg(limitMs_ / 1000);
   }
   text_->setForegroundRole(QPalette::WindowText);
   text_->setText(text);

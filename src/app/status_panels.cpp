@@ -4,6 +4,7 @@
 #include <QHBoxLayout>
 #include <QPainter>
 
+#include "base/translation.h"
 #include "views/common/elided_label.h"
 #include "views/common/theme.h"
 
@@ -51,10 +52,10 @@ QString Tip(const Judgement& judgement, std::size_t group) {
     return {};
   }
   if (!verdict.margin) {
-    return *verdict.passed ? QStringLiteral("限界と比べる値がありません。")
-                           : QStringLiteral("規格が440nm-840nmの範囲で判定できません。");
+    return *verdict.passed ? Text::tr("限界と比べる値がありません。")
+                           : Text::tr("規格が440nm-840nmの範囲で判定できません。");
   }
-  return (*verdict.margin < 0.0 ? QStringLiteral("限界外: ") : QStringLiteral("限界までの余裕: ")) +
+  return (*verdict.margin < 0.0 ? Text::tr("限界外: ") : Text::tr("限界までの余裕: ")) +
          MarginText(judgement, group);
 }
 
@@ -98,7 +99,7 @@ void StatusPanels::AddVerdictPanel(std::size_t group) {
 }
 
 void StatusPanels::ShowEnvironmentName(const QString& name) {
-  environment_->setText(QStringLiteral("環境ﾌｧｲﾙ名") + QStringLiteral(":") + name);
+  environment_->setText(Text::tr("環境ﾌｧｲﾙ名") + QStringLiteral(":") + name);
   environment_->setToolTip(name);
 }
 
@@ -106,7 +107,7 @@ void StatusPanels::ShowJudgement(const Judgement& judgement) {
   for (std::size_t group = 0; group < kStandardGroupCount; ++group) {
     const std::optional<bool> passed = judgement.groups[group].passed;
     const VerdictPanel& panel = verdicts_[group];
-    panel.text->setText(judgement.panelTexts[group]);
+    panel.text->setText(PanelText(judgement, group));
     panel.text->setToolTip(Tip(judgement, group));
     if (const QString style = StyleOf(passed).arg(panel.text->objectName());
         style != panel.text->styleSheet()) {

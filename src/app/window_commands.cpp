@@ -5,6 +5,7 @@
 #include <utility>
 
 #include "app/version_dialog.h"
+#include "base/translation.h"
 #include "views/colour/colour_difference_window.h"
 #include "views/common/quiet_messages.h"
 #include "views/files/addinp_frm.h"
@@ -144,7 +145,7 @@ QDialog* WindowCommands::MakeSettingsList() {
   auto quiet = std::make_shared<QuietMessages>(messages_);
   auto printer = std::make_shared<CurrentPrinter>(state_, *quiet, dialogs_);
   const auto print = [quiet, printer](const table::Paint& paint) {
-    printer->Print(QStringLiteral("VEXA設定一覧"), SinglePage(paint));
+    printer->Print(Text::tr("VEXA設定一覧"), SinglePage(paint));
   };
   return new table(state_, print, &window_);
 }

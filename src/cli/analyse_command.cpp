@@ -175,8 +175,8 @@ void PrintJudgements(const std::vector<SlotReport>& reports) {
   Print(QStringLiteral("\nslot judgement\n"));
   for (const SlotReport& report : reports) {
     QStringList texts;
-    for (const QString& text : report.slot->judgement.panelTexts) {
-      if (!text.isEmpty()) {
+    for (std::size_t group = 0; group < kStandardGroupCount; ++group) {
+      if (const QString text = PanelText(report.slot->judgement, group); !text.isEmpty()) {
         texts << text;
       }
     }

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "base/number_text.h"
+#include "base/translation.h"
 #include "cli/command_line.h"
 #include "cli/console.h"
 #include "cli/program_settings.h"
@@ -59,23 +60,21 @@ QStringList Row(const QString& caption, const StandardLimits& limits, const QStr
 
 QString ToText(const StandardContents& contents) {
   const StandardSet& standard = contents.standard;
-  QList<QStringList> rows{{QStringLiteral("反射率"), OnOff(standard.useReflectance)}};
+  QList<QStringList> rows{{Text::tr("反射率"), OnOff(standard.useReflectance)}};
   for (std::size_t k = 0; k < kConditionCount; ++k) {
     rows << Row(ConditionCaption(k), standard.conditions[k],
                 QStringLiteral("%1 nm").arg(standard.wavelengths[k]));
   }
-  rows << Row(QStringLiteral("平均反射率"), standard.averageReflectance)
-       << Row(QStringLiteral("視感反射率"), standard.luminousReflectance)
-       << Row(QStringLiteral("波長値"), standard.wavelengthValue.limits,
-              standard.wavelengthValue.selector != 0 ? QStringLiteral("ピーク")
-                                                     : QStringLiteral("ボトム"))
-       << Row(QStringLiteral("クロマ"), standard.chroma)
-       << Row(QStringLiteral("色相角"), standard.hueAngle);
+  rows << Row(Text::tr("平均反射率"), standard.averageReflectance)
+       << Row(Text::tr("視感反射率"), standard.luminousReflectance)
+       << Row(Text::tr("波長値"), standard.wavelengthValue.limits,
+              standard.wavelengthValue.selector != 0 ? Text::tr("ピーク") : Text::tr("ボトム"))
+       << Row(Text::tr("クロマ"), standard.chroma) << Row(Text::tr("色相角"), standard.hueAngle);
   const auto marker = [&rows](const QString& caption, const ReferenceMarker& each) {
     rows << QStringList{caption, OnOff(each.shown), SignedText(each.value)};
   };
-  marker(QStringLiteral("基準値C*"), contents.chromaMarker);
-  marker(QStringLiteral("基準値h°"), contents.hueMarker);
+  marker(Text::tr("基準値C*"), contents.chromaMarker);
+  marker(Text::tr("基準値h°"), contents.hueMarker);
   return TextColumns(rows);
 }
 

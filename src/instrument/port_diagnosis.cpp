@@ -8,6 +8,8 @@
 #include <QFile>
 #include <QFileInfo>
 
+#include "base/translation.h"
+
 namespace vexa {
 namespace {
 
@@ -47,7 +49,7 @@ QStringList Users(const QString& path) {
 QString ExplainUse(const QString& path) {
   const QStringList users = Users(path);
   return users.isEmpty() ? QString()
-                         : QStringLiteral("%1 は他のプログラムが使用中です: %2")
+                         : Text::tr("%1 は他のプログラムが使用中です: %2")
                                .arg(DeviceName(path), users.join(QStringLiteral(", ")));
 }
 
@@ -56,22 +58,22 @@ QString ExplainUse(const QString& path) {
 QString ExplainClosedPort(const QString& devicePath) {
   const QFileInfo device(devicePath);
   if (!device.exists()) {
-    return QStringLiteral("%1 という装置がありません。ケーブルとポート番号を確認して下さい。")
+    return Text::tr("%1 という装置がありません。ケーブルとポート番号を確認して下さい。")
         .arg(DeviceName(devicePath));
   }
   if (::access(QFile::encodeName(devicePath).constData(), R_OK | W_OK) != 0) {
-    return QStringLiteral("%1 を使う権限がありません。グループ %2 のユーザーだけが使えます。")
+    return Text::tr("%1 を使う権限がありません。グループ %2 のユーザーだけが使えます。")
         .arg(DeviceName(devicePath), device.group());
   }
   const QString use = ExplainUse(devicePath);
   return use.isEmpty()
-             ? QStringLiteral("%1 をシリアルポートとして開けません。").arg(DeviceName(devicePath))
+             ? Text::tr("%1 をシリアルポートとして開けません。").arg(DeviceName(devicePath))
              : use;
 }
 
 QString ExplainSilentPort(const QString& devicePath) {
   const QString use = ExplainUse(devicePath);
-  return use.isEmpty() ? QStringLiteral(
+  return use.isEmpty() ? Text::tr(
                              "%1 は開けましたが、コントローラから正しい応答がありません。"
                              "電源とケーブルを確認して下さい。")
                              .arg(DeviceName(devicePath))

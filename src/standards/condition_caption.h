@@ -4,18 +4,20 @@
 #include <QString>
 #include <array>
 
+#include "base/translation.h"
 #include "standards/standard_set.h"
 
 namespace vexa {
 
-/// The caption of the condition at index 0..9.
+/// The caption, in the language in force, of the condition at index 0..9.
 [[nodiscard]] inline QString ConditionCaption(std::size_t index) {
-  static const std::array<QString, kConditionCount> kCaptions{
-      QStringLiteral("条件１"),  QStringLiteral("条件２"), QStringLiteral("条件３"),
-      QStringLiteral("条件４"),  QStringLiteral("条件５"), QStringLiteral("条件６"),
-      QStringLiteral("条件７"),  QStringLiteral("条件８"), QStringLiteral("条件９"),
-      QStringLiteral("条件１０")};
-  return kCaptions.at(index);
+  static constexpr std::array<const char*, kConditionCount> kCaptions{
+      QT_TRANSLATE_NOOP("Text", "条件１"), QT_TRANSLATE_NOOP("Text", "条件２"),
+      QT_TRANSLATE_NOOP("Text", "条件３"), QT_TRANSLATE_NOOP("Text", "条件４"),
+      QT_TRANSLATE_NOOP("Text", "条件５"), QT_TRANSLATE_NOOP("Text", "条件６"),
+      QT_TRANSLATE_NOOP("Text", "条件７"), QT_TRANSLATE_NOOP("Text", "条件８"),
+      QT_TRANSLATE_NOOP("Text", "条件９"), QT_TRANSLATE_NOOP("Text", "条件１０")};
+  return Text::tr(kCaptions.at(index));
 }
 
 }  // namespace vexa

@@ -7,31 +7,31 @@
 
 #include "base/arithmetic.h"
 #include "base/number_text.h"
+#include "base/translation.h"
 #include "standards/reflectance_band.h"
 
 namespace vexa {
 namespace {
 
 struct GroupTexts {
-  QString pass;
-  QString fail;
-  QString marginPattern;
-  QString unit;
+  const char* pass;
+  const char* fail;
+  const char16_t* marginPattern;
+  const char* unit;
 };
 
-const std::array<GroupTexts, kStandardGroupCount> kTexts{{
-    {QStringLiteral("反射率:OK"), QStringLiteral("反射率:NG"), QStringLiteral("0.000#"),
-     QStringLiteral(" %")},
-    {QStringLiteral("平均反射率:OK"), QStringLiteral("平均反射率:NG"), QStringLiteral("0.000#"),
-     QStringLiteral(" %")},
-    {QStringLiteral("視感反射率:OK"), QStringLiteral("視感反射率:NG"), QStringLiteral("0.000#"),
-     QStringLiteral(" %")},
-    {QStringLiteral("波長:OK"), QStringLiteral("波長:NG"), QStringLiteral("0.###"),
-     QStringLiteral(" nm")},
-    {QStringLiteral("クロマC*:OK"), QStringLiteral("クロマC*:NG"), QStringLiteral("0.00##"),
-     QString()},
-    {QStringLiteral("色相角h[deg]:OK"), QStringLiteral("色相角h[deg]:NG"), QStringLiteral("0.00##"),
-     QStringLiteral("°")},
+constexpr std::array<GroupTexts, kStandardGroupCount> kTexts{{
+    {QT_TRANSLATE_NOOP("Text", "反射率:OK"), QT_TRANSLATE_NOOP("Text", "反射率:NG"), u"0.000#",
+     " %"},
+    {QT_TRANSLATE_NOOP("Text", "平均反射率:OK"), QT_TRANSLATE_NOOP("Text", "平均反射率:NG"),
+     u"0.000#", " %"},
+    {QT_TRANSLATE_NOOP("Text", "視感反射率:OK"), QT_TRANSLATE_NOOP("Text", "視感反射率:NG"),
+     u"0.000#", " %"},
+    {QT_TRANSLATE_NOOP("Text", "波長:OK"), QT_TRANSLATE_NOOP("Text", "波長:NG"), u"0.###", " nm"},
+    {QT_TRANSLATE_NOOP("Text", "クロマC*:OK"), QT_TRANSLATE_NOOP("Text", "クロマC*:NG"), u"0.00##",
+     ""},
+    {QT_TRANSLATE_NOOP("Text", "色相角h[deg]:OK"), QT_TRANSLATE_NOOP("Text", "色相角h[deg]:NG"),
+     u"0.00##", "°"},
 }};
 
 bool HueInRange(const StandardLimits& limits, double hueDeg) {
@@ -122,10 +122,15 @@ Judgement JudgeStandards(const ReflectanceSpectrum& reflectance, const ColourRes
   group(StandardGroup::kHueAngle) = JudgeHue(standard.hueAngle, ofColour(colour.h));
   for (std::size_t i = 0; i < kStandardGroupCount; ++i) {
     if (const auto passed = judgement.groups[i].passed) {
-      judgement.panelTexts[i] = *passed ? kTexts[i].pass : kTexts[i].fail;
+      judgement.panelTexts[i] = QString::fromUtf8(*passed ? kTexts[i].pass : kTexts[i].fail);
     }
   }
   return judgement;
+}
+
+QString PanelText(const Judgement& judgement, std::size_t group) {
+  const QString& text = judgement.panelTexts[group];
+  return text.isEmpty() ? text : Text::tr(text.toUtf8().constData());
 }
 
 QString MarginText(const Judgement& judgement, std::size_t group) {
@@ -137,7 +142,8 @@ QString MarginText(const Judgement& judgement, std::size_t group) {
                             ? QStringLiteral(" (%1 nm)").arg(judgement.bandMarginNm)
                             : QString();
   const GroupTexts& texts = kTexts[group];
-  return FormatNumber(std::abs(*margin), texts.marginPattern) + texts.unit + place;
+  return FormatNumber(std::abs(*margin), texts.marginPattern) + QString::fromUtf8(texts.unit) +
+         place;
 }
 
 }  // namespace vexa

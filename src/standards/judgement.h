@@ -52,11 +52,15 @@ inline constexpr std::size_t kStandardGroupCount = 6;
 
 struct Judgement {
   std::array<GroupJudgement, kStandardGroupCount> groups;
-  /// The text of each group's panel, label and verdict; empty when the group is not judged.
+  /// The text of each group's panel, label and verdict; empty when the group is not judged. It is
+  /// the source text, as JSON documents have it: PanelText() is what a user reads.
   std::array<QString, kStandardGroupCount> panelTexts;
   bool reflectancePassed = false;  ///< the reflectance band was judged and passed
   int bandMarginNm = 0;            ///< where the band's margin is smallest; 0 without a margin
 };
+
+/// The text of a group's panel in the language in force.
+[[nodiscard]] QString PanelText(const Judgement& judgement, std::size_t group);
 
 /// Judges a spectrum and its colour values; any content of `standard` is safe. A colour that was
 /// not computed fails what asks for it, without a margin.

@@ -8,6 +8,7 @@
 #include <QPushButton>
 #include <QShortcut>
 #include <QVBoxLayout>
+#include <array>
 #include <cmath>
 #include <limits>
 #include <memory>
@@ -58,6 +59,24 @@ QStringList DifferenceTexts(const std::optional<LabColour>& standard,
   return texts;
 }
 
+// The headings, and what stands above the table.
+constexpr std::array kHeadings{QT_TRANSLATE_NOOP("Text", "ｽﾛｯﾄ"),
+                               QT_TRANSLATE_NOOP("Text", "試料No"),
+                               "ΔL*",
+                               "Δa*",
+                               "Δb*",
+                               "ΔC*",
+                               "ΔH*",
+                               "ΔE*ab",
+                               "ΔE00"};
+constexpr const char* kStandard = QT_TRANSLATE_NOOP("Text", "基準");
+constexpr const char* kIlluminant = QT_TRANSLATE_NOOP("Text", "光源");
+constexpr const char* kObserver = QT_TRANSLATE_NOOP("Text", "視野");
+
+QString Shown(const char* word) {
+  return Text::tr(word);
+}
+
 QString SlotText(int slot) {
   return QStringLiteral("Mes%1").arg(slot);
 }
@@ -75,7 +94,7 @@ ColourDifferenceWindow::ColourDifferenceWindow(const VEXATYPE& state, int select
       standard_(new QComboBox),
       table_(new QTableWidget) {
   setObjectName(QStringLiteral("ColourDifferenceWindow"));
-  setWindowTitle(QStringLiteral("色差測定"));
+  setWindowTitle(Text::tr("色差測定"));
   standard_->setObjectName(QStringLiteral("StandardSlot"));
   standard_->setMinimumWidth(180);
   standard_->setIconSize(QSize(22, 12));
@@ -85,10 +104,10 @@ ColourDifferenceWindow::ColourDifferenceWindow(const VEXATYPE& state, int select
   table_->setAlternatingRowColors(true);
   table_->setIconSize(QSize(22, 12));
   table_->verticalHeader()->hide();
-  const QStringList headers{
-      QStringLiteral("ｽﾛｯﾄ"), QStringLiteral("試料No"), QStringLiteral("ΔL*"),
-      QStringLiteral("Δa*"),  QStringLiteral("Δb*"),    QStringLiteral("ΔC*"),
-      QStringLiteral("ΔH*"),  QStringLiteral("ΔE*ab"),  QStringLiteral("ΔE00")};
+  QStringList headers;
+  for (const char* heading : kHeadings) {
+    headers << Text::tr(heading);
+  }
   table_->setColumnCount(static_cast<int>(headers.size()));
   table_->setHorizontalHeaderLabels(headers);
   table_->horizontalHeader()->setSectionResizeMode(QHeaderView::Stretch);
@@ -99,19 +118,19 @@ ColourDifferenceWindow::ColourDifferenceWindow(const VEXATYPE& state, int select
   table_->setTextElideMode(Qt::ElideMiddle);
   table_->horizontalHeader()->setHighlightSections(false);
 
-  auto* copy = new QPushButton(QStringLiteral("ｺﾋﾟｰ(&C)"));
+  auto* copy = new QPushButton(Text::tr("ｺﾋﾟｰ(&C)"));
   copy->setObjectName(QStringLiteral("CopyTable"));
   auto* print = new QPushButton(Text::tr("印刷(&P)"));
   print->setObjectName(QStringLiteral("PrintTable"));
   auto* save = new QPushButton(Text::tr("保存(&S)"));
   save->setObjectName(QStringLiteral("SaveTable"));
-  auto* closeButton = new QPushButton(QStringLiteral("閉じる"));
+  auto* closeButton = new QPushButton(Text::tr("閉じる"));
   closeButton->setObjectName(QStringLiteral("CloseDifference"));
   auto* conditions = new QLabel(
-      QStringLiteral("光源: %1   視野: %2°")
+      Text::tr("光源: %1   視野: %2°")
           .arg(IlluminantText(state.colour.illuminant), ObserverText(state.colour.observer2Deg)));
   auto* top = new QHBoxLayout;
-  top->addWidget(new QLabel(QStringLiteral("基準:")));
+  top->addWidget(new QLabel(Text::tr("基準:")));
   top->addWidget(standard_);
   top->addStretch();
   top->addWidget(conditions);
@@ -185,15 +204,16 @@ void ColourDifferenceWindow::AddRow(int slot, int standard) {
   }
 }
 
-QList<QStringList> ColourDifferenceWindow::Content() const {
+QList<QStringList> ColourDifferenceWindow::Content(QString (*word)(const char*)) const {
   QList<QStringList> rows{
-      {Text::tr("基準"), standard_->currentText().simplified()},
-      {Text::tr("光源"), IlluminantText(state_.colour.illuminant)},
-      {Text::tr("視野"), ObserverText(state_.colour.observer2Deg) + QStringLiteral("°")}};
+      {word(kStandard), standard_->currentText().simplified()},
+      {word(kIlluminant), IlluminantText(state_.colour.illuminant)},
+      {word(kObserver), ObserverText(state_.colour.observer2Deg) + QStringLiteral("°")}};
   for (int row = -1; row < table_->rowCount(); ++row) {
     QStringList cells;
     for (int column = 0; column < table_->columnCount(); ++column) {
-      cells << (row < 0 ? table_->horizontalHeaderItem(column) : table_->item(row, column))->text();
+      cells << (row < 0 ? word(kHeadings[static_cast<std::size_t>(column)])
+                        : table_->item(row, column)->text());
     }
     rows << cells;
   }
@@ -202,14 +222,14 @@ QList<QStringList> ColourDifferenceWindow::Content() const {
 
 void ColourDifferenceWindow::CopyTable() const {
   QString text;
-  for (const QStringList& cells : Content()) {
+  for (const QStringList& cells : Content(Shown)) {
     text += cells.join(u'\t') + u'\n';
   }
   QApplication::clipboard()->setText(text);
 }
 
 void ColourDifferenceWindow::Print() {
-  const QList<QStringList> content = Content();
+  const QList<QStringList> content = Content(Shown);
   PageTable conditions{.caption = windowTitle(),
                        .columns = {{{}, 300.0, Qt::AlignLeft}, {{}, 1500.0, Qt::AlignLeft, true}},
                        .rows = {}};
@@ -248,7 +268,9 @@ QCoro::Task<> ColourDifferenceWindow::Export() {
   }
   const QString path = WithExtension(choice->path, QStringLiteral(".csv"));
   FileText text;
-  for (QStringList cells : Content()) {
+  // A file is the same in every language.
+  const auto source = [](const char* word) { return QString::fromUtf8(word); };
+  for (QStringList cells : Content(source)) {
     for (QString& cell : cells) {
       if (cell.contains(u',') || cell.contains(u'"')) {
         cell = u'"' + cell.replace(u'"', QStringLiteral("\"\"")) + u'"';

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include <QCoroTask>
 #include <QComboBox>
+#include <QCoroTask>
 #include <QDialog>
 #include <QLabel>
 #include <QTableWidget>
@@ -32,7 +32,8 @@ class ColourDifferenceWindow : public QDialog {
   void FillTable();
   void AddRow(int slot, int standard);
   /// The rows with their headings; above them, in two columns, the standard and the conditions.
-  [[nodiscard]] QList<QStringList> Content() const;
+  /// `word` gives the headings their language.
+  [[nodiscard]] QList<QStringList> Content(QString (*word)(const char*)) const;
   void CopyTable() const;
   void Print();
   QCoro::Task<> Export();

@@ -7,6 +7,7 @@
 #include <QVBoxLayout>
 
 #include "base/number_text.h"
+#include "base/translation.h"
 #include "colour/colour_tables.h"
 #include "views/colour/background_picture.h"
 #include "views/colour/chromaticity_diagram.h"
@@ -53,7 +54,7 @@ void ColourPanel::Show(int selectedSlot) {
 }
 
 QWidget* ColourPanel::BuildDiagram() {
-  auto* group = new QGroupBox(QStringLiteral("色度図"));
+  auto* group = new QGroupBox(Text::tr("色度図"));
   diagram_ = new ChromaticityDiagram(picture_);
   AddExport(*diagram_, messages_, dialogs_, [this] { return ProposedName(state_); });
   diagram_->setMinimumHeight(ChromaticityDiagram::HeightFor(kSmallestDiagram));
@@ -73,15 +74,15 @@ QWidget* ColourPanel::BuildValues() {
   grid->setColumnStretch(1, 1);
   const QString degree = QStringLiteral("°");
   const QString percent = QStringLiteral("%");
-  observer_ = AddValue(*grid, "Observer", QStringLiteral("視野:"), degree);
-  illuminant_ = AddValue(*grid, "Illuminant", QStringLiteral("光源:"), {});
+  observer_ = AddValue(*grid, "Observer", Text::tr("視野:"), degree);
+  illuminant_ = AddValue(*grid, "Illuminant", Text::tr("光源:"), {});
   first_ = AddValue(*grid, "Coordinate1", {}, {});
   second_ = AddValue(*grid, "Coordinate2", {}, {});
   third_ = AddValue(*grid, "Coordinate3", {}, {});
   chroma_ = AddValue(*grid, "Chroma", QStringLiteral("C* :"), {});
   hue_ = AddValue(*grid, "Hue", QStringLiteral("h :"), degree);
-  average_ = AddValue(*grid, "AverageReflectance", QStringLiteral("平均反射率"), percent);
-  luminous_ = AddValue(*grid, "LuminousReflectance", QStringLiteral("視感反射率"), percent);
+  average_ = AddValue(*grid, "AverageReflectance", Text::tr("平均反射率"), percent);
+  luminous_ = AddValue(*grid, "LuminousReflectance", Text::tr("視感反射率"), percent);
   return values_;
 }
 
@@ -104,14 +105,14 @@ ColourPanel::Value ColourPanel::AddValue(QGridLayout& grid, const char* name,
 
 QWidget* ColourPanel::BuildStock() {
   auto* group = new QGroupBox;
-  accumulate_ = new QCheckBox(QStringLiteral("累積表示"));
+  accumulate_ = new QCheckBox(Text::tr("累積表示"));
   accumulate_->setObjectName(QStringLiteral("AccumulateChk"));
   count_ = new QLabel;
   count_->setObjectName(QStringLiteral("StockCount"));
-  clear_ = new QPushButton(QStringLiteral("ｸﾘｱ"));
+  clear_ = new QPushButton(Text::tr("ｸﾘｱ"));
   clear_->setObjectName(QStringLiteral("StockClear"));
-  clear_->setToolTip(QStringLiteral("最後の累積データを取り消します。"));
-  auto* open = new QPushButton(QStringLiteral("累積色度図"));
+  clear_->setToolTip(Text::tr("最後の累積データを取り消します。"));
+  auto* open = new QPushButton(Text::tr("累積色度図"));
   open->setObjectName(QStringLiteral("StockShow"));
   auto* grid = new QGridLayout(group);
   grid->setContentsMargins(12, 6, 12, 6);
@@ -132,7 +133,7 @@ QWidget* ColourPanel::BuildStock() {
 
 void ColourPanel::ShowValues(int selectedSlot) {
   const Flag xyMode = state_.display.xyMode;
-  values_->setTitle(QStringLiteral("測色値 (Mes%1)").arg(selectedSlot));
+  values_->setTitle(Text::tr("測色値 (Mes%1)").arg(selectedSlot));
   observer_.text->setText(ObserverText(state_.colour.observer2Deg));
   illuminant_.text->setText(IlluminantText(state_.colour.illuminant));
   first_.caption->setText(xyMode ? QStringLiteral("x :") : QStringLiteral("a :"));

@@ -4,6 +4,7 @@
 #include <QHBoxLayout>
 #include <QVBoxLayout>
 
+#include "base/translation.h"
 #include "colour/stock_file.h"
 #include "views/colour/chromaticity_diagram.h"
 #include "views/common/file_questions.h"
@@ -14,7 +15,9 @@ namespace vexa {
 namespace {
 
 constexpr int kSmallestDiagram = 420;
-const QString kFilter = QStringLiteral("累積ﾃﾞｰﾀ･ﾌｧｲﾙ(*.stc)|*.stc|");
+QString Filter() {
+  return Text::tr("累積ﾃﾞｰﾀ･ﾌｧｲﾙ(*.stc)|*.stc|");
+}
 
 }  // namespace
 
@@ -27,18 +30,18 @@ StockWindow::StockWindow(Session& session, MessageService& messages, FileDialogs
       dialogs_(dialogs),
       diagram_(new ChromaticityDiagram(std::move(picture))),
       count_(new QLabel),
-      load_(AddButton("StockLoad", QStringLiteral("読み込み"), [this] { Load(); })),
-      save_(AddButton("StockSave", QStringLiteral("保存"), [this] { Save(); })),
-      clear_(AddButton("StockClearOne", QStringLiteral("ｸﾘｱ"), [this] { ClearLast(); })),
-      clearAll_(AddButton("StockClearAll", QStringLiteral("全ｸﾘｱ"), [this] { ClearAll(); })),
-      close_(AddButton("StockClose", QStringLiteral("閉じる"), [this] { CloseWindow(); })) {
+      load_(AddButton("StockLoad", Text::tr("読み込み"), [this] { Load(); })),
+      save_(AddButton("StockSave", Text::tr("保存"), [this] { Save(); })),
+      clear_(AddButton("StockClearOne", Text::tr("ｸﾘｱ"), [this] { ClearLast(); })),
+      clearAll_(AddButton("StockClearAll", Text::tr("全ｸﾘｱ"), [this] { ClearAll(); })),
+      close_(AddButton("StockClose", Text::tr("閉じる"), [this] { CloseWindow(); })) {
   setObjectName(QStringLiteral("StockWindow"));
-  setWindowTitle(QStringLiteral("累積色度図表示"));
+  setWindowTitle(Text::tr("累積色度図表示"));
   diagram_->setMinimumSize(kSmallestDiagram, ChromaticityDiagram::HeightFor(kSmallestDiagram));
   AddExport(*diagram_, messages_, dialogs_, [this] { return ProposedName(state_); });
   count_->setObjectName(QStringLiteral("StockWindowCount"));
   count_->setAlignment(Qt::AlignCenter);
-  clear_->setToolTip(QStringLiteral("最後の累積データを取り消します。"));
+  clear_->setToolTip(Text::tr("最後の累積データを取り消します。"));
 
   auto* frame = new QFrame;
   frame->setFrameShape(QFrame::StyledPanel);
@@ -65,7 +68,7 @@ StockWindow::StockWindow(Session& session, MessageService& messages, FileDialogs
 
 void StockWindow::Refresh() {
   diagram_->ShowStock(state_);
-  count_->setText(QStringLiteral("累積数  %1 / %2")
+  count_->setText(Text::tr("累積数  %1 / %2")
                       .arg(state_.stock.Count)
                       .arg(static_cast<int>(ColourStock::kCapacity)));
   clear_->setEnabled(state_.stock.Count > 0);
@@ -91,8 +94,7 @@ void StockWindow::ClearLast() {
 }
 
 void StockWindow::Load() {
-  const std::optional<QString> path =
-      dialogs_.AskOpen(QStringLiteral("累積ﾃﾞｰﾀ･ﾌｧｲﾙを開く"), kFilter);
+  const std::optional<QString> path = dialogs_.AskOpen(Text::tr("累積ﾃﾞｰﾀ･ﾌｧｲﾙを開く"), Filter());
   if (!path) {
     return;
   }
@@ -106,7 +108,7 @@ void StockWindow::Load() {
 
 QCoro::Task<> StockWindow::Save() {
   const std::optional<SaveChoice> choice =
-      dialogs_.AskSave(QStringLiteral("累積ﾃﾞｰﾀ･ﾌｧｲﾙの保存"), kFilter);
+      dialogs_.AskSave(Text::tr("累積ﾃﾞｰﾀ･ﾌｧｲﾙの保存"), Filter());
   if (!choice) {
     co_return;
   }

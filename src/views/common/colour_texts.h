@@ -4,6 +4,7 @@
 #include <QStringList>
 
 #include "base/flag.h"
+#include "base/translation.h"
 
 namespace vexa {
 
@@ -14,7 +15,7 @@ namespace vexa {
 
 /// The kinds of chromaticity diagram: xy, a*b*.
 [[nodiscard]] inline QStringList DiagramTexts() {
-  return {QStringLiteral("XYZ色度図"), QStringLiteral("L*a*b色度図")};
+  return {Text::tr("XYZ色度図"), Text::tr("L*a*b色度図")};
 }
 
 /// How far the a*b* axes reach, by the scale 0, 1, 2.

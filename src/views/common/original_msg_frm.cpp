@@ -6,6 +6,8 @@
 #include <QToolButton>
 #include <QVBoxLayout>
 
+#include "base/translation.h"
+
 namespace vexa {
 namespace {
 
@@ -45,9 +47,9 @@ OriginalMsgFrm::OriginalMsgFrm(QWidget* parent)
     return Button{widget, result};
   };
   buttons_ = {button("btnOK", QStringLiteral("OK"), MessageResult::kOk),
-              button("btnYes", QStringLiteral("はい(&Y)"), MessageResult::kYes),
-              button("btnNo", QStringLiteral("いいえ(&N)"), MessageResult::kNo),
-              button("btnCancel", QStringLiteral("ｷｬﾝｾﾙ"), MessageResult::kCancel)};
+              button("btnYes", Text::tr("はい(&Y)"), MessageResult::kYes),
+              button("btnNo", Text::tr("いいえ(&N)"), MessageResult::kNo),
+              button("btnCancel", Text::tr("ｷｬﾝｾﾙ"), MessageResult::kCancel)};
 
   lblCmmnt_->setObjectName(QStringLiteral("lblCmmnt"));
   lblCmmnt_->setTextFormat(Qt::PlainText);
@@ -56,7 +58,7 @@ OriginalMsgFrm::OriginalMsgFrm(QWidget* parent)
   icon_->setFixedSize(kIconSize, kIconSize);
 
   unfold_->setObjectName(QStringLiteral("Unfold"));
-  unfold_->setText(QStringLiteral("詳細"));
+  unfold_->setText(Text::tr("詳細"));
   unfold_->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
   unfold_->setCheckable(true);
   unfold_->setAutoRaise(true);

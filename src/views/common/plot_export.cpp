@@ -9,6 +9,7 @@
 #include <QSvgGenerator>
 
 #include "base/replace_file.h"
+#include "base/translation.h"
 #include "views/common/file_questions.h"
 #include "views/common/pdf_text.h"
 #include "views/common/plot.h"
@@ -55,7 +56,7 @@ void Paint(QCustomPlot& plot, QPaintDevice& device, double scale) {
 QCoro::Task<> SavePicture(QCustomPlot& plot, MessageService& messages, FileDialogs& dialogs,
                           QString name) {
   const std::optional<SaveChoice> choice =
-      dialogs.AskSave(QStringLiteral("ｸﾞﾗﾌの保存"),
+      dialogs.AskSave(Text::tr("ｸﾞﾗﾌの保存"),
                       QStringLiteral("PNG(*.png)|*.png|SVG(*.svg)|*.svg|PDF(*.pdf)|*.pdf"), name);
   if (!choice) {
     co_return;
@@ -76,12 +77,12 @@ QCoro::Task<> SavePicture(QCustomPlot& plot, MessageService& messages, FileDialo
 void AddExport(QCustomPlot& plot, MessageService& messages, FileDialogs& dialogs,
                const std::function<QString()>& name) {
   plot.setContextMenuPolicy(Qt::ActionsContextMenu);
-  auto* copy = new QAction(QStringLiteral("ｸﾞﾗﾌをｺﾋﾟｰ"), &plot);
+  auto* copy = new QAction(Text::tr("ｸﾞﾗﾌをｺﾋﾟｰ"), &plot);
   copy->setShortcut(QKeySequence::Copy);
   copy->setShortcutContext(Qt::WidgetShortcut);
   QObject::connect(copy, &QAction::triggered, &plot,
                    [&plot] { QGuiApplication::clipboard()->setPixmap(Pixmap(plot)); });
-  auto* save = new QAction(QStringLiteral("ｸﾞﾗﾌの保存..."), &plot);
+  auto* save = new QAction(Text::tr("ｸﾞﾗﾌの保存..."), &plot);
   QObject::connect(save, &QAction::triggered, &plot, [&plot, &messages, &dialogs, name] {
     SavePicture(plot, messages, dialogs, name ? name() : QString());
   });

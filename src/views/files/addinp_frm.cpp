@@ -11,6 +11,7 @@
 
 #include "base/code_page.h"
 #include "base/date_text.h"
+#include "base/translation.h"
 #include "views/common/dialog_buttons.h"
 #include "views/common/scroll_body.h"
 
@@ -18,15 +19,16 @@ namespace vexa {
 namespace {
 
 struct Column {
-  const char16_t* caption;
+  const char* caption;
   const char* name;
   int width;
 };
 
-constexpr std::array<Column, 4> kColumnList{{{u"試料No", "SampNo_txt", 150},
-                                             {u"備考１", "MesPoint_txt", 190},
-                                             {u"備考２", "DevNo_txt", 190},
-                                             {u"測定日", "MesDate_txt", 150}}};
+constexpr std::array<Column, 4> kColumnList{
+    {{QT_TRANSLATE_NOOP("Text", "試料No"), "SampNo_txt", 150},
+     {QT_TRANSLATE_NOOP("Text", "備考１"), "MesPoint_txt", 190},
+     {QT_TRANSLATE_NOOP("Text", "備考２"), "DevNo_txt", 190},
+     {QT_TRANSLATE_NOOP("Text", "測定日"), "MesDate_txt", 150}}};
 
 std::array<QString, 4> Texts(const SampleInfo& info) {
   return {info.sampleNumber, info.remark1, info.remark2, DateTimeText(info.measuredAt)};
@@ -34,18 +36,16 @@ std::array<QString, 4> Texts(const SampleInfo& info) {
 
 }  // namespace
 
-AddinpFrm::AddinpFrm(Session& session, MessageService& messages, int selectedSlot,
-                     QWidget* parent)
-    : QDialog(parent), session_(session),
-      state_(session.State()), messages_(messages) {
+AddinpFrm::AddinpFrm(Session& session, MessageService& messages, int selectedSlot, QWidget* parent)
+    : QDialog(parent), session_(session), state_(session.State()), messages_(messages) {
   setObjectName(QStringLiteral("AddinpFrm"));
-  setWindowTitle(QStringLiteral("試料情報"));
+  setWindowTitle(Text::tr("試料情報"));
   auto* grid = new QGridLayout;
   grid->setHorizontalSpacing(6);
   grid->setVerticalSpacing(4);
   for (int column = 0; column < kColumns; ++column) {
     const Column& each = kColumnList[static_cast<std::size_t>(column)];
-    grid->addWidget(new QLabel(QString::fromUtf16(each.caption)), 0, column + 1);
+    grid->addWidget(new QLabel(Text::tr(each.caption)), 0, column + 1);
     grid->setColumnMinimumWidth(column + 1, each.width);
     grid->setColumnStretch(column + 1, 1);
   }
@@ -60,7 +60,7 @@ AddinpFrm::AddinpFrm(Session& session, MessageService& messages, int selectedSlo
               .arg(number));
       entry->setAccessibleName(
           QStringLiteral("%1 %2")
-              .arg(QString::fromUtf16(kColumnList[static_cast<std::size_t>(column)].caption))
+              .arg(Text::tr(kColumnList[static_cast<std::size_t>(column)].caption))
               .arg(number));
       entry->setMinimumHeight(26);
       entry->installEventFilter(this);

@@ -1,14 +1,15 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "views/files/data_file_commands.h"
 
+#include "base/translation.h"
 #include "files/data_file.h"
 #include "measurement/evaluation.h"
 
 namespace vexa {
 
 QCoro::Task<> OpenDataFile(Session& session, MessageService& messages, FileDialogs& dialogs) {
-  const std::optional<QString> path = dialogs.AskOpen(
-      QStringLiteral("ﾌｧｲﾙを開く"), QStringLiteral("ﾃﾞｰﾀ･ﾌｧｲﾙ(*.csv,*.dat)|*.csv;*.dat|"));
+  const std::optional<QString> path =
+      dialogs.AskOpen(Text::tr("ﾌｧｲﾙを開く"), Text::tr("ﾃﾞｰﾀ･ﾌｧｲﾙ(*.csv,*.dat)|*.csv;*.dat|"));
   if (!path) {
     co_return;
   }
@@ -38,7 +39,7 @@ QCoro::Task<> SaveDataFileAs(Session& session, MessageService& messages, FileDia
     co_return;
   }
   const std::optional<SaveChoice> choice = dialogs.AskSave(
-      QStringLiteral("ﾌｧｲﾙの名前を付けて保存"),
+      Text::tr("ﾌｧｲﾙの名前を付けて保存"),
       QStringLiteral("Data File(*.csv)|*.csv|Data File(*.dat)|*.dat|Data File(5)(*.dat)|*.dat"));
   if (!choice) {
     co_return;

@@ -3,6 +3,7 @@
 
 #include <QFileInfo>
 
+#include "base/translation.h"
 #include "files/configuration.h"
 #include "files/environment_file.h"
 #include "files/startup_file.h"
@@ -28,9 +29,9 @@ bool Write(const QString& path, const QString& name, Session& session, MessageSe
 }  // namespace
 
 bool OpenEnvironment(Session& session, MessageService& messages, FileDialogs& dialogs) {
-  const std::optional<QString> path = dialogs.AskOpen(
-      QStringLiteral("環境ﾌｧｲﾙを開く"),
-      QStringLiteral("環境ﾃﾞｰﾀ･ﾌｧｲﾙ(*.env)|*.env|") + QStringLiteral("全てのﾌｧｲﾙ(*.*)|*.*|"));
+  const std::optional<QString> path =
+      dialogs.AskOpen(Text::tr("環境ﾌｧｲﾙを開く"),
+                      Text::tr("環境ﾃﾞｰﾀ･ﾌｧｲﾙ(*.env)|*.env|") + Text::tr("全てのﾌｧｲﾙ(*.*)|*.*|"));
   if (!path || !MayKeepName(NameForStartup(session.State(), *path), messages)) {
     return false;
   }
@@ -61,9 +62,8 @@ QCoro::Task<bool> SaveEnvironment(Session& session, MessageService& messages) {
 }
 
 QCoro::Task<> SaveEnvironmentAs(Session& session, MessageService& messages, FileDialogs& dialogs) {
-  const std::optional<SaveChoice> choice =
-      dialogs.AskSave(QStringLiteral("環境ﾌｧｲﾙの名前を付けて保存"),
-                      QStringLiteral("Enviroment File (*.env)|*.env"));
+  const std::optional<SaveChoice> choice = dialogs.AskSave(
+      Text::tr("環境ﾌｧｲﾙの名前を付けて保存"), QStringLiteral("Enviroment File (*.env)|*.env"));
   if (!choice) {
     co_return;
   }

@@ -4,6 +4,7 @@
 #include <QGridLayout>
 
 #include "base/number_text.h"
+#include "base/translation.h"
 
 namespace vexa {
 namespace {
@@ -23,7 +24,7 @@ CursorStrip::CursorStrip(QWidget* parent)
   wavelength_->setMinimumWidth(fontMetrics().horizontalAdvance(QStringLiteral("  840 nm  ")));
   auto* layout = new QHBoxLayout(this);
   layout->setContentsMargins(4, 0, 0, 0);
-  layout->addWidget(new QLabel(QStringLiteral("波長")));
+  layout->addWidget(new QLabel(Text::tr("波長")));
   layout->addWidget(StepButton("CursorDown", -1));
   layout->addWidget(wavelength_);
   layout->addWidget(StepButton("CursorUp", 1));
@@ -78,8 +79,7 @@ void CursorStrip::Show(const std::vector<SpectrumCurve>& curves, int nm, QString
 QPushButton* CursorStrip::StepButton(const char* name, int by) {
   auto* button = new QPushButton(by < 0 ? QStringLiteral("◀") : QStringLiteral("▶"));
   button->setObjectName(QLatin1String(name));
-  button->setToolTip(by < 0 ? QStringLiteral("ｶｰｿﾙを短波長側へ")
-                            : QStringLiteral("ｶｰｿﾙを長波長側へ"));
+  button->setToolTip(by < 0 ? Text::tr("ｶｰｿﾙを短波長側へ") : Text::tr("ｶｰｿﾙを長波長側へ"));
   button->setFocusPolicy(Qt::NoFocus);
   button->setFixedWidth(34);
   button->setAutoRepeat(true);

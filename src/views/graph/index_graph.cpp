@@ -3,12 +3,13 @@
 
 #include <algorithm>
 
+#include "base/translation.h"
 #include "views/common/axis_scale.h"
 
 namespace vexa {
 
 IndexGraph::IndexGraph(QWidget* parent)
-    : SpectrumGraph(Abscissa::kWavelength, QStringLiteral("屈折率"), parent) {
+    : SpectrumGraph(Abscissa::kWavelength, Text::tr("屈折率"), parent) {
   setObjectName(QStringLiteral("IndexGraph"));
   ShowFullView();
 }

@@ -6,6 +6,7 @@
 #include <QLabel>
 #include <QVBoxLayout>
 
+#include "base/translation.h"
 #include "views/common/dialog_buttons.h"
 
 namespace vexa {
@@ -19,19 +20,19 @@ constexpr int kMostDigits = 9;  // of a number that an int holds
 JampWave::JampWave(const VEXATYPE& state, QWidget* parent)
     : QDialog(parent), wavelength_(new IntegerField) {
   setObjectName(QStringLiteral("JampWave"));
-  setWindowTitle(QStringLiteral("ｼﾞｬﾝﾌﾟ"));
+  setWindowTitle(Text::tr("ｼﾞｬﾝﾌﾟ"));
   wavelength_->setObjectName(QStringLiteral("Wavelength"));
   wavelength_->setMaxLength(kMostDigits);
   auto* unit = new QLabel(state.display.view == kReciprocalView ? QStringLiteral("[1/nm]")
                                                                 : QStringLiteral("[nm]"));
   unit->setObjectName(QStringLiteral("Unit"));
-  auto* frame = new QGroupBox(QStringLiteral("ｼﾞｬﾝﾌﾟ設定"));
+  auto* frame = new QGroupBox(Text::tr("ｼﾞｬﾝﾌﾟ設定"));
   auto* grid = new QGridLayout(frame);
   grid->setContentsMargins(16, 12, 16, 12);
   grid->setHorizontalSpacing(12);
   grid->setVerticalSpacing(10);
   grid->setColumnStretch(2, 1);
-  grid->addWidget(new QLabel(QStringLiteral("移動先の波長を指定して下さい")), 0, 0, 1, 3);
+  grid->addWidget(new QLabel(Text::tr("移動先の波長を指定して下さい")), 0, 0, 1, 3);
   grid->addWidget(wavelength_, 1, 0);
   grid->addWidget(unit, 1, 1);
   auto* layout = new QVBoxLayout(this);

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "views/graph/light_graph.h"
 
+#include "base/translation.h"
 #include "instrument/wavelength_mapping.h"
 #include "views/common/axis_scale.h"
 
@@ -12,7 +13,7 @@ const QColor kSaturationColour(0xb0, 0x3a, 0x2e);
 }  // namespace
 
 LightGraph::LightGraph(QWidget* parent)
-    : SpectrumGraph(Abscissa::kWavelength, QStringLiteral("光量 [count]"), parent) {
+    : SpectrumGraph(Abscissa::kWavelength, Text::tr("光量 [count]"), parent) {
   setObjectName(QStringLiteral("LightGraph"));
   auto* level = new QCPItemStraightLine(this);
   level->point1->setCoords(0.0, kLargestUnsaturated);
@@ -25,7 +26,7 @@ LightGraph::LightGraph(QWidget* parent)
   text->setPositionAlignment(Qt::AlignRight | Qt::AlignBottom);
   text->setFont(font());
   text->setColor(kSaturationColour);
-  text->setText(QStringLiteral("飽和 %1").arg(kLargestUnsaturated));
+  text->setText(Text::tr("飽和 %1").arg(kLargestUnsaturated));
   text->setSelectable(false);
   ShowFullView();
 }

@@ -3,6 +3,7 @@
 
 #include <algorithm>
 
+#include "base/translation.h"
 #include "views/common/axis_scale.h"
 #include "views/graph/band_drawing.h"
 #include "views/graph/minimum_mark.h"
@@ -18,7 +19,7 @@ constexpr double kFarLimit = 3.0;
 }  // namespace
 
 ReflectanceGraph::ReflectanceGraph(Abscissa abscissa, QWidget* parent)
-    : SpectrumGraph(abscissa, QStringLiteral("反射率 [%]"), parent),
+    : SpectrumGraph(abscissa, Text::tr("反射率 [%]"), parent),
       band_(std::make_unique<BandDrawing>(*this, abscissa)),
       minimum_(std::make_unique<MinimumMark>(*this, abscissa)) {
   setObjectName(abscissa == Abscissa::kWavelength ? QStringLiteral("ReflectanceGraph")

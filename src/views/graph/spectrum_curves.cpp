@@ -3,6 +3,7 @@
 
 #include <algorithm>
 
+#include "base/translation.h"
 #include "views/common/slot_style.h"
 #include "views/common/theme.h"
 
@@ -49,7 +50,7 @@ std::vector<SpectrumCurve> ReflectanceCurves(const VEXATYPE& state, int selected
                       .values = slot.reflectance});
   }
   if (state.display.showReferenceData && HoldsValues(state.referenceReflectance)) {
-    curves.push_back(NamedCurve(QStringLiteral("理論反射率"), theme::kMutedText, Qt::DashLine));
+    curves.push_back(NamedCurve(Text::tr("理論反射率"), theme::kMutedText, Qt::DashLine));
     curves.back().values = state.referenceReflectance;
   }
   return curves;
@@ -58,11 +59,11 @@ std::vector<SpectrumCurve> ReflectanceCurves(const VEXATYPE& state, int selected
 std::vector<SpectrumCurve> IndexCurves(const VEXATYPE& state) {
   std::vector<SpectrumCurve> curves;
   if (HoldsValues(state.filmIndex)) {
-    curves.push_back(NamedCurve(QStringLiteral("膜屈折率"), SlotColour(1), Qt::SolidLine));
+    curves.push_back(NamedCurve(Text::tr("膜屈折率"), SlotColour(1), Qt::SolidLine));
     curves.back().values = state.filmIndex;
   }
   if (HoldsValues(state.substrateIndex)) {
-    curves.push_back(NamedCurve(QStringLiteral("基板屈折率"), SlotColour(2), Qt::DashLine));
+    curves.push_back(NamedCurve(Text::tr("基板屈折率"), SlotColour(2), Qt::DashLine));
     curves.back().values = state.substrateIndex;
   }
   return curves;

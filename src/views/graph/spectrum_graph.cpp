@@ -4,6 +4,7 @@
 #include <algorithm>
 #include <cmath>
 
+#include "base/translation.h"
 #include "views/common/axis_scale.h"
 #include "views/common/fitted_legend.h"
 #include "views/common/theme.h"
@@ -15,7 +16,10 @@ namespace {
 constexpr int kMarkerSpacingNm = 40;
 // No end of a wide view in 1/λ lies farther.
 constexpr double kLongestNm = 2000.0;
-const QString kWavelengthLabel = QStringLiteral("波長 [nm]");
+
+QString WavelengthLabel() {
+  return Text::tr("波長 [nm]");
+}
 
 QVector<QCPGraphData> Points(const ReflectanceSpectrum& values, Abscissa abscissa) {
   QVector<QCPGraphData> points;
@@ -34,21 +38,21 @@ QVector<QCPGraphData> Points(const ReflectanceSpectrum& values, Abscissa absciss
 SpectrumGraph::SpectrumGraph(Abscissa abscissa, const QString& ordinateLabel, QWidget* parent)
     : Plot(parent), abscissa_(abscissa), cursor_(new QCPItemStraightLine(this)) {
   setFocusPolicy(Qt::StrongFocus);
-  xAxis->setLabel(abscissa == Abscissa::kWavelength ? kWavelengthLabel
+  xAxis->setLabel(abscissa == Abscissa::kWavelength ? WavelengthLabel()
                                                     : QStringLiteral("1/λ [1/µm]"));
   yAxis->setLabel(ordinateLabel);
   // Wide antialiased lines are drawn many times faster piece by piece.
   setPlottingHint(QCP::phFastPolylines);
   legend_ = PlaceLegendAbove();
   if (abscissa == Abscissa::kReciprocal) {
-    xAxis2->setLabel(kWavelengthLabel);
+    xAxis2->setLabel(WavelengthLabel());
     xAxis2->setTickLabels(true);
     connect(xAxis, qOverload<const QCPRange&>(&QCPAxis::rangeChanged), this,
             &SpectrumGraph::TickWavelengths);
   }
   BuildCursor();
 
-  auto* jump = new QAction(QStringLiteral("ｼﾞｬﾝﾌﾟ"), this);
+  auto* jump = new QAction(Text::tr("ｼﾞｬﾝﾌﾟ"), this);
   jump->setShortcut(Qt::Key_J);
   jump->setShortcutContext(Qt::WidgetShortcut);
   addAction(jump);

@@ -9,6 +9,7 @@
 #include <cmath>
 
 #include "base/number_text.h"
+#include "base/translation.h"
 
 namespace vexa {
 namespace {
@@ -61,8 +62,7 @@ QVariant SpectrumTableModel::headerData(int section, Qt::Orientation orientation
   if (orientation != Qt::Horizontal || (role != Qt::DisplayRole && role != Qt::ToolTipRole)) {
     return QAbstractTableModel::headerData(section, orientation, role);
   }
-  return section == 0 ? QStringLiteral("波長 [nm]")
-                      : curves_[static_cast<std::size_t>(section - 1)].name;
+  return section == 0 ? Text::tr("波長 [nm]") : curves_[static_cast<std::size_t>(section - 1)].name;
 }
 
 SpectrumTable::SpectrumTable(QWidget* parent)
@@ -76,11 +76,11 @@ SpectrumTable::SpectrumTable(QWidget* parent)
   horizontalHeader()->setTextElideMode(Qt::ElideMiddle);
   horizontalHeader()->setHighlightSections(false);
 
-  auto* copy = new QAction(QStringLiteral("ｺﾋﾟｰ"), this);
+  auto* copy = new QAction(Text::tr("ｺﾋﾟｰ"), this);
   copy->setShortcut(QKeySequence::Copy);
   copy->setShortcutContext(Qt::WidgetShortcut);
   connect(copy, &QAction::triggered, this, &SpectrumTable::CopySelection);
-  auto* all = new QAction(QStringLiteral("全て選択"), this);
+  auto* all = new QAction(Text::tr("全て選択"), this);
   connect(all, &QAction::triggered, this, &QTableView::selectAll);
   addActions({copy, all});
   setContextMenuPolicy(Qt::ActionsContextMenu);

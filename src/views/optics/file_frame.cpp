@@ -5,6 +5,8 @@
 #include <QLabel>
 #include <QPushButton>
 
+#include "base/translation.h"
+
 namespace vexa {
 
 FileFrame::FileFrame(const QString& caption, const QString& name, const QString& path,
@@ -19,7 +21,7 @@ FileFrame::FileFrame(const QString& caption, const QString& name, const QString&
   auto* row = new QHBoxLayout(this);
   row->setContentsMargins(16, 12, 16, 12);
   row->setSpacing(12);
-  row->addWidget(new QLabel(QStringLiteral("ﾌｧｲﾙ名")));
+  row->addWidget(new QLabel(Text::tr("ﾌｧｲﾙ名")));
   row->addWidget(path_, 1);
   row->addWidget(load);
   SetPath(path);

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "views/optics/history_plot.h"
 
+#include "base/translation.h"
 #include "optics/thickness.h"
 #include "views/common/theme.h"
 
@@ -14,7 +15,7 @@ constexpr int kPointStep = 10;  // the axis grows by so many points
 HistoryPlot::HistoryPlot(QWidget* parent)
     : Plot(parent), line_(addGraph()), cursorLine_(new QCPItemStraightLine(this)) {
   setObjectName(QStringLiteral("HistoryPlot"));
-  xAxis->setLabel(QStringLiteral("ﾃﾞｰﾀｲﾝﾃﾞｯｸｽ"));
+  xAxis->setLabel(Text::tr("ﾃﾞｰﾀｲﾝﾃﾞｯｸｽ"));
   xAxis->setSubTicks(false);
   yAxis->setNumberFormat(QStringLiteral("f"));
   yAxis->setNumberPrecision(0);
@@ -39,7 +40,7 @@ void HistoryPlot::Show(const ThicknessHistory& history, const ThicknessScale& sc
   xAxis->setTicker(ticker);
   xAxis->setRange(0.0, tens * kPointStep + 0.5 * tens);
   yAxis->setRange(scale.minimumNm, scale.maximumNm);
-  yAxis->setLabel(QStringLiteral("膜厚 ") + ThicknessUnit(history.physical));
+  yAxis->setLabel(Text::tr("膜厚 ") + ThicknessUnit(history.physical));
   cursorLine_->setVisible(cursor > 0);
   cursorLine_->point1->setCoords(cursor, scale.minimumNm);
   cursorLine_->point2->setCoords(cursor, scale.maximumNm);

@@ -6,6 +6,7 @@
 #include <algorithm>
 
 #include "base/number_text.h"
+#include "base/translation.h"
 #include "optics/thickness.h"
 #include "views/common/theme.h"
 #include "views/optics/history_plot.h"
@@ -64,13 +65,12 @@ void PaintHistoryPage(QPainter& painter, const QRectF& page, const ThicknessHist
   constexpr int kRows = ThicknessHistory::kCapacity / kColumns;
   constexpr double kColumnWidth = kPageWidth / kColumns;
   painter.save();
-  const QRectF body = BeginPage(painter, page, QStringLiteral("膜厚ｸﾞﾗﾌ"));
+  const QRectF body = BeginPage(painter, page, Text::tr("膜厚ｸﾞﾗﾌ"));
   DrawPlot(painter, {body.topLeft(), QSizeF(kPageWidth, kPlotHeight)}, history, scale);
   double top = body.top() + kPlotHeight + 14.0;
-  painter.drawText(QRectF(0.0, top, kPageWidth, kRowHeight), Qt::AlignLeft | Qt::AlignVCenter,
-                   QStringLiteral("全ﾃﾞｰﾀ数 %1    膜厚 %2")
-                       .arg(history.count)
-                       .arg(ThicknessUnit(history.physical)));
+  painter.drawText(
+      QRectF(0.0, top, kPageWidth, kRowHeight), Qt::AlignLeft | Qt::AlignVCenter,
+      Text::tr("全ﾃﾞｰﾀ数 %1    膜厚 %2").arg(history.count).arg(ThicknessUnit(history.physical)));
   top += 1.5 * kRowHeight;
   int point = 0;
   for (const double thicknessNm : history.Points()) {
@@ -85,8 +85,8 @@ void PaintHistoryPage(QPainter& painter, const QRectF& page, const ThicknessHist
 }
 
 QStringList WaveListTitles() {
-  return {QStringLiteral("No."), QStringLiteral("P/V"), QStringLiteral("波長[nm]"),
-          QStringLiteral("反射率[%]")};
+  return {QStringLiteral("No."), QStringLiteral("P/V"), Text::tr("波長[nm]"),
+          Text::tr("反射率[%]")};
 }
 
 void PaintWaveListPage(QPainter& painter, const QRectF& page, const QString& whose,
@@ -94,7 +94,7 @@ void PaintWaveListPage(QPainter& painter, const QRectF& page, const QString& who
   constexpr double kWhoseHeight = 2.0 * kRowHeight;
   constexpr double kColumnWidth = 110.0;
   painter.save();
-  const QRectF body = BeginPage(painter, page, QStringLiteral("波長リスト"));
+  const QRectF body = BeginPage(painter, page, Text::tr("波長リスト"));
   painter.drawText(QRectF(body.topLeft(), QSizeF(body.width(), kWhoseHeight)),
                    Qt::AlignLeft | Qt::AlignVCenter | Qt::TextWrapAnywhere, whose);
   const QStringList rows = ExtremumRows(list);

@@ -36,28 +36,29 @@ struct ModeTexts {
 
 constexpr double kLowestFixedValue = 0.1;
 
-const ModeTexts& Texts(RefSetDlg::Mode mode) {
-  static const ModeTexts kReference{QStringLiteral("ﾘﾌｧﾚﾝｽ設定"),
-                                    QStringLiteral("ﾘﾌｧﾚﾝｽ設定"),
-                                    QStringLiteral("反射率"),
-                                    QStringLiteral("[%]"),
-                                    Message::kReferenceOutOfRange,
-                                    110.0,
-                                    QStringLiteral("ﾘﾌｧﾚﾝｽ･ﾃﾞｰﾀﾌｧｲﾙ(*.ref)|*.ref|"),
-                                    QStringLiteral(".ref"),
-                                    Message::kReferenceFileReadError,
-                                    Message::kReferenceFileWriteError};
-  static const ModeTexts kThickness{QStringLiteral("膜厚設定"),
-                                    QStringLiteral("ｺｰﾄ屈折率設定"),
-                                    QStringLiteral("屈折率"),
-                                    QStringLiteral("[n]"),
-                                    Message::kIndexOutOfRange,
-                                    10.0,
-                                    QStringLiteral("ｲﾝﾃﾞｯｸｽ･ﾃﾞｰﾀﾌｧｲﾙ(*.ind)|*.ind|"),
-                                    QStringLiteral(".ind"),
-                                    Message::kIndexFileReadError,
-                                    Message::kIndexFileWriteError};
-  return mode == RefSetDlg::Mode::kReference ? kReference : kThickness;
+ModeTexts Texts(RefSetDlg::Mode mode) {
+  if (mode == RefSetDlg::Mode::kReference) {
+    return {Text::tr("ﾘﾌｧﾚﾝｽ設定"),
+            Text::tr("ﾘﾌｧﾚﾝｽ設定"),
+            Text::tr("反射率"),
+            QStringLiteral("[%]"),
+            Message::kReferenceOutOfRange,
+            110.0,
+            Text::tr("ﾘﾌｧﾚﾝｽ･ﾃﾞｰﾀﾌｧｲﾙ(*.ref)|*.ref|"),
+            QStringLiteral(".ref"),
+            Message::kReferenceFileReadError,
+            Message::kReferenceFileWriteError};
+  }
+  return {Text::tr("膜厚設定"),
+          Text::tr("ｺｰﾄ屈折率設定"),
+          Text::tr("屈折率"),
+          QStringLiteral("[n]"),
+          Message::kIndexOutOfRange,
+          10.0,
+          Text::tr("ｲﾝﾃﾞｯｸｽ･ﾃﾞｰﾀﾌｧｲﾙ(*.ind)|*.ind|"),
+          QStringLiteral(".ind"),
+          Message::kIndexFileReadError,
+          Message::kIndexFileWriteError};
 }
 
 }  // namespace
@@ -70,7 +71,8 @@ RefSetDlg::RefSetDlg(Mode mode, Session& session, MessageService& messages, File
       state_(session.State()),
       messages_(messages),
       dialogs_(dialogs),
-      original_(mode == Mode::kReference ? session.State().referenceSetting : session.State().thickness.coat),
+      original_(mode == Mode::kReference ? session.State().referenceSetting
+                                         : session.State().thickness.coat),
       pages_(new QTabWidget),
       kind_(new QButtonGroup(this)) {
   setObjectName(QStringLiteral("RefSetDlg"));
@@ -109,18 +111,18 @@ void RefSetDlg::accept() {
 }
 
 void RefSetDlg::BuildPages() {
-  const ModeTexts& texts = Texts(mode_);
+  const ModeTexts texts = Texts(mode_);
   const bool thickness = mode_ == Mode::kThickness;
   const QString coefficients = QStringLiteral("0.00000000E+00");
   measurement_ = new ThicknessMeasurementPage(state_.thickness);
-  fixed_ = new NumberFieldsFrame({QStringLiteral("固定ﾘﾌｧﾚﾝｽ反射率"),
+  fixed_ = new NumberFieldsFrame({Text::tr("固定ﾘﾌｧﾚﾝｽ反射率"),
                                   {texts.valueLabel},
                                   QStringLiteral("0.000000"),
                                   QStringLiteral("FixedValue"),
                                   texts.unit},
                                  std::span(&original_.fixedValue, 1));
   schott_ =
-      new NumberFieldsFrame({QStringLiteral("Schott分散式ﾊﾟﾗﾒｰﾀ"),
+      new NumberFieldsFrame({Text::tr("Schott分散式ﾊﾟﾗﾒｰﾀ"),
                              {QStringLiteral("A0"), QStringLiteral("A1"), QStringLiteral("A2"),
                               QStringLiteral("A3"), QStringLiteral("A4"), QStringLiteral("A5")},
                              coefficients,
@@ -128,7 +130,7 @@ void RefSetDlg::BuildPages() {
                              {}},
                             original_.schott);
   sellmeier_ =
-      new NumberFieldsFrame({QStringLiteral("Sellmeier分散式ﾊﾟﾗﾒｰﾀ"),
+      new NumberFieldsFrame({Text::tr("Sellmeier分散式ﾊﾟﾗﾒｰﾀ"),
                              {QStringLiteral("Sellmeier  A1"), QStringLiteral("Sellmeier  A2"),
                               QStringLiteral("Sellmeier  A3"), QStringLiteral("Sellmeier  B1"),
                               QStringLiteral("Sellmeier  B2"), QStringLiteral("Sellmeier  B3")},
@@ -136,22 +138,22 @@ void RefSetDlg::BuildPages() {
                              QStringLiteral("Sellmeier"),
                              {}},
                             original_.sellmeier);
-  indexFile_ = new FileFrame(QStringLiteral("分散ﾃﾞｰﾀﾌｧｲﾙ"), QStringLiteral("Index"),
-                             original_.indexFileName);
-  substrateFile_ = new FileFrame(QStringLiteral("基板屈折率"), QStringLiteral("Substrate"),
-                                 original_.dataFileName);
+  indexFile_ =
+      new FileFrame(Text::tr("分散ﾃﾞｰﾀﾌｧｲﾙ"), QStringLiteral("Index"), original_.indexFileName);
+  substrateFile_ =
+      new FileFrame(Text::tr("基板屈折率"), QStringLiteral("Substrate"), original_.dataFileName);
   connect(indexFile_, &FileFrame::LoadRequested, this, &RefSetDlg::LoadIndexFile);
   connect(substrateFile_, &FileFrame::LoadRequested, this, &RefSetDlg::LoadSubstrateFile);
 
   pages_->setObjectName(QStringLiteral("Pages"));
   pages_->setUsesScrollButtons(false);
-  AddPage(QStringLiteral("膜厚測定"), measurement_, thickness);
-  AddPage(QStringLiteral("分散設定"), BuildKinds(), true);
-  AddPage(QStringLiteral("固定値"), fixed_, true);
-  AddPage(QStringLiteral("分散式１"), schott_, true);
-  AddPage(QStringLiteral("分散式２"), sellmeier_, true);
-  AddPage(QStringLiteral("ﾌｧｲﾙ"), indexFile_, true);
-  AddPage(QStringLiteral("基板屈折率"), substrateFile_, thickness);
+  AddPage(Text::tr("膜厚測定"), measurement_, thickness);
+  AddPage(Text::tr("分散設定"), BuildKinds(), true);
+  AddPage(Text::tr("固定値"), fixed_, true);
+  AddPage(Text::tr("分散式１"), schott_, true);
+  AddPage(Text::tr("分散式２"), sellmeier_, true);
+  AddPage(Text::tr("ﾌｧｲﾙ"), indexFile_, true);
+  AddPage(Text::tr("基板屈折率"), substrateFile_, thickness);
   pages_->setCurrentIndex(thickness ? 0 : 1);
 }
 
@@ -167,8 +169,8 @@ void RefSetDlg::AddPage(const QString& caption, QWidget* page, bool available) {
 QGroupBox* RefSetDlg::BuildKinds() {
   QGroupBox* frame = OptionFrame(
       Texts(mode_).kindFrame, QStringLiteral("Kind"),
-      {QStringLiteral("固定値設定"), QStringLiteral("分散式１"), QStringLiteral("分散式２"),
-       QStringLiteral("ﾌｧｲﾙ設定"), QStringLiteral("基板屈折率を使用し計算")},
+      {Text::tr("固定値設定"), Text::tr("分散式１"), Text::tr("分散式２"), Text::tr("ﾌｧｲﾙ設定"),
+       Text::tr("基板屈折率を使用し計算")},
       *kind_, original_.kind,
       {Text::tr("全波長で同じ値を使います。"), Text::tr("Schottの分散式で波長ごとに計算します。"),
        Text::tr("Sellmeierの分散式で波長ごとに計算します。"),
@@ -220,7 +222,7 @@ bool RefSetDlg::Apply(Edited& edited) {
 
 // Only what the chosen kind uses can be wrong: the other fields cannot be reached to mend them.
 bool RefSetDlg::TakeNumbers(DispersionSetting& setting) {
-  const ModeTexts& texts = Texts(mode_);
+  const ModeTexts texts = Texts(mode_);
   const bool fixed = fixed_->Take(std::span(&setting.fixedValue, 1));
   if (setting.kind == DispersionKind::kFixedValue &&
       !(fixed && setting.fixedValue >= kLowestFixedValue &&
@@ -250,7 +252,7 @@ void RefSetDlg::GoTo(const NumberFieldsFrame& frame) {
 }
 
 void RefSetDlg::LoadIndexFile() {
-  const ModeTexts& texts = Texts(mode_);
+  const ModeTexts texts = Texts(mode_);
   const std::optional<QString> path = dialogs_.AskOpen(texts.caption, texts.fileFilter);
   if (!path || !MayKeepName(*path, messages_)) {
     return;
@@ -265,7 +267,7 @@ void RefSetDlg::LoadIndexFile() {
 
 void RefSetDlg::LoadSubstrateFile() {
   const std::optional<QString> path =
-      dialogs_.AskOpen(Texts(mode_).caption, QStringLiteral("ﾃﾞｰﾀ･ﾌｧｲﾙ(*.csv,*.dat)|*.csv;*.dat|"));
+      dialogs_.AskOpen(Texts(mode_).caption, Text::tr("ﾃﾞｰﾀ･ﾌｧｲﾙ(*.csv,*.dat)|*.csv;*.dat|"));
   if (!path || !MayKeepName(*path, messages_)) {
     return;
   }
@@ -285,9 +287,9 @@ QCoro::Task<> RefSetDlg::Save() {
   if (!Apply(edited)) {
     co_return;
   }
-  const ModeTexts& texts = Texts(mode_);
+  const ModeTexts texts = Texts(mode_);
   const std::optional<SaveChoice> choice =
-      dialogs_.AskSave(texts.caption, QStringLiteral("全てのﾌｧｲﾙ(*.*)|*.*|") + texts.fileFilter);
+      dialogs_.AskSave(texts.caption, Text::tr("全てのﾌｧｲﾙ(*.*)|*.*|") + texts.fileFilter);
   if (!choice) {
     co_return;
   }

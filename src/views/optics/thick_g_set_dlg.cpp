@@ -19,9 +19,9 @@ ThickGSetDlg::ThickGSetDlg(const ThicknessScale& scale, bool autoScale, MessageS
       scale_(scale),
       minimum_(new NumberField(QStringLiteral("###0"))),
       maximum_(new NumberField(QStringLiteral("###0"))),
-      autoScale_(new QCheckBox(QStringLiteral("自動ｽｹｰﾙ"))) {
+      autoScale_(new QCheckBox(Text::tr("自動ｽｹｰﾙ"))) {
   setObjectName(QStringLiteral("ThickGSetDlg"));
-  setWindowTitle(QStringLiteral("膜厚ｸﾞﾗﾌ設定"));
+  setWindowTitle(Text::tr("膜厚ｸﾞﾗﾌ設定"));
   minimum_->setObjectName(QStringLiteral("Minimum"));
   minimum_->SetValue(scale.minimumNm);
   maximum_->setObjectName(QStringLiteral("Maximum"));
@@ -38,14 +38,14 @@ ThickGSetDlg::ThickGSetDlg(const ThicknessScale& scale, bool autoScale, MessageS
     }
   });
 
-  auto* frame = new QGroupBox(QStringLiteral("膜厚ｽｹｰﾙ"));
+  auto* frame = new QGroupBox(Text::tr("膜厚ｽｹｰﾙ"));
   auto* grid = new QGridLayout(frame);
   grid->setContentsMargins(16, 12, 16, 12);
   grid->setHorizontalSpacing(12);
   grid->setVerticalSpacing(8);
-  grid->addWidget(new QLabel(QStringLiteral("最大値")), 0, 0);
+  grid->addWidget(new QLabel(Text::tr("最大値")), 0, 0);
   grid->addWidget(maximum_, 0, 1);
-  grid->addWidget(new QLabel(QStringLiteral("最小値")), 1, 0);
+  grid->addWidget(new QLabel(Text::tr("最小値")), 1, 0);
   grid->addWidget(minimum_, 1, 1);
   grid->addWidget(autoScale_, 2, 0, 1, 2);
   auto* layout = new QVBoxLayout(this);

@@ -11,6 +11,7 @@
 #include <algorithm>
 
 #include "base/number_text.h"
+#include "base/translation.h"
 #include "measurement/evaluation.h"
 #include "views/common/file_questions.h"
 #include "views/common/plot_export.h"
@@ -43,8 +44,7 @@ QPushButton* Button(const char* name, const QString& caption) {
 }  // namespace
 
 ThickGraph::ThickGraph(Session& session, MessageService& messages, FileDialogs& dialogs,
-                       CurrentPrinter& printer, std::function<int()> selectedSlot,
-                       QWidget* parent)
+                       CurrentPrinter& printer, std::function<int()> selectedSlot, QWidget* parent)
     : QMainWindow(parent),
       session_(session),
       state_(session.State()),
@@ -58,7 +58,7 @@ ThickGraph::ThickGraph(Session& session, MessageService& messages, FileDialogs& 
       thickness_(Value("Thickness")),
       index_(Value("DataIndex")) {
   setObjectName(QStringLiteral("ThickGraph"));
-  setWindowTitle(QStringLiteral("膜厚ｸﾞﾗﾌ"));
+  setWindowTitle(Text::tr("膜厚ｸﾞﾗﾌ"));
   BuildMenus();
   AddExport(*plot_, messages_, dialogs_, [this] { return ProposedName(state_); });
   auto* frame = new QFrame;
@@ -92,28 +92,28 @@ void ThickGraph::BuildMenus() {
     action->setObjectName(QLatin1String(name));
     connect(action, &QAction::triggered, this, run);
   };
-  QMenu* file = menuBar()->addMenu(QStringLiteral("ﾌｧｲﾙ"));
-  add(file, "SaveAs", QStringLiteral("ﾌｧｲﾙの名前を付けて保存"), &ThickGraph::Save);
-  add(file, "Print", QStringLiteral("印刷"), &ThickGraph::Print);
-  add(menuBar(), "ClearAll", QStringLiteral("全ﾃﾞｰﾀ･ｸﾘｱ"), &ThickGraph::ClearAll);
-  QMenu* settings = menuBar()->addMenu(QStringLiteral("設定"));
-  add(settings, "GraphSettings", QStringLiteral("ｸﾞﾗﾌ設定"), &ThickGraph::AskScale);
+  QMenu* file = menuBar()->addMenu(Text::tr("ﾌｧｲﾙ"));
+  add(file, "SaveAs", Text::tr("ﾌｧｲﾙの名前を付けて保存"), &ThickGraph::Save);
+  add(file, "Print", Text::tr("印刷"), &ThickGraph::Print);
+  add(menuBar(), "ClearAll", Text::tr("全ﾃﾞｰﾀ･ｸﾘｱ"), &ThickGraph::ClearAll);
+  QMenu* settings = menuBar()->addMenu(Text::tr("設定"));
+  add(settings, "GraphSettings", Text::tr("ｸﾞﾗﾌ設定"), &ThickGraph::AskScale);
 }
 
 QWidget* ThickGraph::BuildInformation() {
-  auto* group = new QGroupBox(QStringLiteral("ﾃﾞｰﾀ情報"));
+  auto* group = new QGroupBox(Text::tr("ﾃﾞｰﾀ情報"));
   group->setFixedWidth(190);
   auto* values = new QFormLayout;
   values->setVerticalSpacing(8);
-  values->addRow(QStringLiteral("全ﾃﾞｰﾀ数"), count_);
-  values->addRow(QStringLiteral("膜厚"), thickness_);
-  values->addRow(QStringLiteral("ﾃﾞｰﾀｲﾝﾃﾞｯｸｽ"), index_);
+  values->addRow(Text::tr("全ﾃﾞｰﾀ数"), count_);
+  values->addRow(Text::tr("膜厚"), thickness_);
+  values->addRow(Text::tr("ﾃﾞｰﾀｲﾝﾃﾞｯｸｽ"), index_);
 
   auto* cursors = new QHBoxLayout;
   for (const int by : {-1, 1}) {
     auto* button = Button(by < 0 ? "CursorLeft" : "CursorRight",
                           by < 0 ? QStringLiteral("◀") : QStringLiteral("▶"));
-    button->setToolTip(by < 0 ? QStringLiteral("前のﾃﾞｰﾀ") : QStringLiteral("次のﾃﾞｰﾀ"));
+    button->setToolTip(by < 0 ? Text::tr("前のﾃﾞｰﾀ") : Text::tr("次のﾃﾞｰﾀ"));
     button->setAutoRepeat(true);
     button->setAutoRepeatDelay(kRepeatMs);
     button->setAutoRepeatInterval(kRepeatMs);
@@ -121,8 +121,8 @@ QWidget* ThickGraph::BuildInformation() {
     connect(button, &QPushButton::pressed, this, [this, by] { MoveCursor(by); });
     cursors->addWidget(button);
   }
-  auto* add = Button("AddPoint", QStringLiteral("追加"));
-  auto* remove = Button("DeletePoint", QStringLiteral("削除"));
+  auto* add = Button("AddPoint", Text::tr("追加"));
+  auto* remove = Button("DeletePoint", Text::tr("削除"));
   connect(add, &QPushButton::clicked, this, &ThickGraph::AddCurrent);
   connect(remove, &QPushButton::clicked, this, &ThickGraph::DeletePoint);
   auto* commands = new QHBoxLayout;
@@ -177,7 +177,7 @@ void ThickGraph::MoveCursor(int by) {
 
 QCoro::Task<> ThickGraph::Save() {
   const std::optional<SaveChoice> choice = dialogs_.AskSave(
-      QStringLiteral("ﾌｧｲﾙの名前を付けて保存"), QStringLiteral("Data File (*.thk)|*.thk"));
+      Text::tr("ﾌｧｲﾙの名前を付けて保存"), QStringLiteral("Data File (*.thk)|*.thk"));
   if (!choice) {
     co_return;
   }

@@ -5,6 +5,7 @@
 #include <QPushButton>
 
 #include "base/number_text.h"
+#include "base/translation.h"
 #include "measurement/evaluation.h"
 
 namespace vexa {
@@ -24,22 +25,23 @@ QLabel* Value(const QString& name) {
 }  // namespace
 
 ThicknessPanel::ThicknessPanel(Session& session, MessageService& messages, QWidget* parent)
-    : QGroupBox(QStringLiteral("膜厚"), parent),
+    : QGroupBox(Text::tr("膜厚"), parent),
       session_(session),
       state_(session.State()),
       messages_(messages),
-      automatic_(new QCheckBox(QStringLiteral("自動測定"))),
+      automatic_(new QCheckBox(Text::tr("自動測定"))),
       thickness_(Value(QStringLiteral("Thickness"))) {
   setObjectName(QStringLiteral("ThicknessPanel"));
   setFixedWidth(kWidth);
-  auto* compute = new QPushButton(QStringLiteral("膜厚測定"));
+  auto* compute = new QPushButton(Text::tr("膜厚測定"));
   compute->setObjectName(QStringLiteral("ThicknessButton"));
-  compute->setToolTip(QStringLiteral("選択ｽﾛｯﾄの膜厚を計算"));
+  compute->setToolTip(Text::tr("選択ｽﾛｯﾄの膜厚を計算"));
   automatic_->setObjectName(QStringLiteral("AutoMesThickChk"));
-  automatic_->setToolTip(QStringLiteral("測定後に膜厚を計算"));
+  automatic_->setToolTip(Text::tr("測定後に膜厚を計算"));
   automatic_->setChecked(state_.autoThickness);
   connect(compute, &QPushButton::clicked, this, &ThicknessPanel::ComputeThickness);
-  connect(automatic_, &QCheckBox::toggled, this, [this](bool on) { session_.SetAutoThickness(on); });
+  connect(automatic_, &QCheckBox::toggled, this,
+          [this](bool on) { session_.SetAutoThickness(on); });
 
   QFont large = font();
   large.setPixelSize(19);
@@ -57,9 +59,9 @@ ThicknessPanel::ThicknessPanel(Session& session, MessageService& messages, QWidg
     const QString number = QString::number(i + 1);
     ExtremumLine& line = lines_[static_cast<std::size_t>(i)];
     line = {Value(QStringLiteral("Wavelength") + number), Value(QStringLiteral("Index") + number)};
-    grid->addWidget(new QLabel(QStringLiteral("波長")), i + 2, 0);
+    grid->addWidget(new QLabel(Text::tr("波長")), i + 2, 0);
     grid->addWidget(line.wavelength, i + 2, 1);
-    auto* index = new QLabel(QStringLiteral("n%1：").arg(number));
+    auto* index = new QLabel(Text::tr("n%1：").arg(number));
     index->setContentsMargins(16, 0, 0, 0);
     grid->addWidget(index, i + 2, 2);
     grid->addWidget(line.index, i + 2, 3);

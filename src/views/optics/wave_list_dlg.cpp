@@ -8,6 +8,7 @@
 #include <QVBoxLayout>
 
 #include "base/date_text.h"
+#include "base/translation.h"
 #include "views/common/dialog_buttons.h"
 #include "views/optics/optics_print.h"
 #include "views/paper/current_printer.h"
@@ -23,7 +24,7 @@ WaveListDlg::WaveListDlg(const VEXATYPE& state, int selectedSlot, CurrentPrinter
                          QWidget* parent)
     : QDialog(parent), state_(state), slotText_(new QLabel), list_(new QTreeWidget) {
   setObjectName(QStringLiteral("WaveListDlg"));
-  setWindowTitle(QStringLiteral("波長リスト"));
+  setWindowTitle(Text::tr("波長リスト"));
   slotText_->setObjectName(QStringLiteral("WaveListSlot"));
   slotText_->setTextFormat(Qt::PlainText);
   slotText_->setWordWrap(true);
@@ -38,8 +39,8 @@ WaveListDlg::WaveListDlg(const VEXATYPE& state, int selectedSlot, CurrentPrinter
     list_->setColumnWidth(column, kColumnWidth);
     list_->headerItem()->setTextAlignment(column, Qt::AlignRight | Qt::AlignVCenter);
   }
-  QPushButton* print = DialogButton("Print", QStringLiteral("印刷"));
-  QPushButton* close = DialogButton("Close", QStringLiteral("閉じる"));
+  QPushButton* print = DialogButton("Print", Text::tr("印刷"));
+  QPushButton* close = DialogButton("Close", Text::tr("閉じる"));
   close->setDefault(true);
   connect(close, &QPushButton::clicked, this, &QDialog::accept);
   connect(print, &QPushButton::clicked, this, [this, &printer] {

@@ -7,6 +7,7 @@
 #include "base/file_kind.h"
 #include "base/header_version.h"
 #include "base/text_file.h"
+#include "base/translation.h"
 
 namespace vexa {
 namespace {
@@ -33,13 +34,13 @@ bool LeavesRoom(const PrintSettings& settings) {
 }
 
 QString PrinterText(const QString& printerName) {
-  return printerName.isEmpty() ? QStringLiteral("PDFﾌｧｲﾙ") : printerName;
+  return printerName.isEmpty() ? Text::tr("PDFﾌｧｲﾙ") : printerName;
 }
 
 QString PrintSettingsText(const PrintSettings& settings) {
   return QStringLiteral("%1　%2 %3")
       .arg(PrinterText(settings.printerName), QPageSize::name(settings.paper),
-           settings.landscape ? QStringLiteral("横") : QStringLiteral("縦"));
+           settings.landscape ? Text::tr("横") : Text::tr("縦"));
 }
 
 ReadResult<PrintSettings> ReadPrintFile(const QString& path) {

@@ -62,29 +62,29 @@ void DrawRule(QPainter& painter, double y, double width) {
 }  // namespace
 
 QString ReportTitle(const ReportRequest& request) {
-  return request.title.trimmed().isEmpty() ? QStringLiteral("反射率測定結果") : request.title;
+  return request.title.trimmed().isEmpty() ? Text::tr("反射率測定結果") : request.title;
 }
 
 PageHeader::PageHeader(const VEXATYPE& state, const ReportRequest& request)
     : title_(ReportTitle(request)) {
   const ColourSettings& colour = state.colour;
-  entries_ = {{QStringLiteral("測定者"),
-               request.operatorName.trimmed().isEmpty() ? kNone : request.operatorName},
-              {QStringLiteral("環境ﾌｧｲﾙ"), FileText(state.envFileName)},
-              {QStringLiteral("日付"), DateTimeText(request.date.startOfDay())},
-              {QStringLiteral("規格ﾌｧｲﾙ"), FileText(state.standardFileName)},
-              {QStringLiteral("測色条件"),
-               QStringLiteral("光源 %1　視野 %2°　平均 %3-%4 nm")
-                   .arg(IlluminantText(colour.illuminant), ObserverText(colour.observer2Deg))
-                   .arg(colour.avgFrom)
-                   .arg(colour.avgTo)},
-              {QStringLiteral("ﾃﾞｰﾀﾌｧｲﾙ"), request.unsaved || state.currentDataFileName.isEmpty()
-                                               ? Text::tr("未保存")
-                                               : FileText(state.currentDataFileName)},
-              {Text::tr("測定条件"), Text::tr("%1 ms × %2回")
-                                         .arg(state.instrument.samplingTimeMs)
-                                         .arg(state.instrument.averagingCount)},
-              {Text::tr("ﾘﾌｧﾚﾝｽ"), ReferenceText(state.referenceSetting)}};
+  entries_ = {
+      {Text::tr("測定者"), request.operatorName.trimmed().isEmpty() ? kNone : request.operatorName},
+      {Text::tr("環境ﾌｧｲﾙ"), FileText(state.envFileName)},
+      {Text::tr("日付"), DateTimeText(request.date.startOfDay())},
+      {Text::tr("規格ﾌｧｲﾙ"), FileText(state.standardFileName)},
+      {Text::tr("測色条件"),
+       Text::tr("光源 %1　視野 %2°　平均 %3-%4 nm")
+           .arg(IlluminantText(colour.illuminant), ObserverText(colour.observer2Deg))
+           .arg(colour.avgFrom)
+           .arg(colour.avgTo)},
+      {Text::tr("ﾃﾞｰﾀﾌｧｲﾙ"), request.unsaved || state.currentDataFileName.isEmpty()
+                                 ? Text::tr("未保存")
+                                 : FileText(state.currentDataFileName)},
+      {Text::tr("測定条件"), Text::tr("%1 ms × %2回")
+                                 .arg(state.instrument.samplingTimeMs)
+                                 .arg(state.instrument.averagingCount)},
+      {Text::tr("ﾘﾌｧﾚﾝｽ"), ReferenceText(state.referenceSetting)}};
 }
 
 QRectF PageHeader::Body(const QSizeF& page) {

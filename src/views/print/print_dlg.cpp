@@ -71,12 +71,12 @@ PrintDlg::PrintDlg(const VEXATYPE& state, int selectedSlot, ReportRequest& reque
       copies_(new QSpinBox),
       diagram_(new QCheckBox(Text::tr("色度図を加える"))) {
   setObjectName(QStringLiteral("PrintDlg"));
-  setWindowTitle(QStringLiteral("印刷"));
-  auto* preview = DialogButton("Preview", QStringLiteral("ﾌﾟﾚﾋﾞｭｰ"));
+  setWindowTitle(Text::tr("印刷"));
+  auto* preview = DialogButton("Preview", Text::tr("ﾌﾟﾚﾋﾞｭｰ"));
   connect(preview, &QPushButton::clicked, this,
           [this] { PrintPreview(printer_.Settings(), Pages(Entries()), this).exec(); });
   QWidget* buttons = OkCancelButtons(*this, preview);
-  buttons->findChild<QPushButton*>(QStringLiteral("OK"))->setText(QStringLiteral("印刷"));
+  buttons->findChild<QPushButton*>(QStringLiteral("OK"))->setText(Text::tr("印刷"));
   auto* layout = new QVBoxLayout(this);
   layout->setContentsMargins(18, 14, 18, 14);
   layout->setSpacing(12);
@@ -98,37 +98,37 @@ QWidget* PrintDlg::BuildHeader() {
   date_->setDisplayFormat(QStringLiteral("yyyy/M/d"));
   date_->setCalendarPopup(true);
   title_->setPlaceholderText(ReportTitle({}));
-  auto* group = new QGroupBox(QStringLiteral("見出し"));
+  auto* group = new QGroupBox(Text::tr("見出し"));
   auto* form = new QFormLayout(group);
-  form->addRow(QStringLiteral("ﾀｲﾄﾙ"), title_);
-  form->addRow(QStringLiteral("測定者"), operator_);
-  form->addRow(QStringLiteral("日付"), date_);
+  form->addRow(Text::tr("ﾀｲﾄﾙ"), title_);
+  form->addRow(Text::tr("測定者"), operator_);
+  form->addRow(Text::tr("日付"), date_);
   return group;
 }
 
 QWidget* PrintDlg::BuildSlots() {
   const MeasurementSlot* slot = state_.Slot(selectedSlot_);
   const bool selectable = slot != nullptr && slot->valid;
-  auto* group = new QGroupBox(QStringLiteral("印刷ﾃﾞｰﾀ"));
+  auto* group = new QGroupBox(Text::tr("印刷ﾃﾞｰﾀ"));
   auto* row = new QHBoxLayout(group);
-  slots_ = AddChoice(
-      *row, "Slots", group,
-      {{1, QStringLiteral("選択ﾃﾞｰﾀ (Mes%1)").arg(selectedSlot_)}, {0, QStringLiteral("全ﾃﾞｰﾀ")}},
-      request_.slot != 0 && selectable ? 1 : 0);
+  slots_ =
+      AddChoice(*row, "Slots", group,
+                {{1, Text::tr("選択ﾃﾞｰﾀ (Mes%1)").arg(selectedSlot_)}, {0, Text::tr("全ﾃﾞｰﾀ")}},
+                request_.slot != 0 && selectable ? 1 : 0);
   slots_->button(1)->setEnabled(selectable);
   return group;
 }
 
 QWidget* PrintDlg::BuildContent() {
   const auto id = [](ReportContent content) { return static_cast<int>(content); };
-  auto* group = new QGroupBox(QStringLiteral("印刷内容"));
+  auto* group = new QGroupBox(Text::tr("印刷内容"));
   auto* form = new QFormLayout(group);
   form->setHorizontalSpacing(18);
   auto* contents = new QHBoxLayout;
   content_ = AddChoice(*contents, "Content", group,
-                       {{id(ReportContent::kGraph), QStringLiteral("ｸﾞﾗﾌ")},
-                        {id(ReportContent::kText), QStringLiteral("ﾃｷｽﾄ")},
-                        {id(ReportContent::kBoth), QStringLiteral("ｸﾞﾗﾌとﾃｷｽﾄ")}},
+                       {{id(ReportContent::kGraph), Text::tr("ｸﾞﾗﾌ")},
+                        {id(ReportContent::kText), Text::tr("ﾃｷｽﾄ")},
+                        {id(ReportContent::kBoth), Text::tr("ｸﾞﾗﾌとﾃｷｽﾄ")}},
                        id(request_.content));
   auto* steps = new QHBoxLayout;
   step_ = AddChoice(*steps, "Step", group,
@@ -137,7 +137,7 @@ QWidget* PrintDlg::BuildContent() {
   diagram_->setChecked(request_.diagram);
   form->addRow(contents);
   form->addRow(diagram_);
-  form->addRow(QStringLiteral("ﾃｷｽﾄｽﾃｯﾌﾟ"), steps);
+  form->addRow(Text::tr("ﾃｷｽﾄｽﾃｯﾌﾟ"), steps);
   const auto enableSteps = [this](int content) {
     for (QAbstractButton* button : step_->buttons()) {
       button->setEnabled(content != static_cast<int>(ReportContent::kGraph));
@@ -151,7 +151,7 @@ QWidget* PrintDlg::BuildContent() {
 QWidget* PrintDlg::BuildPrinter() {
   printerText_->setObjectName(QStringLiteral("PrinterText"));
   printerText_->setTextFormat(Qt::PlainText);
-  QPushButton* settings = DialogButton("PrinterSettings", QStringLiteral("印刷設定"));
+  QPushButton* settings = DialogButton("PrinterSettings", Text::tr("印刷設定"));
   connect(settings, &QPushButton::clicked, this, [this] {
     PrintSetupDlg(printer_, messages_, this).exec();
     ShowPrinter();
@@ -159,13 +159,13 @@ QWidget* PrintDlg::BuildPrinter() {
   copies_->setObjectName(QStringLiteral("Copies"));
   copies_->setRange(1, kMostCopies);
   copies_->setFixedWidth(80);
-  auto* group = new QGroupBox(QStringLiteral("ﾌﾟﾘﾝﾀ"));
+  auto* group = new QGroupBox(Text::tr("ﾌﾟﾘﾝﾀ"));
   auto* row = new QHBoxLayout;
   row->addWidget(printerText_, 1);
   row->addWidget(settings);
   auto* form = new QFormLayout(group);
   form->addRow(row);
-  form->addRow(QStringLiteral("部数"), copies_);
+  form->addRow(Text::tr("部数"), copies_);
   return group;
 }
 

@@ -8,17 +8,18 @@
 #include <QPushButton>
 #include <QScreen>
 
+#include "base/translation.h"
 #include "views/common/dialog_buttons.h"
 
 namespace vexa {
 
 PrintPreview::PrintPreview(const PrintSettings& settings, const PageMaker& pages, QWidget* parent)
     : QDialog(parent),
-      back_(DialogButton("Back", QStringLiteral("前頁"))),
-      next_(DialogButton("Next", QStringLiteral("次頁"))),
+      back_(DialogButton("Back", Text::tr("前頁"))),
+      next_(DialogButton("Next", Text::tr("次頁"))),
       place_(new QLabel) {
   setObjectName(QStringLiteral("PrintPreview"));
-  setWindowTitle(QStringLiteral("印刷ﾌﾟﾚﾋﾞｭｰ"));
+  setWindowTitle(Text::tr("印刷ﾌﾟﾚﾋﾞｭｰ"));
   // The paper alone counts here, so that a printer which is away can be previewed too.
   auto* paper = new QPrinter(QPrinter::HighResolution);
   paper->setOutputFormat(QPrinter::PdfFormat);
@@ -35,9 +36,9 @@ PrintPreview::PrintPreview(const PrintSettings& settings, const PageMaker& pages
   connect(back_, &QPushButton::clicked, this, [turn] { turn(-1); });
   connect(next_, &QPushButton::clicked, this, [turn] { turn(1); });
 
-  QPushButton* whole = DialogButton("WholePage", QStringLiteral("全体"));
-  QPushButton* width = DialogButton("PageWidth", QStringLiteral("幅に合わせる"));
-  QPushButton* close = DialogButton("Close", QStringLiteral("閉じる"));
+  QPushButton* whole = DialogButton("WholePage", Text::tr("全体"));
+  QPushButton* width = DialogButton("PageWidth", Text::tr("幅に合わせる"));
+  QPushButton* close = DialogButton("Close", Text::tr("閉じる"));
   connect(whole, &QPushButton::clicked, preview_, &QPrintPreviewWidget::fitInView);
   connect(width, &QPushButton::clicked, preview_, &QPrintPreviewWidget::fitToWidth);
   connect(close, &QPushButton::clicked, this, &QDialog::accept);

@@ -9,6 +9,7 @@
 #include <QPrinterInfo>
 #include <QRadioButton>
 
+#include "base/translation.h"
 #include "views/common/dialog_buttons.h"
 #include "views/common/number_field.h"
 #include "views/common/option_frame.h"
@@ -21,15 +22,15 @@ PrintSetupDlg::PrintSetupDlg(CurrentPrinter& printer, MessageService& messages, 
       messages_(messages),
       printers_(new QComboBox),
       papers_(new QComboBox),
-      landscape_(new QRadioButton(QStringLiteral("横"))) {
+      landscape_(new QRadioButton(Text::tr("横"))) {
   setObjectName(QStringLiteral("PrintSetupDlg"));
-  setWindowTitle(QStringLiteral("印刷設定"));
+  setWindowTitle(Text::tr("印刷設定"));
   const PrintSettings& settings = printer.Settings();
-  auto* group = new QGroupBox(QStringLiteral("ﾌﾟﾘﾝﾀ"));
+  auto* group = new QGroupBox(Text::tr("ﾌﾟﾘﾝﾀ"));
   auto* form = new QFormLayout(group);
   printers_->setObjectName(QStringLiteral("Printer"));
   FillPrinters(settings.printerName);
-  form->addRow(QStringLiteral("ﾌﾟﾘﾝﾀ名"), printers_);
+  form->addRow(Text::tr("ﾌﾟﾘﾝﾀ名"), printers_);
   auto* layout = new QVBoxLayout(this);
   layout->setContentsMargins(18, 14, 18, 14);
   layout->setSpacing(12);
@@ -60,7 +61,7 @@ QWidget* PrintSetupDlg::BuildPaper(const PrintSettings& settings) {
     papers_->addItem(QPageSize::name(paper), paper);
   }
   papers_->setCurrentIndex(papers_->findData(settings.paper));
-  auto* portrait = new QRadioButton(QStringLiteral("縦"));
+  auto* portrait = new QRadioButton(Text::tr("縦"));
   portrait->setObjectName(QStringLiteral("Portrait"));
   landscape_->setObjectName(QStringLiteral("Landscape"));
   portrait->setChecked(!settings.landscape);
@@ -74,11 +75,11 @@ QWidget* PrintSetupDlg::BuildPaper(const PrintSettings& settings) {
   orientation->addWidget(portrait);
   orientation->addWidget(landscape_);
   orientation->addStretch();
-  auto* group = new QGroupBox(QStringLiteral("用紙"));
+  auto* group = new QGroupBox(Text::tr("用紙"));
   auto* form = new QFormLayout(group);
   form->setHorizontalSpacing(18);
-  form->addRow(QStringLiteral("ｻｲｽﾞ"), papers_);
-  form->addRow(QStringLiteral("向き"), orientation);
+  form->addRow(Text::tr("ｻｲｽﾞ"), papers_);
+  form->addRow(Text::tr("向き"), orientation);
   return group;
 }
 
@@ -87,11 +88,11 @@ QWidget* PrintSetupDlg::BuildMargins(const PrintSettings& settings) {
     const char* name;
     QString caption;
     double value;
-  } sides[] = {{"Left", QStringLiteral("左"), settings.marginsMm.left()},
-               {"Top", QStringLiteral("上"), settings.marginsMm.top()},
-               {"Right", QStringLiteral("右"), settings.marginsMm.right()},
-               {"Bottom", QStringLiteral("下"), settings.marginsMm.bottom()}};
-  auto* group = new QGroupBox(QStringLiteral("余白 [mm]"));
+  } sides[] = {{"Left", Text::tr("左"), settings.marginsMm.left()},
+               {"Top", Text::tr("上"), settings.marginsMm.top()},
+               {"Right", Text::tr("右"), settings.marginsMm.right()},
+               {"Bottom", Text::tr("下"), settings.marginsMm.bottom()}};
+  auto* group = new QGroupBox(Text::tr("余白 [mm]"));
   auto* grid = new QGridLayout(group);
   grid->setHorizontalSpacing(12);
   for (int i = 0; i < 4; ++i) {

@@ -35,8 +35,8 @@ const std::vector<ColourColumn>& ColourColumns() {
       {QStringLiteral("b*"), &ColourResult::b, QStringLiteral("0.0000"), true},
       {QStringLiteral("C*"), &ColourResult::C, QStringLiteral("##0.000"), true},
       {QStringLiteral("h[°]"), &ColourResult::h, QStringLiteral("##0.000"), true},
-      {QStringLiteral("平均[%]"), &ColourResult::Rm, QStringLiteral("##0.0##"), false},
-      {QStringLiteral("視感[%]"), &ColourResult::Y, QStringLiteral("##0.0##"), true}};
+      {Text::tr("平均[%]"), &ColourResult::Rm, QStringLiteral("##0.0##"), false},
+      {Text::tr("視感[%]"), &ColourResult::Y, QStringLiteral("##0.0##"), true}};
   return kColumns;
 }
 
@@ -57,7 +57,7 @@ QString LimitsText(const StandardLimits& limits) {
     return kNone;
   }
   const QString pattern = QStringLiteral("##0.0##");
-  return FormatNumber(limits.lower, pattern).trimmed() + QStringLiteral("～") +
+  return FormatNumber(limits.lower, pattern).trimmed() + Text::tr("～") +
          FormatNumber(limits.upper, pattern).trimmed();
 }
 
@@ -65,14 +65,14 @@ Row LimitsRow(const StandardSet& standard) {
   const auto points = std::ranges::count_if(
       standard.conditions, [](const StandardLimits& limits) { return bool{limits.enabled}; });
   const QString band = standard.useReflectance && standard.conditions.front().enabled
-                           ? QStringLiteral("%1点").arg(points)
+                           ? Text::tr("%1点").arg(points)
                            : kNone;
   const WavelengthValueLimits& wavelength = standard.wavelengthValue;
   const QString kind = !wavelength.limits.enabled ? QString()
                        : wavelength.selector != 0 ? QStringLiteral("P ")
                                                   : QStringLiteral("V ");
   return {{},
-          {QStringLiteral("規格")},
+          {Text::tr("規格")},
           {band},
           {LimitsText(standard.averageReflectance)},
           {LimitsText(standard.luminousReflectance)},
@@ -103,12 +103,12 @@ std::optional<bool> Overall(const Judgement& judgement) {
 }  // namespace
 
 PageTable SampleTable(const VEXATYPE& state) {
-  PageTable table{.caption = QStringLiteral("試料"),
+  PageTable table{.caption = Text::tr("試料"),
                   .columns = {{QStringLiteral("No."), kNumberWidth},
-                              {QStringLiteral("試料No"), kNameWidth, Qt::AlignLeft, true},
-                              {QStringLiteral("備考1"), 480.0, Qt::AlignLeft, true},
-                              {QStringLiteral("備考2"), 480.0, Qt::AlignLeft, true},
-                              {QStringLiteral("測定日"), 340.0}},
+                              {Text::tr("試料No"), kNameWidth, Qt::AlignLeft, true},
+                              {Text::tr("備考1"), 480.0, Qt::AlignLeft, true},
+                              {Text::tr("備考2"), 480.0, Qt::AlignLeft, true},
+                              {Text::tr("測定日"), 340.0}},
                   .rows = {}};
   AddRows(table, state, [](const MeasurementSlot& slot, Row& row) {
     const SampleInfo& info = slot.info;
@@ -121,13 +121,13 @@ PageTable SampleTable(const VEXATYPE& state) {
 }
 
 PageTable ValueTable(const VEXATYPE& state) {
-  PageTable table{.caption = QStringLiteral("測定値"),
+  PageTable table{.caption = Text::tr("測定値"),
                   .columns = {{QStringLiteral("No."), kNumberWidth}},
                   .rows = {}};
   for (const ColourColumn& column : ColourColumns()) {
     table.columns.push_back({column.title, 165.0});
   }
-  table.columns.push_back({QStringLiteral("膜厚"), 195.0});
+  table.columns.push_back({Text::tr("膜厚"), 195.0});
   AddRows(table, state, [&state](const MeasurementSlot& slot, Row& row) {
     // The slot itself does not tell whether its colour could be computed.
     ColourResult ignored;
@@ -176,16 +176,16 @@ std::optional<PageTable> BandTable(const VEXATYPE& state) {
 
 std::optional<PageTable> VerdictTable(const VEXATYPE& state) {
   constexpr double kWidth = 225.0;
-  PageTable table{.caption = QStringLiteral("合否判定"),
+  PageTable table{.caption = Text::tr("合否判定"),
                   .columns = {{QStringLiteral("No."), kNumberWidth},
-                              {QStringLiteral("試料No"), kNameWidth, Qt::AlignLeft},
-                              {QStringLiteral("反射率"), 150.0, Qt::AlignHCenter},
-                              {QStringLiteral("平均反射率"), kWidth, Qt::AlignHCenter},
-                              {QStringLiteral("視感反射率"), kWidth, Qt::AlignHCenter},
-                              {QStringLiteral("波長"), kWidth, Qt::AlignHCenter},
-                              {QStringLiteral("クロマC*"), kWidth, Qt::AlignHCenter},
-                              {QStringLiteral("色相角h[deg]"), kWidth, Qt::AlignHCenter},
-                              {QStringLiteral("総合"), 120.0, Qt::AlignHCenter}},
+                              {Text::tr("試料No"), kNameWidth, Qt::AlignLeft},
+                              {Text::tr("反射率"), 150.0, Qt::AlignHCenter},
+                              {Text::tr("平均反射率"), kWidth, Qt::AlignHCenter},
+                              {Text::tr("視感反射率"), kWidth, Qt::AlignHCenter},
+                              {Text::tr("波長"), kWidth, Qt::AlignHCenter},
+                              {Text::tr("クロマC*"), kWidth, Qt::AlignHCenter},
+                              {Text::tr("色相角h[deg]"), kWidth, Qt::AlignHCenter},
+                              {Text::tr("総合"), 120.0, Qt::AlignHCenter}},
                   .rows = {LimitsRow(state.standard)}};
   bool judged = false;
   AddRows(table, state, [&judged](const MeasurementSlot& slot, Row& row) {

@@ -4,6 +4,7 @@
 #include <algorithm>
 
 #include "base/number_text.h"
+#include "base/translation.h"
 #include "views/print/slot_tables.h"
 
 namespace vexa {
@@ -16,7 +17,7 @@ constexpr double kStretchGap = 50.0;
 constexpr int kRound = 10;
 
 PageTable EmptyTable() {
-  return {.caption = QStringLiteral("反射率 [%]"),
+  return {.caption = Text::tr("反射率 [%]"),
           .columns = {},
           .rows = {},
           .fontSize = 26,

@@ -19,14 +19,14 @@ CalibrationDlg::CalibrationDlg(Session& session, MessageService& messages, QWidg
       messages_(messages),
       shift_(new UpDownField(0, kLargestCalibrationShiftNm)) {
   setObjectName(QStringLiteral("CalibrationDlg"));
-  setWindowTitle(QStringLiteral("ｷｬﾘﾌﾞﾚｰｼｮﾝ"));
+  setWindowTitle(Text::tr("ｷｬﾘﾌﾞﾚｰｼｮﾝ"));
   shift_->setToolTip(
       Text::tr("光量の波長をずらす量です (0～7 nm)。測定済みの光量にも、次の計算から使われます。"));
   shift_->Field().setObjectName(QStringLiteral("Shift"));
   shift_->Field().SetValue(state_.instrument.calibrationShiftNm);
   auto* form = new QFormLayout;
   form->setHorizontalSpacing(24);
-  form->addRow(QStringLiteral("ｼﾌﾄ値"), shift_);
+  form->addRow(Text::tr("ｼﾌﾄ値"), shift_);
   auto* layout = new QVBoxLayout(this);
   layout->setContentsMargins(22, 20, 22, 16);
   layout->setSpacing(20);

@@ -44,10 +44,9 @@ std::int16_t Whole(double value) {
 }  // namespace
 
 dispset::dispset(Session& session, MessageService& messages, QWidget* parent)
-    : QDialog(parent), session_(session),
-      state_(session.State()), messages_(messages) {
+    : QDialog(parent), session_(session), state_(session.State()), messages_(messages) {
   setObjectName(QStringLiteral("dispset"));
-  setWindowTitle(QStringLiteral("表示設定"));
+  setWindowTitle(Text::tr("表示設定"));
   auto* body = new QWidget;
   auto* columns = new QHBoxLayout(body);
   columns->setContentsMargins(0, 0, 0, 0);
@@ -153,18 +152,17 @@ QButtonGroup* dispset::AddChoice(QGridLayout& grid, const char* name, const QStr
 
 void dispset::BuildWavelengths(QBoxLayout& column) {
   const DisplaySettings& display = state_.display;
-  const Group range(QStringLiteral("表示波長"));
-  fullScale_ = AddCheck(*range.grid, "FullScale", QStringLiteral("ﾌﾙｽｹｰﾙ"), display.fullScale,
+  const Group range(Text::tr("表示波長"));
+  fullScale_ = AddCheck(*range.grid, "FullScale", Text::tr("ﾌﾙｽｹｰﾙ"), display.fullScale,
                         Text::tr("波長軸を440～840 nmにします。"));
-  shortest_ =
-      AddNumber(*range.grid, "Shortest", QStringLiteral("最短波長"), display.shortestNm, kNm);
-  longest_ = AddNumber(*range.grid, "Longest", QStringLiteral("最長波長"), display.longestNm, kNm);
+  shortest_ = AddNumber(*range.grid, "Shortest", Text::tr("最短波長"), display.shortestNm, kNm);
+  longest_ = AddNumber(*range.grid, "Longest", Text::tr("最長波長"), display.longestNm, kNm);
   for (QWidget* field : {shortest_, longest_}) {
     field->setDisabled(fullScale_->isChecked());
     connect(fullScale_, &QCheckBox::toggled, field, &QWidget::setDisabled);
   }
-  const Group ticks(QStringLiteral("目盛り"));
-  wavelengthTick_ = AddNumber(*ticks.grid, "WavelengthTick", QStringLiteral("目盛り間隔"),
+  const Group ticks(Text::tr("目盛り"));
+  wavelengthTick_ = AddNumber(*ticks.grid, "WavelengthTick", Text::tr("目盛り間隔"),
                               display.wavelengthTickNm, kNm);
   column.addWidget(range.box);
   column.addWidget(ticks.box);
@@ -173,22 +171,19 @@ void dispset::BuildWavelengths(QBoxLayout& column) {
 void dispset::BuildReflectance(QBoxLayout& column) {
   const DisplaySettings& display = state_.display;
   const QString percent = QStringLiteral("[%]");
-  const Group range(QStringLiteral("表示反射率"));
-  autoScale_ = AddCheck(*range.grid, "AutoScale", QStringLiteral("自動ｽｹｰﾙ"), display.autoScale,
+  const Group range(Text::tr("表示反射率"));
+  autoScale_ = AddCheck(*range.grid, "AutoScale", Text::tr("自動ｽｹｰﾙ"), display.autoScale,
                         Text::tr("反射率軸を、表示中の曲線と規格に合わせます。"));
-  maximum_ =
-      AddNumber(*range.grid, "Maximum", QStringLiteral("最大"), display.maximumPercent, percent);
-  minimum_ =
-      AddNumber(*range.grid, "Minimum", QStringLiteral("最小"), display.minimumPercent, percent);
+  maximum_ = AddNumber(*range.grid, "Maximum", Text::tr("最大"), display.maximumPercent, percent);
+  minimum_ = AddNumber(*range.grid, "Minimum", Text::tr("最小"), display.minimumPercent, percent);
   for (QWidget* field : {maximum_, minimum_}) {
     field->setDisabled(autoScale_->isChecked());
     connect(autoScale_, &QCheckBox::toggled, field, &QWidget::setDisabled);
   }
-  const Group ticks(QStringLiteral("目盛り"));
-  autoTicks_ = AddCheck(*ticks.grid, "AutoTicks", QStringLiteral("自動目盛り"), display.autoTicks,
+  const Group ticks(Text::tr("目盛り"));
+  autoTicks_ = AddCheck(*ticks.grid, "AutoTicks", Text::tr("自動目盛り"), display.autoTicks,
                         Text::tr("目盛りをきりのよい値に置きます。"));
-  tick_ =
-      AddNumber(*ticks.grid, "Tick", QStringLiteral("目盛り間隔"), display.tickPercent, percent);
+  tick_ = AddNumber(*ticks.grid, "Tick", Text::tr("目盛り間隔"), display.tickPercent, percent);
   tick_->setDisabled(autoTicks_->isChecked());
   connect(autoTicks_, &QCheckBox::toggled, tick_, &QWidget::setDisabled);
   column.addWidget(range.box);
@@ -196,48 +191,48 @@ void dispset::BuildReflectance(QBoxLayout& column) {
 }
 
 void dispset::BuildText(QBoxLayout& column) {
-  const Group text(QStringLiteral("ﾃｷｽﾄ表示"));
-  textStep_ = AddNumber(*text.grid, "TextStep", QStringLiteral("表示ｽﾃｯﾌﾟ"),
-                        state_.display.textStepNm, kNm);
+  const Group text(Text::tr("ﾃｷｽﾄ表示"));
+  textStep_ =
+      AddNumber(*text.grid, "TextStep", Text::tr("表示ｽﾃｯﾌﾟ"), state_.display.textStepNm, kNm);
   column.addWidget(text.box);
 }
 
 void dispset::BuildColours(QBoxLayout& column) {
-  const Group diagram(QStringLiteral("色度図"));
+  const Group diagram(Text::tr("色度図"));
   diagram_ = AddChoice(*diagram.grid, "Diagram", DiagramTexts(), state_.display.xyMode ? 0 : 1,
                        Text::tr("測定画面の色度図です。累積する色の値もこれで決まります。"));
-  diagram.grid->addWidget(new QLabel(QStringLiteral("L*a*bｽｹｰﾙ")), diagram.grid->rowCount(), 0);
+  diagram.grid->addWidget(new QLabel(Text::tr("L*a*bｽｹｰﾙ")), diagram.grid->rowCount(), 0);
   labScale_ = AddChoice(*diagram.grid, "LabScale", LabScaleTexts(), state_.display.labScale,
                         Text::tr("a*b*色度図の軸の端の値です。"));
-  const Group illuminant(QStringLiteral("標準光源設定"));
+  const Group illuminant(Text::tr("標準光源設定"));
   illuminant_ =
       AddChoice(*illuminant.grid, "Illuminant",
                 {IlluminantText(1), IlluminantText(2), IlluminantText(3), IlluminantText(4)},
                 state_.colour.illuminant - 1, Text::tr("測色値を計算する標準光源です。"));
-  const Group observer(QStringLiteral("視野設定"));
-  observer_ = AddChoice(
-      *observer.grid, "Observer", {QStringLiteral("2度視野"), QStringLiteral("10度視野")},
-      state_.colour.observer2Deg ? 0 : 1, Text::tr("測色値を計算する等色関数の視野です。"));
+  const Group observer(Text::tr("視野設定"));
+  observer_ = AddChoice(*observer.grid, "Observer", {Text::tr("2度視野"), Text::tr("10度視野")},
+                        state_.colour.observer2Deg ? 0 : 1,
+                        Text::tr("測色値を計算する等色関数の視野です。"));
   for (const Group& group : {diagram, illuminant, observer}) {
     column.addWidget(group.box);
   }
 }
 
 void dispset::BuildReference(QBoxLayout& column) {
-  const Group shown(QStringLiteral("ﾘﾌｧﾚﾝｽﾃﾞｰﾀ"));
-  reference_ = AddCheck(*shown.grid, "ShowReference", QStringLiteral("ﾘﾌｧﾚﾝｽﾃﾞｰﾀを表示する"),
+  const Group shown(Text::tr("ﾘﾌｧﾚﾝｽﾃﾞｰﾀ"));
+  reference_ = AddCheck(*shown.grid, "ShowReference", Text::tr("ﾘﾌｧﾚﾝｽﾃﾞｰﾀを表示する"),
                         state_.display.showReferenceData,
                         Text::tr("ﾘﾌｧﾚﾝｽ試料の理論反射率をｸﾞﾗﾌと表に加えます。"));
   column.addWidget(shown.box);
 }
 
 void dispset::BuildMarks(QBoxLayout& column) {
-  const Group cursor(QStringLiteral("ｶｰｿﾙ表示"));
-  cursor_ = AddCheck(*cursor.grid, "ShowCursor", QStringLiteral("ｶｰｿﾙを表示する"),
-                     state_.display.showCursor,
-                     Text::tr("ｸﾞﾗﾌに波長のｶｰｿﾙを、その下に各曲線の値を示します。"));
-  const Group minimum(QStringLiteral("Min表示"));
-  minimumMark_ = AddCheck(*minimum.grid, "ShowMinimum", QStringLiteral("Min値に表示する"),
+  const Group cursor(Text::tr("ｶｰｿﾙ表示"));
+  cursor_ =
+      AddCheck(*cursor.grid, "ShowCursor", Text::tr("ｶｰｿﾙを表示する"), state_.display.showCursor,
+               Text::tr("ｸﾞﾗﾌに波長のｶｰｿﾙを、その下に各曲線の値を示します。"));
+  const Group minimum(Text::tr("Min表示"));
+  minimumMark_ = AddCheck(*minimum.grid, "ShowMinimum", Text::tr("Min値に表示する"),
                           state_.display.showMinimum,
                           Text::tr("選択ｽﾛｯﾄの最小値の位置に、波長と値を示します。"));
   auto* marks = new QHBoxLayout;
@@ -247,11 +242,11 @@ void dispset::BuildMarks(QBoxLayout& column) {
 }
 
 void dispset::BuildAverage(QBoxLayout& column) {
-  const Group average(QStringLiteral("平均反射率"));
-  averageShortest_ = AddNumber(*average.grid, "AverageShortest", QStringLiteral("最短波長"),
-                               state_.colour.avgFrom, kNm);
-  averageLongest_ = AddNumber(*average.grid, "AverageLongest", QStringLiteral("最長波長"),
-                              state_.colour.avgTo, kNm);
+  const Group average(Text::tr("平均反射率"));
+  averageShortest_ =
+      AddNumber(*average.grid, "AverageShortest", Text::tr("最短波長"), state_.colour.avgFrom, kNm);
+  averageLongest_ =
+      AddNumber(*average.grid, "AverageLongest", Text::tr("最長波長"), state_.colour.avgTo, kNm);
   column.addWidget(average.box);
 }
 

@@ -6,9 +6,9 @@
 #include <QHBoxLayout>
 #include <QLabel>
 
-#include "instrument/controller.h"
 #include "base/number_text.h"
 #include "base/translation.h"
+#include "instrument/controller.h"
 #include "views/common/dialog_buttons.h"
 #include "views/common/theme.h"
 #include "views/common/up_down_field.h"
@@ -25,8 +25,7 @@ constexpr int kUnitGap = 6;
 
 }  // namespace
 
-SamplingDlg::SamplingDlg(Session& session, MessageService& messages,
-                         QWidget* parent)
+SamplingDlg::SamplingDlg(Session& session, MessageService& messages, QWidget* parent)
     : QDialog(parent),
       session_(session),
       state_(session.State()),
@@ -35,12 +34,12 @@ SamplingDlg::SamplingDlg(Session& session, MessageService& messages,
       averaging_(new UpDownField(1, kMostLines)),
       hint_(new QLabel) {
   setObjectName(QStringLiteral("SamplingDlg"));
-  setWindowTitle(QStringLiteral("ｻﾝﾌﾟﾘﾝｸﾞ設定"));
+  setWindowTitle(Text::tr("ｻﾝﾌﾟﾘﾝｸﾞ設定"));
   averaging_->Field().setObjectName(QStringLiteral("Averaging"));
   averaging_->Field().SetValue(state_.instrument.averagingCount);
   time_->setObjectName(QStringLiteral("Time"));
   time_->SetValue(state_.instrument.samplingTimeMs);
-  auto* group = new QGroupBox(QStringLiteral("ｻﾝﾌﾟﾘﾝｸﾞ"));
+  auto* group = new QGroupBox(Text::tr("ｻﾝﾌﾟﾘﾝｸﾞ"));
   auto* form = new QFormLayout(group);
   form->setHorizontalSpacing(24);
   form->setVerticalSpacing(10);
@@ -51,12 +50,12 @@ SamplingDlg::SamplingDlg(Session& session, MessageService& messages,
   averagingRow->setSpacing(0);
   averagingRow->addWidget(averaging_, 1);
   averagingRow->addSpacing(unit->sizeHint().width() + kUnitGap - kArrowsWidth);
-  form->addRow(QStringLiteral("取り込み平均回数"), averagingRow);
+  form->addRow(Text::tr("取り込み平均回数"), averagingRow);
   auto* timeRow = new QHBoxLayout;
   timeRow->addWidget(time_, 1);
   timeRow->addWidget(unit);
   timeRow->setSpacing(kUnitGap);
-  form->addRow(QStringLiteral("ｻﾝﾌﾟﾘﾝｸﾞ時間"), timeRow);
+  form->addRow(Text::tr("ｻﾝﾌﾟﾘﾝｸﾞ時間"), timeRow);
   averaging_->setToolTip(Text::tr("一回の測定で取り込み、平均するﾗｲﾝ数です (1～16)。"));
   time_->setToolTip(
       Text::tr("一ﾗｲﾝの積算時間です (30～20000 ms)。長いほど光量が増え、飽和に近づきます。"));

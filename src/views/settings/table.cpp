@@ -7,6 +7,7 @@
 #include <QVBoxLayout>
 #include <algorithm>
 
+#include "base/translation.h"
 #include "views/common/dialog_buttons.h"
 #include "views/common/elided_label.h"
 #include "views/common/scroll_body.h"
@@ -110,9 +111,9 @@ QLayout* Boxes(const std::vector<SettingsGroup>& groups) {
 
 table::table(const VEXATYPE& state, const Print& print, QWidget* parent) : QDialog(parent) {
   setObjectName(QStringLiteral("table"));
-  setWindowTitle(QStringLiteral("VEXA設定一覧"));
-  QPushButton* printButton = DialogButton("Print", QStringLiteral("印刷"));
-  QPushButton* closeButton = DialogButton("Close", QStringLiteral("閉じる"));
+  setWindowTitle(Text::tr("VEXA設定一覧"));
+  QPushButton* printButton = DialogButton("Print", Text::tr("印刷"));
+  QPushButton* closeButton = DialogButton("Close", Text::tr("閉じる"));
   closeButton->setDefault(true);
   connect(closeButton, &QPushButton::clicked, this, &QDialog::accept);
   connect(printButton, &QPushButton::clicked, this, [this, print] {

@@ -3,6 +3,7 @@
 
 #include <limits>
 
+#include "base/translation.h"
 #include "standards/condition_caption.h"
 #include "views/common/theme.h"
 #include "views/standards/band_hint.h"
@@ -24,8 +25,7 @@ std::optional<std::int16_t> Wavelength(const IntegerField& field) {
 
 }  // namespace
 
-ConditionsGroup::ConditionsGroup()
-    : QGroupBox(QStringLiteral("反射率を使用する")), hint_(new QLabel) {
+ConditionsGroup::ConditionsGroup() : QGroupBox(Text::tr("反射率を使用する")), hint_(new QLabel) {
   setObjectName(QStringLiteral("useReflectance"));
   setCheckable(true);
   auto* grid = new QGridLayout(this);
@@ -33,7 +33,7 @@ ConditionsGroup::ConditionsGroup()
   grid->setVerticalSpacing(6);
   int column = 1;
   for (const QString& heading :
-       {QStringLiteral("波長 [nm]"), QStringLiteral("上限 [%]"), QStringLiteral("下限 [%]")}) {
+       {Text::tr("波長 [nm]"), Text::tr("上限 [%]"), Text::tr("下限 [%]")}) {
     grid->addWidget(new QLabel(heading), 0, column++, Qt::AlignRight);
   }
   rows_.reserve(kConditionCount);

@@ -3,6 +3,8 @@
 
 #include <QLabel>
 
+#include "base/translation.h"
+
 namespace vexa {
 namespace {
 
@@ -26,8 +28,8 @@ LimitsGroup::LimitsGroup(const QString& name, const QString& caption, const QStr
     grid_->addWidget(field, row, 1);
     grid_->addWidget(new QLabel(unit), row, 2);
   };
-  add(0, QStringLiteral("上限"), range_.upper);
-  add(1, QStringLiteral("下限"), range_.lower);
+  add(0, Text::tr("上限"), range_.upper);
+  add(1, Text::tr("下限"), range_.lower);
 }
 
 void LimitsGroup::AddBelow(QWidget* widget) {

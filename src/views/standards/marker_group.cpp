@@ -4,11 +4,13 @@
 #include <QHBoxLayout>
 #include <QLabel>
 
+#include "base/translation.h"
+
 namespace vexa {
 
 MarkerGroup::MarkerGroup(const QString& name, const QString& caption, const QString& valueCaption)
     : QGroupBox(caption),
-      shown_(new QCheckBox(QStringLiteral("表示する"))),
+      shown_(new QCheckBox(Text::tr("表示する"))),
       value_(new RealEntry(name + QStringLiteral("Value"))) {
   setObjectName(name);
   shown_->setObjectName(name + QStringLiteral("Shown"));

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "views/standards/standard_files.h"
 
+#include "base/translation.h"
 #include "standards/standard_file.h"
-#include "views/common/file_questions.h"
 #include "views/common/file_questions.h"
 
 namespace vexa {
@@ -12,8 +12,8 @@ StandardContents ContentsOf(const Settings& state) {
 }
 
 std::optional<StandardFile> LoadStandardFile(MessageService& messages, FileDialogs& dialogs) {
-  const std::optional<QString> path = dialogs.AskOpen(
-      QStringLiteral("規格ﾌｧｲﾙを開く"), QStringLiteral("Standard Files (*.std)|*.std"));
+  const std::optional<QString> path =
+      dialogs.AskOpen(Text::tr("規格ﾌｧｲﾙを開く"), QStringLiteral("Standard Files (*.std)|*.std"));
   if (!path || !MayKeepName(*path, messages)) {
     return std::nullopt;
   }
@@ -29,7 +29,7 @@ QCoro::Task<std::optional<QString>> SaveStandardFile(StandardContents contents, 
                                                      MessageService& messages,
                                                      FileDialogs& dialogs) {
   const std::optional<SaveChoice> choice =
-      dialogs.AskSave(QStringLiteral("規格ﾌｧｲﾙの名前を付けて保存"), filter);
+      dialogs.AskSave(Text::tr("規格ﾌｧｲﾙの名前を付けて保存"), filter);
   if (!choice) {
     co_return std::nullopt;
   }

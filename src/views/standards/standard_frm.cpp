@@ -39,31 +39,31 @@ StandardFrm::StandardFrm(Session& session, MessageService& messages, FileDialogs
       fileName_(session.State().standardFileName),
       conditions_(new ConditionsGroup),
       average_(new LimitsGroup(QStringLiteral("averageReflectance"),
-                               QStringLiteral("平均反射率を使用する"), QStringLiteral("%"))),
+                               Text::tr("平均反射率を使用する"), QStringLiteral("%"))),
       luminous_(new LimitsGroup(QStringLiteral("luminousReflectance"),
-                                QStringLiteral("視感反射率を使用する"), QStringLiteral("%"))),
+                                Text::tr("視感反射率を使用する"), QStringLiteral("%"))),
       wavelengthValue_(new LimitsGroup(QStringLiteral("wavelengthValue"),
-                                       QStringLiteral("波長値を使用する"), QStringLiteral("nm"))),
-      chroma_(new LimitsGroup(QStringLiteral("chroma"), QStringLiteral("クロマを使用する"),
+                                       Text::tr("波長値を使用する"), QStringLiteral("nm"))),
+      chroma_(new LimitsGroup(QStringLiteral("chroma"), Text::tr("クロマを使用する"),
                               QStringLiteral("C*"))),
-      hue_(new LimitsGroup(QStringLiteral("hueAngle"), QStringLiteral("色相角を使用する"),
+      hue_(new LimitsGroup(QStringLiteral("hueAngle"), Text::tr("色相角を使用する"),
                            QStringLiteral("°"))),
-      chromaMarker_(new MarkerGroup(QStringLiteral("chromaMarker"), QStringLiteral("基準値･クロマ"),
-                                    QStringLiteral("基準値C*"))),
-      hueMarker_(new MarkerGroup(QStringLiteral("hueMarker"), QStringLiteral("基準値･色相角"),
-                                 QStringLiteral("基準値h°"))),
-      peak_(new QRadioButton(QStringLiteral("ピーク"))),
-      bottom_(new QRadioButton(QStringLiteral("ボトム"))),
+      chromaMarker_(new MarkerGroup(QStringLiteral("chromaMarker"), Text::tr("基準値･クロマ"),
+                                    Text::tr("基準値C*"))),
+      hueMarker_(new MarkerGroup(QStringLiteral("hueMarker"), Text::tr("基準値･色相角"),
+                                 Text::tr("基準値h°"))),
+      peak_(new QRadioButton(Text::tr("ピーク"))),
+      bottom_(new QRadioButton(Text::tr("ボトム"))),
       fileLabel_(new ElidedLabel),
-      fileHint_(new QLabel(QStringLiteral("保存されていない規格は終了時に失われます。"))) {
+      fileHint_(new QLabel(Text::tr("保存されていない規格は終了時に失われます。"))) {
   setObjectName(QStringLiteral("StandardFrm"));
-  setWindowTitle(QStringLiteral("規格設定"));
+  setWindowTitle(Text::tr("規格設定"));
   if (!state_.standardsChanged) {
     inFile_ = ContentsOf(state_);
   }
   auto* ok = MakeButton("btnOK", QStringLiteral("OK"));
   ok->setDefault(true);
-  auto* cancel = MakeButton("btnCancel", QStringLiteral("ｷｬﾝｾﾙ"));
+  auto* cancel = MakeButton("btnCancel", Text::tr("ｷｬﾝｾﾙ"));
   connect(ok, &QPushButton::clicked, this, &QDialog::accept);
   connect(cancel, &QPushButton::clicked, this, &QDialog::reject);
 
@@ -92,7 +92,7 @@ StandardFrm::StandardFrm(Session& session, MessageService& messages, FileDialogs
 }
 
 QWidget* StandardFrm::BuildGroups() {
-  auto* range = new QLabel(QStringLiteral("<範囲:0°-360°>"));
+  auto* range = new QLabel(Text::tr("<範囲:0°-360°>"));
   range->setTextFormat(Qt::PlainText);
   range->setObjectName(QStringLiteral("hueRange"));
   hue_->AddBelow(range);
@@ -134,8 +134,8 @@ QWidget* StandardFrm::BuildPeakChoice() {
 }
 
 QLayout* StandardFrm::BuildFileRow() {
-  auto* load = MakeButton("load_bt", QStringLiteral("読み込み(&L)"));
-  auto* save = MakeButton("save_bt", QStringLiteral("保存(&S)"));
+  auto* load = MakeButton("load_bt", Text::tr("読み込み(&L)"));
+  auto* save = MakeButton("save_bt", Text::tr("保存(&S)"));
   connect(load, &QPushButton::clicked, this, &StandardFrm::Load);
   connect(save, &QPushButton::clicked, this, &StandardFrm::Save);
   fileLabel_->setObjectName(QStringLiteral("fileName"));
@@ -167,7 +167,7 @@ void StandardFrm::Show(const StandardContents& contents) {
 }
 
 void StandardFrm::ShowFileName() {
-  fileLabel_->setText(QStringLiteral("規格ﾌｧｲﾙ名") + QStringLiteral(":") + fileName_);
+  fileLabel_->setText(Text::tr("規格ﾌｧｲﾙ名") + QStringLiteral(":") + fileName_);
   fileLabel_->setToolTip(fileName_);
   fileHint_->setVisible(fileName_.isEmpty());
 }
@@ -181,12 +181,12 @@ QLineEdit* StandardFrm::TakeInto(StandardContents& contents, QString& where) con
     QLineEdit* field;
     QString where;
   } faults[] = {
-      {condition.field, QStringLiteral("反射率規格・") + ConditionCaption(condition.condition)},
-      {average_->TakeInto(standard.averageReflectance), QStringLiteral("平均反射率規格")},
-      {wavelengthValue_->TakeInto(standard.wavelengthValue.limits), QStringLiteral("波長値規格")},
-      {chroma_->TakeInto(standard.chroma), QStringLiteral("クロマ規格")},
-      {hue_->TakeInto(standard.hueAngle), QStringLiteral("色相角規格")},
-      {luminous_->TakeInto(standard.luminousReflectance), QStringLiteral("視感反射率規格")},
+      {condition.field, Text::tr("反射率規格・") + ConditionCaption(condition.condition)},
+      {average_->TakeInto(standard.averageReflectance), Text::tr("平均反射率規格")},
+      {wavelengthValue_->TakeInto(standard.wavelengthValue.limits), Text::tr("波長値規格")},
+      {chroma_->TakeInto(standard.chroma), Text::tr("クロマ規格")},
+      {hue_->TakeInto(standard.hueAngle), Text::tr("色相角規格")},
+      {luminous_->TakeInto(standard.luminousReflectance), Text::tr("視感反射率規格")},
       {chromaMarker_->TakeInto(contents.chromaMarker), chromaMarker_->title()},
       {hueMarker_->TakeInto(contents.hueMarker), hueMarker_->title()},
   };
