@@ -50,7 +50,7 @@ SampleStorage Session::StoreSample(int slotNumber, const RawSpectrum& counts,
   slot = fresh;
   ComputeColours(state_.colour, slot);
   if (state_.accumulate && slot.colour.IsComputed()) {
-    result.stock = Accumulate(slot.colour);
+    result.stock = state_.stock.StockAdd(slot.colour, state_.display.xyMode);
   }
   JudgeSlot(state_, slot);
   slot.info.measuredAt = clock_();
@@ -60,6 +60,9 @@ SampleStorage Session::StoreSample(int slotNumber, const RawSpectrum& counts,
   }
   state_.slotsSaved = false;
   emit SlotChanged(slotNumber);
+  if (result.stock) {
+    emit StockChanged();
+  }
   if (result.thickness == kSuccess) {
     result.history = AddToHistory(slot.thickness);
   }
@@ -82,7 +85,7 @@ std::optional<StockAddResult> Session::LoadSlots(const SlotTable& slotsRead,
     if (slot.valid) {
       ComputeColours(state_.colour, slot);
       if (state_.accumulate && slot.colour.IsComputed()) {
-        stocked = Accumulate(slot.colour);
+        stocked = state_.stock.StockAdd(slot.colour, state_.display.xyMode);
       }
       JudgeSlot(state_, slot);
     }
@@ -91,6 +94,9 @@ std::optional<StockAddResult> Session::LoadSlots(const SlotTable& slotsRead,
   state_.currentDataFileName = dataFileName;
   state_.slotsSaved = true;
   emit SlotsReplaced();
+  if (stocked) {
+    emit StockChanged();
+  }
   return stocked;
 }
 
@@ -204,12 +210,6 @@ bool Session::RemoveFromHistory(int point) {
 void Session::ClearHistory() {
   state_.thicknessHistory.Clear();
   emit HistoryChanged();
-}
-
-StockAddResult Session::Accumulate(const ColourResult& colour) {
-  const StockAddResult result = state_.stock.StockAdd(colour, state_.display.xyMode);
-  emit StockChanged();
-  return result;
 }
 
 // Points of two conditions are never mixed: accumulating ends where the conditions change.

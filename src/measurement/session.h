@@ -101,7 +101,6 @@ class Session : public QObject {
   void StockChanged();
 
  private:
-  StockAddResult Accumulate(const ColourResult& colour);
   void KeepStockPure();
 
   VEXATYPE state_;

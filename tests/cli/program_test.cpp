@@ -176,6 +176,7 @@ struct FaultCase {
   const char* fault;
   const char* json;  ///< the whole report but the file
   const char* messages;
+  const char* reason = "";    ///< why the link failed, told below the messages
   const char* patience = "";  ///< less than the program's own where a reply is awaited in vain
 };
 
@@ -193,11 +194,11 @@ TEST_F(WithInstrument, EveryFaultEndsInItsStatusAndMessageAndTheNextRunWorks) {
   const char* const kShort = "--reply-timeout 1500";
   const FaultCase cases[] = {
       {"no-reply@1", R"({"initialise":-15,"background":null,"reference":null,"samples":[]})",
-       kDevice, "--reply-timeout 400"},
-      {"no-reply@7", kBad15, kFailed, kShort},
+       kDevice, "com5", "--reply-timeout 400"},
+      {"no-reply@7", kBad15, kFailed, "com5", kShort},
       {"error-reply@9", kBad3, kFailed},
       {"short-line@10", kBad4, kFailed},
-      {"late-bytes@9 --late 3000", kBad15, kFailed, kShort},
+      {"late-bytes@9 --late 3000", kBad15, kFailed, "", kShort},
       {"byte-by-byte@9", kGood, ""},
       {"split-terminator@10", kGood, ""},
       {"noise-before@10", kBad4, kFailed},
@@ -205,8 +206,9 @@ TEST_F(WithInstrument, EveryFaultEndsInItsStatusAndMessageAndTheNextRunWorks) {
        kSaturated},
       {"saturation@19", R"({"initialise":0,"background":0,"reference":0,"samples":[1]})",
        kSaturated},
-      {"unplug@9", kBad3, kFailed},
-      {"unplug@19", R"({"initialise":0,"background":0,"reference":0,"samples":[-4]})", kFailed},
+      {"unplug@9", kBad3, kFailed, "/dev/ttyS4"},
+      {"unplug@19", R"({"initialise":0,"background":0,"reference":0,"samples":[-4]})", kFailed,
+       "/dev/ttyS4"},
   };
   for (const FaultCase& fault : cases) {
     SCOPED_TRACE(fault.fault);
@@ -215,7 +217,10 @@ TEST_F(WithInstrument, EveryFaultEndsInItsStatusAndMessageAndTheNextRunWorks) {
     QJsonObject report = outcome.Json();
     report.remove(QLatin1String("file"));
     EXPECT_EQ(report, Object(fault.json)) << outcome.out.constData();
-    EXPECT_EQ(outcome.err.toStdString(), fault.messages);
+    const qsizetype end = outcome.err.indexOf("vexa-cli: ");
+    EXPECT_EQ(outcome.err.first(end < 0 ? outcome.err.size() : end).toStdString(), fault.messages);
+    EXPECT_EQ(end < 0, *fault.reason == '\0') << outcome.err.constData();
+    EXPECT_TRUE(outcome.err.contains(fault.reason)) << outcome.err.constData();
     EXPECT_EQ(outcome.status, *fault.messages == '\0' ? 0 : 1);
     while (!files.Has("com5")) {
       ASSERT_TRUE(instrument.waitForReadyRead(test::kTimeoutMs)) << "the port comes back";

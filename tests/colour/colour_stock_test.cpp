@@ -83,6 +83,18 @@ TEST_F(StockFile, IsWrittenAndReadByteForByte) {
   }
 }
 
+TEST_F(StockFile, AnEmptyStockIsAStock) {
+  ColourStock stock;
+  stock.Record({true, 3, false});
+  EXPECT_FALSE(stock.DiffersFrom({false, 1, true})) << "no point was taken under its conditions";
+  ASSERT_TRUE(WriteStockFile(path_, stock));
+  EXPECT_EQ(files_.Read(kName),
+            "VEXA-KT 440-840 Ver3.21 Stock File\r\nTrue\r\n 3 \r\nFalse\r\n 0 \r\n");
+  const auto read = ReadStockFile(path_);
+  ASSERT_TRUE(read);
+  EXPECT_EQ(*read, stock);
+}
+
 TEST_F(StockFile, ABadFileIsNamedByItsDefectAndPlace) {
   struct Case {
     const char* defect;

@@ -100,18 +100,39 @@ TEST_F(Configuration, FollowsTheNamesFromFileToFile) {
 }
 
 TEST_F(Configuration, ABrokenEnvironmentIsToldAndNothingElseIsLost) {
-  state.measurementSlots[0].valid = true;
-  state.display.view = 5;
-  const QString path =
-      files.Write("cut.env", "VEXA-KT 440-840 Ver 3.21 Environment File\r\n 3 \r\n");
-  state.envFileName = files.Path("good.env");
-  const Environment environment = ReadEnvironment(path, files.Directory());
-  EXPECT_FALSE(ApplyEnvironment(environment, state));
-  EXPECT_EQ(environment.notices.size(), 1);
-  EXPECT_FALSE(state.envFileRead);
-  EXPECT_EQ(state.display.view, 0);
-  EXPECT_TRUE(state.measurementSlots[0].valid);
-  EXPECT_EQ(state.envFileName, QStringLiteral("vexa.env"));
+  // Every part of it differs from its default, and all but the end can be read.
+  written.display.view = 5;
+  written.display.tickPercent = 2.5;
+  written.colour = {4, false, 500, 600};
+  written.referenceSetting.fixedValue = 9.5;
+  written.thickness.enabled = true;
+  written.thickness.coat.fixedValue = 1.9;
+  written.standardFileName = QStringLiteral("mine.std");
+  written.instrument.samplingTimeMs = 30;
+  ASSERT_TRUE(WriteStartupFile(written));
+  ASSERT_TRUE(WriteEnvFile(files.Path("good.env"), written));
+  ASSERT_TRUE(WriteEnvFile(files.Path("defaults.env"), Settings()));
+  const QString path = files.Write("vexa.env", files.Read("good.env").chopped(7));
+  for (const bool atStart : {true, false}) {
+    state.measurementSlots[0].valid = true;
+    if (atStart) {
+      EXPECT_EQ(Load(), std::vector{Message::kEnvironmentReadError});
+    } else {
+      EXPECT_TRUE(
+          ApplyEnvironment(ReadEnvironment(files.Path("good.env"), files.Directory()), state));
+      EXPECT_EQ(state.display.view, 5);
+      EXPECT_TRUE(state.envFileRead);
+      const Environment environment = ReadEnvironment(path, files.Directory());
+      EXPECT_FALSE(ApplyEnvironment(environment, state));
+      EXPECT_EQ(environment.notices.size(), 1);
+    }
+    ASSERT_TRUE(WriteEnvFile(files.Path("now.env"), state));
+    EXPECT_EQ(files.Read("now.env").toStdString(), files.Read("defaults.env").toStdString())
+        << atStart;
+    EXPECT_FALSE(state.envFileRead);
+    EXPECT_EQ(state.envFileName, QStringLiteral("vexa.env"));
+    EXPECT_TRUE(state.measurementSlots[0].valid);
+  }
 }
 
 TEST_F(Configuration, CalibrationShiftsThatAreNoneLeaveTheDefault) {

@@ -93,9 +93,13 @@ TEST_F(EnvironmentFile, OlderLayoutKeepsWhatItLacks) {
   EXPECT_EQ(state.referenceSetting.indexFileName, QStringLiteral("r.ref"));
   EXPECT_EQ(state.thickness.coat.kind, 3);
   EXPECT_EQ(state.thickness.coat.schott[0], 41.0);
+  EXPECT_EQ(state.thickness.coat.indexFileName, QStringLiteral("i.ind"));
   EXPECT_EQ(state.thickness.coat.dataFileName, QStringLiteral("s.csv"));
   EXPECT_EQ(state.standardFileName, QStringLiteral("kept.std"));
   EXPECT_EQ(state.display.view, 6);
+  state = {};
+  EXPECT_EQ(Load(files.Write("old.env", old.replace("1.10", "1.00"))), 1.0);
+  EXPECT_EQ(state.instrument.samplingTimeMs, 500);
 }
 
 TEST_F(EnvironmentFile, ADefectHasItsMessageAndPlace) {
@@ -110,8 +114,10 @@ TEST_F(EnvironmentFile, ADefectHasItsMessageAndPlace) {
   using enum Message;
   const Case cases[] = {
       {"version 3.00", QByteArray(golden).replace("3.21", "3.00"), {}},
-      {"version 1.00 is the older layout", QByteArray(golden).replace("3.21", "1.00"),
+      {"version 2.99", QByteArray(golden).replace("3.21", "2.99"), {}},
+      {"version 2.98 is the older layout", QByteArray(golden).replace("3.21", "2.98"),
        kEnvironmentReadError, 2},
+      {"version 1.00 is too", QByteArray(golden).replace("3.21", "1.00"), kEnvironmentReadError, 2},
       {"version 0.99", QByteArray(golden).replace("3.21", "0.99"), kEnvironmentVersionError, 1,
        "0.99"},
       {"another model", QByteArray(golden).replace("VEXA", "OTHER"), kEnvironmentVersionError, 1,
@@ -168,12 +174,14 @@ TEST_F(EnvironmentFile, StartupFileHasNineLines) {
   EXPECT_EQ(state.envFileName, QStringLiteral("C:\\表.env"));
   EXPECT_EQ(state.instrument.controllerPort, 0);
   EXPECT_EQ(state.instrument.linePositions, (LinePositions{130, 320, 370, 400, 460, 0}));
+  EXPECT_TRUE(ReadStartupFile(files.Write("vexa.int", QByteArray(golden).replace("3.21", "1.00"))));
   QFile::remove(files.Path("vexa.int"));
   EXPECT_TRUE(WriteStartupFile(state));
   EXPECT_EQ(files.Read("vexa.int"), golden);
 
   for (const QByteArray& bytes :
-       {QByteArray(), golden.left(70), QByteArray(golden).replace("VEXA", "V")}) {
+       {QByteArray(), golden.left(70), QByteArray(golden).replace("VEXA", "V"),
+        QByteArray(golden).replace("3.21", "0.99")}) {
     EXPECT_FALSE(ReadStartupFile(files.Write("vexa.int", bytes)));
   }
 }

@@ -33,8 +33,7 @@ std::array<SessionImage, 4> Moments() {
   state.stock.Record({false, 3, false});
   (void)state.stock.StockAdd({}, false);
   state.stock.P2[0] = 12.5;
-  state.thicknessHistory.physical = false;
-  (void)state.thicknessHistory.Append(1500.25);
+  (void)state.thicknessHistory.Append(1500.25, false);
   moments[3] = TakeImage(state);
   return moments;
 }

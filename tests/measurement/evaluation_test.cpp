@@ -3,78 +3,17 @@
 
 #include <gtest/gtest.h>
 
-#include <cmath>
-
-#include "support/prepared_answers.h"
+#include "support/slots.h"
 #include "support/spectra.h"
 
 namespace vexa {
 namespace {
 
 using test::Flat;
+using test::Verdicts;
 
-class Evaluation : public testing::Test {
- protected:
-  // The verdicts of a slot: a letter for each group in order, "-" where it was not judged.
-  [[nodiscard]] std::string Verdicts(int number) const {
-    std::string verdicts;
-    for (const GroupJudgement& group : state.Slot(number)->judgement.groups) {
-      verdicts += !group.passed ? '-' : *group.passed ? 'y' : 'n';
-    }
-    return verdicts;
-  }
-
+TEST(Evaluation, AgainIsOfEveryValidSlotAndAccumulatesNothing) {
   VEXATYPE state;
-  test::PreparedAnswers messages;
-};
-
-TEST_F(Evaluation, LeavesNothingOfTheSampleBefore) {
-  MeasurementSlot& slot = *state.Slot(10);
-  state.accumulate = true;
-  for (StandardLimits* limits :
-       {&state.standard.averageReflectance, &state.standard.luminousReflectance,
-        &state.standard.chroma, &state.standard.hueAngle}) {
-    *limits = {true, 360.0, 0.0};
-  }
-  slot.reflectance = test::SpectrumOf([](int nm) { return 4.0 + nm / 1000.0; });
-  EvaluateSlot(state, slot, messages);
-  EXPECT_EQ(Verdicts(10), "-yy-yy");
-  EXPECT_NEAR(slot.colour.Rm, 4.64, 1e-12);
-  EXPECT_EQ(state.stock.Count, 1);
-  EXPECT_EQ(state.stock.P1[0], slot.colour.x);
-
-  slot.reflectance = Flat(0.0);
-  EvaluateSlot(state, slot, messages);
-  EXPECT_EQ(slot.colour, ColourResult()) << "a dark sample";
-  EXPECT_EQ(Verdicts(10), "-yn-nn") << "no colour meets no limit, though all begin at 0";
-  EXPECT_EQ(state.stock.Count, 1) << "and has no place in a diagram";
-
-  slot.reflectance = Flat(4.0);
-  state.colour.avgFrom = 700;
-  state.colour.avgTo = 699;
-  EvaluateSlot(state, slot, messages);
-  EXPECT_EQ(slot.colour.Rm, 0.0) << "a range that has no mean";
-  EXPECT_EQ(state.stock.Count, 2);
-  EXPECT_TRUE(messages.Take().empty());
-}
-
-TEST_F(Evaluation, TellsOfAFullStockAndJudgesAllTheSame) {
-  state.accumulate = true;
-  state.standard.averageReflectance = {true, 5.0, 0.0};
-  MeasurementSlot& slot = *state.Slot(1);
-  slot.reflectance = Flat(4.0);
-  for (int i = 1; i <= 101; ++i) {
-    slot.judgement = {};
-    EvaluateSlot(state, slot, messages);
-    EXPECT_EQ(messages.Take().size(), i < 100 ? 0U : 1U) << i;
-    EXPECT_EQ(Verdicts(1), "-y----");
-  }
-  state.accumulate = false;
-  EvaluateSlot(state, slot, messages);
-  EXPECT_TRUE(messages.Take().empty());
-}
-
-TEST_F(Evaluation, AgainIsOfEveryValidSlotAndAccumulatesNothing) {
   state.accumulate = true;
   for (int number = 1; number <= kSlotCount; ++number) {
     state.Slot(number)->reflectance = Flat(number);
@@ -82,31 +21,76 @@ TEST_F(Evaluation, AgainIsOfEveryValidSlotAndAccumulatesNothing) {
   }
   state.standard.averageReflectance = {true, 3.0, 0.0};
   EvaluateAgain(state);
-  EXPECT_EQ(Verdicts(1), "-y----");
-  EXPECT_EQ(Verdicts(2), "------");
-  EXPECT_EQ(Verdicts(10), "-n----");
+  EXPECT_EQ(Verdicts(*state.Slot(1)), "-y----");
+  EXPECT_EQ(Verdicts(*state.Slot(2)), "------");
+  EXPECT_EQ(Verdicts(*state.Slot(10)), "-n----");
   EXPECT_EQ(state.Slot(10)->colour.Rm, 10.0);
   EXPECT_EQ(state.Slot(2)->colour, ColourResult());
   EXPECT_EQ(state.stock.Count, 0);
 }
 
-TEST_F(Evaluation, ThicknessThatFailsLeavesNoneBehind) {
-  state.thickness.type = ThicknessType::kB;
-  state.thickness.kind = ThicknessKind::kOptical;
-  MeasurementSlot& slot = *state.Slot(1);
-  slot.reflectance =
-      test::SpectrumOf([](int nm) { return nm % 100 == 50 ? 9.0 : 4.0 + nm / 1000.0; });
-  EXPECT_EQ(ComputeSlotThickness(state, slot, messages), 0);
-  EXPECT_GT(slot.thickness.thicknessNm, 0.0);
-  EXPECT_GT(state.extrema.count, 1);
-  EXPECT_TRUE(messages.Take().empty());
-
+TEST(Evaluation, NothingIsLeftOfTheSpectrumBefore) {
+  MeasurementSlot slot;
+  ColourSettings settings;
+  slot.reflectance = test::SpectrumOf([](int nm) { return 4.0 + nm / 1000.0; });
+  ComputeColours(settings, slot);
+  EXPECT_NEAR(slot.colour.Rm, 4.64, 1e-12);
+  EXPECT_TRUE(slot.colour.IsComputed());
   slot.reflectance = Flat(0.0);
-  EXPECT_EQ(ComputeSlotThickness(state, slot, messages), -1);
-  EXPECT_FALSE(slot.thickness.IsComputed());
-  EXPECT_EQ(slot.thickness.thicknessNm, 0.0);
-  EXPECT_EQ(state.extrema.count, 0);
-  EXPECT_EQ(messages.Take().size(), 1U);
+  ComputeColours(settings, slot);
+  EXPECT_EQ(slot.colour, ColourResult()) << "a dark sample";
+  slot.reflectance = Flat(4.0);
+  settings.avgFrom = 700;
+  settings.avgTo = 699;
+  ComputeColours(settings, slot);
+  EXPECT_EQ(slot.colour.Rm, 0.0) << "a range that has no mean";
+  EXPECT_TRUE(slot.colour.IsComputed());
+}
+
+TEST(Evaluation, AThicknessNeedsWhatItsSettingsName) {
+  struct Case {
+    const char* name;
+    std::int16_t type, kind, index;
+    bool hasFilm, hasSubstrate, hasFringes;
+    Status status;
+  };
+  using Type = ThicknessType;
+  using Kind = ThicknessKind;
+  using Index = DispersionKind;
+  const Case cases[] = {
+      {"physical", Type::kB, Kind::kPhysical, Index::kFixedValue, true, false, true, 0},
+      {"the film's index is not loaded", Type::kB, Kind::kPhysical, Index::kIndexFile, false, true,
+       true, kIndexMissing},
+      {"an optical one needs no index", Type::kB, Kind::kOptical, Index::kIndexFile, false, false,
+       true, 0},
+      {"from the substrate's index", Type::kB, Kind::kPhysical, Index::kSubstrate, false, true,
+       true, 0},
+      {"which is not loaded", Type::kB, Kind::kPhysical, Index::kSubstrate, true, false, true,
+       kIndexMissing},
+      {"nor is it for an optical one", Type::kA, Kind::kOptical, Index::kSubstrate, true, false,
+       true, kIndexMissing},
+      {"type C gives no index", Type::kC, Kind::kPhysical, Index::kSubstrate, true, true, true,
+       kThicknessFault},
+      {"no extrema", Type::kB, Kind::kPhysical, Index::kFixedValue, true, true, false,
+       kTooFewExtrema},
+  };
+  for (const Case& c : cases) {
+    VEXATYPE state;
+    state.thickness.type = c.type;
+    state.thickness.kind = c.kind;
+    state.thickness.coat.kind = c.index;
+    state.filmIndex = Flat(c.hasFilm ? 1.5 : 0.0);
+    state.substrateIndex = Flat(c.hasSubstrate ? 1.6 : 0.0);
+    MeasurementSlot slot;
+    slot.reflectance = c.hasFringes ? test::Fringes() : Flat(4.0);
+    slot.thickness = {.first = {500, 1}, .second = {600, 1}, .thicknessNm = 1500.0};
+    slot.filmIndex = Flat(9.0);
+    EXPECT_EQ(ComputeSlotThickness(state, slot), c.status) << c.name;
+    EXPECT_EQ(slot.thickness.IsComputed(), c.status == 0) << c.name;
+    EXPECT_EQ(slot.thickness.thicknessNm > 0.0, c.status == 0) << c.name;
+    EXPECT_EQ(slot.filmIndex.IsEmpty(), c.status != 0 || c.index != Index::kSubstrate) << c.name;
+    EXPECT_EQ(state.filmIndex, Flat(c.hasFilm ? 1.5 : 0.0)) << c.name;
+  }
 }
 
 }  // namespace
