@@ -16,7 +16,7 @@ namespace {
 
 using test::ShownMessage;
 
-class Session : public test::MainWindowTest {
+class KeptSession : public test::MainWindowTest {
  protected:
   void SetUp() override { Start(); }
 
@@ -25,7 +25,7 @@ class Session : public test::MainWindowTest {
   }
 };
 
-TEST_F(Session, IsRestoredAndGoesOn) {
+TEST_F(KeptSession, IsRestoredAndGoesOn) {
   EXPECT_EQ(Journals(), QStringList());
   Measure("Background", 100);
   Measure("Reference", 500);
@@ -57,7 +57,7 @@ TEST_F(Session, IsRestoredAndGoesOn) {
   EXPECT_EQ(Journals(), QStringList());
 }
 
-TEST_F(Session, TheOfferListsAllThatWasLeft) {
+TEST_F(KeptSession, TheOfferListsAllThatWasLeft) {
   VEXATYPE left;
   for (const int number : {2, 10}) {
     left.Slot(number)->valid = true;
@@ -77,7 +77,7 @@ TEST_F(Session, TheOfferListsAllThatWasLeft) {
       << offers[0].text;
 }
 
-TEST_F(Session, ASlotIsKeptBeforeAnyMessageAboutItIsAnswered) {
+TEST_F(KeptSession, ASlotIsKeptBeforeAnyMessageAboutItIsAnswered) {
   VEXATYPE settings;
   settings.programDirectory = peer.Directory();
   settings.thickness.enabled = true;
@@ -97,7 +97,7 @@ TEST_F(Session, ASlotIsKeptBeforeAnyMessageAboutItIsAnswered) {
   messages.whenShown = nullptr;
 }
 
-TEST_F(Session, EveryOneThatWasLeftIsOffered) {
+TEST_F(KeptSession, EveryOneThatWasLeftIsOffered) {
   Measure("Background", 100);
   messages.answers = {MessageResult::kCancel};
   Start();
@@ -109,7 +109,7 @@ TEST_F(Session, EveryOneThatWasLeftIsOffered) {
   EXPECT_EQ(Journals().size(), 2);
 }
 
-TEST_F(Session, DoesNotBringBackWhatWasClearedOrRefused) {
+TEST_F(KeptSession, DoesNotBringBackWhatWasClearedOrRefused) {
   Measure("Background", 100);
   Measure("Reference", 500);
   Measure("Mes2", 300);
@@ -124,7 +124,7 @@ TEST_F(Session, DoesNotBringBackWhatWasClearedOrRefused) {
   EXPECT_EQ(Journals(), QStringList());
 }
 
-TEST_F(Session, UnwritableJournalIsToldOnceAndMeasuringGoesOn) {
+TEST_F(KeptSession, UnwritableJournalIsToldOnceAndMeasuringGoesOn) {
   {
     const test::FullDisk disk(0);
     Measure("Background", 100);
@@ -142,7 +142,7 @@ TEST_F(Session, UnwritableJournalIsToldOnceAndMeasuringGoesOn) {
   EXPECT_EQ(TakeImage(window->State()), before) << "what was owed is written with the next change";
 }
 
-TEST_F(Session, FramesTellTheirAgeAndWhatHasChanged) {
+TEST_F(KeptSession, FramesTellTheirAgeAndWhatHasChanged) {
   Measure("Background", 100);
   Measure("Reference", 500);
   EXPECT_EQ(Text("BackgroundAge"), "7:05 (0分前)\n3000 ms × 1");

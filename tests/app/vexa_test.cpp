@@ -3,8 +3,6 @@
 
 #include <gtest/gtest.h>
 
-#include <QApplication>
-#include <QTimer>
 #include <cmath>
 
 #include "app/main_window_test.h"
@@ -48,13 +46,14 @@ class MainWindow : public test::MainWindowTest {
   }
 
   bool Enabled(const char* name) { return Find<QWidget>(name).isEnabled(); }
-  bool LightWarning() { return Find<QWidget>("LightWarning").isVisible(); }
+  bool LightWarning() { return Find<QWidget>("Warning").isVisible(); }
 
   // Opens an environment file of these settings.
   void OpenEnvironment(const VEXATYPE& settings) {
     ASSERT_TRUE(WriteEnvFile(files.Path("a.env"), settings));
     dialogs.open = files.Path("a.env");
     window->Commands().openEnvironment->trigger();
+    WaitUntilIdle();
   }
 };
 
@@ -87,26 +86,86 @@ TEST_F(MainWindow, MeasuresIntoASlot) {
 }
 
 TEST_F(MainWindow, ShowsWhatRunsAndKeepsEverythingElseWaiting) {
-  bool looked = false;
-  auto& button = Find<QAbstractButton>("Background");
-  QTimer::singleShot(0, window.get(), [&] {
-    looked = true;
-    EXPECT_EQ(button.text(), QStringLiteral("*Backgroud*"));
-    for (const char* name : {"Background", "Reference", "Mes1", "Mes10", "AllClear"}) {
-      EXPECT_FALSE(Enabled(name)) << name;
+  const auto& button = Find<QAbstractButton>("Background");
+  const auto expectEnabled = [this](bool expected) {
+    for (const char* name : {"Background", "Reference", "Mes1", "Mes10", "AllClear", "Data"}) {
+      EXPECT_EQ(Enabled(name), expected) << name;
     }
-    EXPECT_FALSE(window->Commands().quit->isEnabled());
-    EXPECT_FALSE(window->close()) << "the window stays while a measurement runs";
-  });
-  Measure("Background", 100);
-  EXPECT_TRUE(looked);
-  for (const char* name : {"Background", "Reference", "Mes1", "Mes10", "AllClear"}) {
-    EXPECT_TRUE(Enabled(name)) << name;
-  }
+    const MenuCommands& commands = window->Commands();
+    for (const QAction* action : {commands.openFile, commands.openEnvironment,
+                                  commands.samplingSettings, commands.sampleInformation}) {
+      EXPECT_EQ(action->isEnabled(), expected) << action->text().toStdString();
+    }
+  };
+  Press("Background");
+  EXPECT_EQ(button.text(), QStringLiteral("*Backgroud*"));
+  expectEnabled(false);
+  WaitUntilIdle();
+  expectEnabled(true);
   EXPECT_EQ(button.text(), QStringLiteral("Background"));
   EXPECT_FALSE(button.isChecked());
   EXPECT_EQ(button.shortcut(), QKeySequence(Qt::Key_F5)) << "also the next time";
-  EXPECT_TRUE(window->Commands().quit->isEnabled());
+}
+
+TEST_F(MainWindow, TheFocusComesBackToTheButtonThatMeasured) {
+  for (const char* name : {"Background", "Reference", "Mes4", "Mes4", "Mes10"}) {
+    Find<QWidget>("Data").setFocus();
+    Measure(name, 300);
+    EXPECT_EQ(window->focusWidget(), &Find<QWidget>(name)) << name;
+  }
+}
+
+TEST_F(MainWindow, AMeasurementGoesOnWhileADialogIsOpen) {
+  MeasureThrough(1);
+  const MenuCommands& commands = window->Commands();
+  int slot = 2;
+  for (QAction* command : {commands.displaySettings, commands.standards, commands.calibration,
+                           commands.settingsList, commands.version, commands.print}) {
+    Press(qPrintable(QStringLiteral("Mes%1").arg(slot)));
+    InDialog(command, [&](QWidget& dialog) {
+      WaitUntilIdle();
+      EXPECT_TRUE(dialog.isVisible()) << command->text().toStdString();
+      EXPECT_TRUE(window->State().Slot(slot)->valid);
+      EXPECT_EQ(window->GetOption(), slot);
+    });
+    ++slot;
+  }
+  EXPECT_EQ(messages.Take(), Shown{});
+}
+
+TEST_F(MainWindow, SettingsChangedWhileItMeasuresBelongToTheNextFrame) {
+  Press("Background");
+  InDialog(window->Commands().calibration, [](QWidget& dialog) {
+    Type(dialog, "Shift", "7");
+    Click(dialog, "OK");
+  });
+  WaitUntilIdle();
+  EXPECT_EQ(window->State().backgroundTaken.takenAt, now);
+  EXPECT_EQ(window->State().instrument.calibrationShiftNm, 7);
+  EXPECT_EQ(messages.Take().size(), 1U) << "that the shift counts from the next measurement on";
+}
+
+TEST_F(MainWindow, CancelEndsAWaitAtOnceAndTheShuttersRest) {
+  MeasureThrough(1);
+  peer.TakeFrames();
+  Measure("Mes1", 300);
+  const std::vector<std::string> atRest = peer.TakeFrames();
+  for (int frame = 1; frame <= 3; ++frame) {
+    messages.Take();
+    peer.At(frame, PeerAction::kSilence);
+    Press("Mes2");
+    EXPECT_TRUE(Find<QWidget>("Cancel").isVisible());
+    ASSERT_TRUE(QTest::qWaitFor([&] { return peer.FramesReceived() >= frame; }));
+    QTest::keyClick(window.get(), Qt::Key_Escape);
+    WaitUntilIdle();
+    EXPECT_EQ(messages.Take(), Shown{}) << "who cancels knows";
+    EXPECT_EQ(peer.TakeFrames().back(), atRest.back()) << frame;
+    EXPECT_FALSE(window->State().Slot(2)->valid);
+    EXPECT_FALSE(Find<QWidget>("Cancel").isVisible());
+    Measure("Mes3", 300);
+    EXPECT_EQ(peer.TakeFrames(), atRest) << "the next one finds all in order";
+    messages.Take();
+  }
 }
 
 TEST_F(MainWindow, AsksForWhatIsMissingFirst) {
@@ -238,20 +297,6 @@ TEST_F(MainWindow, AsksAboutTheEnvironmentAtTheEnd) {
   Start();
   EXPECT_TRUE(window->close());
   EXPECT_TRUE(ReadEnvFile(Path("vexa.env")));
-}
-
-// Opens the window of a command, lets `act` use it, and closes it if `act` did not.
-template <typename Act>
-void InDialog(QAction* command, Act act) {
-  QTimer::singleShot(0, command, [&act] {
-    QWidget* dialog = QApplication::activeModalWidget();
-    ASSERT_NE(dialog, nullptr);
-    act(*dialog);
-    if (dialog->isVisible()) {
-      dialog->close();
-    }
-  });
-  command->trigger();
 }
 
 // Sets the text of a field at once, as an input method does.
