@@ -57,6 +57,14 @@ class MainWindowTest : public WindowTest {
     WaitUntilIdle();
   }
 
+  /// Presses a button, and waits for the frame from there on that the controller will not answer.
+  void PressUnanswered(const char* button, int frame) {
+    const int last = peer.FramesReceived() + frame;
+    peer.At(frame, PeerAction::kSilence);
+    Press(button);
+    EXPECT_TRUE(QTest::qWaitFor([&] { return peer.FramesReceived() >= last; }));
+  }
+
   /// Opens the window of a command, lets `act` use it, and closes it if `act` did not.
   template <typename Act>
   void InDialog(QAction* command, Act act) {

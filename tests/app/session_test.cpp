@@ -53,8 +53,25 @@ TEST_F(KeptSession, IsRestoredAndGoesOn) {
   EXPECT_EQ(peer.TakeFrames().back().substr(0, 4), "A502") << "the light path is opened again";
   Measure("Mes3", 300);
   EXPECT_EQ(window->State().Slot(3)->reflectance, window->State().Slot(2)->reflectance);
-  EXPECT_TRUE(window->close());
+  window->close();
+  EXPECT_FALSE(window->isVisible());
   EXPECT_EQ(Journals(), QStringList());
+}
+
+TEST_F(KeptSession, AnEndAtOnceAsksNothingAndLeavesEverything) {
+  Measure("Background", 100);
+  Measure("Reference", 500);
+  peer.TakeFrames();
+  Measure("Mes2", 300);
+  const std::string atRest = peer.TakeFrames().back();
+  const SessionImage before = TakeImage(window->State());
+  PressUnanswered("Mes3", 2);
+  test::Done(window->EndAtOnce());
+  EXPECT_EQ(messages.Take(), test::Shown{});
+  EXPECT_EQ(peer.TakeFrames().back(), atRest);
+  messages.answers = {MessageResult::kYes};
+  Start();
+  EXPECT_EQ(TakeImage(window->State()), before);
 }
 
 TEST_F(KeptSession, TheOfferListsAllThatWasLeft) {
