@@ -5,7 +5,6 @@
 #include <QPixmap>
 #include <QPushButton>
 #include <QTabWidget>
-#include <QTimer>
 #include <cstdio>
 
 #include "app/vexa.h"
@@ -111,7 +110,6 @@ void Gallery::TakeMessage() {
   const auto show = [&message] {
     message.Show(
         {Message::kControllerFailed, {}, Text::tr("com5 (/dev/ttyUSB0) という装置がありません。")});
-    message.exec();
   };
   TakeDialog(show, QStringLiteral("message"), [this](QWidget& dialog) {
     Press(dialog, "Unfold");
@@ -119,36 +117,29 @@ void Gallery::TakeMessage() {
   });
 }
 
-// A dialog runs its own event loop: the picture is taken from within it.
 void Gallery::TakeDialog(const std::function<void()>& open, const QString& name,
                          const std::function<void(QWidget&)>& inside) {
-  bool taken = false;
   const QWidget* below = QApplication::activeModalWidget();
-  QTimer::singleShot(0, [&] {
-    QWidget* dialog = QApplication::activeModalWidget();
-    if (dialog == below) {
-      return;
-    }
-    LetDraw();
-    auto* pages = dialog->findChild<QTabWidget*>();
-    for (int page = 0; page < (pages == nullptr ? 1 : pages->count()); ++page) {
-      if (pages != nullptr) {
-        pages->setCurrentIndex(page);
-        LetDraw();
-      }
-      Save(*dialog, page == 0 ? name : QStringLiteral("%1-%2").arg(name).arg(page + 1));
-    }
-    if (inside) {
-      inside(*dialog);
-    }
-    taken = true;
-    dialog->close();
-  });
   open();
   LetDraw();
-  if (!taken) {
+  QWidget* dialog = QApplication::activeModalWidget();
+  if (dialog == below) {
     Fail(name);
+    return;
   }
+  auto* pages = dialog->findChild<QTabWidget*>();
+  for (int page = 0; page < (pages == nullptr ? 1 : pages->count()); ++page) {
+    if (pages != nullptr) {
+      pages->setCurrentIndex(page);
+      LetDraw();
+    }
+    Save(*dialog, page == 0 ? name : QStringLiteral("%1-%2").arg(name).arg(page + 1));
+  }
+  if (inside) {
+    inside(*dialog);
+  }
+  dialog->close();
+  LetDraw();
 }
 
 void Gallery::TakeWindow(const QString& objectName, const QString& name) {

@@ -24,7 +24,7 @@ class Gallery {
   void TakeDialogs(VEXA& window);
   void TakeWindows(VEXA& window);
   void TakeMessage();
-  /// The dialog that `open` runs, each of its pages; `inside` may do more in it before it closes.
+  /// The dialog that `open` opens, each of its pages; `inside` may do more in it before it closes.
   void TakeDialog(const std::function<void()>& open, const QString& name,
                   const std::function<void(QWidget&)>& inside = {});
   void TakeWindow(const QString& objectName, const QString& name);

@@ -9,6 +9,7 @@
 
 #include "app/measurement_bar.h"
 #include "app/progress_strip.h"
+#include "base/translation.h"
 #include "views/colour/colour_panel.h"
 #include "views/graph/main_views.h"
 #include "views/optics/thickness_panel.h"
@@ -72,9 +73,19 @@ void MainPanels::Show() {
 }
 
 void MainPanels::ShowAvailable(bool usable) {
-  bar_->SetAvailable(desk_.IsReady(), usable && desk_.IsIdle());
-  bar_->ShowLightPathClosed(desk_.IsIdle() && desk_.IsLightPathClosed());
+  const bool idle = usable && desk_.IsIdle();
+  bar_->SetAvailable(desk_.IsReady(), idle);
+  bar_->ShowWarning(idle ? Hindrance() : QString());
   progress_->ShowLink(desk_.IsReady() || !desk_.IsIdle() || !usable, !desk_.IsIdle());
+}
+
+// What stands between the user and a measurement.
+QString MainPanels::Hindrance() const {
+  if (!desk_.IsReady()) {
+    return Text::tr("ｺﾝﾄﾛｰﾗ未接続のため\n測定できません。");
+  }
+  return desk_.IsLightPathClosed() ? Text::tr("光路が閉じています。\n測定すると開きます。")
+                                   : QString();
 }
 
 // Scrolls where a low screen has no room for all of it.

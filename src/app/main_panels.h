@@ -41,6 +41,7 @@ class MainPanels : public QWidget {
   void SampleInformationRequested();
 
  private:
+  [[nodiscard]] QString Hindrance() const;
   QWidget* BuildResults();
   void ConnectDesk();
 

@@ -85,7 +85,7 @@ MeasurementBar::MeasurementBar(QWidget* parent)
       data_(Button(QStringLiteral("Data"), QStringLiteral("Data"), Text::tr("試料情報"),
                    kCommandButton)),
       time_(new QLabel),
-      lightWarning_(SmallLabel(QStringLiteral("LightWarning"))) {
+      warning_(SmallLabel(QStringLiteral("Warning"))) {
   setFixedWidth(kWidth);
   // They look pressed while they measure, not while a request is refused.
   connect(background_, &QPushButton::clicked, this, [this] {
@@ -99,9 +99,8 @@ MeasurementBar::MeasurementBar(QWidget* parent)
   connect(allClear_, &QPushButton::clicked, this, &MeasurementBar::ClearRequested);
   connect(data_, &QPushButton::clicked, this, &MeasurementBar::DataRequested);
 
-  lightWarning_->setText(Text::tr("光路が閉じています。\n測定すると開きます。"));
-  lightWarning_->setStyleSheet(kCalmWarning);
-  lightWarning_->hide();
+  warning_->setStyleSheet(kCalmWarning);
+  warning_->hide();
   time_->setObjectName(QStringLiteral("Time"));
   time_->setAlignment(Qt::AlignCenter);
 
@@ -110,7 +109,7 @@ MeasurementBar::MeasurementBar(QWidget* parent)
   layout->setSpacing(4);
   layout->addWidget(background_, kFrameButton.highest);
   layout->addWidget(backgroundAge_);
-  layout->addWidget(lightWarning_);
+  layout->addWidget(warning_);
   layout->addWidget(reference_, kFrameButton.highest);
   layout->addWidget(referenceAge_);
   layout->addWidget(Line());
@@ -181,7 +180,20 @@ void MeasurementBar::ShowAges(const VEXATYPE& state, const QDateTime& now) {
   }
 }
 
+QPushButton* MeasurementBar::ButtonOf(MeasurementKind kind, int slot) const {
+  switch (kind) {
+    case MeasurementKind::kBackground:
+      return background_;
+    case MeasurementKind::kReference:
+      return reference_;
+    case MeasurementKind::kSample:
+      break;
+  }
+  return rows_.at(static_cast<std::size_t>(slot - 1)).measure;
+}
+
 void MeasurementBar::ShowRunning(MeasurementKind kind, int slot) {
+  measuring_ = ButtonOf(kind, slot);
   switch (kind) {
     case MeasurementKind::kBackground:
       SetCaption(*background_, QStringLiteral("*Backgroud*"));
@@ -192,7 +204,7 @@ void MeasurementBar::ShowRunning(MeasurementKind kind, int slot) {
       reference_->setChecked(true);
       break;
     case MeasurementKind::kSample:
-      rows_.at(static_cast<std::size_t>(slot - 1)).measure->setDown(true);
+      measuring_->setDown(true);
       break;
   }
 }
@@ -211,16 +223,21 @@ void MeasurementBar::SetAvailable(bool controller, bool idle) {
   background_->setEnabled(controller && idle);
   reference_->setEnabled(controller && idle);
   for (const SlotRow& row : rows_) {
-    row.measure->setEnabled(idle);
+    row.measure->setEnabled(controller && idle);
   }
   allClear_->setEnabled(idle);
   data_->setEnabled(idle);
+  if (idle && measuring_ != nullptr) {
+    measuring_->setFocus();
+    measuring_ = nullptr;
+  }
 }
 
-void MeasurementBar::ShowLightPathClosed(bool closed) {
+void MeasurementBar::ShowWarning(const QString& text) {
   // One goes before the other comes: with both at once the window would grow, and stay so.
-  (closed ? backgroundAge_ : lightWarning_)->hide();
-  (closed ? lightWarning_ : backgroundAge_)->show();
+  (text.isEmpty() ? warning_ : backgroundAge_)->hide();
+  (text.isEmpty() ? backgroundAge_ : warning_)->show();
+  warning_->setText(text);
 }
 
 }  // namespace vexa

@@ -34,12 +34,12 @@ class MeasurementBar : public QWidget {
   void ShowRunning(MeasurementKind kind, int slot);
   void ShowAtRest();
 
-  /// `controller`: background and reference can be measured. `idle`: nothing runs that keeps
-  /// the slots busy.
+  /// `controller`: there is one to measure with. `idle`: nothing runs that keeps the slots busy.
+  /// Once all can be pressed again, the focus is back on the button that measured.
   void SetAvailable(bool controller, bool idle);
 
-  /// The calm warning that the light path is closed, in the place of the background's age.
-  void ShowLightPathClosed(bool closed);
+  /// A calm warning in the place of the background's age; none for an empty text.
+  void ShowWarning(const QString& text);
 
  signals:
   void BackgroundRequested();
@@ -57,6 +57,8 @@ class MeasurementBar : public QWidget {
     QIcon filled;
   };
 
+  [[nodiscard]] QPushButton* ButtonOf(MeasurementKind kind, int slot) const;
+
   // Icons are made once: the program keeps a scaled copy of every one that it has ever drawn.
   QIcon open_;
   QIcon done_;
@@ -68,7 +70,8 @@ class MeasurementBar : public QWidget {
   QPushButton* allClear_;
   QPushButton* data_;
   QLabel* time_;
-  QLabel* lightWarning_;
+  QLabel* warning_;
+  QPushButton* measuring_ = nullptr;  ///< what runs, or ran, until the focus is back on it
 };
 
 }  // namespace vexa

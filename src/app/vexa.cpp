@@ -123,6 +123,8 @@ QCoro::Task<> VEXA::End() {
   SetPhase(ending ? Phase::kEnded : before);
   if (ending) {
     close();
+  } else if (before == Phase::kStarting && desk_.IsIdle()) {
+    co_await Load();  // the first one has ended without a result
   }
 }
 

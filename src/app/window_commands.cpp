@@ -82,8 +82,11 @@ void WindowCommands::ConnectWindows() {
   });
   Open(menu_.standards,
        [this] { return new StandardFrm(session_, messages_, dialogs_, &window_); });
-  Open(menu_.wavelengthList,
-       [this] { return new WaveListDlg(state_, selectedSlot_(), printer_, &window_); });
+  Open(menu_.wavelengthList, [this] {
+    auto* dialog = new WaveListDlg(state_, selectedSlot_(), printer_, &window_);
+    connect(&session_, &Session::SampleStored, dialog, &WaveListDlg::Show);
+    return dialog;
+  });
   Open(menu_.samplingSettings, [this] {
     auto* dialog = new SamplingDlg(session_, messages_, &window_);
     connect(dialog, &QDialog::accepted, &desk_, &InstrumentDesk::SendSampling);

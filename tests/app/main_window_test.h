@@ -1,13 +1,17 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include <QCoroSignal>
 #include <QDateTime>
+#include <QDialog>
+#include <QPointer>
 #include <memory>
 
 #include "app/vexa.h"
 #include "instrument/frm_com_h8_ctrl.h"
 #include "instrument/serial_port_path.h"
 #include "support/scripted_peer.h"
+#include "support/waiting.h"
 #include "support/window_test.h"
 
 namespace vexa::test {
@@ -33,14 +37,53 @@ class MainWindowTest : public WindowTest {
   /// As the program starts. A window that was not closed before has crashed.
   void Start() {
     Create();
-    window->Load();
-    window->OfferSession();
+    Done(window->Load());
+    Done(window->OfferSession());
   }
 
-  /// Presses a button while every pixel has the value.
+  /// Until the instrument is asked nothing more.
+  void WaitUntilIdle() {
+    Done([](InstrumentDesk& desk) -> QCoro::Task<> {
+      while (!desk.IsIdle()) {
+        co_await qCoro(&desk, &InstrumentDesk::ActivityChanged);
+      }
+    }(window->Desk()));
+  }
+
+  /// Presses a button while every pixel has the value, and waits for what it measures.
   void Measure(const char* button, int pixels) {
     peer.SetLines(FlatLines(1, pixels));
     Press(button);
+    WaitUntilIdle();
+  }
+
+  /// Presses a button, and waits for the frame from there on that the controller will not answer.
+  void PressUnanswered(const char* button, int frame) {
+    const int last = peer.FramesReceived() + frame;
+    peer.At(frame, PeerAction::kSilence);
+    Press(button);
+    EXPECT_TRUE(QTest::qWaitFor([&] { return peer.FramesReceived() >= last; }));
+  }
+
+  /// Opens the window of a command, lets `act` use it, and closes it if `act` did not.
+  template <typename Act>
+  void InDialog(QAction* command, Act act) {
+    command->trigger();
+    const QPointer<QDialog> dialog = OpenDialog();
+    ASSERT_NE(dialog, nullptr);
+    act(*dialog);
+    dialog->close();
+    EXPECT_TRUE(QTest::qWaitFor([&dialog] { return dialog.isNull(); }));
+  }
+
+  /// The dialog that is open; null for none.
+  QDialog* OpenDialog() {
+    for (auto* dialog : window->findChildren<QDialog*>()) {
+      if (dialog->isVisible()) {
+        return dialog;
+      }
+    }
+    return nullptr;
   }
 
   QString Path(const char* name) const { return peer.files.Path(name); }

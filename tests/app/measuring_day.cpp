@@ -5,10 +5,10 @@
 // ("begin STEP", the places of the session that it may change) and after it ("done", a hash of
 // every place), so that whoever kills the program knows what must have outlived it.
 #include <QApplication>
+#include <QCoroSignal>
 #include <QCryptographicHash>
 #include <QLineEdit>
 #include <QPushButton>
-#include <QTimer>
 #include <cstdio>
 #include <random>
 
@@ -25,20 +25,24 @@ namespace {
 // Says yes, and tells what was asked or told besides the questions of every step.
 class Answers : public MessageService {
  public:
-  MessageResult MsgCall(const QString& text, std::int16_t type, const QString& /*title*/) override {
-    switch (type & message_type::kButtonMask) {
-      case message_type::kYesNoCancel:
-        std::printf("asked %s\n", qUtf8Printable(QString(text).replace(u'\r', u'|')));
-        return MessageResult::kYes;
-      case message_type::kOk:
-        std::printf("told %s\n", qUtf8Printable(QString(text).replace(u'\r', u'|')));
-        break;
-      default:
-        break;
+  void Tell(const MessageCall& call) override { Print("told", call); }
+  QCoro::Task<MessageResult> Ask(MessageCall call) override {
+    const MessageButtons buttons = CatalogueEntry(call.id).buttons;
+    if (buttons == MessageButtons::kYesNoCancel) {
+      Print("asked", call);
     }
+    co_return AgreeingAnswer(buttons);
+  }
+  MessageResult MsgCall(const QString& /*text*/, std::int16_t /*type*/,
+                        const QString& /*title*/) override {
     return MessageResult::kOk;
   }
   void Beep() override {}
+
+ private:
+  static void Print(const char* what, const MessageCall& call) {
+    std::printf("%s %s\n", what, qUtf8Printable(MessageText(call).replace(u'\r', u'|')));
+  }
 };
 
 void TellState(const char* what, const VEXATYPE& state) {
@@ -51,38 +55,50 @@ void TellState(const char* what, const VEXATYPE& state) {
   std::fflush(stdout);
 }
 
-void Press(VEXA& window, const QString& button, const std::string& places) {
+QCoro::Task<> Press(VEXA& window, QString button, std::string places) {
   std::printf("begin %s %s\n", qUtf8Printable(QString(button).remove(u' ')), places.c_str());
   std::fflush(stdout);
   window.findChild<QPushButton*>(button)->click();
+  while (!window.Desk().IsIdle()) {
+    co_await qCoro(&window.Desk(), &InstrumentDesk::ActivityChanged);
+  }
 }
 
 void TypeInformation(VEXA& window, int slot, const QString& text) {
   std::printf("begin Information %d\n", slot + 1);
   std::fflush(stdout);
-  QTimer::singleShot(0, &window, [&] {
-    QWidget* dialog = QApplication::activeModalWidget();
-    dialog->findChild<QLineEdit*>(QStringLiteral("SampNo_txt%1").arg(slot))->setText(text);
-    dialog->findChild<QPushButton*>(QStringLiteral("OK_b"))->click();
-  });
   window.Commands().sampleInformation->trigger();
+  const QWidget* dialog = QApplication::activeModalWidget();
+  dialog->findChild<QLineEdit*>(QStringLiteral("SampNo_txt%1").arg(slot))->setText(text);
+  dialog->findChild<QPushButton*>(QStringLiteral("OK_b"))->click();
 }
 
-void Step(VEXA& window, std::mt19937& random) {
+QCoro::Task<> Step(VEXA& window, std::mt19937& random) {
   const int choice = std::uniform_int_distribution(0, 19)(random);
   const int slot = std::uniform_int_distribution(1, kSlotCount)(random);
   if (choice == 0 || !window.State().backgroundMeasured) {
-    Press(window, QStringLiteral("Background"), "0");
+    co_await Press(window, QStringLiteral("Background"), "0");
   } else if (choice == 1 || !window.State().referenceMeasured) {
-    Press(window, QStringLiteral("Reference"), "1");
+    co_await Press(window, QStringLiteral("Reference"), "1");
   } else if (choice == 2) {
-    Press(window, QStringLiteral("AllClear"), "2 3 4 5 6 7 8 9 10 11");
+    co_await Press(window, QStringLiteral("AllClear"), "2 3 4 5 6 7 8 9 10 11");
   } else if (choice < 6) {
     TypeInformation(window, slot, QStringLiteral("試料 %1").arg(random()));
   } else {
-    Press(window, QStringLiteral("Mes%1").arg(slot), std::to_string(slot + 1));
+    co_await Press(window, QStringLiteral("Mes%1").arg(slot), std::to_string(slot + 1));
   }
   TellState("done", window.State());
+}
+
+QCoro::Task<> Work(VEXA& window, unsigned seed, int steps) {
+  co_await window.Load();
+  co_await window.OfferSession();
+  TellState("ready", window.State());
+  std::mt19937 random(seed);
+  for (int step = 0; step < steps; ++step) {
+    co_await Step(window, random);
+  }
+  window.close();
 }
 
 int Run(const QString& directory, unsigned seed, int steps) {
@@ -99,14 +115,7 @@ int Run(const QString& directory, unsigned seed, int steps) {
                }},
               directory);
   window.show();
-  window.Load();
-  window.OfferSession();
-  TellState("ready", window.State());
-  std::mt19937 random(seed);
-  for (int step = 0; step < steps; ++step) {
-    Step(window, random);
-  }
-  window.close();
+  QCoro::waitFor(Work(window, seed, steps));
   std::printf("ended\n");
   return 0;
 }

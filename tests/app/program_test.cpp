@@ -7,9 +7,11 @@
 #include <QImage>
 #include <QProcess>
 #include <QProcessEnvironment>
+#include <QTest>
 
 #include "files/data_file.h"
 #include "support/pdf_words.h"
+#include "support/scripted_peer.h"
 #include "support/spectra.h"
 #include "support/temporary_files.h"
 
@@ -70,6 +72,24 @@ TEST_F(Program, WrongOptionsAreOneLineAndStatusTwo) {
     EXPECT_EQ(Run(arguments), 2) << arguments;
     EXPECT_EQ(complaints, 1) << arguments;
   }
+}
+
+TEST_F(Program, ASignalEndsTheWindowInOrderWithoutAQuestion) {
+  test::ScriptedPeer peer;
+  QProcess process;
+  process.setWorkingDirectory(peer.Directory());
+  process.start(QStringLiteral(VEXA_BIN_DIR "/vexa"), QStringList());
+  // The sampling time is the last that a start sends.
+  const auto started = [&peer] {
+    const auto frames = peer.TakeFrames();
+    return !frames.empty() && frames.back().starts_with("96");
+  };
+  ASSERT_TRUE(QTest::qWaitFor(started, 30000));
+  process.terminate();
+  EXPECT_TRUE(QTest::qWaitFor([&] { return process.state() == QProcess::NotRunning; }, 30000));
+  EXPECT_EQ(process.exitStatus(), QProcess::NormalExit);
+  EXPECT_EQ(process.exitCode(), 0);
+  EXPECT_FALSE(peer.files.Has("vexa.int")) << "nothing was asked, so nothing is saved";
 }
 
 class Report : public Program {

@@ -16,7 +16,7 @@ namespace {
 
 using test::ShownMessage;
 
-class Session : public test::MainWindowTest {
+class KeptSession : public test::MainWindowTest {
  protected:
   void SetUp() override { Start(); }
 
@@ -25,7 +25,7 @@ class Session : public test::MainWindowTest {
   }
 };
 
-TEST_F(Session, IsRestoredAndGoesOn) {
+TEST_F(KeptSession, IsRestoredAndGoesOn) {
   EXPECT_EQ(Journals(), QStringList());
   Measure("Background", 100);
   Measure("Reference", 500);
@@ -53,11 +53,28 @@ TEST_F(Session, IsRestoredAndGoesOn) {
   EXPECT_EQ(peer.TakeFrames().back().substr(0, 4), "A502") << "the light path is opened again";
   Measure("Mes3", 300);
   EXPECT_EQ(window->State().Slot(3)->reflectance, window->State().Slot(2)->reflectance);
-  EXPECT_TRUE(window->close());
+  window->close();
+  EXPECT_FALSE(window->isVisible());
   EXPECT_EQ(Journals(), QStringList());
 }
 
-TEST_F(Session, TheOfferListsAllThatWasLeft) {
+TEST_F(KeptSession, AnEndAtOnceAsksNothingAndLeavesEverything) {
+  Measure("Background", 100);
+  Measure("Reference", 500);
+  peer.TakeFrames();
+  Measure("Mes2", 300);
+  const std::string atRest = peer.TakeFrames().back();
+  const SessionImage before = TakeImage(window->State());
+  PressUnanswered("Mes3", 2);
+  test::Done(window->EndAtOnce());
+  EXPECT_EQ(messages.Take(), test::Shown{});
+  EXPECT_EQ(peer.TakeFrames().back(), atRest);
+  messages.answers = {MessageResult::kYes};
+  Start();
+  EXPECT_EQ(TakeImage(window->State()), before);
+}
+
+TEST_F(KeptSession, TheOfferListsAllThatWasLeft) {
   VEXATYPE left;
   for (const int number : {2, 10}) {
     left.Slot(number)->valid = true;
@@ -77,7 +94,7 @@ TEST_F(Session, TheOfferListsAllThatWasLeft) {
       << offers[0].text;
 }
 
-TEST_F(Session, ASlotIsKeptBeforeAnyMessageAboutItIsAnswered) {
+TEST_F(KeptSession, ASlotIsKeptBeforeAnyMessageAboutItIsAnswered) {
   VEXATYPE settings;
   settings.programDirectory = peer.Directory();
   settings.thickness.enabled = true;
@@ -97,7 +114,7 @@ TEST_F(Session, ASlotIsKeptBeforeAnyMessageAboutItIsAnswered) {
   messages.whenShown = nullptr;
 }
 
-TEST_F(Session, EveryOneThatWasLeftIsOffered) {
+TEST_F(KeptSession, EveryOneThatWasLeftIsOffered) {
   Measure("Background", 100);
   messages.answers = {MessageResult::kCancel};
   Start();
@@ -109,7 +126,7 @@ TEST_F(Session, EveryOneThatWasLeftIsOffered) {
   EXPECT_EQ(Journals().size(), 2);
 }
 
-TEST_F(Session, DoesNotBringBackWhatWasClearedOrRefused) {
+TEST_F(KeptSession, DoesNotBringBackWhatWasClearedOrRefused) {
   Measure("Background", 100);
   Measure("Reference", 500);
   Measure("Mes2", 300);
@@ -124,7 +141,7 @@ TEST_F(Session, DoesNotBringBackWhatWasClearedOrRefused) {
   EXPECT_EQ(Journals(), QStringList());
 }
 
-TEST_F(Session, UnwritableJournalIsToldOnceAndMeasuringGoesOn) {
+TEST_F(KeptSession, UnwritableJournalIsToldOnceAndMeasuringGoesOn) {
   {
     const test::FullDisk disk(0);
     Measure("Background", 100);
@@ -142,7 +159,7 @@ TEST_F(Session, UnwritableJournalIsToldOnceAndMeasuringGoesOn) {
   EXPECT_EQ(TakeImage(window->State()), before) << "what was owed is written with the next change";
 }
 
-TEST_F(Session, FramesTellTheirAgeAndWhatHasChanged) {
+TEST_F(KeptSession, FramesTellTheirAgeAndWhatHasChanged) {
   Measure("Background", 100);
   Measure("Reference", 500);
   EXPECT_EQ(Text("BackgroundAge"), "7:05 (0分前)\n3000 ms × 1");

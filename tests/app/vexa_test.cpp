@@ -3,8 +3,6 @@
 
 #include <gtest/gtest.h>
 
-#include <QApplication>
-#include <QTimer>
 #include <cmath>
 
 #include "app/main_window_test.h"
@@ -48,13 +46,14 @@ class MainWindow : public test::MainWindowTest {
   }
 
   bool Enabled(const char* name) { return Find<QWidget>(name).isEnabled(); }
-  bool LightWarning() { return Find<QWidget>("LightWarning").isVisible(); }
+  bool LightWarning() { return Find<QWidget>("Warning").isVisible(); }
 
   // Opens an environment file of these settings.
   void OpenEnvironment(const VEXATYPE& settings) {
     ASSERT_TRUE(WriteEnvFile(files.Path("a.env"), settings));
     dialogs.open = files.Path("a.env");
     window->Commands().openEnvironment->trigger();
+    WaitUntilIdle();
   }
 };
 
@@ -87,26 +86,84 @@ TEST_F(MainWindow, MeasuresIntoASlot) {
 }
 
 TEST_F(MainWindow, ShowsWhatRunsAndKeepsEverythingElseWaiting) {
-  bool looked = false;
-  auto& button = Find<QAbstractButton>("Background");
-  QTimer::singleShot(0, window.get(), [&] {
-    looked = true;
-    EXPECT_EQ(button.text(), QStringLiteral("*Backgroud*"));
-    for (const char* name : {"Background", "Reference", "Mes1", "Mes10", "AllClear"}) {
-      EXPECT_FALSE(Enabled(name)) << name;
+  const auto& button = Find<QAbstractButton>("Background");
+  const auto expectEnabled = [this](bool expected) {
+    for (const char* name : {"Background", "Reference", "Mes1", "Mes10", "AllClear", "Data"}) {
+      EXPECT_EQ(Enabled(name), expected) << name;
     }
-    EXPECT_FALSE(window->Commands().quit->isEnabled());
-    EXPECT_FALSE(window->close()) << "the window stays while a measurement runs";
-  });
-  Measure("Background", 100);
-  EXPECT_TRUE(looked);
-  for (const char* name : {"Background", "Reference", "Mes1", "Mes10", "AllClear"}) {
-    EXPECT_TRUE(Enabled(name)) << name;
-  }
+    const MenuCommands& commands = window->Commands();
+    for (const QAction* action : {commands.openFile, commands.openEnvironment,
+                                  commands.samplingSettings, commands.sampleInformation}) {
+      EXPECT_EQ(action->isEnabled(), expected) << action->text().toStdString();
+    }
+  };
+  Press("Background");
+  EXPECT_EQ(button.text(), QStringLiteral("*Backgroud*"));
+  expectEnabled(false);
+  WaitUntilIdle();
+  expectEnabled(true);
   EXPECT_EQ(button.text(), QStringLiteral("Background"));
   EXPECT_FALSE(button.isChecked());
   EXPECT_EQ(button.shortcut(), QKeySequence(Qt::Key_F5)) << "also the next time";
-  EXPECT_TRUE(window->Commands().quit->isEnabled());
+}
+
+TEST_F(MainWindow, TheFocusComesBackToTheButtonThatMeasured) {
+  for (const char* name : {"Background", "Reference", "Mes4", "Mes4", "Mes10"}) {
+    Find<QWidget>("Data").setFocus();
+    Measure(name, 300);
+    EXPECT_EQ(window->focusWidget(), &Find<QWidget>(name)) << name;
+  }
+}
+
+TEST_F(MainWindow, AMeasurementGoesOnWhileADialogIsOpen) {
+  MeasureThrough(1);
+  const MenuCommands& commands = window->Commands();
+  int slot = 2;
+  for (QAction* command : {commands.displaySettings, commands.standards, commands.calibration,
+                           commands.settingsList, commands.version, commands.print}) {
+    Press(qPrintable(QStringLiteral("Mes%1").arg(slot)));
+    InDialog(command, [&](QWidget& dialog) {
+      WaitUntilIdle();
+      EXPECT_TRUE(dialog.isVisible()) << command->text().toStdString();
+      EXPECT_TRUE(window->State().Slot(slot)->valid);
+      EXPECT_EQ(window->GetOption(), slot);
+    });
+    ++slot;
+  }
+  EXPECT_EQ(messages.Take(), Shown{});
+}
+
+TEST_F(MainWindow, SettingsChangedWhileItMeasuresBelongToTheNextFrame) {
+  Press("Background");
+  InDialog(window->Commands().calibration, [](QWidget& dialog) {
+    Type(dialog, "Shift", "7");
+    Click(dialog, "OK");
+  });
+  WaitUntilIdle();
+  EXPECT_EQ(window->State().backgroundTaken.takenAt, now);
+  EXPECT_EQ(window->State().instrument.calibrationShiftNm, 7);
+  EXPECT_EQ(messages.Take().size(), 1U) << "that the shift counts from the next measurement on";
+}
+
+TEST_F(MainWindow, CancelEndsAWaitAtOnceAndTheShuttersRest) {
+  MeasureThrough(1);
+  peer.TakeFrames();
+  Measure("Mes1", 300);
+  const std::vector<std::string> atRest = peer.TakeFrames();
+  for (int frame = 1; frame <= 3; ++frame) {
+    messages.Take();
+    PressUnanswered("Mes2", frame);
+    EXPECT_TRUE(Find<QWidget>("Cancel").isVisible());
+    QTest::keyClick(window.get(), Qt::Key_Escape);
+    WaitUntilIdle();
+    EXPECT_EQ(messages.Take(), Shown{}) << "who cancels knows";
+    EXPECT_EQ(peer.TakeFrames().back(), atRest.back()) << frame;
+    EXPECT_FALSE(window->State().Slot(2)->valid);
+    EXPECT_FALSE(Find<QWidget>("Cancel").isVisible());
+    Measure("Mes3", 300);
+    EXPECT_EQ(peer.TakeFrames(), atRest) << "the next one finds all in order";
+    messages.Take();
+  }
 }
 
 TEST_F(MainWindow, AsksForWhatIsMissingFirst) {
@@ -225,10 +282,11 @@ TEST_F(MainWindow, EverySavedFileOpensAgain) {
 
 TEST_F(MainWindow, AsksAboutTheEnvironmentAtTheEnd) {
   messages.answers = {MessageResult::kCancel, MessageResult::kNo, MessageResult::kYes};
-  EXPECT_FALSE(window->close());
+  window->close();
   EXPECT_TRUE(window->isVisible());
   EXPECT_FALSE(peer.files.Has("vexa.int"));
-  EXPECT_TRUE(window->close());
+  window->close();
+  EXPECT_FALSE(window->isVisible());
   const ShownMessage question{
       "VEXA-KT ﾒｯｾｰｼﾞ: " + Path("vexa.env").toStdString() + "\r\r現在の環境をｾｰﾌﾞしますか。", 35};
   EXPECT_EQ(messages.Take(), (Shown{question, question}));
@@ -236,22 +294,33 @@ TEST_F(MainWindow, AsksAboutTheEnvironmentAtTheEnd) {
   EXPECT_FALSE(peer.files.Has("vexa.env"));
 
   Start();
-  EXPECT_TRUE(window->close());
+  window->close();
+  EXPECT_FALSE(window->isVisible());
   EXPECT_TRUE(ReadEnvFile(Path("vexa.env")));
 }
 
-// Opens the window of a command, lets `act` use it, and closes it if `act` did not.
-template <typename Act>
-void InDialog(QAction* command, Act act) {
-  QTimer::singleShot(0, command, [&act] {
-    QWidget* dialog = QApplication::activeModalWidget();
-    ASSERT_NE(dialog, nullptr);
-    act(*dialog);
-    if (dialog->isVisible()) {
-      dialog->close();
-    }
-  });
-  command->trigger();
+TEST_F(MainWindow, ClosingWhileItMeasuresAsksAndEndsInOrder) {
+  const ShownMessage question{Message::kEndMeasurement};
+  MeasureThrough(1);
+  peer.TakeFrames();
+  Measure("Mes1", 300);
+  const std::string atRest = peer.TakeFrames().back();
+  messages.Take();
+  messages.answers = {MessageResult::kCancel};
+  Press("Mes2");
+  window->close();
+  WaitUntilIdle();
+  EXPECT_EQ(messages.Take(), std::vector{question});
+  EXPECT_TRUE(window->isVisible());
+  EXPECT_TRUE(window->State().Slot(2)->valid) << "the measurement went on";
+
+  PressUnanswered("Mes3", 2);
+  messages.answers = {MessageResult::kOk, MessageResult::kNo};
+  window->close();
+  EXPECT_TRUE(QTest::qWaitFor([this] { return !window->isVisible(); }));
+  EXPECT_EQ(messages.Take().size(), 2U) << "and about the environment";
+  EXPECT_EQ(peer.TakeFrames().back(), atRest);
+  EXPECT_FALSE(window->State().Slot(3)->valid);
 }
 
 // Sets the text of a field at once, as an input method does.
@@ -348,6 +417,10 @@ TEST_F(MainWindow, CalibrationShiftIsKeptInItsFile) {
 }
 
 TEST_F(MainWindow, SampleInformationIsTakenOverAsTyped) {
+  Press("Mes7Option");
+  Press("Data");
+  EXPECT_EQ(OpenDialog()->focusWidget()->objectName(), QStringLiteral("SampNo_txt7"));
+  OpenDialog()->close();
   InDialog(window->Commands().sampleInformation, [](QWidget& dialog) {
     EXPECT_EQ(test::Child<QLineEdit>(dialog, "MesDate_txt10").text(), QStringLiteral("0:00:00"));
     Insert(dialog, "SampNo_txt1", "A-1 上");
@@ -416,6 +489,7 @@ TEST_F(MainWindow, AutomaticThicknessesGoIntoTheHistory) {
   Press("AutoMesThickChk");
   peer.SetLines(fringes);
   Press("Mes2");
+  WaitUntilIdle();
   EXPECT_EQ(messages.Take(), Shown{});
   const ThicknessHistory& history = window->State().thicknessHistory;
   ASSERT_EQ(history.count, 1);
@@ -455,6 +529,7 @@ TEST_F(MainWindow, OpensDataFilesAndEnvironments) {
   window->Commands().openFile->trigger();
   EXPECT_EQ(dialogs.filter, "ﾃﾞｰﾀ･ﾌｧｲﾙ(*.csv,*.dat)|*.csv;*.dat|");
   EXPECT_NEAR(Reflectance(2), 0.5, 1e-14) << "the file has 15 digits";
+  EXPECT_EQ(window->GetOption(), 1) << "the first that is filled";
   EXPECT_EQ(window->State().currentDataFileName, dialogs.open);
 
   // A broken one puts the defaults in force under their name, which must cost no other file.
@@ -471,6 +546,7 @@ TEST_F(MainWindow, OpensDataFilesAndEnvironments) {
   peer.TakeFrames();
   dialogs.open = environment;
   window->Commands().openEnvironment->trigger();
+  WaitUntilIdle();
   EXPECT_EQ(dialogs.filter, "環境ﾃﾞｰﾀ･ﾌｧｲﾙ(*.env)|*.env|全てのﾌｧｲﾙ(*.*)|*.*|");
   EXPECT_EQ(peer.TakeFrames(), std::vector<std::string>{"96392900"}) << "its sampling time is sent";
   EXPECT_EQ(Text("StatusPanel1"), "環境ﾌｧｲﾙ名:" + environment.toStdString());
@@ -485,26 +561,49 @@ TEST_F(MainWindow, OpensDataFilesAndEnvironments) {
 
 class DeadController : public test::MainWindowTest {
  protected:
+  bool Enabled(const char* name) { return Find<QWidget>(name).isEnabled(); }
   void SetUp() override { peer.At(1, PeerAction::kSilence); }
 };
 
 TEST_F(DeadController, LeavesTheProgramUsable) {
   Start();
   EXPECT_EQ(messages.Take(), (Shown{{"ｺﾝﾄﾛｰﾗｴﾗｰ: 通信でﾃﾞﾊﾞｲｽ･ｴﾗｰ発生しました。", 16}}));
-  for (const char* name : {"Background", "Reference"}) {
-    EXPECT_FALSE(Find<QAbstractButton>(name).isEnabled()) << name;
+  for (const char* name : {"Background", "Reference", "Mes1", "Mes10"}) {
+    EXPECT_FALSE(Enabled(name)) << name;
   }
+  EXPECT_TRUE(Find<QWidget>("Warning").isVisible());
+  EXPECT_TRUE(Text("Warning").starts_with("ｺﾝﾄﾛｰﾗ未接続"));
   EXPECT_FALSE(window->Commands().samplingSettings->isEnabled());
   EXPECT_TRUE(window->Commands().saveFileAs->isEnabled());
   EXPECT_EQ(window->windowTitle(), QStringLiteral("MERIDOX VEXA-KT"));
+
+  peer.TakeFrames();
+  window->Commands().reconnect->trigger();
+  WaitUntilIdle();
+  EXPECT_EQ(messages.Take(), Shown{});
+  EXPECT_EQ(peer.TakeFrames().back(), "96392900") << "the sampling time in force";
+  EXPECT_FALSE(window->Commands().reconnect->isEnabled());
+  EXPECT_TRUE(Enabled("Mes10"));
+  Measure("Background", 100);
+  EXPECT_FALSE(Find<QWidget>("Warning").isVisible());
+  EXPECT_TRUE(window->State().backgroundMeasured);
 }
 
 TEST_F(DeadController, CanBeLeftWhileItIsAwaited) {
   Create();
-  messages.answers = {MessageResult::kNo};
-  QTimer::singleShot(0, window.get(), [this] { EXPECT_TRUE(window->close()); });
-  window->Load();
-  EXPECT_EQ(messages.Take().size(), 1U) << "the question about the environment alone";
+  QCoro::Task<> loading = window->Load();
+  messages.answers = {MessageResult::kOk, MessageResult::kCancel};
+  window->close();
+  EXPECT_TRUE(QTest::qWaitFor([this] { return Enabled("Mes1"); })) << "it starts after all";
+  EXPECT_EQ(messages.Take().size(), 2U);
+
+  Create();
+  peer.At(1, PeerAction::kSilence);
+  loading = window->Load();
+  messages.answers = {MessageResult::kOk, MessageResult::kNo};
+  window->close();
+  EXPECT_TRUE(QTest::qWaitFor([this] { return !window->isVisible(); }));
+  EXPECT_EQ(messages.Take().size(), 2U) << "to end the wait, and about the environment";
 }
 
 }  // namespace

@@ -55,6 +55,9 @@ class ScriptedPeer : public QObject {
   /// The frames since the last call, as upper-case hexadecimal texts.
   std::vector<std::string> TakeFrames();
 
+  /// All frames so far.
+  [[nodiscard]] int FramesReceived() const { return received_; }
+
   /// Sends bytes that nobody asked for.
   void Send(const QByteArray& bytes);
 

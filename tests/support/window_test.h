@@ -9,7 +9,7 @@
 #include <QTest>
 #include <string>
 
-#include "measurement/vexatype.h"
+#include "measurement/session.h"
 #include "support/prepared_answers.h"
 #include "support/prepared_files.h"
 #include "support/temporary_files.h"
@@ -37,13 +37,15 @@ inline QString Type(const QWidget& window, const char* field, const char* keys) 
   return line.text();
 }
 
-/// What a view is given: a state, and prepared answers to whatever it asks.
+/// What a view is given: a session, and prepared answers to whatever it asks. A test puts what the
+/// view finds into the session's state itself, so that nothing is announced and nothing evaluated.
 class ViewTest : public testing::Test {
  protected:
-  VEXATYPE state;
   PreparedAnswers messages;
   PreparedFiles dialogs;
   TemporaryFiles files;
+  Session session{files.Directory()};
+  VEXATYPE& state = const_cast<VEXATYPE&>(session.State());
 };
 
 /// A test of one window.

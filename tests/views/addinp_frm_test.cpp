@@ -11,7 +11,7 @@ namespace {
 using SampleInformation = test::ViewTest;
 
 TEST_F(SampleInformation, ArrowKeysStayInTheirColumn) {
-  AddinpFrm dialog(state, messages);
+  AddinpFrm dialog(session, messages, 1);
   dialog.show();
   struct Case {
     const char* from;

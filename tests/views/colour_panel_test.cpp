@@ -17,7 +17,7 @@ class Panel : public test::WindowTest {
  protected:
   QWidget& Window() override { return panel; }
 
-  ColourPanel panel{state, messages, dialogs};
+  ColourPanel panel{session, messages, dialogs};
 };
 
 TEST_F(Panel, ShowsTheColourOfTheSelectedSlot) {
@@ -122,7 +122,7 @@ TEST_F(Panel, AccumulatedPointsAreOnTheDiagramWhileColoursAreAccumulated) {
   EXPECT_EQ(points(), 2);
   EXPECT_EQ(Text("StockCount"), "2");
   int changes = 0;
-  QObject::connect(&panel, &ColourPanel::StockChanged, &panel, [&changes] { ++changes; });
+  QObject::connect(&session, &Session::StockChanged, &panel, [&changes] { ++changes; });
   for (const int left : {1, 0, 0}) {
     Press("StockClear");
     EXPECT_EQ(points(), left);

@@ -27,7 +27,7 @@ class Stock : public test::WindowTest {
  protected:
   QWidget& Window() override { return window; }
 
-  StockWindow window{state, messages, dialogs, std::make_shared<BackgroundPicture>(messages)};
+  StockWindow window{session, messages, dialogs, std::make_shared<BackgroundPicture>(messages)};
 };
 
 TEST_F(Stock, SavesLoadsAndClears) {
@@ -56,7 +56,7 @@ TEST_F(Stock, SavesLoadsAndClears) {
   EXPECT_EQ(state.stock.P1[0], 0.0);
 
   int changes = 0;
-  QObject::connect(&window, &StockWindow::StockChanged, &window, [&changes] { ++changes; });
+  QObject::connect(&session, &Session::StockChanged, &window, [&changes] { ++changes; });
   dialogs.open = files.Write("old.stc", QByteArray(content).replace("3.21", "3.00"));
   Press("StockLoad");
   EXPECT_EQ(messages.Take(), Shown{});

@@ -56,7 +56,7 @@ TEST_F(DisplaySettings, EntriesAreCheckedInTheirOrder) {
   };
   for (const Case& c : cases) {
     state = {};
-    dispset window(state, messages);
+    dispset window(session, messages);
     for (const char* flag : {"FullScale", "AutoScale", "AutoTicks"}) {
       test::Child<QAbstractButton>(window, flag).setChecked(false);
     }
@@ -80,7 +80,7 @@ TEST_F(DisplaySettings, EntriesAreCheckedInTheirOrder) {
 
 TEST_F(DisplaySettings, BeginsWithItsFirstFieldAndTabEntersAGroupOnWhatIsChosen) {
   state.colour.illuminant = 3;
-  dispset window(state, messages);
+  dispset window(session, messages);
   window.show();
   EXPECT_LT(window.width(), window.screen()->availableSize().width()) << "it scrolls instead";
   EXPECT_EQ(window.focusWidget()->objectName(), QStringLiteral("FullScale"));
@@ -99,7 +99,7 @@ TEST_F(DisplaySettings, ChangedConditionsOfferToClearTheStock) {
     state = {};
     (void)state.stock.StockAdd({}, true);
     messages.answers = {answer};
-    dispset window(state, messages);
+    dispset window(session, messages);
     test::Click(window, "Illuminant3");
     test::Child<QLineEdit>(window, "Shortest").setText(QStringLiteral("500"));
     test::Click(window, "OK");
@@ -114,7 +114,7 @@ TEST_F(DisplaySettings, AClickSelectsAnEntryAndOtherCharactersAreRefused) {
   state.colour.illuminant = 7;
   state.display.labScale = 5;
   state.display.tickPercent = 0.00004;
-  dispset window(state, messages);
+  dispset window(session, messages);
   window.show();
   ASSERT_TRUE(QTest::qWaitForWindowActive(&window));
   auto& step = test::Child<QLineEdit>(window, "TextStep");

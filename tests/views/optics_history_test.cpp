@@ -3,7 +3,7 @@
 
 #include <QAction>
 #include <QPainter>
-#include <QTimer>
+#include <QPointer>
 
 #include "support/pdf_words.h"
 #include "support/window_test.h"
@@ -23,11 +23,18 @@ using test::ShownMessage;
 
 class History : public test::WindowTest {
  protected:
+  void SetUp() override {
+    state.thickness.enabled = true;
+    state.Slot(1)->valid = true;
+    state.Slot(1)->thickness.first.wavelengthNm = 700.0;
+  }
   QWidget& Window() override { return window; }
 
   void Add(const std::vector<double>& thicknesses, bool physical = true) {
     for (const double thickness : thicknesses) {
-      window.AddPointProc(thickness, physical);
+      state.Slot(slot)->thickness.thicknessNm = thickness;
+      state.Slot(slot)->thickness.physical = physical;
+      Press("AddPoint");
     }
   }
   // Number of points, thickness at the cursor and its index, as shown.
@@ -38,7 +45,8 @@ class History : public test::WindowTest {
   QCPRange Scale() { return Find<HistoryPlot>("HistoryPlot").yAxis->range(); }
 
   CurrentPrinter printer{state, messages, dialogs};
-  ThickGraph window{state, messages, dialogs, printer};
+  int slot = 1;  ///< the one selected
+  ThickGraph window{session, messages, dialogs, printer, [this] { return slot; }};
 };
 
 TEST_F(History, GrowsToFiftyPointsAndNoFurther) {
@@ -67,6 +75,8 @@ TEST_F(History, KeepsPhysicalAndOpticalThicknessesApart) {
 TEST_F(History, AddsTheThicknessOfTheCurrentSlot) {
   const ShownMessage notSetUp{Message::kHistoryThicknessDisabled};
   const ShownMessage nothing{Message::kNoValidData};
+  state.thickness.enabled = false;
+  state.Slot(1)->valid = false;
   Press("AddPoint");
   EXPECT_EQ(messages.Take(), std::vector{notSetUp});
   state.thickness.enabled = true;
@@ -78,7 +88,7 @@ TEST_F(History, AddsTheThicknessOfTheCurrentSlot) {
                               .thicknessNm = 2800.0,
                               .physical = false,
                               .extrema = {}};
-  window.SetCurrentSlot(3);
+  slot = 3;
   Press("AddPoint");
   EXPECT_EQ(Labels(), "1 2800.0 1");
   EXPECT_FALSE(state.thicknessHistory.physical) << "as it was computed, whatever is set now";
@@ -177,13 +187,12 @@ TEST_F(History, ScaleDialogKeepsItsLimits) {
 TEST_F(History, TakesTheScaleOfTheDialog) {
   Add({1510.0, 1630.0});
   const auto answer = [this](const char* button) {
-    QTimer::singleShot(0, &window, [this, button] {
-      const auto& dialog = *window.findChild<ThickGSetDlg*>();
-      Child<QAbstractButton>(dialog, "AutoScale").setChecked(false);
-      Child<QLineEdit>(dialog, "Maximum").setText(QStringLiteral("3000"));
-      Click(dialog, button);
-    });
     Choose("GraphSettings");
+    const QPointer<ThickGSetDlg> dialog = window.findChild<ThickGSetDlg*>();
+    Child<QAbstractButton>(*dialog, "AutoScale").setChecked(false);
+    Child<QLineEdit>(*dialog, "Maximum").setText(QStringLiteral("3000"));
+    Click(*dialog, button);
+    EXPECT_TRUE(QTest::qWaitFor([&dialog] { return dialog.isNull(); }));
   };
   answer("Cancel");
   EXPECT_EQ(Scale(), QCPRange(1500.0, 1650.0));

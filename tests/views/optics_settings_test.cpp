@@ -12,10 +12,10 @@ using Mode = RefSetDlg::Mode;
 using test::Shown;
 using test::ShownMessage;
 
-class Settings : public test::WindowTest {
+class OpticsSettings : public test::WindowTest {
  protected:
   void Open(Mode mode) {
-    dialog = std::make_unique<RefSetDlg>(mode, state, messages, dialogs);
+    dialog = std::make_unique<RefSetDlg>(mode, session, messages, dialogs);
     dialog->show();
   }
   QWidget& Window() override { return *dialog; }
@@ -24,7 +24,7 @@ class Settings : public test::WindowTest {
   std::unique_ptr<RefSetDlg> dialog;
 };
 
-TEST_F(Settings, PagesAndFieldsAreThoseOfTheModeAndTheKind) {
+TEST_F(OpticsSettings, PagesAndFieldsAreThoseOfTheModeAndTheKind) {
   const char* const fieldOfKind[] = {"FixedValue", "Schott5", "Sellmeier0", "IndexLoad",
                                      "SubstrateLoad"};
   for (const Mode mode : {Mode::kReference, Mode::kThickness}) {
@@ -51,7 +51,7 @@ TEST_F(Settings, PagesAndFieldsAreThoseOfTheModeAndTheKind) {
   }
 }
 
-TEST_F(Settings, FieldsTakeNumbersAloneAndShowThemInTheirPattern) {
+TEST_F(OpticsSettings, FieldsTakeNumbersAloneAndShowThemInTheirPattern) {
   Open(Mode::kReference);
   Press("Kind0");
   EXPECT_EQ(Type("FixedValue", "x5,2a.5 "), QStringLiteral("52.5"));
@@ -61,7 +61,7 @@ TEST_F(Settings, FieldsTakeNumbersAloneAndShowThemInTheirPattern) {
   EXPECT_EQ(Find<QLineEdit>("Schott3").text(), QStringLiteral("-7.61239110E-05"));
 }
 
-TEST_F(Settings, FixedValuesHaveTheirRange) {
+TEST_F(OpticsSettings, FixedValuesHaveTheirRange) {
   const ShownMessage reflectance{Message::kReferenceOutOfRange};
   const ShownMessage index{Message::kIndexOutOfRange};
   const struct {
@@ -93,7 +93,7 @@ TEST_F(Settings, FixedValuesHaveTheirRange) {
   }
 }
 
-TEST_F(Settings, NumbersThatWereNotEditedKeepTheirDigits) {
+TEST_F(OpticsSettings, NumbersThatWereNotEditedKeepTheirDigits) {
   state.thickness.coat.sellmeier[0] = 1.151501912345678;
   Open(Mode::kThickness);
   Type("Sellmeier1", "0.25");
@@ -102,7 +102,7 @@ TEST_F(Settings, NumbersThatWereNotEditedKeepTheirDigits) {
   EXPECT_EQ(state.thickness.coat.sellmeier[1], 0.25);
 }
 
-TEST_F(Settings, RejectedSettingsChangeNothing) {
+TEST_F(OpticsSettings, RejectedSettingsChangeNothing) {
   const ShownMessage computed{Message::kDispersionFault, {QStringLiteral("")}};
   const ShownMessage noFile{Message::kIndexFileFault, {QStringLiteral("")}};
   const ShownMessage noSubstrate{Message::kSubstrateFileFault, {QStringLiteral("")}};
@@ -150,7 +150,7 @@ TEST_F(Settings, RejectedSettingsChangeNothing) {
   }
 }
 
-TEST_F(Settings, OkStoresTheThicknessMeasurement) {
+TEST_F(OpticsSettings, OkStoresTheThicknessMeasurement) {
   Open(Mode::kThickness);
   for (const char* choice : {"ThicknessEnabled", "Type1", "ThicknessKind1", "Kind2"}) {
     Press(choice);
@@ -166,7 +166,7 @@ TEST_F(Settings, OkStoresTheThicknessMeasurement) {
   EXPECT_NEAR(state.referenceReflectance[588], 4.2, 0.5) << "a glass, in percent";
 }
 
-TEST_F(Settings, FilesAreSavedAndLoaded) {
+TEST_F(OpticsSettings, FilesAreSavedAndLoaded) {
   const struct {
     Mode mode;
     const char* name;
@@ -205,7 +205,7 @@ TEST_F(Settings, FilesAreSavedAndLoaded) {
   }
 }
 
-TEST_F(Settings, BadFilesLeaveTheFieldsAsTheyWere) {
+TEST_F(OpticsSettings, BadFilesLeaveTheFieldsAsTheyWere) {
   const ShownMessage reference{Message::kReferenceFileReadError};
   const ShownMessage index{Message::kIndexFileReadError};
   const struct {
@@ -240,7 +240,7 @@ TEST_F(Settings, BadFilesLeaveTheFieldsAsTheyWere) {
   EXPECT_EQ(messages.Take(), (Shown{{Message::kIndexFileWriteError}}));
 }
 
-TEST_F(Settings, SubstrateFilesGiveTheIndexOfTheSubstrate) {
+TEST_F(OpticsSettings, SubstrateFilesGiveTheIndexOfTheSubstrate) {
   dialogs.open = files.Write(
       "基板.dat", "VEXA for Windows ver 1.10 Data File\r\na comment\r\n 1 \r\nsample\r\n" +
                       QByteArray("4\r\n").repeated(401));

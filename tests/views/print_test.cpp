@@ -10,7 +10,6 @@
 #include "support/spectra.h"
 #include "support/window_test.h"
 #include "views/common/proposed_name.h"
-#include "views/files/saved_slots.h"
 #include "views/print/print_dlg.h"
 #include "views/print/print_preview.h"
 #include "views/print/print_setup_dlg.h"
@@ -171,28 +170,6 @@ TEST_F(Printing, FilesAreProposedAfterTheDataFileOrTheSampleAndTheDay) {
   EXPECT_EQ(ProposedName(state), QStringLiteral("A1 x_20260309"));
   state.currentDataFileName = QStringLiteral("/データ/ﾛｯﾄ.7.csv");
   EXPECT_EQ(ProposedName(state), QStringLiteral("ﾛｯﾄ.7_20260309"));
-}
-
-TEST_F(Printing, SlotsAreUnsavedOnceTheyAreNotThoseOfTheirFile) {
-  SavedSlots saved;
-  EXPECT_TRUE(saved.DifferFrom(state)) << "no file";
-  Fill(3);
-  state.currentDataFileName = QStringLiteral("/a.csv");
-  saved.Remember(state);
-  state.colour.illuminant = 2;
-  EvaluateAgain(state);
-  EXPECT_FALSE(saved.DifferFrom(state)) << "no data file holds the settings";
-  const std::function<void()> changes[] = {
-      [this] { state.Slot(2)->reflectance[500] += 0.1; },
-      [this] { state.Slot(3)->info.remark2 = QStringLiteral("再測定"); },
-      [this] { state.Slot(1)->valid = false; },
-      [this] { state.currentDataFileName = QStringLiteral("/b.csv"); }};
-  const VEXATYPE before = state;
-  for (const auto& change : changes) {
-    state = before;
-    change();
-    EXPECT_TRUE(saved.DifferFrom(state)) << &change - changes;
-  }
 }
 
 TEST_F(Printing, EveryWavelengthIsPrintedOnce) {

@@ -35,7 +35,7 @@ class StandardsWindow : public test::WindowTest {
  protected:
   StandardsWindow() { Open(); }
 
-  void Open() { window = std::make_unique<StandardFrm>(state, messages, dialogs); }
+  void Open() { window = std::make_unique<StandardFrm>(session, messages, dialogs); }
   QWidget& Window() override { return *window; }
 
   void Enter(const char* field, const char* text) {
@@ -281,7 +281,7 @@ TEST_F(StandardsWindow, AsksAtTheEndOnlyForChangedStandardsOfANamedFile) {
     messages.answers = {c.answer};
     dialogs.save = c.save ? std::optional(SaveChoice{*c.save}) : std::nullopt;
     EXPECT_FALSE(files.Has("end.std"));
-    EXPECT_EQ(QCoro::waitFor(SaveStandardsBeforeExit(state, messages, dialogs)), c.goesOn);
+    EXPECT_EQ(QCoro::waitFor(SaveStandardsBeforeExit(session, messages, dialogs)), c.goesOn);
     EXPECT_EQ(messages.Take(), c.shown);
   }
   EXPECT_TRUE(files.Has("end.std"));

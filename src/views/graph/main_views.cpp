@@ -129,11 +129,14 @@ void MainViews::ShowCursor() {
 }
 
 void MainViews::AskJump() {
-  JampWave jump(state_, this);
-  jump.exec();
-  if (jump.Outcome() == QLatin1String("OK") && jump.Wavelength()) {
-    MoveCursor(*jump.Wavelength());
-  }
+  auto* jump = new JampWave(state_, this);
+  jump->setAttribute(Qt::WA_DeleteOnClose);
+  connect(jump, &QDialog::accepted, this, [this, jump] {
+    if (const std::optional<int> nm = jump->Wavelength()) {
+      MoveCursor(*nm);
+    }
+  });
+  jump->open();
 }
 
 }  // namespace vexa

@@ -198,15 +198,15 @@ void ThickGraph::Print() {
 }
 
 void ThickGraph::AskScale() {
-  ThickGSetDlg dialog(scale_, autoScale_, messages_, this);
-  dialog.exec();
-  if (dialog.Outcome() != QStringLiteral("OK")) {
-    return;
-  }
-  autoScale_ = dialog.AutoScale();
-  scale_ = dialog.Scale();
-  RecomputeScale();
-  ShowHistory();
+  auto* dialog = new ThickGSetDlg(scale_, autoScale_, messages_, this);
+  dialog->setAttribute(Qt::WA_DeleteOnClose);
+  connect(dialog, &QDialog::accepted, this, [this, dialog] {
+    autoScale_ = dialog->AutoScale();
+    scale_ = dialog->Scale();
+    RecomputeScale();
+    ShowHistory();
+  });
+  dialog->open();
 }
 
 void ThickGraph::RecomputeScale() {

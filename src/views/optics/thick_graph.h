@@ -21,8 +21,7 @@ class ThickGraph : public QMainWindow {
  public:
   /// `selectedSlot` tells the slot (1..10) whose thickness the add button appends.
   ThickGraph(Session& session, MessageService& messages, FileDialogs& dialogs,
-             CurrentPrinter& printer, std::function<int()> selectedSlot,
-             QWidget* parent = nullptr);
+             CurrentPrinter& printer, std::function<int()> selectedSlot, QWidget* parent = nullptr);
 
  private:
   void BuildMenus();

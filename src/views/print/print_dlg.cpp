@@ -73,8 +73,7 @@ PrintDlg::PrintDlg(const VEXATYPE& state, int selectedSlot, ReportRequest& reque
   setObjectName(QStringLiteral("PrintDlg"));
   setWindowTitle(Text::tr("印刷"));
   auto* preview = DialogButton("Preview", Text::tr("ﾌﾟﾚﾋﾞｭｰ"));
-  connect(preview, &QPushButton::clicked, this,
-          [this] { PrintPreview(printer_.Settings(), Pages(Entries()), this).exec(); });
+  connect(preview, &QPushButton::clicked, this, &PrintDlg::Preview);
   QWidget* buttons = OkCancelButtons(*this, preview);
   buttons->findChild<QPushButton*>(QStringLiteral("OK"))->setText(Text::tr("印刷"));
   auto* layout = new QVBoxLayout(this);
@@ -152,10 +151,7 @@ QWidget* PrintDlg::BuildPrinter() {
   printerText_->setObjectName(QStringLiteral("PrinterText"));
   printerText_->setTextFormat(Qt::PlainText);
   QPushButton* settings = DialogButton("PrinterSettings", Text::tr("印刷設定"));
-  connect(settings, &QPushButton::clicked, this, [this] {
-    PrintSetupDlg(printer_, messages_, this).exec();
-    ShowPrinter();
-  });
+  connect(settings, &QPushButton::clicked, this, &PrintDlg::SetUpPrinter);
   copies_->setObjectName(QStringLiteral("Copies"));
   copies_->setRange(1, kMostCopies);
   copies_->setFixedWidth(80);
@@ -192,6 +188,19 @@ PageMaker PrintDlg::Pages(const ReportRequest& request) const {
 void PrintDlg::ShowPrinter() {
   printerText_->setText(PrintSettingsText(printer_.Settings()));
   copies_->setEnabled(!printer_.Settings().printerName.isEmpty());
+}
+
+void PrintDlg::Preview() {
+  auto* preview = new PrintPreview(printer_.Settings(), Pages(Entries()), this);
+  preview->setAttribute(Qt::WA_DeleteOnClose);
+  preview->open();
+}
+
+void PrintDlg::SetUpPrinter() {
+  auto* setup = new PrintSetupDlg(printer_, messages_, this);
+  setup->setAttribute(Qt::WA_DeleteOnClose);
+  connect(setup, &QDialog::accepted, this, &PrintDlg::ShowPrinter);
+  setup->open();
 }
 
 void PrintDlg::accept() {

@@ -38,6 +38,8 @@ class PrintDlg : public QDialog {
   [[nodiscard]] ReportRequest Entries() const;
   [[nodiscard]] PageMaker Pages(const ReportRequest& request) const;
   void ShowPrinter();
+  void Preview();
+  void SetUpPrinter();
   QCoro::Task<> Print();
 
   const VEXATYPE& state_;
