@@ -3,6 +3,7 @@
 #include "base/language.h"
 
 #include <QAction>
+#include <QCoroTask>
 #include <QGroupBox>
 #include <QMenu>
 #include <QMenuBar>
@@ -22,6 +23,13 @@ class English : public test::MainWindowTest {
   ~English() override {
     window.reset();
     UseLanguage(Language::kJapanese);
+  }
+
+  // As the program starts, until the controller has answered.
+  void Begin() {
+    Create();
+    QCoro::waitFor(window->Load());
+    messages.Take();
   }
 
   // The texts of a window that hold Japanese, other than names of files.
@@ -81,7 +89,7 @@ class English : public test::MainWindowTest {
 };
 
 TEST_F(English, NoWindowHoldsAJapaneseText) {
-  Start();
+  Begin();
   EXPECT_EQ(JapaneseTexts(*window), QStringList());
   EXPECT_EQ(window->menuBar()->actions().constFirst()->text(), QStringLiteral("&File"));
   int opened = 0;
@@ -103,7 +111,7 @@ TEST_F(English, NoWindowHoldsAJapaneseText) {
 }
 
 TEST_F(English, TheChoiceIsKeptForTheNextStart) {
-  Start();
+  Begin();
   Command("English")->trigger();
   EXPECT_EQ(messages.Take(), test::Shown{Message::kLanguageAtNextStart});
   EXPECT_EQ(StartProgram(peer.Directory()).settings.language, Language::kEnglish);
