@@ -15,11 +15,16 @@
 #include "app/unattended_messages.h"
 #include "app/vexa.h"
 #include "base/end_signals.h"
+#include "base/language.h"
+#include "base/translation.h"
+#include "files/program_settings_file.h"
 #include "measurement/controller_start.h"
 #include "views/common/theme.h"
 #include "views/common/window_messages.h"
 
 namespace {
+
+using vexa::Text;
 
 vexa::Services MakeServices(vexa::MessageService& messages, vexa::FileDialogs& dialogs) {
   return {messages, dialogs, QDateTime::currentDateTime,
@@ -52,7 +57,7 @@ int RunDemonstration(const QString& directory, bool gpib, const QString& picture
   return status;
 }
 
-int RunWindow() {
+int RunWindow(const QList<vexa::MessageCall>& notices) {
   vexa::WindowMessages messages;
   vexa::WindowFileDialogs dialogs;
   vexa::VEXA window(MakeServices(messages, dialogs), QDir::currentPath());
@@ -60,6 +65,7 @@ int RunWindow() {
   dialogs.SetWindow(&window);
   window.show();
   const vexa::EndSignals endSignals([&window] { window.EndAtOnce(); });
+  vexa::TellAll(notices, messages);
   const auto start = [](vexa::VEXA& started) -> QCoro::Task<> {
     co_await started.Load();
     co_await started.OfferSession();
@@ -82,26 +88,30 @@ bool NeedsNoDisplay(int argc, char* argv[]) {
 struct Options {
   QCommandLineOption demo{
       QStringLiteral("demo"),
-      QStringLiteral("Measures five samples on the virtual instrument by itself and leaves "
-                     "measurement.csv and window.png in DIR."),
+      Text::tr("Measures five samples on the virtual instrument by itself and leaves "
+               "measurement.csv and window.png in DIR."),
       QStringLiteral("DIR")};
   QCommandLineOption pictures{
       QStringLiteral("pictures"),
-      QStringLiteral("With --demo: leaves a picture of every window and view in DIR."),
+      Text::tr("With --demo: leaves a picture of every window and view in DIR."),
       QStringLiteral("DIR")};
   QCommandLineOption gpib{
       QStringLiteral("gpib"),
-      QStringLiteral("With --demo: over the control box on the GP-IB instead of the serial port.")};
-  QCommandLineOption report{
-      QStringLiteral("report"),
-      QStringLiteral("Prints the data file FILE as a PDF file, without a window."),
-      QStringLiteral("FILE")};
-  QCommandLineOption out{QStringLiteral("out"), QStringLiteral("The PDF file of --report."),
+      Text::tr("With --demo: over the control box on the GP-IB instead of the serial port.")};
+  QCommandLineOption language{
+      QStringLiteral("language"),
+      Text::tr("Language of the texts: ja or en (default: as chosen in the help menu, else "
+               "ja)."),
+      QStringLiteral("CODE")};
+  QCommandLineOption report{QStringLiteral("report"),
+                            Text::tr("Prints the data file FILE as a PDF file, without a window."),
+                            QStringLiteral("FILE")};
+  QCommandLineOption out{QStringLiteral("out"), Text::tr("The PDF file of --report."),
                          QStringLiteral("FILE.pdf")};
-  QCommandLineOption title{QStringLiteral("title"), QStringLiteral("The title of --report."),
+  QCommandLineOption title{QStringLiteral("title"), Text::tr("The title of --report."),
                            QStringLiteral("TEXT")};
   QCommandLineOption operatorName{QStringLiteral("operator"),
-                                  QStringLiteral("The operator named by --report."),
+                                  Text::tr("The operator named by --report."),
                                   QStringLiteral("NAME")};
 };
 
@@ -133,23 +143,30 @@ int main(int argc, char* argv[]) {
   QApplication::setApplicationName(QStringLiteral("vexa"));
   QApplication::setApplicationVersion(QStringLiteral(VEXA_VERSION));
   vexa::ApplyTheme(application);
+  QStringList arguments = QApplication::arguments();
+  const vexa::LanguageRequest request = vexa::TakeLanguageRequest(arguments);
+  const vexa::ProgramStart begin = vexa::StartProgram(QDir::currentPath());
+  const vexa::Language language = request.language.value_or(begin.settings.language);
+  vexa::UseLanguage(language);
   // The toolkit's own dialogs, such as those for files; without its translations they are English.
   QTranslator toolkit;
-  if (toolkit.load(QStringLiteral("qtbase_ja"),
+  if (toolkit.load(QStringLiteral("qtbase_") + vexa::LanguageCode(language),
                    QLibraryInfo::path(QLibraryInfo::TranslationsPath))) {
     QApplication::installTranslator(&toolkit);
   }
 
   QCommandLineParser parser;
-  parser.setApplicationDescription(QStringLiteral(
-      "Control and analysis program of the VEXA-KT reflectance micro-spectrophotometer."));
+  parser.setApplicationDescription(
+      Text::tr("Control and analysis program of the VEXA-KT reflectance micro-spectrophotometer."));
   parser.addHelpOption();
   parser.addVersionOption();
   const Options options;
   parser.addOptions({options.demo, options.gpib, options.pictures, options.report, options.out,
-                     options.title, options.operatorName});
-  const bool parsed = parser.parse(QApplication::arguments());
-  const QString fault = parsed ? Fault(parser, options) : parser.errorText();
+                     options.language, options.title, options.operatorName});
+  const bool parsed = parser.parse(arguments);
+  const QString fault = !request.fault.isEmpty() ? request.fault
+                        : parsed                 ? Fault(parser, options)
+                                                 : parser.errorText();
   if (!fault.isEmpty()) {
     vexa::Complain(fault);
     return 2;
@@ -170,5 +187,5 @@ int main(int argc, char* argv[]) {
   return parser.isSet(options.demo)
              ? RunDemonstration(parser.value(options.demo), parser.isSet(options.gpib),
                                 parser.value(options.pictures))
-             : RunWindow();
+             : RunWindow(begin.notices);
 }

@@ -1,6 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "app/main_menu.h"
 
+#include <utility>
+
+#include "base/language.h"
 #include "base/translation.h"
 
 namespace vexa {
@@ -25,6 +28,19 @@ QActionGroup* AddViews(QMenu* menu) {
   }
   views->actions().constFirst()->setChecked(true);
   return views;
+}
+
+// Each language has its own name for itself.
+QActionGroup* AddLanguages(QMenu* menu) {
+  auto* languages = new QActionGroup(menu);
+  for (const auto& [language, name] : {std::pair{Language::kJapanese, QStringLiteral("日本語")},
+                                       std::pair{Language::kEnglish, QStringLiteral("English")}}) {
+    QAction* action = Add(menu, name);
+    action->setCheckable(true);
+    action->setData(LanguageCode(language));
+    languages->addAction(action);
+  }
+  return languages;
 }
 
 }  // namespace
@@ -69,6 +85,7 @@ MenuCommands BuildMenu(QMenuBar& bar) {
   commands.reconnect = Add(system, Text::tr("再接続(&N)"));
 
   QMenu* help = bar.addMenu(Text::tr("ﾍﾙﾌﾟ(&H)"));
+  commands.languages = AddLanguages(help->addMenu(QStringLiteral("Language(&L)")));
   commands.version = Add(help, Text::tr("ﾊﾞｰｼﾞｮﾝ(&A)"));
   return commands;
 }

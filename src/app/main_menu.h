@@ -28,7 +28,8 @@ struct MenuCommands {
   QAction* referenceSettings;
   QAction* samplingSettings;
   QAction* calibration;
-  QAction* reconnect;  ///< tries the controller again
+  QAction* reconnect;       ///< tries the controller again
+  QActionGroup* languages;  ///< each with its code as data; none is checked yet
   QAction* version;
 };
 

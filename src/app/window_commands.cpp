@@ -2,11 +2,14 @@
 #include "app/window_commands.h"
 
 #include <QDialog>
+#include <QMenu>
 #include <utility>
 
 #include "app/version_dialog.h"
 #include "base/translation.h"
+#include "files/program_settings_file.h"
 #include "views/colour/colour_difference_window.h"
+#include "views/common/file_questions.h"
 #include "views/common/quiet_messages.h"
 #include "views/files/addinp_frm.h"
 #include "views/files/data_file_commands.h"
@@ -39,6 +42,7 @@ WindowCommands::WindowCommands(const MenuCommands& menu, Session& session, Instr
       printer_(session.State(), messages, dialogs) {
   ConnectFiles();
   ConnectWindows();
+  ConnectLanguages();
 }
 
 void WindowCommands::ShowAvailable(bool usable) {
@@ -97,6 +101,20 @@ void WindowCommands::ConnectWindows() {
   Do(menu_.thicknessGraph, [this] { ShowThicknessGraph(); });
 }
 
+void WindowCommands::ConnectLanguages() {
+  for (QAction* language : menu_.languages->actions()) {
+    Do(language, [this, language] { KeepLanguage(language->data().toString()); });
+  }
+  // What the next start will find.
+  connect(qobject_cast<QMenu*>(menu_.languages->parent()), &QMenu::aboutToShow, this, [this] {
+    const ReadResult<ProgramSettings> kept = ReadProgramSettings(state_.programDirectory);
+    const QString code = LanguageCode(kept ? kept->language : Language::kJapanese);
+    for (QAction* language : menu_.languages->actions()) {
+      language->setChecked(language->data().toString() == code);
+    }
+  });
+}
+
 void WindowCommands::Do(QAction* action, std::function<void()> run) {
   action->setEnabled(true);
   connect(action, &QAction::triggered, this, std::move(run));
@@ -132,6 +150,16 @@ void WindowCommands::Print() {
   report_.date = today;
   report_.unsaved = !state_.slotsSaved;
   PrintSlots(state_, selectedSlot_(), report_, printer_, messages_, &window_);
+}
+
+void WindowCommands::KeepLanguage(const QString& code) {
+  const ReadResult<ProgramSettings> kept = ReadProgramSettings(state_.programDirectory);
+  ProgramSettings settings = kept ? *kept : ProgramSettings();
+  settings.language = LanguageOf(code).value_or(settings.language);
+  const WriteResult written = WriteProgramSettings(settings, state_.programDirectory);
+  if (TellWritten(written, ProgramSettingsPath(state_.programDirectory), messages_)) {
+    messages_.Tell({Message::kLanguageAtNextStart});
+  }
 }
 
 void WindowCommands::ShowThicknessGraph() {

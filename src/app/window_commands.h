@@ -33,11 +33,13 @@ class WindowCommands : public QObject {
  private:
   void ConnectFiles();
   void ConnectWindows();
+  void ConnectLanguages();
   void Do(QAction* action, std::function<void()> run);
   void Open(QAction* action, std::function<QDialog*()> make);
   QCoro::Task<> TakeOverEnvironment();
   QCoro::Task<> TakeOverController();
   void Print();
+  void KeepLanguage(const QString& code);
   void ShowThicknessGraph();
   [[nodiscard]] QDialog* MakeSettingsList();
 

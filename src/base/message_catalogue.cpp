@@ -82,6 +82,12 @@ constexpr std::array<MessageEntry, kMessageCount> kCatalogue{{
      QT_TRANSLATE_NOOP("Text", "読み込まれていない環境ﾌｧｲﾙです。上書き保存しますか？\r\r%1")},
     {Message::kSaveEnvironment, title::kMessage, MessageIcon::kQuestion,
      MessageButtons::kYesNoCancel, QT_TRANSLATE_NOOP("Text", "%1\r\r現在の環境をｾｰﾌﾞしますか。")},
+    {Message::kProgramSettingsUnreadable, title::kWarning, MessageIcon::kWarning,
+     MessageButtons::kOk,
+     QT_TRANSLATE_NOOP(
+         "Text", "ﾌﾟﾛｸﾞﾗﾑの設定ﾌｧｲﾙを読めません。次の名前で残し、既定の設定で始めます。\r\r%1")},
+    {Message::kLanguageAtNextStart, title::kInformation, MessageIcon::kInformation,
+     MessageButtons::kOk, QT_TRANSLATE_NOOP("Text", "表示言語は次の起動から有効になります。")},
     {Message::kJournalOtherVersion, title::kWarning, MessageIcon::kWarning, MessageButtons::kOk,
      QT_TRANSLATE_NOOP("Text",
                        "ほかのﾊﾞｰｼﾞｮﾝのｼﾞｬｰﾅﾙ･ﾌｧｲﾙは復元できません。次の名前で残します。\r\r%1")},

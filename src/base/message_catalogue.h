@@ -32,6 +32,10 @@ enum class Message : std::uint8_t {
   kReplaceUnreadEnvironment,  ///< %1 path
   kSaveEnvironment,           ///< %1 path
 
+  // Settings of the program.
+  kProgramSettingsUnreadable,  ///< %1 name of the copy
+  kLanguageAtNextStart,
+
   // Journal.
   kJournalOtherVersion,    ///< %1 names
   kJournalUnreadable,      ///< %1 names

@@ -5,6 +5,7 @@
 #include <vector>
 
 #include "base/number_text.h"
+#include "base/translation.h"
 #include "cli/analysis_settings.h"
 #include "cli/cie_report.h"
 #include "cli/command_line.h"
@@ -45,10 +46,9 @@ constexpr Part kColourParts[] = {
 };
 
 void DeclareOptions(QCommandLineParser& parser) {
-  parser.addPositionalArgument(QStringLiteral("FILE"),
-                               QStringLiteral("A data file (*.csv or *.dat)."));
+  parser.addPositionalArgument(QStringLiteral("FILE"), Text::tr("A data file (*.csv or *.dat)."));
   DeclareAnalysisOptions(parser);
-  parser.addOption({kCie, QStringLiteral("Adds the CIE colour at the tables' true wavelengths.")});
+  parser.addOption({kCie, Text::tr("Adds the CIE colour at the tables' true wavelengths.")});
 }
 
 // The slot itself does not tell what of its colour could be computed.
@@ -246,7 +246,7 @@ int Analyse(const QCommandLineParser& parser) {
 Command AnalyseCommand() {
   return {QStringLiteral("analyse"),
           QStringLiteral("FILE [options]"),
-          QStringLiteral("Colours, judgements and thicknesses of the slots of a data file."),
+          Text::tr("Colours, judgements and thicknesses of the slots of a data file."),
           1,
           DeclareOptions,
           Analyse};

@@ -5,6 +5,7 @@
 #include <functional>
 
 #include "base/number_text.h"
+#include "base/translation.h"
 #include "cli/program_settings.h"
 #include "files/configuration.h"
 #include "measurement/dispersion_data.h"
@@ -116,9 +117,8 @@ void DeclareAnalysisOptions(QCommandLineParser& parser) {
   add(kObserver, "Observer: 2 or 10 degrees.", "DEGREES");
   add(kAverage, "Range of the average reflectance in nm.", "FROM-TO");
   add(option::kStandard, "Judges every slot; exit status 3 when a group is NG.", "FILE.std");
-  parser.addOption(
-      {kThickness, QStringLiteral("Computes the thickness even when the environment has it "
-                                  "disabled.")});
+  parser.addOption({kThickness, Text::tr("Computes the thickness even when the environment has it "
+                                         "disabled.")});
   add(kType, "Extrema of the thickness: A (two minima), B (maxima) or C (both).", "TYPE");
   add(kThicknessKind, "Thickness: physical or optical.", "KIND");
   add(kIndex, "Index of the film: a number or an index file.", "V|FILE.ind");

@@ -6,6 +6,8 @@
 #include <algorithm>
 #include <array>
 
+#include "base/language.h"
+#include "base/translation.h"
 #include "cli/console.h"
 #include "cli/program_settings.h"
 
@@ -18,25 +20,27 @@ const std::array kCommands{AnalyseCommand, ConvertCommand,     DecodeCommand,   
                            StockCommand};
 
 QString Overview() {
-  QString text = QStringLiteral("Usage: vexa-cli COMMAND [arguments] [options]\n\nCommands:\n");
+  QString text = Text::tr("Usage: vexa-cli COMMAND [arguments] [options]\n\nCommands:\n");
   for (const auto& make : kCommands) {
     const Command command = make();
     text += QStringLiteral("  %1 %2\n").arg(command.name, -12).arg(command.summary);
   }
-  return text + QStringLiteral("\n\"vexa-cli COMMAND --help\" tells more about each.\n");
+  return text + Text::tr("\n\"vexa-cli COMMAND --help\" tells more about each.\n");
 }
 
 int RunCommand(const Command& command, const QStringList& arguments) {
   QCommandLineParser parser;
   parser.setApplicationDescription(command.summary);
-  parser.addOption(
-      {{QStringLiteral("h"), QStringLiteral("help")}, QStringLiteral("Shows this help.")});
-  parser.addOption({option::kJson, QStringLiteral("Prints one JSON document.")});
+  parser.addOption({{QStringLiteral("h"), QStringLiteral("help")}, Text::tr("Shows this help.")});
+  parser.addOption({option::kJson, Text::tr("Prints one JSON document.")});
   parser.addOption({option::kDir,
-                    QStringLiteral("Program directory, with the settings files (default: the "
-                                   "current one)."),
+                    Text::tr("Program directory, with the settings files (default: the "
+                             "current one)."),
                     QStringLiteral("DIR")});
-  parser.addOption({option::kNo, QStringLiteral("Answers every question with no.")});
+  parser.addOption({option::kLanguage,
+                    Text::tr("Language of the texts: ja (default) or en; with --json always ja."),
+                    QStringLiteral("CODE")});
+  parser.addOption({option::kNo, Text::tr("Answers every question with no.")});
   command.declareOptions(parser);
   if (!parser.parse(QStringList{QStringLiteral("vexa-cli")} + arguments)) {
     Complain(command.name + QStringLiteral(": ") + parser.errorText());
@@ -79,7 +83,16 @@ std::optional<Number> Checked(const QString& name, const QString& text, bool ok,
 
 }  // namespace
 
-int Run(const QStringList& arguments) {
+int Run(QStringList arguments) {
+  const LanguageRequest request = TakeLanguageRequest(arguments);
+  // A JSON document is the same in both languages.
+  UseLanguage(arguments.contains(QStringLiteral("--") + option::kJson)
+                  ? Language::kJapanese
+                  : request.language.value_or(Language::kJapanese));
+  if (!request.fault.isEmpty()) {
+    Complain(request.fault);
+    return kUsageError;
+  }
   if (arguments.isEmpty()) {
     Complain(QStringLiteral("no command given; \"vexa-cli --help\" lists them"));
     return kUsageError;

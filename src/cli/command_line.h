@@ -9,7 +9,7 @@
 namespace vexa::cli {
 
 /// Runs the command line (without the program's name) and returns the exit status.
-int Run(const QStringList& arguments);
+int Run(QStringList arguments);
 
 /// A command: its name, its arguments and what it does, and the function that does it.
 struct Command {

@@ -2,6 +2,7 @@
 #include <QDir>
 #include <QFileInfo>
 
+#include "base/translation.h"
 #include "cli/command_line.h"
 #include "cli/console.h"
 #include "cli/program_settings.h"
@@ -13,13 +14,12 @@ namespace {
 const QString kLayout = QStringLiteral("layout");
 
 void DeclareOptions(QCommandLineParser& parser) {
-  parser.addPositionalArgument(QStringLiteral("IN"),
-                               QStringLiteral("Data file to read, or several."));
+  parser.addPositionalArgument(QStringLiteral("IN"), Text::tr("Data file to read, or several."));
   parser.addPositionalArgument(QStringLiteral("OUT"),
-                               QStringLiteral("Data file to write, or a directory for several."));
+                               Text::tr("Data file to write, or a directory for several."));
   parser.addOption({kLayout,
-                    QStringLiteral("1 csv, 2 dat with ten blocks, 3 dat with five (default: by the "
-                                   "ending of OUT)."),
+                    Text::tr("1 csv, 2 dat with ten blocks, 3 dat with five (default: by the "
+                             "ending of OUT)."),
                     QStringLiteral("1|2|3")});
 }
 
@@ -73,7 +73,7 @@ int Convert(const QCommandLineParser& parser) {
 Command ConvertCommand() {
   return {QStringLiteral("convert"),
           QStringLiteral("IN OUT [--layout 1|2|3] | IN... DIRECTORY [--layout 1|2|3]"),
-          QStringLiteral("Reads a data file and writes it in another layout."),
+          Text::tr("Reads a data file and writes it in another layout."),
           -2,
           DeclareOptions,
           Convert};

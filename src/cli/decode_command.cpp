@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include <algorithm>
 
+#include "base/translation.h"
 #include "cli/command_line.h"
 #include "cli/console.h"
 #include "cli/line_file.h"
@@ -15,13 +16,12 @@ const QString kStart = QStringLiteral("start");
 
 void DeclareOptions(QCommandLineParser& parser) {
   parser.addPositionalArgument(QStringLiteral("LINES.bin"),
-                               QStringLiteral("1 to 16 detector lines of 1024 bytes."));
+                               Text::tr("1 to 16 detector lines of 1024 bytes."));
   parser.addOption({kPositions,
-                    QStringLiteral("Pixel positions of the six spectral lines (default "
-                                   "138,325,378,409,469,0)."),
+                    Text::tr("Pixel positions of the six spectral lines (default "
+                             "138,325,378,409,469,0)."),
                     QStringLiteral("P0,P1,P2,P3,P4,P5")});
-  parser.addOption(
-      {kStart, QStringLiteral("Start wavelength (default 440)."), QStringLiteral("NM")});
+  parser.addOption({kStart, Text::tr("Start wavelength (default 440)."), QStringLiteral("NM")});
 }
 
 std::optional<LinePositions> PositionsOption(const QCommandLineParser& parser) {
@@ -76,7 +76,7 @@ int Decode(const QCommandLineParser& parser) {
 Command DecodeCommand() {
   return {QStringLiteral("decode"),
           QStringLiteral("LINES.bin [options]"),
-          QStringLiteral("Averages raw detector lines and maps them to wavelengths."),
+          Text::tr("Averages raw detector lines and maps them to wavelengths."),
           1,
           DeclareOptions,
           Decode};

@@ -2,6 +2,7 @@
 #include <array>
 
 #include "base/number_text.h"
+#include "base/translation.h"
 #include "cli/command_line.h"
 #include "cli/console.h"
 #include "cli/program_settings.h"
@@ -23,15 +24,15 @@ struct Source {
 const std::array<Source, 5>& Sources() {
   static const std::array<Source, 5> kSources{{
       {QStringLiteral("fixed"), DispersionKind::kFixedValue, QStringLiteral("V"),
-       QStringLiteral("The same value at every wavelength.")},
+       Text::tr("The same value at every wavelength.")},
       {QStringLiteral("schott"), DispersionKind::kSchott, QStringLiteral("A0,A1,A2,A3,A4,A5"),
-       QStringLiteral("Schott's formula, wavelength in micrometres.")},
+       Text::tr("Schott's formula, wavelength in micrometres.")},
       {QStringLiteral("sellmeier"), DispersionKind::kSellmeier, QStringLiteral("A1,A2,A3,B1,B2,B3"),
-       QStringLiteral("Sellmeier's formula, wavelength in micrometres.")},
+       Text::tr("Sellmeier's formula, wavelength in micrometres.")},
       {QStringLiteral("file"), DispersionKind::kIndexFile, QStringLiteral("FILE"),
-       QStringLiteral("An index or reference file (*.ind, *.ref).")},
+       Text::tr("An index or reference file (*.ind, *.ref).")},
       {QStringLiteral("substrate"), DispersionKind::kSubstrate, QStringLiteral("FILE"),
-       QStringLiteral("Index of a bare substrate from its measured data file.")},
+       Text::tr("Index of a bare substrate from its measured data file.")},
   }};
   return kSources;
 }
@@ -42,9 +43,8 @@ void DeclareOptions(QCommandLineParser& parser) {
   }
   parser.addOption(
       {kAsReflectance,
-       QStringLiteral("Gives the reflectance of a bare surface in percent (formulas alone).")});
-  parser.addOption({option::kOut,
-                    QStringLiteral("Writes the spectrum as an index or a reference file."),
+       Text::tr("Gives the reflectance of a bare surface in percent (formulas alone).")});
+  parser.addOption({option::kOut, Text::tr("Writes the spectrum as an index or a reference file."),
                     QStringLiteral("FILE.ind|FILE.ref")});
 }
 
@@ -148,7 +148,7 @@ int Dispersion(const QCommandLineParser& parser) {
 Command DispersionCommand() {
   return {QStringLiteral("dispersion"),
           QStringLiteral("SOURCE [--as-reflectance] [--out FILE.ind|FILE.ref] [options]"),
-          QStringLiteral("Computes an index or reflectance spectrum from its setting."),
+          Text::tr("Computes an index or reflectance spectrum from its setting."),
           0,
           DeclareOptions,
           Dispersion};

@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include "base/translation.h"
 #include "cli/command_line.h"
 #include "cli/console.h"
 #include "cli/program_settings.h"
@@ -8,9 +9,9 @@ namespace vexa::cli {
 namespace {
 
 void DeclareOptions(QCommandLineParser& parser) {
-  parser.addPositionalArgument(QStringLiteral("FILE"), QStringLiteral("Environment file."));
+  parser.addPositionalArgument(QStringLiteral("FILE"), Text::tr("Environment file."));
   parser.addOption(
-      {option::kOut, QStringLiteral("Writes it in the current layout."), QStringLiteral("FILE")});
+      {option::kOut, Text::tr("Writes it in the current layout."), QStringLiteral("FILE")});
 }
 
 struct JsonValue {
@@ -65,7 +66,7 @@ int Environment(const QCommandLineParser& parser) {
 Command EnvCommand() {
   return {QStringLiteral("env"),
           QStringLiteral("FILE [--out FILE]"),
-          QStringLiteral("Shows an environment file of any accepted version."),
+          Text::tr("Shows an environment file of any accepted version."),
           1,
           DeclareOptions,
           Environment};

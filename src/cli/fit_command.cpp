@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "base/number_text.h"
+#include "base/translation.h"
 #include "cli/command_line.h"
 #include "cli/console.h"
 #include "cli/program_settings.h"
@@ -33,8 +34,7 @@ const QString kIndexUncertainty = QStringLiteral("index-uncertainty");
 const QString kConfidence = QStringLiteral("confidence");
 
 void DeclareOptions(QCommandLineParser& parser) {
-  parser.addPositionalArgument(QStringLiteral("FILE"),
-                               QStringLiteral("A data file (*.csv or *.dat)."));
+  parser.addPositionalArgument(QStringLiteral("FILE"), Text::tr("A data file (*.csv or *.dat)."));
   const auto add = [&parser](const QString& name, const char* text, const char* value = "") {
     parser.addOption({name, QString::fromUtf8(text), QString::fromUtf8(value)});
   };
@@ -281,7 +281,7 @@ Command FitCommand() {
   return {QStringLiteral("fit"),
           QStringLiteral("FILE --substrate MATERIAL --layer MATERIAL [--layer MATERIAL ...] "
                          "[options]"),
-          QStringLiteral("Fits the thicknesses of a film stack to the slots of a data file."),
+          Text::tr("Fits the thicknesses of a film stack to the slots of a data file."),
           1,
           DeclareOptions,
           Fit};

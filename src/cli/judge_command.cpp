@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include "base/translation.h"
 #include "cli/command_line.h"
 #include "cli/console.h"
 #include "cli/judgement_json.h"
@@ -11,10 +12,9 @@ namespace vexa::cli {
 namespace {
 
 void DeclareOptions(QCommandLineParser& parser) {
-  parser.addPositionalArgument(QStringLiteral("FILE"),
-                               QStringLiteral("A data file (*.csv or *.dat)."));
-  parser.addOption({option::kStandard, QStringLiteral("The standards to judge by."),
-                    QStringLiteral("FILE.std")});
+  parser.addPositionalArgument(QStringLiteral("FILE"), Text::tr("A data file (*.csv or *.dat)."));
+  parser.addOption(
+      {option::kStandard, Text::tr("The standards to judge by."), QStringLiteral("FILE.std")});
 }
 
 // The panel's text, and the distance to the nearest limit where there is one.
@@ -93,7 +93,7 @@ int Judge(const QCommandLineParser& parser) {
 Command JudgeCommand() {
   return {QStringLiteral("judge"),
           QStringLiteral("FILE --standard FILE.std [options]"),
-          QStringLiteral("Judges the slots of a data file; exit status 3 when a group is NG."),
+          Text::tr("Judges the slots of a data file; exit status 3 when a group is NG."),
           1,
           DeclareOptions,
           Judge};

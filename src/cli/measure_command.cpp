@@ -6,6 +6,7 @@
 #include <memory>
 
 #include "base/end_signals.h"
+#include "base/translation.h"
 #include "cli/command_line.h"
 #include "cli/console.h"
 #include "cli/line_input.h"
@@ -241,7 +242,7 @@ int Measure(const QCommandLineParser& parser) {
 Command MeasureCommand() {
   return {QStringLiteral("measure"),
           QStringLiteral("(--port N | --device PATH) --out FILE [options]"),
-          QStringLiteral("Measures background, reference and samples into a data file."),
+          Text::tr("Measures background, reference and samples into a data file."),
           0,
           DeclareMeasureOptions,
           Measure};

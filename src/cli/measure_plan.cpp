@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "cli/measure_plan.h"
 
+#include "base/translation.h"
 #include "cli/command_line.h"
 #include "cli/console.h"
 #include "cli/program_settings.h"
@@ -91,7 +92,7 @@ void DeclareMeasureOptions(QCommandLineParser& parser) {
       "MS");
   add(kAveraging, "Lines averaged for a frame, 1 to 16 (default 1).", "N");
   add(kSamples, "Samples to measure, 1 to 10 (default 1).", "N");
-  parser.addOption({kPrompt, QStringLiteral("Waits for Enter before each measurement.")});
+  parser.addOption({kPrompt, Text::tr("Waits for Enter before each measurement.")});
   DeclareReferenceReflectance(parser);
   add(option::kShift, "Calibration shift, 0 to 7 nm (default: from vexa.cal, else 4).", "K");
   parser.addOption({kRecord, QStringLiteral("Keeps every frame and sample in the record store.")});

@@ -5,6 +5,7 @@
 #include <algorithm>
 
 #include "base/number_text.h"
+#include "base/translation.h"
 #include "files/configuration.h"
 #include "files/data_file.h"
 #include "measurement/dispersion_data.h"
@@ -34,8 +35,8 @@ bool LoadDataFile(const QString& path, Session& session, MessageService& message
 
 void DeclareReferenceReflectance(QCommandLineParser& parser) {
   parser.addOption({option::kReferenceReflectance,
-                    QStringLiteral("Reflectance of the reference: 0.1 to 110 percent, or a *.ref "
-                                   "file (default: from the environment)."),
+                    Text::tr("Reflectance of the reference: 0.1 to 110 percent, or a *.ref "
+                             "file (default: from the environment)."),
                     QStringLiteral("V|FILE.ref")});
 }
 

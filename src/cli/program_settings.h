@@ -13,6 +13,7 @@ namespace vexa::cli {
 namespace option {
 inline const QString kJson = QStringLiteral("json");
 inline const QString kDir = QStringLiteral("dir");
+inline const QString kLanguage = QStringLiteral("language");
 inline const QString kNo = QStringLiteral("no");
 inline const QString kOut = QStringLiteral("out");
 inline const QString kReferenceReflectance = QStringLiteral("reference-reflectance");

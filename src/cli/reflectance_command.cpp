@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include <algorithm>
 
+#include "base/translation.h"
 #include "cli/command_line.h"
 #include "cli/console.h"
 #include "cli/line_file.h"
@@ -19,13 +20,12 @@ struct FrameOption {
 void DeclareOptions(QCommandLineParser& parser) {
   for (const char* frame : {"background", "reference", "sample"}) {
     parser.addOption({QString::fromLatin1(frame),
-                      QStringLiteral("Detector lines of the %1.").arg(QLatin1String(frame)),
+                      Text::tr("Detector lines of the %1.").arg(QLatin1String(frame)),
                       QStringLiteral("LINES.bin")});
   }
-  parser.addOption(
-      {option::kShift,
-       QStringLiteral("Calibration shift, 0 to 7 nm (default: from vexa.cal, else 4)."),
-       QStringLiteral("K")});
+  parser.addOption({option::kShift,
+                    Text::tr("Calibration shift, 0 to 7 nm (default: from vexa.cal, else 4)."),
+                    QStringLiteral("K")});
   DeclareReferenceReflectance(parser);
 }
 
@@ -81,7 +81,7 @@ int Reflectance(const QCommandLineParser& parser) {
 Command ReflectanceCommand() {
   return {QStringLiteral("reflectance"),
           QStringLiteral("--background B --reference R --sample S [options]"),
-          QStringLiteral("Computes a reflectance spectrum from three sets of detector lines."),
+          Text::tr("Computes a reflectance spectrum from three sets of detector lines."),
           0,
           DeclareOptions,
           Reflectance};

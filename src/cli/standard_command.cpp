@@ -12,8 +12,8 @@ namespace vexa::cli {
 namespace {
 
 void DeclareOptions(QCommandLineParser& parser) {
-  parser.addPositionalArgument(QStringLiteral("FILE"), QStringLiteral("A standard file (*.std)."));
-  parser.addOption({option::kOut, QStringLiteral("Writes the standards in the current layout."),
+  parser.addPositionalArgument(QStringLiteral("FILE"), Text::tr("A standard file (*.std)."));
+  parser.addOption({option::kOut, Text::tr("Writes the standards in the current layout."),
                     QStringLiteral("FILE")});
 }
 
@@ -109,7 +109,7 @@ int Standard(const QCommandLineParser& parser) {
 Command StandardCommand() {
   return {QStringLiteral("standard"),
           QStringLiteral("FILE [options]"),
-          QStringLiteral("Shows a standard file, and writes it in the current layout."),
+          Text::tr("Shows a standard file, and writes it in the current layout."),
           1,
           DeclareOptions,
           Standard};

@@ -4,6 +4,7 @@
 #include <array>
 #include <limits>
 
+#include "base/translation.h"
 #include "cli/command_line.h"
 #include "cli/console.h"
 #include "cli/number_columns.h"
@@ -25,29 +26,25 @@ const QString kTolerance = QStringLiteral("tolerance");
 constexpr double kLargest = 1e100;
 
 void DeclareOptions(QCommandLineParser& parser) {
-  parser.addPositionalArgument(
-      QStringLiteral("KIND"),
-      QStringLiteral("summary, xmr (control chart of individuals and moving "
-                     "ranges), capability, or grr (gauge repeatability and "
-                     "reproducibility)."));
+  parser.addPositionalArgument(QStringLiteral("KIND"),
+                               Text::tr("summary, xmr (control chart of individuals and moving "
+                                        "ranges), capability, or grr (gauge repeatability and "
+                                        "reproducibility)."));
   parser.addPositionalArgument(
       QStringLiteral("FILE"),
-      QStringLiteral("Numbers, one a line or in a table with a heading; grr: a table with the "
-                     "columns part, operator, value."));
+      Text::tr("Numbers, one a line or in a table with a heading; grr: a table with the "
+               "columns part, operator, value."));
   parser.addOption(
-      {kColumn, QStringLiteral("The column of the numbers in a table."), QStringLiteral("NAME")});
-  parser.addOption({kBaseline,
-                    QStringLiteral("xmr: the first N points set the limits (default: all)."),
+      {kColumn, Text::tr("The column of the numbers in a table."), QStringLiteral("NAME")});
+  parser.addOption({kBaseline, Text::tr("xmr: the first N points set the limits (default: all)."),
                     QStringLiteral("N")});
-  parser.addOption({kRules,
-                    QStringLiteral("xmr: western (default), nelson, or some of Nelson's eight."),
+  parser.addOption({kRules, Text::tr("xmr: western (default), nelson, or some of Nelson's eight."),
                     QStringLiteral("western|nelson|1,2,5")});
-  parser.addOption({kLower, QStringLiteral("capability: lower limit of the specification."),
-                    QStringLiteral("L")});
-  parser.addOption({kUpper, QStringLiteral("capability: upper limit of the specification."),
-                    QStringLiteral("U")});
   parser.addOption(
-      {kTolerance, QStringLiteral("grr: width of the tolerance."), QStringLiteral("T")});
+      {kLower, Text::tr("capability: lower limit of the specification."), QStringLiteral("L")});
+  parser.addOption(
+      {kUpper, Text::tr("capability: upper limit of the specification."), QStringLiteral("U")});
+  parser.addOption({kTolerance, Text::tr("grr: width of the tolerance."), QStringLiteral("T")});
 }
 
 int Show(const QCommandLineParser& parser, const StatisticsReport& report) {
@@ -222,7 +219,7 @@ int Statistics(const QCommandLineParser& parser) {
 Command StatisticsCommand() {
   return {QStringLiteral("statistics"),
           QStringLiteral("summary|xmr|capability|grr FILE [options]"),
-          QStringLiteral("Summary, control chart, capability or gauge study of numbers."),
+          Text::tr("Summary, control chart, capability or gauge study of numbers."),
           2,
           DeclareOptions,
           Statistics};

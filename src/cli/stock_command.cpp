@@ -2,6 +2,7 @@
 #include <array>
 
 #include "base/number_text.h"
+#include "base/translation.h"
 #include "cli/command_line.h"
 #include "cli/console.h"
 #include "cli/program_settings.h"
@@ -11,9 +12,8 @@ namespace vexa::cli {
 namespace {
 
 void DeclareOptions(QCommandLineParser& parser) {
-  parser.addPositionalArgument(QStringLiteral("FILE"), QStringLiteral("A stock file (*.stc)."));
-  parser.addOption({option::kOut,
-                    QStringLiteral("Writes the points as a stock file of this version."),
+  parser.addPositionalArgument(QStringLiteral("FILE"), Text::tr("A stock file (*.stc)."));
+  parser.addOption({option::kOut, Text::tr("Writes the points as a stock file of this version."),
                     QStringLiteral("FILE")});
 }
 
@@ -78,7 +78,7 @@ int Stock(const QCommandLineParser& parser) {
 Command StockCommand() {
   return {QStringLiteral("stock"),
           QStringLiteral("FILE [options]"),
-          QStringLiteral("Shows the accumulated colour points of a stock file."),
+          Text::tr("Shows the accumulated colour points of a stock file."),
           1,
           DeclareOptions,
           Stock};

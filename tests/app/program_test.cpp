@@ -68,7 +68,7 @@ TEST_F(Program, DemonstrationMeasuresFiveSamplesAndLeavesAFileAndAPicture) {
 }
 
 TEST_F(Program, WrongOptionsAreOneLineAndStatusTwo) {
-  for (const char* arguments : {"--nonsense", "--demo", "stray"}) {
+  for (const char* arguments : {"--nonsense", "--demo", "stray", "--language fr", "--language"}) {
     EXPECT_EQ(Run(arguments), 2) << arguments;
     EXPECT_EQ(complaints, 1) << arguments;
   }
@@ -109,6 +109,15 @@ TEST_F(Report, IsPrintedWithoutADisplay) {
   EXPECT_EQ(complaints, 0);
   const QString text = test::PdfPages(files.Path("報告.pdf")).join(QString());
   for (const char* expected : {"受入検査", "測定者 佐藤", "測定.csv", "3 鏡面", "440 2.500"}) {
+    EXPECT_TRUE(text.contains(QString::fromUtf8(expected))) << expected << '\n'
+                                                            << text.toStdString();
+  }
+}
+
+TEST_F(Report, SpeaksTheLanguageAskedFor) {
+  EXPECT_EQ(Run("--report @測定.csv --out @報告.pdf --operator 佐藤 --language en"), 0);
+  const QString text = test::PdfPages(files.Path("報告.pdf")).join(QString());
+  for (const char* expected : {"Reflectance measurement", "Operator 佐藤", "3 鏡面", "440 2.500"}) {
     EXPECT_TRUE(text.contains(QString::fromUtf8(expected))) << expected << '\n'
                                                             << text.toStdString();
   }

@@ -2,6 +2,8 @@
 // The commands judge and standard, as a program.
 #include <gtest/gtest.h>
 
+#include <QFile>
+
 #include "cli/running_programs.h"
 #include "files/data_file.h"
 #include "standards/standard_file.h"
@@ -42,6 +44,37 @@ class Judging : public test::CommandLine {
 
   VEXATYPE state;
 };
+
+TEST_F(Judging, OnlyTextsDependOnTheLanguage) {
+  EXPECT_EQ(Judge("--language en").out.toStdString(),
+            " 1  ﾚﾝｽﾞ1  Reflectance: OK +0.500 % (700 nm)\n"
+            " 3  ﾚﾝｽﾞ3  Reflectance: NG -1.000 % (600 nm)\n");
+  EXPECT_EQ(Judge("--language=ja").out, Judge().out);
+  for (const QByteArray command :
+       {"judge @data.csv --standard @a.std --json", "analyse @data.csv --standard @a.std --json",
+        "convert @data.csv @out.csv", "convert @data.csv @out.dat",
+        "standard @a.std --out @out.std", "standard --help", "--help"}) {
+    // Each time into a new file: an existing one is asked about.
+    QByteArray written[2];
+    for (const int english : {0, 1}) {
+      const Outcome outcome = Run((english ? "--language en " : "--language ja ") + command);
+      EXPECT_NE(outcome.status, 2) << outcome.err.constData();
+      written[english] = outcome.out;
+      if (const qsizetype out = command.indexOf("@out"); out >= 0) {
+        const QByteArray name = command.mid(out + 1);
+        written[english] = files.Read(name);
+        ASSERT_TRUE(QFile::remove(files.Path(name)));
+      }
+    }
+    EXPECT_FALSE(written[0].isEmpty()) << command.constData();
+    EXPECT_EQ(written[0], written[1]) << command.constData();
+  }
+  for (const char* wrong : {"--language fr", "--language", "--language="}) {
+    const Outcome outcome = Judge(wrong);
+    EXPECT_EQ(outcome.status, 2) << wrong;
+    EXPECT_EQ(outcome.err.count('\n'), 1) << wrong;
+  }
+}
 
 TEST_F(Judging, TellsVerdictsAndMargins) {
   const Outcome text = Judge();

@@ -1,0 +1,80 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "files/program_settings_file.h"
+
+#include <QDir>
+#include <QFile>
+#include <QJsonDocument>
+#include <QJsonObject>
+#include <optional>
+
+#include "base/read_file.h"
+#include "files/keep_unreadable.h"
+
+namespace vexa {
+namespace {
+
+constexpr qsizetype kLargest = 1024 * 1024;
+const QLatin1String kLanguage("language");
+
+}  // namespace
+
+QString ProgramSettingsPath(const QString& programDirectory) {
+  return QDir(programDirectory).filePath(QStringLiteral("program.json"));
+}
+
+ReadResult<ProgramSettings> ParseProgramSettings(const QByteArray& json) {
+  const QJsonDocument document = QJsonDocument::fromJson(json);
+  if (!document.isObject()) {
+    return FileFault{.kind = FileFaultKind::kVersion};
+  }
+  ProgramSettings settings;
+  if (const QJsonValue value = document.object()[kLanguage]; !value.isUndefined()) {
+    const std::optional<Language> language = LanguageOf(value.toString());
+    if (!language) {
+      return FileFault{.kind = FileFaultKind::kValue};
+    }
+    settings.language = *language;
+  }
+  return settings;
+}
+
+ReadResult<ProgramSettings> ReadProgramSettings(const QString& programDirectory) {
+  const ReadResult<QByteArray> bytes =
+      ReadRegularFile(ProgramSettingsPath(programDirectory), kLargest);
+  return bytes ? ParseProgramSettings(*bytes) : bytes.Fault();
+}
+
+ProgramStart StartProgram(const QString& programDirectory) {
+  const ReadResult<ProgramSettings> read = ReadProgramSettings(programDirectory);
+  if (read) {
+    return {*read};
+  }
+  const FileFaultKind kind = read.Fault().kind;
+  if (kind == FileFaultKind::kMissing) {
+    return {};
+  }
+  const QString path = ProgramSettingsPath(programDirectory);
+  const bool text = kind == FileFaultKind::kVersion || kind == FileFaultKind::kValue;
+  const QString bad = FreeBadName(path);
+  if (text && QFile::rename(path, bad)) {
+    return {.notices = {{Message::kProgramSettingsUnreadable, {bad}}}};
+  }
+  return {.notices = {{Message::kSettingsReadError, {path}, FaultText(read.Fault())}}};
+}
+
+WriteResult WriteProgramSettings(const ProgramSettings& settings, const QString& programDirectory) {
+  const QString path = ProgramSettingsPath(programDirectory);
+  const WriteResult kept = KeepUnreadable(path, [&programDirectory] {
+    return static_cast<bool>(ReadProgramSettings(programDirectory));
+  });
+  if (!kept) {
+    return kept;
+  }
+  // What a later version has added is kept.
+  const ReadResult<QByteArray> before = ReadRegularFile(path, kLargest);
+  QJsonObject object = before ? QJsonDocument::fromJson(*before).object() : QJsonObject();
+  object[kLanguage] = LanguageCode(settings.language);
+  return ReplaceFile(path, QJsonDocument(object).toJson());
+}
+
+}  // namespace vexa

@@ -1,0 +1,2523 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="en" sourcelanguage="ja">
+<context>
+    <name>Text</name>
+    <message>
+        <source>%1分前</source>
+        <translation>%1 min ago</translation>
+    </message>
+    <message>
+        <source>%1時間前</source>
+        <translation>%1 h ago</translation>
+    </message>
+    <message>
+        <source>%1日前</source>
+        <translation>%1 days ago</translation>
+    </message>
+    <message>
+        <source>時間</source>
+        <translation>time</translation>
+    </message>
+    <message>
+        <source>回数</source>
+        <translation>averaging</translation>
+    </message>
+    <message>
+        <source>変更</source>
+        <translation> changed</translation>
+    </message>
+    <message>
+        <source>%1分経過</source>
+        <translation>%1 min old</translation>
+    </message>
+    <message>
+        <source>時計変更</source>
+        <translation>clock changed</translation>
+    </message>
+    <message>
+        <source>com5 (/dev/ttyUSB0) という装置がありません。</source>
+        <translation>There is no device com5 (/dev/ttyUSB0).</translation>
+    </message>
+    <message>
+        <source>Measures five samples on the virtual instrument by itself and leaves measurement.csv and window.png in DIR.</source>
+        <translation>Measures five samples on the virtual instrument by itself and leaves measurement.csv and window.png in DIR.</translation>
+    </message>
+    <message>
+        <source>With --demo: leaves a picture of every window and view in DIR.</source>
+        <translation>With --demo: leaves a picture of every window and view in DIR.</translation>
+    </message>
+    <message>
+        <source>With --demo: over the control box on the GP-IB instead of the serial port.</source>
+        <translation>With --demo: over the control box on the GP-IB instead of the serial port.</translation>
+    </message>
+    <message>
+        <source>Language of the texts: ja or en (default: as chosen in the help menu, else ja).</source>
+        <translation>Language of the texts: ja or en (default: as chosen in the help menu, else ja).</translation>
+    </message>
+    <message>
+        <source>Prints the data file FILE as a PDF file, without a window.</source>
+        <translation>Prints the data file FILE as a PDF file, without a window.</translation>
+    </message>
+    <message>
+        <source>The PDF file of --report.</source>
+        <translation>The PDF file of --report.</translation>
+    </message>
+    <message>
+        <source>The title of --report.</source>
+        <translation>The title of --report.</translation>
+    </message>
+    <message>
+        <source>The operator named by --report.</source>
+        <translation>The operator named by --report.</translation>
+    </message>
+    <message>
+        <source>Control and analysis program of the VEXA-KT reflectance micro-spectrophotometer.</source>
+        <translation>Control and analysis program of the VEXA-KT reflectance micro-spectrophotometer.</translation>
+    </message>
+    <message>
+        <source>反射率ｸﾞﾗﾌ</source>
+        <translation>Reflectance graph</translation>
+    </message>
+    <message>
+        <source>反射率ﾃｷｽﾄ</source>
+        <translation>Reflectance text</translation>
+    </message>
+    <message>
+        <source>屈折率ｸﾞﾗﾌ</source>
+        <translation>Refractive index graph</translation>
+    </message>
+    <message>
+        <source>光量ｸﾞﾗﾌ</source>
+        <translation>Light intensity graph</translation>
+    </message>
+    <message>
+        <source>光量ﾃｷｽﾄ</source>
+        <translation>Light intensity text</translation>
+    </message>
+    <message>
+        <source>色度図</source>
+        <translation>Chromaticity diagram</translation>
+    </message>
+    <message>
+        <source>ﾌｧｲﾙ(&amp;F)</source>
+        <translation>&amp;File</translation>
+    </message>
+    <message>
+        <source>ﾌｧｲﾙを開く(&amp;O)</source>
+        <translation>&amp;Open file</translation>
+    </message>
+    <message>
+        <source>ﾌｧｲﾙの名前を付けて保存(&amp;A)</source>
+        <translation>Save file &amp;as</translation>
+    </message>
+    <message>
+        <source>環境ﾌｧｲﾙを開く(&amp;W)</source>
+        <translation>Open environment file (&amp;W)</translation>
+    </message>
+    <message>
+        <source>環境ﾌｧｲﾙの上書き保存(&amp;S)</source>
+        <translation>&amp;Save environment file</translation>
+    </message>
+    <message>
+        <source>環境ﾌｧｲﾙの名前を付けて保存(&amp;L)</source>
+        <translation>Save environment fi&amp;le as</translation>
+    </message>
+    <message>
+        <source>印刷設定(&amp;U)</source>
+        <translation>Print set&amp;up</translation>
+    </message>
+    <message>
+        <source>印刷(&amp;P)</source>
+        <translation>&amp;Print</translation>
+    </message>
+    <message>
+        <source>ﾌﾟﾛｸﾞﾗﾑの終了(&amp;X)</source>
+        <translation>E&amp;xit</translation>
+    </message>
+    <message>
+        <source>表示(&amp;V)</source>
+        <translation>&amp;View</translation>
+    </message>
+    <message>
+        <source>ｸﾞﾗﾌ設定(&amp;G)</source>
+        <translation>&amp;Graph settings</translation>
+    </message>
+    <message>
+        <source>設定一覧表示(&amp;C)</source>
+        <translation>List of settings (&amp;C)</translation>
+    </message>
+    <message>
+        <source>付加ﾃﾞｰﾀ</source>
+        <translation>Sample information</translation>
+    </message>
+    <message>
+        <source>規格(&amp;K)</source>
+        <translation>Standards (&amp;K)</translation>
+    </message>
+    <message>
+        <source>規格設定(&amp;S)</source>
+        <translation>&amp;Standard settings</translation>
+    </message>
+    <message>
+        <source>解析(&amp;T)</source>
+        <translation>Analysis (&amp;T)</translation>
+    </message>
+    <message>
+        <source>膜厚測定設定(&amp;T)</source>
+        <translation>Film &amp;thickness settings</translation>
+    </message>
+    <message>
+        <source>膜厚波長ﾘｽﾄ(&amp;L)</source>
+        <translation>Wavelength &amp;list</translation>
+    </message>
+    <message>
+        <source>膜厚ｸﾞﾗﾌ(&amp;G)</source>
+        <translation>Thickness &amp;graph</translation>
+    </message>
+    <message>
+        <source>色差測定</source>
+        <translation>Colour difference</translation>
+    </message>
+    <message>
+        <source>ｼｽﾃﾑ設定(&amp;S)</source>
+        <translation>&amp;System settings</translation>
+    </message>
+    <message>
+        <source>ﾘﾌｧﾚﾝｽ設定(&amp;R)</source>
+        <translation>&amp;Reference settings</translation>
+    </message>
+    <message>
+        <source>ｻﾝﾌﾟﾘﾝｸﾞ設定(&amp;S)</source>
+        <translation>&amp;Sampling settings</translation>
+    </message>
+    <message>
+        <source>ｷｬﾘﾌﾞﾚｰｼｮﾝ(&amp;C)</source>
+        <translation>&amp;Calibration</translation>
+    </message>
+    <message>
+        <source>再接続(&amp;N)</source>
+        <translation>Reco&amp;nnect</translation>
+    </message>
+    <message>
+        <source>ﾍﾙﾌﾟ(&amp;H)</source>
+        <translation>&amp;Help</translation>
+    </message>
+    <message>
+        <source>ﾊﾞｰｼﾞｮﾝ(&amp;A)</source>
+        <translation>&amp;About</translation>
+    </message>
+    <message>
+        <source>ｻﾝﾌﾟﾙをｽﾛｯﾄ%1に測定 (Ctrl+%2)</source>
+        <translation>Measure the sample into slot %1 (Ctrl+%2)</translation>
+    </message>
+    <message>
+        <source>ﾊﾞｯｸｸﾞﾗﾝﾄﾞ測定</source>
+        <translation>Measure the background</translation>
+    </message>
+    <message>
+        <source>ﾘﾌｧﾚﾝｽ測定</source>
+        <translation>Measure the reference</translation>
+    </message>
+    <message>
+        <source>全ｽﾛｯﾄをｸﾘｱ</source>
+        <translation>Clear all slots</translation>
+    </message>
+    <message>
+        <source>試料情報</source>
+        <translation>Sample information</translation>
+    </message>
+    <message>
+        <source>光路が閉じています。
+測定すると開きます。</source>
+        <translation>The light path is closed.
+Measuring opens it.</translation>
+    </message>
+    <message>
+        <source>ｽﾛｯﾄ%1を表示</source>
+        <translation>Show slot %1</translation>
+    </message>
+    <message>
+        <source>ｺﾝﾄﾛｰﾗの応答を待っています</source>
+        <translation>Waiting for the controller</translation>
+    </message>
+    <message>
+        <source>光ｼｬｯﾀの応答を待っています</source>
+        <translation>Waiting for the light shutter</translation>
+    </message>
+    <message>
+        <source>接眼ｼｬｯﾀの応答を待っています</source>
+        <translation>Waiting for the eyepiece shutter</translation>
+    </message>
+    <message>
+        <source>ﾗﾝﾌﾟの応答を待っています</source>
+        <translation>Waiting for the lamp</translation>
+    </message>
+    <message>
+        <source>安定するのを待っています</source>
+        <translation>Waiting to settle</translation>
+    </message>
+    <message>
+        <source>測定しています</source>
+        <translation>Measuring</translation>
+    </message>
+    <message>
+        <source>ﾃﾞｰﾀを受信しています</source>
+        <translation>Receiving data</translation>
+    </message>
+    <message>
+        <source>中止</source>
+        <translation>Cancel</translation>
+    </message>
+    <message>
+        <source>待っている操作を中止します (Esc)</source>
+        <translation>Cancels the operation that is waited for (Esc)</translation>
+    </message>
+    <message>
+        <source>ｺﾝﾄﾛｰﾗ未接続</source>
+        <translation>Controller not connected</translation>
+    </message>
+    <message>
+        <source> / %1 秒</source>
+        <translation> / %1 s</translation>
+    </message>
+    <message>
+        <source> 秒</source>
+        <translation> s</translation>
+    </message>
+    <message>
+        <source>  (%1 秒で中断)</source>
+        <translation>  (stops at %1 s)</translation>
+    </message>
+    <message>
+        <source>ﾊﾞｯｸｸﾞﾗﾝﾄﾞ: </source>
+        <translation>Background: </translation>
+    </message>
+    <message>
+        <source>ﾘﾌｧﾚﾝｽ: </source>
+        <translation>Reference: </translation>
+    </message>
+    <message>
+        <source>ｽﾛｯﾄ: </source>
+        <translation>Slots: </translation>
+    </message>
+    <message>
+        <source>累積数: %1</source>
+        <translation>Accumulated: %1</translation>
+    </message>
+    <message>
+        <source>膜厚ｸﾞﾗﾌ: %1</source>
+        <translation>Thickness graph: %1</translation>
+    </message>
+    <message>
+        <source>限界と比べる値がありません。</source>
+        <translation>There is no value to compare with the limits.</translation>
+    </message>
+    <message>
+        <source>規格が440nm-840nmの範囲で判定できません。</source>
+        <translation>The standards cannot be judged within 440nm-840nm.</translation>
+    </message>
+    <message>
+        <source>限界外: </source>
+        <translation>Outside the limit: </translation>
+    </message>
+    <message>
+        <source>限界までの余裕: </source>
+        <translation>Margin to the limit: </translation>
+    </message>
+    <message>
+        <source>環境ﾌｧｲﾙ名</source>
+        <translation>Environment file</translation>
+    </message>
+    <message>
+        <source>ﾊﾞｰｼﾞｮﾝ</source>
+        <translation>About</translation>
+    </message>
+    <message>
+        <source>閉じる</source>
+        <translation>Close</translation>
+    </message>
+    <message>
+        <source>顕微反射率測定装置 制御･解析ﾌﾟﾛｸﾞﾗﾑ</source>
+        <translation>Reflectance micro-spectrophotometer: control and analysis</translation>
+    </message>
+    <message>
+        <source>VEXA設定一覧</source>
+        <translation>VEXA settings</translation>
+    </message>
+    <message>
+        <source>ﾌｧｲﾙがありません。</source>
+        <translation>The file does not exist.</translation>
+    </message>
+    <message>
+        <source>通常のﾌｧｲﾙではありません。</source>
+        <translation>This is not a regular file.</translation>
+    </message>
+    <message>
+        <source>ﾌｧｲﾙを読めません。</source>
+        <translation>The file cannot be read.</translation>
+    </message>
+    <message>
+        <source>ﾌｧｲﾙが大きすぎます。</source>
+        <translation>The file is too large.</translation>
+    </message>
+    <message>
+        <source>ﾌｧｲﾙの種類またはﾊﾞｰｼﾞｮﾝが違います。</source>
+        <translation>The file is of another kind or version.</translation>
+    </message>
+    <message>
+        <source>ﾌｧｲﾙが途中で終わっています。</source>
+        <translation>The file ends too early.</translation>
+    </message>
+    <message>
+        <source>項目が足りません。</source>
+        <translation>Fields are missing.</translation>
+    </message>
+    <message>
+        <source>値として読めません。</source>
+        <translation>This cannot be read as a value.</translation>
+    </message>
+    <message>
+        <source>値が範囲外です。</source>
+        <translation>The value is out of range.</translation>
+    </message>
+    <message>
+        <source>%1行目</source>
+        <translation>Line %1</translation>
+    </message>
+    <message>
+        <source> %1番目の項目</source>
+        <translation>, field %1</translation>
+    </message>
+    <message>
+        <source>VEXA-KT ｴﾗｰ</source>
+        <translation>VEXA-KT error</translation>
+    </message>
+    <message>
+        <source>VEXA-KT ﾜｰﾆﾝｸﾞ</source>
+        <translation>VEXA-KT warning</translation>
+    </message>
+    <message>
+        <source>VEXA-KT ﾒｯｾｰｼﾞ</source>
+        <translation>VEXA-KT message</translation>
+    </message>
+    <message>
+        <source>VEXA-KT 情報</source>
+        <translation>VEXA-KT information</translation>
+    </message>
+    <message>
+        <source>設定入力</source>
+        <translation>Settings</translation>
+    </message>
+    <message>
+        <source>ｺﾝﾄﾛｰﾗｴﾗｰ</source>
+        <translation>Controller error</translation>
+    </message>
+    <message>
+        <source>確認</source>
+        <translation>Confirm</translation>
+    </message>
+    <message>
+        <source>同ﾌｧｲﾙ名が存在します。上書き保存しますか？</source>
+        <translation>A file of that name exists. Overwrite it?</translation>
+    </message>
+    <message>
+        <source>現在累積されている色度図データと表示条件が異なります。現累積データをクリアしますか？</source>
+        <translation>The conditions of display differ from those of the accumulated chromaticity data. Clear the accumulated data?</translation>
+    </message>
+    <message>
+        <source>通信でﾃﾞﾊﾞｲｽ･ｴﾗｰ発生しました。</source>
+        <translation>A device error occurred in the communication.</translation>
+    </message>
+    <message>
+        <source>ﾌｧｲﾙ名に、設定ﾌｧｲﾙに保存できない文字が含まれています。<byte value="xd"/><byte value="xd"/>%1</source>
+        <translation>The file name has characters that the settings file cannot hold.<byte value="xd"/><byte value="xd"/>%1</translation>
+    </message>
+    <message>
+        <source>ﾌｧｲﾙの書き込みでエラーが発生しました。<byte value="xd"/><byte value="xd"/>%1<byte value="xd"/><byte value="xd"/>%2</source>
+        <translation>An error occurred while writing the file.<byte value="xd"/><byte value="xd"/>%1<byte value="xd"/><byte value="xd"/>%2</translation>
+    </message>
+    <message>
+        <source>ﾃﾞｰﾀ･ﾌｧｲﾙの読み込みでエラーが発生しました。<byte value="xd"/><byte value="xd"/>%1ﾌｧｲﾙではありません。<byte value="xd"/><byte value="xd"/>ﾌｧｲﾙを確認してください。</source>
+        <translation>An error occurred while reading the data file.<byte value="xd"/><byte value="xd"/>It is not a %1 file.<byte value="xd"/><byte value="xd"/>Please check the file.</translation>
+    </message>
+    <message>
+        <source>ﾃﾞｰﾀ･ﾌｧｲﾙの読み込みでエラーが発生しました。<byte value="xd"/><byte value="xd"/>VEXA-KT 旧Verのデータﾌｧｲﾙではありません。<byte value="xd"/><byte value="xd"/>ﾌｧｲﾙを確認してください。</source>
+        <translation>An error occurred while reading the data file.<byte value="xd"/><byte value="xd"/>It is not a VEXA-KT data file of the old version.<byte value="xd"/><byte value="xd"/>Please check the file.</translation>
+    </message>
+    <message>
+        <source>%1ﾃﾞｰﾀをひらくためﾃﾞｰﾀ１～ﾃﾞｰﾀ%1までのﾃﾞｰﾀが消去されます。</source>
+        <translation>Opening %1 data erases data 1 to %1.</translation>
+    </message>
+    <message>
+        <source>ﾃﾞｰﾀ･ﾌｧｲﾙの読み込みでエラーが発生しました。</source>
+        <translation>An error occurred while reading the data file.</translation>
+    </message>
+    <message>
+        <source>ﾃﾞｰﾀ･ﾌｧｲﾙの読み込みでエラーが発生しました。<byte value="xd"/><byte value="xd"/>%1ﾌｧｲﾙではありません<byte value="xd"/><byte value="xd"/>ﾌｧｲﾙを確認してください。</source>
+        <translation>An error occurred while reading the data file.<byte value="xd"/><byte value="xd"/>It is not a %1 file<byte value="xd"/><byte value="xd"/>Please check the file.</translation>
+    </message>
+    <message>
+        <source>規格ﾌｧｲﾙ名:%1<byte value="xd"/><byte value="xd"/>Ver1.10以前の規格ﾌｧｲﾙは読み込めません。</source>
+        <translation>Standard file: %1<byte value="xd"/><byte value="xd"/>Standard files of Ver1.10 and earlier cannot be read.</translation>
+    </message>
+    <message>
+        <source>規格ﾌｧｲﾙの読み込みでエラーが発生しました。<byte value="xd"/><byte value="xd"/>規格ﾌｧｲﾙ名:%1</source>
+        <translation>An error occurred while reading the standard file.<byte value="xd"/><byte value="xd"/>Standard file: %1</translation>
+    </message>
+    <message>
+        <source>規格ﾌｧｲﾙがｾｰﾌﾞされていません。ｾｰﾌﾞしますか。</source>
+        <translation>The standard file has not been saved. Save it?</translation>
+    </message>
+    <message>
+        <source>ﾌｧｲﾙの読み込みでエラーが発生しました。<byte value="xd"/><byte value="xd"/>ﾌｧｲﾙ名:%1<byte value="xd"/><byte value="xd"/>ﾃﾞﾌｫﾙﾄ値に設定されます。</source>
+        <translation>An error occurred while reading the file.<byte value="xd"/><byte value="xd"/>File: %1<byte value="xd"/><byte value="xd"/>The default values are set.</translation>
+    </message>
+    <message>
+        <source>環境ﾌｧｲﾙのVerエラーが発生しました。<byte value="xd"/><byte value="xd"/>環境ﾌｧｲﾙ名:%1<byte value="xd"/><byte value="xd"/>環境ﾌｧｲﾙVer:%2<byte value="xd"/><byte value="xd"/>環境ﾊﾟﾗﾒｰﾀｰはﾃﾞﾌｫﾙﾄ値に設定されます。</source>
+        <translation>The environment file has a wrong version.<byte value="xd"/><byte value="xd"/>Environment file: %1<byte value="xd"/><byte value="xd"/>Environment file Ver: %2<byte value="xd"/><byte value="xd"/>The environment is set to its default values.</translation>
+    </message>
+    <message>
+        <source>環境ﾌｧｲﾙの読み込みでエラーが発生しました。<byte value="xd"/><byte value="xd"/>環境ﾌｧｲﾙ名:%1<byte value="xd"/><byte value="xd"/>環境ﾊﾟﾗﾒｰﾀｰはﾃﾞﾌｫﾙﾄ値に設定されます。</source>
+        <translation>An error occurred while reading the environment file.<byte value="xd"/><byte value="xd"/>Environment file: %1<byte value="xd"/><byte value="xd"/>The environment is set to its default values.</translation>
+    </message>
+    <message>
+        <source>環境ﾌｧｲﾙが見つかりません。<byte value="xd"/><byte value="xd"/>環境ﾌｧｲﾙ名:%1<byte value="xd"/><byte value="xd"/>環境ﾊﾟﾗﾒｰﾀｰはﾃﾞﾌｫﾙﾄ値に設定されます。</source>
+        <translation>The environment file was not found.<byte value="xd"/><byte value="xd"/>Environment file: %1<byte value="xd"/><byte value="xd"/>The environment is set to its default values.</translation>
+    </message>
+    <message>
+        <source>環境ﾌｧｲﾙの光源の値が正しくありません。<byte value="xd"/><byte value="xd"/>環境ﾌｧｲﾙ名:%1<byte value="xd"/><byte value="xd"/>光源:%2</source>
+        <translation>The illuminant in the environment file is not valid.<byte value="xd"/><byte value="xd"/>Environment file: %1<byte value="xd"/><byte value="xd"/>Illuminant: %2</translation>
+    </message>
+    <message>
+        <source>ﾌｧｲﾙ名が定義されていません。</source>
+        <translation>No file name is given.</translation>
+    </message>
+    <message>
+        <source>読み込まれていない環境ﾌｧｲﾙです。上書き保存しますか？<byte value="xd"/><byte value="xd"/>%1</source>
+        <translation>This environment file has not been read. Overwrite it?<byte value="xd"/><byte value="xd"/>%1</translation>
+    </message>
+    <message>
+        <source>%1<byte value="xd"/><byte value="xd"/>現在の環境をｾｰﾌﾞしますか。</source>
+        <translation>%1<byte value="xd"/><byte value="xd"/>Save the current environment?</translation>
+    </message>
+    <message>
+        <source>ﾌﾟﾛｸﾞﾗﾑの設定ﾌｧｲﾙを読めません。次の名前で残し、既定の設定で始めます。<byte value="xd"/><byte value="xd"/>%1</source>
+        <translation>The settings file of the program cannot be read. It is kept under this name, and the usual settings are taken.<byte value="xd"/><byte value="xd"/>%1</translation>
+    </message>
+    <message>
+        <source>表示言語は次の起動から有効になります。</source>
+        <translation>The language takes effect at the next start.</translation>
+    </message>
+    <message>
+        <source>ほかのﾊﾞｰｼﾞｮﾝのｼﾞｬｰﾅﾙ･ﾌｧｲﾙは復元できません。次の名前で残します。<byte value="xd"/><byte value="xd"/>%1</source>
+        <translation>Journal files of another version cannot be restored. They are kept under these names.<byte value="xd"/><byte value="xd"/>%1</translation>
+    </message>
+    <message>
+        <source>読めないｼﾞｬｰﾅﾙ･ﾌｧｲﾙは復元できません。次の名前で残します。<byte value="xd"/><byte value="xd"/>%1</source>
+        <translation>Journal files that are unreadable cannot be restored. They are kept under these names.<byte value="xd"/><byte value="xd"/>%1</translation>
+    </message>
+    <message>
+        <source>前回のﾌﾟﾛｸﾞﾗﾑは正常に終了していません。測定ﾃﾞｰﾀを復元しますか。<byte value="xd"/><byte value="xd"/>%1<byte value="xd"/><byte value="xd"/>いいえ: 破棄します。<byte value="xd"/>ｷｬﾝｾﾙ: 次の起動まで残します。</source>
+        <translation>The program did not end normally last time. Restore the measured data?<byte value="xd"/><byte value="xd"/>%1<byte value="xd"/><byte value="xd"/>No: discards them.<byte value="xd"/>Cancel: keeps them until the next start.</translation>
+    </message>
+    <message>
+        <source>前回のﾌﾟﾛｸﾞﾗﾑは正常に終了していません。測定ﾃﾞｰﾀを復元しますか。<byte value="xd"/><byte value="xd"/>%1<byte value="xd"/><byte value="xd"/>壊れた記録があります。読めた記録を復元し、ﾌｧｲﾙの写しを残します。<byte value="xd"/><byte value="xd"/>いいえ: 破棄します。<byte value="xd"/>ｷｬﾝｾﾙ: 次の起動まで残します。</source>
+        <translation>The program did not end normally last time. Restore the measured data?<byte value="xd"/><byte value="xd"/>%1<byte value="xd"/><byte value="xd"/>Some records are damaged. The readable ones are restored, and a copy of the file is kept.<byte value="xd"/><byte value="xd"/>No: discards them.<byte value="xd"/>Cancel: keeps them until the next start.</translation>
+    </message>
+    <message>
+        <source>ｼﾞｬｰﾅﾙ･ﾌｧｲﾙに書き込めません。測定は続けられますが、ﾌﾟﾛｸﾞﾗﾑが異常終了すると測定ﾃﾞｰﾀは失われます。<byte value="xd"/><byte value="xd"/>%1</source>
+        <translation>The journal file cannot be written. Measuring can go on, but measured data are lost if the program ends abnormally.<byte value="xd"/><byte value="xd"/>%1</translation>
+    </message>
+    <message>
+        <source>GP-IB通信でSRQｴﾗｰ発生しました。(%1 %2)</source>
+        <translation>An SRQ error occurred in the GP-IB communication. (%1 %2)</translation>
+    </message>
+    <message>
+        <source>ｺﾝﾄﾛｰﾗｴﾗｰ(%1 %2)</source>
+        <translation>Controller error (%1 %2)</translation>
+    </message>
+    <message>
+        <source>GP-IB通信でﾌｫｰﾏｯﾄ･ｴﾗｰ発生しました。(%1 %2)</source>
+        <translation>A format error occurred in the GP-IB communication. (%1 %2)</translation>
+    </message>
+    <message>
+        <source>GP-IB通信でﾀｲﾑｱｳﾄ･ｴﾗｰ発生しました。(%1 %2)</source>
+        <translation>A time-out error occurred in the GP-IB communication. (%1 %2)</translation>
+    </message>
+    <message>
+        <source>通信でﾃﾞﾊﾞｲｽ･ｴﾗｰ発生しました。(%1 %2)</source>
+        <translation>A device error occurred in the communication. (%1 %2)</translation>
+    </message>
+    <message>
+        <source>GP-IB通信でｵﾊﾞｰﾌﾛｰ･ｴﾗｰ発生しました。(%1 %2)</source>
+        <translation>An overflow error occurred in the GP-IB communication. (%1 %2)</translation>
+    </message>
+    <message>
+        <source>コントロールボックスの初期化でｴﾗｰ発生しました。(%1 %2)</source>
+        <translation>An error occurred while initializing the control box. (%1 %2)</translation>
+    </message>
+    <message>
+        <source>GP-IB通信で予期しないｴﾗｰ発生しました。(%1 %2)</source>
+        <translation>An unexpected error occurred in the GP-IB communication. (%1 %2)</translation>
+    </message>
+    <message>
+        <source>ｻﾝﾌﾟﾘﾝｸﾞ設定でｴﾗｰが発生しました。</source>
+        <translation>An error occurred while setting the sampling.</translation>
+    </message>
+    <message>
+        <source>ｺﾝﾄﾛｰﾗが接続されていません。</source>
+        <translation>The controller is not connected.</translation>
+    </message>
+    <message>
+        <source>ﾊﾞｯｸｸﾞﾗﾝﾄﾞを測定して下さい。</source>
+        <translation>Please measure the background.</translation>
+    </message>
+    <message>
+        <source>ﾘﾌｧﾚﾝｽを測定して下さい。</source>
+        <translation>Please measure the reference.</translation>
+    </message>
+    <message>
+        <source>すでに測定されてます。上書きしてもよろしいですか？</source>
+        <translation>This has been measured already. Overwrite it?</translation>
+    </message>
+    <message>
+        <source>全てのデータをクリアします。よろしいですか？</source>
+        <translation>All data will be cleared. Continue?</translation>
+    </message>
+    <message>
+        <source>取り込んだﾃﾞｰﾀが飽和しています。</source>
+        <translation>The acquired data are saturated.</translation>
+    </message>
+    <message>
+        <source>データ取得でエラーが発生しました。</source>
+        <translation>An error occurred while acquiring data.</translation>
+    </message>
+    <message>
+        <source>測定中です。測定を中止して終了しますか。</source>
+        <translation>A measurement is running. Cancel it and exit?</translation>
+    </message>
+    <message>
+        <source>予期しないエラーが発生しました。<byte value="xd"/>%1</source>
+        <translation>An unexpected error occurred.<byte value="xd"/>%1</translation>
+    </message>
+    <message>
+        <source>有効ﾃﾞｰﾀがありません。</source>
+        <translation>There are no valid data.</translation>
+    </message>
+    <message>
+        <source>累積データ数が100になりました</source>
+        <translation>The number of accumulated data has reached 100</translation>
+    </message>
+    <message>
+        <source>累積データ数が100を越えました。データをクリアしてください。</source>
+        <translation>The number of accumulated data exceeds 100. Please clear the data.</translation>
+    </message>
+    <message>
+        <source>色座標の作成を中止します。</source>
+        <translation>Making the chromaticity coordinates is cancelled.</translation>
+    </message>
+    <message>
+        <source>Erroro GetBunsanArray(Bunsan.Bas)</source>
+        <translation>Erroro GetBunsanArray(Bunsan.Bas)</translation>
+    </message>
+    <message>
+        <source>%1分散計算が発生しました。設定は無効となります。</source>
+        <translation>%1: the dispersion calculation failed. The setting is not valid.</translation>
+    </message>
+    <message>
+        <source>%1分散データが読み込まれていません。</source>
+        <translation>%1: no dispersion data have been read.</translation>
+    </message>
+    <message>
+        <source>%1基板屈折率データが読み込まれていません。</source>
+        <translation>%1: no substrate refractive index data have been read.</translation>
+    </message>
+    <message>
+        <source>’タイプＣ’と’基板屈折率を使用し計算’の組み合わせはできません。</source>
+        <translation>&apos;Type C&apos; and &apos;Calculate with the substrate refractive index&apos; cannot be combined.</translation>
+    </message>
+    <message>
+        <source>固定反射率値が設定範囲を越えています。 (0.1 ≦ 設定値 ≦ 110)</source>
+        <translation>The constant reflectance is out of range. (0.1 ≦ value ≦ 110)</translation>
+    </message>
+    <message>
+        <source>固定屈折率が設定範囲を越えています。 (0.1 ≦ 設定値 ≦ 10)</source>
+        <translation>The constant refractive index is out of range. (0.1 ≦ value ≦ 10)</translation>
+    </message>
+    <message>
+        <source>係数が数値ではありません。</source>
+        <translation>A coefficient is not a number.</translation>
+    </message>
+    <message>
+        <source>ﾘﾌｧﾚﾝｽ･ﾌｧｲﾙの読み込みに失敗しました。</source>
+        <translation>Reading the reference file failed.</translation>
+    </message>
+    <message>
+        <source>ﾘﾌｧﾚﾝｽ･ﾌｧｲﾙの書き込みに失敗しました。</source>
+        <translation>Writing the reference file failed.</translation>
+    </message>
+    <message>
+        <source>屈折率ﾌｧｲﾙの読み込みに失敗しました。</source>
+        <translation>Reading the refractive index file failed.</translation>
+    </message>
+    <message>
+        <source>屈折率ﾌｧｲﾙの書き込みに失敗しました。</source>
+        <translation>Writing the refractive index file failed.</translation>
+    </message>
+    <message>
+        <source>検出ピーク数が２個以下で膜厚計算にｴﾗｰが発生しました。</source>
+        <translation>The film thickness could not be calculated: two peaks or fewer were detected.</translation>
+    </message>
+    <message>
+        <source>検出ピーク個数が最大検出数を越えて膜厚計算にｴﾗｰが発生しました。(最大ﾋﾟｰｸ数50)</source>
+        <translation>The film thickness could not be calculated: more peaks were detected than can be held. (at most 50 peaks)</translation>
+    </message>
+    <message>
+        <source>膜厚計算でｴﾗｰが発生しました。</source>
+        <translation>An error occurred in the film thickness calculation.</translation>
+    </message>
+    <message>
+        <source>膜厚測定設定が有効ではありません。</source>
+        <translation>The film thickness settings are not valid.</translation>
+    </message>
+    <message>
+        <source>膜厚測定が設定されていません。</source>
+        <translation>The film thickness measurement is not set up.</translation>
+    </message>
+    <message>
+        <source>履歴の膜厚と種類（物理膜厚、光学膜厚）が異なります。<byte value="xd"/>全ﾃﾞｰﾀ･ｸﾘｱの後に追加して下さい。</source>
+        <translation>The kind of film thickness (physical, optical) differs from that of the history.<byte value="xd"/>Please clear all data before adding.</translation>
+    </message>
+    <message>
+        <source>ｸﾞﾗﾌ･ﾃﾞｰﾀ数が最大ﾃﾞｰﾀ数を越えました。&#x3000;(最大ﾃﾞｰﾀ数 50 ﾎﾟｲﾝﾄ)</source>
+        <translation>The graph cannot hold more data. (at most 50 points)</translation>
+    </message>
+    <message>
+        <source>ﾃﾞｰﾀがありません。</source>
+        <translation>There are no data.</translation>
+    </message>
+    <message>
+        <source>測定ﾃﾞｰﾀをｸﾘｱします。</source>
+        <translation>The measured data will be cleared.</translation>
+    </message>
+    <message>
+        <source>設定にｴﾗｰが発生しました。変更はされません。</source>
+        <translation>The settings have an error. They are not changed.</translation>
+    </message>
+    <message>
+        <source>ｽｹｰﾙ設定が設定範囲を越えています。(0 ≦ 設定値 ≦ 20000)</source>
+        <translation>The scale is out of range. (0 ≦ value ≦ 20000)</translation>
+    </message>
+    <message>
+        <source>膜厚履歴ﾌｧｲﾙの書き込みに失敗しました。</source>
+        <translation>Writing the thickness history file failed.</translation>
+    </message>
+    <message>
+        <source>%1波長範囲外エラー</source>
+        <translation>%1: wavelength out of range</translation>
+    </message>
+    <message>
+        <source>%1規格マイナス指定エラー</source>
+        <translation>%1: negative standard</translation>
+    </message>
+    <message>
+        <source>%1大小反転エラー</source>
+        <translation>%1: lower limit above upper limit</translation>
+    </message>
+    <message>
+        <source>%1同一波長指定エラー</source>
+        <translation>%1: same wavelength given twice</translation>
+    </message>
+    <message>
+        <source>%1範囲外エラー&lt;範囲:0°-360°&gt;</source>
+        <translation>%1: out of range &lt;range: 0°-360°&gt;</translation>
+    </message>
+    <message>
+        <source>%1数値入力エラー</source>
+        <translation>%1: not a number</translation>
+    </message>
+    <message>
+        <source>波長表示の最短波長値が設定範囲外です。 (%1&lt;= 設定値 &lt;=%2)</source>
+        <translation>The shortest wavelength shown is out of range. (%1 &lt;= value &lt;= %2)</translation>
+    </message>
+    <message>
+        <source>波長表示の最長波長値が設定範囲外です。 (%1&lt;= 設定値 &lt;=%2)</source>
+        <translation>The longest wavelength shown is out of range. (%1 &lt;= value &lt;= %2)</translation>
+    </message>
+    <message>
+        <source>波長表示の幅が範囲を越えています。 (20 ≦ 設定値 ≦ 401)</source>
+        <translation>The width of the wavelengths shown is out of range. (20 ≦ value ≦ 401)</translation>
+    </message>
+    <message>
+        <source>波長の目盛り間隔が設定範囲を越えています。 (5 ≦ 設定値 ≦ 1000)</source>
+        <translation>The tick interval of the wavelength is out of range. (5 ≦ value ≦ 1000)</translation>
+    </message>
+    <message>
+        <source>反射率の最小値の設定範囲を越えています。 (0 ≦ 設定値 ≦ 100)</source>
+        <translation>The minimum of the reflectance is out of range. (0 ≦ value ≦ 100)</translation>
+    </message>
+    <message>
+        <source>反射率の最大値の設定範囲を越えています。 (0.01 ≦ 設定値 ≦ 100)</source>
+        <translation>The maximum of the reflectance is out of range. (0.01 ≦ value ≦ 100)</translation>
+    </message>
+    <message>
+        <source>反射率の目盛り間隔が設定範囲を越えています。 (最大目盛り本数 100)</source>
+        <translation>The tick interval of the reflectance is out of range. (at most 100 ticks)</translation>
+    </message>
+    <message>
+        <source>ﾃｷｽﾄ表示ｽﾃｯﾌﾟが設定範囲を越えています。 (1≦ 設定値 ≦ 100)</source>
+        <translation>The step of the text view is out of range. (1 ≦ value ≦ 100)</translation>
+    </message>
+    <message>
+        <source>ﾃｷｽﾄ表示の表示ｽﾃｯﾌﾟが設定範囲を越えています。 (1 ≦ 設定値 ≦ 100)</source>
+        <translation>The display step of the text view is out of range. (1 ≦ value ≦ 100)</translation>
+    </message>
+    <message>
+        <source>平均反射率の最短波長値が設定範囲外です。 (%1&lt;= 設定値 &lt;=%2)</source>
+        <translation>The shortest wavelength of the average reflectance is out of range. (%1 &lt;= value &lt;= %2)</translation>
+    </message>
+    <message>
+        <source>平均反射率の最長波長値が設定範囲外です。 (%1&lt;= 設定値 &lt;=%2)</source>
+        <translation>The longest wavelength of the average reflectance is out of range. (%1 &lt;= value &lt;= %2)</translation>
+    </message>
+    <message>
+        <source>平均反射率の幅が範囲を越えています。 (1 ≦ 設定値 ≦ 401)</source>
+        <translation>The width of the average reflectance is out of range. (1 ≦ value ≦ 401)</translation>
+    </message>
+    <message>
+        <source>ﾃﾞｰﾀが入力できません。再入力して下さい。</source>
+        <translation>The data cannot be entered. Please enter them again.</translation>
+    </message>
+    <message>
+        <source>ﾌｧｲﾙに保存できない文字が含まれています。<byte value="xd"/><byte value="xd"/>%1</source>
+        <translation>There are characters that the file cannot hold.<byte value="xd"/><byte value="xd"/>%1</translation>
+    </message>
+    <message>
+        <source>試料Noのｺﾝﾏは、CSVﾌｧｲﾙを開くときに列の区切りとして読まれます。<byte value="xd"/><byte value="xd"/>%1</source>
+        <translation>A comma in a sample No. is read as a column separator when the CSV file is opened.<byte value="xd"/><byte value="xd"/>%1</translation>
+    </message>
+    <message>
+        <source>測定日が日付ではありません。<byte value="xd"/><byte value="xd"/>%1</source>
+        <translation>The measuring date is not a date.<byte value="xd"/><byte value="xd"/>%1</translation>
+    </message>
+    <message>
+        <source>ｻﾝﾌﾟﾘﾝｸﾞ時間が設定範囲を越えています。 (30 ≦ 設定値 ≦ 10000)</source>
+        <translation>The sampling time is out of range. (30 ≦ value ≦ 10000)</translation>
+    </message>
+    <message>
+        <source>取り込み平均回数が設定範囲を越えています。 (1 ≦ 設定値 ≦ 16)</source>
+        <translation>The averaging count is out of range. (1 ≦ value ≦ 16)</translation>
+    </message>
+    <message>
+        <source>ｷｬﾘﾌﾞﾚｰｼｮﾝのｼﾌﾄ値が設定範囲を越えています。 (0 ≦ 設定値 ≦ 7)</source>
+        <translation>The calibration shift is out of range. (0 ≦ value ≦ 7)</translation>
+    </message>
+    <message>
+        <source>この設定は、再起動を含め次の測定から有効になります。<byte value="xd"/><byte value="xd"/>ｷｬﾘﾌﾞﾚｰｼｮﾝ･ﾌｧｲﾙ名:%1</source>
+        <translation>This setting takes effect from the next measurement on, also after a restart.<byte value="xd"/><byte value="xd"/>Calibration file: %1</translation>
+    </message>
+    <message>
+        <source>余白が設定範囲を越えています。 (0 ≦ 設定値 ≦ 50)</source>
+        <translation>The margin is out of range. (0 ≦ value ≦ 50)</translation>
+    </message>
+    <message>
+        <source>余白が大きすぎます。 (印刷範囲は縦横とも100mm以上)</source>
+        <translation>The margins are too large. (the printed area has to be at least 100mm each way)</translation>
+    </message>
+    <message>
+        <source>ﾌﾟﾘﾝﾀが見つかりません。<byte value="xd"/><byte value="xd"/>%1</source>
+        <translation>The printer was not found.<byte value="xd"/><byte value="xd"/>%1</translation>
+    </message>
+    <message>
+        <source>印刷でｴﾗｰが発生しました。<byte value="xd"/><byte value="xd"/>%1</source>
+        <translation>An error occurred while printing.<byte value="xd"/><byte value="xd"/>%1</translation>
+    </message>
+    <message>
+        <source>ｼｽﾃﾑのｴﾗｰ:</source>
+        <translation>System error: </translation>
+    </message>
+    <message>
+        <source>ﾃﾞｨｽｸに空きがありません。</source>
+        <translation>The disk is full.</translation>
+    </message>
+    <message>
+        <source>書き込みの許可がありません。</source>
+        <translation>Writing is not permitted.</translation>
+    </message>
+    <message>
+        <source>読み取り専用のﾃﾞｨｽｸです。</source>
+        <translation>The disk is read-only.</translation>
+    </message>
+    <message>
+        <source>ﾌｫﾙﾀﾞがありません。</source>
+        <translation>The folder does not exist.</translation>
+    </message>
+    <message>
+        <source>A data file (*.csv or *.dat).</source>
+        <translation>A data file (*.csv or *.dat).</translation>
+    </message>
+    <message>
+        <source>Adds the CIE colour at the tables&apos; true wavelengths.</source>
+        <translation>Adds the CIE colour at the tables&apos; true wavelengths.</translation>
+    </message>
+    <message>
+        <source>Colours, judgements and thicknesses of the slots of a data file.</source>
+        <translation>Colours, judgements and thicknesses of the slots of a data file.</translation>
+    </message>
+    <message>
+        <source>Computes the thickness even when the environment has it disabled.</source>
+        <translation>Computes the thickness even when the environment has it disabled.</translation>
+    </message>
+    <message>
+        <source>Usage: vexa-cli COMMAND [arguments] [options]
+
+Commands:
+</source>
+        <translation>Usage: vexa-cli COMMAND [arguments] [options]
+
+Commands:
+</translation>
+    </message>
+    <message>
+        <source>
+&quot;vexa-cli COMMAND --help&quot; tells more about each.
+</source>
+        <translation>
+&quot;vexa-cli COMMAND --help&quot; tells more about each.
+</translation>
+    </message>
+    <message>
+        <source>Shows this help.</source>
+        <translation>Shows this help.</translation>
+    </message>
+    <message>
+        <source>Prints one JSON document.</source>
+        <translation>Prints one JSON document.</translation>
+    </message>
+    <message>
+        <source>Program directory, with the settings files (default: the current one).</source>
+        <translation>Program directory, with the settings files (default: the current one).</translation>
+    </message>
+    <message>
+        <source>Language of the texts: ja (default) or en; with --json always ja.</source>
+        <translation>Language of the texts: ja (default) or en; with --json always ja.</translation>
+    </message>
+    <message>
+        <source>Answers every question with no.</source>
+        <translation>Answers every question with no.</translation>
+    </message>
+    <message>
+        <source>Data file to read, or several.</source>
+        <translation>Data file to read, or several.</translation>
+    </message>
+    <message>
+        <source>Data file to write, or a directory for several.</source>
+        <translation>Data file to write, or a directory for several.</translation>
+    </message>
+    <message>
+        <source>1 csv, 2 dat with ten blocks, 3 dat with five (default: by the ending of OUT).</source>
+        <translation>1 csv, 2 dat with ten blocks, 3 dat with five (default: by the ending of OUT).</translation>
+    </message>
+    <message>
+        <source>Reads a data file and writes it in another layout.</source>
+        <translation>Reads a data file and writes it in another layout.</translation>
+    </message>
+    <message>
+        <source>1 to 16 detector lines of 1024 bytes.</source>
+        <translation>1 to 16 detector lines of 1024 bytes.</translation>
+    </message>
+    <message>
+        <source>Pixel positions of the six spectral lines (default 138,325,378,409,469,0).</source>
+        <translation>Pixel positions of the six spectral lines (default 138,325,378,409,469,0).</translation>
+    </message>
+    <message>
+        <source>Start wavelength (default 440).</source>
+        <translation>Start wavelength (default 440).</translation>
+    </message>
+    <message>
+        <source>Averages raw detector lines and maps them to wavelengths.</source>
+        <translation>Averages raw detector lines and maps them to wavelengths.</translation>
+    </message>
+    <message>
+        <source>The same value at every wavelength.</source>
+        <translation>The same value at every wavelength.</translation>
+    </message>
+    <message>
+        <source>Schott&apos;s formula, wavelength in micrometres.</source>
+        <translation>Schott&apos;s formula, wavelength in micrometres.</translation>
+    </message>
+    <message>
+        <source>Sellmeier&apos;s formula, wavelength in micrometres.</source>
+        <translation>Sellmeier&apos;s formula, wavelength in micrometres.</translation>
+    </message>
+    <message>
+        <source>An index or reference file (*.ind, *.ref).</source>
+        <translation>An index or reference file (*.ind, *.ref).</translation>
+    </message>
+    <message>
+        <source>Index of a bare substrate from its measured data file.</source>
+        <translation>Index of a bare substrate from its measured data file.</translation>
+    </message>
+    <message>
+        <source>Gives the reflectance of a bare surface in percent (formulas alone).</source>
+        <translation>Gives the reflectance of a bare surface in percent (formulas alone).</translation>
+    </message>
+    <message>
+        <source>Writes the spectrum as an index or a reference file.</source>
+        <translation>Writes the spectrum as an index or a reference file.</translation>
+    </message>
+    <message>
+        <source>Computes an index or reflectance spectrum from its setting.</source>
+        <translation>Computes an index or reflectance spectrum from its setting.</translation>
+    </message>
+    <message>
+        <source>Environment file.</source>
+        <translation>Environment file.</translation>
+    </message>
+    <message>
+        <source>Writes it in the current layout.</source>
+        <translation>Writes it in the current layout.</translation>
+    </message>
+    <message>
+        <source>Shows an environment file of any accepted version.</source>
+        <translation>Shows an environment file of any accepted version.</translation>
+    </message>
+    <message>
+        <source>Fits the thicknesses of a film stack to the slots of a data file.</source>
+        <translation>Fits the thicknesses of a film stack to the slots of a data file.</translation>
+    </message>
+    <message>
+        <source>The standards to judge by.</source>
+        <translation>The standards to judge by.</translation>
+    </message>
+    <message>
+        <source>Judges the slots of a data file; exit status 3 when a group is NG.</source>
+        <translation>Judges the slots of a data file; exit status 3 when a group is NG.</translation>
+    </message>
+    <message>
+        <source>Measures background, reference and samples into a data file.</source>
+        <translation>Measures background, reference and samples into a data file.</translation>
+    </message>
+    <message>
+        <source>Waits for Enter before each measurement.</source>
+        <translation>Waits for Enter before each measurement.</translation>
+    </message>
+    <message>
+        <source>Reflectance of the reference: 0.1 to 110 percent, or a *.ref file (default: from the environment).</source>
+        <translation>Reflectance of the reference: 0.1 to 110 percent, or a *.ref file (default: from the environment).</translation>
+    </message>
+    <message>
+        <source>Detector lines of the %1.</source>
+        <translation>Detector lines of the %1.</translation>
+    </message>
+    <message>
+        <source>Calibration shift, 0 to 7 nm (default: from vexa.cal, else 4).</source>
+        <translation>Calibration shift, 0 to 7 nm (default: from vexa.cal, else 4).</translation>
+    </message>
+    <message>
+        <source>Computes a reflectance spectrum from three sets of detector lines.</source>
+        <translation>Computes a reflectance spectrum from three sets of detector lines.</translation>
+    </message>
+    <message>
+        <source>A standard file (*.std).</source>
+        <translation>A standard file (*.std).</translation>
+    </message>
+    <message>
+        <source>Writes the standards in the current layout.</source>
+        <translation>Writes the standards in the current layout.</translation>
+    </message>
+    <message>
+        <source>反射率</source>
+        <translation>Reflectance</translation>
+    </message>
+    <message>
+        <source>平均反射率</source>
+        <translation>Average reflectance</translation>
+    </message>
+    <message>
+        <source>視感反射率</source>
+        <translation>Luminous reflectance</translation>
+    </message>
+    <message>
+        <source>波長値</source>
+        <translation>Wavelength value</translation>
+    </message>
+    <message>
+        <source>ピーク</source>
+        <translation>Peak</translation>
+    </message>
+    <message>
+        <source>ボトム</source>
+        <translation>Bottom</translation>
+    </message>
+    <message>
+        <source>クロマ</source>
+        <translation>Chroma</translation>
+    </message>
+    <message>
+        <source>色相角</source>
+        <translation>Hue angle</translation>
+    </message>
+    <message>
+        <source>基準値C*</source>
+        <translation>Marker C*</translation>
+    </message>
+    <message>
+        <source>基準値h°</source>
+        <translation>Marker h°</translation>
+    </message>
+    <message>
+        <source>Shows a standard file, and writes it in the current layout.</source>
+        <translation>Shows a standard file, and writes it in the current layout.</translation>
+    </message>
+    <message>
+        <source>summary, xmr (control chart of individuals and moving ranges), capability, or grr (gauge repeatability and reproducibility).</source>
+        <translation>summary, xmr (control chart of individuals and moving ranges), capability, or grr (gauge repeatability and reproducibility).</translation>
+    </message>
+    <message>
+        <source>Numbers, one a line or in a table with a heading; grr: a table with the columns part, operator, value.</source>
+        <translation>Numbers, one a line or in a table with a heading; grr: a table with the columns part, operator, value.</translation>
+    </message>
+    <message>
+        <source>The column of the numbers in a table.</source>
+        <translation>The column of the numbers in a table.</translation>
+    </message>
+    <message>
+        <source>xmr: the first N points set the limits (default: all).</source>
+        <translation>xmr: the first N points set the limits (default: all).</translation>
+    </message>
+    <message>
+        <source>xmr: western (default), nelson, or some of Nelson&apos;s eight.</source>
+        <translation>xmr: western (default), nelson, or some of Nelson&apos;s eight.</translation>
+    </message>
+    <message>
+        <source>capability: lower limit of the specification.</source>
+        <translation>capability: lower limit of the specification.</translation>
+    </message>
+    <message>
+        <source>capability: upper limit of the specification.</source>
+        <translation>capability: upper limit of the specification.</translation>
+    </message>
+    <message>
+        <source>grr: width of the tolerance.</source>
+        <translation>grr: width of the tolerance.</translation>
+    </message>
+    <message>
+        <source>Summary, control chart, capability or gauge study of numbers.</source>
+        <translation>Summary, control chart, capability or gauge study of numbers.</translation>
+    </message>
+    <message>
+        <source>移動範囲が上限を超えている</source>
+        <translation>moving range above its upper limit</translation>
+    </message>
+    <message>
+        <source>A stock file (*.stc).</source>
+        <translation>A stock file (*.stc).</translation>
+    </message>
+    <message>
+        <source>Writes the points as a stock file of this version.</source>
+        <translation>Writes the points as a stock file of this version.</translation>
+    </message>
+    <message>
+        <source>Shows the accumulated colour points of a stock file.</source>
+        <translation>Shows the accumulated colour points of a stock file.</translation>
+    </message>
+    <message>
+        <source>440 nm より下は外挿</source>
+        <translation>extrapolated below 440 nm</translation>
+    </message>
+    <message>
+        <source>%1 は他のプログラムが使用中です: %2</source>
+        <translation>%1 is in use by another program: %2</translation>
+    </message>
+    <message>
+        <source>%1 という装置がありません。ケーブルとポート番号を確認して下さい。</source>
+        <translation>There is no device %1. Please check the cable and the port number.</translation>
+    </message>
+    <message>
+        <source>%1 を使う権限がありません。グループ %2 のユーザーだけが使えます。</source>
+        <translation>No permission to use %1. Only users of the group %2 may use it.</translation>
+    </message>
+    <message>
+        <source>%1 をシリアルポートとして開けません。</source>
+        <translation>%1 cannot be opened as a serial port.</translation>
+    </message>
+    <message>
+        <source>%1 は開けましたが、コントローラから正しい応答がありません。電源とケーブルを確認して下さい。</source>
+        <translation>%1 was opened, but the controller does not answer correctly. Please check its power and the cable.</translation>
+    </message>
+    <message>
+        <source>ｲﾝﾃﾞｯｸｽ</source>
+        <translation>Index</translation>
+    </message>
+    <message>
+        <source>ﾘﾌｧﾚﾝｽ</source>
+        <translation>Reference</translation>
+    </message>
+    <message>
+        <source>膜厚%1</source>
+        <translation>thickness %1</translation>
+    </message>
+    <message>
+        <source>倍率</source>
+        <translation>scale</translation>
+    </message>
+    <message>
+        <source>オフセット</source>
+        <translation>offset</translation>
+    </message>
+    <message>
+        <source>膜厚むら</source>
+        <translation>thickness nonuniformity</translation>
+    </message>
+    <message>
+        <source>屈折率</source>
+        <translation>refractive index</translation>
+    </message>
+    <message>
+        <source>%1と%2の相関が高く、区別できません。</source>
+        <translation>%1 and %2 are highly correlated and cannot be told apart.</translation>
+    </message>
+    <message>
+        <source>倍率が限界に達しました。</source>
+        <translation>The scale has reached its limit.</translation>
+    </message>
+    <message>
+        <source>層は1～4層で、屈折率は正の数でなければなりません。</source>
+        <translation>There have to be 1 to 4 layers, with positive refractive indices.</translation>
+    </message>
+    <message>
+        <source>膜厚の範囲は0～60000nmで、下限は上限以下でなければなりません。</source>
+        <translation>Film thicknesses have to be within 0 to 60000 nm, the lower limit not above the upper one.</translation>
+    </message>
+    <message>
+        <source>波長範囲は440～840nmで、20点以上必要です。</source>
+        <translation>The wavelengths have to be within 440 to 840 nm, with 20 points or more.</translation>
+    </message>
+    <message>
+        <source>バンド幅、不確かさ、信頼水準のいずれかが範囲外です。</source>
+        <translation>The bandwidth, an uncertainty or the confidence level is out of range.</translation>
+    </message>
+    <message>
+        <source>反射率データが無効です。</source>
+        <translation>The reflectance data are not valid.</translation>
+    </message>
+    <message>
+        <source>膜構成ファイルを読み込めません。</source>
+        <translation>The film stack file cannot be read.</translation>
+    </message>
+    <message>
+        <source>膜構成ファイルではありません。</source>
+        <translation>This is not a film stack file.</translation>
+    </message>
+    <message>
+        <source>新しい版の膜構成ファイルです。</source>
+        <translation>The film stack file is of a newer version.</translation>
+    </message>
+    <message>
+        <source>膜構成ファイルの値が正しくありません。</source>
+        <translation>A value in the film stack file is not valid.</translation>
+    </message>
+    <message>
+        <source>材料は数値、式、または .ind・.nk ファイルで指定してください。</source>
+        <translation>A material is given by a number, a formula, or an .ind or .nk file.</translation>
+    </message>
+    <message>
+        <source>材料のファイルを読み込めません。</source>
+        <translation>The file of the material cannot be read.</translation>
+    </message>
+    <message>
+        <source>材料の表が440～840nmを含んでいません。</source>
+        <translation>The table of the material does not cover 440 to 840 nm.</translation>
+    </message>
+    <message>
+        <source>材料の屈折率が正の数でないか、吸収が負です。</source>
+        <translation>The refractive index of the material is not positive, or its absorption is negative.</translation>
+    </message>
+    <message>
+        <source>測定範囲の端から7nm以内の極値を数えています。</source>
+        <translation>An extremum within 7 nm of the ends of the measured range is counted.</translation>
+    </message>
+    <message>
+        <source>同じ極値を2回数えているか、同じ種類の極値が続いています。</source>
+        <translation>An extremum is counted twice, or extrema of the same kind follow each other.</translation>
+    </message>
+    <message>
+        <source>極値の間隔が1枚の膜の干渉次数と合いません。</source>
+        <translation>The spacing of the extrema does not fit the interference orders of one film.</translation>
+    </message>
+    <message>
+        <source>干渉縞がノイズより高くありません。</source>
+        <translation>The fringes are not higher than the noise.</translation>
+    </message>
+    <message>
+        <source>干渉縞全体から求めた膜厚と一致しません。</source>
+        <translation>This does not agree with the thickness from the whole fringes.</translation>
+    </message>
+    <message>
+        <source>条件１</source>
+        <translation>Condition 1</translation>
+    </message>
+    <message>
+        <source>条件２</source>
+        <translation>Condition 2</translation>
+    </message>
+    <message>
+        <source>条件３</source>
+        <translation>Condition 3</translation>
+    </message>
+    <message>
+        <source>条件４</source>
+        <translation>Condition 4</translation>
+    </message>
+    <message>
+        <source>条件５</source>
+        <translation>Condition 5</translation>
+    </message>
+    <message>
+        <source>条件６</source>
+        <translation>Condition 6</translation>
+    </message>
+    <message>
+        <source>条件７</source>
+        <translation>Condition 7</translation>
+    </message>
+    <message>
+        <source>条件８</source>
+        <translation>Condition 8</translation>
+    </message>
+    <message>
+        <source>条件９</source>
+        <translation>Condition 9</translation>
+    </message>
+    <message>
+        <source>条件１０</source>
+        <translation>Condition 10</translation>
+    </message>
+    <message>
+        <source>反射率:OK</source>
+        <translation>Reflectance: OK</translation>
+    </message>
+    <message>
+        <source>反射率:NG</source>
+        <translation>Reflectance: NG</translation>
+    </message>
+    <message>
+        <source>平均反射率:OK</source>
+        <translation>Average refl.: OK</translation>
+    </message>
+    <message>
+        <source>平均反射率:NG</source>
+        <translation>Average refl.: NG</translation>
+    </message>
+    <message>
+        <source>視感反射率:OK</source>
+        <translation>Luminous refl.: OK</translation>
+    </message>
+    <message>
+        <source>視感反射率:NG</source>
+        <translation>Luminous refl.: NG</translation>
+    </message>
+    <message>
+        <source>波長:OK</source>
+        <translation>Wavelength: OK</translation>
+    </message>
+    <message>
+        <source>波長:NG</source>
+        <translation>Wavelength: NG</translation>
+    </message>
+    <message>
+        <source>クロマC*:OK</source>
+        <translation>Chroma C*: OK</translation>
+    </message>
+    <message>
+        <source>クロマC*:NG</source>
+        <translation>Chroma C*: NG</translation>
+    </message>
+    <message>
+        <source>色相角h[deg]:OK</source>
+        <translation>Hue angle h[deg]: OK</translation>
+    </message>
+    <message>
+        <source>色相角h[deg]:NG</source>
+        <translation>Hue angle h[deg]: NG</translation>
+    </message>
+    <message>
+        <source>反射率規格</source>
+        <translation>Reflectance standard</translation>
+    </message>
+    <message>
+        <source>平均反射率規格</source>
+        <translation>Average reflectance standard</translation>
+    </message>
+    <message>
+        <source>波長値規格</source>
+        <translation>Wavelength standard</translation>
+    </message>
+    <message>
+        <source>クロマ規格</source>
+        <translation>Chroma standard</translation>
+    </message>
+    <message>
+        <source>色相角規格</source>
+        <translation>Hue angle standard</translation>
+    </message>
+    <message>
+        <source>視感反射率規格</source>
+        <translation>Luminous reflectance standard</translation>
+    </message>
+    <message>
+        <source>数値でない値、または大きすぎる値があります。</source>
+        <translation>A value is not a number, or is too large.</translation>
+    </message>
+    <message>
+        <source>データの数が足りません。</source>
+        <translation>There are too few data.</translation>
+    </message>
+    <message>
+        <source>すべての値が同じで、ばらつきがありません。</source>
+        <translation>All values are equal: there is no variation.</translation>
+    </message>
+    <message>
+        <source>規格の上限も下限もありません。</source>
+        <translation>The specification has neither an upper nor a lower limit.</translation>
+    </message>
+    <message>
+        <source>規格の下限が上限より小さくありません。</source>
+        <translation>The lower limit of the specification is not below the upper limit.</translation>
+    </message>
+    <message>
+        <source>部品、測定者、繰返しはそれぞれ2以上必要です。</source>
+        <translation>At least two parts, operators and repetitions each are needed.</translation>
+    </message>
+    <message>
+        <source>測定回数が部品と測定者のすべての組で同じではありません。</source>
+        <translation>The number of measurements differs among the pairs of part and operator.</translation>
+    </message>
+    <message>
+        <source>指定された値が範囲外です。</source>
+        <translation>A given value is out of range.</translation>
+    </message>
+    <message>
+        <source>1点が3σの外にある</source>
+        <translation>1 point beyond 3σ</translation>
+    </message>
+    <message>
+        <source>連続する3点中2点が同じ側で2σの外にある</source>
+        <translation>2 of 3 points in a row beyond 2σ on the same side</translation>
+    </message>
+    <message>
+        <source>連続する5点中4点が同じ側で1σの外にある</source>
+        <translation>4 of 5 points in a row beyond 1σ on the same side</translation>
+    </message>
+    <message>
+        <source>連続する8点が中心線の同じ側にある</source>
+        <translation>8 points in a row on the same side of the centre line</translation>
+    </message>
+    <message>
+        <source>連続する9点が中心線の同じ側にある</source>
+        <translation>9 points in a row on the same side of the centre line</translation>
+    </message>
+    <message>
+        <source>連続する6点が増加または減少している</source>
+        <translation>6 points in a row increasing or decreasing</translation>
+    </message>
+    <message>
+        <source>連続する14点が交互に増減している</source>
+        <translation>14 points in a row alternating up and down</translation>
+    </message>
+    <message>
+        <source>連続する15点が1σの内にある</source>
+        <translation>15 points in a row within 1σ</translation>
+    </message>
+    <message>
+        <source>連続する8点が1σの外にある</source>
+        <translation>8 points in a row beyond 1σ</translation>
+    </message>
+    <message>
+        <source>ｽﾛｯﾄ</source>
+        <translation>Slot</translation>
+    </message>
+    <message>
+        <source>試料No</source>
+        <translation>Sample No.</translation>
+    </message>
+    <message>
+        <source>基準</source>
+        <translation>Standard</translation>
+    </message>
+    <message>
+        <source>光源</source>
+        <translation>Illuminant</translation>
+    </message>
+    <message>
+        <source>視野</source>
+        <translation>Observer</translation>
+    </message>
+    <message>
+        <source>ｺﾋﾟｰ(&amp;C)</source>
+        <translation>&amp;Copy</translation>
+    </message>
+    <message>
+        <source>保存(&amp;S)</source>
+        <translation>&amp;Save</translation>
+    </message>
+    <message>
+        <source>光源: %1   視野: %2°</source>
+        <translation>Illuminant: %1   Observer: %2°</translation>
+    </message>
+    <message>
+        <source>基準:</source>
+        <translation>Standard:</translation>
+    </message>
+    <message>
+        <source>視野:</source>
+        <translation>Observer:</translation>
+    </message>
+    <message>
+        <source>光源:</source>
+        <translation>Illuminant:</translation>
+    </message>
+    <message>
+        <source>累積表示</source>
+        <translation>Accumulate</translation>
+    </message>
+    <message>
+        <source>ｸﾘｱ</source>
+        <translation>Clear</translation>
+    </message>
+    <message>
+        <source>最後の累積データを取り消します。</source>
+        <translation>Removes the last accumulated data.</translation>
+    </message>
+    <message>
+        <source>累積色度図</source>
+        <translation>Accumulated diagram</translation>
+    </message>
+    <message>
+        <source>測色値 (Mes%1)</source>
+        <translation>Colour values (Mes%1)</translation>
+    </message>
+    <message>
+        <source>累積ﾃﾞｰﾀ･ﾌｧｲﾙ(*.stc)|*.stc|</source>
+        <translation>Accumulated data file(*.stc)|*.stc|</translation>
+    </message>
+    <message>
+        <source>読み込み</source>
+        <translation>Load</translation>
+    </message>
+    <message>
+        <source>保存</source>
+        <translation>Save</translation>
+    </message>
+    <message>
+        <source>全ｸﾘｱ</source>
+        <translation>Clear all</translation>
+    </message>
+    <message>
+        <source>累積色度図表示</source>
+        <translation>Accumulated chromaticity diagram</translation>
+    </message>
+    <message>
+        <source>累積数  %1 / %2</source>
+        <translation>Accumulated  %1 / %2</translation>
+    </message>
+    <message>
+        <source>累積ﾃﾞｰﾀ･ﾌｧｲﾙを開く</source>
+        <translation>Open accumulated data file</translation>
+    </message>
+    <message>
+        <source>累積ﾃﾞｰﾀ･ﾌｧｲﾙの保存</source>
+        <translation>Save accumulated data file</translation>
+    </message>
+    <message>
+        <source>XYZ色度図</source>
+        <translation>XYZ diagram</translation>
+    </message>
+    <message>
+        <source>L*a*b色度図</source>
+        <translation>L*a*b diagram</translation>
+    </message>
+    <message>
+        <source>はい(&amp;Y)</source>
+        <translation>&amp;Yes</translation>
+    </message>
+    <message>
+        <source>いいえ(&amp;N)</source>
+        <translation>&amp;No</translation>
+    </message>
+    <message>
+        <source>ｷｬﾝｾﾙ</source>
+        <translation>Cancel</translation>
+    </message>
+    <message>
+        <source>詳細</source>
+        <translation>Details</translation>
+    </message>
+    <message>
+        <source>ｸﾞﾗﾌの保存</source>
+        <translation>Save graph</translation>
+    </message>
+    <message>
+        <source>ｸﾞﾗﾌをｺﾋﾟｰ</source>
+        <translation>Copy graph</translation>
+    </message>
+    <message>
+        <source>ｸﾞﾗﾌの保存...</source>
+        <translation>Save graph...</translation>
+    </message>
+    <message>
+        <source>備考１</source>
+        <translation>Remark 1</translation>
+    </message>
+    <message>
+        <source>備考２</source>
+        <translation>Remark 2</translation>
+    </message>
+    <message>
+        <source>測定日</source>
+        <translation>Measured on</translation>
+    </message>
+    <message>
+        <source>ﾌｧｲﾙを開く</source>
+        <translation>Open file</translation>
+    </message>
+    <message>
+        <source>ﾃﾞｰﾀ･ﾌｧｲﾙ(*.csv,*.dat)|*.csv;*.dat|</source>
+        <translation>Data file(*.csv,*.dat)|*.csv;*.dat|</translation>
+    </message>
+    <message>
+        <source>ﾌｧｲﾙの名前を付けて保存</source>
+        <translation>Save file as</translation>
+    </message>
+    <message>
+        <source>環境ﾌｧｲﾙを開く</source>
+        <translation>Open environment file</translation>
+    </message>
+    <message>
+        <source>環境ﾃﾞｰﾀ･ﾌｧｲﾙ(*.env)|*.env|</source>
+        <translation>Environment data file(*.env)|*.env|</translation>
+    </message>
+    <message>
+        <source>全てのﾌｧｲﾙ(*.*)|*.*|</source>
+        <translation>All files(*.*)|*.*|</translation>
+    </message>
+    <message>
+        <source>環境ﾌｧｲﾙの名前を付けて保存</source>
+        <translation>Save environment file as</translation>
+    </message>
+    <message>
+        <source>波長</source>
+        <translation>Wavelength</translation>
+    </message>
+    <message>
+        <source>ｶｰｿﾙを短波長側へ</source>
+        <translation>Cursor to shorter wavelengths</translation>
+    </message>
+    <message>
+        <source>ｶｰｿﾙを長波長側へ</source>
+        <translation>Cursor to longer wavelengths</translation>
+    </message>
+    <message>
+        <source>ｼﾞｬﾝﾌﾟ</source>
+        <translation>Jump</translation>
+    </message>
+    <message>
+        <source>ｼﾞｬﾝﾌﾟ設定</source>
+        <translation>Jump</translation>
+    </message>
+    <message>
+        <source>移動先の波長を指定して下さい</source>
+        <translation>Please give the wavelength to go to</translation>
+    </message>
+    <message>
+        <source>光量 [count]</source>
+        <translation>Light intensity [count]</translation>
+    </message>
+    <message>
+        <source>飽和 %1</source>
+        <translation>Saturation %1</translation>
+    </message>
+    <message>
+        <source>反射率 [%]</source>
+        <translation>Reflectance [%]</translation>
+    </message>
+    <message>
+        <source>理論反射率</source>
+        <translation>Theoretical reflectance</translation>
+    </message>
+    <message>
+        <source>膜屈折率</source>
+        <translation>Film refractive index</translation>
+    </message>
+    <message>
+        <source>基板屈折率</source>
+        <translation>Substrate refractive index</translation>
+    </message>
+    <message>
+        <source>波長 [nm]</source>
+        <translation>Wavelength [nm]</translation>
+    </message>
+    <message>
+        <source>ｺﾋﾟｰ</source>
+        <translation>Copy</translation>
+    </message>
+    <message>
+        <source>全て選択</source>
+        <translation>Select all</translation>
+    </message>
+    <message>
+        <source>ﾌｧｲﾙ名</source>
+        <translation>File name</translation>
+    </message>
+    <message>
+        <source>ﾃﾞｰﾀｲﾝﾃﾞｯｸｽ</source>
+        <translation>Data index</translation>
+    </message>
+    <message>
+        <source>膜厚 </source>
+        <translation>Film thickness </translation>
+    </message>
+    <message>
+        <source>膜厚ｸﾞﾗﾌ</source>
+        <translation>Thickness graph</translation>
+    </message>
+    <message>
+        <source>全ﾃﾞｰﾀ数 %1    膜厚 %2</source>
+        <translation>Data: %1    Film thickness: %2</translation>
+    </message>
+    <message>
+        <source>波長[nm]</source>
+        <translation>Wavelength[nm]</translation>
+    </message>
+    <message>
+        <source>反射率[%]</source>
+        <translation>Reflectance[%]</translation>
+    </message>
+    <message>
+        <source>波長リスト</source>
+        <translation>Wavelength list</translation>
+    </message>
+    <message>
+        <source>ﾘﾌｧﾚﾝｽ設定</source>
+        <translation>Reference settings</translation>
+    </message>
+    <message>
+        <source>ﾘﾌｧﾚﾝｽ･ﾃﾞｰﾀﾌｧｲﾙ(*.ref)|*.ref|</source>
+        <translation>Reference data file(*.ref)|*.ref|</translation>
+    </message>
+    <message>
+        <source>膜厚設定</source>
+        <translation>Film thickness settings</translation>
+    </message>
+    <message>
+        <source>ｺｰﾄ屈折率設定</source>
+        <translation>Coat refractive index</translation>
+    </message>
+    <message>
+        <source>ｲﾝﾃﾞｯｸｽ･ﾃﾞｰﾀﾌｧｲﾙ(*.ind)|*.ind|</source>
+        <translation>Index data file(*.ind)|*.ind|</translation>
+    </message>
+    <message>
+        <source>固定ﾘﾌｧﾚﾝｽ反射率</source>
+        <translation>Constant reference reflectance</translation>
+    </message>
+    <message>
+        <source>Schott分散式ﾊﾟﾗﾒｰﾀ</source>
+        <translation>Schott formula parameters</translation>
+    </message>
+    <message>
+        <source>Sellmeier分散式ﾊﾟﾗﾒｰﾀ</source>
+        <translation>Sellmeier formula parameters</translation>
+    </message>
+    <message>
+        <source>分散ﾃﾞｰﾀﾌｧｲﾙ</source>
+        <translation>Dispersion data file</translation>
+    </message>
+    <message>
+        <source>膜厚測定</source>
+        <translation>Thickness</translation>
+    </message>
+    <message>
+        <source>分散設定</source>
+        <translation>Dispersion</translation>
+    </message>
+    <message>
+        <source>固定値</source>
+        <translation>Constant</translation>
+    </message>
+    <message>
+        <source>分散式１</source>
+        <translation>Formula 1</translation>
+    </message>
+    <message>
+        <source>分散式２</source>
+        <translation>Formula 2</translation>
+    </message>
+    <message>
+        <source>ﾌｧｲﾙ</source>
+        <translation>File</translation>
+    </message>
+    <message>
+        <source>固定値設定</source>
+        <translation>Constant value</translation>
+    </message>
+    <message>
+        <source>ﾌｧｲﾙ設定</source>
+        <translation>From file</translation>
+    </message>
+    <message>
+        <source>基板屈折率を使用し計算</source>
+        <translation>Calculate with the substrate refractive index</translation>
+    </message>
+    <message>
+        <source>全波長で同じ値を使います。</source>
+        <translation>Uses the same value at all wavelengths.</translation>
+    </message>
+    <message>
+        <source>Schottの分散式で波長ごとに計算します。</source>
+        <translation>Calculates each wavelength by the Schott formula.</translation>
+    </message>
+    <message>
+        <source>Sellmeierの分散式で波長ごとに計算します。</source>
+        <translation>Calculates each wavelength by the Sellmeier formula.</translation>
+    </message>
+    <message>
+        <source>ﾌｧｲﾙの値を波長ごとに使います。</source>
+        <translation>Uses the values of the file at each wavelength.</translation>
+    </message>
+    <message>
+        <source>基板の屈折率と測定した反射率から膜の屈折率を計算します (Type A、Type B)。</source>
+        <translation>Calculates the refractive index of the film from that of the substrate and the measured reflectance (Type A, Type B).</translation>
+    </message>
+    <message>
+        <source>自動ｽｹｰﾙ</source>
+        <translation>Automatic scale</translation>
+    </message>
+    <message>
+        <source>膜厚ｸﾞﾗﾌ設定</source>
+        <translation>Thickness graph settings</translation>
+    </message>
+    <message>
+        <source>軸の範囲を履歴の値に合わせます。</source>
+        <translation>Fits the range of the axis to the values of the history.</translation>
+    </message>
+    <message>
+        <source>膜厚ｽｹｰﾙ</source>
+        <translation>Thickness scale</translation>
+    </message>
+    <message>
+        <source>最大値</source>
+        <translation>Maximum</translation>
+    </message>
+    <message>
+        <source>最小値</source>
+        <translation>Minimum</translation>
+    </message>
+    <message>
+        <source>印刷</source>
+        <translation>Print</translation>
+    </message>
+    <message>
+        <source>全ﾃﾞｰﾀ･ｸﾘｱ</source>
+        <translation>Clear all data</translation>
+    </message>
+    <message>
+        <source>設定</source>
+        <translation>Settings</translation>
+    </message>
+    <message>
+        <source>ｸﾞﾗﾌ設定</source>
+        <translation>Graph settings</translation>
+    </message>
+    <message>
+        <source>ﾃﾞｰﾀ情報</source>
+        <translation>Data information</translation>
+    </message>
+    <message>
+        <source>全ﾃﾞｰﾀ数</source>
+        <translation>Number of data</translation>
+    </message>
+    <message>
+        <source>膜厚</source>
+        <translation>Film thickness</translation>
+    </message>
+    <message>
+        <source>前のﾃﾞｰﾀ</source>
+        <translation>Previous data</translation>
+    </message>
+    <message>
+        <source>次のﾃﾞｰﾀ</source>
+        <translation>Next data</translation>
+    </message>
+    <message>
+        <source>追加</source>
+        <translation>Add</translation>
+    </message>
+    <message>
+        <source>削除</source>
+        <translation>Delete</translation>
+    </message>
+    <message>
+        <source>膜厚測定を可能にする</source>
+        <translation>Enable the film thickness measurement</translation>
+    </message>
+    <message>
+        <source>測定画面に膜厚の欄を出し、干渉の極値から膜厚を計算します。</source>
+        <translation>Shows the film thickness in the measuring window and calculates it from the interference extrema.</translation>
+    </message>
+    <message>
+        <source>測定設定</source>
+        <translation>Measurement</translation>
+    </message>
+    <message>
+        <source>測定タイプ</source>
+        <translation>Type of measurement</translation>
+    </message>
+    <message>
+        <source>長波長側の隣り合う2個の極小から計算します。</source>
+        <translation>Calculates from the two neighbouring minima at the longest wavelengths.</translation>
+    </message>
+    <message>
+        <source>最初と最後の極大から、その間の極大の数を使って計算します。</source>
+        <translation>Calculates from the first and the last maximum and the number of maxima between them.</translation>
+    </message>
+    <message>
+        <source>最初と最後の極値から、極大と極小の数を使って計算します。基板屈折率とは組み合わせられません。</source>
+        <translation>Calculates from the first and the last extremum and the number of maxima and minima. It cannot be combined with the substrate refractive index.</translation>
+    </message>
+    <message>
+        <source>物理膜厚</source>
+        <translation>Physical thickness</translation>
+    </message>
+    <message>
+        <source>光学膜厚</source>
+        <translation>Optical thickness</translation>
+    </message>
+    <message>
+        <source>膜の厚さ d を [nm] で示します。</source>
+        <translation>Gives the thickness d of the film in [nm].</translation>
+    </message>
+    <message>
+        <source>屈折率と厚さの積 nd を [nd] で示します。</source>
+        <translation>Gives nd, refractive index times thickness, in [nd].</translation>
+    </message>
+    <message>
+        <source>自動測定</source>
+        <translation>Automatic</translation>
+    </message>
+    <message>
+        <source>選択ｽﾛｯﾄの膜厚を計算</source>
+        <translation>Calculates the film thickness of the selected slot</translation>
+    </message>
+    <message>
+        <source>測定後に膜厚を計算</source>
+        <translation>Calculates the film thickness after each measurement</translation>
+    </message>
+    <message>
+        <source>n%1：</source>
+        <translation>n%1:</translation>
+    </message>
+    <message>
+        <source>PDFを作れませんでした。</source>
+        <translation>The PDF could not be made.</translation>
+    </message>
+    <message>
+        <source>PDFﾌｧｲﾙ</source>
+        <translation>PDF file</translation>
+    </message>
+    <message>
+        <source>横</source>
+        <translation>Landscape</translation>
+    </message>
+    <message>
+        <source>縦</source>
+        <translation>Portrait</translation>
+    </message>
+    <message>
+        <source>固定値 %1 %</source>
+        <translation>Constant %1 %</translation>
+    </message>
+    <message>
+        <source>Schott分散式</source>
+        <translation>Schott formula</translation>
+    </message>
+    <message>
+        <source>Sellmeier分散式</source>
+        <translation>Sellmeier formula</translation>
+    </message>
+    <message>
+        <source>反射率測定結果</source>
+        <translation>Reflectance measurement</translation>
+    </message>
+    <message>
+        <source>測定者</source>
+        <translation>Operator</translation>
+    </message>
+    <message>
+        <source>環境ﾌｧｲﾙ</source>
+        <translation>Environment file</translation>
+    </message>
+    <message>
+        <source>日付</source>
+        <translation>Date</translation>
+    </message>
+    <message>
+        <source>規格ﾌｧｲﾙ</source>
+        <translation>Standard file</translation>
+    </message>
+    <message>
+        <source>測色条件</source>
+        <translation>Colour conditions</translation>
+    </message>
+    <message>
+        <source>光源 %1&#x3000;視野 %2°&#x3000;平均 %3-%4 nm</source>
+        <translation>Illuminant %1  Observer %2°  Average %3-%4 nm</translation>
+    </message>
+    <message>
+        <source>ﾃﾞｰﾀﾌｧｲﾙ</source>
+        <translation>Data file</translation>
+    </message>
+    <message>
+        <source>未保存</source>
+        <translation>not saved</translation>
+    </message>
+    <message>
+        <source>測定条件</source>
+        <translation>Measuring conditions</translation>
+    </message>
+    <message>
+        <source>%1 ms × %2回</source>
+        <translation>%1 ms × %2</translation>
+    </message>
+    <message>
+        <source>色度図を加える</source>
+        <translation>Add the chromaticity diagram</translation>
+    </message>
+    <message>
+        <source>ﾌﾟﾚﾋﾞｭｰ</source>
+        <translation>Preview</translation>
+    </message>
+    <message>
+        <source>見出し</source>
+        <translation>Heading</translation>
+    </message>
+    <message>
+        <source>ﾀｲﾄﾙ</source>
+        <translation>Title</translation>
+    </message>
+    <message>
+        <source>印刷ﾃﾞｰﾀ</source>
+        <translation>Data to print</translation>
+    </message>
+    <message>
+        <source>選択ﾃﾞｰﾀ (Mes%1)</source>
+        <translation>Selected data (Mes%1)</translation>
+    </message>
+    <message>
+        <source>全ﾃﾞｰﾀ</source>
+        <translation>All data</translation>
+    </message>
+    <message>
+        <source>印刷内容</source>
+        <translation>Contents</translation>
+    </message>
+    <message>
+        <source>ｸﾞﾗﾌ</source>
+        <translation>Graph</translation>
+    </message>
+    <message>
+        <source>ﾃｷｽﾄ</source>
+        <translation>Text</translation>
+    </message>
+    <message>
+        <source>ｸﾞﾗﾌとﾃｷｽﾄ</source>
+        <translation>Graph and text</translation>
+    </message>
+    <message>
+        <source>ﾃｷｽﾄｽﾃｯﾌﾟ</source>
+        <translation>Text step</translation>
+    </message>
+    <message>
+        <source>印刷設定</source>
+        <translation>Print setup</translation>
+    </message>
+    <message>
+        <source>ﾌﾟﾘﾝﾀ</source>
+        <translation>Printer</translation>
+    </message>
+    <message>
+        <source>部数</source>
+        <translation>Copies</translation>
+    </message>
+    <message>
+        <source>前頁</source>
+        <translation>Previous</translation>
+    </message>
+    <message>
+        <source>次頁</source>
+        <translation>Next</translation>
+    </message>
+    <message>
+        <source>印刷ﾌﾟﾚﾋﾞｭｰ</source>
+        <translation>Print preview</translation>
+    </message>
+    <message>
+        <source>全体</source>
+        <translation>Whole page</translation>
+    </message>
+    <message>
+        <source>幅に合わせる</source>
+        <translation>Fit width</translation>
+    </message>
+    <message>
+        <source>ﾌﾟﾘﾝﾀ名</source>
+        <translation>Printer name</translation>
+    </message>
+    <message>
+        <source>用紙</source>
+        <translation>Paper</translation>
+    </message>
+    <message>
+        <source>ｻｲｽﾞ</source>
+        <translation>Size</translation>
+    </message>
+    <message>
+        <source>向き</source>
+        <translation>Orientation</translation>
+    </message>
+    <message>
+        <source>左</source>
+        <translation>Left</translation>
+    </message>
+    <message>
+        <source>上</source>
+        <translation>Top</translation>
+    </message>
+    <message>
+        <source>右</source>
+        <translation>Right</translation>
+    </message>
+    <message>
+        <source>下</source>
+        <translation>Bottom</translation>
+    </message>
+    <message>
+        <source>余白 [mm]</source>
+        <translation>Margins [mm]</translation>
+    </message>
+    <message>
+        <source>平均[%]</source>
+        <translation>Avg.[%]</translation>
+    </message>
+    <message>
+        <source>視感[%]</source>
+        <translation>Lum.[%]</translation>
+    </message>
+    <message>
+        <source>～</source>
+        <translation> - </translation>
+    </message>
+    <message>
+        <source>%1点</source>
+        <translation>%1 points</translation>
+    </message>
+    <message>
+        <source>規格</source>
+        <translation>Standard</translation>
+    </message>
+    <message>
+        <source>試料</source>
+        <translation>Samples</translation>
+    </message>
+    <message>
+        <source>備考1</source>
+        <translation>Remark 1</translation>
+    </message>
+    <message>
+        <source>備考2</source>
+        <translation>Remark 2</translation>
+    </message>
+    <message>
+        <source>測定値</source>
+        <translation>Measured values</translation>
+    </message>
+    <message>
+        <source>上限 [%]</source>
+        <translation>Upper limit [%]</translation>
+    </message>
+    <message>
+        <source>下限 [%]</source>
+        <translation>Lower limit [%]</translation>
+    </message>
+    <message>
+        <source>合否判定</source>
+        <translation>Judgement</translation>
+    </message>
+    <message>
+        <source>クロマC*</source>
+        <translation>Chroma C*</translation>
+    </message>
+    <message>
+        <source>色相角h[deg]</source>
+        <translation>Hue angle h[deg]</translation>
+    </message>
+    <message>
+        <source>総合</source>
+        <translation>Total</translation>
+    </message>
+    <message>
+        <source>ｷｬﾘﾌﾞﾚｰｼｮﾝ</source>
+        <translation>Calibration</translation>
+    </message>
+    <message>
+        <source>光量の波長をずらす量です (0～7 nm)。測定済みの光量にも、次の計算から使われます。</source>
+        <translation>How far the wavelengths of the light intensity are shifted (0 to 7 nm). Light already measured takes it from the next calculation on.</translation>
+    </message>
+    <message>
+        <source>ｼﾌﾄ値</source>
+        <translation>Shift</translation>
+    </message>
+    <message>
+        <source>表示設定</source>
+        <translation>Display settings</translation>
+    </message>
+    <message>
+        <source>表示波長</source>
+        <translation>Wavelengths shown</translation>
+    </message>
+    <message>
+        <source>ﾌﾙｽｹｰﾙ</source>
+        <translation>Full scale</translation>
+    </message>
+    <message>
+        <source>波長軸を440～840 nmにします。</source>
+        <translation>Sets the wavelength axis to 440 to 840 nm.</translation>
+    </message>
+    <message>
+        <source>最短波長</source>
+        <translation>Shortest wavelength</translation>
+    </message>
+    <message>
+        <source>最長波長</source>
+        <translation>Longest wavelength</translation>
+    </message>
+    <message>
+        <source>目盛り</source>
+        <translation>Ticks</translation>
+    </message>
+    <message>
+        <source>目盛り間隔</source>
+        <translation>Tick interval</translation>
+    </message>
+    <message>
+        <source>表示反射率</source>
+        <translation>Reflectance shown</translation>
+    </message>
+    <message>
+        <source>反射率軸を、表示中の曲線と規格に合わせます。</source>
+        <translation>Fits the reflectance axis to the curves and standards shown.</translation>
+    </message>
+    <message>
+        <source>最大</source>
+        <translation>Maximum</translation>
+    </message>
+    <message>
+        <source>最小</source>
+        <translation>Minimum</translation>
+    </message>
+    <message>
+        <source>自動目盛り</source>
+        <translation>Automatic ticks</translation>
+    </message>
+    <message>
+        <source>目盛りをきりのよい値に置きます。</source>
+        <translation>Puts the ticks at round values.</translation>
+    </message>
+    <message>
+        <source>ﾃｷｽﾄ表示</source>
+        <translation>Text view</translation>
+    </message>
+    <message>
+        <source>表示ｽﾃｯﾌﾟ</source>
+        <translation>Display step</translation>
+    </message>
+    <message>
+        <source>測定画面の色度図です。累積する色の値もこれで決まります。</source>
+        <translation>The chromaticity diagram of the measuring window. It determines the colour values that are accumulated, too.</translation>
+    </message>
+    <message>
+        <source>L*a*bｽｹｰﾙ</source>
+        <translation>L*a*b scale</translation>
+    </message>
+    <message>
+        <source>a*b*色度図の軸の端の値です。</source>
+        <translation>The value at the ends of the axes of the a*b* diagram.</translation>
+    </message>
+    <message>
+        <source>標準光源設定</source>
+        <translation>Standard illuminant</translation>
+    </message>
+    <message>
+        <source>測色値を計算する標準光源です。</source>
+        <translation>The standard illuminant of the colour values.</translation>
+    </message>
+    <message>
+        <source>視野設定</source>
+        <translation>Observer</translation>
+    </message>
+    <message>
+        <source>2度視野</source>
+        <translation>2° observer</translation>
+    </message>
+    <message>
+        <source>10度視野</source>
+        <translation>10° observer</translation>
+    </message>
+    <message>
+        <source>測色値を計算する等色関数の視野です。</source>
+        <translation>The observer of the colour matching functions of the colour values.</translation>
+    </message>
+    <message>
+        <source>ﾘﾌｧﾚﾝｽﾃﾞｰﾀ</source>
+        <translation>Reference data</translation>
+    </message>
+    <message>
+        <source>ﾘﾌｧﾚﾝｽﾃﾞｰﾀを表示する</source>
+        <translation>Show the reference data</translation>
+    </message>
+    <message>
+        <source>ﾘﾌｧﾚﾝｽ試料の理論反射率をｸﾞﾗﾌと表に加えます。</source>
+        <translation>Adds the theoretical reflectance of the reference sample to the graph and the table.</translation>
+    </message>
+    <message>
+        <source>ｶｰｿﾙ表示</source>
+        <translation>Cursor</translation>
+    </message>
+    <message>
+        <source>ｶｰｿﾙを表示する</source>
+        <translation>Show the cursor</translation>
+    </message>
+    <message>
+        <source>ｸﾞﾗﾌに波長のｶｰｿﾙを、その下に各曲線の値を示します。</source>
+        <translation>Shows a wavelength cursor in the graph, and the values of the curves below it.</translation>
+    </message>
+    <message>
+        <source>Min表示</source>
+        <translation>Minimum mark</translation>
+    </message>
+    <message>
+        <source>Min値に表示する</source>
+        <translation>Mark the minimum</translation>
+    </message>
+    <message>
+        <source>選択ｽﾛｯﾄの最小値の位置に、波長と値を示します。</source>
+        <translation>Shows wavelength and value at the minimum of the selected slot.</translation>
+    </message>
+    <message>
+        <source>ｻﾝﾌﾟﾘﾝｸﾞ設定</source>
+        <translation>Sampling settings</translation>
+    </message>
+    <message>
+        <source>ｻﾝﾌﾟﾘﾝｸﾞ</source>
+        <translation>Sampling</translation>
+    </message>
+    <message>
+        <source>取り込み平均回数</source>
+        <translation>Averaging count</translation>
+    </message>
+    <message>
+        <source>ｻﾝﾌﾟﾘﾝｸﾞ時間</source>
+        <translation>Sampling time</translation>
+    </message>
+    <message>
+        <source>一回の測定で取り込み、平均するﾗｲﾝ数です (1～16)。</source>
+        <translation>The number of lines that one measurement takes and averages (1 to 16).</translation>
+    </message>
+    <message>
+        <source>一ﾗｲﾝの積算時間です (30～20000 ms)。長いほど光量が増え、飽和に近づきます。</source>
+        <translation>The integration time of a line (30 to 20000 ms). A longer one gathers more light and comes nearer to saturation.</translation>
+    </message>
+    <message>
+        <source>一回の測定に %1 秒かかります。ｺﾝﾄﾛｰﾗの応答は %2 秒で打ち切られるため、測定できません。</source>
+        <translation>One measurement takes %1 s. It cannot be made, because the controller&apos;s answer is awaited for %2 s only.</translation>
+    </message>
+    <message>
+        <source>ﾊﾙﾄﾏﾝ分散式</source>
+        <translation>Hartmann formula</translation>
+    </message>
+    <message>
+        <source>ｾﾙﾏｲﾔ分散式</source>
+        <translation>Sellmeier formula</translation>
+    </message>
+    <message>
+        <source>基板反射率</source>
+        <translation>Substrate reflectance</translation>
+    </message>
+    <message>
+        <source>分散式ﾊﾟﾗﾒｰﾀ</source>
+        <translation>Formula parameters</translation>
+    </message>
+    <message>
+        <source>自動ｽｹｰﾘﾝｸﾞ</source>
+        <translation>Automatic scaling</translation>
+    </message>
+    <message>
+        <source>L*a*bﾒﾓﾘ</source>
+        <translation>L*a*b scale</translation>
+    </message>
+    <message>
+        <source>固定ﾘﾌｧﾚﾝｽ値</source>
+        <translation>Constant reference value</translation>
+    </message>
+    <message>
+        <source>ﾘﾌｧﾚﾝｽﾌｧｲﾙ名</source>
+        <translation>Reference file</translation>
+    </message>
+    <message>
+        <source>膜厚測定設定</source>
+        <translation>Film thickness settings</translation>
+    </message>
+    <message>
+        <source>物理膜厚(n)</source>
+        <translation>Physical thickness(n)</translation>
+    </message>
+    <message>
+        <source>光学膜厚(nd)</source>
+        <translation>Optical thickness(nd)</translation>
+    </message>
+    <message>
+        <source>屈折率設定</source>
+        <translation>Refractive index</translation>
+    </message>
+    <message>
+        <source>屈折率ﾌｧｲﾙ名</source>
+        <translation>Refractive index file</translation>
+    </message>
+    <message>
+        <source>基板ﾌｧｲﾙ名</source>
+        <translation>Substrate file</translation>
+    </message>
+    <message>
+        <source>平均最小波長</source>
+        <translation>Average from wavelength</translation>
+    </message>
+    <message>
+        <source>平均最大波長</source>
+        <translation>Average to wavelength</translation>
+    </message>
+    <message>
+        <source>ﾘﾌｧﾚﾝｽﾃﾞｰﾀを表示</source>
+        <translation>Show the reference data</translation>
+    </message>
+    <message>
+        <source>表示</source>
+        <translation>shown</translation>
+    </message>
+    <message>
+        <source>非表示</source>
+        <translation>hidden</translation>
+    </message>
+    <message>
+        <source>条件１が使用されていないため、反射率は判定されません。</source>
+        <translation>Condition 1 is not used: the reflectance is not judged.</translation>
+    </message>
+    <message>
+        <source>条件２が使用されていないため、条件１の波長だけが判定されます。</source>
+        <translation>Condition 2 is not used: only the wavelength of condition 1 is judged.</translation>
+    </message>
+    <message>
+        <source>%1の波長が%2より短いため、この区間は判定されません。</source>
+        <translation>The wavelength of %1 is shorter than that of %2: this section is not judged.</translation>
+    </message>
+    <message>
+        <source>%1の限界は、使用されていない%2の値から引かれます。</source>
+        <translation>The limits of %1 are drawn from the values of %2, which is not used.</translation>
+    </message>
+    <message>
+        <source>反射率を使用する</source>
+        <translation>Use reflectance</translation>
+    </message>
+    <message>
+        <source>上限</source>
+        <translation>Upper limit</translation>
+    </message>
+    <message>
+        <source>下限</source>
+        <translation>Lower limit</translation>
+    </message>
+    <message>
+        <source>表示する</source>
+        <translation>Show</translation>
+    </message>
+    <message>
+        <source>規格ﾌｧｲﾙを開く</source>
+        <translation>Open standard file</translation>
+    </message>
+    <message>
+        <source>規格ﾌｧｲﾙの名前を付けて保存</source>
+        <translation>Save standard file as</translation>
+    </message>
+    <message>
+        <source>平均反射率を使用する</source>
+        <translation>Use average reflectance</translation>
+    </message>
+    <message>
+        <source>視感反射率を使用する</source>
+        <translation>Use luminous reflectance</translation>
+    </message>
+    <message>
+        <source>波長値を使用する</source>
+        <translation>Use wavelength value</translation>
+    </message>
+    <message>
+        <source>クロマを使用する</source>
+        <translation>Use chroma</translation>
+    </message>
+    <message>
+        <source>色相角を使用する</source>
+        <translation>Use hue angle</translation>
+    </message>
+    <message>
+        <source>基準値･クロマ</source>
+        <translation>Marker: chroma</translation>
+    </message>
+    <message>
+        <source>基準値･色相角</source>
+        <translation>Marker: hue angle</translation>
+    </message>
+    <message>
+        <source>保存されていない規格は終了時に失われます。</source>
+        <translation>Standards that have not been saved are lost at exit.</translation>
+    </message>
+    <message>
+        <source>規格設定</source>
+        <translation>Standard settings</translation>
+    </message>
+    <message>
+        <source>&lt;範囲:0°-360°&gt;</source>
+        <translation>&lt;range: 0°-360°&gt;</translation>
+    </message>
+    <message>
+        <source>反射率が最大になる波長を判定します。</source>
+        <translation>Judges the wavelength at which the reflectance is largest.</translation>
+    </message>
+    <message>
+        <source>反射率が最小になる波長を判定します。</source>
+        <translation>Judges the wavelength at which the reflectance is smallest.</translation>
+    </message>
+    <message>
+        <source>読み込み(&amp;L)</source>
+        <translation>&amp;Load</translation>
+    </message>
+    <message>
+        <source>規格ﾌｧｲﾙ名</source>
+        <translation>Standard file</translation>
+    </message>
+    <message>
+        <source>反射率規格・</source>
+        <translation>Reflectance standard, </translation>
+    </message>
+</context>
+</TS>
