@@ -36,7 +36,7 @@ int RunReport(const ReportCommand& command, const QString& programDirectory) {
   }
   UnattendedMessages messages;
   Session session(programDirectory);
-  Settings settings = session.State();
+  Settings settings = session.SettingsInForce();
   TellAll(LoadConfiguration(settings), messages);
   TellAll(LoadDispersionData(settings).notices, messages);
   session.TakeSettings(settings);

@@ -57,14 +57,14 @@ VEXA::~VEXA() = default;
 QCoro::Task<> VEXA::Load() {
   SetPhase(Phase::kStarting);
   setWindowTitle(QStringLiteral("MERIDOX ") + QStringLiteral("VEXA-KT-440 Ver3.21"));
-  Settings settings = State();
+  Settings settings = session_.SettingsInForce();
   TellAll(LoadConfiguration(settings), services_.messages);
   session_.TakeSettings(settings);
   co_await desk_.Connect();
   if (phase_ != Phase::kStarting) {
     co_return;
   }
-  settings = State();
+  settings = session_.SettingsInForce();
   TellAll(LoadDispersionData(settings).notices, services_.messages);
   session_.TakeSettings(settings);
   co_await desk_.SendSampling();

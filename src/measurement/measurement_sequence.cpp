@@ -36,8 +36,8 @@ void AddStorage(const SampleStorage& storage, std::optional<HistoryAddResult>& l
   if (const std::optional<MessageCall> message = AccumulationMessage(storage.stock)) {
     messages.push_back(*message);
   }
-  if (storage.thickness.value_or(kSuccess) != kSuccess) {
-    messages.push_back(SlotThicknessMessage(*storage.thickness));
+  if (const Status status = storage.thickness.value_or(kSuccess); status != kSuccess) {
+    messages.push_back(SlotThicknessMessage(status));
   }
   if (storage.history && storage.history != lastHistory) {
     if (const std::optional<MessageCall> refusal = HistoryRefusal(*storage.history)) {

@@ -32,6 +32,8 @@ class Session : public QObject {
   explicit Session(const QString& programDirectory, Clock clock = QDateTime::currentDateTime);
 
   [[nodiscard]] const VEXATYPE& State() const { return state_; }
+  /// The settings in force, as a change of them begins with.
+  [[nodiscard]] const Settings& SettingsInForce() const { return state_; }
   [[nodiscard]] QDateTime Now() const { return clock_(); }
 
   /// The number of the first slot that holds a spectrum.

@@ -50,7 +50,7 @@ class Sequence : public testing::Test {
  protected:
   Sequence() {
     sequence.UseController(&controller);
-    Settings settings = session.State();
+    Settings settings = session.SettingsInForce();
     settings.instrument.samplingTimeMs = 400;
     settings.instrument.averagingCount = 2;
     settings.referenceReflectance = Flat(4.0);
@@ -105,7 +105,7 @@ TEST_F(Sequence, RefusesWhatCannotBeMeasuredYet) {
   session.StoreFrame(FrameKind::kReference, {}, {});
   EXPECT_EQ(refusal(sequence.MeasureSample(0)), Messages());
   EXPECT_EQ(refusal(sequence.MeasureSample(11)), Messages());
-  Settings settings = session.State();
+  Settings settings = session.SettingsInForce();
   settings.referenceReflectance = {};
   session.TakeSettings(settings);
   EXPECT_EQ(refusal(sequence.MeasureSample(1)), Messages{Message::kIndexFileFault});
@@ -186,7 +186,7 @@ TEST_F(Sequence, OneRunsAtATimeAndCanBeCancelled) {
 TEST_F(Sequence, AFrameCarriesTheSettingsItWasTakenWith) {
   controller.meanwhile = [&] {
     now = now.addSecs(3);
-    Settings settings = session.State();
+    Settings settings = session.SettingsInForce();
     settings.instrument.samplingTimeMs = 5000;
     settings.instrument.averagingCount = 16;
     session.TakeSettings(settings);
@@ -229,7 +229,7 @@ TEST_F(Sequence, AHistoryThatTakesNothingMoreIsToldOnce) {
 
 TEST_F(Sequence, AnIndexThatIsNotLoadedIsTold) {
   MeasureFrames();
-  Settings settings = session.State();
+  Settings settings = session.SettingsInForce();
   settings.thickness.kind = ThicknessKind::kPhysical;
   settings.filmIndex = {};
   session.TakeSettings(settings);

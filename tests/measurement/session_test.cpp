@@ -24,7 +24,7 @@ RawSpectrum CountsOf(const ReflectanceSpectrum& percent) {
 class SessionTest : public testing::Test {
  protected:
   SessionTest() {
-    Settings settings = session.State();
+    Settings settings = session.SettingsInForce();
     settings.instrument.calibrationShiftNm = 0;
     settings.referenceReflectance = Flat(4.0);
     settings.thickness.enabled = true;
@@ -43,7 +43,7 @@ class SessionTest : public testing::Test {
 
   template <typename Change>
   void ChangeSettings(Change change) {
-    Settings settings = session.State();
+    Settings settings = session.SettingsInForce();
     change(settings);
     session.TakeSettings(settings);
   }
@@ -254,7 +254,7 @@ TEST_F(SessionTest, PointsOfTwoConditionsAreNeverMixed) {
       {"observer", [](Settings& s) { s.colour.observer2Deg = false; }},
       {"diagram", [](Settings& s) { s.display.xyMode = false; }},
   };
-  const Settings before = session.State();
+  const Settings before = session.SettingsInForce();
   for (const auto& [name, change] : others) {
     session.TakeSettings(before);
     session.RemoveAllColours();

@@ -18,7 +18,7 @@ namespace {
 bool Write(const QString& path, const QString& name, Session& session, MessageService& messages) {
   const bool written = TellWritten(WriteEnvFile(path, session.State()), path, messages);
   if (written) {
-    Settings settings = session.State();
+    Settings settings = session.SettingsInForce();
     settings.envFileRead = true;
     settings.envFileName = name;
     session.TakeSettings(settings);
@@ -35,7 +35,7 @@ bool OpenEnvironment(Session& session, MessageService& messages, FileDialogs& di
   if (!path || !MayKeepName(NameForStartup(session.State(), *path), messages)) {
     return false;
   }
-  Settings settings = session.State();
+  Settings settings = session.SettingsInForce();
   const Environment environment = ReadEnvironment(*path, settings.programDirectory);
   (void)ApplyEnvironment(environment, settings);
   TellAll(environment.notices, messages);

@@ -98,7 +98,7 @@ void RefSetDlg::accept() {
   if (!Apply(edited)) {
     return;
   }
-  Settings settings = state_;
+  Settings settings = session_.SettingsInForce();
   if (mode_ == Mode::kReference) {
     settings.referenceSetting = edited.setting;
     settings.referenceReflectance = edited.spectrum;

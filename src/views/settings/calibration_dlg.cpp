@@ -44,7 +44,7 @@ void CalibrationDlg::accept() {
   }
   const QString path = CompletePath(state_, QStringLiteral("vexa.cal"));
   messages_.Tell({Message::kShiftChanged, {path}});
-  Settings settings = state_;
+  Settings settings = session_.SettingsInForce();
   settings.instrument.calibrationShiftNm = static_cast<std::int16_t>(*shift);
   session_.TakeSettings(settings);
   const WriteResult kept =

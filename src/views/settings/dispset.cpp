@@ -309,7 +309,7 @@ StockConditions dispset::Conditions() const {
 
 // Entries that a flag replaces are stored where they are numbers, and kept as they were elsewhere.
 void dispset::Store(const DisplayEntries& entries, const StockConditions& conditions) {
-  Settings settings = state_;
+  Settings settings = session_.SettingsInForce();
   DisplaySettings& display = settings.display;
   display.fullScale = entries.fullScale;
   display.shortestNm =

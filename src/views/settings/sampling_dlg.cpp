@@ -107,7 +107,7 @@ void SamplingDlg::accept() {
     EnterAgain(averaging_->Field());
     return;
   }
-  Settings settings = state_;
+  Settings settings = session_.SettingsInForce();
   settings.instrument.samplingTimeMs = static_cast<std::int16_t>(*timeMs);
   settings.instrument.averagingCount = static_cast<std::int16_t>(*averaging);
   session_.TakeSettings(settings);

@@ -62,7 +62,7 @@ QCoro::Task<bool> SaveStandardsBeforeExit(Session& session, MessageService& mess
   if (!path) {
     co_return false;
   }
-  Settings settings = session.State();
+  Settings settings = session.SettingsInForce();
   settings.standardFileName = *path;
   settings.standardsChanged = false;
   session.TakeSettings(settings);

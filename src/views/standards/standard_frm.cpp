@@ -284,7 +284,7 @@ QCoro::Task<> StandardFrm::Save() {
   fileName_ = *path;
   inFile_ = contents;
   if (*path == state_.standardFileName) {
-    Settings settings = state_;
+    Settings settings = session_.SettingsInForce();
     settings.standardsChanged = *contents != ContentsOf(state_);
     session_.TakeSettings(settings);
   }
@@ -296,7 +296,7 @@ void StandardFrm::accept() {
   if (!contents) {
     return;
   }
-  Settings settings = state_;
+  Settings settings = session_.SettingsInForce();
   settings.standardsChanged = contents != inFile_;
   settings.standard = contents->standard;
   settings.chromaMarker = contents->chromaMarker;
