@@ -4,6 +4,7 @@
 #include <signal.h>
 
 #include <QDir>
+#include <algorithm>
 
 #include "cli/running_programs.h"
 #include "support/waiting.h"
