@@ -2,6 +2,7 @@
 // Measures whole acquisitions on the virtual instrument, which integrates and sends in real time,
 // and sets each beside what the instrument itself needs: settling wait, integration and bytes.
 #include <QCoreApplication>
+#include <QCoroTask>
 #include <QDir>
 #include <QElapsedTimer>
 #include <QProcess>
@@ -42,23 +43,23 @@ int main(int argc, char* argv[]) {
   }
   vexa::frmComH8Ctrl controller(
       [&directory](int port) { return vexa::SerialPortPath(directory.path(), port); });
-  if (controller.Initialise(5) != 0) {
+  if (QCoro::waitFor(controller.Initialise(5)) != vexa::kSuccess) {
     std::fputs("the virtual instrument does not answer\n", stderr);
     return 1;
   }
   std::printf("time ms  lines  floor ms  over the floor, ms: min  median  max\n");
   for (const auto& [timeMs, lines] : {std::pair{30, 1}, {30, 15}, {100, 4}, {380, 1}, {500, 2}}) {
-    if (controller.SetSampling(static_cast<std::int16_t>(timeMs),
-                               static_cast<std::int16_t>(lines)) != 0) {
+    const vexa::AcquisitionSettings settings{
+        .settlingTimeMs = kSettlingMs,
+        .sampling = {static_cast<std::int16_t>(timeMs), static_cast<std::int16_t>(lines)}};
+    if (QCoro::waitFor(controller.SetSampling(settings.sampling)) != vexa::kSuccess) {
       return 1;
     }
     std::vector<double> over;
     for (int i = 0; i < kRepeats; ++i) {
-      vexa::RawSpectrum spectrum;
       QElapsedTimer timer;
       timer.start();
-      if (controller.Acquire(vexa::LightFlag::kSample, {.settlingTimeMs = kSettlingMs}, spectrum) <
-          0) {
+      if (QCoro::waitFor(controller.Acquire(vexa::LightFlag::kSample, settings)).status < 0) {
         return 1;
       }
       over.push_back(static_cast<double>(timer.nsecsElapsed()) / 1e6 - FloorMs(timeMs, lines));

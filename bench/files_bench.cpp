@@ -5,7 +5,7 @@
 
 #include "files/data_file.h"
 #include "files/journal.h"
-#include "support/silent_messages.h"
+#include "measurement/session.h"
 #include "support/ten_slots.h"
 
 namespace {
@@ -29,14 +29,14 @@ void ReadTenSlots(benchmark::State& state) {
   vexa::VEXATYPE slots10;
   vexa::bench::FillSlots(slots10);
   const QString path = directory.filePath(QStringLiteral("a.csv"));
-  vexa::bench::SilentMessages messages;
+  vexa::Session session(directory.path());
   if (!vexa::WriteDataFile(path, vexa::DataFileLayout::kCsv, slots10)) {
     state.SkipWithError("not written");
   }
   while (state.KeepRunning()) {
     const auto content = vexa::ReadCsvDataFile(path);
     if (content) {
-      vexa::StoreDataFile(*content, slots10, messages);
+      session.LoadSlots(vexa::SlotsWith(*content, {}), path, {});
     } else {
       state.SkipWithError("not read");
     }

@@ -6,6 +6,7 @@
 #include <unistd.h>
 
 #include <QCoreApplication>
+#include <QCoroTask>
 #include <QDir>
 #include <QElapsedTimer>
 #include <QFile>
@@ -56,19 +57,6 @@ const FaultKind kFaults[] = {{"error-reply", {2}, Outcome::kFailed},
                              {"no-reply", {1, 2, 3, 4}, Outcome::kFailed}};
 constexpr int kOneFaultIn = 8;
 
-class CountedMessages : public vexa::MessageService {
- public:
-  vexa::MessageResult MsgCall(const QString& text, std::int16_t /*type*/,
-                              const QString& /*title*/) override {
-    // The question before a slot is overwritten is none of the outcomes.
-    shown += text.contains(QStringLiteral("上書き")) ? 0 : 1;
-    return vexa::MessageResult::kOk;
-  }
-  void Beep() override { ++beeps; }
-  int shown = 0;
-  int beeps = 0;
-};
-
 double ResidentKiB() {
   QFile file(QStringLiteral("/proc/self/statm"));
   const bool open = file.open(QIODevice::ReadOnly);
@@ -88,7 +76,8 @@ class Soak {
       : random_(seed),
         controller_([this](int port) { return vexa::SerialPortPath(directory_.path(), port); },
                     kReplyTimeoutMs),
-        sequence_(state_, messages_, QDateTime::currentDateTime) {}
+        session_(directory_.path()),
+        sequence_(session_) {}
 
   ~Soak() {
     instrument_.terminate();
@@ -96,21 +85,24 @@ class Soak {
   }
 
   bool Start() {
-    state_.instrument.settlingTimeMs = 0;
-    std::ranges::fill(state_.referenceReflectance.Values(), kTruthPercent);
+    vexa::Settings settings = session_.State();
+    settings.instrument.settlingTimeMs = 0;
+    settings.instrument.samplingTimeMs = 1000;
+    std::ranges::fill(settings.referenceReflectance.Values(), kTruthPercent);
+    session_.TakeSettings(settings);
     instrument_.start(
         QDir(QCoreApplication::applicationDirPath()).filePath(QStringLiteral("vexa-simulator")),
         {QStringLiteral("--dir"), directory_.path(), QStringLiteral("--pace"),
          QStringLiteral("none"), QStringLiteral("--noise"), QStringLiteral("off"),
          QStringLiteral("--late"), QString::number(kLateMs), QStringLiteral("--replug"),
          QStringLiteral("20"), QStringLiteral("--stage"), QStringLiteral("reference")});
-    if (!instrument_.waitForReadyRead(kPatienceMs) || controller_.Initialise(5) != 0 ||
-        controller_.SetSampling(1000, 1) != 0) {
+    if (!instrument_.waitForReadyRead(kPatienceMs) ||
+        QCoro::waitFor(controller_.Initialise(5)) != vexa::kSuccess) {
       return false;
     }
     sequence_.UseController(&controller_);
-    return sequence_.MeasureBackground() == vexa::Status{0} &&
-           sequence_.MeasureReference() == vexa::Status{0};
+    return QCoro::waitFor(sequence_.MeasureBackground()).IsDone() &&
+           QCoro::waitFor(sequence_.MeasureReference()).IsDone();
   }
 
   /// One measurement, with or without a fault; false when something was not as it must be.
@@ -121,22 +113,20 @@ class Soak {
       Prepare(*fault);
     }
     const int slot = 1 + number % vexa::kSlotCount;
-    const vexa::MeasurementSlot before = *state_.Slot(slot);
-    messages_.shown = 0;
-    messages_.beeps = 0;
-    const std::optional<vexa::Status> status = sequence_.MeasureSample(slot);
+    const vexa::MeasurementSlot before = *session_.State().Slot(slot);
+    const vexa::MeasurementOutcome outcome = QCoro::waitFor(sequence_.MeasureSample(slot));
+    const std::optional<vexa::Status> status = outcome.status;
     ++outcomes_[std::string(fault == nullptr ? "none" : fault->name) +
                 (status == vexa::Status{0}   ? ": good"
                  : status == vexa::Status{1} ? ": saturated"
                                              : ": failed")];
     const bool right = status &&
                        IsExpected(fault == nullptr ? Outcome::kGood : fault->outcome, *status) &&
-                       IsConsistent(*status, *state_.Slot(slot), before);
+                       IsConsistent(outcome, *session_.State().Slot(slot), before);
     if (!right) {
-      std::fprintf(stderr,
-                   "soak: measurement %d, fault %s, last %s: status %d, %d messages, %d beeps\n",
+      std::fprintf(stderr, "soak: measurement %d, fault %s, last %s: status %d, %d messages\n",
                    number, fault == nullptr ? "none" : fault->name, last_, status.value_or(-99),
-                   messages_.shown, messages_.beeps);
+                   static_cast<int>(outcome.messages.size()));
     }
     last_ = fault == nullptr ? last_ : fault->name;
     if (fault != nullptr && fault->outcome == Outcome::kUnplugged) {
@@ -179,13 +169,15 @@ class Soak {
     return false;
   }
 
-  [[nodiscard]] bool IsConsistent(vexa::Status status, const vexa::MeasurementSlot& slot,
-                                  const vexa::MeasurementSlot& before) const {
-    if (status == 0) {
-      return slot.valid && IsTrue(slot.reflectance) && messages_.shown == 0;
+  static bool IsConsistent(const vexa::MeasurementOutcome& outcome,
+                           const vexa::MeasurementSlot& slot, const vexa::MeasurementSlot& before) {
+    if (outcome.IsDone()) {
+      return slot.valid && IsTrue(slot.reflectance) && outcome.messages.empty();
     }
+    const vexa::Message told =
+        outcome.status == 1 ? vexa::Message::kSaturated : vexa::Message::kAcquisitionFailed;
     return slot.reflectance == before.reflectance && slot.valid == before.valid &&
-           messages_.shown == 1 && messages_.beeps == (status == 1 ? 1 : 0);
+           outcome.messages.size() == 1 && outcome.messages.front().id == told;
   }
 
   void WaitForLine(QByteArrayView beginning) {
@@ -200,9 +192,8 @@ class Soak {
   const char* last_ = "none";  ///< fault that struck before
   QTemporaryDir directory_;
   QProcess instrument_;
-  vexa::VEXATYPE state_;
-  CountedMessages messages_;
   vexa::frmComH8Ctrl controller_;
+  vexa::Session session_;
   vexa::MeasurementSequence sequence_;
   std::map<std::string, int> outcomes_;
 };

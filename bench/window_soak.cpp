@@ -5,6 +5,7 @@
 #include <unistd.h>
 
 #include <QApplication>
+#include <QCoroTask>
 #include <QDir>
 #include <QElapsedTimer>
 #include <QFile>
@@ -98,7 +99,7 @@ int main(int argc, char* argv[]) {
                        }},
                       directory.path());
     window.show();
-    window.Load();
+    QCoro::waitFor(window.Load());
     wrong += Measure(window, QStringLiteral("Background")) ? 0 : 1;
     wrong += Measure(window, QStringLiteral("Reference")) ? 0 : 1;
     const QList<QAction*> views = window.Commands().views->actions();
@@ -119,6 +120,10 @@ int main(int argc, char* argv[]) {
     }
     growth = ResidentKiB() - warm;
     window.close();
+    // It goes once the instrument is at rest.
+    while (window.isVisible()) {
+      QApplication::processEvents(QEventLoop::WaitForMoreEvents);
+    }
   }
   instrument.terminate();
   instrument.waitForFinished(kPatienceMs);

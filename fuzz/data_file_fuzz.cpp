@@ -2,21 +2,22 @@
 // Any bytes as a comma-separated, block or additional-data file, evaluated as loaded slots are.
 #include "files/add_data_file.h"
 #include "files/data_file.h"
+#include "measurement/session.h"
 #include "memory_file.h"
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
   const vexa::fuzz::MemoryFile file(data, size);
-  vexa::fuzz::Silence messages;
-  vexa::VEXATYPE state;
-  state.accumulate = true;
+  vexa::Session session({});
+  session.SetAccumulating(true);
   for (const auto& content :
        {vexa::ReadCsvDataFile(file.Path()), vexa::ReadDatDataFile(file.Path())}) {
     if (content) {
-      vexa::StoreDataFile(*content, state, messages);
+      session.LoadSlots(vexa::SlotsWith(*content, session.State().measurementSlots), {},
+                        content->comment);
     }
   }
   if (const auto infos = vexa::ReadAddDataFile(file.Path())) {
-    vexa::StoreSampleInfos(*infos, state);
+    session.EditInformation(*infos);
   }
   return 0;
 }

@@ -7,8 +7,6 @@
 #include <QString>
 #include <cstdint>
 
-#include "base/message.h"
-
 namespace vexa::fuzz {
 
 /// The input of a fuzz target as a file in memory.
@@ -28,17 +26,6 @@ class MemoryFile {
  private:
   int descriptor_;
   bool written_ = false;
-};
-
-/// Agrees to every question.
-class Silence : public MessageService {
- public:
-  MessageResult MsgCall(const QString& /*text*/, std::int16_t type,
-                        const QString& /*title*/) override {
-    return (type & message_type::kButtonMask) >= message_type::kYesNoCancel ? MessageResult::kYes
-                                                                            : MessageResult::kOk;
-  }
-  void Beep() override {}
 };
 
 }  // namespace vexa::fuzz

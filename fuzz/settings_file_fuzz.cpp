@@ -10,7 +10,6 @@
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
   const vexa::fuzz::MemoryFile file(data, size);
-  vexa::fuzz::Silence messages;
   vexa::VEXATYPE state;
   if (const auto content = vexa::ReadEnvFile(file.Path())) {
     vexa::ApplyEnvironment(*content, state);
@@ -22,6 +21,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
   if (const auto contents = vexa::ReadStandardFile(file.Path())) {
     state.standard = contents->standard;
   }
-  vexa::EvaluateSlot(state, *state.Slot(1), messages);
+  vexa::ComputeColours(state.colour, *state.Slot(1));
+  vexa::JudgeSlot(state, *state.Slot(1));
   return 0;
 }

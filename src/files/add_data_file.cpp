@@ -99,10 +99,4 @@ ReadResult<SampleInfos> ReadAddDataFile(const QString& path) {
   });
 }
 
-void StoreSampleInfos(const SampleInfos& infos, VEXATYPE& state) {
-  for (std::size_t i = 0; i < infos.size(); ++i) {
-    state.measurementSlots[i].info = infos[i];
-  }
-}
-
 }  // namespace vexa

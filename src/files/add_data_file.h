@@ -21,7 +21,4 @@ using SampleInfos = std::array<SampleInfo, kSlotCount>;
 /// fault is told as that of a data file.
 ReadResult<SampleInfos> ReadAddDataFile(const QString& path);
 
-/// Puts the information into the slots.
-void StoreSampleInfos(const SampleInfos& infos, VEXATYPE& state);
-
 }  // namespace vexa

@@ -111,10 +111,6 @@ MessageCall ThicknessMessage(Status status) {
   }
 }
 
-QString ThicknessStatusText(Status status) {
-  return status == 0 ? QString() : MessageText(ThicknessMessage(status));
-}
-
 QString ThicknessUnit(bool physical) {
   return physical ? QStringLiteral("[nm]") : QStringLiteral("[nd]");
 }

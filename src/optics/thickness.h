@@ -70,9 +70,6 @@ struct ThicknessResult {
 /// What to tell the user about a status of ComputeThickness other than 0.
 [[nodiscard]] MessageCall ThicknessMessage(Status status);
 
-/// Its text; empty for success.
-[[nodiscard]] QString ThicknessStatusText(Status status);
-
 /// "[nm]" for a physical thickness, "[nd]" for an optical one.
 [[nodiscard]] QString ThicknessUnit(bool physical);
 

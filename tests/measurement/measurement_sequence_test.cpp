@@ -3,6 +3,7 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <functional>
 #include <stdexcept>
 
@@ -37,7 +38,7 @@ class PreparedController : public Controller {
   [[nodiscard]] std::optional<MessageCall> FailureMessage() const override { return own; }
   [[nodiscard]] bool IsLightPathClosed() const override { return false; }
 
-  Acquisition next{.status = kSuccess};
+  Acquisition next{kSuccess, {}};
   std::optional<MessageCall> own;
   std::function<void()> meanwhile;
   std::pair<LightFlag, Sampling> asked{};
@@ -208,7 +209,7 @@ TEST_F(Sequence, AHistoryThatTakesNothingMoreIsToldOnce) {
   MeasureFrames();
   session.SetAutoThickness(true);
   controller.next.counts = CountsOf(test::Fringes());
-  const ThicknessResult optical{.thicknessNm = 1500.0, .physical = false};
+  const ThicknessResult optical = test::ThicknessOf(1500.0, false);
   while (session.AddToHistory(optical) == HistoryAddResult::kAdded) {
   }
   const auto told = [&](int slot) { return Told(Done(sequence.MeasureSample(slot))); };
@@ -219,7 +220,7 @@ TEST_F(Sequence, AHistoryThatTakesNothingMoreIsToldOnce) {
   EXPECT_EQ(told(3), Messages()) << "there is room again";
   EXPECT_EQ(told(4), Messages{Message::kHistoryFull});
   session.ClearHistory();
-  (void)session.AddToHistory({.thicknessNm = 1500.0, .physical = true});
+  (void)session.AddToHistory(test::ThicknessOf(1500.0, true));
   EXPECT_EQ(told(5), Messages{Message::kHistoryKindDiffers});
   EXPECT_EQ(told(6), Messages());
   controller.next.counts = CountsOf(Flat(4.0));

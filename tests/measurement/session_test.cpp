@@ -3,6 +3,10 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
+#include <functional>
+#include <string>
+
 #include "measurement/evaluation.h"
 #include "support/slots.h"
 
@@ -84,7 +88,7 @@ TEST_F(SessionTest, EveryChangeAnnouncesWhatItChangedAndNothingElse) {
   QObject::connect(&session, &Session::SettingsChanged, [&] { heard += 'e'; });
   QObject::connect(&session, &Session::HistoryChanged, [&] { heard += 'h'; });
   QObject::connect(&session, &Session::StockChanged, [&] { heard += 'c'; });
-  const ThicknessResult physical{.thicknessNm = 1500.0, .physical = true};
+  const ThicknessResult physical = test::ThicknessOf(1500.0, true);
   const VEXATYPE empty;
   // One after another, each on what those before it have left.
   const Case cases[] = {
