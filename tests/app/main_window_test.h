@@ -80,6 +80,7 @@ class MainWindowTest : public WindowTest {
     act(*dialog);
     dialog->close();
     EXPECT_TRUE(QTest::qWaitFor([&dialog] { return dialog.isNull(); }));
+    WaitUntilIdle();  // what the dialog has set going
   }
 
   /// The dialog that is open; null for none.

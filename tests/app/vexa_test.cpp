@@ -159,7 +159,8 @@ TEST_F(MainWindow, CancelEndsAWaitAtOnceAndTheShuttersRest) {
     messages.Take();
     PressUnanswered("Mes2", frame);
     EXPECT_TRUE(Find<QWidget>("Cancel").isVisible());
-    QTest::keyClick(window.get(), Qt::Key_Escape);
+    EXPECT_EQ(Find<QAbstractButton>("Cancel").shortcut(), QKeySequence(Qt::Key_Escape));
+    Press("Cancel");
     WaitUntilIdle();
     EXPECT_EQ(messages.Take(), Shown{}) << "who cancels knows";
     EXPECT_EQ(peer.TakeFrames().back(), atRest.back()) << frame;
