@@ -24,6 +24,8 @@ InstrumentDesk::InstrumentDesk(Session& session, MessageService& messages,
 }
 
 InstrumentDesk::~InstrumentDesk() {
+  disconnect();  // nobody is shown how it ends
+  ready_ = false;
   controller_.reset();  // what still waits for it ends here, with all else in place
 }
 

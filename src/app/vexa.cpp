@@ -160,7 +160,10 @@ void VEXA::ListenToSession() {
     panels_->SelectSlot(session_.FirstValidSlot().value_or(GetOption()));
     Refresh();
   });
-  connect(&session_, &Session::SampleStored, panels_, &MainPanels::SelectSlot);
+  connect(&session_, &Session::SampleStored, this, [this](int slot) {
+    panels_->SelectSlot(slot);
+    Refresh();
+  });
   connect(&session_, &Session::SettingsChanged, this, &VEXA::Refresh);
   connect(&session_, &Session::StockChanged, this, &VEXA::Refresh);
   connect(&recorder_, &SessionRecorder::Faulted, this, [this](StoreFault fault) {

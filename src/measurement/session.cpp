@@ -109,9 +109,11 @@ void Session::Restore(const VEXATYPE& kept) {
   state_.referenceTaken = kept.referenceTaken;
   state_.measurementSlots = kept.measurementSlots;
   state_.stock = kept.stock;
+  state_.accumulate = kept.accumulate;
   state_.thicknessHistory = kept.thicknessHistory;
   state_.slotsSaved = false;
   EvaluateAgain(state_);
+  KeepStockPure();
   emit FrameChanged(FrameKind::kBackground);
   emit FrameChanged(FrameKind::kReference);
   emit SlotsReplaced();

@@ -28,7 +28,7 @@ class MainWindowTest : public WindowTest {
                  [this](const VEXATYPE&) {
                    return std::make_unique<frmComH8Ctrl>(
                        [this](int port) { return SerialPortPath(peer.Directory(), port); },
-                       ScriptedPeer::kReplyTimeoutMs);
+                       replyTimeoutMs);
                  }},
         peer.Directory());
     window->show();
@@ -39,6 +39,12 @@ class MainWindowTest : public WindowTest {
     Create();
     Done(window->Load());
     Done(window->OfferSession());
+  }
+
+  /// As the program starts, with a patience that no test waits for: only an abort ends a silence.
+  void StartPatient() {
+    replyTimeoutMs = 600000;
+    Start();
   }
 
   /// Until the instrument is asked nothing more.
@@ -74,6 +80,7 @@ class MainWindowTest : public WindowTest {
     act(*dialog);
     dialog->close();
     EXPECT_TRUE(QTest::qWaitFor([&dialog] { return dialog.isNull(); }));
+    WaitUntilIdle();  // what the dialog has set going
   }
 
   /// The dialog that is open; null for none.
@@ -90,6 +97,7 @@ class MainWindowTest : public WindowTest {
 
   QDateTime now{{2026, 3, 9}, {7, 5, 3}};
   ScriptedPeer peer;
+  int replyTimeoutMs = ScriptedPeer::kReplyTimeoutMs;  ///< of the next window
   std::unique_ptr<VEXA> window;
 };
 

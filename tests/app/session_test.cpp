@@ -59,6 +59,7 @@ TEST_F(KeptSession, IsRestoredAndGoesOn) {
 }
 
 TEST_F(KeptSession, AnEndAtOnceAsksNothingAndLeavesEverything) {
+  StartPatient();
   Measure("Background", 100);
   Measure("Reference", 500);
   peer.TakeFrames();

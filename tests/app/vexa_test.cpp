@@ -70,7 +70,9 @@ TEST_F(MainWindow, MeasuresIntoASlot) {
   EXPECT_EQ(window->GetOption(), 3) << "the slot measured last is the one shown";
   EXPECT_EQ(Text("Time"), "2026/3/9 7:05:03");
 
+  now = now.addSecs(1);
   Measure("Mes10", 50);
+  EXPECT_EQ(Text("Time"), "2026/3/9 7:05:04") << "of the slot that is shown now";
   EXPECT_EQ(Reflectance(10), 0.0) << "darker than the background";
   EXPECT_EQ(window->GetOption(), 10);
   for (int slot = 1; slot <= kSlotCount; ++slot) {
@@ -86,6 +88,7 @@ TEST_F(MainWindow, MeasuresIntoASlot) {
 }
 
 TEST_F(MainWindow, ShowsWhatRunsAndKeepsEverythingElseWaiting) {
+  peer.SetLines(test::FlatLines(1, 100));
   const auto& button = Find<QAbstractButton>("Background");
   const auto expectEnabled = [this](bool expected) {
     for (const char* name : {"Background", "Reference", "Mes1", "Mes10", "AllClear", "Data"}) {
@@ -134,6 +137,7 @@ TEST_F(MainWindow, AMeasurementGoesOnWhileADialogIsOpen) {
 }
 
 TEST_F(MainWindow, SettingsChangedWhileItMeasuresBelongToTheNextFrame) {
+  peer.SetLines(test::FlatLines(1, 100));
   Press("Background");
   InDialog(window->Commands().calibration, [](QWidget& dialog) {
     Type(dialog, "Shift", "7");
@@ -146,6 +150,7 @@ TEST_F(MainWindow, SettingsChangedWhileItMeasuresBelongToTheNextFrame) {
 }
 
 TEST_F(MainWindow, CancelEndsAWaitAtOnceAndTheShuttersRest) {
+  StartPatient();
   MeasureThrough(1);
   peer.TakeFrames();
   Measure("Mes1", 300);
@@ -154,7 +159,8 @@ TEST_F(MainWindow, CancelEndsAWaitAtOnceAndTheShuttersRest) {
     messages.Take();
     PressUnanswered("Mes2", frame);
     EXPECT_TRUE(Find<QWidget>("Cancel").isVisible());
-    QTest::keyClick(window.get(), Qt::Key_Escape);
+    EXPECT_EQ(Find<QAbstractButton>("Cancel").shortcut(), QKeySequence(Qt::Key_Escape));
+    Press("Cancel");
     WaitUntilIdle();
     EXPECT_EQ(messages.Take(), Shown{}) << "who cancels knows";
     EXPECT_EQ(peer.TakeFrames().back(), atRest.back()) << frame;
@@ -301,6 +307,7 @@ TEST_F(MainWindow, AsksAboutTheEnvironmentAtTheEnd) {
 
 TEST_F(MainWindow, ClosingWhileItMeasuresAsksAndEndsInOrder) {
   const ShownMessage question{Message::kEndMeasurement};
+  StartPatient();
   MeasureThrough(1);
   peer.TakeFrames();
   Measure("Mes1", 300);
@@ -536,6 +543,7 @@ TEST_F(MainWindow, OpensDataFilesAndEnvironments) {
   peer.files.Write("vexa.env", "precious");
   dialogs.open = peer.files.Write("broken.env", "none");
   window->Commands().openEnvironment->trigger();
+  WaitUntilIdle();
   EXPECT_EQ(window->State().envFileName, QStringLiteral("vexa.env"));
   messages.answers = {MessageResult::kNo};
   window->Commands().saveEnvironment->trigger();
@@ -590,6 +598,7 @@ TEST_F(DeadController, LeavesTheProgramUsable) {
 }
 
 TEST_F(DeadController, CanBeLeftWhileItIsAwaited) {
+  replyTimeoutMs = 600000;
   Create();
   QCoro::Task<> loading = window->Load();
   messages.answers = {MessageResult::kOk, MessageResult::kCancel};
