@@ -2539,5 +2539,51 @@ Commands:
         <comment>column</comment>
         <translation>Lum. refl.</translation>
     </message>
+    <message>
+        <source>ｺﾝﾄﾛｰﾗ未接続のため
+測定できません。</source>
+        <translation>Cannot measure: the
+controller is not connected.</translation>
+    </message>
+    <message>
+        <source>記録に書き込めません。測定は続けられます。書き込めなかった記録は、書き込めるようになった時に書き込まれます。<byte value="xd"/><byte value="xd"/>%1</source>
+        <translation>The records cannot be written. Measuring can go on. What could not be written is written as soon as it can be.<byte value="xd"/><byte value="xd"/>%1</translation>
+    </message>
+    <message>
+        <source>ほかのﾌﾟﾛｸﾞﾗﾑが使用中です。</source>
+        <translation>Another program is using it.</translation>
+    </message>
+    <message>
+        <source>書き込みが許可されていません。</source>
+        <translation>Writing is not permitted.</translation>
+    </message>
+    <message>
+        <source>壊れているか、記録ではありません。</source>
+        <translation>It is damaged, or holds no records.</translation>
+    </message>
+    <message>
+        <source>ありません。</source>
+        <translation>It does not exist.</translation>
+    </message>
+    <message>
+        <source>ほかの種類か、新しいﾊﾞｰｼﾞｮﾝの記録です。</source>
+        <translation>The records are of another kind or a newer version.</translation>
+    </message>
+    <message>
+        <source>記録の決まりに反します。</source>
+        <translation>It breaks a rule of the records.</translation>
+    </message>
+    <message>
+        <source>ｻｰﾊﾞに接続できません。</source>
+        <translation>The server cannot be reached.</translation>
+    </message>
+    <message>
+        <source>この測定機の名前で、別の記録があります。</source>
+        <translation>There are other records under the name of this instrument.</translation>
+    </message>
+    <message>
+        <source>ｴﾗｰが発生しました。</source>
+        <translation>An error occurred.</translation>
+    </message>
 </context>
 </TS>
