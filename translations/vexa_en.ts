@@ -1157,23 +1157,23 @@ Commands:
     </message>
     <message>
         <source>膜厚%1</source>
-        <translation>thickness %1</translation>
+        <translation>Thickness %1</translation>
     </message>
     <message>
         <source>倍率</source>
-        <translation>scale</translation>
+        <translation>Scale</translation>
     </message>
     <message>
         <source>オフセット</source>
-        <translation>offset</translation>
+        <translation>Offset</translation>
     </message>
     <message>
         <source>膜厚むら</source>
-        <translation>thickness nonuniformity</translation>
+        <translation>Thickness nonuniformity</translation>
     </message>
     <message>
         <source>屈折率</source>
-        <translation>refractive index</translation>
+        <translation>Refractive index</translation>
     </message>
     <message>
         <source>%1と%2の相関が高く、区別できません。</source>
@@ -1297,27 +1297,27 @@ Commands:
     </message>
     <message>
         <source>反射率:OK</source>
-        <translation>Reflectance: OK</translation>
+        <translation>Refl.: OK</translation>
     </message>
     <message>
         <source>反射率:NG</source>
-        <translation>Reflectance: NG</translation>
+        <translation>Refl.: NG</translation>
     </message>
     <message>
         <source>平均反射率:OK</source>
-        <translation>Average refl.: OK</translation>
+        <translation>Avg. refl.: OK</translation>
     </message>
     <message>
         <source>平均反射率:NG</source>
-        <translation>Average refl.: NG</translation>
+        <translation>Avg. refl.: NG</translation>
     </message>
     <message>
         <source>視感反射率:OK</source>
-        <translation>Luminous refl.: OK</translation>
+        <translation>Lum. refl.: OK</translation>
     </message>
     <message>
         <source>視感反射率:NG</source>
-        <translation>Luminous refl.: NG</translation>
+        <translation>Lum. refl.: NG</translation>
     </message>
     <message>
         <source>波長:OK</source>
@@ -1337,11 +1337,11 @@ Commands:
     </message>
     <message>
         <source>色相角h[deg]:OK</source>
-        <translation>Hue angle h[deg]: OK</translation>
+        <translation>Hue h[deg]: OK</translation>
     </message>
     <message>
         <source>色相角h[deg]:NG</source>
-        <translation>Hue angle h[deg]: NG</translation>
+        <translation>Hue h[deg]: NG</translation>
     </message>
     <message>
         <source>反射率規格</source>
@@ -1493,7 +1493,7 @@ Commands:
     </message>
     <message>
         <source>累積色度図</source>
-        <translation>Accumulated diagram</translation>
+        <translation>Diagram</translation>
     </message>
     <message>
         <source>測色値 (Mes%1)</source>
@@ -1689,7 +1689,7 @@ Commands:
     </message>
     <message>
         <source>波長[nm]</source>
-        <translation>Wavelength[nm]</translation>
+        <translation>λ[nm]</translation>
     </message>
     <message>
         <source>反射率[%]</source>
@@ -1957,7 +1957,7 @@ Commands:
     </message>
     <message>
         <source>環境ﾌｧｲﾙ</source>
-        <translation>Environment file</translation>
+        <translation>Env. file</translation>
     </message>
     <message>
         <source>日付</source>
@@ -1965,11 +1965,11 @@ Commands:
     </message>
     <message>
         <source>規格ﾌｧｲﾙ</source>
-        <translation>Standard file</translation>
+        <translation>Std. file</translation>
     </message>
     <message>
         <source>測色条件</source>
-        <translation>Colour conditions</translation>
+        <translation>Colour</translation>
     </message>
     <message>
         <source>光源 %1&#x3000;視野 %2°&#x3000;平均 %3-%4 nm</source>
@@ -1985,7 +1985,7 @@ Commands:
     </message>
     <message>
         <source>測定条件</source>
-        <translation>Measuring conditions</translation>
+        <translation>Sampling</translation>
     </message>
     <message>
         <source>%1 ms × %2回</source>
@@ -2161,7 +2161,7 @@ Commands:
     </message>
     <message>
         <source>色相角h[deg]</source>
-        <translation>Hue angle h[deg]</translation>
+        <translation>Hue h[deg]</translation>
     </message>
     <message>
         <source>総合</source>
@@ -2381,11 +2381,11 @@ Commands:
     </message>
     <message>
         <source>物理膜厚(n)</source>
-        <translation>Physical thickness(n)</translation>
+        <translation>Physical(n)</translation>
     </message>
     <message>
         <source>光学膜厚(nd)</source>
-        <translation>Optical thickness(nd)</translation>
+        <translation>Optical(nd)</translation>
     </message>
     <message>
         <source>屈折率設定</source>
@@ -2518,6 +2518,72 @@ Commands:
     <message>
         <source>反射率規格・</source>
         <translation>Reflectance standard, </translation>
+    </message>
+    <message>
+        <source>膜厚</source>
+        <comment>column</comment>
+        <translation>Thickness</translation>
+    </message>
+    <message>
+        <source>反射率</source>
+        <comment>column</comment>
+        <translation>Refl.</translation>
+    </message>
+    <message>
+        <source>平均反射率</source>
+        <comment>column</comment>
+        <translation>Avg. refl.</translation>
+    </message>
+    <message>
+        <source>視感反射率</source>
+        <comment>column</comment>
+        <translation>Lum. refl.</translation>
+    </message>
+    <message>
+        <source>ｺﾝﾄﾛｰﾗ未接続のため
+測定できません。</source>
+        <translation>Cannot measure: the
+controller is not connected.</translation>
+    </message>
+    <message>
+        <source>記録に書き込めません。測定は続けられます。書き込めなかった記録は、書き込めるようになった時に書き込まれます。<byte value="xd"/><byte value="xd"/>%1</source>
+        <translation>The records cannot be written. Measuring can go on. What could not be written is written as soon as it can be.<byte value="xd"/><byte value="xd"/>%1</translation>
+    </message>
+    <message>
+        <source>ほかのﾌﾟﾛｸﾞﾗﾑが使用中です。</source>
+        <translation>Another program is using it.</translation>
+    </message>
+    <message>
+        <source>書き込みが許可されていません。</source>
+        <translation>Writing is not permitted.</translation>
+    </message>
+    <message>
+        <source>壊れているか、記録ではありません。</source>
+        <translation>It is damaged, or holds no records.</translation>
+    </message>
+    <message>
+        <source>ありません。</source>
+        <translation>It does not exist.</translation>
+    </message>
+    <message>
+        <source>ほかの種類か、新しいﾊﾞｰｼﾞｮﾝの記録です。</source>
+        <translation>The records are of another kind or a newer version.</translation>
+    </message>
+    <message>
+        <source>記録の決まりに反します。</source>
+        <translation>It breaks a rule of the records.</translation>
+    </message>
+    <message>
+        <source>ｻｰﾊﾞに接続できません。</source>
+        <translation>The server cannot be reached.</translation>
+    </message>
+    <message>
+        <source>この測定機の名前で、別の記録があります。</source>
+        <translation>There are other records under the name of this instrument.</translation>
+    </message>
+    <message>
+        <source>ｴﾗｰが発生しました。</source>
+        <translation>An error occurred.</translation>
     </message>
 </context>
 </TS>

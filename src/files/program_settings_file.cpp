@@ -28,7 +28,7 @@ ReadResult<ProgramSettings> ParseProgramSettings(const QByteArray& json) {
     return FileFault{.kind = FileFaultKind::kVersion};
   }
   ProgramSettings settings;
-  if (const QJsonValue value = document.object()[kLanguage]; !value.isUndefined()) {
+  if (const QJsonValue value = document.object().value(kLanguage); !value.isUndefined()) {
     const std::optional<Language> language = LanguageOf(value.toString());
     if (!language) {
       return FileFault{.kind = FileFaultKind::kValue};

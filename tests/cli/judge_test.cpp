@@ -47,8 +47,8 @@ class Judging : public test::CommandLine {
 
 TEST_F(Judging, OnlyTextsDependOnTheLanguage) {
   EXPECT_EQ(Judge("--language en").out.toStdString(),
-            " 1  ﾚﾝｽﾞ1  Reflectance: OK +0.500 % (700 nm)\n"
-            " 3  ﾚﾝｽﾞ3  Reflectance: NG -1.000 % (600 nm)\n");
+            " 1  ﾚﾝｽﾞ1  Refl.: OK +0.500 % (700 nm)\n"
+            " 3  ﾚﾝｽﾞ3  Refl.: NG -1.000 % (600 nm)\n");
   EXPECT_EQ(Judge("--language=ja").out, Judge().out);
   for (const QByteArray command :
        {"judge @data.csv --standard @a.std --json", "analyse @data.csv --standard @a.std --json",

@@ -127,7 +127,7 @@ PageTable ValueTable(const VEXATYPE& state) {
   for (const ColourColumn& column : ColourColumns()) {
     table.columns.push_back({column.title, 165.0});
   }
-  table.columns.push_back({Text::tr("膜厚"), 195.0});
+  table.columns.push_back({Text::tr("膜厚", "column"), 195.0});
   AddRows(table, state, [&state](const MeasurementSlot& slot, Row& row) {
     // The slot itself does not tell whether its colour could be computed.
     ColourResult ignored;
@@ -179,9 +179,9 @@ std::optional<PageTable> VerdictTable(const VEXATYPE& state) {
   PageTable table{.caption = Text::tr("合否判定"),
                   .columns = {{QStringLiteral("No."), kNumberWidth},
                               {Text::tr("試料No"), kNameWidth, Qt::AlignLeft},
-                              {Text::tr("反射率"), 150.0, Qt::AlignHCenter},
-                              {Text::tr("平均反射率"), kWidth, Qt::AlignHCenter},
-                              {Text::tr("視感反射率"), kWidth, Qt::AlignHCenter},
+                              {Text::tr("反射率", "column"), 150.0, Qt::AlignHCenter},
+                              {Text::tr("平均反射率", "column"), kWidth, Qt::AlignHCenter},
+                              {Text::tr("視感反射率", "column"), kWidth, Qt::AlignHCenter},
                               {Text::tr("波長"), kWidth, Qt::AlignHCenter},
                               {Text::tr("クロマC*"), kWidth, Qt::AlignHCenter},
                               {Text::tr("色相角h[deg]"), kWidth, Qt::AlignHCenter},
