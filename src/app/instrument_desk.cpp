@@ -24,9 +24,15 @@ InstrumentDesk::InstrumentDesk(Session& session, MessageService& messages,
 }
 
 InstrumentDesk::~InstrumentDesk() {
-  disconnect();  // nobody is shown how it ends
+  EndAtOnce();
+}
+
+void InstrumentDesk::EndAtOnce() {
+  disconnect();
   ready_ = false;
-  controller_.reset();  // what still waits for it ends here, with all else in place
+  if (controller_ != nullptr) {
+    controller_->EndAtOnce();
+  }
 }
 
 bool InstrumentDesk::IsLightPathClosed() const {

@@ -54,6 +54,8 @@ class InstrumentDesk : public QObject {
   void Cancel();
   /// Likewise, and is done when all is at rest.
   QCoro::Task<> Finish();
+  /// Ends all that waits for the instrument before it returns; nobody is shown how.
+  void EndAtOnce();
   /// Closes the link.
   void Close();
 

@@ -52,7 +52,10 @@ VEXA::VEXA(Services services, const QString& programDirectory)
   ShowAvailable();
 }
 
-VEXA::~VEXA() = default;
+VEXA::~VEXA() {
+  phase_ = Phase::kEnded;
+  desk_.EndAtOnce();  // what waits for the instrument ends with all else in place
+}
 
 QCoro::Task<> VEXA::Load() {
   SetPhase(Phase::kStarting);

@@ -19,8 +19,7 @@ BlockingCalls::BlockingCalls() : thread_(std::make_unique<QThreadPool>()) {
 }
 
 BlockingCalls::~BlockingCalls() {
-  abandoned_ = true;
-  awakening_.WakeAtOnce();
+  AbandonAtOnce();
   // A pool waits for its threads when it goes, and a call may never come back.
   if (!thread_->waitForDone(kPartingMs)) {
     (void)thread_.release();
@@ -56,6 +55,11 @@ QCoro::Task<BlockingCalls::Outcome> BlockingCalls::Run(std::function<int()> call
     outcome.end = End::kOverdue;
   }
   co_return outcome;
+}
+
+void BlockingCalls::AbandonAtOnce() {
+  abandoned_ = true;
+  awakening_.WakeAtOnce();
 }
 
 void BlockingCalls::Abandon() {

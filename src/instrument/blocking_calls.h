@@ -37,6 +37,8 @@ class BlockingCalls {
 
   /// Ends the wait for a call that is out.
   void Abandon();
+  /// Likewise, before it returns.
+  void AbandonAtOnce();
 
  private:
   std::unique_ptr<QThreadPool> thread_;

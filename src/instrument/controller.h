@@ -86,6 +86,9 @@ class Controller : public QObject {
   /// Ends every wait and closes the link. Safe at any time.
   virtual void Close() = 0;
 
+  /// Likewise, with all that waited for it ended when this returns: for an owner that goes.
+  virtual void EndAtOnce() { Close(); }
+
   /// Why the controller could not be reached last, in a few sentences for the user; empty while the
   /// link is well or when nothing is known.
   [[nodiscard]] virtual QString FailureDetails() const { return {}; }

@@ -51,6 +51,10 @@ frmComH8Ctrl::frmComH8Ctrl(std::function<QString(int)> portPath, int replyTimeou
                            QObject* parent)
     : Controller(parent), portPath_(std::move(portPath)), link_(replyTimeoutMs) {}
 
+frmComH8Ctrl::~frmComH8Ctrl() {
+  link_.EndAtOnce();
+}
+
 QCoro::Task<Status> frmComH8Ctrl::H8_MeasStart() {
   if (!SendFrame(MeasureText(static_cast<std::uint8_t>(sampling_.averagingCount), secondCount_))) {
     co_return Status{-1};
@@ -238,6 +242,10 @@ void frmComH8Ctrl::Cancel() {
 
 void frmComH8Ctrl::Close() {
   link_.Close();
+}
+
+void frmComH8Ctrl::EndAtOnce() {
+  link_.EndAtOnce();
 }
 
 QString frmComH8Ctrl::FailureDetails() const {

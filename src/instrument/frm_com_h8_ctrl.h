@@ -29,6 +29,8 @@ class frmComH8Ctrl : public Controller {
   explicit frmComH8Ctrl(std::function<QString(int)> portPath, int replyTimeoutMs = kReplyTimeoutMs,
                         QObject* parent = nullptr);
 
+  ~frmComH8Ctrl() override;
+
   // In the order of the controller's services. "Send failed" is a closed port or a frame that
   // cannot be built.
 
@@ -73,6 +75,7 @@ class frmComH8Ctrl : public Controller {
   [[nodiscard]] QCoro::Task<Status> OpenLightPath() override;
   void Cancel() override;
   void Close() override;
+  void EndAtOnce() override;
   [[nodiscard]] QString FailureDetails() const override;
   [[nodiscard]] bool IsLightPathClosed() const override;
 

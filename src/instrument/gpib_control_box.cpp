@@ -48,6 +48,10 @@ constexpr int kTransferCode = 504;
 GpibControlBox::GpibControlBox(QString directory, int replyTimeoutMs, QObject* parent)
     : Controller(parent), directory_(std::move(directory)), replyTimeoutMs_(replyTimeoutMs) {}
 
+GpibControlBox::~GpibControlBox() {
+  EndAtOnce();
+}
+
 QCoro::Task<Status> GpibControlBox::Initialise(std::int16_t /*port*/) {
   closed_ = false;
   connected_ = false;
@@ -88,6 +92,12 @@ void GpibControlBox::Close() {
   closed_ = true;
   connected_ = false;
   calls_.Abandon();
+}
+
+void GpibControlBox::EndAtOnce() {
+  closed_ = true;
+  connected_ = false;
+  calls_.AbandonAtOnce();
 }
 
 std::optional<MessageCall> GpibControlBox::FailureMessage() const {

@@ -36,6 +36,8 @@ class GpibControlBox : public Controller {
   explicit GpibControlBox(QString directory, int replyTimeoutMs = kReplyTimeoutMs,
                           QObject* parent = nullptr);
 
+  ~GpibControlBox() override;
+
   /// The port is not looked at: there is one interface.
   [[nodiscard]] QCoro::Task<Status> Initialise(std::int16_t port) override;
   [[nodiscard]] QCoro::Task<Status> SetSampling(Sampling sampling) override;
@@ -44,6 +46,7 @@ class GpibControlBox : public Controller {
   /// A call of the library that is out is given up: it cannot be ended.
   void Cancel() override;
   void Close() override;
+  void EndAtOnce() override;
   [[nodiscard]] std::optional<MessageCall> FailureMessage() const override;
   [[nodiscard]] bool IsLightPathClosed() const override { return lightClosed_; }
 

@@ -16,6 +16,10 @@ SerialLink::SerialLink(int replyTimeoutMs, QObject* parent)
 }
 
 SerialLink::~SerialLink() {
+  EndAtOnce();
+}
+
+void SerialLink::EndAtOnce() {
   cancelled_ = true;
   Close();
   awakening_.WakeAtOnce();

@@ -35,7 +35,6 @@ class SerialLink : public QObject {
   };
 
   explicit SerialLink(int replyTimeoutMs, QObject* parent = nullptr);
-  /// Ends a wait as Close does, before it returns.
   ~SerialLink() override;
 
   /// False when the port is open already or cannot be opened.
@@ -56,6 +55,9 @@ class SerialLink : public QObject {
   /// Ends the wait that goes on, and every later one, at once; until Resume.
   void Cancel();
   [[nodiscard]] bool IsCancelled() const { return cancelled_; }
+
+  /// Closes the port and ends the wait that goes on, before it returns.
+  void EndAtOnce();
 
   /// Begins a new operation, in which every wait may take so long; without an argument as long as
   /// a reply usually may.
