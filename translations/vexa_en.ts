@@ -1092,12 +1092,12 @@ Commands:
         <translation>xmr: western (default), nelson, or some of Nelson&apos;s eight.</translation>
     </message>
     <message>
-        <source>capability: lower limit of the specification.</source>
-        <translation>capability: lower limit of the specification.</translation>
+        <source>capability: lower limit of the tolerance.</source>
+        <translation>capability: lower limit of the tolerance.</translation>
     </message>
     <message>
-        <source>capability: upper limit of the specification.</source>
-        <translation>capability: upper limit of the specification.</translation>
+        <source>capability: upper limit of the tolerance.</source>
+        <translation>capability: upper limit of the tolerance.</translation>
     </message>
     <message>
         <source>grr: width of the tolerance.</source>
@@ -1381,11 +1381,11 @@ Commands:
     </message>
     <message>
         <source>規格の上限も下限もありません。</source>
-        <translation>The specification has neither an upper nor a lower limit.</translation>
+        <translation>The tolerance has neither an upper nor a lower limit.</translation>
     </message>
     <message>
         <source>規格の下限が上限より小さくありません。</source>
-        <translation>The lower limit of the specification is not below the upper limit.</translation>
+        <translation>The lower limit of the tolerance is not below the upper limit.</translation>
     </message>
     <message>
         <source>部品、測定者、繰返しはそれぞれ2以上必要です。</source>

@@ -41,9 +41,9 @@ void DeclareOptions(QCommandLineParser& parser) {
   parser.addOption({kRules, Text::tr("xmr: western (default), nelson, or some of Nelson's eight."),
                     QStringLiteral("western|nelson|1,2,5")});
   parser.addOption(
-      {kLower, Text::tr("capability: lower limit of the specification."), QStringLiteral("L")});
+      {kLower, Text::tr("capability: lower limit of the tolerance."), QStringLiteral("L")});
   parser.addOption(
-      {kUpper, Text::tr("capability: upper limit of the specification."), QStringLiteral("U")});
+      {kUpper, Text::tr("capability: upper limit of the tolerance."), QStringLiteral("U")});
   parser.addOption({kTolerance, Text::tr("grr: width of the tolerance."), QStringLiteral("T")});
 }
 

@@ -33,9 +33,7 @@ class H8Controller : public testing::Test {
     EXPECT_EQ(peer.TakeFrames(), kInitialiseFrames);
   }
 
-  Status Acquire(LightFlag light) {
-    return Acquire(light, kNoSettling);
-  }
+  Status Acquire(LightFlag light) { return Acquire(light, kNoSettling); }
 
   // With the sampling that the controller was asked for last.
   Status Acquire(LightFlag light, std::int16_t settlingTimeMs) {

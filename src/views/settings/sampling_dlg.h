@@ -19,8 +19,7 @@ class SamplingDlg : public QDialog {
   Q_OBJECT
 
  public:
-  SamplingDlg(Session& session, MessageService& messages,
-              QWidget* parent = nullptr);
+  SamplingDlg(Session& session, MessageService& messages, QWidget* parent = nullptr);
 
   void accept() override;
 
