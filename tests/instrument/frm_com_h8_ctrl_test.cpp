@@ -8,6 +8,7 @@
 #include <QElapsedTimer>
 #include <QProcess>
 #include <QTimer>
+#include <array>
 
 #include "instrument/serial_port_path.h"
 #include "support/scripted_peer.h"
@@ -240,7 +241,7 @@ TEST_F(H8Controller, WaitsForTheShutterToSettleAndNoLonger) {
       waitsMs.push_back(expectedMs);
     }
   });
-  for (const std::int16_t settlingMs : {0, 30, 31, 35}) {
+  for (const std::int16_t settlingMs : std::array<std::int16_t, 4>{0, 30, 31, 35}) {
     EXPECT_EQ(Acquire(LightFlag::kSample, settlingMs), 0);
   }
   EXPECT_EQ(waitsMs, (std::vector{1 + 50, 5 + 50})) << "beyond the 30 ms of a line, and a margin";
