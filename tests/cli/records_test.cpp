@@ -103,7 +103,7 @@ TEST_F(Records, EvaluateComputesAnewFromTheCounts) {
   state.referenceSetting.fixedValue = 8.0;
   state.standard.averageReflectance = {true, 1.0, 0.5};
   ASSERT_TRUE(WriteEnvFile(files.Path("a.env"), state));
-  ASSERT_TRUE(WriteStandardFile(files.Path("a.std"), state.standard, {}, {}));
+  ASSERT_TRUE(WriteStandardFile(files.Path("a.std"), {state.standard, {}, {}}));
   const QJsonObject other = evaluated("--env @a.env --standard @a.std");
   EXPECT_DOUBLE_EQ(other[QStringLiteral("reflectance")].toArray()[9].toDouble(),
                    2.0 * stored.toArray()[9].toDouble());

@@ -129,10 +129,10 @@ TEST_F(Printing, ReportSaysUnderWhichConditionsAndFromWhichFile) {
     const char* dataFile;
     bool unsaved;
     const char* shown;
-  } files[] = {{"/顧客/ﾛｯﾄ7.csv", false, "ﾃﾞｰﾀﾌｧｲﾙ ﾛｯﾄ7.csv"},
-               {"/顧客/ﾛｯﾄ7.csv", true, "ﾃﾞｰﾀﾌｧｲﾙ 未保存"},
-               {"", false, "ﾃﾞｰﾀﾌｧｲﾙ 未保存"}};
-  for (const auto& c : files) {
+  } dataFiles[] = {{"/顧客/ﾛｯﾄ7.csv", false, "ﾃﾞｰﾀﾌｧｲﾙ ﾛｯﾄ7.csv"},
+                   {"/顧客/ﾛｯﾄ7.csv", true, "ﾃﾞｰﾀﾌｧｲﾙ 未保存"},
+                   {"", false, "ﾃﾞｰﾀﾌｧｲﾙ 未保存"}};
+  for (const auto& c : dataFiles) {
     state.currentDataFileName = QString::fromUtf8(c.dataFile);
     request.unsaved = c.unsaved;
     const QString all = Pages().join(QString());
