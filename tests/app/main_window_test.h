@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include <QCoroSignal>
 #include <QDateTime>
 #include <QDialog>
 #include <QPointer>
@@ -49,11 +48,7 @@ class MainWindowTest : public WindowTest {
 
   /// Until the instrument is asked nothing more.
   void WaitUntilIdle() {
-    Done([](InstrumentDesk& desk) -> QCoro::Task<> {
-      while (!desk.IsIdle()) {
-        co_await qCoro(&desk, &InstrumentDesk::ActivityChanged);
-      }
-    }(window->Desk()));
+    EXPECT_TRUE(QTest::qWaitFor([this] { return window->Desk().IsIdle(); }, 60000));
   }
 
   /// Presses a button while every pixel has the value, and waits for what it measures.
