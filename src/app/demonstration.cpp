@@ -2,7 +2,6 @@
 #include "app/demonstration.h"
 
 #include <QApplication>
-#include <QCoroSignal>
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
@@ -115,9 +114,7 @@ QCoro::Task<int> Demonstration::Drive(VEXA& window) {
   }
   for (const QString& name : buttons) {
     window.findChild<QPushButton*>(name)->click();
-    while (!window.Desk().IsIdle()) {
-      co_await qCoro(&window.Desk(), &InstrumentDesk::ActivityChanged);
-    }
+    co_await window.Desk().UntilIdle();
   }
   window.findChild<QPushButton*>(QStringLiteral("ThicknessButton"))->click();
   window.Commands().saveFileAs->trigger();

@@ -131,6 +131,10 @@ void InstrumentDesk::Cancel() {
 
 QCoro::Task<> InstrumentDesk::Finish() {
   Cancel();
+  co_await UntilIdle();
+}
+
+QCoro::Task<> InstrumentDesk::UntilIdle() {
   while (!IsIdle()) {
     co_await idle_.Sleep();
   }

@@ -54,6 +54,8 @@ class InstrumentDesk : public QObject {
   void Cancel();
   /// Likewise, and is done when all is at rest.
   QCoro::Task<> Finish();
+  /// Done when nothing is being done; one caller waits at a time.
+  QCoro::Task<> UntilIdle();
   /// Ends all that waits for the instrument before it returns; nobody is shown how.
   void EndAtOnce();
   /// Closes the link.

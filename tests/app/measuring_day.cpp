@@ -5,7 +5,6 @@
 // ("begin STEP", the places of the session that it may change) and after it ("done", a hash of
 // every place), so that whoever kills the program knows what must have outlived it.
 #include <QApplication>
-#include <QCoroSignal>
 #include <QCryptographicHash>
 #include <QLineEdit>
 #include <QPushButton>
@@ -59,9 +58,7 @@ QCoro::Task<> Press(VEXA& window, QString button, std::string places) {
   std::printf("begin %s %s\n", qUtf8Printable(QString(button).remove(u' ')), places.c_str());
   std::fflush(stdout);
   window.findChild<QPushButton*>(button)->click();
-  while (!window.Desk().IsIdle()) {
-    co_await qCoro(&window.Desk(), &InstrumentDesk::ActivityChanged);
-  }
+  co_await window.Desk().UntilIdle();
 }
 
 void TypeInformation(VEXA& window, int slot, const QString& text) {
