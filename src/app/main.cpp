@@ -43,7 +43,7 @@ int RunDemonstration(const QString& directory, bool gpib, const QString& picture
   window.show();
   int status = 1;
   const auto drive = [](vexa::Demonstration& run, vexa::VEXA& driven,
-                        const QString pictureDirectory, int& outcome) -> QCoro::Task<> {
+                        const QString& pictureDirectory, int& outcome) -> QCoro::Task<> {
     co_await driven.Load();
     outcome = co_await run.Drive(driven);
     if (!pictureDirectory.isEmpty() && vexa::Gallery(pictureDirectory).Take(driven) != 0) {

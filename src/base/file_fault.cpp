@@ -33,7 +33,7 @@ QString KindText(FileFaultKind kind) {
 }  // namespace
 
 QString FaultText(const FileFault& fault) {
-  const QString kind = KindText(fault.kind);
+  QString kind = KindText(fault.kind);
   if (fault.line == 0) {
     return kind;
   }

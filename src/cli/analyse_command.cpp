@@ -165,6 +165,7 @@ void PrintColours(const std::vector<SlotReport>& reports) {
 
 void PrintCieColours(const std::vector<SlotReport>& reports, const ColourSettings& settings) {
   std::vector<CieLine> lines;
+  lines.reserve(reports.size());
   for (const SlotReport& report : reports) {
     lines.push_back({report.number, CalcCieColour(report.slot->reflectance, settings)});
   }

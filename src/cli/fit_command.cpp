@@ -195,6 +195,7 @@ void PrintText(const std::vector<Fitted>& fitted) {
 
 std::vector<ThicknessRange> Ranges(const FilmStackSetting& setting) {
   std::vector<ThicknessRange> ranges;
+  ranges.reserve(setting.layers.size());
   for (const FilmLayerSetting& layer : setting.layers) {
     ranges.push_back(layer.range);
   }

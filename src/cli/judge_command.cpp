@@ -19,7 +19,7 @@ void DeclareOptions(QCommandLineParser& parser) {
 
 // The panel's text, and the distance to the nearest limit where there is one.
 QString Verdict(const Judgement& judgement, std::size_t group) {
-  const QString text = PanelText(judgement, group);
+  QString text = PanelText(judgement, group);
   const std::optional<double>& margin = judgement.groups[group].margin;
   if (!margin) {
     return text;

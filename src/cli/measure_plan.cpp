@@ -107,7 +107,7 @@ std::optional<MeasurePlan> ReadMeasurePlan(const QCommandLineParser& parser, Set
   if (!ReadSettings(parser, settings)) {
     return std::nullopt;
   }
-  const std::optional<MeasurePlan> plan = Read(parser, settings);
+  std::optional<MeasurePlan> plan = Read(parser, settings);
   if (plan) {
     settings.instrument.controllerPort = static_cast<std::int16_t>(plan->port);
   }
