@@ -73,7 +73,7 @@ void SetEnvDefaults(Settings& settings) {
 }
 
 QString FindSettingsFile(const QString& programDirectory, const QString& name) {
-  const QString named = CompletePath(programDirectory, name);
+  QString named = CompletePath(programDirectory, name);
   if (QFileInfo::exists(named)) {
     return named;
   }

@@ -131,6 +131,7 @@ std::optional<FilmSolution> FilmSolver::Solve(const FilmPoint& start,
                                               const LeastSquaresLimits& limits) {
   FilmPoint first = start;
   std::vector<double> values;
+  values.reserve(parameters.size());
   for (const FilmParameter& parameter : parameters) {
     values.push_back(Value(first, parameter));
   }
