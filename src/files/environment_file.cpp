@@ -162,8 +162,7 @@ QList<MessageCall> EnvironmentDoubts(const QString& path, const EnvironmentConte
 }
 
 WriteResult WriteEnvFile(const QString& path, const Settings& settings) {
-  const WriteResult kept =
-      KeepUnreadable(path, [&path] { return static_cast<bool>(ReadEnvFile(path)); });
+  WriteResult kept = KeepUnreadable(path, [&path] { return static_cast<bool>(ReadEnvFile(path)); });
   if (!kept) {
     return kept;
   }

@@ -64,7 +64,7 @@ ProgramStart StartProgram(const QString& programDirectory) {
 
 WriteResult WriteProgramSettings(const ProgramSettings& settings, const QString& programDirectory) {
   const QString path = ProgramSettingsPath(programDirectory);
-  const WriteResult kept = KeepUnreadable(path, [&programDirectory] {
+  WriteResult kept = KeepUnreadable(path, [&programDirectory] {
     return static_cast<bool>(ReadProgramSettings(programDirectory));
   });
   if (!kept) {

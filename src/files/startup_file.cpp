@@ -49,7 +49,7 @@ void ApplyStartup(const StartupContent& content, Settings& settings) {
 
 WriteResult WriteStartupFile(const Settings& settings) {
   const QString path = StartupPath(settings.programDirectory);
-  const WriteResult kept =
+  WriteResult kept =
       KeepUnreadable(path, [&path] { return static_cast<bool>(ReadStartupFile(path)); });
   if (!kept) {
     return kept;

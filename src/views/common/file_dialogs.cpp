@@ -43,7 +43,7 @@ std::optional<QString> WindowFileDialogs::AskOpen(const QString& title, const QS
   if (dialog.exec() != QDialog::Accepted) {
     return std::nullopt;
   }
-  const QString path = dialog.selectedFiles().value(0);
+  QString path = dialog.selectedFiles().value(0);
   folder_ = QFileInfo(path).absolutePath();
   return path;
 }
