@@ -2585,5 +2585,37 @@ controller is not connected.</translation>
         <source>ｴﾗｰが発生しました。</source>
         <translation>An error occurred.</translation>
     </message>
+    <message>
+        <source>最近使ったﾌｧｲﾙ(&amp;R)</source>
+        <translation>&amp;Recent files</translation>
+    </message>
+    <message>
+        <source>ロット測定(&amp;M)</source>
+        <translation>&amp;Measure a lot</translation>
+    </message>
+    <message>
+        <source>記録(&amp;D)</source>
+        <translation>Recor&amp;ds</translation>
+    </message>
+    <message>
+        <source>膜厚ﾌｨｯﾄ(&amp;F)</source>
+        <translation>Thickness &amp;fit</translation>
+    </message>
+    <message>
+        <source>日常点検(&amp;D)</source>
+        <translation>&amp;Daily check</translation>
+    </message>
+    <message>
+        <source>管理図(&amp;C)</source>
+        <translation>&amp;Control charts</translation>
+    </message>
+    <message>
+        <source>測定システム解析(&amp;M)</source>
+        <translation>&amp;Measurement system analysis</translation>
+    </message>
+    <message>
+        <source>ﾌﾟﾛｸﾞﾗﾑ設定(&amp;P)</source>
+        <translation>&amp;Program settings</translation>
+    </message>
 </context>
 </TS>

@@ -50,11 +50,16 @@ MenuCommands BuildMenu(QMenuBar& bar) {
 
   QMenu* file = bar.addMenu(Text::tr("ﾌｧｲﾙ(&F)"));
   commands.openFile = Add(file, Text::tr("ﾌｧｲﾙを開く(&O)"), QKeySequence::Open);
+  commands.recentFiles = file->addMenu(Text::tr("最近使ったﾌｧｲﾙ(&R)"));
+  commands.recentFiles->setEnabled(false);
   commands.saveFileAs = Add(file, Text::tr("ﾌｧｲﾙの名前を付けて保存(&A)"), QKeySequence::Save);
   file->addSeparator();
   commands.openEnvironment = Add(file, Text::tr("環境ﾌｧｲﾙを開く(&W)"));
   commands.saveEnvironment = Add(file, Text::tr("環境ﾌｧｲﾙの上書き保存(&S)"));
   commands.saveEnvironmentAs = Add(file, Text::tr("環境ﾌｧｲﾙの名前を付けて保存(&L)"));
+  file->addSeparator();
+  commands.lotMeasurement = Add(file, Text::tr("ロット測定(&M)"));
+  commands.records = Add(file, Text::tr("記録(&D)"));
   file->addSeparator();
   commands.printSettings = Add(file, Text::tr("印刷設定(&U)"));
   commands.print = Add(file, Text::tr("印刷(&P)"), QKeySequence::Print);
@@ -75,12 +80,18 @@ MenuCommands BuildMenu(QMenuBar& bar) {
   commands.thicknessSettings = Add(analysis, Text::tr("膜厚測定設定(&T)"));
   commands.wavelengthList = Add(analysis, Text::tr("膜厚波長ﾘｽﾄ(&L)"));
   commands.thicknessGraph = Add(analysis, Text::tr("膜厚ｸﾞﾗﾌ(&G)"));
+  commands.filmFit = Add(analysis, Text::tr("膜厚ﾌｨｯﾄ(&F)"));
   commands.colourDifference = Add(analysis, Text::tr("色差測定"));
+  analysis->addSeparator();
+  commands.dailyCheck = Add(analysis, Text::tr("日常点検(&D)"));
+  commands.controlChart = Add(analysis, Text::tr("管理図(&C)"));
+  commands.gaugeStudy = Add(analysis, Text::tr("測定システム解析(&M)"));
 
   QMenu* system = bar.addMenu(Text::tr("ｼｽﾃﾑ設定(&S)"));
   commands.referenceSettings = Add(system, Text::tr("ﾘﾌｧﾚﾝｽ設定(&R)"));
   commands.samplingSettings = Add(system, Text::tr("ｻﾝﾌﾟﾘﾝｸﾞ設定(&S)"));
   commands.calibration = Add(system, Text::tr("ｷｬﾘﾌﾞﾚｰｼｮﾝ(&C)"));
+  commands.programSettings = Add(system, Text::tr("ﾌﾟﾛｸﾞﾗﾑ設定(&P)"));
   system->addSeparator();
   commands.reconnect = Add(system, Text::tr("再接続(&N)"));
 

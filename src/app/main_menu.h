@@ -9,10 +9,13 @@ namespace vexa {
 /// The commands of the menu bar. One without a window behind it yet is disabled.
 struct MenuCommands {
   QAction* openFile;
+  QMenu* recentFiles;
   QAction* saveFileAs;
   QAction* openEnvironment;
   QAction* saveEnvironment;
   QAction* saveEnvironmentAs;
+  QAction* lotMeasurement;
+  QAction* records;
   QAction* printSettings;
   QAction* print;
   QAction* quit;
@@ -24,10 +27,15 @@ struct MenuCommands {
   QAction* thicknessSettings;
   QAction* wavelengthList;
   QAction* thicknessGraph;
+  QAction* filmFit;
   QAction* colourDifference;
+  QAction* dailyCheck;
+  QAction* controlChart;
+  QAction* gaugeStudy;
   QAction* referenceSettings;
   QAction* samplingSettings;
   QAction* calibration;
+  QAction* programSettings;
   QAction* reconnect;       ///< tries the controller again
   QActionGroup* languages;  ///< each with its code as data; none is checked yet
   QAction* version;

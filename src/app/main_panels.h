@@ -3,8 +3,8 @@
 
 #include <QWidget>
 
-#include "app/instrument_desk.h"
 #include "base/message.h"
+#include "measurement/instrument_desk.h"
 #include "measurement/session.h"
 #include "views/common/file_dialogs.h"
 

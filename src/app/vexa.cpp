@@ -36,12 +36,14 @@ VEXA::VEXA(Services services, const QString& programDirectory)
       desk_(session_, services_.messages, services_.makeController),
       journal_(session_, services_.messages),
       recorder_(session_, RecordStorePath(programDirectory), ContextOf(programDirectory)),
+      preferences_(programDirectory),
       menu_(BuildMenu(*menuBar())),
       panels_(new MainPanels(session_, desk_, services_.messages, services_.dialogs)),
       status_(new StatusPanels),
-      commands_(new WindowCommands(
-          menu_, session_, desk_, services_.messages, services_.dialogs,
-          [this] { return GetOption(); }, *this)) {
+      commands_(new WindowCommands(menu_,
+                                   {session_, desk_, recorder_, preferences_, services_.messages,
+                                    services_.dialogs, [this] { return GetOption(); }},
+                                   *this)) {
   commands_->setParent(this);
   setCentralWidget(panels_);
   setStatusBar(status_);

@@ -4,10 +4,11 @@
 #include <QCoroTask>
 #include <QMainWindow>
 
-#include "app/instrument_desk.h"
 #include "app/main_menu.h"
 #include "app/session_journal.h"
 #include "base/message.h"
+#include "files/program_preferences.h"
+#include "measurement/instrument_desk.h"
 #include "measurement/session.h"
 #include "records/session_recorder.h"
 #include "views/common/file_dialogs.h"
@@ -69,6 +70,7 @@ class VEXA : public QMainWindow {
   InstrumentDesk desk_;
   SessionJournal journal_;
   SessionRecorder recorder_;
+  ProgramPreferences preferences_;
   Phase phase_ = Phase::kStarting;
   MenuCommands menu_{};
   MainPanels* panels_ = nullptr;

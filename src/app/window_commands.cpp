@@ -28,18 +28,18 @@
 
 namespace vexa {
 
-WindowCommands::WindowCommands(const MenuCommands& menu, Session& session, InstrumentDesk& desk,
-                               MessageService& messages, FileDialogs& dialogs,
-                               std::function<int()> selectedSlot, QWidget& window)
+WindowCommands::WindowCommands(const MenuCommands& menu, WindowParts parts, QWidget& window)
     : menu_(menu),
-      session_(session),
-      state_(session.State()),
-      desk_(desk),
-      messages_(messages),
-      dialogs_(dialogs),
-      selectedSlot_(std::move(selectedSlot)),
+      session_(parts.session),
+      state_(parts.session.State()),
+      desk_(parts.desk),
+      recorder_(parts.recorder),
+      preferences_(parts.preferences),
+      messages_(parts.messages),
+      dialogs_(parts.dialogs),
+      selectedSlot_(std::move(parts.selectedSlot)),
       window_(window),
-      printer_(session.State(), messages, dialogs) {
+      printer_(parts.session.State(), parts.messages, parts.dialogs) {
   ConnectFiles();
   ConnectWindows();
   ConnectLanguages();
@@ -153,10 +153,9 @@ void WindowCommands::Print() {
 }
 
 void WindowCommands::KeepLanguage(const QString& code) {
-  const ReadResult<ProgramSettings> kept = ReadProgramSettings(state_.programDirectory);
-  ProgramSettings settings = kept ? *kept : ProgramSettings();
-  settings.language = LanguageOf(code).value_or(settings.language);
-  const WriteResult written = WriteProgramSettings(settings, state_.programDirectory);
+  const WriteResult written = preferences_.Change([&code](ProgramSettings& settings) {
+    settings.language = LanguageOf(code).value_or(settings.language);
+  });
   if (TellWritten(written, ProgramSettingsPath(state_.programDirectory), messages_)) {
     messages_.Tell({Message::kLanguageAtNextStart});
   }

@@ -4,8 +4,10 @@
 #include <QObject>
 #include <functional>
 
-#include "app/instrument_desk.h"
 #include "app/main_menu.h"
+#include "files/program_preferences.h"
+#include "measurement/instrument_desk.h"
+#include "records/session_recorder.h"
 #include "views/common/file_dialogs.h"
 #include "views/paper/current_printer.h"
 #include "views/print/report_request.h"
@@ -16,16 +18,24 @@ namespace vexa {
 
 class ThickGraph;
 
+/// What the windows of the menu work with.
+struct WindowParts {
+  Session& session;
+  InstrumentDesk& desk;
+  SessionRecorder& recorder;
+  ProgramPreferences& preferences;
+  MessageService& messages;
+  FileDialogs& dialogs;
+  std::function<int()> selectedSlot;  ///< the slot (1..10) that is shown; 0 for none
+};
+
 /// What the items of the menu do: the windows that they open, and the files that they read and
 /// write. Windows are opened, not waited for: a measurement goes on under them.
 class WindowCommands : public QObject {
   Q_OBJECT
 
  public:
-  /// `selectedSlot` tells the slot that is shown.
-  WindowCommands(const MenuCommands& menu, Session& session, InstrumentDesk& desk,
-                 MessageService& messages, FileDialogs& dialogs, std::function<int()> selectedSlot,
-                 QWidget& window);
+  WindowCommands(const MenuCommands& menu, WindowParts parts, QWidget& window);
 
   /// Takes or gives away what must not happen while something runs.
   void ShowAvailable(bool usable);
@@ -47,6 +57,8 @@ class WindowCommands : public QObject {
   Session& session_;
   const VEXATYPE& state_;
   InstrumentDesk& desk_;
+  SessionRecorder& recorder_;
+  ProgramPreferences& preferences_;
   MessageService& messages_;
   FileDialogs& dialogs_;
   std::function<int()> selectedSlot_;

@@ -3,6 +3,7 @@
 
 #include <QDir>
 #include <QFile>
+#include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
 #include <optional>
@@ -15,6 +16,10 @@ namespace {
 
 constexpr qsizetype kLargest = 1024 * 1024;
 const QLatin1String kLanguage("language");
+const QLatin1String kShowCie("showCie");
+const QLatin1String kFilmStack("filmStack");
+const QLatin1String kFitEachMeasurement("fitEachMeasurement");
+const QLatin1String kRecentFiles("recentFiles");
 
 }  // namespace
 
@@ -34,6 +39,13 @@ ReadResult<ProgramSettings> ParseProgramSettings(const QByteArray& json) {
       return FileFault{.kind = FileFaultKind::kValue};
     }
     settings.language = *language;
+  }
+  const QJsonObject object = document.object();
+  settings.showCie = object.value(kShowCie).toBool();
+  settings.filmStack = object.value(kFilmStack).toString();
+  settings.fitEachMeasurement = object.value(kFitEachMeasurement).toBool();
+  for (const QJsonValue& file : object.value(kRecentFiles).toArray()) {
+    settings.recentFiles.append(file.toString());
   }
   return settings;
 }
@@ -74,6 +86,10 @@ WriteResult WriteProgramSettings(const ProgramSettings& settings, const QString&
   const ReadResult<QByteArray> before = ReadRegularFile(path, kLargest);
   QJsonObject object = before ? QJsonDocument::fromJson(*before).object() : QJsonObject();
   object[kLanguage] = LanguageCode(settings.language);
+  object[kShowCie] = settings.showCie;
+  object[kFilmStack] = settings.filmStack;
+  object[kFitEachMeasurement] = settings.fitEachMeasurement;
+  object[kRecentFiles] = QJsonArray::fromStringList(settings.recentFiles);
   return ReplaceFile(path, QJsonDocument(object).toJson());
 }
 

@@ -4,6 +4,7 @@
 #include <QByteArray>
 #include <QList>
 #include <QString>
+#include <QStringList>
 
 #include "base/file_fault.h"
 #include "base/language.h"
@@ -15,6 +16,10 @@ namespace vexa {
 /// The settings of the program itself, which no measurement depends on.
 struct ProgramSettings {
   Language language = Language::kJapanese;
+  bool showCie = false;             ///< the CIE colour stands beside the instrument's own
+  QString filmStack;                ///< the file of the film stack (*.flm); empty for none
+  bool fitEachMeasurement = false;  ///< the film fit follows every measurement
+  QStringList recentFiles;          ///< whole paths, the last one first
 
   bool operator==(const ProgramSettings&) const = default;
 };

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "app/instrument_desk.h"
+#include "measurement/instrument_desk.h"
 
 #include <utility>
 
