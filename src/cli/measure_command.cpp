@@ -41,7 +41,7 @@ std::unique_ptr<Controller> ConnectTo(const MeasurePlan& plan, const VEXATYPE& s
     return MakeController(state, plan.replyTimeoutMs);
   }
   // The port itself takes a relative name for one under /dev.
-  const QString device = QFileInfo(plan.device).absoluteFilePath();
+  QString device = QFileInfo(plan.device).absoluteFilePath();
   return std::make_unique<frmComH8Ctrl>([device](int) { return device; }, plan.replyTimeoutMs);
 }
 

@@ -14,7 +14,7 @@
 namespace vexa {
 namespace {
 
-constexpr qsizetype kLargest = 1024 * 1024;
+constexpr qsizetype kLargest = 1'048'576;
 const QLatin1String kLanguage("language");
 const QLatin1String kShowCie("showCie");
 const QLatin1String kFilmStack("filmStack");
@@ -44,7 +44,7 @@ ReadResult<ProgramSettings> ParseProgramSettings(const QByteArray& json) {
   settings.showCie = object.value(kShowCie).toBool();
   settings.filmStack = object.value(kFilmStack).toString();
   settings.fitEachMeasurement = object.value(kFitEachMeasurement).toBool();
-  for (const QJsonValue& file : object.value(kRecentFiles).toArray()) {
+  for (const auto& file : object.value(kRecentFiles).toArray()) {
     settings.recentFiles.append(file.toString());
   }
   return settings;

@@ -212,8 +212,8 @@ class Search {
     std::vector<double> found;
     const bool narrow = range.toNm - range.fromNm < 8.0 * orders_[layer];
     const double gridEnd = narrow ? range.toNm : std::min(kThinNm, range.toNm);
-    for (double nm = range.fromNm; nm <= gridEnd; nm += step) {
-      found.push_back(nm);
+    for (int i = 0; range.fromNm + i * step <= gridEnd; ++i) {
+      found.push_back(range.fromNm + i * step);
     }
     if (!narrow) {
       std::vector<double> peaks = Candidates(layer);

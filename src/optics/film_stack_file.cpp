@@ -88,7 +88,7 @@ FilmStackSetting SettingOf(const QJsonObject& object) {
   if (!layers.isArray() || static_cast<std::size_t>(layers.toArray().size()) > kMostFilmLayers) {
     throw WrongValue();
   }
-  for (const QJsonValue& value : layers.toArray()) {
+  for (const auto& value : layers.toArray()) {
     const QJsonObject layer = value.toObject();
     FilmLayerSetting& added = setting.layers.emplace_back();
     added.material = MaterialText(layer, "material");

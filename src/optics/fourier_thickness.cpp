@@ -162,10 +162,12 @@ void FindPeaks(const Fringes& fringes, FourierThickness& result) {
     return;
   }
   FourierPeak& strongest = result.peaks.front();
-  for (double step = result.stepNm / 2.0; step > 0.5; step /= 5.0) {
+  double step = result.stepNm / 2.0;
+  while (step > 0.5) {
     strongest.thicknessNm += step * Summit(fringes.Amplitude(strongest.thicknessNm - step),
                                            fringes.Amplitude(strongest.thicknessNm),
                                            fringes.Amplitude(strongest.thicknessNm + step));
+    step /= 5.0;
   }
 }
 
