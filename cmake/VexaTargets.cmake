@@ -28,22 +28,37 @@ if(CCACHE_PROGRAM)
   set(CMAKE_CXX_COMPILER_LAUNCHER "${CCACHE_PROGRAM}")
 endif()
 
-# vexa_library(NAME SOURCES... LINKS...): one floor of the house, as the static library vexa_NAME.
+if(VEXA_PRECOMPILED)
+  add_compile_options(-fpch-preprocess)  # ccache reads it
+endif()
+
+# vexa_precompile(TARGET HEADER...): reads once what nearly every source of the target includes.
+function(vexa_precompile target)
+  if(VEXA_PRECOMPILED)
+    target_precompile_headers(${target} PRIVATE
+      <QtCore> <algorithm> <array> <cmath> <functional> <memory> <optional> <span> <string> <vector> ${ARGN})
+  endif()
+endfunction()
+
+# vexa_library(NAME SOURCES... LINKS... [PRECOMPILE...]): one floor of the house, as the static library
+# vexa_NAME. PRECOMPILE names headers that most of its sources include.
 function(vexa_library name)
-  cmake_parse_arguments(ARG "" "" "SOURCES;LINKS" ${ARGN})
+  cmake_parse_arguments(ARG "" "" "SOURCES;LINKS;PRECOMPILE" ${ARGN})
   add_library(vexa_${name} STATIC ${ARG_SOURCES})
   target_include_directories(vexa_${name} PUBLIC "${PROJECT_SOURCE_DIR}/src")
   target_link_libraries(vexa_${name} PUBLIC ${ARG_LINKS})
   set_target_properties(vexa_${name} PROPERTIES AUTOMOC ON)
+  vexa_precompile(vexa_${name} ${ARG_PRECOMPILE})
 endfunction()
 
-# vexa_test(NAME SOURCES... LINKS...): the tests of one floor, as the executable NAME_test.
+# vexa_test(NAME SOURCES... LINKS... [PRECOMPILE...]): the tests of one floor, as the executable NAME_test.
 function(vexa_test name)
-  cmake_parse_arguments(ARG "" "" "SOURCES;LINKS" ${ARGN})
+  cmake_parse_arguments(ARG "" "" "SOURCES;LINKS;PRECOMPILE" ${ARGN})
   add_executable(${name}_test ${ARG_SOURCES})
   target_include_directories(${name}_test PRIVATE "${PROJECT_SOURCE_DIR}/tests")
   target_link_libraries(${name}_test PRIVATE ${ARG_LINKS} GTest::gtest)
   set_target_properties(${name}_test PROPERTIES AUTOMOC ON)
+  vexa_precompile(${name}_test <gtest/gtest.h> ${ARG_PRECOMPILE})
   gtest_discover_tests(${name}_test
     TEST_PREFIX "${name}."
     PROPERTIES TIMEOUT 120
