@@ -42,6 +42,10 @@ MainPanels::MainPanels(Session& session, InstrumentDesk& desk, MessageService& m
   layout->addWidget(BuildResults());
   ConnectDesk();
   connect(bar_, &MeasurementBar::SlotSelected, this, &MainPanels::SlotSelected);
+  connect(views_, &MainViews::DiagramKindChosen, this, [this](ColourKind kind) {
+    colour_->ShowDiagramOf(kind);
+    views_->Show(SelectedSlot());
+  });
   connect(bar_, &MeasurementBar::DataRequested, this, &MainPanels::SampleInformationRequested);
   auto* ages = new QTimer(this);
   connect(ages, &QTimer::timeout, this,
@@ -70,6 +74,12 @@ void MainPanels::Show() {
   colour_->Show(slot);
   thickness_->setVisible(state.thickness.enabled);
   thickness_->Show(slot);
+}
+
+void MainPanels::ShowCie(bool shown) {
+  colour_->ShowCie(shown);
+  views_->OfferCie(shown);
+  Show();
 }
 
 void MainPanels::ShowAvailable(bool usable) {

@@ -33,6 +33,8 @@ class MainPanels : public QWidget {
 
   /// Shows the state of the session.
   void Show();
+  /// Shows the CIE colours beside the instrument's own, or hides them; they are hidden at first.
+  void ShowCie(bool shown);
   /// `usable`: the program is neither starting nor ending.
   void ShowAvailable(bool usable);
 

@@ -6,6 +6,7 @@
 #include "app/unattended_messages.h"
 #include "files/configuration.h"
 #include "files/data_file.h"
+#include "files/program_preferences.h"
 #include "measurement/dispersion_data.h"
 #include "measurement/session.h"
 #include "views/common/quiet_messages.h"
@@ -55,6 +56,7 @@ int RunReport(const ReportCommand& command, const QString& programDirectory) {
   ComputeThicknesses(session);
 
   ReportRequest request = UsualReport(state, QDate::currentDate());
+  request.cie = ProgramPreferences(programDirectory).InForce().showCie;
   request.title = command.title;
   request.operatorName = command.operatorName;
   if (!WritePdf(command.pdfFile, ReportTitle(request), PageLayoutOf(SavedPrintSettings(state)),

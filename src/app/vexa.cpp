@@ -50,6 +50,9 @@ VEXA::VEXA(Services services, const QString& programDirectory)
   constexpr QSize kFrameOfWindow(16, 44);
   resize(QSize(1280, 900).boundedTo(screen()->availableSize() - kFrameOfWindow));
   ListenToSession();
+  const auto showCie = [this] { panels_->ShowCie(preferences_.InForce().showCie); };
+  connect(&preferences_, &ProgramPreferences::Changed, this, showCie);
+  showCie();
   Refresh();
   ShowAvailable();
 }

@@ -22,6 +22,7 @@
 #include "views/print/report.h"
 #include "views/settings/calibration_dlg.h"
 #include "views/settings/dispset.h"
+#include "views/settings/program_settings_dlg.h"
 #include "views/settings/sampling_dlg.h"
 #include "views/settings/table.h"
 #include "views/standards/standard_frm.h"
@@ -79,6 +80,9 @@ void WindowCommands::ConnectWindows() {
     return new RefSetDlg(RefSetDlg::Mode::kThickness, session_, messages_, dialogs_, &window_);
   });
   Open(menu_.displaySettings, [this] { return new dispset(session_, messages_, &window_); });
+  Open(menu_.programSettings, [this] {
+    return new ProgramSettingsDlg(preferences_, state_.programDirectory, messages_, &window_);
+  });
   Open(menu_.settingsList, [this] { return MakeSettingsList(); });
   Open(menu_.colourDifference, [this] {
     return new ColourDifferenceWindow(state_, selectedSlot_(), printer_, messages_, dialogs_,
@@ -146,6 +150,7 @@ void WindowCommands::Print() {
   const QDate today = session_.Now().date();
   if (!report_.date.isValid()) {
     report_ = UsualReport(state_, today);
+    report_.cie = preferences_.InForce().showCie;
   }
   report_.date = today;
   report_.unsaved = !state_.slotsSaved;

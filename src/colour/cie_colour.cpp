@@ -124,7 +124,7 @@ std::optional<CieColour> CalcCieColour(const ReflectanceSpectrum& reflectance,
 }
 
 QString CieRangeText() {
-  return Text::tr("440 nm より下は外挿");
+  return Text::tr(kCieRange);
 }
 
 }  // namespace vexa

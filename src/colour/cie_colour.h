@@ -5,6 +5,7 @@
 #include <optional>
 
 #include "base/spectrum.h"
+#include "base/translation.h"
 #include "colour/colorimetry.h"
 
 namespace vexa {
@@ -43,5 +44,7 @@ struct CieColour {
 
 /// What is said beside every CIE colour about the range that was not measured.
 [[nodiscard]] QString CieRangeText();
+/// The same in the source language, for files.
+inline constexpr const char* kCieRange = QT_TRANSLATE_NOOP("Text", "440 nm より下は外挿");
 
 }  // namespace vexa

@@ -4,7 +4,10 @@
 #include <QShortcut>
 #include <algorithm>
 #include <array>
+#include <cmath>
+#include <optional>
 
+#include "colour/cie_colour.h"
 #include "colour/colour_tables.h"
 #include "standards/tolerance_region.h"
 #include "views/common/colour_texts.h"
@@ -63,6 +66,38 @@ void SetPoints(QCPGraph& graph, const ColourStock& stock, int first, int end) {
   }
 }
 
+// Where a slot stands; nothing for an empty one and for one without a colour.
+std::optional<QPointF> CoordinatesOf(const MeasurementSlot& slot, const ColourSettings& settings,
+                                     ColourKind kind, bool xyMode) {
+  if (!slot.valid) {
+    return std::nullopt;
+  }
+  if (kind == ColourKind::kInstrument) {
+    const ColourResult& colour = slot.colour;
+    return !colour.IsComputed() ? std::nullopt
+           : xyMode             ? std::optional(QPointF(colour.x, colour.y))
+                                : std::optional(QPointF(colour.a, colour.b));
+  }
+  const std::optional<CieColour> colour = CalcCieColour(slot.reflectance, settings);
+  if (!colour || std::isnan(colour->x)) {
+    return std::nullopt;
+  }
+  return xyMode ? QPointF(colour->x, colour->y) : QPointF(colour->a, colour->b);
+}
+
+// The instrument's white points are its own roundings.
+std::optional<QPointF> WhiteOf(const StockConditions& conditions, ColourKind kind) {
+  if (kind == ColourKind::kInstrument) {
+    const auto point = WhitePointOf(conditions.illuminant, conditions.observer2Deg);
+    return point ? std::optional(QPointF(point->x, point->y)) : std::nullopt;
+  }
+  ReflectanceSpectrum perfect;
+  std::ranges::fill(perfect.Values(), 100.0);
+  const auto white =
+      CalcCieColour(perfect, {conditions.illuminant, conditions.observer2Deg, 440, 840});
+  return white ? std::optional(QPointF(white->x, white->y)) : std::nullopt;
+}
+
 }  // namespace
 
 ChromaticityDiagram::ChromaticityDiagram(std::shared_ptr<BackgroundPicture> picture,
@@ -114,20 +149,23 @@ ChromaticityDiagram::ChromaticityDiagram(std::shared_ptr<BackgroundPicture> pict
   DrawPicture();
 }
 
+void ChromaticityDiagram::SetKind(ColourKind kind, bool named) {
+  kind_ = kind;
+  named_ = named;
+}
+
 void ChromaticityDiagram::ShowSlots(const VEXATYPE& state, int selectedSlot) {
   const StockConditions conditions = state.ColourConditions();
-  ShowFrame(conditions, state);
-  const bool accumulated = state.accumulate && !state.stock.DiffersFrom(conditions);
+  ShowFrame(conditions, state, kind_);
+  const bool accumulated =
+      kind_ == ColourKind::kInstrument && state.accumulate && !state.stock.DiffersFrom(conditions);
   SetPoints(*points_, state.stock, 0, accumulated ? state.stock.Count : 0);
   points_->setLayer(QStringLiteral("texts"));  // below the slots
   std::vector<SlotMark> marks;
   for (int number = 1; number <= kSlotCount; ++number) {
-    const MeasurementSlot& slot = *state.Slot(number);
-    if (slot.valid && slot.colour.IsComputed()) {
-      marks.push_back(
-          {number,
-           xyMode_ ? QPointF(slot.colour.x, slot.colour.y) : QPointF(slot.colour.a, slot.colour.b),
-           number == selectedSlot});
+    if (const std::optional<QPointF> at =
+            CoordinatesOf(*state.Slot(number), state.colour, kind_, xyMode_)) {
+      marks.push_back({number, *at, number == selectedSlot});
     }
   }
   std::stable_partition(marks.begin(), marks.end(),
@@ -138,7 +176,8 @@ void ChromaticityDiagram::ShowSlots(const VEXATYPE& state, int selectedSlot) {
 
 void ChromaticityDiagram::ShowStock(const VEXATYPE& state) {
   const ColourStock& stock = state.stock;
-  ShowFrame({stock.StockMode, stock.StockIlluminant, stock.StockObserver}, state);
+  ShowFrame({stock.StockMode, stock.StockIlluminant, stock.StockObserver}, state,
+            ColourKind::kInstrument);
   const int last = std::max(stock.Count - 1, 0);
   SetPoints(*points_, stock, 0, last);
   SetPoints(*lastPoint_, stock, last, stock.Count);
@@ -178,39 +217,46 @@ void ChromaticityDiagram::mousePressEvent(QMouseEvent* event) {
   Plot::mousePressEvent(event);
 }
 
-void ChromaticityDiagram::ShowFrame(const StockConditions& conditions, const VEXATYPE& state) {
+void ChromaticityDiagram::ShowFrame(const StockConditions& conditions, const VEXATYPE& state,
+                                    ColourKind kind) {
   xyMode_ = conditions.xyMode;
-  ShowAxes(state.display.labScale);
+  const bool own = kind == ColourKind::kInstrument;
+  ShowAxes(state.display.labScale, kind);
   locus_.Show(xyMode_ ? SpectralLocus(conditions.observer2Deg) : std::vector<LocusPoint>());
-  tolerance_.Show(xyMode_ ? ToleranceRegion()
-                          : ToleranceRegionOf(state.standard, state.chromaMarker, state.hueMarker),
+  tolerance_.Show(xyMode_ || !own
+                      ? ToleranceRegion()
+                      : ToleranceRegionOf(state.standard, state.chromaMarker, state.hueMarker),
                   labReach_);
   background_->setVisible(xyMode_);
   const QString illuminant = IlluminantText(conditions.illuminant);
-  std::optional<QPointF> white;
-  if (const auto point = WhitePointOf(conditions.illuminant, conditions.observer2Deg);
-      point && xyMode_) {
-    white = QPointF(point->x, point->y);
+  marks_->SetWhitePoint(xyMode_ ? WhiteOf(conditions, kind) : std::nullopt, illuminant);
+  QString text = QStringLiteral("%1 / %2°").arg(illuminant, ObserverText(conditions.observer2Deg));
+  if (named_) {
+    text.prepend(ColourKindText(kind) + QStringLiteral("  "));
   }
-  marks_->SetWhitePoint(white, illuminant);
-  conditionsText_->setText(
-      QStringLiteral("%1 / %2°").arg(illuminant, ObserverText(conditions.observer2Deg)));
+  if (!own) {
+    text += u'\n' + CieRangeText();
+  }
+  conditionsText_->setText(text);
   RequestPicture();
 }
 
-void ChromaticityDiagram::ShowAxes(int labScale) {
+void ChromaticityDiagram::ShowAxes(int labScale, ColourKind kind) {
   if (labScale >= 0 && labScale < static_cast<int>(kLabReaches.size())) {
     labReach_ = kLabReaches[static_cast<std::size_t>(labScale)];
   }
+  const auto name = [kind](const char* symbol) {
+    const QString text = QLatin1String(symbol);
+    return kind == ColourKind::kCie ? QStringLiteral("%1 (CIE)").arg(text) : text;
+  };
   if (xyMode_) {
     const QString end = QStringLiteral("0.8");
-    SetAxis(*xAxis, *xAxis2, 0.0, BackgroundPicture::kEnd,
-            {QStringLiteral("0"), QStringLiteral("x"), end});
+    SetAxis(*xAxis, *xAxis2, 0.0, BackgroundPicture::kEnd, {QStringLiteral("0"), name("x"), end});
     SetAxis(*yAxis, *yAxis2, 0.0, BackgroundPicture::kEnd, {QString(), QStringLiteral("y"), end});
   } else {
     const QString lower = QString::number(-labReach_);
     SetAxis(*xAxis, *xAxis2, -labReach_, labReach_,
-            {lower, QStringLiteral("a*"), QString::number(labReach_)});
+            {lower, name("a*"), QString::number(labReach_)});
     SetAxis(*yAxis, *yAxis2, -labReach_, labReach_, {lower, QStringLiteral("b*"), QString()});
   }
 }

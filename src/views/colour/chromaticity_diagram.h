@@ -8,6 +8,7 @@
 #include "views/colour/diagram_marks.h"
 #include "views/colour/locus_drawing.h"
 #include "views/colour/tolerance_drawing.h"
+#include "views/common/colour_kind.h"
 #include "views/common/plot.h"
 
 namespace vexa {
@@ -22,8 +23,14 @@ class ChromaticityDiagram : public Plot {
   explicit ChromaticityDiagram(std::shared_ptr<BackgroundPicture> picture,
                                QWidget* parent = nullptr);
 
+  /// Whose colours the slots are shown with from now on; `named`: the diagram says whose. Without a
+  /// call the instrument's own, unnamed.
+  void SetKind(ColourKind kind, bool named);
+
   /// The valid slots that have a colour, under the display conditions; with them, while colours are
-  /// accumulated, the points that were taken under these conditions.
+  /// accumulated, the points that were taken under these conditions. Accumulated points and the
+  /// tolerances of the standards are of the instrument's own colours, and not shown with the CIE
+  /// ones.
   void ShowSlots(const VEXATYPE& state, int selectedSlot);
   /// The accumulated points under the conditions of their accumulation, the last one marked.
   void ShowStock(const VEXATYPE& state);
@@ -46,8 +53,8 @@ class ChromaticityDiagram : public Plot {
   void mousePressEvent(QMouseEvent* event) override;
 
  private:
-  void ShowFrame(const StockConditions& conditions, const VEXATYPE& state);
-  void ShowAxes(int labScale);
+  void ShowFrame(const StockConditions& conditions, const VEXATYPE& state, ColourKind kind);
+  void ShowAxes(int labScale, ColourKind kind);
   void DrawPicture();
   void RequestPicture();
 
@@ -59,6 +66,8 @@ class ChromaticityDiagram : public Plot {
   QCPGraph* points_;
   QCPGraph* lastPoint_;
   DiagramMarks* marks_;
+  ColourKind kind_ = ColourKind::kInstrument;
+  bool named_ = false;
   bool xyMode_ = true;
   int labReach_ = 40;
 };

@@ -17,12 +17,14 @@
 #include "base/number_text.h"
 #include "base/text_file.h"
 #include "base/translation.h"
+#include "colour/cie_colour.h"
 #include "colour/colour_difference.h"
 #include "colour/colour_tables.h"
 #include "views/common/colour_texts.h"
 #include "views/common/file_questions.h"
 #include "views/common/proposed_name.h"
 #include "views/common/slot_style.h"
+#include "views/common/theme.h"
 #include "views/paper/current_printer.h"
 #include "views/paper/page_flow.h"
 
@@ -33,7 +35,14 @@ constexpr int kFirstValueColumn = 2;
 constexpr int kWidestColumn = 260;
 
 // Nothing where the spectrum has no colour, as a black one.
-std::optional<LabColour> ColourOf(const MeasurementSlot& slot, const ColourSettings& settings) {
+std::optional<LabColour> ColourOf(const MeasurementSlot& slot, const ColourSettings& settings,
+                                  ColourKind kind) {
+  if (kind == ColourKind::kCie) {
+    const std::optional<CieColour> colour = CalcCieColour(slot.reflectance, settings);
+    return colour && !std::isnan(colour->x)
+               ? std::optional(LabColour{colour->L, colour->a, colour->b})
+               : std::nullopt;
+  }
   ColourResult colour;
   colour.L = colour.a = colour.b = std::numeric_limits<double>::quiet_NaN();
   // L*, a* and b* may be there even when the hue is not.
@@ -71,10 +80,16 @@ constexpr std::array kHeadings{QT_TRANSLATE_NOOP("Text", "ｽﾛｯﾄ"),
                                "ΔE00"};
 constexpr const char* kStandard = QT_TRANSLATE_NOOP("Text", "基準");
 constexpr const char* kIlluminant = QT_TRANSLATE_NOOP("Text", "光源");
+constexpr const char* kKind = QT_TRANSLATE_NOOP("Text", "測色値");
 constexpr const char* kObserver = QT_TRANSLATE_NOOP("Text", "視野");
 
 QString Shown(const char* word) {
   return Text::tr(word);
+}
+
+QString KindText(ColourKind kind, QString (*word)(const char*)) {
+  const QString name = word(ColourKindName(kind));
+  return kind == ColourKind::kCie ? QStringLiteral("%1 (%2)").arg(name, word(kCieRange)) : name;
 }
 
 QString SlotText(int slot) {
@@ -92,12 +107,23 @@ ColourDifferenceWindow::ColourDifferenceWindow(const VEXATYPE& state, int select
       messages_(messages),
       dialogs_(dialogs),
       standard_(new QComboBox),
+      kind_(new QComboBox),
+      range_(new QLabel(CieRangeText())),
       table_(new QTableWidget) {
   setObjectName(QStringLiteral("ColourDifferenceWindow"));
   setWindowTitle(Text::tr("色差測定"));
   standard_->setObjectName(QStringLiteral("StandardSlot"));
   standard_->setMinimumWidth(180);
   standard_->setIconSize(QSize(22, 12));
+  kind_->setObjectName(QStringLiteral("DifferenceKind"));
+  for (const ColourKind kind : {ColourKind::kInstrument, ColourKind::kCie}) {
+    kind_->addItem(ColourKindText(kind), static_cast<int>(kind));
+  }
+  kind_->setToolTip(Text::tr("CIE は他の測色計の値と比較できる測色値です。"));
+  range_->setObjectName(QStringLiteral("DifferenceRange"));
+  QPalette calm = range_->palette();
+  calm.setColor(QPalette::WindowText, theme::kAccent);
+  range_->setPalette(calm);
   table_->setObjectName(QStringLiteral("DifferenceTable"));
   table_->setEditTriggers(QAbstractItemView::NoEditTriggers);
   table_->setSelectionBehavior(QAbstractItemView::SelectRows);
@@ -132,6 +158,10 @@ ColourDifferenceWindow::ColourDifferenceWindow(const VEXATYPE& state, int select
   auto* top = new QHBoxLayout;
   top->addWidget(new QLabel(Text::tr("基準:")));
   top->addWidget(standard_);
+  top->addSpacing(12);
+  top->addWidget(new QLabel(Text::tr("測色値:")));
+  top->addWidget(kind_);
+  top->addWidget(range_);
   top->addStretch();
   top->addWidget(conditions);
   auto* bottom = new QHBoxLayout;
@@ -155,6 +185,7 @@ ColourDifferenceWindow::ColourDifferenceWindow(const VEXATYPE& state, int select
   FillStandards(selectedSlot);
   FillTable();
   connect(standard_, &QComboBox::currentIndexChanged, this, &ColourDifferenceWindow::FillTable);
+  connect(kind_, &QComboBox::currentIndexChanged, this, &ColourDifferenceWindow::FillTable);
   connect(copy, &QPushButton::clicked, this, &ColourDifferenceWindow::CopyTable);
   connect(print, &QPushButton::clicked, this, &ColourDifferenceWindow::Print);
   connect(save, &QPushButton::clicked, this, &ColourDifferenceWindow::Export);
@@ -177,7 +208,12 @@ void ColourDifferenceWindow::FillStandards(int selectedSlot) {
   }
 }
 
+ColourKind ColourDifferenceWindow::Kind() const {
+  return static_cast<ColourKind>(kind_->currentData().toInt());
+}
+
 void ColourDifferenceWindow::FillTable() {
+  range_->setVisible(Kind() == ColourKind::kCie);
   table_->setRowCount(0);
   const int standard = standard_->currentData().toInt();
   for (int i = 0; i < standard_->count(); ++i) {
@@ -196,8 +232,9 @@ void ColourDifferenceWindow::AddRow(int slot, int standard) {
   sample->setToolTip(sampleNumber);
   table_->setItem(row, 1, sample);
   int column = kFirstValueColumn;
-  for (const QString& text : DifferenceTexts(ColourOf(*state_.Slot(standard), state_.colour),
-                                             ColourOf(*state_.Slot(slot), state_.colour))) {
+  for (const QString& text :
+       DifferenceTexts(ColourOf(*state_.Slot(standard), state_.colour, Kind()),
+                       ColourOf(*state_.Slot(slot), state_.colour, Kind()))) {
     auto* item = new QTableWidgetItem(text);
     item->setTextAlignment(Qt::AlignRight | Qt::AlignVCenter);
     table_->setItem(row, column++, item);
@@ -207,6 +244,7 @@ void ColourDifferenceWindow::AddRow(int slot, int standard) {
 QList<QStringList> ColourDifferenceWindow::Content(QString (*word)(const char*)) const {
   QList<QStringList> rows{
       {word(kStandard), standard_->currentText().simplified()},
+      {word(kKind), KindText(Kind(), word)},
       {word(kIlluminant), IlluminantText(state_.colour.illuminant)},
       {word(kObserver), ObserverText(state_.colour.observer2Deg) + QStringLiteral("°")}};
   for (int row = -1; row < table_->rowCount(); ++row) {

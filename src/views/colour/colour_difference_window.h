@@ -9,6 +9,7 @@
 
 #include "base/message.h"
 #include "measurement/vexatype.h"
+#include "views/common/colour_kind.h"
 #include "views/common/file_dialogs.h"
 
 namespace vexa {
@@ -18,7 +19,7 @@ class CurrentPrinter;
 /// Compares the valid slots with one of them, the standard. All colours are computed under the
 /// colour settings in force, whichever were so when the slots were measured. What is shown can be
 /// copied, printed and saved as a comma-separated file, each time with the standard and the
-/// conditions.
+/// conditions and whose colours they are: the instrument's own, as at first, or the CIE ones.
 class ColourDifferenceWindow : public QDialog {
   Q_OBJECT
 
@@ -30,6 +31,7 @@ class ColourDifferenceWindow : public QDialog {
  private:
   void FillStandards(int selectedSlot);
   void FillTable();
+  [[nodiscard]] ColourKind Kind() const;
   void AddRow(int slot, int standard);
   /// The rows with their headings; above them, in two columns, the standard and the conditions.
   /// `word` gives the headings their language.
@@ -43,6 +45,8 @@ class ColourDifferenceWindow : public QDialog {
   MessageService& messages_;
   FileDialogs& dialogs_;
   QComboBox* standard_;
+  QComboBox* kind_;
+  QLabel* range_;
   QTableWidget* table_;
 };
 

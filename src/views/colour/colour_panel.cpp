@@ -48,9 +48,20 @@ ColourPanel::ColourPanel(Session& session, MessageService& messages, FileDialogs
 
 void ColourPanel::Show(int selectedSlot) {
   slot_ = selectedSlot;
+  diagram_->SetKind(diagramKind_, cie_->IsVisible());
   diagram_->ShowSlots(state_, selectedSlot);
   ShowValues(selectedSlot);
   ShowStock();
+}
+
+void ColourPanel::ShowCie(bool shown) {
+  cie_->SetVisible(shown);
+  Show(slot_);
+}
+
+void ColourPanel::ShowDiagramOf(ColourKind kind) {
+  diagramKind_ = kind;
+  Show(slot_);
 }
 
 QWidget* ColourPanel::BuildDiagram() {
@@ -83,6 +94,19 @@ QWidget* ColourPanel::BuildValues() {
   hue_ = AddValue(*grid, "Hue", QStringLiteral("h :"), degree);
   average_ = AddValue(*grid, "AverageReflectance", Text::tr("平均反射率"), percent);
   luminous_ = AddValue(*grid, "LuminousReflectance", Text::tr("視感反射率"), percent);
+  const auto rowOf = [grid](const Value& value) {
+    int row = 0;
+    int column = 0;
+    int height = 0;
+    int width = 0;
+    grid->getItemPosition(grid->indexOf(value.text), &row, &column, &height, &width);
+    return row;
+  };
+  cie_.emplace(*grid, CieColumn::Rows{{rowOf(first_), rowOf(second_), rowOf(third_)},
+                                      rowOf(chroma_),
+                                      rowOf(hue_),
+                                      rowOf(average_),
+                                      rowOf(luminous_)});
   return values_;
 }
 
@@ -154,6 +178,9 @@ void ColourPanel::ShowValues(int selectedSlot) {
   show(hue_, colour.h, u"##0.000");
   average_.text->setText(valid ? FormatNumber(colour.Rm, u"##0.0##").trimmed() : kNone);
   show(luminous_, colour.Y, u"##0.0##");
+  if (cie_->IsVisible()) {
+    cie_->Show(valid ? CalcCieColour(slot->reflectance, state_.colour) : std::nullopt, xyMode);
+  }
 }
 
 void ColourPanel::ShowStock() {

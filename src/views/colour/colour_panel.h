@@ -6,9 +6,12 @@
 #include <QLabel>
 #include <QPushButton>
 #include <memory>
+#include <optional>
 
 #include "base/message.h"
 #include "measurement/session.h"
+#include "views/colour/cie_column.h"
+#include "views/common/colour_kind.h"
 #include "views/common/file_dialogs.h"
 
 class QGridLayout;
@@ -30,6 +33,11 @@ class ColourPanel : public QWidget {
 
   /// Shows the state as it is now.
   void Show(int selectedSlot);
+
+  /// Shows or hides the column of CIE values; it is hidden at first.
+  void ShowCie(bool shown);
+  /// Whose colours the diagram shows.
+  void ShowDiagramOf(ColourKind kind);
 
   /// For further diagrams, so that they need not build it again.
   [[nodiscard]] std::shared_ptr<BackgroundPicture> Picture() const { return picture_; }
@@ -58,6 +66,7 @@ class ColourPanel : public QWidget {
   std::shared_ptr<BackgroundPicture> picture_;
   int slot_ = 1;
   ChromaticityDiagram* diagram_ = nullptr;
+  ColourKind diagramKind_ = ColourKind::kInstrument;
   QGroupBox* values_ = nullptr;
   Value observer_{};
   Value illuminant_{};
@@ -68,6 +77,7 @@ class ColourPanel : public QWidget {
   Value hue_{};
   Value average_{};
   Value luminous_{};
+  std::optional<CieColumn> cie_;
   QCheckBox* accumulate_ = nullptr;
   QLabel* count_ = nullptr;
   QPushButton* clear_ = nullptr;

@@ -1,11 +1,15 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "views/graph/main_views.h"
 
+#include <QComboBox>
+#include <QHBoxLayout>
+#include <QLabel>
 #include <QStackedWidget>
 #include <QVBoxLayout>
 #include <algorithm>
 #include <utility>
 
+#include "base/translation.h"
 #include "standards/reflectance_band.h"
 #include "views/colour/chromaticity_diagram.h"
 #include "views/common/plot_export.h"
@@ -118,7 +122,45 @@ MainViews::View MainViews::TableView(const QString& name, bool light) {
 MainViews::View MainViews::DiagramView() {
   auto* diagram = new ChromaticityDiagram(picture_);
   AddExport(*diagram, messages_, dialogs_, [this] { return ProposedName(state_); });
-  return {diagram, [this, diagram](int slot) { diagram->ShowSlots(state_, slot); }};
+  auto* choice = new QComboBox;
+  choice->setObjectName(QStringLiteral("DiagramKind"));
+  for (const ColourKind kind : {ColourKind::kInstrument, ColourKind::kCie}) {
+    choice->addItem(ColourKindText(kind), static_cast<int>(kind));
+  }
+  choice->setToolTip(Text::tr("色度図に示す測色値を選びます。"));
+  connect(choice, &QComboBox::activated, this, [this, choice] {
+    ChooseDiagramKind(static_cast<ColourKind>(choice->currentData().toInt()));
+  });
+  auto* bar = new QWidget;
+  auto* row = new QHBoxLayout(bar);
+  row->setContentsMargins(10, 6, 10, 6);
+  row->addWidget(new QLabel(Text::tr("測色値:")));
+  row->addWidget(choice);
+  row->addStretch();
+  auto* view = new QWidget;
+  auto* layout = new QVBoxLayout(view);
+  layout->setContentsMargins(0, 0, 0, 0);
+  layout->setSpacing(0);
+  layout->addWidget(bar);
+  layout->addWidget(diagram, 1);
+  return {view, [this, diagram, choice, bar](int slot) {
+            bar->setVisible(cieOffered_);
+            choice->setCurrentIndex(choice->findData(static_cast<int>(diagramKind_)));
+            diagram->SetKind(diagramKind_, cieOffered_);
+            diagram->ShowSlots(state_, slot);
+          }};
+}
+
+void MainViews::OfferCie(bool offered) {
+  cieOffered_ = offered;
+  if (!offered) {
+    ChooseDiagramKind(ColourKind::kInstrument);
+  }
+}
+
+void MainViews::ChooseDiagramKind(ColourKind kind) {
+  diagramKind_ = kind;
+  emit DiagramKindChosen(kind);
 }
 
 void MainViews::ShowCursor() {

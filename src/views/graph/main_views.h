@@ -8,6 +8,7 @@
 
 #include "base/message.h"
 #include "measurement/vexatype.h"
+#include "views/common/colour_kind.h"
 #include "views/common/file_dialogs.h"
 
 class QStackedWidget;
@@ -32,11 +33,19 @@ class MainViews : public QWidget {
   /// shows the reflectance graph.
   void Show(int selectedSlot);
 
+  /// Offers the CIE colours for the chromaticity diagram, or takes them away; they are not offered
+  /// at first.
+  void OfferCie(bool offered);
+
   /// 0..6, in the order of the view menu.
   [[nodiscard]] int CurrentView() const { return static_cast<int>(current_); }
 
   void MoveCursor(int nm);
   [[nodiscard]] int CursorNm() const { return cursorNm_; }
+
+ signals:
+  /// Whose colours the chromaticity diagram is to show.
+  void DiagramKindChosen(vexa::ColourKind kind);
 
  private:
   /// A view, how it takes over the state, and its graph and format of values when it has a cursor.
@@ -52,6 +61,7 @@ class MainViews : public QWidget {
   View ReflectanceView(bool reciprocal);
   View TableView(const QString& name, bool light);
   View DiagramView();
+  void ChooseDiagramKind(ColourKind kind);
   void ShowCursor();
   void AskJump();
 
@@ -64,6 +74,8 @@ class MainViews : public QWidget {
   std::array<View, 7> views_;
   std::size_t current_ = 0;
   int cursorNm_ = 550;
+  bool cieOffered_ = false;
+  ColourKind diagramKind_ = ColourKind::kInstrument;
 };
 
 }  // namespace vexa

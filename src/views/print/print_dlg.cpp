@@ -69,7 +69,8 @@ PrintDlg::PrintDlg(const VEXATYPE& state, int selectedSlot, ReportRequest& reque
       date_(new QDateEdit(request.date)),
       printerText_(new QLabel),
       copies_(new QSpinBox),
-      diagram_(new QCheckBox(Text::tr("色度図を加える"))) {
+      diagram_(new QCheckBox(Text::tr("色度図を加える"))),
+      cie_(new QCheckBox(Text::tr("CIE測色値を加える"))) {
   setObjectName(QStringLiteral("PrintDlg"));
   setWindowTitle(Text::tr("印刷"));
   auto* preview = DialogButton("Preview", Text::tr("ﾌﾟﾚﾋﾞｭｰ"));
@@ -134,8 +135,12 @@ QWidget* PrintDlg::BuildContent() {
                     {{1, QStringLiteral("1 nm")}, {10, QStringLiteral("10 nm")}}, request_.stepNm);
   diagram_->setObjectName(QStringLiteral("ReportDiagram"));
   diagram_->setChecked(request_.diagram);
+  cie_->setObjectName(QStringLiteral("ReportCie"));
+  cie_->setChecked(request_.cie);
+  cie_->setToolTip(Text::tr("他の測色計と比較できる値を、別の表 (と色度図) に加えます。"));
   form->addRow(contents);
   form->addRow(diagram_);
+  form->addRow(cie_);
   form->addRow(Text::tr("ﾃｷｽﾄｽﾃｯﾌﾟ"), steps);
   const auto enableSteps = [this](int content) {
     for (QAbstractButton* button : step_->buttons()) {
@@ -173,6 +178,7 @@ ReportRequest PrintDlg::Entries() const {
           .content = static_cast<ReportContent>(content_->checkedId()),
           .stepNm = step_->checkedId(),
           .diagram = diagram_->isChecked(),
+          .cie = cie_->isChecked(),
           .unsaved = request_.unsaved};
 }
 

@@ -56,6 +56,7 @@ class PrintDlg : public QDialog {
   QLabel* printerText_;
   QSpinBox* copies_;
   QCheckBox* diagram_;
+  QCheckBox* cie_;
 };
 
 /// The print command: opens the dialog, or says that there is nothing to print.

@@ -64,12 +64,13 @@ void AddGraph(PageFlow& flow, const VEXATYPE& state, double height) {
 
 // Square, beside nothing.
 void AddDiagram(PageFlow& flow, const VEXATYPE& state,
-                const std::shared_ptr<BackgroundPicture>& background) {
+                const std::shared_ptr<BackgroundPicture>& background, ColourKind kind, bool named) {
   constexpr int kDiagramPixels = 360;
   const double side = std::min({kDiagramPixels * kPixel, flow.Width(), flow.PageHeight()});
   ChromaticityDiagram diagram(background);
   const int pixels = static_cast<int>(side / kPixel);
   diagram.Fit({pixels, pixels});
+  diagram.SetKind(kind, named);
   diagram.ShowSlots(state, 0);
   const QPicture picture = PlotDrawing(diagram, {pixels, pixels});
   flow.Add(side, [picture](QPainter& painter, const QRectF& place) {
@@ -77,8 +78,12 @@ void AddDiagram(PageFlow& flow, const VEXATYPE& state,
   });
 }
 
-std::vector<PageTable> Summary(const VEXATYPE& state) {
+std::vector<PageTable> Summary(const VEXATYPE& state, bool cie) {
   std::vector<PageTable> tables{SampleTable(state), ValueTable(state)};
+  if (cie) {
+    tables.back().caption += QStringLiteral(" (%1)").arg(ColourKindText(ColourKind::kInstrument));
+    tables.push_back(CieTable(state));
+  }
   if (const std::optional<PageTable> verdicts = VerdictTable(state)) {
     tables.push_back(*verdicts);
     if (const std::optional<PageTable> band = BandTable(state)) {
@@ -91,7 +96,7 @@ std::vector<PageTable> Summary(const VEXATYPE& state) {
 PageFlow LayOut(const VEXATYPE& state, const ReportRequest& request, const QSizeF& page,
                 const std::shared_ptr<BackgroundPicture>& background) {
   PageFlow flow(PageHeader::Body(page));
-  const std::vector<PageTable> summary = Summary(state);
+  const std::vector<PageTable> summary = Summary(state, request.cie);
   if (request.content != ReportContent::kText) {
     double tables = 0.0;
     for (const PageTable& table : summary) {
@@ -105,7 +110,10 @@ PageFlow LayOut(const VEXATYPE& state, const ReportRequest& request, const QSize
     flow.Add(table);
   }
   if (background != nullptr) {
-    AddDiagram(flow, state, background);
+    AddDiagram(flow, state, background, ColourKind::kInstrument, request.cie);
+    if (request.cie) {
+      AddDiagram(flow, state, background, ColourKind::kCie, true);
+    }
   }
   if (request.content != ReportContent::kGraph) {
     AddSpectra(flow, state, request.stepNm);

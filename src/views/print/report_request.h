@@ -17,6 +17,7 @@ struct ReportRequest {
   ReportContent content = ReportContent::kBoth;
   int stepNm = 1;        ///< of the spectra as text, 1 or 10
   bool diagram = false;  ///< with the chromaticity diagram
+  bool cie = false;      ///< with the CIE colours, and those on a diagram of their own
   bool unsaved = false;  ///< the slots are no longer what their data file holds
 };
 

@@ -6,7 +6,10 @@
 #include "base/date_text.h"
 #include "base/number_text.h"
 #include "base/translation.h"
+#include "colour/cie_parts.h"
+#include "colour/colour_tables.h"
 #include "standards/condition_caption.h"
+#include "views/common/colour_texts.h"
 
 namespace vexa {
 namespace {
@@ -142,6 +145,27 @@ PageTable ValueTable(const VEXATYPE& state) {
                        ? FormatNumber(thickness.thicknessNm, u"###0.0").trimmed() + u' ' +
                              ThicknessUnit(thickness.physical)
                        : kNone});
+  });
+  return table;
+}
+
+PageTable CieTable(const VEXATYPE& state) {
+  PageTable table{.caption = Text::tr("CIE測色値 (%1 / %2°、Rv は D65 / 2°、%3)")
+                                 .arg(IlluminantText(state.colour.illuminant),
+                                      ObserverText(state.colour.observer2Deg), CieRangeText()),
+                  .columns = {{QStringLiteral("No."), kNumberWidth}},
+                  .rows = {}};
+  for (const CiePart& part : kCieParts) {
+    const bool spread = part.value == &CieColour::spread;
+    const QString symbol = QString::fromUtf8(part.symbol);
+    table.columns.push_back(
+        {spread ? Text::tr("外挿差%1").arg(symbol) : symbol, spread ? 200.0 : 138.0});
+  }
+  AddRows(table, state, [&state](const MeasurementSlot& slot, Row& row) {
+    const std::optional<CieColour> colour = CalcCieColour(slot.reflectance, state.colour);
+    for (const CiePart& part : kCieParts) {
+      row.push_back({CieValueText(colour, part)});
+    }
   });
   return table;
 }

@@ -14,6 +14,10 @@ namespace vexa {
 /// Colour values, mean reflectances and thickness of each valid slot; "-" where there is none.
 [[nodiscard]] PageTable ValueTable(const VEXATYPE& state);
 
+/// The CIE colour of each valid slot with its spread, and in the caption what it was computed for
+/// and what is said of the range; "-" where there is none.
+[[nodiscard]] PageTable CieTable(const VEXATYPE& state);
+
 /// The conditions of the reflectance with their wavelengths and limits; nothing when no band is
 /// judged.
 [[nodiscard]] std::optional<PageTable> BandTable(const VEXATYPE& state);
