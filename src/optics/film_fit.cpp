@@ -277,7 +277,7 @@ class Fitter {
 
   void FillLayers(const FilmSolution& best, FilmFit& fit) {
     for (const double nm : best.point.state.thicknessesNm) {
-      fit.layers.push_back({nm, 0.0, 0.0});
+      fit.layers.push_back({.thicknessNm = nm});
     }
     const std::size_t count = best.parameters.size();
     const auto freedom = static_cast<double>(measured_.size() - count);
@@ -291,8 +291,10 @@ class Fitter {
       FittedLayer& layer = fit.layers[best.parameters[i].layer];
       layer.statisticalNm = quantile * std::sqrt(variance * best.result.Covariance(i, i));
       const bool known = best.parameters[i].layer > 0 || !options_.indexFree;
-      const double byIndex = known ? layer.thicknessNm * options_.indexUncertainty : 0.0;
-      layer.uncertaintyNm = std::hypot(layer.statisticalNm, byWavelength[i], byIndex);
+      layer.wavelengthNm = std::abs(byWavelength[i]);
+      layer.indexNm = known ? layer.thicknessNm * options_.indexUncertainty : 0.0;
+      layer.uncertaintyNm =
+          std::hypot(layer.statisticalNm, layer.wavelengthNm, layer.indexNm);
     }
   }
 
@@ -324,7 +326,8 @@ class Fitter {
     fit.outcome = FitOutcome::kNone;
     fit.spread = 0.0;
     fit.index = 1.0;
-    fit.layers.assign(ranges_.size(), {kNotANumber, kNotANumber, kNotANumber});
+    fit.layers.assign(ranges_.size(),
+                      {kNotANumber, kNotANumber, kNotANumber, kNotANumber, kNotANumber});
     fit.alternatives.clear();
     return fit;
   }

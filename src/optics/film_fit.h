@@ -39,6 +39,15 @@ struct FilmFitOptions {
   bool operator==(const FilmFitOptions&) const = default;
 };
 
+/// All that a fit takes besides a spectrum.
+struct FilmFitRequest {
+  FilmStack stack;
+  std::vector<ThicknessRange> ranges;  ///< one a layer
+  FilmFitOptions options;
+
+  bool operator==(const FilmFitRequest&) const = default;
+};
+
 enum class FitOutcome {
   kOk,
   kAmbiguous,  ///< another minimum fits nearly as well
@@ -48,8 +57,10 @@ enum class FitOutcome {
 
 struct FittedLayer {
   double thicknessNm = 0.0;
-  double uncertaintyNm = 0.0;  ///< half width of the interval: noise, wavelength scale and index
+  double uncertaintyNm = 0.0;  ///< half width of the interval: the three parts added in squares
   double statisticalNm = 0.0;  ///< the part of the noise
+  double wavelengthNm = 0.0;   ///< the part of the wavelength scale
+  double indexNm = 0.0;        ///< the part of the index
 };
 
 /// A further minimum.
@@ -109,6 +120,10 @@ enum class FilmFitFault {
 
 /// "ok", "ambiguous", "poor", "none".
 [[nodiscard]] QString FitOutcomeName(FitOutcome outcome);
+
+/// The outcome in a word, and in a sentence, for the user.
+[[nodiscard]] QString FitOutcomeWord(FitOutcome outcome);
+[[nodiscard]] QString FitOutcomeText(FitOutcome outcome);
 
 /// What to tell the user.
 [[nodiscard]] QString FilmFitFaultText(FilmFitFault fault);

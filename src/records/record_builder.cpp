@@ -5,6 +5,7 @@
 #include <limits>
 
 #include "colour/colorimetry.h"
+#include "records/result_json.h"
 #include "records/settings_json.h"
 
 namespace vexa {
@@ -78,9 +79,13 @@ SampleRecord ResultsOf(const VEXATYPE& state, const MeasurementSlot& slot,
   sample.cie = context.cie;
   if (slot.thickness.IsComputed()) {
     sample.thickness = slot.thickness;
-    sample.doubts = context.doubts;
+    for (const ThicknessDoubt doubt : slot.doubts) {
+      sample.doubts << ThicknessDoubtName(doubt);
+    }
   }
-  sample.fit = context.fit;
+  if (slot.fit) {
+    sample.fit = FilmFitJson(*slot.fit);
+  }
   sample.groups = slot.judgement.groups;
   sample.supersedes = context.supersedes;
   sample.reason = context.reason;

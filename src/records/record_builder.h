@@ -18,9 +18,7 @@ struct RecordContext {
   QString lot;
   QString recipe;
   QString operatorName;
-  QStringList doubts;  ///< about the thickness
   std::optional<QJsonObject> cie;
-  std::optional<QJsonObject> fit;
   QString supersedes;
   QString reason;
 };

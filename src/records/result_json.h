@@ -7,6 +7,7 @@
 #include <span>
 
 #include "colour/colorimetry.h"
+#include "optics/film_fit.h"
 #include "optics/thickness.h"
 #include "standards/judgement.h"
 
@@ -28,6 +29,11 @@ using GroupJudgements = std::array<GroupJudgement, kStandardGroupCount>;
 /// "index"}, "extrema": [{"wavelength", "reflectance", "kind": "P" or "V"}], "doubts": []}
 [[nodiscard]] QJsonObject ThicknessJson(const ThicknessResult& result, const QStringList& doubts);
 [[nodiscard]] ThicknessResult ThicknessOf(const QJsonObject& object);
+
+/// {"outcome": "ok", "layers": [{"thickness": nm, "uncertainty", "statistical"}], "scale",
+/// "offset", "spread", "index", "rms", "noise", "alternatives": [{"layers": [nm], "rms"}],
+/// "warnings": []}
+[[nodiscard]] QJsonObject FilmFitJson(const FilmFit& fit);
 
 /// One object a group: {"group": "reflectance", "verdict": "OK", "NG" or "none", "margin": 0.1}
 [[nodiscard]] QJsonArray GroupsJson(const GroupJudgements& groups);

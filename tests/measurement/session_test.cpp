@@ -88,7 +88,7 @@ TEST_F(SessionTest, EveryChangeAnnouncesWhatItChangedAndNothingElse) {
   QObject::connect(&session, &Session::SettingsChanged, [&] { heard += 'e'; });
   QObject::connect(&session, &Session::HistoryChanged, [&] { heard += 'h'; });
   QObject::connect(&session, &Session::StockChanged, [&] { heard += 'c'; });
-  const ThicknessResult physical = test::ThicknessOf(1500.0, true);
+  const HistoryPoint physical{1500.0, true};
   const VEXATYPE empty;
   // One after another, each on what those before it have left.
   const Case cases[] = {
