@@ -29,6 +29,7 @@ struct SampleInfo {
 /// One of the ten stored measurements.
 struct MeasurementSlot {
   ReflectanceSpectrum reflectance;  ///< percent, never negative
+  ReflectanceSpectrum noise;        ///< of it, up to a common factor; zero where not known
   SampleInfo info;
   ColourResult colour;
   Judgement judgement;

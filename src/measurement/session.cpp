@@ -5,6 +5,7 @@
 
 #include "measurement/evaluation.h"
 #include "measurement/reflectance.h"
+#include "measurement/reflectance_noise.h"
 
 namespace vexa {
 
@@ -43,6 +44,7 @@ SampleStorage Session::StoreSample(int slotNumber, const RawSpectrum& counts,
   fresh.reflectance =
       ComputeReflectance(counts, state_.background, state_.reference,
                          state_.instrument.calibrationShiftNm, state_.referenceReflectance);
+  fresh.noise = ReflectanceNoise(state_, counts, taken);
   if (slot.informationTyped) {
     fresh.info = slot.info;
   }
@@ -176,7 +178,8 @@ void Session::StoreFit(int slotNumber, const FilmFit& fit) {
 
 // A few milliseconds, some ten for two layers: less than the disk takes for the record.
 void Session::FitSlot(MeasurementSlot& slot) const {
-  const auto fit = FitFilm(slot.reflectance, filmFit_->stack, filmFit_->ranges, filmFit_->options);
+  const auto fit = FitFilm(slot.reflectance, filmFit_->stack, filmFit_->ranges, filmFit_->options,
+                           slot.noise.IsEmpty() ? nullptr : &slot.noise);
   if (const auto* made = std::get_if<FilmFit>(&fit)) {
     slot.fit = *made;
   }

@@ -105,13 +105,14 @@ enum class FilmFitFault {
 /// The thicknesses of a stack by a least-squares fit of its FilmModel to a spectrum in percent.
 ///
 /// The start values are the peaks of the Fourier transform and, below 1.2 um, a scan; from the best
-/// of them the solver goes to the minimum, at last with weights from the residual's own noise. The
+/// of them the solver goes to the minimum, at last with weights: from `noise`, the spectrum's at
+/// each wavelength up to a common factor, where it is given, else from the residual itself. The
 /// spread is taken in when it makes the fit clearly better. The statistical part of the interval is
 /// Student's, from the covariance and the residual; the other parts are added in squares.
-[[nodiscard]] std::variant<FilmFit, FilmFitFault> FitFilm(const ReflectanceSpectrum& spectrum,
-                                                          const FilmStack& stack,
-                                                          std::span<const ThicknessRange> ranges,
-                                                          const FilmFitOptions& options = {});
+[[nodiscard]] std::variant<FilmFit, FilmFitFault> FitFilm(
+    const ReflectanceSpectrum& spectrum, const FilmStack& stack,
+    std::span<const ThicknessRange> ranges, const FilmFitOptions& options = {},
+    const ReflectanceSpectrum* noise = nullptr);
 
 /// FitFilm for several spectra at once, on as many threads as there are processors.
 [[nodiscard]] std::vector<std::variant<FilmFit, FilmFitFault>> FitFilms(

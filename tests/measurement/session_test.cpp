@@ -144,6 +144,46 @@ TEST_F(SessionTest, EveryChangeAnnouncesWhatItChangedAndNothingElse) {
   }
 }
 
+TEST_F(SessionTest, EachSampleIsFittedBeforeItIsAnnounced) {
+  const auto constant = [](double n) { return Material{Flat(n), Flat(0.0)}; };
+  FilmFitRequest request{{constant(1.5), {constant(1.6)}}, {{300.0, 9000.0}}, {}};
+  request.options.bandwidthNm = 0.0;
+  ReflectanceSpectrum coat;
+  FilmModel(request.stack, 440, 840, 1, 0.0).Reflect({{2000.0}}, coat.Values());
+  std::vector<double> heard;
+  QObject::connect(&session, &Session::SlotChanged, [&](int slot) {
+    heard.push_back(Slot(slot).fit ? Slot(slot).fit->layers.front().thicknessNm : 0.0);
+  });
+  session.SetFilmFit(request, false);
+  Measure(1, coat);
+  session.SetFilmFit(request, true);
+  Measure(2, coat);
+  ASSERT_EQ(heard.size(), 2U);
+  EXPECT_EQ(heard[0], 0.0);
+  EXPECT_NEAR(heard[1], 2000.0, 0.01);
+  ASSERT_EQ(session.State().thicknessHistory.count, 1);
+  EXPECT_TRUE(session.State().thicknessHistory.notes[0].fitted);
+  session.SetAutoThickness(true);
+  session.ClearHistory();
+  Measure(3, coat);
+  const HistoryNote& beside = session.State().thicknessHistory.notes[0];
+  EXPECT_FALSE(beside.fitted);
+  EXPECT_EQ(beside.fitNm, 0.0) << "the thickness of the extrema is an optical one";
+  ChangeSettings([](Settings& s) {
+    s.thickness.kind = ThicknessKind::kPhysical;
+    s.filmIndex = Flat(1.6);
+  });
+  session.ClearHistory();
+  Measure(3, coat);
+  EXPECT_NEAR(session.State().thicknessHistory.notes[0].fitNm, 2000.0, 0.01);
+
+  Measure(2, Flat(4.0));
+  EXPECT_EQ(Slot(2).fit->outcome, FitOutcome::kNone) << "of the new spectrum";
+  request.ranges[0].toNm = 8000.0;
+  session.SetFilmFit(request, false);
+  EXPECT_FALSE(Slot(3).fit) << "it was made of another request";
+}
+
 TEST_F(SessionTest, WhatDependsOnAChangeIsThereWhenItIsAnnounced) {
   ChangeSettings([](Settings& s) { s.standard.averageReflectance = {true, 5.0, 0.0}; });
   session.SetAutoThickness(true);

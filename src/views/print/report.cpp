@@ -79,6 +79,9 @@ void AddDiagram(PageFlow& flow, const VEXATYPE& state,
 
 std::vector<PageTable> Summary(const VEXATYPE& state) {
   std::vector<PageTable> tables{SampleTable(state), ValueTable(state)};
+  if (const std::optional<PageTable> thickness = ThicknessTable(state)) {
+    tables.push_back(*thickness);
+  }
   if (const std::optional<PageTable> verdicts = VerdictTable(state)) {
     tables.push_back(*verdicts);
     if (const std::optional<PageTable> band = BandTable(state)) {
