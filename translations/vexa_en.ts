@@ -2617,5 +2617,247 @@ controller is not connected.</translation>
         <source>ﾌﾟﾛｸﾞﾗﾑ設定(&amp;P)</source>
         <translation>&amp;Program settings</translation>
     </message>
+    <message>
+        <source>良好</source>
+        <translation>good</translation>
+    </message>
+    <message>
+        <source>あいまい</source>
+        <translation>ambiguous</translation>
+    </message>
+    <message>
+        <source>不一致</source>
+        <translation>poor</translation>
+    </message>
+    <message>
+        <source>膜なし</source>
+        <translation>no film</translation>
+    </message>
+    <message>
+        <source>膜構成が試料に合っています。</source>
+        <translation>The film stack fits the sample.</translation>
+    </message>
+    <message>
+        <source>他の膜厚でもほぼ同じように合います。</source>
+        <translation>Another thickness fits nearly as well.</translation>
+    </message>
+    <message>
+        <source>残差がノイズよりはるかに大きく、膜構成が試料と合っていません。</source>
+        <translation>The residual is far above the noise: the stack is not that of the sample.</translation>
+    </message>
+    <message>
+        <source>膜が検出されません。</source>
+        <translation>No film can be told.</translation>
+    </message>
+    <message>
+        <source>条件</source>
+        <translation>Conditions</translation>
+    </message>
+    <message>
+        <source>倍率を求める (ﾘﾌｧﾚﾝｽの誤差)</source>
+        <translation>Free scale (error of the reference)</translation>
+    </message>
+    <message>
+        <source>一定の背景光を求める</source>
+        <translation>Free constant background</translation>
+    </message>
+    <message>
+        <source>層1の屈折率の係数を求める</source>
+        <translation>Free factor for the index of layer 1</translation>
+    </message>
+    <message>
+        <source>波長範囲 [nm]</source>
+        <translation>Wavelength range [nm]</translation>
+    </message>
+    <message>
+        <source>ﾊﾞﾝﾄﾞ幅 (半値全幅) [nm]</source>
+        <translation>Bandwidth (FWHM) [nm]</translation>
+    </message>
+    <message>
+        <source>波長の不確かさ [nm]</source>
+        <translation>Wavelength uncertainty [nm]</translation>
+    </message>
+    <message>
+        <source>屈折率の不確かさ [%]</source>
+        <translation>Index uncertainty [%]</translation>
+    </message>
+    <message>
+        <source>信頼水準 [%]</source>
+        <translation>Confidence [%]</translation>
+    </message>
+    <message>
+        <source>基板とﾘﾌｧﾚﾝｽが確かな場合に限ります。</source>
+        <translation>Only where substrate and reference are trusted.</translation>
+    </message>
+    <message>
+        <source>残差 [%]</source>
+        <translation>Residual [%]</translation>
+    </message>
+    <message>
+        <source>測定</source>
+        <translation>Measured</translation>
+    </message>
+    <message>
+        <source>ﾌｨｯﾄ</source>
+        <translation>Fit</translation>
+    </message>
+    <message>
+        <source>膜厚 [nm]</source>
+        <translation>Thickness [nm]</translation>
+    </message>
+    <message>
+        <source>ﾌｰﾘｴ振幅 [%]</source>
+        <translation>Fourier amplitude [%]</translation>
+    </message>
+    <message>
+        <source>層</source>
+        <translation>Layer</translation>
+    </message>
+    <message>
+        <source>材料</source>
+        <translation>Material</translation>
+    </message>
+    <message>
+        <source>基板</source>
+        <translation>Substrate</translation>
+    </message>
+    <message>
+        <source>結果</source>
+        <translation>Outcome</translation>
+    </message>
+    <message>
+        <source>層%1</source>
+        <translation>Layer %1</translation>
+    </message>
+    <message>
+        <source>%1: %2 nm (既知)</source>
+        <translation>%1: %2 nm (known)</translation>
+    </message>
+    <message>
+        <source>%1: %2 ± %3 nm (ノイズ %4、波長 %5、屈折率 %6)</source>
+        <translation>%1: %2 ± %3 nm (noise %4, wavelength %5, index %6)</translation>
+    </message>
+    <message>
+        <source>倍率 %1   背景光 %2 %   膜厚むら %3 %   屈折率の係数 %4</source>
+        <translation>Scale %1   background %2 %   nonuniformity %3 %   index factor %4</translation>
+    </message>
+    <message>
+        <source>残差 %1 %   ノイズ %2 %</source>
+        <translation>Residual %1 %   noise %2 %</translation>
+    </message>
+    <message>
+        <source>次の極小: %1 nm (残差 %2 %)</source>
+        <translation>Next minimum: %1 nm (residual %2 %)</translation>
+    </message>
+    <message>
+        <source>膜構成ﾌｧｲﾙ(*.flm)</source>
+        <translation>Film stacks (*.flm)</translation>
+    </message>
+    <message>
+        <source>測定後に毎回ﾌｨｯﾄ</source>
+        <translation>Fit after each measurement</translation>
+    </message>
+    <message>
+        <source>膜厚ﾌｨｯﾄ</source>
+        <translation>Film fit</translation>
+    </message>
+    <message>
+        <source>開く...</source>
+        <translation>Open...</translation>
+    </message>
+    <message>
+        <source>保存...</source>
+        <translation>Save...</translation>
+    </message>
+    <message>
+        <source>測定した試料をこの膜構成でﾌｨｯﾄし、結果を膜厚の横に表示します。</source>
+        <translation>Each sample is fitted with this stack as it is measured, and shown beside its thickness.</translation>
+    </message>
+    <message>
+        <source>選択ｽﾛｯﾄをﾌｨｯﾄ(&amp;F)</source>
+        <translation>&amp;Fit selected slot</translation>
+    </message>
+    <message>
+        <source>全ｽﾛｯﾄをﾌｨｯﾄ(&amp;A)</source>
+        <translation>Fit &amp;all slots</translation>
+    </message>
+    <message>
+        <source>(保存されていません)</source>
+        <translation>(not saved)</translation>
+    </message>
+    <message>
+        <source>膜構成ﾌｧｲﾙを開く</source>
+        <translation>Open a film stack</translation>
+    </message>
+    <message>
+        <source>膜構成ﾌｧｲﾙの保存</source>
+        <translation>Save the film stack</translation>
+    </message>
+    <message>
+        <source>計算中... 残り %1</source>
+        <translation>Fitting... %1 left</translation>
+    </message>
+    <message>
+        <source>膜構成 (空気側から)</source>
+        <translation>Film stack (from the air side)</translation>
+    </message>
+    <message>
+        <source>層の追加</source>
+        <translation>Add layer</translation>
+    </message>
+    <message>
+        <source>屈折率の値、*.ind、*.nk (nm n k の表)、または分散式
+schott:A0,..,A5  sellmeier:A1,..,B3  cauchy:A,B[,C]</source>
+        <translation>An index, *.ind, *.nk (a table nm n k), or a formula
+schott:A0,..,A5  sellmeier:A1,..,B3  cauchy:A,B[,C]</translation>
+    </message>
+    <message>
+        <source>材料ﾌｧｲﾙを選択</source>
+        <translation>Choose a file of the material</translation>
+    </message>
+    <message>
+        <source>範囲</source>
+        <translation>Range</translation>
+    </message>
+    <message>
+        <source>既知</source>
+        <translation>Known</translation>
+    </message>
+    <message>
+        <source>この層を除く</source>
+        <translation>Remove this layer</translation>
+    </message>
+    <message>
+        <source>材料ﾌｧｲﾙを開く</source>
+        <translation>Open a material</translation>
+    </message>
+    <message>
+        <source>材料ﾌｧｲﾙ(*.ind;*.nk)</source>
+        <translation>Materials (*.ind;*.nk)</translation>
+    </message>
+    <message>
+        <source>▲ 疑いあり   ◆ 膜厚ﾌｨｯﾄ</source>
+        <translation>▲ in doubt   ◆ film fit</translation>
+    </message>
+    <message>
+        <source>種類</source>
+        <translation>Kind</translation>
+    </message>
+    <message>
+        <source>この膜厚には疑いがあります。</source>
+        <translation>This thickness is in doubt.</translation>
+    </message>
+    <message>
+        <source>疑い</source>
+        <translation>Doubt</translation>
+    </message>
+    <message>
+        <source>▲ 疑い</source>
+        <translation>▲ Doubt</translation>
+    </message>
+    <message>
+        <source>膜厚ﾌｨｯﾄ [nm]</source>
+        <translation>Film fit [nm]</translation>
+    </message>
 </context>
 </TS>

@@ -10,7 +10,9 @@
 
 #include "app/vexa.h"
 #include "files/environment_file.h"
+#include "files/program_settings_file.h"
 #include "files/startup_file.h"
+#include "optics/film_stack_file.h"
 #include "standards/standard_file.h"
 #include "views/colour/background_picture.h"
 #include "views/colour/colour_panel.h"
@@ -52,6 +54,13 @@ DispersionSetting HardCoatIndex() {
   return coat;
 }
 
+// The virtual instrument's hard coat on its lens plastic.
+FilmStackSetting HardCoatStack() {
+  return {QStringLiteral("cauchy:1.4855,0.0045"),
+          {{QStringLiteral("cauchy:1.5803,0.00751"), {300.0, 12000.0}}},
+          {}};
+}
+
 }  // namespace
 
 Demonstration::Demonstration(const QString& directory, bool gpib)
@@ -77,9 +86,14 @@ bool Demonstration::StartInstrument() {
   state.thickness.enabled = true;
   state.thickness.coat = HardCoatIndex();
   state.standardFileName = QDir(directory_).filePath(QStringLiteral("demonstration.std"));
+  ProgramSettings program;
+  program.filmStack = QDir(directory_).filePath(QStringLiteral("hardcoat.flm"));
+  program.fitEachMeasurement = true;
   if (!QDir().mkpath(directory_) || !WriteStartupFile(state) ||
       !WriteEnvFile(CompletePath(state, state.envFileName), state) ||
-      !WriteStandardFile(state.standardFileName, {HardCoatStandard(), {}, {}})) {
+      !WriteStandardFile(state.standardFileName, {HardCoatStandard(), {}, {}}) ||
+      !WriteFilmStackFile(program.filmStack, HardCoatStack()) ||
+      !WriteProgramSettings(program, directory_)) {
     Complain(QStringLiteral("%1: cannot be prepared").arg(directory_));
     return false;
   }

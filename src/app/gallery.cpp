@@ -13,6 +13,7 @@
 #include "views/colour/colour_panel.h"
 #include "views/common/original_msg_frm.h"
 #include "views/common/scroll_body.h"
+#include "views/film/film_fit_window.h"
 #include "views/graph/reflectance_graph.h"
 
 namespace vexa {
@@ -93,6 +94,7 @@ void Gallery::TakeDialogs(VEXA& window) {
 void Gallery::TakeWindows(VEXA& window) {
   Press(window, "StockShow");
   TakeWindow(QStringLiteral("StockWindow"), QStringLiteral("accumulation"));
+  TakeFilmFit(window);
   window.Commands().thicknessGraph->trigger();
   LetDraw();
   for (const QWidget* history : QApplication::topLevelWidgets()) {
@@ -103,6 +105,18 @@ void Gallery::TakeWindows(VEXA& window) {
     }
   }
   TakeWindow(QStringLiteral("ThickGraph"), QStringLiteral("thickness-history"));
+}
+
+void Gallery::TakeFilmFit(VEXA& window) {
+  window.Commands().filmFit->trigger();
+  LetDraw();
+  if (auto* fit = window.findChild<FilmFitWindow*>()) {
+    Press(*fit, "FitAll");
+    while (!fit->IsDone()) {
+      QApplication::processEvents(QEventLoop::WaitForMoreEvents);
+    }
+  }
+  TakeWindow(QStringLiteral("FilmFitWindow"), QStringLiteral("film-fit"));
 }
 
 void Gallery::TakeMessage() {

@@ -72,7 +72,8 @@ void MainPanels::Show() {
   bar_->ShowAges(state, session_.Now());
   views_->Show(slot);
   colour_->Show(slot);
-  thickness_->setVisible(state.thickness.enabled);
+  const MeasurementSlot* shown = state.Slot(slot);
+  thickness_->setVisible(state.thickness.enabled || (shown != nullptr && shown->fit));
   thickness_->Show(slot);
 }
 

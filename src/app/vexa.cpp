@@ -11,6 +11,7 @@
 #include "app/status_panels.h"
 #include "app/window_commands.h"
 #include "files/configuration.h"
+#include "files/film_stack_start.h"
 #include "files/startup_file.h"
 #include "measurement/dispersion_data.h"
 #include "records/record_settings.h"
@@ -75,6 +76,9 @@ QCoro::Task<> VEXA::Load() {
   settings = session_.SettingsInForce();
   TellAll(LoadDispersionData(settings).notices, services_.messages);
   session_.TakeSettings(settings);
+  if (const auto notice = TakeFilmStack(preferences_.InForce(), session_)) {
+    services_.messages.Tell(*notice);
+  }
   co_await desk_.SendSampling();
   if (phase_ != Phase::kStarting) {
     co_return;
@@ -166,11 +170,11 @@ void VEXA::ListenToSession() {
   connect(&session_, &Session::SlotChanged, this, &VEXA::Refresh);
   connect(&session_, &Session::SlotsReplaced, this, [this] {
     panels_->SelectSlot(session_.FirstValidSlot().value_or(GetOption()));
-    Refresh();
+    ShowSelected();
   });
   connect(&session_, &Session::SampleStored, this, [this](int slot) {
     panels_->SelectSlot(slot);
-    Refresh();
+    ShowSelected();
   });
   connect(&session_, &Session::SettingsChanged, this, &VEXA::Refresh);
   connect(&session_, &Session::StockChanged, this, &VEXA::Refresh);
@@ -180,9 +184,14 @@ void VEXA::ListenToSession() {
                              StoreFaultText(fault)});
   });
   connect(&desk_, &InstrumentDesk::ActivityChanged, this, &VEXA::ShowAvailable);
-  connect(panels_, &MainPanels::SlotSelected, this, &VEXA::Refresh);
+  connect(panels_, &MainPanels::SlotSelected, this, &VEXA::ShowSelected);
   connect(panels_, &MainPanels::SampleInformationRequested, menu_.sampleInformation,
           &QAction::trigger);
+}
+
+void VEXA::ShowSelected() {
+  commands_->ShowSlot(GetOption());
+  Refresh();
 }
 
 void VEXA::Refresh() {

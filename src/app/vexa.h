@@ -61,6 +61,7 @@ class VEXA : public QMainWindow {
   QCoro::Task<> End();
   QCoro::Task<bool> Unload();
   void ListenToSession();
+  void ShowSelected();
   void Refresh();
   void SetPhase(Phase phase);
   void ShowAvailable();

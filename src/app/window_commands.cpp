@@ -14,6 +14,7 @@
 #include "views/files/addinp_frm.h"
 #include "views/files/data_file_commands.h"
 #include "views/files/environment_commands.h"
+#include "views/film/film_fit_window.h"
 #include "views/optics/ref_set_dlg.h"
 #include "views/optics/thick_graph.h"
 #include "views/optics/wave_list_dlg.h"
@@ -103,6 +104,7 @@ void WindowCommands::ConnectWindows() {
   Open(menu_.calibration, [this] { return new CalibrationDlg(session_, messages_, &window_); });
   Open(menu_.version, [this] { return MakeVersionDialog(&window_); });
   Do(menu_.thicknessGraph, [this] { ShowThicknessGraph(); });
+  Do(menu_.filmFit, [this] { ShowFilmFit(); });
 }
 
 void WindowCommands::ConnectLanguages() {
@@ -173,6 +175,22 @@ void WindowCommands::ShowThicknessGraph() {
   }
   thicknessGraph_->show();
   thicknessGraph_->raise();
+}
+
+void WindowCommands::ShowFilmFit() {
+  if (filmFit_.isNull()) {
+    filmFit_ = new FilmFitWindow(session_, preferences_, printer_, messages_, dialogs_,
+                                 selectedSlot_(), &window_);
+    filmFit_->setAttribute(Qt::WA_DeleteOnClose);
+  }
+  filmFit_->show();
+  filmFit_->raise();
+}
+
+void WindowCommands::ShowSlot(int slot) {
+  if (!filmFit_.isNull()) {
+    filmFit_->ShowSlot(slot);
+  }
 }
 
 QDialog* WindowCommands::MakeSettingsList() {

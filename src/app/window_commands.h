@@ -2,6 +2,7 @@
 #pragma once
 
 #include <QObject>
+#include <QPointer>
 #include <functional>
 
 #include "app/main_menu.h"
@@ -16,6 +17,7 @@ class QWidget;
 
 namespace vexa {
 
+class FilmFitWindow;
 class ThickGraph;
 
 /// What the windows of the menu work with.
@@ -37,6 +39,9 @@ class WindowCommands : public QObject {
  public:
   WindowCommands(const MenuCommands& menu, WindowParts parts, QWidget& window);
 
+  /// Has the windows beside the main one follow the slot that it shows.
+  void ShowSlot(int slot);
+
   /// Takes or gives away what must not happen while something runs.
   void ShowAvailable(bool usable);
 
@@ -51,6 +56,7 @@ class WindowCommands : public QObject {
   void Print();
   void KeepLanguage(const QString& code);
   void ShowThicknessGraph();
+  void ShowFilmFit();
   [[nodiscard]] QDialog* MakeSettingsList();
 
   const MenuCommands& menu_;
@@ -66,6 +72,7 @@ class WindowCommands : public QObject {
   CurrentPrinter printer_;
   ReportRequest report_;  ///< as printed last
   ThickGraph* thicknessGraph_ = nullptr;
+  QPointer<FilmFitWindow> filmFit_;
 };
 
 }  // namespace vexa

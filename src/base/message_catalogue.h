@@ -100,6 +100,8 @@ enum class Message : std::uint8_t {
   kHistoryScaleFault,
   kHistoryScaleOutOfRange,
   kHistoryWriteError,
+  kFilmFitRefused,    ///< %1 what is wrong with an entry
+  kFilmStackFault,    ///< %1 path, %2 what is wrong with it
 
   // Standards. %1 names the group, or the field.
   kStandardOutOfRange,

@@ -29,7 +29,6 @@ struct SlotReport {
   bool colourOk = false;
   ColourResult colour;  ///< not a number what could not be computed
   std::optional<Status> thickness;
-  std::vector<ThicknessDoubt> doubts;  ///< about the thickness
 };
 
 struct Part {
@@ -70,16 +69,13 @@ std::vector<SlotReport> Evaluate(Session& session, MessageService& messages) {
     if (!slot.valid) {
       continue;
     }
-    SlotReport& report = reports.emplace_back(SlotReport{number, &slot, false, {}, {}, {}});
+    SlotReport& report = reports.emplace_back(SlotReport{number, &slot, false, {}, {}});
     FillColour(state.colour, report);
     if (state.thickness.enabled) {
       report.thickness = session.ComputeThickness(number);
       if (report.thickness != kSuccess) {
         messages.Tell(SlotThicknessMessage(*report.thickness));
       }
-      report.doubts = FindThicknessDoubts(
-          state.thickness.type, slot.reflectance,
-          slot.filmIndex.IsEmpty() ? state.filmIndex : slot.filmIndex, slot.thickness);
     }
   }
   return reports;
@@ -115,7 +111,7 @@ QJsonObject ThicknessJson(const SlotReport& report) {
         {QStringLiteral("kind"), extremum.maximum ? QStringLiteral("P") : QStringLiteral("V")}});
   }
   QJsonArray doubts;
-  for (const ThicknessDoubt doubt : report.doubts) {
+  for (const ThicknessDoubt doubt : report.slot->doubts) {
     doubts.append(ThicknessDoubtName(doubt));
   }
   return {{QStringLiteral("status"), status},
@@ -196,7 +192,7 @@ void PrintThicknesses(const std::vector<SlotReport>& reports, const QString& uni
     };
     const ThicknessResult& result = report.slot->thickness;
     QStringList doubts;
-    for (const ThicknessDoubt doubt : report.doubts) {
+    for (const ThicknessDoubt doubt : report.slot->doubts) {
       doubts << ThicknessDoubtName(doubt);
     }
     const QString end = doubts.isEmpty() ? QString() : QStringLiteral("  ") + doubts.join(u',');

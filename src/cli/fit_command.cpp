@@ -15,6 +15,7 @@
 #include "optics/film_fit.h"
 #include "optics/film_stack_file.h"
 #include "optics/fourier_thickness.h"
+#include "records/result_json.h"
 
 namespace vexa::cli {
 namespace {
@@ -132,34 +133,9 @@ QJsonValue Number(double value) {
   return ToJson(std::array{value}).first();
 }
 
-QJsonObject FitJson(const FilmFit& fit) {
-  QJsonArray layers;
-  for (const FittedLayer& layer : fit.layers) {
-    layers.append(QJsonObject{{QStringLiteral("thickness"), Number(layer.thicknessNm)},
-                              {QStringLiteral("uncertainty"), Number(layer.uncertaintyNm)},
-                              {QStringLiteral("statistical"), Number(layer.statisticalNm)}});
-  }
-  QJsonArray alternatives;
-  for (const FitAlternative& alternative : fit.alternatives) {
-    alternatives.append(QJsonObject{{QStringLiteral("layers"), ToJson(alternative.thicknessesNm)},
-                                    {QStringLiteral("rms"), Number(alternative.rms)}});
-  }
-  return {{QStringLiteral("outcome"), FitOutcomeName(fit.outcome)},
-          {QStringLiteral("layers"), layers},
-          {QStringLiteral("scale"), Number(fit.scale)},
-          {QStringLiteral("offset"), Number(fit.offset)},
-          {QStringLiteral("spread"), Number(fit.spread)},
-          {QStringLiteral("index"), Number(fit.index)},
-          {QStringLiteral("rms"), Number(fit.rms)},
-          {QStringLiteral("noise"), Number(fit.noise)},
-          {QStringLiteral("alternatives"), alternatives},
-          {QStringLiteral("warnings"), QJsonArray::fromStringList(fit.warnings)}};
-}
-
-QJsonObject FourierJson(const ReflectanceSpectrum& spectrum, const FilmStack& stack,
-                        const FilmFitOptions& options) {
-  const auto transform =
-      TransformFringes(spectrum, stack.layers.front().n, options.fromNm, options.toNm);
+QJsonObject FourierJson(const ReflectanceSpectrum& spectrum, const FilmFitRequest& request) {
+  const auto transform = TransformFringes(spectrum, request.stack.layers.front().n,
+                                          request.options.fromNm, request.options.toNm);
   const bool found = transform && !transform->peaks.empty();
   return {
       {QStringLiteral("thickness"),
@@ -193,18 +169,8 @@ void PrintText(const std::vector<Fitted>& fitted) {
   Print(TextColumns(rows));
 }
 
-std::vector<ThicknessRange> Ranges(const FilmStackSetting& setting) {
-  std::vector<ThicknessRange> ranges;
-  ranges.reserve(setting.layers.size());
-  for (const FilmLayerSetting& layer : setting.layers) {
-    ranges.push_back(layer.range);
-  }
-  return ranges;
-}
-
 // The fits of the valid slots, or of one. A slot that is refused has no film.
-std::vector<Fitted> FitValid(const VEXATYPE& state, const FilmStack& stack,
-                             const FilmStackSetting& setting, int only) {
+std::vector<Fitted> FitValid(const VEXATYPE& state, const FilmFitRequest& request, int only) {
   constexpr double kNotANumber = std::numeric_limits<double>::quiet_NaN();
   std::vector<Fitted> fitted;
   std::vector<ReflectanceSpectrum> spectra;
@@ -215,11 +181,11 @@ std::vector<Fitted> FitValid(const VEXATYPE& state, const FilmStack& stack,
       spectra.push_back(slot.reflectance);
     }
   }
-  const auto fits = FitFilms(spectra, stack, Ranges(setting), setting.options);
+  const auto fits = FitFilms(spectra, request.stack, request.ranges, request.options);
   for (std::size_t i = 0; i < fits.size(); ++i) {
     if (const auto* fault = std::get_if<FilmFitFault>(&fits[i])) {
       Complain(QStringLiteral("slot %1: %2").arg(fitted[i].number).arg(FilmFitFaultText(*fault)));
-      fitted[i].fit.layers.assign(stack.layers.size(), {kNotANumber, kNotANumber, kNotANumber});
+      fitted[i].fit.layers.assign(request.ranges.size(), {kNotANumber, kNotANumber, kNotANumber, kNotANumber, kNotANumber});
     } else {
       fitted[i].fit = std::get<FilmFit>(fits[i]);
     }
@@ -227,15 +193,15 @@ std::vector<Fitted> FitValid(const VEXATYPE& state, const FilmStack& stack,
   return fitted;
 }
 
-void PrintFits(const QString& path, const std::vector<Fitted>& fitted, const FilmStack& stack,
-               const FilmFitOptions& options) {
+void PrintFits(const QString& path, const std::vector<Fitted>& fitted,
+               const FilmFitRequest& request) {
   QJsonArray slotList;
   for (const auto& [number, slot, fit] : fitted) {
     slotList.append(
         QJsonObject{{QStringLiteral("slot"), number},
                     {QStringLiteral("sample"), slot->info.sampleNumber},
-                    {QStringLiteral("fit"), FitJson(fit)},
-                    {QStringLiteral("fourier"), FourierJson(slot->reflectance, stack, options)}});
+                    {QStringLiteral("fit"), FilmFitJson(fit)},
+                    {QStringLiteral("fourier"), FourierJson(slot->reflectance, request)}});
   }
   PrintJson({{QStringLiteral("file"), path}, {QStringLiteral("slots"), slotList}});
 }
@@ -246,16 +212,16 @@ int Fit(const QCommandLineParser& parser) {
   if (!only || !TakeLayers(parser, setting) || !TakeOptions(parser, setting.options)) {
     return kUsageError;
   }
-  if (const auto fault = CheckFilmFit(Ranges(setting), setting.options)) {
+  if (const auto fault = CheckFilmFit(LayerRanges(setting), setting.options)) {
     Complain(FilmFitFaultText(*fault));
     return kUsageError;
   }
-  const auto read = ReadFilmStack(setting, QDir::currentPath());
+  const auto read = ReadFilmFitRequest(setting, QDir::currentPath());
   if (const auto* fault = std::get_if<FilmMaterialFault>(&read)) {
     Complain(fault->material + QStringLiteral(": ") + MaterialFaultText(fault->fault));
     return kFailed;
   }
-  const auto& stack = std::get<FilmStack>(read);
+  const auto& request = std::get<FilmFitRequest>(read);
   ConsoleMessages messages(parser.isSet(option::kNo));
   Session session({});
   const VEXATYPE& state = session.State();
@@ -267,9 +233,9 @@ int Fit(const QCommandLineParser& parser) {
     Complain(QStringLiteral("%1: slot %2 is empty").arg(path).arg(*only));
     return kFailed;
   }
-  const std::vector<Fitted> fitted = FitValid(state, stack, setting, *only);
+  const std::vector<Fitted> fitted = FitValid(state, request, *only);
   if (parser.isSet(option::kJson)) {
-    PrintFits(path, fitted, stack, setting.options);
+    PrintFits(path, fitted, request);
   } else {
     PrintText(fitted);
   }

@@ -12,6 +12,9 @@ namespace vexa {
 namespace {
 
 constexpr quint8 kValidBit = 1;
+constexpr quint8 kDoubtfulBit = 2;
+constexpr quint8 kFittedBit = 4;
+constexpr auto kLastDoubt = static_cast<quint8>(ThicknessDoubt::kDisagrees);
 constexpr std::size_t kFirstSlotPlace = 2;
 constexpr std::size_t kStockPlace = kFirstSlotPlace + kSlotCount;
 constexpr std::size_t kHistoryPlace = kStockPlace + 1;
@@ -90,6 +93,8 @@ class Reader {
     return *this;
   }
 
+  [[nodiscard]] bool AtEnd() const { return stream_.atEnd(); }
+
   /// Everything was there, was a finite number where it was one, and nothing is left.
   [[nodiscard]] bool ReadAll() const {
     return stream_.status() == QDataStream::Ok && stream_.atEnd() && finite_;
@@ -134,6 +139,9 @@ QByteArray SlotBytes(const MeasurementSlot& slot) {
   for (const Extremum& extremum : thickness.extrema.Found()) {
     out << extremum.point.wavelengthNm << extremum.point.reflectance << FlagByte(extremum.maximum);
   }
+  for (const ThicknessDoubt doubt : slot.doubts) {
+    out << static_cast<quint8>(doubt);
+  }
   return out.Bytes();
 }
 
@@ -161,6 +169,14 @@ bool PutSlot(const QByteArray& bytes, MeasurementSlot& slot) {
   in >> flags >> read.info.measuredAt >> read.info.sampleNumber >> read.info.remark1 >>
       read.info.remark2 >> read.reflectance.Values();
   ReadThickness(in, read.thickness);
+  while (!in.AtEnd() && read.doubts.size() <= kLastDoubt) {
+    quint8 doubt = 0;
+    in >> doubt;
+    if (doubt > kLastDoubt) {
+      return false;
+    }
+    read.doubts.push_back(static_cast<ThicknessDoubt>(doubt));
+  }
   if (in.ReadAll()) {
     read.valid = flags == kValidBit;
     slot = read;
@@ -200,6 +216,10 @@ bool PutStock(const QByteArray& bytes, Flag& accumulate, ColourStock& stock) {
 QByteArray HistoryBytes(const ThicknessHistory& history) {
   Writer out;
   out << FlagByte(history.physical) << history.count << history.Points();
+  for (const HistoryNote& note : history.Notes()) {
+    out << static_cast<quint8>((note.doubtful ? kDoubtfulBit : 0) | (note.fitted ? kFittedBit : 0))
+        << note.fitNm;
+  }
   return out.Bytes();
 }
 
@@ -209,7 +229,14 @@ bool PutHistory(const QByteArray& bytes, ThicknessHistory& history) {
   ThicknessHistory read;
   in >> physical >> read.count;
   read.count = std::clamp<std::int16_t>(read.count, 0, ThicknessHistory::kCapacity);
-  in >> std::span(read.values).first(static_cast<std::size_t>(read.count));
+  const auto count = static_cast<std::size_t>(read.count);
+  in >> std::span(read.values).first(count);
+  for (HistoryNote& note : std::span(read.notes).first(in.AtEnd() ? 0 : count)) {
+    quint8 flags = 0;
+    in >> flags >> note.fitNm;
+    note.doubtful = (flags & kDoubtfulBit) != 0;
+    note.fitted = (flags & kFittedBit) != 0;
+  }
   if (in.ReadAll()) {
     read.physical = physical == kValidBit;
     history = read;

@@ -27,6 +27,7 @@ void EvaluateAgain(VEXATYPE& state) {
 
 Status ComputeSlotThickness(const VEXATYPE& state, MeasurementSlot& slot) {
   slot.thickness = {};
+  slot.doubts.clear();
   slot.filmIndex = {};
   const bool fromSubstrate = state.thickness.coat.kind == DispersionKind::kSubstrate;
   if (fromSubstrate && state.thickness.type == ThicknessType::kC) {
@@ -43,7 +44,21 @@ Status ComputeSlotThickness(const VEXATYPE& state, MeasurementSlot& slot) {
   if (fromSubstrate && status == kSuccess) {
     slot.filmIndex = filmIndex;
   }
+  slot.doubts =
+      FindThicknessDoubts(state.thickness.type, slot.reflectance, filmIndex, slot.thickness);
   return status;
+}
+
+std::optional<HistoryPoint> HistoryPointOf(const MeasurementSlot& slot) {
+  const bool fitted = slot.fit && slot.fit->outcome == FitOutcome::kOk;
+  const double fitNm = fitted ? slot.fit->layers.front().thicknessNm : 0.0;
+  if (slot.thickness.IsComputed()) {
+    // An optical thickness and the fit's are not of one scale.
+    return HistoryPoint{slot.thickness.thicknessNm,
+                        slot.thickness.physical,
+                        {!slot.doubts.empty(), false, slot.thickness.physical ? fitNm : 0.0}};
+  }
+  return fitted ? std::optional(HistoryPoint{fitNm, true, {false, true, 0.0}}) : std::nullopt;
 }
 
 std::optional<MessageCall> AccumulationMessage(std::optional<StockAddResult> result) {

@@ -20,11 +20,16 @@ void JudgeSlot(const VEXATYPE& state, MeasurementSlot& slot);
 void EvaluateAgain(VEXATYPE& state);
 
 /// Computes the thickness for the slot, with the index in force; when that is computed from the
-/// substrate's, the film's index is kept with the slot that it belongs to. A failure leaves zeros
+/// substrate's, the film's index is kept with the slot that it belongs to. The doubts about the
+/// number are kept beside it. A failure leaves zeros
 /// and no extrema: the status of ComputeThickness, or kIndexMissing.
 [[nodiscard]] Status ComputeSlotThickness(const VEXATYPE& state, MeasurementSlot& slot);
 
 inline constexpr Status kIndexMissing = -5;  ///< the index that the setting names is not loaded
+
+/// The point that a slot gives the history: the thickness of its extrema, and beside it that of a
+/// fit that is beyond doubt; or this one alone, of the layer next to the air. Nothing without both.
+[[nodiscard]] std::optional<HistoryPoint> HistoryPointOf(const MeasurementSlot& slot);
 
 /// What to tell of a colour that filled the accumulated ones, or found them full.
 [[nodiscard]] std::optional<MessageCall> AccumulationMessage(std::optional<StockAddResult> result);

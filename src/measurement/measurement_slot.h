@@ -3,11 +3,15 @@
 
 #include <QDateTime>
 #include <QString>
+#include <optional>
+#include <vector>
 
 #include "base/flag.h"
 #include "base/spectrum.h"
 #include "colour/colorimetry.h"
+#include "optics/film_fit.h"
 #include "optics/thickness.h"
+#include "optics/thickness_doubts.h"
 #include "standards/judgement.h"
 
 namespace vexa {
@@ -25,10 +29,13 @@ struct SampleInfo {
 /// One of the ten stored measurements.
 struct MeasurementSlot {
   ReflectanceSpectrum reflectance;  ///< percent, never negative
+  ReflectanceSpectrum noise;        ///< of it, up to a common factor; zero where not known
   SampleInfo info;
   ColourResult colour;
   Judgement judgement;
-  ThicknessResult thickness;      ///< zero when none was computed
+  ThicknessResult thickness;           ///< zero when none was computed
+  std::vector<ThicknessDoubt> doubts;  ///< about the thickness
+  std::optional<FilmFit> fit;          ///< made last of this spectrum
   ReflectanceSpectrum filmIndex;  ///< that the thickness was computed with, where the substrate's
                                   ///< index gives it; else zero
   Flag valid;                     ///< the slot holds a spectrum, measured or loaded

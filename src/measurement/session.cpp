@@ -5,6 +5,7 @@
 
 #include "measurement/evaluation.h"
 #include "measurement/reflectance.h"
+#include "measurement/reflectance_noise.h"
 
 namespace vexa {
 
@@ -43,6 +44,7 @@ SampleStorage Session::StoreSample(int slotNumber, const RawSpectrum& counts,
   fresh.reflectance =
       ComputeReflectance(counts, state_.background, state_.reference,
                          state_.instrument.calibrationShiftNm, state_.referenceReflectance);
+  fresh.noise = ReflectanceNoise(state_, counts, taken);
   if (slot.informationTyped) {
     fresh.info = slot.info;
   }
@@ -58,13 +60,16 @@ SampleStorage Session::StoreSample(int slotNumber, const RawSpectrum& counts,
     result.thickness = ComputeSlotThickness(state_, slot);
     state_.extrema = slot.thickness.extrema;
   }
+  if (fitEachSample_) {
+    FitSlot(slot);
+  }
   state_.slotsSaved = false;
   emit SlotChanged(slotNumber);
   if (result.stock) {
     emit StockChanged();
   }
-  if (result.thickness == kSuccess) {
-    result.history = AddToHistory(slot.thickness);
+  if (const std::optional<HistoryPoint> point = HistoryPointOf(slot)) {
+    result.history = AddToHistory(*point);
   }
   emit SampleStored(slotNumber);
   return result;
@@ -150,6 +155,36 @@ Status Session::ComputeThickness(int slotNumber) {
   return status;
 }
 
+void Session::SetFilmFit(const FilmFitRequest& request, bool eachSample) {
+  const bool another = filmFit_ && *filmFit_ != request;
+  filmFit_ = request;
+  fitEachSample_ = eachSample;
+  for (int number = 1; another && number <= kSlotCount; ++number) {
+    if (MeasurementSlot& slot = *state_.Slot(number); slot.fit) {
+      slot.fit.reset();
+      emit SlotChanged(number);
+    }
+  }
+}
+
+void Session::EndFilmFit() {
+  fitEachSample_ = false;
+}
+
+void Session::StoreFit(int slotNumber, const FilmFit& fit) {
+  state_.Slot(slotNumber)->fit = fit;
+  emit SlotChanged(slotNumber);
+}
+
+// A few milliseconds, some ten for two layers: less than the disk takes for the record.
+void Session::FitSlot(MeasurementSlot& slot) const {
+  const auto fit = FitFilm(slot.reflectance, filmFit_->stack, filmFit_->ranges, filmFit_->options,
+                           slot.noise.IsEmpty() ? nullptr : &slot.noise);
+  if (const auto* made = std::get_if<FilmFit>(&fit)) {
+    slot.fit = *made;
+  }
+}
+
 void Session::TakeSettings(const Settings& settings) {
   static_cast<Settings&>(state_) = settings;
   EvaluateAgain(state_);
@@ -192,9 +227,8 @@ void Session::ReplaceStock(const ColourStock& stock) {
   emit StockChanged();
 }
 
-HistoryAddResult Session::AddToHistory(const ThicknessResult& thickness) {
-  const HistoryAddResult result =
-      state_.thicknessHistory.Append(thickness.thicknessNm, thickness.physical);
+HistoryAddResult Session::AddToHistory(const HistoryPoint& point) {
+  const HistoryAddResult result = state_.thicknessHistory.Append(point);
   if (result == HistoryAddResult::kAdded) {
     emit HistoryChanged();
   }

@@ -45,8 +45,8 @@ class Session : public QObject {
   void StoreFrame(FrameKind kind, const RawSpectrum& counts, const FrameConditions& taken);
 
   /// Puts a sample into slot 1..10, in this order: reflectance, evaluation, accumulation, verdicts,
-  /// date, and where it is automatic the thickness with its point of the history. What was typed of
-  /// the slot's earlier sample goes, unless it was typed after that was measured.
+  /// date, and where they are automatic the thickness and the fit with their point of the history.
+  /// What was typed of the slot's earlier sample goes, unless it was typed after that was measured.
   SampleStorage StoreSample(int slot, const RawSpectrum& counts, const FrameConditions& taken);
 
   /// Empties all ten slots and their sample information.
@@ -71,6 +71,14 @@ class Session : public QObject {
   /// The thickness of a slot under the settings in force. A failure leaves the slot none.
   [[nodiscard]] Status ComputeThickness(int slot);
 
+  /// What films are fitted with from now on; the fits of another stack or of other options go.
+  /// `eachSample`: each sample that is stored is fitted before it is announced.
+  void SetFilmFit(const FilmFitRequest& request, bool eachSample);
+  /// Films are fitted no longer; the fits stay.
+  void EndFilmFit();
+  /// Keeps a fit of the slot's spectrum.
+  void StoreFit(int slot, const FilmFit& fit);
+
   /// Puts settings in force, as a file or a dialog has made them. Colours and verdicts are computed
   /// again.
   void TakeSettings(const Settings& settings);
@@ -85,8 +93,7 @@ class Session : public QObject {
   void RemoveAllColours();
   void ReplaceStock(const ColourStock& stock);
 
-  /// Offers the slot's thickness to the history.
-  HistoryAddResult AddToHistory(const ThicknessResult& thickness);
+  HistoryAddResult AddToHistory(const HistoryPoint& point);
   /// Removes point 1..count; false when there is no such point.
   bool RemoveFromHistory(int point);
   void ClearHistory();
@@ -103,10 +110,13 @@ class Session : public QObject {
   void StockChanged();
 
  private:
+  void FitSlot(MeasurementSlot& slot) const;
   void KeepStockPure();
 
   VEXATYPE state_;
   Clock clock_;
+  std::optional<FilmFitRequest> filmFit_;
+  bool fitEachSample_ = false;
 };
 
 }  // namespace vexa

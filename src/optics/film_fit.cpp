@@ -63,8 +63,10 @@ double NoiseOf(std::span<const double> values) {
 class Fitter {
  public:
   Fitter(const ReflectanceSpectrum& spectrum, const FilmStack& stack,
-         std::span<const ThicknessRange> ranges, const FilmFitOptions& options)
+         std::span<const ThicknessRange> ranges, const FilmFitOptions& options,
+         const ReflectanceSpectrum* noise)
       : spectrum_(spectrum),
+        noise_(noise),
         stack_(stack),
         ranges_(ranges),
         options_(options),
@@ -193,7 +195,11 @@ class Fitter {
   FilmFit Judged(std::vector<FilmSolution>& found) {
     FilmSolution& best = found.front();
     const double quickRms = best.rms;
-    solver_.WeighBy(solver_.Residuals(best.point));
+    if (noise_ != nullptr) {
+      solver_.WeighBy(*noise_);
+    } else {
+      solver_.WeighByResiduals(solver_.Residuals(best.point));
+    }
     if (auto weighted = solver_.Solve(best.point, best.parameters, {.step = 1e-8})) {
       best = std::move(*weighted);
     }
@@ -277,7 +283,7 @@ class Fitter {
 
   void FillLayers(const FilmSolution& best, FilmFit& fit) {
     for (const double nm : best.point.state.thicknessesNm) {
-      fit.layers.push_back({nm, 0.0, 0.0});
+      fit.layers.push_back({.thicknessNm = nm});
     }
     const std::size_t count = best.parameters.size();
     const auto freedom = static_cast<double>(measured_.size() - count);
@@ -291,8 +297,9 @@ class Fitter {
       FittedLayer& layer = fit.layers[best.parameters[i].layer];
       layer.statisticalNm = quantile * std::sqrt(variance * best.result.Covariance(i, i));
       const bool known = best.parameters[i].layer > 0 || !options_.indexFree;
-      const double byIndex = known ? layer.thicknessNm * options_.indexUncertainty : 0.0;
-      layer.uncertaintyNm = std::hypot(layer.statisticalNm, byWavelength[i], byIndex);
+      layer.wavelengthNm = std::abs(byWavelength[i]);
+      layer.indexNm = known ? layer.thicknessNm * options_.indexUncertainty : 0.0;
+      layer.uncertaintyNm = std::hypot(layer.statisticalNm, layer.wavelengthNm, layer.indexNm);
     }
   }
 
@@ -324,12 +331,14 @@ class Fitter {
     fit.outcome = FitOutcome::kNone;
     fit.spread = 0.0;
     fit.index = 1.0;
-    fit.layers.assign(ranges_.size(), {kNotANumber, kNotANumber, kNotANumber});
+    fit.layers.assign(ranges_.size(),
+                      {kNotANumber, kNotANumber, kNotANumber, kNotANumber, kNotANumber});
     fit.alternatives.clear();
     return fit;
   }
 
   const ReflectanceSpectrum& spectrum_;
+  const ReflectanceSpectrum* noise_;
   const FilmStack& stack_;
   std::span<const ThicknessRange> ranges_;
   const FilmFitOptions& options_;
@@ -342,11 +351,12 @@ class Fitter {
 std::variant<FilmFit, FilmFitFault> FitFilm(const ReflectanceSpectrum& spectrum,
                                             const FilmStack& stack,
                                             std::span<const ThicknessRange> ranges,
-                                            const FilmFitOptions& options) {
+                                            const FilmFitOptions& options,
+                                            const ReflectanceSpectrum* noise) {
   if (const auto fault = CheckFilmFit(spectrum, stack, ranges, options)) {
     return *fault;
   }
-  return Fitter(spectrum, stack, ranges, options).Run();
+  return Fitter(spectrum, stack, ranges, options, noise).Run();
 }
 
 std::vector<std::variant<FilmFit, FilmFitFault>> FitFilms(

@@ -39,6 +39,15 @@ struct FilmFitOptions {
   bool operator==(const FilmFitOptions&) const = default;
 };
 
+/// All that a fit takes besides a spectrum.
+struct FilmFitRequest {
+  FilmStack stack;
+  std::vector<ThicknessRange> ranges;  ///< one a layer
+  FilmFitOptions options;
+
+  bool operator==(const FilmFitRequest&) const = default;
+};
+
 enum class FitOutcome {
   kOk,
   kAmbiguous,  ///< another minimum fits nearly as well
@@ -48,8 +57,10 @@ enum class FitOutcome {
 
 struct FittedLayer {
   double thicknessNm = 0.0;
-  double uncertaintyNm = 0.0;  ///< half width of the interval: noise, wavelength scale and index
+  double uncertaintyNm = 0.0;  ///< half width of the interval: the three parts added in squares
   double statisticalNm = 0.0;  ///< the part of the noise
+  double wavelengthNm = 0.0;   ///< the part of the wavelength scale
+  double indexNm = 0.0;        ///< the part of the index
 };
 
 /// A further minimum.
@@ -94,13 +105,14 @@ enum class FilmFitFault {
 /// The thicknesses of a stack by a least-squares fit of its FilmModel to a spectrum in percent.
 ///
 /// The start values are the peaks of the Fourier transform and, below 1.2 um, a scan; from the best
-/// of them the solver goes to the minimum, at last with weights from the residual's own noise. The
+/// of them the solver goes to the minimum, at last with weights: from `noise`, the spectrum's at
+/// each wavelength up to a common factor, where it is given, else from the residual itself. The
 /// spread is taken in when it makes the fit clearly better. The statistical part of the interval is
 /// Student's, from the covariance and the residual; the other parts are added in squares.
-[[nodiscard]] std::variant<FilmFit, FilmFitFault> FitFilm(const ReflectanceSpectrum& spectrum,
-                                                          const FilmStack& stack,
-                                                          std::span<const ThicknessRange> ranges,
-                                                          const FilmFitOptions& options = {});
+[[nodiscard]] std::variant<FilmFit, FilmFitFault> FitFilm(
+    const ReflectanceSpectrum& spectrum, const FilmStack& stack,
+    std::span<const ThicknessRange> ranges, const FilmFitOptions& options = {},
+    const ReflectanceSpectrum* noise = nullptr);
 
 /// FitFilm for several spectra at once, on as many threads as there are processors.
 [[nodiscard]] std::vector<std::variant<FilmFit, FilmFitFault>> FitFilms(
@@ -109,6 +121,10 @@ enum class FilmFitFault {
 
 /// "ok", "ambiguous", "poor", "none".
 [[nodiscard]] QString FitOutcomeName(FitOutcome outcome);
+
+/// The outcome in a word, and in a sentence, for the user.
+[[nodiscard]] QString FitOutcomeWord(FitOutcome outcome);
+[[nodiscard]] QString FitOutcomeText(FitOutcome outcome);
 
 /// What to tell the user.
 [[nodiscard]] QString FilmFitFaultText(FilmFitFault fault);

@@ -87,6 +87,34 @@ QString FitOutcomeName(FitOutcome outcome) {
   return QStringLiteral("none");
 }
 
+QString FitOutcomeWord(FitOutcome outcome) {
+  switch (outcome) {
+    case FitOutcome::kOk:
+      return Text::tr("良好");
+    case FitOutcome::kAmbiguous:
+      return Text::tr("あいまい");
+    case FitOutcome::kPoor:
+      return Text::tr("不一致");
+    case FitOutcome::kNone:
+      break;
+  }
+  return Text::tr("膜なし");
+}
+
+QString FitOutcomeText(FitOutcome outcome) {
+  switch (outcome) {
+    case FitOutcome::kOk:
+      return Text::tr("膜構成が試料に合っています。");
+    case FitOutcome::kAmbiguous:
+      return Text::tr("他の膜厚でもほぼ同じように合います。");
+    case FitOutcome::kPoor:
+      return Text::tr("残差がノイズよりはるかに大きく、膜構成が試料と合っていません。");
+    case FitOutcome::kNone:
+      break;
+  }
+  return Text::tr("膜が検出されません。");
+}
+
 QString FilmFitFaultText(FilmFitFault fault) {
   switch (fault) {
     case FilmFitFault::kLayers:

@@ -15,6 +15,8 @@ inline constexpr std::size_t kMostFilmLayers = 4;
 struct FilmStack {
   Material substrate;
   std::vector<Material> layers;  ///< one to four
+
+  bool operator==(const FilmStack&) const = default;
 };
 
 /// What is not known of a stack.

@@ -186,7 +186,18 @@ std::vector<double> FilmSolver::Residuals(const FilmPoint& point) {
   return residuals;
 }
 
-void FilmSolver::WeighBy(std::span<const double> residuals) {
+// About 1: the solver stops by the size of its steps.
+void FilmSolver::WeighBy(const ReflectanceSpectrum& noise) {
+  std::vector<double> used;
+  used.reserve(model_.Points());
+  for (std::size_t i = 0; i < model_.Points(); ++i) {
+    used.push_back(noise[model_.Nm(i)]);
+  }
+  const double common = Rms(used);
+  std::ranges::transform(used, rootWeights_.begin(), [common](double n) { return common / n; });
+}
+
+void FilmSolver::WeighByResiduals(std::span<const double> residuals) {
   const auto last = static_cast<std::ptrdiff_t>(residuals.size()) - 1;
   for (std::ptrdiff_t i = 0; i <= last; ++i) {
     const auto low = std::max<std::ptrdiff_t>(i - kNoiseReachNm, 0);

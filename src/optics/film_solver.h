@@ -59,8 +59,10 @@ class FilmSolver {
   [[nodiscard]] std::span<const double> Reflect(const FilmState& state);
   [[nodiscard]] LinearMatch Match(const FilmState& state);
 
-  /// Weights for what is solved next, from the size of the residuals around each wavelength.
-  void WeighBy(std::span<const double> residuals);
+  /// Weights for what is solved next, from the noise at each wavelength, which is above 0, or from
+  /// the size of the residuals around it.
+  void WeighBy(const ReflectanceSpectrum& noise);
+  void WeighByResiduals(std::span<const double> residuals);
 
   /// How far each parameter moves when all wavelengths are wrong by their uncertainty: the change
   /// of the spectrum carried through the linearised fit, (J^T J)^-1 J^T (dR/dw u).

@@ -135,20 +135,30 @@ WriteResult WriteFilmStackFile(const QString& path, const FilmStackSetting& sett
   return ReplaceFile(path, QJsonDocument(object).toJson());
 }
 
-std::variant<FilmStack, FilmMaterialFault> ReadFilmStack(const FilmStackSetting& setting,
-                                                         const QString& directory) {
-  FilmStack stack;
+std::vector<ThicknessRange> LayerRanges(const FilmStackSetting& setting) {
+  std::vector<ThicknessRange> ranges;
+  ranges.reserve(setting.layers.size());
+  for (const FilmLayerSetting& layer : setting.layers) {
+    ranges.push_back(layer.range);
+  }
+  return ranges;
+}
+
+std::variant<FilmFitRequest, FilmMaterialFault> ReadFilmFitRequest(const FilmStackSetting& setting,
+                                                                   const QString& directory) {
+  FilmFitRequest request{{}, LayerRanges(setting), setting.options};
+  FilmStack& stack = request.stack;
   stack.layers.resize(setting.layers.size());
   for (std::size_t i = 0; i <= setting.layers.size(); ++i) {
     const bool isSubstrate = i == setting.layers.size();
     const QString& text = isSubstrate ? setting.substrate : setting.layers[i].material;
     const auto material = ReadMaterial(text, directory);
     if (const auto* fault = std::get_if<MaterialFault>(&material)) {
-      return FilmMaterialFault{*fault, text};
+      return FilmMaterialFault{*fault, text, i};
     }
     (isSubstrate ? stack.substrate : stack.layers[i]) = std::get<Material>(material);
   }
-  return stack;
+  return request;
 }
 
 QString FilmStackFileFaultText(FilmStackFileFault fault) {

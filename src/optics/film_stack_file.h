@@ -41,12 +41,16 @@ enum class FilmStackFileFault {
 /// Writes the file in the place of the old one; false, and the old one as it was, when that fails.
 WriteResult WriteFilmStackFile(const QString& path, const FilmStackSetting& setting);
 
-/// The materials of a setting; a relative file name counts from `directory`.
+/// The limits of the layers.
+[[nodiscard]] std::vector<ThicknessRange> LayerRanges(const FilmStackSetting& setting);
+
+/// What a setting asks, with its materials read; a relative file name counts from `directory`.
 struct FilmMaterialFault {
   MaterialFault fault;
-  QString material;  ///< the text that gives none
+  QString material;   ///< the text that gives none
+  std::size_t place;  ///< of the layer, from 0; the number of layers for the substrate
 };
-[[nodiscard]] std::variant<FilmStack, FilmMaterialFault> ReadFilmStack(
+[[nodiscard]] std::variant<FilmFitRequest, FilmMaterialFault> ReadFilmFitRequest(
     const FilmStackSetting& setting, const QString& directory);
 
 /// What to tell the user.

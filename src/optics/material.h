@@ -15,6 +15,8 @@ struct Material {
   ReflectanceSpectrum k;
 
   [[nodiscard]] std::complex<double> At(int nm) const { return {n[nm], -k[nm]}; }
+
+  bool operator==(const Material&) const = default;
 };
 
 /// Why a text gives no material.

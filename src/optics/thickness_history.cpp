@@ -11,17 +11,18 @@
 
 namespace vexa {
 
-HistoryAddResult ThicknessHistory::Append(double thicknessNm, Flag isPhysical) {
+HistoryAddResult ThicknessHistory::Append(const HistoryPoint& point) {
   if (count == 0) {
-    physical = isPhysical;
+    physical = point.physical;
   }
-  if (physical != isPhysical) {
+  if (physical != point.physical) {
     return HistoryAddResult::kKindDiffers;
   }
   if (count >= kCapacity) {
     return HistoryAddResult::kFull;
   }
-  values[static_cast<std::size_t>(count)] = thicknessNm;
+  values[static_cast<std::size_t>(count)] = point.thicknessNm;
+  notes[static_cast<std::size_t>(count)] = point.note;
   ++count;
   return HistoryAddResult::kAdded;
 }
@@ -31,14 +32,17 @@ bool ThicknessHistory::Delete(int point) {
     return false;
   }
   std::shift_left(values.begin() + point - 1, values.begin() + count, 1);
+  std::shift_left(notes.begin() + point - 1, notes.begin() + count, 1);
   --count;
   values[static_cast<std::size_t>(count)] = 0.0;
+  notes[static_cast<std::size_t>(count)] = {};
   return true;
 }
 
 void ThicknessHistory::Clear() {
   count = 0;
   values.fill(0.0);
+  notes.fill({});
 }
 
 std::optional<ThicknessScale> AutoScale(std::span<const double> pointsNm) {

@@ -19,6 +19,22 @@ enum class HistoryAddResult {
   kFull,
 };
 
+/// What is known of a point of a history besides its thickness.
+struct HistoryNote {
+  Flag doubtful;       ///< there is a doubt about the thickness
+  Flag fitted;         ///< the thickness is that of the film fit; there was none of extrema
+  double fitNm = 0.0;  ///< that of the film fit beside the one of extrema; 0 for none
+
+  [[nodiscard]] bool IsEmpty() const { return !doubtful && !fitted && fitNm == 0.0; }
+};
+
+/// A thickness as it is offered to a history.
+struct HistoryPoint {
+  double thicknessNm = 0.0;
+  Flag physical = true;  ///< otherwise an optical thickness
+  HistoryNote note = {};
+};
+
 /// The thicknesses of successive measurements, oldest first.
 struct ThicknessHistory {
   static constexpr std::int16_t kCapacity = 50;
@@ -26,14 +42,18 @@ struct ThicknessHistory {
   std::int16_t count = 0;  ///< 0..50
   Flag physical = true;    ///< the values are physical thicknesses, otherwise optical ones
   std::array<double, kCapacity> values{};  ///< nm; points 1..count
+  std::array<HistoryNote, kCapacity> notes{};
 
   [[nodiscard]] std::span<const double> Points() const {
     return std::span(values).first(static_cast<std::size_t>(count));
   }
+  [[nodiscard]] std::span<const HistoryNote> Notes() const {
+    return std::span(notes).first(static_cast<std::size_t>(count));
+  }
 
   /// Appends a point; all stays as it was when it is not added. The first point makes the history
   /// one of physical or of optical thicknesses.
-  HistoryAddResult Append(double thicknessNm, Flag isPhysical);
+  HistoryAddResult Append(const HistoryPoint& point);
 
   /// Removes point 1..count, later points move down by one; false when there is no such point.
   [[nodiscard]] bool Delete(int point);

@@ -83,9 +83,13 @@ SampleRecord ResultsOf(const VEXATYPE& state, const MeasurementSlot& slot,
   sample.cieGroups = JudgeCie(cie, context.cieLimits);
   if (slot.thickness.IsComputed()) {
     sample.thickness = slot.thickness;
-    sample.doubts = context.doubts;
+    for (const ThicknessDoubt doubt : slot.doubts) {
+      sample.doubts << ThicknessDoubtName(doubt);
+    }
   }
-  sample.fit = context.fit;
+  if (slot.fit) {
+    sample.fit = FilmFitJson(*slot.fit);
+  }
   sample.groups = slot.judgement.groups;
   sample.supersedes = context.supersedes;
   sample.reason = context.reason;

@@ -164,6 +164,31 @@ ThicknessResult ThicknessOf(const QJsonObject& object) {
   return result;
 }
 
+QJsonObject FilmFitJson(const FilmFit& fit) {
+  QJsonArray layers;
+  for (const FittedLayer& layer : fit.layers) {
+    layers.append(QJsonObject{{QStringLiteral("thickness"), NumberJson(layer.thicknessNm)},
+                              {QStringLiteral("uncertainty"), NumberJson(layer.uncertaintyNm)},
+                              {QStringLiteral("statistical"), NumberJson(layer.statisticalNm)}});
+  }
+  QJsonArray alternatives;
+  for (const FitAlternative& alternative : fit.alternatives) {
+    alternatives.append(
+        QJsonObject{{QStringLiteral("layers"), NumbersJson(alternative.thicknessesNm)},
+                    {QStringLiteral("rms"), NumberJson(alternative.rms)}});
+  }
+  return {{QStringLiteral("outcome"), FitOutcomeName(fit.outcome)},
+          {QStringLiteral("layers"), layers},
+          {QStringLiteral("scale"), NumberJson(fit.scale)},
+          {QStringLiteral("offset"), NumberJson(fit.offset)},
+          {QStringLiteral("spread"), NumberJson(fit.spread)},
+          {QStringLiteral("index"), NumberJson(fit.index)},
+          {QStringLiteral("rms"), NumberJson(fit.rms)},
+          {QStringLiteral("noise"), NumberJson(fit.noise)},
+          {QStringLiteral("alternatives"), alternatives},
+          {QStringLiteral("warnings"), QJsonArray::fromStringList(fit.warnings)}};
+}
+
 QJsonArray GroupsJson(const GroupJudgements& groups) {
   return Json(groups, kGroupNames);
 }

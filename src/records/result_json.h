@@ -9,6 +9,7 @@
 
 #include "colour/cie_colour.h"
 #include "colour/colorimetry.h"
+#include "optics/film_fit.h"
 #include "optics/thickness.h"
 #include "standards/cie_limits.h"
 #include "standards/judgement.h"
@@ -43,6 +44,11 @@ using GroupJudgements = std::array<GroupJudgement, kStandardGroupCount>;
 /// "index"}, "extrema": [{"wavelength", "reflectance", "kind": "P" or "V"}], "doubts": []}
 [[nodiscard]] QJsonObject ThicknessJson(const ThicknessResult& result, const QStringList& doubts);
 [[nodiscard]] ThicknessResult ThicknessOf(const QJsonObject& object);
+
+/// {"outcome": "ok", "layers": [{"thickness": nm, "uncertainty", "statistical"}], "scale",
+/// "offset", "spread", "index", "rms", "noise", "alternatives": [{"layers": [nm], "rms"}],
+/// "warnings": []}
+[[nodiscard]] QJsonObject FilmFitJson(const FilmFit& fit);
 
 /// One object a group: {"group": "reflectance", "verdict": "OK", "NG" or "none", "margin": 0.1}
 [[nodiscard]] QJsonArray GroupsJson(const GroupJudgements& groups);

@@ -3,8 +3,6 @@
 
 #include <utility>
 
-#include "optics/thickness_doubts.h"
-
 namespace vexa {
 
 SessionRecorder::SessionRecorder(Session& session, const QString& storePath, RecordContext context)
@@ -26,17 +24,7 @@ void SessionRecorder::KeepFrame(FrameKind kind) {
 }
 
 void SessionRecorder::KeepSample(int slotNumber) {
-  const VEXATYPE& state = session_.State();
-  const MeasurementSlot& slot = *state.Slot(slotNumber);
-  RecordContext context = context_;
-  if (slot.thickness.IsComputed()) {
-    const ReflectanceSpectrum& index = slot.filmIndex.IsEmpty() ? state.filmIndex : slot.filmIndex;
-    for (const ThicknessDoubt doubt :
-         FindThicknessDoubts(state.thickness.type, slot.reflectance, index, slot.thickness)) {
-      context.doubts << ThicknessDoubtName(doubt);
-    }
-  }
-  if (const auto measured = MeasuredSampleOf(state, slotNumber, context)) {
+  if (const auto measured = MeasuredSampleOf(session_.State(), slotNumber, context_)) {
     (void)keeper_.Keep(measured->Rows());
   }
 }

@@ -5,6 +5,9 @@
 #include <QFile>
 #include <QFileInfo>
 #include <QImage>
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
 #include <QProcess>
 #include <QProcessEnvironment>
 #include <QTest>
@@ -65,6 +68,47 @@ TEST_F(Program, DemonstrationMeasuresFiveSamplesAndLeavesAFileAndAPicture) {
     EXPECT_EQ(QImage(files.Path(name + "/window.png")).size(), QSize(1280, 900));
     EXPECT_FALSE(QFileInfo(files.Path(name + "/com5")).isSymLink());
   }
+}
+
+// The records hold what the window has fitted, the command line fits the same stack to the file.
+TEST_F(Program, TheWindowAndTheCommandLineFitTheSameThickness) {
+  ASSERT_EQ(Run("--demo @d"), 0);
+  const auto told = [this](const QStringList& arguments) {
+    QProcess process;
+    process.setWorkingDirectory(files.Path("d"));
+    process.start(QStringLiteral(VEXA_BIN_DIR "/vexa-cli"), arguments);
+    EXPECT_TRUE(process.waitForFinished(60000));
+    return QJsonDocument::fromJson(process.readAllStandardOutput()).object();
+  };
+  const QJsonArray fitted =
+      told(QStringLiteral("fit measurement.csv --substrate cauchy:1.4855,0.0045 "
+                          "--layer cauchy:1.5803,0.00751 --thickness 300-12000 --json")
+               .split(u' '))[QLatin1String("slots")]
+          .toArray();
+  const QJsonArray records = told({QStringLiteral("records"), QStringLiteral("list"),
+                                   QStringLiteral("--json")})[QLatin1String("records")]
+                                 .toArray();
+  ASSERT_EQ(records.size(), fitted.size());
+  int films = 0;
+  for (qsizetype i = 0; i < fitted.size(); ++i) {
+    const QString id = records[records.size() - 1 - i].toObject()[QLatin1String("id")].toString();
+    const QJsonObject kept = told({QStringLiteral("records"), QStringLiteral("show"), id,
+                                   QStringLiteral("--json")})[QLatin1String("fit")]
+                                 .toObject();
+    const QJsonObject fit = fitted[i].toObject()[QLatin1String("fit")].toObject();
+    EXPECT_EQ(kept[QLatin1String("outcome")], fit[QLatin1String("outcome")]) << i;
+    if (fit[QLatin1String("outcome")] == QLatin1String("ok")) {
+      ++films;
+      const QJsonObject layer = fit[QLatin1String("layers")].toArray()[0].toObject();
+      EXPECT_NEAR(kept[QLatin1String("layers")]
+                      .toArray()[0]
+                      .toObject()[QLatin1String("thickness")]
+                      .toDouble(),
+                  layer[QLatin1String("thickness")].toDouble(),
+                  layer[QLatin1String("statistical")].toDouble());
+    }
+  }
+  EXPECT_GT(films, 0);
 }
 
 TEST_F(Program, WrongOptionsAreOneLineAndStatusTwo) {

@@ -33,7 +33,7 @@ std::array<SessionImage, 4> Moments() {
   state.stock.Record({false, 3, false});
   (void)state.stock.StockAdd({}, false);
   state.stock.P2[0] = 12.5;
-  (void)state.thicknessHistory.Append(1500.25, false);
+  (void)state.thicknessHistory.Append({1500.25, false, {true, false, 1501.5}});
   moments[3] = TakeImage(state);
   return moments;
 }

@@ -83,7 +83,7 @@ TEST(Evaluation, AThicknessNeedsWhatItsSettingsName) {
     state.substrateIndex = Flat(c.hasSubstrate ? 1.6 : 0.0);
     MeasurementSlot slot;
     slot.reflectance = c.hasFringes ? test::Fringes() : Flat(4.0);
-    slot.thickness = test::ThicknessOf(1500.0, true);
+    slot.thickness.thicknessNm = 1500.0;
     slot.thickness.first = {500.0, 1.0};
     slot.filmIndex = Flat(9.0);
     EXPECT_EQ(ComputeSlotThickness(state, slot), c.status) << c.name;

@@ -209,7 +209,7 @@ TEST_F(Sequence, AHistoryThatTakesNothingMoreIsToldOnce) {
   MeasureFrames();
   session.SetAutoThickness(true);
   controller.next.counts = CountsOf(test::Fringes());
-  const ThicknessResult optical = test::ThicknessOf(1500.0, false);
+  const HistoryPoint optical{1500.0, false};
   while (session.AddToHistory(optical) == HistoryAddResult::kAdded) {
   }
   const auto told = [&](int slot) { return Told(Done(sequence.MeasureSample(slot))); };
@@ -220,7 +220,7 @@ TEST_F(Sequence, AHistoryThatTakesNothingMoreIsToldOnce) {
   EXPECT_EQ(told(3), Messages()) << "there is room again";
   EXPECT_EQ(told(4), Messages{Message::kHistoryFull});
   session.ClearHistory();
-  (void)session.AddToHistory(test::ThicknessOf(1500.0, true));
+  (void)session.AddToHistory({1500.0, true});
   EXPECT_EQ(told(5), Messages{Message::kHistoryKindDiffers});
   EXPECT_EQ(told(6), Messages());
   controller.next.counts = CountsOf(Flat(4.0));

@@ -88,7 +88,7 @@ TEST_F(SessionTest, EveryChangeAnnouncesWhatItChangedAndNothingElse) {
   QObject::connect(&session, &Session::SettingsChanged, [&] { heard += 'e'; });
   QObject::connect(&session, &Session::HistoryChanged, [&] { heard += 'h'; });
   QObject::connect(&session, &Session::StockChanged, [&] { heard += 'c'; });
-  const ThicknessResult physical = test::ThicknessOf(1500.0, true);
+  const HistoryPoint physical{1500.0, true};
   const VEXATYPE empty;
   // One after another, each on what those before it have left.
   const Case cases[] = {
@@ -142,6 +142,46 @@ TEST_F(SessionTest, EveryChangeAnnouncesWhatItChangedAndNothingElse) {
     c.change();
     EXPECT_EQ(heard, c.announced) << c.name;
   }
+}
+
+TEST_F(SessionTest, EachSampleIsFittedBeforeItIsAnnounced) {
+  const auto constant = [](double n) { return Material{Flat(n), Flat(0.0)}; };
+  FilmFitRequest request{{constant(1.5), {constant(1.6)}}, {{300.0, 9000.0}}, {}};
+  request.options.bandwidthNm = 0.0;
+  ReflectanceSpectrum coat;
+  FilmModel(request.stack, 440, 840, 1, 0.0).Reflect({{2000.0}}, coat.Values());
+  std::vector<double> heard;
+  QObject::connect(&session, &Session::SlotChanged, [&](int slot) {
+    heard.push_back(Slot(slot).fit ? Slot(slot).fit->layers.front().thicknessNm : 0.0);
+  });
+  session.SetFilmFit(request, false);
+  Measure(1, coat);
+  session.SetFilmFit(request, true);
+  Measure(2, coat);
+  ASSERT_EQ(heard.size(), 2U);
+  EXPECT_EQ(heard[0], 0.0);
+  EXPECT_NEAR(heard[1], 2000.0, 0.01);
+  ASSERT_EQ(session.State().thicknessHistory.count, 1);
+  EXPECT_TRUE(session.State().thicknessHistory.notes[0].fitted);
+  session.SetAutoThickness(true);
+  session.ClearHistory();
+  Measure(3, coat);
+  const HistoryNote& beside = session.State().thicknessHistory.notes[0];
+  EXPECT_FALSE(beside.fitted);
+  EXPECT_EQ(beside.fitNm, 0.0) << "the thickness of the extrema is an optical one";
+  ChangeSettings([](Settings& s) {
+    s.thickness.kind = ThicknessKind::kPhysical;
+    s.filmIndex = Flat(1.6);
+  });
+  session.ClearHistory();
+  Measure(3, coat);
+  EXPECT_NEAR(session.State().thicknessHistory.notes[0].fitNm, 2000.0, 0.01);
+
+  Measure(2, Flat(4.0));
+  EXPECT_EQ(Slot(2).fit->outcome, FitOutcome::kNone) << "of the new spectrum";
+  request.ranges[0].toNm = 8000.0;
+  session.SetFilmFit(request, false);
+  EXPECT_FALSE(Slot(3).fit) << "it was made of another request";
 }
 
 TEST_F(SessionTest, WhatDependsOnAChangeIsThereWhenItIsAnnounced) {

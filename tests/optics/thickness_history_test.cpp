@@ -15,21 +15,21 @@ TEST(ThicknessHistory, HoldsFiftyPointsOfTheKindOfTheFirst) {
   using enum HistoryAddResult;
   ThicknessHistory history;
   for (int i = 1; i <= 50; ++i) {
-    EXPECT_EQ(history.Append(i, false), kAdded);
+    EXPECT_EQ(history.Append({static_cast<double>(i), false}), kAdded);
   }
   EXPECT_FALSE(history.physical);
-  EXPECT_EQ(history.Append(51, false), kFull);
-  EXPECT_EQ(history.Append(51, true), kKindDiffers);
+  EXPECT_EQ(history.Append({51, false}), kFull);
+  EXPECT_EQ(history.Append({51, true}), kKindDiffers);
   EXPECT_FALSE(history.Delete(0) || history.Delete(51));
   EXPECT_TRUE(history.Delete(50) && history.Delete(2) && history.Delete(1));
-  EXPECT_EQ(history.Append(52, true), kKindDiffers);
-  EXPECT_EQ(history.Append(52, false), kAdded);
+  EXPECT_EQ(history.Append({52, true}), kKindDiffers);
+  EXPECT_EQ(history.Append({52, false}), kAdded);
   EXPECT_EQ(history.count, 48);
   EXPECT_EQ(history.Points()[0], 3);
   EXPECT_EQ(history.Points()[46], 49);
   EXPECT_EQ(history.Points()[47], 52);
   history.Clear();
-  EXPECT_EQ(history.Append(1, true), kAdded);
+  EXPECT_EQ(history.Append({1, true}), kAdded);
   EXPECT_TRUE(history.physical);
 }
 
@@ -61,7 +61,7 @@ TEST(ThicknessHistory, FileHasItsExactForm) {
   const QByteArray header = "VEXA-KT 440-840 Ver 3.21 Thickness File\r\n";
   EXPECT_EQ(written(history), header + " 0\r\n[nm]\r\n");
   for (const double value : {1500.0, 2013.4567890123456, -12.5, 0.25}) {
-    EXPECT_EQ(history.Append(value, false), HistoryAddResult::kAdded);
+    EXPECT_EQ(history.Append({value, false}), HistoryAddResult::kAdded);
   }
   EXPECT_EQ(written(history),
             header + " 4\r\n[nd]\r\n 1500\r\n 2013.45678901235\r\n-12.5\r\n 0.25\r\n");

@@ -49,15 +49,14 @@ TEST_F(Store, KeepsEveryBitOfAMeasuredSample) {
   slot.thickness = {{500.5, 1.5}, {600.0, 2.5}, 1500.0, false, 1.5, 1.6, {}};
   slot.thickness.extrema.count = 1;
   slot.thickness.extrema.entries[0] = {{500.5, 1.5}, true};
+  slot.doubts = {ThicknessDoubt::kEdge};
+  slot.fit = FilmFit{.layers = {{1500.0, 1.5, 0.5}}, .warnings = {QStringLiteral("W")}};
   slot.judgement.groups[0] = {true, 0.25};
   slot.judgement.groups[4] = {false, std::nullopt};
   state.referenceReflectance[440] = 1.0 / 3.0;
   state.colour.avgFrom = 900;  // no average can be computed
   const MeasuredSample measured =
-      *MeasuredSampleOf(state, 1,
-                        With<Context>(&Context::lot, "ロット 1", &Context::doubts,
-                                      QStringList{QStringLiteral("edge")}, &Context::fit,
-                                      QJsonObject{{QStringLiteral("outcome"), 1}}));
+      *MeasuredSampleOf(state, 1, With<Context>(&Context::lot, "ロット 1"));
   const Answer<QList<qint64>> numbers = store.Append(measured.Rows());
   EXPECT_EQ(numbers.value, (QList<qint64>{1, 2, 3, 4}));
 

@@ -17,14 +17,6 @@ inline std::string Verdicts(const MeasurementSlot& slot) {
   return verdicts;
 }
 
-/// A thickness alone, as one is offered to a history.
-inline ThicknessResult ThicknessOf(double nm, bool physical) {
-  ThicknessResult result;
-  result.thicknessNm = nm;
-  result.physical = physical;
-  return result;
-}
-
 /// A reflectance with a peak every 100 nm from 450 nm on.
 inline ReflectanceSpectrum Fringes() {
   return SpectrumOf([](int nm) { return nm % 100 == 50 ? 9.0 : 4.0 + nm / 1000.0; });

@@ -211,7 +211,8 @@ TEST_F(History, PagesFitOntoPaper) {
         PaintHistoryPage(painter, page, state.thicknessHistory, {1500.0, 1700.0});
       },
       [&list](QPainter& painter, const QRectF& page) {
-        PaintWaveListPage(painter, page, QStringLiteral("Mes1  ") + QString(90, u'長'), list);
+        PaintWaveListPage(painter, page, QStringLiteral("Mes1  ") + QString(90, u'長'),
+                          QStringLiteral("縞"), list);
       }};
   for (const auto& paint : pages) {
     EXPECT_TRUE(WritePdf(files.Path("頁.pdf"), {}, PageLayoutOf({}), SinglePage(paint)));

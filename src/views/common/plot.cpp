@@ -11,10 +11,14 @@ Plot::Plot(QWidget* parent) : QCustomPlot(parent) {
   setViewport({0, 0, 1, 1});
   setLocale(QLocale::c());
   setBackground(theme::kPanel);
-  axisRect()->setupFullAxesBox(true);
+  StyleAxes(*axisRect());
+}
+
+void Plot::StyleAxes(QCPAxisRect& rect) {
+  rect.setupFullAxesBox(true);
   const QPen axisPen(theme::kMutedText, 1.0);
   const QPen gridPen(theme::kGrid, 1.0);
-  for (QCPAxis* axis : {xAxis, yAxis, xAxis2, yAxis2}) {
+  for (QCPAxis* axis : rect.axes()) {
     axis->setBasePen(axisPen);
     axis->setTickPen(axisPen);
     axis->setSubTickPen(axisPen);

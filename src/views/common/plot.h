@@ -18,6 +18,9 @@ class Plot : public QCustomPlot {
  protected:
   explicit Plot(QWidget* parent);
 
+  /// Gives further axes the look of the first ones.
+  void StyleAxes(QCPAxisRect& rect);
+
   /// Makes the cursor's layer, the topmost one, which is painted again alone.
   void AddCursorLayer();
 

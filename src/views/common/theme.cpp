@@ -54,6 +54,18 @@ void ApplyTheme(QApplication& application) {
   application.setFont(font);
 }
 
+QPixmap DoubtMark() {
+  QPixmap pixmap = IconCanvas({16, 16});
+  QPainter painter(&pixmap);
+  painter.setRenderHint(QPainter::Antialiasing);
+  painter.setPen(QPen(theme::kDoubt, 1.4, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+  painter.setBrush(QColor(0xfd, 0xe9, 0xb8));
+  painter.drawPolygon(QPolygonF{{8.0, 1.8}, {14.8, 13.9}, {1.2, 13.9}});
+  painter.drawLine(QPointF(8.0, 6.2), QPointF(8.0, 9.6));
+  painter.drawPoint(QPointF(8.0, 11.8));
+  return pixmap;
+}
+
 QIcon DoneIcon(bool done) {
   constexpr QSize kSize(16, 16);
   QPixmap pixmap = IconCanvas(kSize);

@@ -8,12 +8,17 @@
 namespace vexa {
 namespace {
 
+constexpr QColor kDoubtPaper{0xfd, 0xe9, 0xb8};
 constexpr int kPointStep = 10;  // the axis grows by so many points
 
 }  // namespace
 
 HistoryPlot::HistoryPlot(QWidget* parent)
-    : Plot(parent), line_(addGraph()), cursorLine_(new QCPItemStraightLine(this)) {
+    : Plot(parent),
+      line_(addGraph()),
+      doubtful_(addGraph()),
+      fits_(addGraph()),
+      cursorLine_(new QCPItemStraightLine(this)) {
   setObjectName(QStringLiteral("HistoryPlot"));
   xAxis->setLabel(Text::tr("ﾃﾞｰﾀｲﾝﾃﾞｯｸｽ"));
   xAxis->setSubTicks(false);
@@ -23,6 +28,14 @@ HistoryPlot::HistoryPlot(QWidget* parent)
   line_->setScatterStyle(
       QCPScatterStyle(QCPScatterStyle::ssDisc, QPen(theme::kAccent), theme::kAccent, 7));
   line_->setAdaptiveSampling(false);
+  doubtful_->setScatterStyle(
+      QCPScatterStyle(QCPScatterStyle::ssTriangle, QPen(theme::kDoubt, 1.4), kDoubtPaper, 11));
+  fits_->setScatterStyle(
+      QCPScatterStyle(QCPScatterStyle::ssDiamond, QPen(theme::kGood, 1.4), theme::kPanel, 9));
+  for (QCPGraph* graph : {doubtful_, fits_}) {
+    graph->setLineStyle(QCPGraph::lsNone);
+    graph->setAdaptiveSampling(false);
+  }
   AddCursorLayer();
   cursorLine_->setLayer(QLatin1String(kCursorLayer));
   cursorLine_->setPen(QPen(theme::kMutedText, 1.0, Qt::DashLine));
@@ -30,10 +43,25 @@ HistoryPlot::HistoryPlot(QWidget* parent)
 
 void HistoryPlot::Show(const ThicknessHistory& history, const ThicknessScale& scale, int cursor) {
   QVector<QCPGraphData> points;
+  QVector<QCPGraphData> doubtful;
+  QVector<QCPGraphData> fits;
+  for (QVector<QCPGraphData>* kind : {&points, &doubtful, &fits}) {
+    kind->reserve(history.count);
+  }
   for (const double thicknessNm : history.Points()) {
-    points.append({static_cast<double>(points.size() + 1), thicknessNm});
+    const HistoryNote& note = history.notes[static_cast<std::size_t>(points.size())];
+    const auto number = static_cast<double>(points.size() + 1);
+    points.append({number, thicknessNm});
+    if (note.doubtful) {
+      doubtful.append({number, thicknessNm});
+    }
+    if (note.fitted || note.fitNm > 0.0) {
+      fits.append({number, note.fitted ? thicknessNm : note.fitNm});
+    }
   }
   line_->data()->set(points, true);
+  doubtful_->data()->set(doubtful, true);
+  fits_->data()->set(fits, true);
   const int tens = qMax(1, (history.count + kPointStep - 1) / kPointStep);
   const QSharedPointer<QCPAxisTickerFixed> ticker(new QCPAxisTickerFixed);
   ticker->setTickStep(tens);

@@ -6,7 +6,8 @@
 
 namespace vexa {
 
-/// The thicknesses of a history over their point numbers.
+/// The thicknesses of a history over their point numbers: a point in doubt is an amber triangle,
+/// one of the film fit a diamond, beside that of the extrema or alone.
 class HistoryPlot : public Plot {
   Q_OBJECT
 
@@ -18,6 +19,8 @@ class HistoryPlot : public Plot {
 
  private:
   QCPGraph* line_;
+  QCPGraph* doubtful_;
+  QCPGraph* fits_;
   QCPItemStraightLine* cursorLine_;
 };
 

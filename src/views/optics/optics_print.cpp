@@ -49,6 +49,17 @@ void DrawRow(QPainter& painter, const QRectF& row, const QStringList& cells, dou
   }
 }
 
+QString NoteMark(const HistoryNote& note) {
+  return note.fitted ? QStringLiteral("◆") : note.doubtful ? QStringLiteral("▲") : QString();
+}
+
+// What the marks say, where there are any.
+QString NoteLegend(const ThicknessHistory& history) {
+  return std::ranges::all_of(history.Notes(), &HistoryNote::IsEmpty)
+             ? QString()
+             : QStringLiteral("    ") + Text::tr("▲ 疑いあり   ◆ 膜厚ﾌｨｯﾄ");
+}
+
 void DrawPlot(QPainter& painter, const QRectF& place, const ThicknessHistory& history,
               const ThicknessScale& scale) {
   HistoryPlot plot;
@@ -70,16 +81,24 @@ void PaintHistoryPage(QPainter& painter, const QRectF& page, const ThicknessHist
   double top = body.top() + kPlotHeight + 14.0;
   painter.drawText(
       QRectF(0.0, top, kPageWidth, kRowHeight), Qt::AlignLeft | Qt::AlignVCenter,
-      Text::tr("全ﾃﾞｰﾀ数 %1    膜厚 %2").arg(history.count).arg(ThicknessUnit(history.physical)));
+      Text::tr("全ﾃﾞｰﾀ数 %1    膜厚 %2").arg(history.count).arg(ThicknessUnit(history.physical)) +
+          NoteLegend(history));
   top += 1.5 * kRowHeight;
   int point = 0;
+  const bool withFits = std::ranges::any_of(
+      history.Notes(), [](const HistoryNote& note) { return note.fitNm > 0.0; });
   for (const double thicknessNm : history.Points()) {
     const int column = point / kRows;
     const QRectF row(column * kColumnWidth, top + point % kRows * kRowHeight, kColumnWidth,
                      kRowHeight);
     ++point;
-    DrawRow(painter, row, {QString::number(point), FormatNumber(thicknessNm, u"###0.0")},
-            kColumnWidth / 2.0);
+    const HistoryNote& note = history.notes[static_cast<std::size_t>(point) - 1];
+    QStringList cells{QString::number(point),
+                      NoteMark(note) + FormatNumber(thicknessNm, u"###0.0").trimmed()};
+    if (note.fitNm > 0.0) {
+      cells << QStringLiteral("◆") + FormatNumber(note.fitNm, u"0.0");
+    }
+    DrawRow(painter, row, cells, kColumnWidth / static_cast<double>(withFits ? 3 : 2));
   }
   painter.restore();
 }
@@ -90,19 +109,23 @@ QStringList WaveListTitles() {
 }
 
 void PaintWaveListPage(QPainter& painter, const QRectF& page, const QString& whose,
-                       const ExtremumList& list) {
-  constexpr double kWhoseHeight = 2.0 * kRowHeight;
+                       const QString& doubts, const ExtremumList& list) {
+  const double whoseHeight =
+      (2.0 + static_cast<double>(doubts.split(u'\n', Qt::SkipEmptyParts).size())) * kRowHeight;
   constexpr double kColumnWidth = 110.0;
   painter.save();
   const QRectF body = BeginPage(painter, page, Text::tr("波長リスト"));
-  painter.drawText(QRectF(body.topLeft(), QSizeF(body.width(), kWhoseHeight)),
-                   Qt::AlignLeft | Qt::AlignVCenter | Qt::TextWrapAnywhere, whose);
+  painter.drawText(QRectF(body.topLeft(), QSizeF(body.width(), whoseHeight)),
+                   Qt::AlignLeft | Qt::AlignVCenter | Qt::TextWrapAnywhere,
+                   doubts.isEmpty() ? whose
+                                    : whose + QStringLiteral("\n▲ ") +
+                                          QString(doubts).replace(u'\n', QStringLiteral("\n▲ ")));
   const QStringList rows = ExtremumRows(list);
   // The longest list, 49 rows, fits onto a page of any shape.
   const double height = std::min(
-      kRowHeight, (body.height() - kWhoseHeight) / static_cast<double>(ExtremumList::kLimit + 1));
+      kRowHeight, (body.height() - whoseHeight) / static_cast<double>(ExtremumList::kLimit + 1));
   SetFont(painter, static_cast<int>(std::max(1.0, height * 0.7)), false);
-  QRectF row(body.topLeft() + QPointF(0.0, kWhoseHeight), QSizeF(body.width(), height));
+  QRectF row(body.topLeft() + QPointF(0.0, whoseHeight), QSizeF(body.width(), height));
   DrawRow(painter, row, WaveListTitles(), kColumnWidth);
   for (const QString& text : rows) {
     row.translate(0.0, height);

@@ -18,8 +18,9 @@ void PaintHistoryPage(QPainter& painter, const QRectF& page, const ThicknessHist
 /// The titles of the columns of ExtremumRows.
 [[nodiscard]] QStringList WaveListTitles();
 
-/// Paints the wavelength list onto the page: caption, whose it is, and a row for each extremum.
+/// Paints the wavelength list onto the page: caption, whose it is, the doubts about its thickness
+/// in a line each, and a row for each extremum.
 void PaintWaveListPage(QPainter& painter, const QRectF& page, const QString& whose,
-                       const ExtremumList& list);
+                       const QString& doubts, const ExtremumList& list);
 
 }  // namespace vexa

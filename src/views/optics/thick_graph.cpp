@@ -9,6 +9,7 @@
 #include <QPushButton>
 #include <QVBoxLayout>
 #include <algorithm>
+#include <vector>
 
 #include "base/number_text.h"
 #include "base/translation.h"
@@ -16,6 +17,7 @@
 #include "views/common/file_questions.h"
 #include "views/common/plot_export.h"
 #include "views/common/proposed_name.h"
+#include "views/common/theme.h"
 #include "views/optics/history_plot.h"
 #include "views/optics/optics_print.h"
 #include "views/optics/thick_g_set_dlg.h"
@@ -56,7 +58,10 @@ ThickGraph::ThickGraph(Session& session, MessageService& messages, FileDialogs& 
       plot_(new HistoryPlot),
       count_(Value("TotalCount")),
       thickness_(Value("Thickness")),
-      index_(Value("DataIndex")) {
+      index_(Value("DataIndex")),
+      kind_(Value("PointKind")),
+      fit_(Value("PointFit")),
+      doubt_(Value("PointDoubt")) {
   setObjectName(QStringLiteral("ThickGraph"));
   setWindowTitle(Text::tr("膜厚ｸﾞﾗﾌ"));
   BuildMenus();
@@ -108,6 +113,11 @@ QWidget* ThickGraph::BuildInformation() {
   values->addRow(Text::tr("全ﾃﾞｰﾀ数"), count_);
   values->addRow(Text::tr("膜厚"), thickness_);
   values->addRow(Text::tr("ﾃﾞｰﾀｲﾝﾃﾞｯｸｽ"), index_);
+  values->addRow(Text::tr("種類"), kind_);
+  values->addRow(Text::tr("ﾌｨｯﾄ"), fit_);
+  doubt_->setPixmap(DoubtMark());
+  doubt_->setToolTip(Text::tr("この膜厚には疑いがあります。"));
+  values->addRow(Text::tr("疑い"), doubt_);
 
   auto* cursors = new QHBoxLayout;
   for (const int by : {-1, 1}) {
@@ -139,16 +149,18 @@ QWidget* ThickGraph::BuildInformation() {
 }
 
 void ThickGraph::AddCurrent() {
-  if (!state_.thickness.enabled) {
+  const MeasurementSlot* slot = state_.Slot(selectedSlot_());
+  if (!state_.thickness.enabled && (slot == nullptr || !slot->fit)) {
     messages_.Tell({Message::kHistoryThicknessDisabled});
     return;
   }
-  const MeasurementSlot* slot = state_.Slot(selectedSlot_());
-  if (slot == nullptr || !slot->valid || !slot->thickness.IsComputed()) {
+  const std::optional<HistoryPoint> point =
+      slot != nullptr && slot->valid ? HistoryPointOf(*slot) : std::nullopt;
+  if (!point) {
     messages_.Tell({Message::kNoValidData});
     return;
   }
-  const HistoryAddResult result = session_.AddToHistory(slot->thickness);
+  const HistoryAddResult result = session_.AddToHistory(*point);
   if (const std::optional<MessageCall> refusal = HistoryRefusal(result)) {
     messages_.Tell(*refusal);
   }
@@ -213,7 +225,14 @@ void ThickGraph::RecomputeScale() {
   if (!autoScale_) {
     return;
   }
-  if (const std::optional<ThicknessScale> scale = AutoScale(state_.thicknessHistory.Points())) {
+  const ThicknessHistory& history = state_.thicknessHistory;
+  std::vector<double> shownNm(history.Points().begin(), history.Points().end());
+  for (const HistoryNote& note : history.Notes()) {
+    if (note.fitNm > 0.0 && note.fitNm <= ThicknessScale::kHighestNm) {
+      shownNm.push_back(note.fitNm);
+    }
+  }
+  if (const std::optional<ThicknessScale> scale = AutoScale(shownNm)) {
     scale_ = *scale;
   } else {
     messages_.Tell({Message::kHistoryScaleFault});
@@ -225,9 +244,15 @@ void ThickGraph::ShowHistory() {
   plot_->Show(history, scale_, cursor_);
   count_->setText(QString::number(history.count));
   index_->setText(cursor_ > 0 ? QString::number(cursor_) : kNothing);
-  thickness_->setText(
-      cursor_ > 0 ? FormatNumber(history.Points()[static_cast<std::size_t>(cursor_ - 1)], u"###0.0")
-                  : kNothing);
+  const auto place = static_cast<std::size_t>(std::max(cursor_ - 1, 0));
+  thickness_->setText(cursor_ > 0 ? FormatNumber(history.values[place], u"###0.0") : kNothing);
+  const HistoryNote note = cursor_ > 0 ? history.notes[place] : HistoryNote();
+  kind_->setText(cursor_ == 0       ? kNothing
+                 : note.fitted      ? Text::tr("膜厚ﾌｨｯﾄ")
+                 : history.physical ? Text::tr("物理膜厚")
+                                    : Text::tr("光学膜厚"));
+  fit_->setText(note.fitNm > 0.0 ? FormatNumber(note.fitNm, u"###0.0") : kNothing);
+  doubt_->setPixmap(note.doubtful ? DoubtMark() : QPixmap());
 }
 
 }  // namespace vexa

@@ -51,6 +51,9 @@ class ThickGraph : public QMainWindow {
   QLabel* count_;
   QLabel* thickness_;
   QLabel* index_;
+  QLabel* kind_;
+  QLabel* fit_;
+  QLabel* doubt_;
 };
 
 }  // namespace vexa

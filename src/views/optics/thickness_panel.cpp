@@ -2,11 +2,14 @@
 #include "views/optics/thickness_panel.h"
 
 #include <QGridLayout>
+#include <QHBoxLayout>
 #include <QPushButton>
 
 #include "base/number_text.h"
 #include "base/translation.h"
 #include "measurement/evaluation.h"
+#include "views/common/theme.h"
+#include "views/optics/fit_text.h"
 
 namespace vexa {
 
@@ -30,7 +33,12 @@ ThicknessPanel::ThicknessPanel(Session& session, MessageService& messages, QWidg
       state_(session.State()),
       messages_(messages),
       automatic_(new QCheckBox(Text::tr("自動測定"))),
-      thickness_(Value(QStringLiteral("Thickness"))) {
+      thickness_(Value(QStringLiteral("Thickness"))),
+      doubtMark_(new QLabel),
+      doubt_(new QLabel),
+      fitMark_(new QLabel),
+      fitName_(new QLabel(Text::tr("ﾌｨｯﾄ"))),
+      fit_(Value(QStringLiteral("FittedThickness"))) {
   setObjectName(QStringLiteral("ThicknessPanel"));
   setFixedWidth(kWidth);
   auto* compute = new QPushButton(Text::tr("膜厚測定"));
@@ -66,6 +74,23 @@ ThicknessPanel::ThicknessPanel(Session& session, MessageService& messages, QWidg
     grid->addWidget(index, i + 2, 2);
     grid->addWidget(line.index, i + 2, 3);
   }
+  doubt_->setObjectName(QStringLiteral("ThicknessDoubt"));
+  doubt_->setWordWrap(true);
+  const auto addMarked = [grid](QLabel& mark, QWidget* content, int row) {
+    mark.setPixmap(DoubtMark());
+    auto* line = new QHBoxLayout;
+    line->setSpacing(6);
+    line->addWidget(&mark, 0, Qt::AlignTop);
+    line->addWidget(content, 1);
+    grid->addLayout(line, row, 0, 1, 4);
+  };
+  addMarked(*doubtMark_, doubt_, 4);
+  auto* fitted = new QWidget;
+  auto* fittedLine = new QHBoxLayout(fitted);
+  fittedLine->setContentsMargins(0, 0, 0, 0);
+  fittedLine->addWidget(fitName_);
+  fittedLine->addWidget(fit_, 1);
+  addMarked(*fitMark_, fitted, 5);
 }
 
 void ThicknessPanel::Show(int selectedSlot) {
@@ -83,6 +108,32 @@ void ThicknessPanel::Show(int selectedSlot) {
   lines_[0].index->setText(text(result.firstIndex, u"###0.000"));
   lines_[1].wavelength->setText(text(result.second.wavelengthNm, u"###0"));
   lines_[1].index->setText(text(result.secondIndex, u"###0.000"));
+  const MeasurementSlot empty;
+  const MeasurementSlot& shown = slot == nullptr || !slot->valid ? empty : *slot;
+  ShowDoubts(shown);
+  ShowFit(shown.fit);
+}
+
+// One line why; all of them where the mouse rests.
+void ThicknessPanel::ShowDoubts(const MeasurementSlot& slot) {
+  const bool doubtful = !slot.doubts.empty();
+  doubtMark_->setVisible(doubtful);
+  doubt_->setVisible(doubtful);
+  doubt_->setText(doubtful ? ThicknessDoubtText(slot.doubts.back()) : QString());
+  doubt_->setToolTip(DoubtTexts(slot));
+  thickness_->setToolTip(DoubtTexts(slot));
+}
+
+void ThicknessPanel::ShowFit(const std::optional<FilmFit>& fit) {
+  fitName_->setVisible(fit.has_value());
+  fit_->setVisible(fit.has_value());
+  fitMark_->setVisible(fit && fit->outcome != FitOutcome::kOk);
+  if (fit) {
+    const bool told = fit->outcome != FitOutcome::kNone;
+    fit_->setText(told ? FitThicknessText(*fit) + u' ' + ThicknessUnit(true)
+                       : FitOutcomeWord(fit->outcome));
+    fit_->setToolTip(FitOutcomeText(fit->outcome));
+  }
 }
 
 void ThicknessPanel::ComputeThickness() {

@@ -11,7 +11,8 @@
 
 namespace vexa {
 
-/// The thickness of the selected slot, with the button that computes it and the choice of computing
+/// The thickness of the selected slot, a doubt about it in a line, and the film fit beside it; with
+/// the button that computes it and the choice of computing
 /// it after each measurement.
 class ThicknessPanel : public QGroupBox {
   Q_OBJECT
@@ -26,6 +27,9 @@ class ThicknessPanel : public QGroupBox {
   void ComputeThickness();
 
  private:
+  void ShowDoubts(const MeasurementSlot& slot);
+  void ShowFit(const std::optional<FilmFit>& fit);
+
   struct ExtremumLine {
     QLabel* wavelength;
     QLabel* index;
@@ -38,6 +42,11 @@ class ThicknessPanel : public QGroupBox {
   QCheckBox* automatic_;
   QLabel* thickness_;
   std::array<ExtremumLine, 2> lines_{};
+  QLabel* doubtMark_;
+  QLabel* doubt_;
+  QLabel* fitMark_;
+  QLabel* fitName_;
+  QLabel* fit_;
 };
 
 }  // namespace vexa

@@ -10,6 +10,8 @@
 #include "base/date_text.h"
 #include "base/translation.h"
 #include "views/common/dialog_buttons.h"
+#include "views/common/theme.h"
+#include "views/optics/fit_text.h"
 #include "views/optics/optics_print.h"
 #include "views/paper/current_printer.h"
 
@@ -22,7 +24,12 @@ constexpr int kColumnWidth = 80;  // the last column takes what is left
 
 WaveListDlg::WaveListDlg(const VEXATYPE& state, int selectedSlot, CurrentPrinter& printer,
                          QWidget* parent)
-    : QDialog(parent), state_(state), slotText_(new QLabel), list_(new QTreeWidget) {
+    : QDialog(parent),
+      state_(state),
+      slotText_(new QLabel),
+      doubtMark_(new QLabel),
+      doubts_(new QLabel),
+      list_(new QTreeWidget) {
   setObjectName(QStringLiteral("WaveListDlg"));
   setWindowTitle(Text::tr("波長リスト"));
   slotText_->setObjectName(QStringLiteral("WaveListSlot"));
@@ -45,7 +52,7 @@ WaveListDlg::WaveListDlg(const VEXATYPE& state, int selectedSlot, CurrentPrinter
   connect(close, &QPushButton::clicked, this, &QDialog::accept);
   connect(print, &QPushButton::clicked, this, [this, &printer] {
     printer.Print(windowTitle(), SinglePage([this](QPainter& painter, const QRectF& page) {
-                    PaintWaveListPage(painter, page, slotText_->text(), extrema_);
+                    PaintWaveListPage(painter, page, slotText_->text(), doubts_->text(), extrema_);
                   }));
   });
   auto* row = new QHBoxLayout;
@@ -56,6 +63,13 @@ WaveListDlg::WaveListDlg(const VEXATYPE& state, int selectedSlot, CurrentPrinter
   layout->setContentsMargins(14, 14, 14, 12);
   layout->setSpacing(12);
   layout->addWidget(slotText_);
+  auto* doubtful = new QHBoxLayout;
+  doubtMark_->setPixmap(DoubtMark());
+  doubts_->setObjectName(QStringLiteral("WaveListDoubts"));
+  doubts_->setWordWrap(true);
+  doubtful->addWidget(doubtMark_, 0, Qt::AlignTop);
+  doubtful->addWidget(doubts_, 1);
+  layout->addLayout(doubtful);
   layout->addWidget(list_);
   layout->addLayout(row);
   resize(400, 420);
@@ -70,6 +84,9 @@ void WaveListDlg::Show(int selectedSlot) {
                   .arg(selectedSlot)
                   .arg(slot->info.sampleNumber.simplified(), DateTimeText(slot->info.measuredAt))
             : QStringLiteral("Mes%1  -").arg(selectedSlot));
+  doubts_->setText(valid ? DoubtTexts(*slot) : QString());
+  doubtMark_->setVisible(!doubts_->text().isEmpty());
+  doubts_->setVisible(!doubts_->text().isEmpty());
   extrema_ = valid ? slot->thickness.extrema : ExtremumList();
   list_->clear();
   for (const QString& row : ExtremumRows(extrema_)) {

@@ -27,6 +27,8 @@ class WaveListDlg : public QDialog {
  private:
   const VEXATYPE& state_;
   QLabel* slotText_;
+  QLabel* doubtMark_;
+  QLabel* doubts_;
   QTreeWidget* list_;
   ExtremumList extrema_;
 };

@@ -84,6 +84,9 @@ std::vector<PageTable> Summary(const VEXATYPE& state, bool cie) {
     tables.back().caption += QStringLiteral(" (%1)").arg(ColourKindText(ColourKind::kInstrument));
     tables.push_back(CieTable(state));
   }
+  if (const std::optional<PageTable> thickness = ThicknessTable(state)) {
+    tables.push_back(*thickness);
+  }
   if (const std::optional<PageTable> verdicts = VerdictTable(state)) {
     tables.push_back(*verdicts);
     if (const std::optional<PageTable> band = BandTable(state)) {

@@ -10,6 +10,7 @@
 #include "colour/colour_tables.h"
 #include "standards/condition_caption.h"
 #include "views/common/colour_texts.h"
+#include "views/optics/fit_text.h"
 
 namespace vexa {
 namespace {
@@ -103,6 +104,14 @@ std::optional<bool> Overall(const Judgement& judgement) {
   return overall;
 }
 
+QString ThicknessText(const MeasurementSlot& slot) {
+  const ThicknessResult& thickness = slot.thickness;
+  return thickness.IsComputed() ? (slot.doubts.empty() ? QString() : QStringLiteral("▲ ")) +
+                                      FormatNumber(thickness.thicknessNm, u"###0.0").trimmed() +
+                                      u' ' + ThicknessUnit(thickness.physical)
+                                : kNone;
+}
+
 }  // namespace
 
 PageTable SampleTable(const VEXATYPE& state) {
@@ -140,11 +149,7 @@ PageTable ValueTable(const VEXATYPE& state) {
                          ? FormatNumber(slot.colour.*column.value, column.pattern).trimmed()
                          : kNone});
     }
-    const ThicknessResult& thickness = slot.thickness;
-    row.push_back({thickness.IsComputed()
-                       ? FormatNumber(thickness.thicknessNm, u"###0.0").trimmed() + u' ' +
-                             ThicknessUnit(thickness.physical)
-                       : kNone});
+    row.push_back({ThicknessText(slot)});
   });
   return table;
 }
@@ -168,6 +173,25 @@ PageTable CieTable(const VEXATYPE& state) {
     }
   });
   return table;
+}
+
+std::optional<PageTable> ThicknessTable(const VEXATYPE& state) {
+  PageTable table{.caption = Text::tr("膜厚"),
+                  .columns = {{QStringLiteral("No."), kNumberWidth},
+                              {Text::tr("膜厚", "column"), 260.0},
+                              {Text::tr("▲ 疑い"), 620.0, Qt::AlignLeft, true},
+                              {Text::tr("膜厚ﾌｨｯﾄ [nm]"), 360.0, Qt::AlignRight, true},
+                              {Text::tr("結果"), 400.0, Qt::AlignLeft, true}},
+                  .rows = {}};
+  bool noted = false;
+  AddRows(table, state, [&noted](const MeasurementSlot& slot, Row& row) {
+    noted = noted || !slot.doubts.empty() || slot.fit;
+    row.push_back({ThicknessText(slot)});
+    row.push_back({DoubtTexts(slot).replace(u'\n', u' ')});
+    row.push_back({slot.fit ? FitThicknessText(*slot.fit) : kNone});
+    row.push_back({slot.fit ? FitOutcomeText(slot.fit->outcome) : QString()});
+  });
+  return noted ? std::optional(table) : std::nullopt;
 }
 
 std::optional<PageTable> BandTable(const VEXATYPE& state) {

@@ -18,6 +18,10 @@ namespace vexa {
 /// and what is said of the range; "-" where there is none.
 [[nodiscard]] PageTable CieTable(const VEXATYPE& state);
 
+/// The thickness of each valid slot with what is in doubt about it, and the film fit beside it;
+/// nothing where there is neither doubt nor fit.
+[[nodiscard]] std::optional<PageTable> ThicknessTable(const VEXATYPE& state);
+
 /// The conditions of the reflectance with their wavelengths and limits; nothing when no band is
 /// judged.
 [[nodiscard]] std::optional<PageTable> BandTable(const VEXATYPE& state);

@@ -1,0 +1,164 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "views/film/film_fit_results.h"
+
+#include <QHBoxLayout>
+#include <QHeaderView>
+#include <QVBoxLayout>
+
+#include "base/number_text.h"
+#include "base/translation.h"
+#include "views/common/slot_style.h"
+#include "views/common/theme.h"
+#include "views/optics/fit_text.h"
+
+namespace vexa {
+namespace {
+
+QString Number(double value, QStringView pattern) {
+  return FormatNumber(value, pattern).trimmed();
+}
+
+QStringList Headings() {
+  return {Text::tr("ｽﾛｯﾄ"), Text::tr("試料No"), Text::tr("膜厚 [nm]"), Text::tr("結果"),
+          Text::tr("残差 [%]")};
+}
+
+QStringList Cells(int number, const MeasurementSlot& slot) {
+  QStringList cells{QStringLiteral("Mes%1").arg(number), slot.info.sampleNumber.simplified()};
+  if (slot.fit) {
+    cells << FitThicknessText(*slot.fit) << FitOutcomeWord(slot.fit->outcome)
+          << Number(slot.fit->rms, u"##0.000");
+  } else {
+    cells << QStringLiteral("-") << QStringLiteral("-") << QStringLiteral("-");
+  }
+  return cells;
+}
+
+QString LayerWords(const FittedLayer& layer, std::size_t place) {
+  const QString name = Text::tr("層%1").arg(place + 1);
+  if (layer.uncertaintyNm == 0.0) {
+    return Text::tr("%1: %2 nm (既知)").arg(name, Number(layer.thicknessNm, u"0.0"));
+  }
+  return Text::tr("%1: %2 ± %3 nm (ノイズ %4、波長 %5、屈折率 %6)")
+      .arg(name, Number(layer.thicknessNm, u"0.0"), Number(layer.uncertaintyNm, u"0.00"),
+           Number(layer.statisticalNm, u"0.00"), Number(layer.wavelengthNm, u"0.00"),
+           Number(layer.indexNm, u"0.00"));
+}
+
+QString WordsOf(const FilmFit& fit) {
+  QStringList lines;
+  if (fit.outcome != FitOutcome::kNone) {
+    for (std::size_t i = 0; i < fit.layers.size(); ++i) {
+      lines << LayerWords(fit.layers[i], i);
+    }
+    lines << Text::tr("倍率 %1   背景光 %2 %   膜厚むら %3 %   屈折率の係数 %4")
+                 .arg(Number(fit.scale, u"0.0000"), Number(fit.offset, u"0.000"),
+                      Number(100.0 * fit.spread, u"0.00"), Number(fit.index, u"0.0000"));
+  }
+  lines << Text::tr("残差 %1 %   ノイズ %2 %")
+               .arg(Number(fit.rms, u"0.000"), Number(fit.noise, u"0.000"));
+  for (const FitAlternative& alternative : fit.alternatives) {
+    QStringList layers;
+    for (const double nm : alternative.thicknessesNm) {
+      layers << Number(nm, u"0.0");
+    }
+    lines << Text::tr("次の極小: %1 nm (残差 %2 %)")
+                 .arg(layers.join(QStringLiteral(" / ")), Number(alternative.rms, u"0.000"));
+  }
+  return (lines + fit.warnings).join(u'\n');
+}
+
+}  // namespace
+
+FilmFitResults::FilmFitResults(QWidget* parent)
+    : QWidget(parent),
+      table_(new QTableWidget),
+      mark_(new QLabel),
+      outcome_(new QLabel),
+      words_(new QPlainTextEdit) {
+  table_->setObjectName(QStringLiteral("FitTable"));
+  table_->setEditTriggers(QAbstractItemView::NoEditTriggers);
+  table_->setSelectionBehavior(QAbstractItemView::SelectRows);
+  table_->setSelectionMode(QAbstractItemView::SingleSelection);
+  table_->setAlternatingRowColors(true);
+  table_->setIconSize(QSize(22, 12));
+  table_->verticalHeader()->hide();
+  table_->verticalHeader()->setDefaultSectionSize(24);
+  table_->setColumnCount(static_cast<int>(Headings().size()));
+  table_->setHorizontalHeaderLabels(Headings());
+  table_->horizontalHeader()->setSectionResizeMode(QHeaderView::ResizeToContents);
+  table_->horizontalHeader()->setSectionResizeMode(1, QHeaderView::Stretch);
+  table_->horizontalHeader()->setHighlightSections(false);
+  outcome_->setObjectName(QStringLiteral("FitOutcome"));
+  outcome_->setWordWrap(true);
+  words_->setObjectName(QStringLiteral("FitWords"));
+  words_->setReadOnly(true);
+  words_->setFrameShape(QFrame::NoFrame);
+  auto* told = new QHBoxLayout;
+  told->addWidget(mark_, 0, Qt::AlignTop);
+  told->addWidget(outcome_, 1);
+  auto* right = new QVBoxLayout;
+  right->addLayout(told);
+  right->addWidget(words_, 1);
+  auto* layout = new QHBoxLayout(this);
+  layout->setContentsMargins(0, 0, 0, 0);
+  layout->addWidget(table_, 5);
+  layout->addLayout(right, 4);
+  connect(table_, &QTableWidget::currentCellChanged, this, [this](int row) {
+    if (!filling_ && row >= 0) {
+      emit SlotChosen(table_->item(row, 0)->data(Qt::UserRole).toInt());
+    }
+  });
+}
+
+void FilmFitResults::Show(const VEXATYPE& state, int slot,
+                          const std::map<int, FilmFitFault>& refused) {
+  filling_ = true;
+  table_->clearSelection();
+  table_->setRowCount(0);
+  for (int number = 1; number <= kSlotCount; ++number) {
+    if (!state.Slot(number)->valid) {
+      continue;
+    }
+    const int row = table_->rowCount();
+    table_->insertRow(row);
+    int column = 0;
+    for (const QString& text : Cells(number, *state.Slot(number))) {
+      auto* item = new QTableWidgetItem(text);
+      item->setToolTip(text);
+      item->setTextAlignment((column > 1 && column != 3 ? Qt::AlignRight : Qt::AlignLeft) |
+                             Qt::AlignVCenter);
+      table_->setItem(row, column++, item);
+    }
+    table_->item(row, 0)->setData(Qt::UserRole, number);
+    table_->item(row, 0)->setIcon(SlotIcon(number, true));
+    if (number == slot) {
+      table_->selectRow(row);
+    }
+  }
+  filling_ = false;
+  const MeasurementSlot* shown = state.Slot(slot);
+  const FilmFit* fit = shown != nullptr && shown->valid && shown->fit ? &*shown->fit : nullptr;
+  const auto fault = refused.find(slot);
+  const bool good = fit != nullptr && fit->outcome == FitOutcome::kOk;
+  mark_->setPixmap(good ? DoneIcon(true).pixmap(16, 16) : DoubtMark());
+  mark_->setVisible(fit != nullptr || fault != refused.end());
+  outcome_->setText(fit != nullptr           ? FitOutcomeText(fit->outcome)
+                    : fault != refused.end() ? FilmFitFaultText(fault->second)
+                                             : QString());
+  words_->setPlainText(fit != nullptr ? WordsOf(*fit) : QString());
+}
+
+QList<QStringList> FilmFitResults::Rows() const {
+  QList<QStringList> rows{Headings()};
+  for (int row = 0; row < table_->rowCount(); ++row) {
+    QStringList cells;
+    for (int column = 0; column < table_->columnCount(); ++column) {
+      cells << table_->item(row, column)->text();
+    }
+    rows << cells;
+  }
+  return rows;
+}
+
+}  // namespace vexa

@@ -1,0 +1,384 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "views/film/film_fit_window.h"
+
+#include <QApplication>
+#include <QClipboard>
+#include <QDir>
+#include <QFileInfo>
+#include <QFrame>
+#include <QHBoxLayout>
+#include <QPicture>
+#include <QScreen>
+#include <QShortcut>
+#include <QSplitter>
+#include <QVBoxLayout>
+#include <memory>
+
+#include "base/number_text.h"
+#include "base/translation.h"
+#include "optics/fourier_thickness.h"
+#include "views/common/dialog_buttons.h"
+#include "views/common/file_questions.h"
+#include "views/common/plot_export.h"
+#include "views/common/proposed_name.h"
+#include "views/common/scroll_body.h"
+#include "views/film/film_fit_conditions.h"
+#include "views/film/film_fit_plots.h"
+#include "views/film/film_fit_print.h"
+#include "views/film/film_fit_results.h"
+#include "views/film/film_stack_editor.h"
+#include "views/paper/current_printer.h"
+
+namespace vexa {
+namespace {
+
+QString Filter() {
+  return Text::tr("膜構成ﾌｧｲﾙ(*.flm)") + QStringLiteral("|*.flm");
+}
+
+QFrame* Framed(QWidget* widget) {
+  auto* frame = new QFrame;
+  frame->setFrameShape(QFrame::StyledPanel);
+  auto* layout = new QVBoxLayout(frame);
+  layout->setContentsMargins(1, 1, 1, 1);
+  layout->addWidget(widget);
+  return frame;
+}
+
+// The material of the coat whose thickness is measured by its extrema.
+QString CoatMaterial(const DispersionSetting& coat) {
+  const auto formula = [](const char* name, std::span<const double> numbers) {
+    QStringList texts;
+    for (const double number : numbers) {
+      texts << SignedText(number).trimmed();
+    }
+    return QLatin1String(name) + texts.join(u',');
+  };
+  switch (coat.kind) {
+    case DispersionKind::kFixedValue:
+      return SignedText(coat.fixedValue).trimmed();
+    case DispersionKind::kSchott:
+      return formula("schott:", coat.schott);
+    case DispersionKind::kSellmeier:
+      return formula("sellmeier:", coat.sellmeier);
+    case DispersionKind::kIndexFile:
+      return coat.indexFileName;
+    default:
+      return QStringLiteral("1.6");
+  }
+}
+
+}  // namespace
+
+FilmFitWindow::FilmFitWindow(Session& session, ProgramPreferences& preferences,
+                             CurrentPrinter& printer, MessageService& messages,
+                             FileDialogs& dialogs, int selectedSlot, QWidget* parent)
+    : QDialog(parent),
+      session_(session),
+      state_(session.State()),
+      preferences_(preferences),
+      printer_(printer),
+      messages_(messages),
+      dialogs_(dialogs),
+      slot_(selectedSlot),
+      stack_(new FilmStackEditor(dialogs)),
+      conditions_(new FilmFitConditions),
+      file_(new ElidedLabel),
+      each_(new QCheckBox(Text::tr("測定後に毎回ﾌｨｯﾄ"))),
+      progress_(new QLabel),
+      plot_(new FilmFitPlot),
+      fourier_(new FourierPlot),
+      results_(new FilmFitResults) {
+  setObjectName(QStringLiteral("FilmFitWindow"));
+  setWindowTitle(Text::tr("膜厚ﾌｨｯﾄ"));
+  const auto name = [this] { return ProposedName(state_); };
+  AddExport(*plot_, messages_, dialogs_, name);
+  AddExport(*fourier_, messages_, dialogs_, name);
+  auto* plots = new QSplitter(Qt::Horizontal);
+  plots->addWidget(Framed(plot_));
+  plots->addWidget(Framed(fourier_));
+  plots->setStretchFactor(0, 3);
+  plots->setStretchFactor(1, 2);
+  auto* right = new QSplitter(Qt::Vertical);
+  right->addWidget(plots);
+  right->addWidget(results_);
+  right->setStretchFactor(0, 3);
+  right->setStretchFactor(1, 2);
+  for (QSplitter* splitter : {plots, right}) {
+    splitter->setChildrenCollapsible(false);
+  }
+  auto* body = new QHBoxLayout;
+  body->setSpacing(10);
+  body->addWidget(BuildEntries());
+  body->addWidget(right, 1);
+  auto* layout = new QVBoxLayout(this);
+  layout->setContentsMargins(12, 10, 12, 10);
+  layout->addLayout(body, 1);
+  layout->addWidget(BuildButtons());
+  constexpr QSize kFrameOfWindow(16, 44);
+  resize(QSize(1180, 720).boundedTo(screen()->availableSize() - kFrameOfWindow));
+  ReadNamedFile();
+  ConnectSession();
+  Refresh();
+}
+
+QWidget* FilmFitWindow::BuildEntries() {
+  QPushButton* open = DialogButton("OpenStack", Text::tr("開く..."));
+  QPushButton* save = DialogButton("SaveStack", Text::tr("保存..."));
+  file_->setObjectName(QStringLiteral("StackFile"));
+  file_->setTextFormat(Qt::PlainText);
+  auto* files = new QHBoxLayout;
+  files->addWidget(file_, 1);
+  files->addWidget(open);
+  files->addWidget(save);
+  auto* content = new QWidget;
+  auto* column = new QVBoxLayout(content);
+  column->setContentsMargins(0, 0, 0, 0);
+  column->addLayout(files);
+  column->addWidget(stack_);
+  column->addWidget(conditions_);
+  column->addWidget(each_);
+  column->addStretch();
+  each_->setObjectName(QStringLiteral("FitEachMeasurement"));
+  each_->setToolTip(Text::tr("測定した試料をこの膜構成でﾌｨｯﾄし、結果を膜厚の横に表示します。"));
+  connect(open, &QPushButton::clicked, this, &FilmFitWindow::OpenStack);
+  connect(save, &QPushButton::clicked, this, &FilmFitWindow::SaveStack);
+  connect(each_, &QCheckBox::clicked, this, &FilmFitWindow::FitEachSample);
+  const auto edited = [this] {
+    changed_ = true;
+    ShowFileName();
+  };
+  connect(stack_, &FilmStackEditor::Edited, this, edited);
+  connect(conditions_, &FilmFitConditions::Edited, this, edited);
+  auto* area = new ScrollBody(content);
+  area->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+  constexpr int kEntriesWidth = 410;
+  area->setFixedWidth(kEntriesWidth);
+  return area;
+}
+
+QWidget* FilmFitWindow::BuildButtons() {
+  QPushButton* one = DialogButton("FitSlot", Text::tr("選択ｽﾛｯﾄをﾌｨｯﾄ(&F)"));
+  QPushButton* all = DialogButton("FitAll", Text::tr("全ｽﾛｯﾄをﾌｨｯﾄ(&A)"));
+  QPushButton* copy = DialogButton("CopyFits", Text::tr("ｺﾋﾟｰ(&C)"));
+  QPushButton* print = DialogButton("PrintFits", Text::tr("印刷(&P)"));
+  QPushButton* close = DialogButton("CloseFits", Text::tr("閉じる"));
+  one->setDefault(true);
+  progress_->setObjectName(QStringLiteral("FitProgress"));
+  auto* row = new QWidget;
+  auto* layout = new QHBoxLayout(row);
+  layout->setContentsMargins(0, 0, 0, 0);
+  layout->addWidget(one);
+  layout->addWidget(all);
+  layout->addWidget(progress_);
+  layout->addStretch();
+  for (QPushButton* button : {copy, print, close}) {
+    layout->addWidget(button);
+  }
+  connect(one, &QPushButton::clicked, this, [this] { FitSlots(false); });
+  connect(all, &QPushButton::clicked, this, [this] { FitSlots(true); });
+  connect(copy, &QPushButton::clicked, this, &FilmFitWindow::Copy);
+  connect(print, &QPushButton::clicked, this, &FilmFitWindow::Print);
+  connect(close, &QPushButton::clicked, this, &QDialog::accept);
+  connect(new QShortcut(QKeySequence::Print, this), &QShortcut::activated, this,
+          &FilmFitWindow::Print);
+  return row;
+}
+
+void FilmFitWindow::ConnectSession() {
+  connect(&session_, &Session::SlotChanged, this, [this](int slot) {
+    // Another spectrum is another matter.
+    if (const auto refusal = refused_.find(slot); refusal != refused_.end()) {
+      refused_.erase(refusal);
+    }
+    Refresh();
+  });
+  connect(&session_, &Session::SlotsReplaced, this, [this] {
+    refused_.clear();
+    Refresh();
+  });
+  connect(&run_, &FilmFitRun::Fitted, this, &FilmFitWindow::TakeFit);
+  connect(results_, &FilmFitResults::SlotChosen, this, &FilmFitWindow::ShowSlot);
+}
+
+void FilmFitWindow::ReadNamedFile() {
+  each_->setChecked(preferences_.InForce().fitEachMeasurement);
+  setting_ = {QStringLiteral("1.5"), {{CoatMaterial(state_.thickness.coat), {}}}, {}};
+  const QString& path = preferences_.InForce().filmStack;
+  if (path.isEmpty() || !ReadStack(path)) {
+    ShowSetting(setting_);
+  }
+}
+
+bool FilmFitWindow::ReadStack(const QString& path) {
+  const auto read = ReadFilmStackFile(path);
+  if (const auto* fault = std::get_if<FilmStackFileFault>(&read)) {
+    messages_.Tell({Message::kFilmStackFault, {path, FilmStackFileFaultText(*fault)}});
+    return false;
+  }
+  setting_ = std::get<FilmStackSetting>(read);
+  ShowSetting(setting_);
+  return true;
+}
+
+void FilmFitWindow::ShowSetting(const FilmStackSetting& setting) {
+  stack_->Show(setting);
+  conditions_->Show(setting.options);
+  changed_ = false;
+  ShowFileName();
+}
+
+void FilmFitWindow::ShowFileName() {
+  const QString& path = preferences_.InForce().filmStack;
+  const QString name =
+      path.isEmpty() ? Text::tr("(保存されていません)") : QFileInfo(path).fileName();
+  file_->setText(changed_ ? name + QStringLiteral(" *") : name);
+  file_->setToolTip(path);
+}
+
+// The entries as a request; what is wrong with them is told, and the field has the focus.
+bool FilmFitWindow::TakeEntries() {
+  FilmStackSetting setting;
+  QString fault;
+  if (!stack_->Take(setting)) {
+    fault = FilmFitFaultText(FilmFitFault::kThicknessRange);
+  } else if (conditions_->Take(setting.options, fault)) {
+    const QString& path = preferences_.InForce().filmStack;
+    const auto read = ReadFilmFitRequest(
+        setting, path.isEmpty() ? state_.programDirectory : QFileInfo(path).absolutePath());
+    if (const auto* wrong = std::get_if<FilmMaterialFault>(&read)) {
+      fault = QStringLiteral("\"%1\": %2").arg(wrong->material, MaterialFaultText(wrong->fault));
+      stack_->EnterMaterialAgain(wrong->place);
+    } else {
+      request_ = std::get<FilmFitRequest>(read);
+    }
+  }
+  if (!fault.isEmpty()) {
+    messages_.Tell({Message::kFilmFitRefused, {fault}});
+    return false;
+  }
+  setting_ = setting;
+  return true;
+}
+
+void FilmFitWindow::FitSlots(bool all) {
+  std::map<int, FilmFitRun::Spectrum> spectra;
+  for (int number = 1; number <= kSlotCount; ++number) {
+    if (const MeasurementSlot& slot = *state_.Slot(number);
+        slot.valid && (all || number == slot_)) {
+      spectra[number] = {slot.reflectance, slot.noise};
+    }
+  }
+  if (spectra.empty()) {
+    messages_.Tell({Message::kNoValidData});
+    return;
+  }
+  if (!TakeEntries()) {
+    return;
+  }
+  session_.SetFilmFit(request_, each_->isChecked());
+  fitting_ = spectra;
+  run_.Start(request_, spectra);
+  Refresh();
+}
+
+// A slot that was measured anew meanwhile has no use for it.
+void FilmFitWindow::TakeFit(int slot, const FilmFitRun::Result& result) {
+  if (state_.Slot(slot)->valid && state_.Slot(slot)->reflectance == fitting_[slot].reflectance) {
+    if (const auto* fit = std::get_if<FilmFit>(&result)) {
+      session_.StoreFit(slot, *fit);
+    } else {
+      refused_[slot] = std::get<FilmFitFault>(result);
+    }
+  }
+  Refresh();
+}
+
+QCoro::Task<> FilmFitWindow::FitEachSample(bool on) {
+  bool fitting = on && TakeEntries();
+  if (fitting && (changed_ || preferences_.InForce().filmStack.isEmpty())) {
+    fitting = co_await SaveStack();
+  }
+  each_->setChecked(fitting);
+  if (fitting) {
+    session_.SetFilmFit(request_, true);
+  } else {
+    session_.EndFilmFit();
+  }
+  ChangePreferences([fitting](ProgramSettings& s) { s.fitEachMeasurement = fitting; });
+}
+
+void FilmFitWindow::OpenStack() {
+  const std::optional<QString> path = dialogs_.AskOpen(Text::tr("膜構成ﾌｧｲﾙを開く"), Filter());
+  if (path && ReadStack(*path)) {
+    ChangePreferences([&path](ProgramSettings& s) { s.filmStack = *path; });
+    // What each sample is fitted with is what the window shows.
+    if (each_->isChecked()) {
+      FitEachSample(true);
+    }
+  }
+}
+
+QCoro::Task<bool> FilmFitWindow::SaveStack() {
+  if (!TakeEntries()) {
+    co_return false;
+  }
+  const QString& named = preferences_.InForce().filmStack;
+  const std::optional<SaveChoice> choice =
+      dialogs_.AskSave(Text::tr("膜構成ﾌｧｲﾙの保存"), Filter(), QFileInfo(named).fileName());
+  if (!choice) {
+    co_return false;
+  }
+  const QString path = WithExtension(choice->path, QStringLiteral(".flm"));
+  const bool may = co_await MayReplace(path, messages_);
+  if (!may || !TellWritten(WriteFilmStackFile(path, setting_), path, messages_)) {
+    co_return false;
+  }
+  changed_ = false;
+  ChangePreferences([&path](ProgramSettings& s) { s.filmStack = path; });
+  co_return true;
+}
+
+void FilmFitWindow::ChangePreferences(const std::function<void(ProgramSettings&)>& change) {
+  (void)TellWritten(preferences_.Change(change), ProgramSettingsPath(state_.programDirectory),
+                    messages_);
+  ShowFileName();
+}
+
+void FilmFitWindow::ShowSlot(int slot) {
+  slot_ = slot;
+  Refresh();
+}
+
+void FilmFitWindow::Refresh() {
+  progress_->setText(run_.Left() > 0 ? Text::tr("計算中... 残り %1").arg(run_.Left()) : QString());
+  results_->Show(state_, slot_, refused_);
+  const MeasurementSlot* slot = state_.Slot(slot_);
+  if (slot == nullptr || !slot->valid) {
+    plot_->ShowNothing();
+    fourier_->Show(std::nullopt, std::nullopt);
+    return;
+  }
+  plot_->Show(slot->reflectance, slot_, slot->fit, setting_.options.fromNm);
+  fourier_->Show(slot->fit && !request_.stack.layers.empty()
+                     ? TransformFringes(slot->reflectance, request_.stack.layers.front().n,
+                                        request_.options.fromNm, request_.options.toNm)
+                     : std::nullopt,
+                 slot->fit);
+}
+
+FilmFitReport FilmFitWindow::Report() const {
+  return {StackRows(setting_), results_->Rows(),
+          QStringLiteral("Mes%1  %2").arg(slot_).arg(state_.Slot(slot_)->info.sampleNumber),
+          results_->Words()};
+}
+
+void FilmFitWindow::Copy() const {
+  QApplication::clipboard()->setText(ReportText(Report()));
+}
+
+void FilmFitWindow::Print() {
+  printer_.Print(windowTitle(), ReportPages(windowTitle(), Report(), *plot_, *fourier_));
+}
+
+}  // namespace vexa

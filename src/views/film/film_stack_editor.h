@@ -1,0 +1,65 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <QComboBox>
+#include <QGroupBox>
+#include <QPushButton>
+#include <array>
+
+#include "optics/film_stack_file.h"
+#include "views/common/file_dialogs.h"
+#include "views/common/number_field.h"
+
+class QGridLayout;
+class QLabel;
+
+namespace vexa {
+
+/// The table of a film stack: a row a layer from the air to the substrate, with its material and
+/// the thickness that is known or the range in which it is looked for.
+class FilmStackEditor : public QGroupBox {
+  Q_OBJECT
+
+ public:
+  explicit FilmStackEditor(FileDialogs& dialogs, QWidget* parent = nullptr);
+
+  /// Shows substrate and layers of a setting, at least one layer.
+  void Show(const FilmStackSetting& setting);
+
+  /// Puts substrate and layers into a setting. False when a thickness is no number or its range is
+  /// none; the focus is on it then.
+  [[nodiscard]] bool Take(FilmStackSetting& setting);
+
+  /// Puts the focus on the material of a layer, from 0, or behind the last one on the substrate's.
+  void EnterMaterialAgain(std::size_t place);
+
+ signals:
+  void Edited();
+
+ private:
+  struct Row {
+    QLabel* number = nullptr;
+    QLineEdit* material = nullptr;
+    QPushButton* file = nullptr;
+    QComboBox* kind = nullptr;  ///< a range, or a known thickness
+    NumberField* from = nullptr;
+    QLabel* until = nullptr;
+    NumberField* to = nullptr;
+    QPushButton* remove = nullptr;
+  };
+
+  void BuildRow(QGridLayout& grid, std::size_t place);
+  void BuildMaterial(Row& row, const QString& name);
+  void AddLayer();
+  void RemoveLayer(std::size_t place);
+  void ShowRows();
+  void AskFile(QLineEdit& material);
+
+  FileDialogs& dialogs_;
+  std::size_t layers_ = 1;
+  std::array<Row, kMostFilmLayers> rows_;
+  Row substrate_;
+  QPushButton* add_;
+};
+
+}  // namespace vexa

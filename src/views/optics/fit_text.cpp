@@ -1,0 +1,30 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "views/optics/fit_text.h"
+
+#include <QStringList>
+
+#include "base/number_text.h"
+
+namespace vexa {
+
+QString FitThicknessText(const FilmFit& fit) {
+  if (fit.outcome == FitOutcome::kNone) {
+    return QStringLiteral("-");
+  }
+  QStringList layers;
+  for (const FittedLayer& layer : fit.layers) {
+    layers << QStringLiteral("%1 ± %2").arg(FormatNumber(layer.thicknessNm, u"0.0"),
+                                            FormatNumber(layer.uncertaintyNm, u"0.0"));
+  }
+  return layers.join(QStringLiteral(" / "));
+}
+
+QString DoubtTexts(const MeasurementSlot& slot) {
+  QStringList lines;
+  for (const ThicknessDoubt doubt : slot.doubts) {
+    lines << ThicknessDoubtText(doubt);
+  }
+  return lines.join(u'\n');
+}
+
+}  // namespace vexa

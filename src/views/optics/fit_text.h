@@ -1,0 +1,16 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <QString>
+
+#include "measurement/measurement_slot.h"
+
+namespace vexa {
+
+/// "1500.1 ± 1.4", the layers from the air on parted by " / "; "-" where no film is told.
+[[nodiscard]] QString FitThicknessText(const FilmFit& fit);
+
+/// All doubts about the thickness of a slot, a line each; empty without any.
+[[nodiscard]] QString DoubtTexts(const MeasurementSlot& slot);
+
+}  // namespace vexa
