@@ -96,8 +96,8 @@ struct Minimum {
 void FindMinima(const FringeRegression& regression, double fromNm, double toNm, double stepNm,
                 std::vector<Minimum>& found) {
   std::vector<double> line;
-  for (double nm = fromNm; nm <= toNm; nm += stepNm) {
-    line.push_back(regression.SumOfSquares(nm));
+  for (int i = 0; fromNm + i * stepNm <= toNm; ++i) {
+    line.push_back(regression.SumOfSquares(fromNm + i * stepNm));
   }
   for (std::size_t i = 1; i + 1 < line.size(); ++i) {
     if (line[i] <= line[i - 1] && line[i] < line[i + 1]) {
