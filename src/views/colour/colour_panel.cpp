@@ -201,7 +201,7 @@ void ColourPanel::ShowStock() {
   count_->setText(QString::number(state_.stock.Count));
   clear_->setEnabled(state_.stock.Count > 0);
   if (stockWindow_ != nullptr) {
-    stockWindow_->Refresh();
+    stockWindow_->SetNamed(cie_.has_value());
   }
 }
 
@@ -224,7 +224,7 @@ void ColourPanel::OpenStockWindow() {
   if (stockWindow_ == nullptr) {
     stockWindow_ = new StockWindow(session_, messages_, dialogs_, picture_, this);
   }
-  stockWindow_->Refresh();
+  stockWindow_->SetNamed(cie_.has_value());
   stockWindow_->show();
   stockWindow_->raise();
   stockWindow_->activateWindow();
