@@ -10,6 +10,7 @@
 #include "files/data_file.h"
 #include "files/environment_file.h"
 #include "standards/standard_file.h"
+#include "support/spectra.h"
 #include "views/colour/chromaticity_diagram.h"
 #include "views/graph/reflectance_graph.h"
 
@@ -523,7 +524,11 @@ TEST_F(MainWindow, VerdictsStandInTheStatusBar) {
 }
 
 TEST_F(MainWindow, ShowsTheCieColoursWhereTheProgramsSettingsSaySo) {
-  MeasureThrough(1);
+  state.Slot(1)->valid = true;
+  state.Slot(1)->reflectance = test::Flat(20.0);
+  ASSERT_TRUE(WriteDataFile(Path("a.csv"), DataFileLayout::kCsv, state));
+  dialogs.open = Path("a.csv");
+  window->Commands().openFile->trigger();
   const auto change = [this](const char* button) {
     InDialog(window->Commands().programSettings, [button](QWidget& dialog) {
       test::Click(dialog, "ShowCie");
@@ -541,12 +546,12 @@ TEST_F(MainWindow, ShowsTheCieColoursWhereTheProgramsSettingsSaySo) {
     return kinds.join(u'|');
   };
   window->Commands().views->actions().at(5)->trigger();
-  change("CANCEL");
+  change("Cancel");
   EXPECT_EQ(shown(), nullptr);
   EXPECT_FALSE(offered());
   change("OK");
   ASSERT_NE(shown(), nullptr);
-  EXPECT_NE(shown()->text(), QStringLiteral("-"));
+  EXPECT_EQ(shown()->text(), QStringLiteral("20.0"));
   EXPECT_TRUE(offered());
   EXPECT_EQ(marks(), QStringLiteral("x|x"));
   auto& choice = Find<QComboBox>("DiagramKind");

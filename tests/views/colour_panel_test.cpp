@@ -79,13 +79,20 @@ TEST_F(Panel, TheCieColumnStandsBesideTheOwnValues) {
   state.Slot(2)->valid = true;
   state.Slot(2)->reflectance = test::Flat(20.0);
   state.Slot(2)->colour = {.L = 1.0, .a = 2.0, .b = 3.0, .x = 0.1, .y = 0.2, .C = 4.0, .Y = 5.0};
-  state.Slot(3)->valid = true;  // black
+  state.Slot(3)->valid = true;   // black
+  state.display.xyMode = false;  // no background that grows
+  panel.resize(panel.width(), 900);
+  panel.show();
+  const auto picture = [this] {
+    QApplication::processEvents();
+    return panel.grab().toImage();
+  };
   panel.Show(2);
-  const QImage before = panel.grab().toImage();
+  const QImage before = picture();
   for (const bool on : {true, false, true}) {
     panel.ShowCie(on);
     EXPECT_EQ(panel.findChild<QLabel*>(QStringLiteral("CieRv")) != nullptr, on);
-    EXPECT_EQ(panel.grab().toImage() == before, !on) << "without it the panel is as it was";
+    EXPECT_EQ(picture() == before, !on) << "without it the panel is as it was";
   }
   EXPECT_EQ(Text("InstrumentHeading") + "|" + Text("CieHeading"), "装置固有|CIE");
   EXPECT_EQ(Text("CieRange"), "440 nm より下は外挿");
