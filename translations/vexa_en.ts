@@ -2859,5 +2859,91 @@ schott:A0,..,A5  sellmeier:A1,..,B3  cauchy:A,B[,C]</translation>
         <source>膜厚ﾌｨｯﾄ [nm]</source>
         <translation>Film fit [nm]</translation>
     </message>
+    <message>
+        <source>等色関数を本来の波長で用いた値です。他の測色計の値と比較できます。</source>
+        <translation>By the colour-matching functions at their true wavelengths. Comparable with the values of other colorimeters.</translation>
+    </message>
+    <message>
+        <source>この装置で従来から使われている値です。装置の規格の判定に用います。</source>
+        <translation>As this instrument has always given them. Its standards are judged by these.</translation>
+    </message>
+    <message>
+        <source>380～780 nm の平均は、440 nm より下を測定していないため表示しません。</source>
+        <translation>There is no average over 380 to 780 nm: nothing is measured below 440 nm.</translation>
+    </message>
+    <message>
+        <source>視感反射率 [%]。設定されている光源と視野によらず D65、2°の値です。</source>
+        <translation>Luminous reflectance [%], for D65 and 2° whatever illuminant and observer are set.</translation>
+    </message>
+    <message>
+        <source>外挿差 ΔE*ab</source>
+        <translation>Spread ΔE*ab</translation>
+    </message>
+    <message>
+        <source>440 nm より下を一定とした場合と直線で延長した場合の色差です。</source>
+        <translation>The colour difference between a constant and a linear continuation below 440 nm.</translation>
+    </message>
+    <message>
+        <source>測定は 440 nm からです。D65、2°ではYの0.2 %、Xの5 %、Zの22 %の重みが
+440 nm より下にあり、ここは440 nm の値が続くものとして計算します。
+この範囲に反射の山や谷がある試料では、外挿差より大きく外れることがあります。</source>
+        <translation>Measuring begins at 440 nm. For D65 and 2°, 0.2 % of the weight of Y, 5 % of X and 22 % of Z
+lie below; there the value at 440 nm is taken to go on.
+Where the reflectance has a peak or a valley in this range, the error can exceed the spread.</translation>
+    </message>
+    <message>
+        <source>測色値</source>
+        <translation>Colour values</translation>
+    </message>
+    <message>
+        <source>CIE は他の測色計の値と比較できる測色値です。</source>
+        <translation>CIE values are comparable with those of other colorimeters.</translation>
+    </message>
+    <message>
+        <source>測色値:</source>
+        <translation>Colour values:</translation>
+    </message>
+    <message>
+        <source>装置固有</source>
+        <translation>Instrument</translation>
+    </message>
+    <message>
+        <source>色度図に示す測色値を選びます。</source>
+        <translation>Which colour values the chromaticity diagrams show.</translation>
+    </message>
+    <message>
+        <source>CIE測色値を加える</source>
+        <translation>With CIE colour values</translation>
+    </message>
+    <message>
+        <source>他の測色計と比較できる値を、別の表 (と色度図) に加えます。</source>
+        <translation>Adds the values that compare with other colorimeters, in a table (and a diagram) of their own.</translation>
+    </message>
+    <message>
+        <source>CIE測色値 (%1 / %2°、Rv は D65 / 2°、%3)</source>
+        <translation>CIE colour values (%1 / %2°, Rv for D65 / 2°, %3)</translation>
+    </message>
+    <message>
+        <source>外挿差%1</source>
+        <translation>Spread %1</translation>
+    </message>
+    <message>
+        <source>CIE測色値を並べて表示する</source>
+        <translation>Show the CIE colour values as well</translation>
+    </message>
+    <message>
+        <source>ﾌﾟﾛｸﾞﾗﾑ設定</source>
+        <translation>Program settings</translation>
+    </message>
+    <message>
+        <source>測色値に「CIE」の列を加え、色度図で選べるようにし、印刷にも加えます。</source>
+        <translation>Adds the column "CIE" to the colour values, a choice to the chromaticity diagram, and a table to the report.</translation>
+    </message>
+    <message>
+        <source>他の測色計の値と比較できる値です。装置固有の測色値、規格の判定、
+ﾌｧｲﾙの内容は変わりません。440 nm より下は外挿した値を用います。</source>
+        <translation>They compare with the values of other colorimeters. The instrument's own colour values,
+the judgement and the contents of files stay as they are. Below 440 nm the spectrum is extrapolated.</translation>
+    </message>
 </context>
 </TS>

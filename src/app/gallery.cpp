@@ -2,7 +2,9 @@
 #include "app/gallery.h"
 
 #include <QApplication>
+#include <QComboBox>
 #include <QPixmap>
+#include <QPointer>
 #include <QPushButton>
 #include <QTabWidget>
 #include <cstdio>
@@ -43,6 +45,7 @@ int Gallery::Take(VEXA& window) {
   TakeViews(window);
   TakeDialogs(window);
   TakeWindows(window);
+  TakeCie(window);
   TakeMessage();
   return missing_;
 }
@@ -119,6 +122,39 @@ void Gallery::TakeFilmFit(VEXA& window) {
   TakeWindow(QStringLiteral("FilmFitWindow"), QStringLiteral("film-fit"));
 }
 
+// Everything that the CIE colours add; it is gone again at the end.
+void Gallery::TakeCie(VEXA& window) {
+  const MenuCommands& commands = window.Commands();
+  const auto choose = [](const QWidget& within, const char* choice) {
+    auto* box = within.findChild<QComboBox*>(QLatin1String(choice));
+    box->setCurrentIndex(box->count() - 1);
+    emit box->activated(box->currentIndex());
+    LetDraw();
+  };
+  const auto change = [](QWidget& dialog) {
+    Press(dialog, "ShowCie");
+    Press(dialog, "OK");
+  };
+  TakeDialog([&] { commands.programSettings->trigger(); }, QStringLiteral("program-settings"),
+             change);
+  constexpr int kDiagramView = 5;
+  commands.views->actions().at(kDiagramView)->trigger();
+  LetDraw();
+  choose(window, "DiagramKind");
+  Save(window, QStringLiteral("view-chromaticity-cie"));
+  TakeDialog(
+      [&] {
+        commands.colourDifference->trigger();
+        LetDraw();
+        choose(*QApplication::activeModalWidget(), "DifferenceKind");
+      },
+      QStringLiteral("colour-difference-cie"));
+  commands.views->actions().constFirst()->trigger();
+  commands.programSettings->trigger();
+  LetDraw();
+  change(*QApplication::activeModalWidget());
+}
+
 void Gallery::TakeMessage() {
   OriginalMsgFrm message;
   const auto show = [&message] {
@@ -136,7 +172,7 @@ void Gallery::TakeDialog(const std::function<void()>& open, const QString& name,
   const QWidget* below = QApplication::activeModalWidget();
   open();
   LetDraw();
-  QWidget* dialog = QApplication::activeModalWidget();
+  const QPointer<QWidget> dialog = QApplication::activeModalWidget();
   if (dialog == below) {
     Fail(name);
     return;
@@ -152,7 +188,9 @@ void Gallery::TakeDialog(const std::function<void()>& open, const QString& name,
   if (inside) {
     inside(*dialog);
   }
-  dialog->close();
+  if (dialog != nullptr) {
+    dialog->close();
+  }
   LetDraw();
 }
 

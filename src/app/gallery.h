@@ -24,6 +24,7 @@ class Gallery {
   void TakeDialogs(VEXA& window);
   void TakeWindows(VEXA& window);
   void TakeFilmFit(VEXA& window);
+  void TakeCie(VEXA& window);
   void TakeMessage();
   /// The dialog that `open` opens, each of its pages; `inside` may do more in it before it closes.
   void TakeDialog(const std::function<void()>& open, const QString& name,

@@ -89,6 +89,7 @@ class English : public test::MainWindowTest {
 };
 
 TEST_F(English, NoWindowHoldsAJapaneseText) {
+  peer.files.Write("program.json", R"({"showCie": true})");
   Begin();
   EXPECT_EQ(JapaneseTexts(*window), QStringList());
   EXPECT_EQ(window->menuBar()->actions().constFirst()->text(), QStringLiteral("&File"));

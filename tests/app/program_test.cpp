@@ -159,9 +159,11 @@ TEST_F(Report, IsPrintedWithoutADisplay) {
 }
 
 TEST_F(Report, SpeaksTheLanguageAskedFor) {
+  files.Write("program.json", R"({"showCie": true})");
   EXPECT_EQ(Run("--report @測定.csv --out @報告.pdf --operator 佐藤 --language en"), 0);
   const QString text = test::PdfPages(files.Path("報告.pdf")).join(QString());
-  for (const char* expected : {"Reflectance measurement", "Operator 佐藤", "3 鏡面", "440 2.500"}) {
+  for (const char* expected :
+       {"Reflectance measurement", "Operator 佐藤", "3 鏡面", "440 2.500", "CIE colour values"}) {
     EXPECT_TRUE(text.contains(QString::fromUtf8(expected))) << expected << '\n'
                                                             << text.toStdString();
   }

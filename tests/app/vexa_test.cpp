@@ -3,12 +3,15 @@
 
 #include <gtest/gtest.h>
 
+#include <QComboBox>
 #include <cmath>
 
 #include "app/main_window_test.h"
 #include "files/data_file.h"
 #include "files/environment_file.h"
 #include "standards/standard_file.h"
+#include "support/spectra.h"
+#include "views/colour/chromaticity_diagram.h"
 #include "views/graph/reflectance_graph.h"
 
 namespace vexa {
@@ -518,6 +521,49 @@ TEST_F(MainWindow, VerdictsStandInTheStatusBar) {
   EXPECT_EQ(Text("StatusPanel2"), "");
   EXPECT_EQ(Text("StatusPanel3"), "平均反射率:OK");
   EXPECT_EQ(Text("StatusPanel4"), "視感反射率:NG");
+}
+
+TEST_F(MainWindow, ShowsTheCieColoursWhereTheProgramsSettingsSaySo) {
+  state.Slot(1)->valid = true;
+  state.Slot(1)->reflectance = test::Flat(20.0);
+  ASSERT_TRUE(WriteDataFile(Path("a.csv"), DataFileLayout::kCsv, state));
+  dialogs.open = Path("a.csv");
+  window->Commands().openFile->trigger();
+  const auto change = [this](const char* button) {
+    InDialog(window->Commands().programSettings, [button](QWidget& dialog) {
+      test::Click(dialog, "ShowCie");
+      test::Click(dialog, button);
+    });
+  };
+  const auto offered = [this] { return Find<QComboBox>("DiagramKind").isVisible(); };
+  const auto shown = [this] { return window->findChild<QLabel*>(QStringLiteral("CieRv")); };
+  const auto marks = [this] {
+    QStringList kinds;
+    for (const auto* diagram : window->findChildren<ChromaticityDiagram*>()) {
+      const auto ticker = diagram->xAxis->ticker().dynamicCast<QCPAxisTickerText>();
+      kinds << ticker->ticks().value(0.4);
+    }
+    return kinds.join(u'|');
+  };
+  window->Commands().views->actions().at(5)->trigger();
+  change("Cancel");
+  EXPECT_EQ(shown(), nullptr);
+  EXPECT_FALSE(offered());
+  change("OK");
+  ASSERT_NE(shown(), nullptr);
+  EXPECT_EQ(shown()->text(), QStringLiteral("20.0"));
+  EXPECT_TRUE(offered());
+  EXPECT_EQ(marks(), QStringLiteral("x|x"));
+  auto& choice = Find<QComboBox>("DiagramKind");
+  choice.setCurrentIndex(1);
+  emit choice.activated(1);
+  EXPECT_EQ(marks(), QStringLiteral("x (CIE)|x (CIE)"));
+
+  Start();
+  EXPECT_NE(shown(), nullptr) << "kept for the next start";
+  change("OK");
+  EXPECT_EQ(shown(), nullptr);
+  EXPECT_EQ(marks(), QStringLiteral("x|x"));
 }
 
 TEST_F(MainWindow, OpensDataFilesAndEnvironments) {

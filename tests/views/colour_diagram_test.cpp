@@ -8,6 +8,7 @@
 #include <cmath>
 #include <map>
 
+#include "support/spectra.h"
 #include "support/window_test.h"
 
 namespace vexa {
@@ -72,6 +73,71 @@ TEST_F(Diagram, AxesAreLabelledByModeAndScale) {
     EXPECT_EQ(Labels(diagram.yAxis), c.y);
     EXPECT_EQ(diagram.xAxis->range().lower, c.x.begin()->first);
     EXPECT_EQ(diagram.yAxis->range().upper, c.x.rbegin()->first);
+  }
+}
+
+TEST_F(Diagram, ShowsEitherColourAndSaysWhich) {
+  MeasurementSlot& slot = *state.Slot(2);
+  slot.valid = true;
+  slot.reflectance = test::Flat(50.0);
+  slot.colour = {.a = 7.0, .b = 8.0, .x = 0.1, .y = 0.2};
+  state.Slot(3)->valid = true;  // black
+  state.accumulate = true;
+  state.standard.chroma = {true, 35.0, 0.0};
+  const auto text = [this] {
+    for (int i = 0; i < diagram.itemCount(); ++i) {
+      if (const auto* item = qobject_cast<QCPItemText*>(diagram.item(i))) {
+        return item->text().toStdString();
+      }
+    }
+    return std::string();
+  };
+  const auto isRed = [this] {
+    const QColor colour = PixelAt(0, -35);
+    return colour.red() > colour.green() + 40;
+  };
+  // The white point of illuminant A is that of an even reflectance.
+  const struct {
+    ColourKind kind;
+    bool named;
+    bool xyMode;
+    QPointF at;
+    double within;
+    const char* axis;
+    const char* text;
+  } cases[] = {
+      {ColourKind::kInstrument, false, true, {0.1, 0.2}, 0.0, "x", "A / 2°"},
+      {ColourKind::kInstrument, true, false, {7.0, 8.0}, 0.0, "a*", "装置固有  A / 2°"},
+      {ColourKind::kCie,
+       true,
+       true,
+       {0.44757, 0.40745},
+       2e-5,
+       "x (CIE)",
+       "CIE  A / 2°\n440 nm より下は外挿"},
+      {ColourKind::kCie,
+       true,
+       false,
+       {0.0, 0.0},
+       1e-9,
+       "a* (CIE)",
+       "CIE  A / 2°\n440 nm より下は外挿"},
+  };
+  for (const auto& c : cases) {
+    state.display.xyMode = c.xyMode;
+    state.stock.Record(state.ColourConditions());
+    state.stock.RemoveAll();
+    (void)state.stock.StockAdd({.L = 1.0, .x = 0.3, .y = 0.3}, c.xyMode);
+    diagram.SetKind(c.kind, c.named);
+    diagram.ShowSlots(state, 2);
+    ASSERT_EQ(diagram.Marks().Slots().size(), 1U);
+    EXPECT_NEAR(diagram.Marks().Slots()[0].at.x(), c.at.x(), c.within);
+    EXPECT_NEAR(diagram.Marks().Slots()[0].at.y(), c.at.y(), c.within);
+    EXPECT_EQ(Labels(diagram.xAxis)[c.xyMode ? 0.4 : 0.0], c.axis);
+    EXPECT_EQ(text(), c.text);
+    const bool own = c.kind == ColourKind::kInstrument;
+    EXPECT_EQ(isRed(), own && !c.xyMode) << "standards are for the own values";
+    EXPECT_EQ(diagram.graph(0)->dataCount(), own ? 1 : 0) << "so is the accumulation";
   }
 }
 

@@ -3,6 +3,7 @@
 
 #include <gtest/gtest.h>
 
+#include "support/spectra.h"
 #include "support/window_test.h"
 #include "views/colour/background_picture.h"
 #include "views/colour/chromaticity_diagram.h"
@@ -60,6 +61,64 @@ TEST_F(Panel, ShowsTheColourOfTheSelectedSlot) {
     }
     EXPECT_EQ(shown, c.texts) << "slot " << c.slot;
   }
+}
+
+// x, y and Y of an even 20 % are those of illuminant A and 20; L* is 116 cbrt(0.2) - 16.
+TEST_F(Panel, TheCieColumnStandsBesideTheOwnValues) {
+  const QByteArray own = "Coordinate1 Coordinate2 Coordinate3 Chroma Hue LuminousReflectance";
+  const QByteArray cie =
+      "CieCoordinate1 CieCoordinate2 CieCoordinate3 CieChroma CieHue CieAverageReflectance "
+      "CieLuminousReflectance CieRv CieSpread";
+  const auto shown = [this](const QByteArray& names) {
+    std::string texts;
+    for (const QByteArray& name : names.split(' ')) {
+      texts += (texts.empty() ? "" : "|") + Text(name);
+    }
+    return texts;
+  };
+  state.Slot(2)->valid = true;
+  state.Slot(2)->reflectance = test::Flat(20.0);
+  state.Slot(2)->colour = {.L = 1.0, .a = 2.0, .b = 3.0, .x = 0.1, .y = 0.2, .C = 4.0, .Y = 5.0};
+  state.Slot(3)->valid = true;   // black
+  state.display.xyMode = false;  // no background that grows
+  panel.resize(panel.width(), 900);
+  panel.show();
+  const auto picture = [this] {
+    QApplication::processEvents();
+    return panel.grab().toImage();
+  };
+  panel.Show(2);
+  const QImage before = picture();
+  for (const bool on : {true, false, true}) {
+    panel.ShowCie(on);
+    EXPECT_EQ(panel.findChild<QLabel*>(QStringLiteral("CieRv")) != nullptr, on);
+    EXPECT_EQ(picture() == before, !on) << "without it the panel is as it was";
+  }
+  EXPECT_EQ(Text("InstrumentHeading") + "|" + Text("CieHeading"), "装置固有|CIE");
+  EXPECT_EQ(Text("CieRange"), "440 nm より下は外挿");
+  const struct {
+    bool xyMode;
+    int slot;
+    const char* own;
+    const char* cie;
+  } cases[] = {
+      {true, 2, "0.1000|0.2000|5.00|4.000|0.000|5.0",
+       "0.4476|0.4074|20.0|0.000|-|-|20.0|20.0|0.000"},
+      {false, 2, "2.0000|3.0000|1.00|4.000|0.000|5.0",
+       "0.0000|0.0000|51.84|0.000|-|-|20.0|20.0|0.000"},
+      {true, 3, "-|-|-|-|-|-", "-|-|0.0|0.000|-|-|0.0|0.0|0.000"},
+      {true, 4, "-|-|-|-|-|-", "-|-|-|-|-|-|-|-|-"},
+  };
+  for (const auto& c : cases) {
+    state.display.xyMode = c.xyMode;
+    panel.Show(c.slot);
+    EXPECT_EQ(shown(own), c.own);
+    EXPECT_EQ(shown(cie), c.cie);
+  }
+  state.display.xyMode = true;
+  state.colour = {4, false, 440, 840};
+  panel.Show(2);
+  EXPECT_EQ(Text("CieCoordinate1") + Text("CieCoordinate2"), "0.31380.3310") << "D65, 10 degrees";
 }
 
 TEST_F(Panel, AsksWhenTheStockWasTakenUnderOtherConditions) {

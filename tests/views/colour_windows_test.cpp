@@ -3,6 +3,7 @@
 
 #include <QApplication>
 #include <QClipboard>
+#include <QComboBox>
 
 #include "base/code_page.h"
 #include "colour/stock_file.h"
@@ -101,7 +102,7 @@ TEST_F(Difference, ComparesEveryOtherValidSlotWithTheStandard) {
   ColourDifferenceWindow window(state, 4, printer, messages, dialogs);
   test::Click(window, "CopyTable");
   QStringList rows = QApplication::clipboard()->text().split(u'\n', Qt::SkipEmptyParts);
-  ASSERT_EQ(rows.size(), 7);
+  ASSERT_EQ(rows.size(), 8);
   dialogs.save = SaveChoice{files.Path("色差.csv")};
   test::Click(window, "SaveTable");
   EXPECT_EQ(CodePageDecoder().Decode(files.Read("色差.csv")),
@@ -113,8 +114,8 @@ TEST_F(Difference, ComparesEveryOtherValidSlotWithTheStandard) {
     EXPECT_TRUE(printed.contains(QString(row).replace(u'\t', u' '))) << row.toStdString();
   }
   EXPECT_TRUE(rows.first().startsWith(QStringLiteral("基準\tMes4")));
-  EXPECT_EQ(rows.mid(1, 2).join(u' '), QStringLiteral("光源\tA 視野\t2°"));
-  rows = rows.mid(3);
+  EXPECT_EQ(rows.mid(1, 3).join(u' '), QStringLiteral("測色値\t装置固有 光源\tA 視野\t2°"));
+  rows = rows.mid(4);
   EXPECT_EQ(rows[0], QStringLiteral("ｽﾛｯﾄ\t試料No\tΔL*\tΔa*\tΔb*\tΔC*\tΔH*\tΔE*ab\tΔE00"));
   EXPECT_EQ(rows[1],
             QStringLiteral("Mes2\t試料 A\t0.000\t0.000\t0.000\t0.000\t0.000\t0.000\t0.000"));
@@ -135,6 +136,41 @@ TEST_F(Difference, ComparesEveryOtherValidSlotWithTheStandard) {
   ASSERT_EQ(table->rowCount(), 3);
   EXPECT_EQ(table->item(1, 0)->text(), QStringLiteral("Mes4"));
   EXPECT_EQ(table->item(1, 2)->text().toDouble(), -brighter[2].toDouble());
+}
+
+// L* of an even reflectance R is 116 cbrt(R / 100) - 16.
+TEST_F(Difference, ComparesTheCieColoursWhenTheyAreChosen) {
+  Fill(*state.Slot(1), 18.0, 0.0, "灰");
+  Fill(*state.Slot(2), 20.0, 0.0, "白");
+  Fill(*state.Slot(3), 18.0, 9.0, "緑");
+  Fill(*state.Slot(4), 0.0, 0.0, "黒");
+  ColourDifferenceWindow window(state, 1, printer, messages, dialogs);
+  const auto copied = [&window] {
+    test::Click(window, "CopyTable");
+    return QApplication::clipboard()->text().split(u'\n', Qt::SkipEmptyParts);
+  };
+  auto& range = test::Child<QLabel>(window, "DifferenceRange");
+  EXPECT_TRUE(range.isHidden());
+  const QStringList own = copied();
+  test::Child<QComboBox>(window, "DifferenceKind").setCurrentIndex(1);
+  EXPECT_FALSE(range.isHidden());
+  const QStringList cie = copied();
+  const QString name = QStringLiteral("CIE (440 nm より下は外挿)");
+  EXPECT_EQ(cie[1], QStringLiteral("測色値\t") + name);
+  EXPECT_EQ(cie[5], QStringLiteral("Mes2\t白\t2.341\t0.000\t0.000\t0.000\t0.000\t2.341\t") +
+                        cie[5].section(u'\t', -1));
+  EXPECT_GT(
+      std::abs(cie[6].section(u'\t', 3, 3).toDouble() - own[6].section(u'\t', 3, 3).toDouble()),
+      1.0)
+      << "of a green the two are different colours";
+  EXPECT_EQ(cie[7], QStringLiteral("Mes4\t黒\t-\t-\t-\t-\t-\t-\t-"));
+  dialogs.save = SaveChoice{files.Path("色差.csv")};
+  test::Click(window, "SaveTable");
+  EXPECT_EQ(CodePageDecoder().Decode(files.Read("色差.csv")),
+            cie.join(QStringLiteral("\r\n")).replace(u'\t', u',') + QStringLiteral("\r\n"));
+  dialogs.save = SaveChoice{files.Path("色差.pdf")};
+  test::Click(window, "PrintTable");
+  EXPECT_TRUE(test::PdfPages(files.Path("色差.pdf")).join(QString()).contains(name));
 }
 
 TEST_F(Difference, IsEmptyWithoutSlots) {

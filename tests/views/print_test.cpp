@@ -160,6 +160,37 @@ TEST_F(Printing, TheDiagramIsPrintedWhenItIsChosen) {
   }
 }
 
+// Both observers see an even 20 % at the white point, with L* 116 cbrt(0.2) - 16.
+TEST_F(Printing, TheCieColoursStandInATableOfTheirOwn) {
+  state.colour = {4, false, 440, 840};
+  state.Slot(2)->valid = true;
+  state.Slot(2)->reflectance = test::Flat(20.0);
+  EvaluateAgain(state);
+  request.content = ReportContent::kGraph;
+  const QString caption =
+      QStringLiteral("CIE測色値 (D65 / 10°、Rv は D65 / 2°、440 nm より下は外挿)");
+  const QString row =
+      QStringLiteral("20.0 21.465 0.3138 0.3310 51.84 0.0000 0.0000 0.000 - 20.0 0.000");
+  const QString own = QStringLiteral("測定値 (装置固有)");
+  for (const bool chosen : {false, true}) {
+    request.cie = chosen;
+    const QString all = Pages().join(QString());
+    for (const QString& text : {caption, row, own}) {
+      EXPECT_EQ(all.contains(text), chosen) << text.toStdString() << '\n' << all.toStdString();
+    }
+    dialogs.save = SaveChoice{files.Path("図.pdf")};
+    request.diagram = true;
+    PrintDlg dialog(state, 2, request, printer, messages);
+    EXPECT_EQ(Child<QAbstractButton>(dialog, "ReportCie").isChecked(), chosen);
+    Click(dialog, "ReportCie");
+    Click(dialog, "OK");
+    EXPECT_EQ(request.cie, !chosen);
+    const QString printed = test::PdfPages(files.Path("図.pdf")).join(QString());
+    EXPECT_EQ(printed.count(QStringLiteral("560")), chosen ? 1 : 2) << "a diagram for each";
+    messages.answers = {MessageResult::kYes};
+  }
+}
+
 TEST_F(Printing, FilesAreProposedAfterTheDataFileOrTheSampleAndTheDay) {
   EXPECT_EQ(ProposedName(state), QString());
   Fill(3);
@@ -219,6 +250,7 @@ TEST_F(Printing, NothingLeavesThePaper) {
 TEST_F(Printing, NoWordOfATableStandsOnAnother) {
   Fill(10);
   request.content = ReportContent::kText;
+  request.cie = true;
   Pages();
   for (const std::vector<QRectF>& words : test::PdfWordPlaces(Path())) {
     for (auto word = words.begin(); word != words.end(); ++word) {

@@ -59,14 +59,6 @@ CieColumn::CieColumn(QGridLayout& grid, const Rows& rows) {
       Text::tr("測定は 440 nm からです。D65、2°ではYの0.2 %、Xの5 %、Zの22 %の重みが\n"
                "440 nm より下にあり、ここは440 nm の値が続くものとして計算します。\n"
                "この範囲に反射の山や谷がある試料では、外挿差より大きく外れることがあります。"));
-  SetVisible(false);
-}
-
-void CieColumn::SetVisible(bool visible) {
-  visible_ = visible;
-  for (QLabel* label : labels_) {
-    label->setVisible(visible);
-  }
 }
 
 void CieColumn::Show(const std::optional<CieColour>& colour, bool xyMode) {
@@ -86,7 +78,6 @@ QLabel* CieColumn::AddText(QGridLayout& grid, int row, int column, const char* n
   auto* label = new QLabel(text);
   label->setObjectName(QLatin1String(name));
   grid.addWidget(label, row, column, 1, columns);
-  labels_.push_back(label);
   return label;
 }
 

@@ -13,8 +13,7 @@ class QGridLayout;
 namespace vexa {
 
 /// The CIE colour as a further column of the colour values, beside the instrument's own: a heading
-/// above both, the values, their spread, and what is said of the range. Hidden at first; the grid
-/// then looks as if there were none.
+/// above both, the values, their spread, and what is said of the range.
 class CieColumn {
  public:
   /// Where the rows of the values stand in the grid, whose row 0 is free; behind its last row come
@@ -29,16 +28,13 @@ class CieColumn {
 
   CieColumn(QGridLayout& grid, const Rows& rows);
 
-  void SetVisible(bool visible);
-  [[nodiscard]] bool IsVisible() const { return visible_; }
-
   /// Shows x, y, Y or a*, b*, L* in the rows of the coordinates; "-" for what does not exist.
   void Show(const std::optional<CieColour>& colour, bool xyMode);
 
  private:
-  QLabel* AddText(QGridLayout& grid, int row, int column, const char* name, const QString& text,
-                  int columns = 1);
-  QLabel* AddNumber(QGridLayout& grid, int row, const char* name);
+  static QLabel* AddText(QGridLayout& grid, int row, int column, const char* name,
+                         const QString& text, int columns = 1);
+  static QLabel* AddNumber(QGridLayout& grid, int row, const char* name);
   void AddRow(QGridLayout& grid, int row, const QString& caption, const char* name,
               double CieColour::*value, const QString& tip);
 
@@ -48,10 +44,8 @@ class CieColumn {
     double CieColour::*value;
   };
 
-  std::vector<QLabel*> labels_;
   std::vector<Fixed> fixed_;
   std::array<QLabel*, 3> coordinates_{};
-  bool visible_ = false;
 };
 
 }  // namespace vexa

@@ -5,6 +5,7 @@
 #include <QHBoxLayout>
 #include <QPointer>
 #include <QVBoxLayout>
+#include <memory>
 
 #include "base/number_text.h"
 #include "base/translation.h"
@@ -48,14 +49,22 @@ ColourPanel::ColourPanel(Session& session, MessageService& messages, FileDialogs
 
 void ColourPanel::Show(int selectedSlot) {
   slot_ = selectedSlot;
-  diagram_->SetKind(diagramKind_, cie_->IsVisible());
+  diagram_->SetKind(diagramKind_, cie_.has_value());
   diagram_->ShowSlots(state_, selectedSlot);
   ShowValues(selectedSlot);
   ShowStock();
 }
 
 void ColourPanel::ShowCie(bool shown) {
-  cie_->SetVisible(shown);
+  if (shown != cie_.has_value()) {
+    // Built anew: a grid keeps the space of a column that is hidden.
+    const std::unique_ptr<QWidget> before(values_);
+    cie_.reset();
+    const std::unique_ptr<QLayoutItem> place(layout()->replaceWidget(before.get(), BuildValues()));
+    if (shown) {
+      AddCie();
+    }
+  }
   Show(slot_);
 }
 
@@ -94,6 +103,11 @@ QWidget* ColourPanel::BuildValues() {
   hue_ = AddValue(*grid, "Hue", QStringLiteral("h :"), degree);
   average_ = AddValue(*grid, "AverageReflectance", Text::tr("平均反射率"), percent);
   luminous_ = AddValue(*grid, "LuminousReflectance", Text::tr("視感反射率"), percent);
+  return values_;
+}
+
+void ColourPanel::AddCie() {
+  auto* grid = qobject_cast<QGridLayout*>(values_->layout());
   const auto rowOf = [grid](const Value& value) {
     int row = 0;
     int column = 0;
@@ -107,7 +121,6 @@ QWidget* ColourPanel::BuildValues() {
                                       rowOf(hue_),
                                       rowOf(average_),
                                       rowOf(luminous_)});
-  return values_;
 }
 
 ColourPanel::Value ColourPanel::AddValue(QGridLayout& grid, const char* name,
@@ -178,7 +191,7 @@ void ColourPanel::ShowValues(int selectedSlot) {
   show(hue_, colour.h, u"##0.000");
   average_.text->setText(valid ? FormatNumber(colour.Rm, u"##0.0##").trimmed() : kNone);
   show(luminous_, colour.Y, u"##0.0##");
-  if (cie_->IsVisible()) {
+  if (cie_) {
     cie_->Show(valid ? CalcCieColour(slot->reflectance, state_.colour) : std::nullopt, xyMode);
   }
 }
@@ -188,7 +201,7 @@ void ColourPanel::ShowStock() {
   count_->setText(QString::number(state_.stock.Count));
   clear_->setEnabled(state_.stock.Count > 0);
   if (stockWindow_ != nullptr) {
-    stockWindow_->Refresh();
+    stockWindow_->SetNamed(cie_.has_value());
   }
 }
 
@@ -211,7 +224,7 @@ void ColourPanel::OpenStockWindow() {
   if (stockWindow_ == nullptr) {
     stockWindow_ = new StockWindow(session_, messages_, dialogs_, picture_, this);
   }
-  stockWindow_->Refresh();
+  stockWindow_->SetNamed(cie_.has_value());
   stockWindow_->show();
   stockWindow_->raise();
   stockWindow_->activateWindow();

@@ -51,6 +51,7 @@ class ColourPanel : public QWidget {
 
   QWidget* BuildDiagram();
   QWidget* BuildValues();
+  void AddCie();
   QWidget* BuildStock();
   static Value AddValue(QGridLayout& grid, const char* name, const QString& caption,
                         const QString& unit);
@@ -77,7 +78,7 @@ class ColourPanel : public QWidget {
   Value hue_{};
   Value average_{};
   Value luminous_{};
-  std::optional<CieColumn> cie_;
+  std::optional<CieColumn> cie_;  ///< while it is shown
   QCheckBox* accumulate_ = nullptr;
   QLabel* count_ = nullptr;
   QPushButton* clear_ = nullptr;

@@ -66,6 +66,11 @@ StockWindow::StockWindow(Session& session, MessageService& messages, FileDialogs
   Refresh();
 }
 
+void StockWindow::SetNamed(bool named) {
+  diagram_->SetKind(ColourKind::kInstrument, named);
+  Refresh();
+}
+
 void StockWindow::Refresh() {
   diagram_->ShowStock(state_);
   count_->setText(Text::tr("累積数  %1 / %2")

@@ -24,6 +24,9 @@ class StockWindow : public QDialog {
   StockWindow(Session& session, MessageService& messages, FileDialogs& dialogs,
               std::shared_ptr<BackgroundPicture> picture, QWidget* parent = nullptr);
 
+  /// Whether the diagram says that the points are of the instrument's own colours.
+  void SetNamed(bool named);
+
   /// Shows the stock as it is now.
   void Refresh();
 
