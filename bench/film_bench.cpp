@@ -37,6 +37,9 @@ vexa::ReflectanceSpectrum Noisy(const vexa::FilmStack& stack, std::vector<double
 const vexa::FilmStack kOne{kSubstrate, {kCoat}};
 const vexa::FilmStack kTwo{kSubstrate, {kCoat, kPrimer}};
 
+const vexa::FilmStack kThree{kSubstrate, {kCoat, kPrimer, kCoat}};
+const vexa::FilmStack kFour{kSubstrate, {kCoat, kPrimer, kCoat, kPrimer}};
+
 void Fourier(benchmark::State& state) {
   const auto spectrum = Noisy(kOne, {static_cast<double>(state.range(0))});
   for (auto _ : state) {
@@ -91,6 +94,22 @@ BENCHMARK(TwoLayers)
     ->Args({2000, 1500})
     ->Args({4000, 1000})
     ->Unit(benchmark::kMillisecond);
+
+// Unknown, and known to a tenth.
+void ManyLayers(benchmark::State& state, const vexa::FilmStack& stack, bool known) {
+  const std::vector<double> truthNm{3000.0, 700.0, 1500.0, 400.0};
+  std::vector<double> used(truthNm.begin(),
+                           truthNm.begin() + static_cast<std::ptrdiff_t>(stack.layers.size()));
+  std::vector<vexa::ThicknessRange> ranges(used.size());
+  for (std::size_t i = 0; known && i < used.size(); ++i) {
+    ranges[i] = {0.9 * used[i], 1.1 * used[i]};
+  }
+  Fit(state, stack, used, ranges);
+}
+BENCHMARK_CAPTURE(ManyLayers, ThreeKnown, kThree, true)->Unit(benchmark::kMillisecond);
+BENCHMARK_CAPTURE(ManyLayers, Three, kThree, false)->Unit(benchmark::kMillisecond);
+BENCHMARK_CAPTURE(ManyLayers, FourKnown, kFour, true)->Unit(benchmark::kMillisecond);
+BENCHMARK_CAPTURE(ManyLayers, Four, kFour, false)->Unit(benchmark::kMillisecond);
 
 // Ten slots on all processors.
 void TenSlots(benchmark::State& state) {

@@ -204,6 +204,7 @@ class Fitter {
       best = std::move(*weighted);
     }
     FilmFit fit;
+    fit.fromNm = options_.fromNm;
     const std::vector<double> residuals = solver_.Residuals(best.point);
     for (std::size_t i = 0; i < residuals.size(); ++i) {
       fit.fitted.push_back(measured_[i] - residuals[i]);

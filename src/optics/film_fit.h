@@ -78,7 +78,8 @@ struct FilmFit {
   double index = 1.0;          ///< factor on the index of the first layer
   double rms = 0.0;            ///< of the residual, percent
   double noise = 0.0;          ///< of the spectrum, percent
-  std::vector<double> fitted;  ///< the model from `fromNm` to `toNm`, percent
+  int fromNm = 0;              ///< of the wavelengths used, as the next
+  std::vector<double> fitted;  ///< the model at each nanometre, percent
   std::vector<FitAlternative> alternatives;
   QStringList warnings;  ///< for the user
 };

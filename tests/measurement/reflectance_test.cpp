@@ -3,6 +3,10 @@
 
 #include <gtest/gtest.h>
 
+#include <cmath>
+#include <random>
+
+#include "measurement/reflectance_noise.h"
 #include "support/spectra.h"
 
 namespace vexa {
@@ -14,6 +18,42 @@ RawSpectrum Counts(double value) {
     each = value;
   }
   return counts;
+}
+
+// Shot noise of 200 electrons a count and read noise of 1 count, as they make a reflectance of 1 %
+// beside a reference of 4 % whose light grows from 100 to 2500 counts.
+TEST(ReflectanceNoise, IsToldByTheFramesUpToAFactor) {
+  std::mt19937_64 generator(3);
+  std::normal_distribution<double> normal;
+  const auto light = [](int nm) { return 100.0 + 6.0 * (nm - 440); };
+  const auto variance = [](double counts) { return counts / 200.0 + 1.0; };
+  const auto frame = [&](double part, double lines) {
+    RawSpectrum counts;
+    for (int nm = RawSpectrum::kFirstNm; nm <= RawSpectrum::kLastNm; ++nm) {
+      const double mean = 50.0 + part * light(nm);
+      counts[nm] = mean + std::sqrt(variance(mean) / lines) * normal(generator);
+    }
+    return counts;
+  };
+  VEXATYPE state;
+  state.instrument.calibrationShiftNm = 0;
+  state.referenceReflectance = test::Flat(4.0);
+  state.background = frame(0.0, 1.0);
+  state.reference = frame(1.0, 4.0);
+  state.backgroundTaken.averagingCount = 1;
+  state.referenceTaken.averagingCount = 4;
+  const ReflectanceSpectrum noise = ReflectanceNoise(state, frame(0.25, 16.0), {{}, 0, 16, 0});
+  const auto truth = [&](int nm) {
+    return std::sqrt(variance(50.0 + 0.25 * light(nm)) / 16.0 + variance(50.0 + light(nm)) / 64.0 +
+                     0.5625 * variance(50.0)) /
+           light(nm);
+  };
+  for (const int nm : {440, 500, 600, 840}) {
+    EXPECT_NEAR(noise[nm] / noise[700], truth(nm) / truth(700), 0.15 * truth(nm) / truth(700))
+        << nm;
+  }
+  state.reference = state.background;
+  EXPECT_TRUE(ReflectanceNoise(state, state.background, {}).IsEmpty()) << "no light";
 }
 
 TEST(Reflectance, IsThePartOfTheReferencesLightAboveTheBackground) {

@@ -184,6 +184,38 @@ TEST(FilmFit, AddsTheUncertaintiesThatItIsTold) {
   EXPECT_NEAR(uncertainty(0.1, 1e-4), std::hypot(0.72, 0.4), 0.05);
 }
 
+// Ten times the noise in the blue: who knows it errs less than who takes all points alike.
+TEST(FilmFit, WeighsByTheNoiseThatItIsTold) {
+  constexpr int kSpectra = 40;
+  constexpr double kTruthNm = 1500.0;
+  const ReflectanceSpectrum noise =
+      test::SpectrumOf([](int nm) { return 0.02 * (1.0 + 9.0 * (840 - nm) / 400.0); });
+  const ReflectanceSpectrum alike = Flat(1.0);
+  const ReflectanceSpectrum clean = Reflected(Coat(kTruthNm));
+  const std::vector<ThicknessRange> ranges{{1400.0, 1600.0}};
+  std::mt19937_64 generator(7);
+  std::normal_distribution<double> normal;
+  double told = 0.0;
+  double untold = 0.0;
+  int held = 0;
+  for (int i = 0; i < kSpectra; ++i) {
+    const ReflectanceSpectrum spectrum =
+        test::SpectrumOf([&](int nm) { return clean[nm] + noise[nm] * normal(generator); });
+    const auto layer = [&](const ReflectanceSpectrum& weights) {
+      return std::get<FilmFit>(
+                 FitFilm(spectrum, CoatStack(), ranges, {.bandwidthNm = 0.0}, &weights))
+          .layers.front();
+    };
+    const FittedLayer weighed = layer(noise);
+    const double off = weighed.thicknessNm - kTruthNm;
+    told += off * off;
+    untold += std::pow(layer(alike).thicknessNm - kTruthNm, 2);
+    held += std::abs(off) <= weighed.statisticalNm ? 1 : 0;
+  }
+  EXPECT_LT(told, 0.7 * untold);
+  EXPECT_GE(held, 34);  // 38 expected
+}
+
 TEST(FilmFit, RefusesWhatHasNoMeaning) {
   const ReflectanceSpectrum good = Reflected(Coat(1500.0));
   FilmStack noIndex = CoatStack();

@@ -51,7 +51,7 @@ FilmFitPlot::FilmFitPlot(QWidget* parent) : Plot(parent), lower_(new QCPAxisRect
 }
 
 void FilmFitPlot::Show(const ReflectanceSpectrum& measured, int slot,
-                       const std::optional<FilmFit>& fit, int fromNm) {
+                       const std::optional<FilmFit>& fit) {
   QVector<QCPGraphData> points;
   QVector<QCPGraphData> fitted;
   QVector<QCPGraphData> residual;
@@ -65,7 +65,7 @@ void FilmFitPlot::Show(const ReflectanceSpectrum& measured, int slot,
   fitted.reserve(static_cast<qsizetype>(count));
   residual.reserve(static_cast<qsizetype>(count));
   for (std::size_t i = 0; i < count; ++i) {
-    const int nm = fromNm + static_cast<int>(i);
+    const int nm = fit->fromNm + static_cast<int>(i);
     const double left = measured[nm] - fit->fitted[i];
     fitted.append({static_cast<double>(nm), fit->fitted[i]});
     residual.append({static_cast<double>(nm), left});

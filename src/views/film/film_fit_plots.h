@@ -16,9 +16,8 @@ class FilmFitPlot : public Plot {
  public:
   explicit FilmFitPlot(QWidget* parent = nullptr);
 
-  /// `fit` was made from the wavelength `fromNm` on; without one the measured curve stands alone.
-  void Show(const ReflectanceSpectrum& measured, int slot, const std::optional<FilmFit>& fit,
-            int fromNm);
+  /// Without a fit the measured curve stands alone.
+  void Show(const ReflectanceSpectrum& measured, int slot, const std::optional<FilmFit>& fit);
   void ShowNothing();
 
  private:

@@ -217,6 +217,9 @@ bool FilmFitWindow::ReadStack(const QString& path) {
     return false;
   }
   setting_ = std::get<FilmStackSetting>(read);
+  if (path != preferences_.InForce().filmStack) {
+    ChangePreferences([&path](ProgramSettings& s) { s.filmStack = path; });
+  }
   ShowSetting(setting_);
   return true;
 }
@@ -226,6 +229,15 @@ void FilmFitWindow::ShowSetting(const FilmStackSetting& setting) {
   conditions_->Show(setting.options);
   changed_ = false;
   ShowFileName();
+  // What cannot be read is told when it is fitted.
+  if (auto read = ReadFilmFitRequest(setting, Directory()); read.index() == 0) {
+    request_ = std::get<FilmFitRequest>(read);
+  }
+}
+
+QString FilmFitWindow::Directory() const {
+  const QString& path = preferences_.InForce().filmStack;
+  return path.isEmpty() ? state_.programDirectory : QFileInfo(path).absolutePath();
 }
 
 void FilmFitWindow::ShowFileName() {
@@ -243,9 +255,7 @@ bool FilmFitWindow::TakeEntries() {
   if (!stack_->Take(setting)) {
     fault = FilmFitFaultText(FilmFitFault::kThicknessRange);
   } else if (conditions_->Take(setting.options, fault)) {
-    const QString& path = preferences_.InForce().filmStack;
-    const auto read = ReadFilmFitRequest(
-        setting, path.isEmpty() ? state_.programDirectory : QFileInfo(path).absolutePath());
+    const auto read = ReadFilmFitRequest(setting, Directory());
     if (const auto* wrong = std::get_if<FilmMaterialFault>(&read)) {
       fault = QStringLiteral("\"%1\": %2").arg(wrong->material, MaterialFaultText(wrong->fault));
       stack_->EnterMaterialAgain(wrong->place);
@@ -295,11 +305,16 @@ void FilmFitWindow::TakeFit(int slot, const FilmFitRun::Result& result) {
 }
 
 QCoro::Task<> FilmFitWindow::FitEachSample(bool on) {
-  bool fitting = on && TakeEntries();
-  if (fitting && (changed_ || preferences_.InForce().filmStack.isEmpty())) {
-    fitting = co_await SaveStack();
-  }
+  const bool fitting = on && TakeEntries();
   each_->setChecked(fitting);
+  if (fitting && (changed_ || preferences_.InForce().filmStack.isEmpty())) {
+    each_->setChecked(false);  // until there is a file for the next start
+    const bool saved = co_await SaveStack();
+    if (!saved) {
+      co_return;
+    }
+    each_->setChecked(true);
+  }
   if (fitting) {
     session_.SetFilmFit(request_, true);
   } else {
@@ -310,12 +325,9 @@ QCoro::Task<> FilmFitWindow::FitEachSample(bool on) {
 
 void FilmFitWindow::OpenStack() {
   const std::optional<QString> path = dialogs_.AskOpen(Text::tr("膜構成ﾌｧｲﾙを開く"), Filter());
-  if (path && ReadStack(*path)) {
-    ChangePreferences([&path](ProgramSettings& s) { s.filmStack = *path; });
-    // What each sample is fitted with is what the window shows.
-    if (each_->isChecked()) {
-      FitEachSample(true);
-    }
+  // What each sample is fitted with is what the window shows.
+  if (path && ReadStack(*path) && each_->isChecked()) {
+    FitEachSample(true);
   }
 }
 
@@ -359,8 +371,8 @@ void FilmFitWindow::Refresh() {
     fourier_->Show(std::nullopt, std::nullopt);
     return;
   }
-  plot_->Show(slot->reflectance, slot_, slot->fit, setting_.options.fromNm);
-  fourier_->Show(slot->fit && !request_.stack.layers.empty()
+  plot_->Show(slot->reflectance, slot_, slot->fit);
+  fourier_->Show(!request_.stack.layers.empty()
                      ? TransformFringes(slot->reflectance, request_.stack.layers.front().n,
                                         request_.options.fromNm, request_.options.toNm)
                      : std::nullopt,

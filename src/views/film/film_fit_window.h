@@ -49,6 +49,7 @@ class FilmFitWindow : public QDialog {
   void ShowSetting(const FilmStackSetting& setting);
   void ShowFileName();
   void ReadNamedFile();
+  [[nodiscard]] QString Directory() const;
   bool TakeEntries();
   void FitSlots(bool all);
   void TakeFit(int slot, const FilmFitRun::Result& result);
