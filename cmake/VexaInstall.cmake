@@ -14,6 +14,7 @@ if(NOT VEXA_CORE_ONLY)
   install(FILES share/man/vexa.1 DESTINATION ${CMAKE_INSTALL_MANDIR}/man1)
   install(FILES share/packaging/vexa.desktop DESTINATION ${CMAKE_INSTALL_DATADIR}/applications)
   install(FILES share/packaging/vexa.svg DESTINATION ${CMAKE_INSTALL_DATADIR}/icons/hicolor/scalable/apps)
+  install(FILES share/packaging/vexa.xml DESTINATION ${CMAKE_INSTALL_DATADIR}/mime/packages)
 endif()
 
 set(CPACK_GENERATOR DEB)

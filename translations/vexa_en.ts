@@ -40,42 +40,6 @@
         <translation>There is no device com5 (/dev/ttyUSB0).</translation>
     </message>
     <message>
-        <source>Measures five samples on the virtual instrument by itself and leaves measurement.csv and window.png in DIR.</source>
-        <translation>Measures five samples on the virtual instrument by itself and leaves measurement.csv and window.png in DIR.</translation>
-    </message>
-    <message>
-        <source>With --demo: leaves a picture of every window and view in DIR.</source>
-        <translation>With --demo: leaves a picture of every window and view in DIR.</translation>
-    </message>
-    <message>
-        <source>With --demo: over the control box on the GP-IB instead of the serial port.</source>
-        <translation>With --demo: over the control box on the GP-IB instead of the serial port.</translation>
-    </message>
-    <message>
-        <source>Language of the texts: ja or en (default: as chosen in the help menu, else ja).</source>
-        <translation>Language of the texts: ja or en (default: as chosen in the help menu, else ja).</translation>
-    </message>
-    <message>
-        <source>Prints the data file FILE as a PDF file, without a window.</source>
-        <translation>Prints the data file FILE as a PDF file, without a window.</translation>
-    </message>
-    <message>
-        <source>The PDF file of --report.</source>
-        <translation>The PDF file of --report.</translation>
-    </message>
-    <message>
-        <source>The title of --report.</source>
-        <translation>The title of --report.</translation>
-    </message>
-    <message>
-        <source>The operator named by --report.</source>
-        <translation>The operator named by --report.</translation>
-    </message>
-    <message>
-        <source>Control and analysis program of the VEXA-KT reflectance micro-spectrophotometer.</source>
-        <translation>Control and analysis program of the VEXA-KT reflectance micro-spectrophotometer.</translation>
-    </message>
-    <message>
         <source>反射率ｸﾞﾗﾌ</source>
         <translation>Reflectance graph</translation>
     </message>
@@ -854,180 +818,6 @@ Measuring opens it.</translation>
         <translation>The folder does not exist.</translation>
     </message>
     <message>
-        <source>A data file (*.csv or *.dat).</source>
-        <translation>A data file (*.csv or *.dat).</translation>
-    </message>
-    <message>
-        <source>Adds the CIE colour at the tables&apos; true wavelengths.</source>
-        <translation>Adds the CIE colour at the tables&apos; true wavelengths.</translation>
-    </message>
-    <message>
-        <source>Colours, judgements and thicknesses of the slots of a data file.</source>
-        <translation>Colours, judgements and thicknesses of the slots of a data file.</translation>
-    </message>
-    <message>
-        <source>Computes the thickness even when the environment has it disabled.</source>
-        <translation>Computes the thickness even when the environment has it disabled.</translation>
-    </message>
-    <message>
-        <source>Usage: vexa-cli COMMAND [arguments] [options]
-
-Commands:
-</source>
-        <translation>Usage: vexa-cli COMMAND [arguments] [options]
-
-Commands:
-</translation>
-    </message>
-    <message>
-        <source>
-&quot;vexa-cli COMMAND --help&quot; tells more about each.
-</source>
-        <translation>
-&quot;vexa-cli COMMAND --help&quot; tells more about each.
-</translation>
-    </message>
-    <message>
-        <source>Shows this help.</source>
-        <translation>Shows this help.</translation>
-    </message>
-    <message>
-        <source>Prints one JSON document.</source>
-        <translation>Prints one JSON document.</translation>
-    </message>
-    <message>
-        <source>Program directory, with the settings files (default: the current one).</source>
-        <translation>Program directory, with the settings files (default: the current one).</translation>
-    </message>
-    <message>
-        <source>Language of the texts: ja (default) or en; with --json always ja.</source>
-        <translation>Language of the texts: ja (default) or en; with --json always ja.</translation>
-    </message>
-    <message>
-        <source>Answers every question with no.</source>
-        <translation>Answers every question with no.</translation>
-    </message>
-    <message>
-        <source>Data file to read, or several.</source>
-        <translation>Data file to read, or several.</translation>
-    </message>
-    <message>
-        <source>Data file to write, or a directory for several.</source>
-        <translation>Data file to write, or a directory for several.</translation>
-    </message>
-    <message>
-        <source>1 csv, 2 dat with ten blocks, 3 dat with five (default: by the ending of OUT).</source>
-        <translation>1 csv, 2 dat with ten blocks, 3 dat with five (default: by the ending of OUT).</translation>
-    </message>
-    <message>
-        <source>Reads a data file and writes it in another layout.</source>
-        <translation>Reads a data file and writes it in another layout.</translation>
-    </message>
-    <message>
-        <source>1 to 16 detector lines of 1024 bytes.</source>
-        <translation>1 to 16 detector lines of 1024 bytes.</translation>
-    </message>
-    <message>
-        <source>Pixel positions of the six spectral lines (default 138,325,378,409,469,0).</source>
-        <translation>Pixel positions of the six spectral lines (default 138,325,378,409,469,0).</translation>
-    </message>
-    <message>
-        <source>Start wavelength (default 440).</source>
-        <translation>Start wavelength (default 440).</translation>
-    </message>
-    <message>
-        <source>Averages raw detector lines and maps them to wavelengths.</source>
-        <translation>Averages raw detector lines and maps them to wavelengths.</translation>
-    </message>
-    <message>
-        <source>The same value at every wavelength.</source>
-        <translation>The same value at every wavelength.</translation>
-    </message>
-    <message>
-        <source>Schott&apos;s formula, wavelength in micrometres.</source>
-        <translation>Schott&apos;s formula, wavelength in micrometres.</translation>
-    </message>
-    <message>
-        <source>Sellmeier&apos;s formula, wavelength in micrometres.</source>
-        <translation>Sellmeier&apos;s formula, wavelength in micrometres.</translation>
-    </message>
-    <message>
-        <source>An index or reference file (*.ind, *.ref).</source>
-        <translation>An index or reference file (*.ind, *.ref).</translation>
-    </message>
-    <message>
-        <source>Index of a bare substrate from its measured data file.</source>
-        <translation>Index of a bare substrate from its measured data file.</translation>
-    </message>
-    <message>
-        <source>Gives the reflectance of a bare surface in percent (formulas alone).</source>
-        <translation>Gives the reflectance of a bare surface in percent (formulas alone).</translation>
-    </message>
-    <message>
-        <source>Writes the spectrum as an index or a reference file.</source>
-        <translation>Writes the spectrum as an index or a reference file.</translation>
-    </message>
-    <message>
-        <source>Computes an index or reflectance spectrum from its setting.</source>
-        <translation>Computes an index or reflectance spectrum from its setting.</translation>
-    </message>
-    <message>
-        <source>Environment file.</source>
-        <translation>Environment file.</translation>
-    </message>
-    <message>
-        <source>Writes it in the current layout.</source>
-        <translation>Writes it in the current layout.</translation>
-    </message>
-    <message>
-        <source>Shows an environment file of any accepted version.</source>
-        <translation>Shows an environment file of any accepted version.</translation>
-    </message>
-    <message>
-        <source>Fits the thicknesses of a film stack to the slots of a data file.</source>
-        <translation>Fits the thicknesses of a film stack to the slots of a data file.</translation>
-    </message>
-    <message>
-        <source>The standards to judge by.</source>
-        <translation>The standards to judge by.</translation>
-    </message>
-    <message>
-        <source>Judges the slots of a data file; exit status 3 when a group is NG.</source>
-        <translation>Judges the slots of a data file; exit status 3 when a group is NG.</translation>
-    </message>
-    <message>
-        <source>Measures background, reference and samples into a data file.</source>
-        <translation>Measures background, reference and samples into a data file.</translation>
-    </message>
-    <message>
-        <source>Waits for Enter before each measurement.</source>
-        <translation>Waits for Enter before each measurement.</translation>
-    </message>
-    <message>
-        <source>Reflectance of the reference: 0.1 to 110 percent, or a *.ref file (default: from the environment).</source>
-        <translation>Reflectance of the reference: 0.1 to 110 percent, or a *.ref file (default: from the environment).</translation>
-    </message>
-    <message>
-        <source>Detector lines of the %1.</source>
-        <translation>Detector lines of the %1.</translation>
-    </message>
-    <message>
-        <source>Calibration shift, 0 to 7 nm (default: from vexa.cal, else 4).</source>
-        <translation>Calibration shift, 0 to 7 nm (default: from vexa.cal, else 4).</translation>
-    </message>
-    <message>
-        <source>Computes a reflectance spectrum from three sets of detector lines.</source>
-        <translation>Computes a reflectance spectrum from three sets of detector lines.</translation>
-    </message>
-    <message>
-        <source>A standard file (*.std).</source>
-        <translation>A standard file (*.std).</translation>
-    </message>
-    <message>
-        <source>Writes the standards in the current layout.</source>
-        <translation>Writes the standards in the current layout.</translation>
-    </message>
-    <message>
         <source>反射率</source>
         <translation>Reflectance</translation>
     </message>
@@ -1068,60 +858,8 @@ Commands:
         <translation>Marker h°</translation>
     </message>
     <message>
-        <source>Shows a standard file, and writes it in the current layout.</source>
-        <translation>Shows a standard file, and writes it in the current layout.</translation>
-    </message>
-    <message>
-        <source>summary, xmr (control chart of individuals and moving ranges), capability, or grr (gauge repeatability and reproducibility).</source>
-        <translation>summary, xmr (control chart of individuals and moving ranges), capability, or grr (gauge repeatability and reproducibility).</translation>
-    </message>
-    <message>
-        <source>Numbers, one a line or in a table with a heading; grr: a table with the columns part, operator, value.</source>
-        <translation>Numbers, one a line or in a table with a heading; grr: a table with the columns part, operator, value.</translation>
-    </message>
-    <message>
-        <source>The column of the numbers in a table.</source>
-        <translation>The column of the numbers in a table.</translation>
-    </message>
-    <message>
-        <source>xmr: the first N points set the limits (default: all).</source>
-        <translation>xmr: the first N points set the limits (default: all).</translation>
-    </message>
-    <message>
-        <source>xmr: western (default), nelson, or some of Nelson&apos;s eight.</source>
-        <translation>xmr: western (default), nelson, or some of Nelson&apos;s eight.</translation>
-    </message>
-    <message>
-        <source>capability: lower limit of the tolerance.</source>
-        <translation>capability: lower limit of the tolerance.</translation>
-    </message>
-    <message>
-        <source>capability: upper limit of the tolerance.</source>
-        <translation>capability: upper limit of the tolerance.</translation>
-    </message>
-    <message>
-        <source>grr: width of the tolerance.</source>
-        <translation>grr: width of the tolerance.</translation>
-    </message>
-    <message>
-        <source>Summary, control chart, capability or gauge study of numbers.</source>
-        <translation>Summary, control chart, capability or gauge study of numbers.</translation>
-    </message>
-    <message>
         <source>移動範囲が上限を超えている</source>
         <translation>moving range above its upper limit</translation>
-    </message>
-    <message>
-        <source>A stock file (*.stc).</source>
-        <translation>A stock file (*.stc).</translation>
-    </message>
-    <message>
-        <source>Writes the points as a stock file of this version.</source>
-        <translation>Writes the points as a stock file of this version.</translation>
-    </message>
-    <message>
-        <source>Shows the accumulated colour points of a stock file.</source>
-        <translation>Shows the accumulated colour points of a stock file.</translation>
     </message>
     <message>
         <source>440 nm より下は外挿</source>
@@ -2944,6 +2682,512 @@ Where the reflectance has a peak or a valley in this range, the error can exceed
 ﾌｧｲﾙの内容は変わりません。440 nm より下は外挿した値を用います。</source>
         <translation>They compare with the values of other colorimeters. The instrument's own colour values,
 the judgement and the contents of files stay as they are. Below 440 nm the spectrum is extrapolated.</translation>
+    </message>
+    <message>
+        <source>仮想装置で5個のサンプルを自動で測定し、measurement.csv と window.png を DIR に残します。</source>
+        <translation>Measures five samples on the virtual instrument by itself and leaves measurement.csv and window.png in DIR.</translation>
+    </message>
+    <message>
+        <source>--demo とともに：すべての画面と表示の画像を DIR に残します。</source>
+        <translation>With --demo: leaves a picture of every window and view in DIR.</translation>
+    </message>
+    <message>
+        <source>--demo とともに：シリアルポートの代わりに GP-IB のコントロールボックスで測定します。</source>
+        <translation>With --demo: over the control box on the GP-IB instead of the serial port.</translation>
+    </message>
+    <message>
+        <source>表示言語：ja または en（省略時：ヘルプメニューで選んだもの、なければ ja）。</source>
+        <translation>Language of the texts: ja or en (default: as chosen in the help menu, else ja).</translation>
+    </message>
+    <message>
+        <source>データファイル FILE を、画面を出さずに PDF にします。</source>
+        <translation>Prints the data file FILE as a PDF file, without a window.</translation>
+    </message>
+    <message>
+        <source>--report の PDF ファイル。</source>
+        <translation>The PDF file of --report.</translation>
+    </message>
+    <message>
+        <source>--report のタイトル。</source>
+        <translation>The title of --report.</translation>
+    </message>
+    <message>
+        <source>--report の測定者。</source>
+        <translation>The operator named by --report.</translation>
+    </message>
+    <message>
+        <source>顕微反射率測定装置 VEXA-KT の制御・解析プログラム。</source>
+        <translation>Control and analysis program of the VEXA-KT reflectance micro-spectrophotometer.</translation>
+    </message>
+    <message>
+        <source>ﾌｧｲﾙが見つかりません。<byte value="xd"/><byte value="xd"/>%1</source>
+        <translation>The file was not found.<byte value="xd"/><byte value="xd"/>%1</translation>
+    </message>
+    <message>
+        <source>ﾌｧｲﾙが見つかりません。最近使ったﾌｧｲﾙから除きます。<byte value="xd"/><byte value="xd"/>%1</source>
+        <translation>The file was not found. It is removed from the recently used files.<byte value="xd"/><byte value="xd"/>%1</translation>
+    </message>
+    <message>
+        <source>一度に開けるﾌｧｲﾙは１つです。</source>
+        <translation>Only one file can be opened at a time.</translation>
+    </message>
+    <message>
+        <source>データファイル (*.csv, *.dat)。</source>
+        <translation>A data file (*.csv or *.dat).</translation>
+    </message>
+    <message>
+        <source>表の本来の波長で計算した CIE の色を加えます。</source>
+        <translation>Adds the CIE colour at the tables&apos; true wavelengths.</translation>
+    </message>
+    <message>
+        <source>データファイルの各スロットの色、判定、膜厚を求めます。</source>
+        <translation>Colours, judgements and thicknesses of the slots of a data file.</translation>
+    </message>
+    <message>
+        <source>環境で無効になっていても膜厚を計算します。</source>
+        <translation>Computes the thickness even when the environment has it disabled.</translation>
+    </message>
+    <message>
+        <source>使い方: vexa-cli コマンド [引数] [オプション]
+
+コマンド:
+</source>
+        <translation>Usage: vexa-cli COMMAND [arguments] [options]
+
+Commands:
+</translation>
+    </message>
+    <message>
+        <source>
+「vexa-cli コマンド --help」で、それぞれの説明を表示します。
+</source>
+        <translation>
+&quot;vexa-cli COMMAND --help&quot; tells more about each.
+</translation>
+    </message>
+    <message>
+        <source>この説明を表示します。</source>
+        <translation>Shows this help.</translation>
+    </message>
+    <message>
+        <source>一つの JSON 文書を出力します。</source>
+        <translation>Prints one JSON document.</translation>
+    </message>
+    <message>
+        <source>設定ファイルのあるプログラムディレクトリ（省略時：現在のディレクトリ）。</source>
+        <translation>Program directory, with the settings files (default: the current one).</translation>
+    </message>
+    <message>
+        <source>表示言語：ja（省略時）または en。--json では常に ja です。</source>
+        <translation>Language of the texts: ja (default) or en; with --json always ja.</translation>
+    </message>
+    <message>
+        <source>すべての質問に「いいえ」と答えます。</source>
+        <translation>Answers every question with no.</translation>
+    </message>
+    <message>
+        <source>読み込むデータファイル（複数可）。</source>
+        <translation>Data file to read, or several.</translation>
+    </message>
+    <message>
+        <source>書き込むデータファイル。複数のときはディレクトリ。</source>
+        <translation>Data file to write, or a directory for several.</translation>
+    </message>
+    <message>
+        <source>1: csv、2: 10ブロックの dat、3: 5ブロックの dat（省略時：OUT の拡張子による）。</source>
+        <translation>1 csv, 2 dat with ten blocks, 3 dat with five (default: by the ending of OUT).</translation>
+    </message>
+    <message>
+        <source>データファイルを読み込み、別の形式で書き込みます。</source>
+        <translation>Reads a data file and writes it in another layout.</translation>
+    </message>
+    <message>
+        <source>1024バイトの検出器ライン、1～16本。</source>
+        <translation>1 to 16 detector lines of 1024 bytes.</translation>
+    </message>
+    <message>
+        <source>6本のスペクトル線の画素位置（省略時 138,325,378,409,469,0）。</source>
+        <translation>Pixel positions of the six spectral lines (default 138,325,378,409,469,0).</translation>
+    </message>
+    <message>
+        <source>開始波長（省略時 440）。</source>
+        <translation>Start wavelength (default 440).</translation>
+    </message>
+    <message>
+        <source>検出器のラインを平均し、波長に対応させます。</source>
+        <translation>Averages raw detector lines and maps them to wavelengths.</translation>
+    </message>
+    <message>
+        <source>全波長で同じ値。</source>
+        <translation>The same value at every wavelength.</translation>
+    </message>
+    <message>
+        <source>Schottの分散式、波長はマイクロメートル。</source>
+        <translation>Schott&apos;s formula, wavelength in micrometres.</translation>
+    </message>
+    <message>
+        <source>Sellmeierの分散式、波長はマイクロメートル。</source>
+        <translation>Sellmeier&apos;s formula, wavelength in micrometres.</translation>
+    </message>
+    <message>
+        <source>屈折率またはリファレンスのファイル (*.ind, *.ref)。</source>
+        <translation>An index or reference file (*.ind, *.ref).</translation>
+    </message>
+    <message>
+        <source>膜のない基板の屈折率を、測定したデータファイルから求めます。</source>
+        <translation>Index of a bare substrate from its measured data file.</translation>
+    </message>
+    <message>
+        <source>膜のない面の反射率を % で求めます（分散式のみ）。</source>
+        <translation>Gives the reflectance of a bare surface in percent (formulas alone).</translation>
+    </message>
+    <message>
+        <source>スペクトルを屈折率またはリファレンスのファイルに書き込みます。</source>
+        <translation>Writes the spectrum as an index or a reference file.</translation>
+    </message>
+    <message>
+        <source>設定から屈折率または反射率のスペクトルを計算します。</source>
+        <translation>Computes an index or reflectance spectrum from its setting.</translation>
+    </message>
+    <message>
+        <source>環境ファイル。</source>
+        <translation>Environment file.</translation>
+    </message>
+    <message>
+        <source>現在の形式で書き込みます。</source>
+        <translation>Writes it in the current layout.</translation>
+    </message>
+    <message>
+        <source>読み込めるすべてのバージョンの環境ファイルを表示します。</source>
+        <translation>Shows an environment file of any accepted version.</translation>
+    </message>
+    <message>
+        <source>データファイルの各スロットに、膜構成の膜厚をフィットします。</source>
+        <translation>Fits the thicknesses of a film stack to the slots of a data file.</translation>
+    </message>
+    <message>
+        <source>判定に使う規格。</source>
+        <translation>The standards to judge by.</translation>
+    </message>
+    <message>
+        <source>データファイルの各スロットを判定します。NG があれば終了ステータスは 3 です。</source>
+        <translation>Judges the slots of a data file; exit status 3 when a group is NG.</translation>
+    </message>
+    <message>
+        <source>バックグラウンド、リファレンス、サンプルを測定し、データファイルに保存します。</source>
+        <translation>Measures background, reference and samples into a data file.</translation>
+    </message>
+    <message>
+        <source>測定のたびに Enter を待ちます。</source>
+        <translation>Waits for Enter before each measurement.</translation>
+    </message>
+    <message>
+        <source>リファレンスの反射率：0.1～110 %、または *.ref ファイル（省略時：環境による）。</source>
+        <translation>Reflectance of the reference: 0.1 to 110 percent, or a *.ref file (default: from the environment).</translation>
+    </message>
+    <message>
+        <source>%1の検出器ライン。</source>
+        <translation>Detector lines of the %1.</translation>
+    </message>
+    <message>
+        <source>キャリブレーションのシフト値、0～7 nm（省略時：vexa.cal の値、なければ 4）。</source>
+        <translation>Calibration shift, 0 to 7 nm (default: from vexa.cal, else 4).</translation>
+    </message>
+    <message>
+        <source>三組の検出器ラインから反射率スペクトルを計算します。</source>
+        <translation>Computes a reflectance spectrum from three sets of detector lines.</translation>
+    </message>
+    <message>
+        <source>規格ファイル (*.std)。</source>
+        <translation>A standard file (*.std).</translation>
+    </message>
+    <message>
+        <source>規格を現在の形式で書き込みます。</source>
+        <translation>Writes the standards in the current layout.</translation>
+    </message>
+    <message>
+        <source>規格ファイルを表示し、現在の形式で書き込みます。</source>
+        <translation>Shows a standard file, and writes it in the current layout.</translation>
+    </message>
+    <message>
+        <source>summary（要約）、xmr（個々の値と移動範囲の管理図）、capability（工程能力）、grr（ゲージの繰返し性と再現性）のどれか。</source>
+        <translation>summary, xmr (control chart of individuals and moving ranges), capability, or grr (gauge repeatability and reproducibility).</translation>
+    </message>
+    <message>
+        <source>数値。一行に一つ、または見出しのある表。grr：列が part、operator、value の表。</source>
+        <translation>Numbers, one a line or in a table with a heading; grr: a table with the columns part, operator, value.</translation>
+    </message>
+    <message>
+        <source>表の中の数値の列。</source>
+        <translation>The column of the numbers in a table.</translation>
+    </message>
+    <message>
+        <source>xmr：最初の N 点から限界を決めます（省略時：すべての点）。</source>
+        <translation>xmr: the first N points set the limits (default: all).</translation>
+    </message>
+    <message>
+        <source>xmr：western（省略時）、nelson、または Nelson の8つのルールの一部。</source>
+        <translation>xmr: western (default), nelson, or some of Nelson&apos;s eight.</translation>
+    </message>
+    <message>
+        <source>capability：公差の下限。</source>
+        <translation>capability: lower limit of the tolerance.</translation>
+    </message>
+    <message>
+        <source>capability：公差の上限。</source>
+        <translation>capability: upper limit of the tolerance.</translation>
+    </message>
+    <message>
+        <source>grr：公差の幅。</source>
+        <translation>grr: width of the tolerance.</translation>
+    </message>
+    <message>
+        <source>数値の要約、管理図、工程能力、測定システム解析。</source>
+        <translation>Summary, control chart, capability or gauge study of numbers.</translation>
+    </message>
+    <message>
+        <source>累積ファイル (*.stc)。</source>
+        <translation>A stock file (*.stc).</translation>
+    </message>
+    <message>
+        <source>点をこのバージョンの累積ファイルに書き込みます。</source>
+        <translation>Writes the points as a stock file of this version.</translation>
+    </message>
+    <message>
+        <source>累積ファイルに累積された色の点を表示します。</source>
+        <translation>Shows the accumulated colour points of a stock file.</translation>
+    </message>
+    <message>
+        <source>環境ファイル（省略時：プログラムディレクトリのもの）。</source>
+        <translation>Environment file (default: that of the program directory).</translation>
+    </message>
+    <message>
+        <source>光源：A、B、C、D65 のどれか。</source>
+        <translation>Illuminant: A, B, C or D65.</translation>
+    </message>
+    <message>
+        <source>視野：2 または 10 度。</source>
+        <translation>Observer: 2 or 10 degrees.</translation>
+    </message>
+    <message>
+        <source>平均反射率の範囲 (nm)。</source>
+        <translation>Range of the average reflectance in nm.</translation>
+    </message>
+    <message>
+        <source>各スロットを判定します。NG があれば終了ステータスは 3 です。</source>
+        <translation>Judges every slot; exit status 3 when a group is NG.</translation>
+    </message>
+    <message>
+        <source>膜厚に使う極値：A（2個の極小）、B（極大）、C（両方）。</source>
+        <translation>Extrema of the thickness: A (two minima), B (maxima) or C (both).</translation>
+    </message>
+    <message>
+        <source>膜厚の種類：physical（物理）または optical（光学）。</source>
+        <translation>Thickness: physical or optical.</translation>
+    </message>
+    <message>
+        <source>膜の屈折率：数値または屈折率ファイル。</source>
+        <translation>Index of the film: a number or an index file.</translation>
+    </message>
+    <message>
+        <source>膜のない基板のデータファイル。</source>
+        <translation>Data file of the bare substrate.</translation>
+    </message>
+    <message>
+        <source>基板の材料：数値, FILE.ind, FILE.nk, schott:A0,..,A5, sellmeier:A1,..,B3, cauchy:A,B[,C]。</source>
+        <translation>Material of the substrate: a number, FILE.ind, FILE.nk, schott:A0,..,A5, sellmeier:A1,..,B3, cauchy:A,B[,C].</translation>
+    </message>
+    <message>
+        <source>層の材料。空気の側から順に1～4回指定します。</source>
+        <translation>Material of a layer, from the air side; one to four times.</translation>
+    </message>
+    <message>
+        <source>膜厚の範囲 (nm)。層ごとに1回（省略時 50-60000）。</source>
+        <translation>Thickness in nm, once for each layer (default 50-60000).</translation>
+    </message>
+    <message>
+        <source>使う波長 (nm)（省略時 440-840）。</source>
+        <translation>Wavelengths used, in nm (default 440-840).</translation>
+    </message>
+    <message>
+        <source>このスロットだけをフィットします。</source>
+        <translation>Fits this slot alone.</translation>
+    </message>
+    <message>
+        <source>0.5～1.6 の倍率を自由にし、リファレンスの誤差を吸収します（省略時）。</source>
+        <translation>A free scale of 0.5 to 1.6 takes up an error of the reference (default).</translation>
+    </message>
+    <message>
+        <source>倍率を 1 に固定します。</source>
+        <translation>The scale is 1.</translation>
+    </message>
+    <message>
+        <source>一定のバックグラウンドを自由にします（省略時 0）。</source>
+        <translation>A constant background is free (default 0).</translation>
+    </message>
+    <message>
+        <source>スリットの半値全幅 (nm)（省略時 1、なしは 0）。</source>
+        <translation>Full width at half maximum of the slit in nm (default 1, 0 for none).</translation>
+    </message>
+    <message>
+        <source>最初に指定した層の屈折率の係数を一つ自由にします。</source>
+        <translation>The index of the layer named first gets one free factor.</translation>
+    </message>
+    <message>
+        <source>波長目盛りの不確かさ (nm)（省略時 0.1）。</source>
+        <translation>Of the wavelength scale, in nm (default 0.1).</translation>
+    </message>
+    <message>
+        <source>層の屈折率の相対的な不確かさ（省略時 0）。</source>
+        <translation>Relative, of the indices of the layers (default 0).</translation>
+    </message>
+    <message>
+        <source>区間の信頼水準（省略時 0.95）。</source>
+        <translation>Of the interval (default 0.95).</translation>
+    </message>
+    <message>
+        <source>コントローラのシリアルポート番号。0 は GP-IB のコントロールボックスです。</source>
+        <translation>Serial port number of the controller; 0 is the control box on the GP-IB.</translation>
+    </message>
+    <message>
+        <source>コントローラの装置ファイル（ポート番号の代わり）。</source>
+        <translation>Device of the controller, instead of a port number.</translation>
+    </message>
+    <message>
+        <source>測定したスロットのデータファイル。</source>
+        <translation>Data file for the measured slots.</translation>
+    </message>
+    <message>
+        <source>一ラインの積算時間、30～20000 ms（省略時：環境による）。</source>
+        <translation>Integration time of a line, 30 to 20000 ms (default: from the environment).</translation>
+    </message>
+    <message>
+        <source>一回の測定で平均するライン数、1～16（省略時 1）。</source>
+        <translation>Lines averaged for a frame, 1 to 16 (default 1).</translation>
+    </message>
+    <message>
+        <source>測定するサンプルの数、1～10（省略時 1）。</source>
+        <translation>Samples to measure, 1 to 10 (default 1).</translation>
+    </message>
+    <message>
+        <source>測定した光量とサンプルをすべて記録に残します。</source>
+        <translation>Keeps every frame and sample in the record store.</translation>
+    </message>
+    <message>
+        <source>記録のファイル（省略時：プログラムディレクトリの records.db）。</source>
+        <translation>The record store (default: records.db of the program directory).</translation>
+    </message>
+    <message>
+        <source>記録のロット。</source>
+        <translation>Lot of the records.</translation>
+    </message>
+    <message>
+        <source>記録の測定者。</source>
+        <translation>Operator of the records.</translation>
+    </message>
+    <message>
+        <source>次のサンプルの試料番号。サンプルごとに1回指定します。</source>
+        <translation>Number of the next sample; once a sample.</translation>
+    </message>
+    <message>
+        <source>コントローラの応答を待つ最長の時間（省略時 40000 ms）。</source>
+        <translation>Longest wait for a reply of the controller (default 40000 ms).</translation>
+    </message>
+    <message>
+        <source>list：このロットだけ。import：サンプルのロット。</source>
+        <translation>list: only this lot; import: the lot of the samples.</translation>
+    </message>
+    <message>
+        <source>list：このレシピだけ。</source>
+        <translation>list: only this recipe.</translation>
+    </message>
+    <message>
+        <source>list：この文字列を含む試料番号だけ。</source>
+        <translation>list: only sample numbers that hold this text.</translation>
+    </message>
+    <message>
+        <source>list：この測定者だけ。import、supersede：行う人。</source>
+        <translation>list: only this operator; import, supersede: who does it.</translation>
+    </message>
+    <message>
+        <source>list：この日付 (yyyy-mm-dd) または時刻から。</source>
+        <translation>list: from this date, yyyy-mm-dd, or time on.</translation>
+    </message>
+    <message>
+        <source>list：この日付または時刻まで（含む）。sync：PostgreSQL のサービスまたは URI。</source>
+        <translation>list: to this date or time, included; sync: the PostgreSQL service or URI.</translation>
+    </message>
+    <message>
+        <source>list：この判定だけ：OK、NG、none（判定なし）。</source>
+        <translation>list: only this verdict: OK, NG or none.</translation>
+    </message>
+    <message>
+        <source>list：最大の件数（省略時 100）。</source>
+        <translation>list: at most so many (default 100).</translation>
+    </message>
+    <message>
+        <source>list：差し替えられたものも。</source>
+        <translation>list: superseded ones too.</translation>
+    </message>
+    <message>
+        <source>evaluate：プログラムディレクトリのものの代わりに使う環境ファイル。</source>
+        <translation>evaluate: environment file in the place of the program directory&apos;s.</translation>
+    </message>
+    <message>
+        <source>evaluate：環境のものの代わりに使う規格。</source>
+        <translation>evaluate: standards in the place of the environment&apos;s.</translation>
+    </message>
+    <message>
+        <source>export：*.csv、*.dat、*.json、*.jdx のどれか。</source>
+        <translation>export: *.csv, *.dat, *.json or *.jdx.</translation>
+    </message>
+    <message>
+        <source>supersede：代わりになるサンプル。</source>
+        <translation>supersede: the sample that takes the place.</translation>
+    </message>
+    <message>
+        <source>supersede：理由。</source>
+        <translation>supersede: why.</translation>
+    </message>
+    <message>
+        <source>記録した測定を検索、表示、エクスポート、検査します。</source>
+        <translation>Searches, shows, exports and checks the kept measurements.</translation>
+    </message>
+    <message>
+        <source>%1 のどれか。</source>
+        <translation>One of %1.</translation>
+    </message>
+    <message>
+        <source>バックグラウンド</source>
+        <translation>background</translation>
+    </message>
+    <message>
+        <source>リファレンス</source>
+        <translation>reference</translation>
+    </message>
+    <message>
+        <source>サンプル</source>
+        <translation>sample</translation>
+    </message>
+    <message>
+        <source>使い方: vexa-cli %1 %2</source>
+        <translation>Usage: vexa-cli %1 %2</translation>
+    </message>
+    <message>
+        <source>開くデータファイルまたは環境ファイル。</source>
+        <translation>A data file or an environment file to open.</translation>
+    </message>
+    <message>
+        <source>リファレンス（バックグラウンド用）</source>
+        <translation>reference (background)</translation>
+    </message>
+    <message>
+        <source>サンプル %1 </source>
+        <translation>sample %1</translation>
+    </message>
+    <message>
+        <source>%1を置いて Enter を押してください: </source>
+        <translation>Place the %1 and press Enter: </translation>
     </message>
 </context>
 </TS>

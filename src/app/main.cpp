@@ -3,9 +3,8 @@
 #include <QCommandLineParser>
 #include <QCoroTask>
 #include <QDir>
-#include <QLibraryInfo>
+#include <QFileInfo>
 #include <QTimer>
-#include <QTranslator>
 #include <algorithm>
 #include <memory>
 
@@ -57,7 +56,7 @@ int RunDemonstration(const QString& directory, bool gpib, const QString& picture
   return status;
 }
 
-int RunWindow(const QList<vexa::MessageCall>& notices) {
+int RunWindow(const QList<vexa::MessageCall>& notices, const QString& file) {
   vexa::WindowMessages messages;
   vexa::WindowFileDialogs dialogs;
   vexa::VEXA window(MakeServices(messages, dialogs), QDir::currentPath());
@@ -66,11 +65,14 @@ int RunWindow(const QList<vexa::MessageCall>& notices) {
   window.show();
   const vexa::EndSignals endSignals([&window] { window.EndAtOnce(); });
   vexa::TellAll(notices, messages);
-  const auto start = [](vexa::VEXA& started) -> QCoro::Task<> {
+  const auto start = [](vexa::VEXA& started, QString named) -> QCoro::Task<> {
     co_await started.Load();
     co_await started.OfferSession();
+    if (!named.isEmpty()) {
+      co_await started.OpenFile(QFileInfo(named).absoluteFilePath());
+    }
   };
-  QTimer::singleShot(0, &window, [&] { start(window); });
+  QTimer::singleShot(0, &window, [&] { start(window, file); });
   return QApplication::exec();
 }
 
@@ -86,43 +88,45 @@ bool NeedsNoDisplay(int argc, char* argv[]) {
 }
 
 struct Options {
-  QCommandLineOption demo{
-      QStringLiteral("demo"),
-      Text::tr("Measures five samples on the virtual instrument by itself and leaves "
-               "measurement.csv and window.png in DIR."),
-      QStringLiteral("DIR")};
+  QCommandLineOption demo{QStringLiteral("demo"),
+                          Text::tr("仮想装置で5個のサンプルを自動で測定し、measurement.csv と "
+                                   "window.png を DIR に残します。"),
+                          QStringLiteral("DIR")};
   QCommandLineOption pictures{
       QStringLiteral("pictures"),
-      Text::tr("With --demo: leaves a picture of every window and view in DIR."),
+      Text::tr("--demo とともに：すべての画面と表示の画像を DIR に残します。"),
       QStringLiteral("DIR")};
   QCommandLineOption gpib{
       QStringLiteral("gpib"),
-      Text::tr("With --demo: over the control box on the GP-IB instead of the serial port.")};
+      Text::tr(
+          "--demo とともに：シリアルポートの代わりに GP-IB のコントロールボックスで測定します。")};
   QCommandLineOption language{
       QStringLiteral("language"),
-      Text::tr("Language of the texts: ja or en (default: as chosen in the help menu, else "
-               "ja)."),
+      Text::tr("表示言語：ja または en（省略時：ヘルプメニューで選んだもの、なければ ja）。"),
       QStringLiteral("CODE")};
   QCommandLineOption report{QStringLiteral("report"),
-                            Text::tr("Prints the data file FILE as a PDF file, without a window."),
+                            Text::tr("データファイル FILE を、画面を出さずに PDF にします。"),
                             QStringLiteral("FILE")};
-  QCommandLineOption out{QStringLiteral("out"), Text::tr("The PDF file of --report."),
+  QCommandLineOption out{QStringLiteral("out"), Text::tr("--report の PDF ファイル。"),
                          QStringLiteral("FILE.pdf")};
-  QCommandLineOption title{QStringLiteral("title"), Text::tr("The title of --report."),
+  QCommandLineOption title{QStringLiteral("title"), Text::tr("--report のタイトル。"),
                            QStringLiteral("TEXT")};
-  QCommandLineOption operatorName{QStringLiteral("operator"),
-                                  Text::tr("The operator named by --report."),
+  QCommandLineOption operatorName{QStringLiteral("operator"), Text::tr("--report の測定者。"),
                                   QStringLiteral("NAME")};
 };
 
 // What is wrong with the arguments; empty when nothing is.
 QString Fault(const QCommandLineParser& parser, const Options& options) {
-  if (!parser.positionalArguments().isEmpty()) {
-    return QStringLiteral("takes no arguments but options");
+  const qsizetype files = parser.positionalArguments().size();
+  if (files > 1) {
+    return QStringLiteral("takes one file at a time");
   }
   const bool report = parser.isSet(options.report);
   if (report != parser.isSet(options.out)) {
     return QStringLiteral("--report and --out belong together");
+  }
+  if (files > 0 && (report || parser.isSet(options.demo))) {
+    return QStringLiteral("FILE belongs to neither --report nor --demo");
   }
   if (report && parser.isSet(options.demo)) {
     return QStringLiteral("--report and --demo exclude each other");
@@ -148,18 +152,14 @@ int main(int argc, char* argv[]) {
   const vexa::ProgramStart begin = vexa::StartProgram(QDir::currentPath());
   const vexa::Language language = request.language.value_or(begin.settings.language);
   vexa::UseLanguage(language);
-  // The toolkit's own dialogs, such as those for files; without its translations they are English.
-  QTranslator toolkit;
-  if (toolkit.load(QStringLiteral("qtbase_") + vexa::LanguageCode(language),
-                   QLibraryInfo::path(QLibraryInfo::TranslationsPath))) {
-    QApplication::installTranslator(&toolkit);
-  }
 
   QCommandLineParser parser;
-  parser.setApplicationDescription(
-      Text::tr("Control and analysis program of the VEXA-KT reflectance micro-spectrophotometer."));
+  parser.setApplicationDescription(Text::tr("顕微反射率測定装置 VEXA-KT の制御・解析プログラム。"));
   parser.addHelpOption();
   parser.addVersionOption();
+  parser.addPositionalArgument(QStringLiteral("FILE"),
+                               Text::tr("開くデータファイルまたは環境ファイル。"),
+                               QStringLiteral("[FILE]"));
   const Options options;
   parser.addOptions({options.demo, options.gpib, options.pictures, options.report, options.out,
                      options.language, options.title, options.operatorName});
@@ -187,5 +187,5 @@ int main(int argc, char* argv[]) {
   return parser.isSet(options.demo)
              ? RunDemonstration(parser.value(options.demo), parser.isSet(options.gpib),
                                 parser.value(options.pictures))
-             : RunWindow(begin.notices);
+             : RunWindow(begin.notices, parser.positionalArguments().value(0));
 }

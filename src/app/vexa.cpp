@@ -98,6 +98,12 @@ QCoro::Task<> VEXA::OfferSession() {
   }
 }
 
+QCoro::Task<> VEXA::OpenFile(QString path) {
+  if (phase_ == Phase::kWorking) {
+    co_await commands_->Files().Open(std::move(path));
+  }
+}
+
 QCoro::Task<> VEXA::EndAtOnce() {
   SetPhase(Phase::kEnding);
   co_await desk_.Finish();

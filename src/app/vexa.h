@@ -42,6 +42,9 @@ class VEXA : public QMainWindow {
   /// Offers what a crash has left; to be called once Load is done.
   QCoro::Task<> OfferSession();
 
+  /// Opens the file that the program was started with, as the menu does; once Load is done.
+  QCoro::Task<> OpenFile(QString path);
+
   /// Ends the program as a signal asks it to: whatever runs is cancelled, the instrument is set to
   /// rest, nothing is asked, and the journal stays for the next start.
   QCoro::Task<> EndAtOnce();

@@ -12,7 +12,6 @@
 #include "views/common/file_questions.h"
 #include "views/common/quiet_messages.h"
 #include "views/files/addinp_frm.h"
-#include "views/files/data_file_commands.h"
 #include "views/files/environment_commands.h"
 #include "views/film/film_fit_window.h"
 #include "views/optics/ref_set_dlg.h"
@@ -41,6 +40,8 @@ WindowCommands::WindowCommands(const MenuCommands& menu, WindowParts parts, QWid
       dialogs_(parts.dialogs),
       selectedSlot_(std::move(parts.selectedSlot)),
       window_(window),
+      files_(*menu.recentFiles, parts.session, parts.desk, parts.preferences, parts.messages,
+             parts.dialogs, window),
       printer_(parts.session.State(), parts.messages, parts.dialogs) {
   ConnectFiles();
   ConnectWindows();
@@ -52,16 +53,17 @@ void WindowCommands::ShowAvailable(bool usable) {
   for (QAction* action : {menu_.openFile, menu_.openEnvironment, menu_.sampleInformation}) {
     action->setEnabled(idle);
   }
+  files_.ShowAvailable(idle);
   menu_.samplingSettings->setEnabled(idle && desk_.IsReady());
   menu_.reconnect->setEnabled(idle && !desk_.IsReady());
 }
 
 void WindowCommands::ConnectFiles() {
-  Do(menu_.openFile, [this] { OpenDataFile(session_, messages_, dialogs_); });
-  Do(menu_.saveFileAs, [this] { SaveDataFileAs(session_, messages_, dialogs_); });
-  Do(menu_.openEnvironment, [this] { TakeOverEnvironment(); });
+  Do(menu_.openFile, [this] { files_.AskForData(); });
+  Do(menu_.saveFileAs, [this] { files_.SaveDataAs(); });
+  Do(menu_.openEnvironment, [this] { files_.AskForEnvironment(); });
   Do(menu_.saveEnvironment, [this] { SaveEnvironment(session_, messages_); });
-  Do(menu_.saveEnvironmentAs, [this] { SaveEnvironmentAs(session_, messages_, dialogs_); });
+  Do(menu_.saveEnvironmentAs, [this] { files_.SaveEnvironmentAs(); });
   Do(menu_.print, [this] { Print(); });
   Do(menu_.quit, [this] { window_.close(); });
   Do(menu_.reconnect, [this] { TakeOverController(); });
@@ -132,12 +134,6 @@ void WindowCommands::Open(QAction* action, std::function<QDialog*()> make) {
     dialog->setAttribute(Qt::WA_DeleteOnClose);
     dialog->open();
   });
-}
-
-QCoro::Task<> WindowCommands::TakeOverEnvironment() {
-  if (OpenEnvironment(session_, messages_, dialogs_)) {
-    co_await desk_.SendSampling();
-  }
 }
 
 QCoro::Task<> WindowCommands::TakeOverController() {

@@ -5,6 +5,7 @@
 #include <QPointer>
 #include <functional>
 
+#include "app/file_opener.h"
 #include "app/main_menu.h"
 #include "files/program_preferences.h"
 #include "measurement/instrument_desk.h"
@@ -45,13 +46,14 @@ class WindowCommands : public QObject {
   /// Takes or gives away what must not happen while something runs.
   void ShowAvailable(bool usable);
 
+  [[nodiscard]] FileOpener& Files() { return files_; }
+
  private:
   void ConnectFiles();
   void ConnectWindows();
   void ConnectLanguages();
   void Do(QAction* action, std::function<void()> run);
   void Open(QAction* action, std::function<QDialog*()> make);
-  QCoro::Task<> TakeOverEnvironment();
   QCoro::Task<> TakeOverController();
   void Print();
   void KeepLanguage(const QString& code);
@@ -69,6 +71,7 @@ class WindowCommands : public QObject {
   FileDialogs& dialogs_;
   std::function<int()> selectedSlot_;
   QWidget& window_;
+  FileOpener files_;
   CurrentPrinter printer_;
   ReportRequest report_;  ///< as printed last
   ThickGraph* thicknessGraph_ = nullptr;

@@ -2,6 +2,7 @@
 #include "base/language.h"
 
 #include <QCoreApplication>
+#include <QLibraryInfo>
 #include <QTranslator>
 
 // A resource of a static library has to be asked for, outside any namespace.
@@ -26,8 +27,14 @@ std::optional<Language> LanguageOf(const QString& code) {
 
 void UseLanguage(Language language) {
   LoadTranslations();
+  static QTranslator toolkit;
   static QTranslator translator;
+  QCoreApplication::removeTranslator(&toolkit);
   QCoreApplication::removeTranslator(&translator);
+  if (toolkit.load(QStringLiteral("qtbase_") + LanguageCode(language),
+                   QLibraryInfo::path(QLibraryInfo::TranslationsPath))) {
+    QCoreApplication::installTranslator(&toolkit);
+  }
   // The source texts are Japanese.
   if (language == Language::kEnglish &&
       translator.load(QStringLiteral(":/translations/vexa_en.qm"))) {

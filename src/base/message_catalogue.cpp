@@ -281,6 +281,12 @@ constexpr std::array<MessageEntry, kMessageCount> kCatalogue{{
      QT_TRANSLATE_NOOP("Text", "ﾌﾟﾘﾝﾀが見つかりません。\r\r%1")},
     {Message::kPrintError, title::kError, MessageIcon::kStop, MessageButtons::kOk,
      QT_TRANSLATE_NOOP("Text", "印刷でｴﾗｰが発生しました。\r\r%1")},
+    {Message::kFileMissing, title::kError, MessageIcon::kStop, MessageButtons::kOk,
+     QT_TRANSLATE_NOOP("Text", "ﾌｧｲﾙが見つかりません。\r\r%1")},
+    {Message::kRecentFileMissing, title::kWarning, MessageIcon::kWarning, MessageButtons::kOk,
+     QT_TRANSLATE_NOOP("Text", "ﾌｧｲﾙが見つかりません。最近使ったﾌｧｲﾙから除きます。\r\r%1")},
+    {Message::kOneFileAtATime, title::kWarning, MessageIcon::kWarning, MessageButtons::kOk,
+     QT_TRANSLATE_NOOP("Text", "一度に開けるﾌｧｲﾙは１つです。")},
 }};
 
 constexpr bool StandsInOrder() {

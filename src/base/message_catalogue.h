@@ -138,9 +138,14 @@ enum class Message : std::uint8_t {
   kMarginsTooLarge,
   kPrinterMissing,  ///< %1 printer
   kPrintError,      ///< %1 printer
+
+  // Files as they come in.
+  kFileMissing,        ///< %1 path
+  kRecentFileMissing,  ///< %1 path, of the recently used files
+  kOneFileAtATime,
 };
 
-inline constexpr int kMessageCount = static_cast<int>(Message::kPrintError) + 1;
+inline constexpr int kMessageCount = static_cast<int>(Message::kOneFileAtATime) + 1;
 
 enum class MessageIcon : std::uint8_t { kStop, kQuestion, kWarning, kInformation };
 enum class MessageButtons : std::uint8_t { kOk, kOkCancel, kYesNoCancel, kYesNo };

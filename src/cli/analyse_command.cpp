@@ -46,9 +46,9 @@ constexpr Part kColourParts[] = {
 };
 
 void DeclareOptions(QCommandLineParser& parser) {
-  parser.addPositionalArgument(QStringLiteral("FILE"), Text::tr("A data file (*.csv or *.dat)."));
+  parser.addPositionalArgument(QStringLiteral("FILE"), Text::tr("データファイル (*.csv, *.dat)。"));
   DeclareAnalysisOptions(parser);
-  parser.addOption({kCie, Text::tr("Adds the CIE colour at the tables' true wavelengths.")});
+  parser.addOption({kCie, Text::tr("表の本来の波長で計算した CIE の色を加えます。")});
 }
 
 // The slot itself does not tell what of its colour could be computed.
@@ -244,7 +244,7 @@ int Analyse(const QCommandLineParser& parser) {
 Command AnalyseCommand() {
   return {QStringLiteral("analyse"),
           QStringLiteral("FILE [options]"),
-          Text::tr("Colours, judgements and thicknesses of the slots of a data file."),
+          Text::tr("データファイルの各スロットの色、判定、膜厚を求めます。"),
           1,
           DeclareOptions,
           Analyse};

@@ -109,20 +109,20 @@ bool TakeCoat(const QCommandLineParser& parser, DispersionSetting& coat) {
 }  // namespace
 
 void DeclareAnalysisOptions(QCommandLineParser& parser) {
-  const auto add = [&parser](const QString& name, const char* text, const char* value) {
-    parser.addOption({name, QString::fromUtf8(text), QString::fromUtf8(value)});
+  const auto add = [&parser](const QString& name, const QString& text, const char* value) {
+    parser.addOption({name, text, QLatin1String(value)});
   };
-  add(kEnv, "Environment file (default: that of the program directory).", "FILE.env");
-  add(kIlluminant, "Illuminant: A, B, C or D65.", "NAME");
-  add(kObserver, "Observer: 2 or 10 degrees.", "DEGREES");
-  add(kAverage, "Range of the average reflectance in nm.", "FROM-TO");
-  add(option::kStandard, "Judges every slot; exit status 3 when a group is NG.", "FILE.std");
-  parser.addOption({kThickness, Text::tr("Computes the thickness even when the environment has it "
-                                         "disabled.")});
-  add(kType, "Extrema of the thickness: A (two minima), B (maxima) or C (both).", "TYPE");
-  add(kThicknessKind, "Thickness: physical or optical.", "KIND");
-  add(kIndex, "Index of the film: a number or an index file.", "V|FILE.ind");
-  add(kSubstrate, "Data file of the bare substrate.", "FILE");
+  add(kEnv, Text::tr("環境ファイル（省略時：プログラムディレクトリのもの）。"), "FILE.env");
+  add(kIlluminant, Text::tr("光源：A、B、C、D65 のどれか。"), "NAME");
+  add(kObserver, Text::tr("視野：2 または 10 度。"), "DEGREES");
+  add(kAverage, Text::tr("平均反射率の範囲 (nm)。"), "FROM-TO");
+  add(option::kStandard, Text::tr("各スロットを判定します。NG があれば終了ステータスは 3 です。"),
+      "FILE.std");
+  parser.addOption({kThickness, Text::tr("環境で無効になっていても膜厚を計算します。")});
+  add(kType, Text::tr("膜厚に使う極値：A（2個の極小）、B（極大）、C（両方）。"), "TYPE");
+  add(kThicknessKind, Text::tr("膜厚の種類：physical（物理）または optical（光学）。"), "KIND");
+  add(kIndex, Text::tr("膜の屈折率：数値または屈折率ファイル。"), "V|FILE.ind");
+  add(kSubstrate, Text::tr("膜のない基板のデータファイル。"), "FILE");
 }
 
 bool TakeEnvironment(const QCommandLineParser& parser, Settings& settings,

@@ -20,27 +20,28 @@ const std::array kCommands{AnalyseCommand, ConvertCommand,     DecodeCommand,   
                            StockCommand};
 
 QString Overview() {
-  QString text = Text::tr("Usage: vexa-cli COMMAND [arguments] [options]\n\nCommands:\n");
+  QString text = Text::tr("使い方: vexa-cli コマンド [引数] [オプション]\n\nコマンド:\n");
   for (const auto& make : kCommands) {
     const Command command = make();
     text += QStringLiteral("  %1 %2\n").arg(command.name, -12).arg(command.summary);
   }
-  return text + Text::tr("\n\"vexa-cli COMMAND --help\" tells more about each.\n");
+  return text + Text::tr("\n「vexa-cli コマンド --help」で、それぞれの説明を表示します。\n");
 }
 
 int RunCommand(const Command& command, const QStringList& arguments) {
   QCommandLineParser parser;
   parser.setApplicationDescription(command.summary);
-  parser.addOption({{QStringLiteral("h"), QStringLiteral("help")}, Text::tr("Shows this help.")});
-  parser.addOption({option::kJson, Text::tr("Prints one JSON document.")});
-  parser.addOption({option::kDir,
-                    Text::tr("Program directory, with the settings files (default: the "
-                             "current one)."),
-                    QStringLiteral("DIR")});
+  parser.addOption(
+      {{QStringLiteral("h"), QStringLiteral("help")}, Text::tr("この説明を表示します。")});
+  parser.addOption({option::kJson, Text::tr("一つの JSON 文書を出力します。")});
+  parser.addOption(
+      {option::kDir,
+       Text::tr("設定ファイルのあるプログラムディレクトリ（省略時：現在のディレクトリ）。"),
+       QStringLiteral("DIR")});
   parser.addOption({option::kLanguage,
-                    Text::tr("Language of the texts: ja (default) or en; with --json always ja."),
+                    Text::tr("表示言語：ja（省略時）または en。--json では常に ja です。"),
                     QStringLiteral("CODE")});
-  parser.addOption({option::kNo, Text::tr("Answers every question with no.")});
+  parser.addOption({option::kNo, Text::tr("すべての質問に「いいえ」と答えます。")});
   command.declareOptions(parser);
   if (!parser.parse(QStringList{QStringLiteral("vexa-cli")} + arguments)) {
     Complain(command.name + QStringLiteral(": ") + parser.errorText());
@@ -49,7 +50,7 @@ int RunCommand(const Command& command, const QStringList& arguments) {
   if (parser.isSet(QStringLiteral("help"))) {
     QString help = parser.helpText();
     help.replace(0, help.indexOf(u'\n'),
-                 QStringLiteral("Usage: vexa-cli %1 %2").arg(command.name, command.arguments));
+                 Text::tr("使い方: vexa-cli %1 %2").arg(command.name, command.arguments));
     Print(help);
     return kDone;
   }

@@ -14,13 +14,14 @@ namespace {
 const QString kLayout = QStringLiteral("layout");
 
 void DeclareOptions(QCommandLineParser& parser) {
-  parser.addPositionalArgument(QStringLiteral("IN"), Text::tr("Data file to read, or several."));
+  parser.addPositionalArgument(QStringLiteral("IN"),
+                               Text::tr("読み込むデータファイル（複数可）。"));
   parser.addPositionalArgument(QStringLiteral("OUT"),
-                               Text::tr("Data file to write, or a directory for several."));
-  parser.addOption({kLayout,
-                    Text::tr("1 csv, 2 dat with ten blocks, 3 dat with five (default: by the "
-                             "ending of OUT)."),
-                    QStringLiteral("1|2|3")});
+                               Text::tr("書き込むデータファイル。複数のときはディレクトリ。"));
+  parser.addOption(
+      {kLayout,
+       Text::tr("1: csv、2: 10ブロックの dat、3: 5ブロックの dat（省略時：OUT の拡張子による）。"),
+       QStringLiteral("1|2|3")});
 }
 
 // Nothing is asked: no slot is lost.
@@ -73,7 +74,7 @@ int Convert(const QCommandLineParser& parser) {
 Command ConvertCommand() {
   return {QStringLiteral("convert"),
           QStringLiteral("IN OUT [--layout 1|2|3] | IN... DIRECTORY [--layout 1|2|3]"),
-          Text::tr("Reads a data file and writes it in another layout."),
+          Text::tr("データファイルを読み込み、別の形式で書き込みます。"),
           -2,
           DeclareOptions,
           Convert};

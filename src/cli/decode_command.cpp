@@ -16,12 +16,11 @@ const QString kStart = QStringLiteral("start");
 
 void DeclareOptions(QCommandLineParser& parser) {
   parser.addPositionalArgument(QStringLiteral("LINES.bin"),
-                               Text::tr("1 to 16 detector lines of 1024 bytes."));
+                               Text::tr("1024バイトの検出器ライン、1～16本。"));
   parser.addOption({kPositions,
-                    Text::tr("Pixel positions of the six spectral lines (default "
-                             "138,325,378,409,469,0)."),
+                    Text::tr("6本のスペクトル線の画素位置（省略時 138,325,378,409,469,0）。"),
                     QStringLiteral("P0,P1,P2,P3,P4,P5")});
-  parser.addOption({kStart, Text::tr("Start wavelength (default 440)."), QStringLiteral("NM")});
+  parser.addOption({kStart, Text::tr("開始波長（省略時 440）。"), QStringLiteral("NM")});
 }
 
 std::optional<LinePositions> PositionsOption(const QCommandLineParser& parser) {
@@ -76,7 +75,7 @@ int Decode(const QCommandLineParser& parser) {
 Command DecodeCommand() {
   return {QStringLiteral("decode"),
           QStringLiteral("LINES.bin [options]"),
-          Text::tr("Averages raw detector lines and maps them to wavelengths."),
+          Text::tr("検出器のラインを平均し、波長に対応させます。"),
           1,
           DeclareOptions,
           Decode};

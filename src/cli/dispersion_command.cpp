@@ -24,15 +24,15 @@ struct Source {
 const std::array<Source, 5>& Sources() {
   static const std::array<Source, 5> kSources{{
       {QStringLiteral("fixed"), DispersionKind::kFixedValue, QStringLiteral("V"),
-       Text::tr("The same value at every wavelength.")},
+       Text::tr("全波長で同じ値。")},
       {QStringLiteral("schott"), DispersionKind::kSchott, QStringLiteral("A0,A1,A2,A3,A4,A5"),
-       Text::tr("Schott's formula, wavelength in micrometres.")},
+       Text::tr("Schottの分散式、波長はマイクロメートル。")},
       {QStringLiteral("sellmeier"), DispersionKind::kSellmeier, QStringLiteral("A1,A2,A3,B1,B2,B3"),
-       Text::tr("Sellmeier's formula, wavelength in micrometres.")},
+       Text::tr("Sellmeierの分散式、波長はマイクロメートル。")},
       {QStringLiteral("file"), DispersionKind::kIndexFile, QStringLiteral("FILE"),
-       Text::tr("An index or reference file (*.ind, *.ref).")},
+       Text::tr("屈折率またはリファレンスのファイル (*.ind, *.ref)。")},
       {QStringLiteral("substrate"), DispersionKind::kSubstrate, QStringLiteral("FILE"),
-       Text::tr("Index of a bare substrate from its measured data file.")},
+       Text::tr("膜のない基板の屈折率を、測定したデータファイルから求めます。")},
   }};
   return kSources;
 }
@@ -41,10 +41,9 @@ void DeclareOptions(QCommandLineParser& parser) {
   for (const Source& source : Sources()) {
     parser.addOption({source.name, source.description, source.value});
   }
-  parser.addOption(
-      {kAsReflectance,
-       Text::tr("Gives the reflectance of a bare surface in percent (formulas alone).")});
-  parser.addOption({option::kOut, Text::tr("Writes the spectrum as an index or a reference file."),
+  parser.addOption({kAsReflectance, Text::tr("膜のない面の反射率を % で求めます（分散式のみ）。")});
+  parser.addOption({option::kOut,
+                    Text::tr("スペクトルを屈折率またはリファレンスのファイルに書き込みます。"),
                     QStringLiteral("FILE.ind|FILE.ref")});
 }
 
@@ -148,7 +147,7 @@ int Dispersion(const QCommandLineParser& parser) {
 Command DispersionCommand() {
   return {QStringLiteral("dispersion"),
           QStringLiteral("SOURCE [--as-reflectance] [--out FILE.ind|FILE.ref] [options]"),
-          Text::tr("Computes an index or reflectance spectrum from its setting."),
+          Text::tr("設定から屈折率または反射率のスペクトルを計算します。"),
           0,
           DeclareOptions,
           Dispersion};

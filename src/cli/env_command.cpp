@@ -9,9 +9,8 @@ namespace vexa::cli {
 namespace {
 
 void DeclareOptions(QCommandLineParser& parser) {
-  parser.addPositionalArgument(QStringLiteral("FILE"), Text::tr("Environment file."));
-  parser.addOption(
-      {option::kOut, Text::tr("Writes it in the current layout."), QStringLiteral("FILE")});
+  parser.addPositionalArgument(QStringLiteral("FILE"), Text::tr("環境ファイル。"));
+  parser.addOption({option::kOut, Text::tr("現在の形式で書き込みます。"), QStringLiteral("FILE")});
 }
 
 struct JsonValue {
@@ -66,7 +65,7 @@ int Environment(const QCommandLineParser& parser) {
 Command EnvCommand() {
   return {QStringLiteral("env"),
           QStringLiteral("FILE [--out FILE]"),
-          Text::tr("Shows an environment file of any accepted version."),
+          Text::tr("読み込めるすべてのバージョンの環境ファイルを表示します。"),
           1,
           DeclareOptions,
           Environment};

@@ -35,26 +35,27 @@ const QString kIndexUncertainty = QStringLiteral("index-uncertainty");
 const QString kConfidence = QStringLiteral("confidence");
 
 void DeclareOptions(QCommandLineParser& parser) {
-  parser.addPositionalArgument(QStringLiteral("FILE"), Text::tr("A data file (*.csv or *.dat)."));
-  const auto add = [&parser](const QString& name, const char* text, const char* value = "") {
-    parser.addOption({name, QString::fromUtf8(text), QString::fromUtf8(value)});
+  parser.addPositionalArgument(QStringLiteral("FILE"), Text::tr("データファイル (*.csv, *.dat)。"));
+  const auto add = [&parser](const QString& name, const QString& text, const char* value = "") {
+    parser.addOption({name, text, QLatin1String(value)});
   };
   add(kSubstrate,
-      "Material of the substrate: a number, FILE.ind, FILE.nk, schott:A0,..,A5, "
-      "sellmeier:A1,..,B3, cauchy:A,B[,C].",
+      Text::tr("基板の材料：数値, FILE.ind, FILE.nk, schott:A0,..,A5, sellmeier:A1,..,B3, "
+               "cauchy:A,B[,C]。"),
       "MATERIAL");
-  add(kLayer, "Material of a layer, from the air side; one to four times.", "MATERIAL");
-  add(kThickness, "Thickness in nm, once for each layer (default 50-60000).", "FROM-TO");
-  add(kRange, "Wavelengths used, in nm (default 440-840).", "FROM-TO");
-  add(kSlot, "Fits this slot alone.", "N");
-  add(kReferenceFree, "A free scale of 0.5 to 1.6 takes up an error of the reference (default).");
-  add(kReferenceFixed, "The scale is 1.");
-  add(kOffsetFree, "A constant background is free (default 0).");
-  add(kBandwidth, "Full width at half maximum of the slit in nm (default 1, 0 for none).", "NM");
-  add(kIndexFree, "The index of the layer named first gets one free factor.");
-  add(kWavelengthUncertainty, "Of the wavelength scale, in nm (default 0.1).", "NM");
-  add(kIndexUncertainty, "Relative, of the indices of the layers (default 0).", "U");
-  add(kConfidence, "Of the interval (default 0.95).", "P");
+  add(kLayer, Text::tr("層の材料。空気の側から順に1～4回指定します。"), "MATERIAL");
+  add(kThickness, Text::tr("膜厚の範囲 (nm)。層ごとに1回（省略時 50-60000）。"), "FROM-TO");
+  add(kRange, Text::tr("使う波長 (nm)（省略時 440-840）。"), "FROM-TO");
+  add(kSlot, Text::tr("このスロットだけをフィットします。"), "N");
+  add(kReferenceFree,
+      Text::tr("0.5～1.6 の倍率を自由にし、リファレンスの誤差を吸収します（省略時）。"));
+  add(kReferenceFixed, Text::tr("倍率を 1 に固定します。"));
+  add(kOffsetFree, Text::tr("一定のバックグラウンドを自由にします（省略時 0）。"));
+  add(kBandwidth, Text::tr("スリットの半値全幅 (nm)（省略時 1、なしは 0）。"), "NM");
+  add(kIndexFree, Text::tr("最初に指定した層の屈折率の係数を一つ自由にします。"));
+  add(kWavelengthUncertainty, Text::tr("波長目盛りの不確かさ (nm)（省略時 0.1）。"), "NM");
+  add(kIndexUncertainty, Text::tr("層の屈折率の相対的な不確かさ（省略時 0）。"), "U");
+  add(kConfidence, Text::tr("区間の信頼水準（省略時 0.95）。"), "P");
 }
 
 std::optional<ThicknessRange> RangeOf(const QString& text) {
@@ -248,7 +249,7 @@ Command FitCommand() {
   return {QStringLiteral("fit"),
           QStringLiteral("FILE --substrate MATERIAL --layer MATERIAL [--layer MATERIAL ...] "
                          "[options]"),
-          Text::tr("Fits the thicknesses of a film stack to the slots of a data file."),
+          Text::tr("データファイルの各スロットに、膜構成の膜厚をフィットします。"),
           1,
           DeclareOptions,
           Fit};

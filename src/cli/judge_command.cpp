@@ -12,9 +12,8 @@ namespace vexa::cli {
 namespace {
 
 void DeclareOptions(QCommandLineParser& parser) {
-  parser.addPositionalArgument(QStringLiteral("FILE"), Text::tr("A data file (*.csv or *.dat)."));
-  parser.addOption(
-      {option::kStandard, Text::tr("The standards to judge by."), QStringLiteral("FILE.std")});
+  parser.addPositionalArgument(QStringLiteral("FILE"), Text::tr("データファイル (*.csv, *.dat)。"));
+  parser.addOption({option::kStandard, Text::tr("判定に使う規格。"), QStringLiteral("FILE.std")});
 }
 
 // The panel's text, and the distance to the nearest limit where there is one.
@@ -93,7 +92,7 @@ int Judge(const QCommandLineParser& parser) {
 Command JudgeCommand() {
   return {QStringLiteral("judge"),
           QStringLiteral("FILE --standard FILE.std [options]"),
-          Text::tr("Judges the slots of a data file; exit status 3 when a group is NG."),
+          Text::tr("データファイルの各スロットを判定します。NG があれば終了ステータスは 3 です。"),
           1,
           DeclareOptions,
           Judge};

@@ -122,14 +122,14 @@ class Run {
   }
 
   QCoro::Task<bool> TakeFrames() {
-    const QString darkness = QStringLiteral("reference (background)");
+    const QString darkness = Text::tr("リファレンス（バックグラウンド用）");
     bool going = co_await Place(darkness);
     if (going) {
       const MeasurementOutcome outcome = co_await sequence_.MeasureBackground();
       report_.background = outcome.status;
       going = IsDone(outcome);
     }
-    const QString reference = QStringLiteral("reference");
+    const QString reference = Text::tr("リファレンス");
     if (going) {
       going = co_await Place(reference);
     }
@@ -142,7 +142,7 @@ class Run {
   }
 
   QCoro::Task<bool> TakeSample(int slot) {
-    const QString what = QStringLiteral("sample %1").arg(slot);
+    const QString what = Text::tr("サンプル %1 ").arg(slot);
     const bool placed = co_await Place(what);
     if (!placed) {
       co_return false;
@@ -167,7 +167,7 @@ class Run {
     if (!plan_.prompt || interrupted_) {
       co_return !interrupted_;
     }
-    Prompt(QStringLiteral("Place the %1 and press Enter: ").arg(what));
+    Prompt(Text::tr("%1を置いて Enter を押してください: ").arg(what));
     const bool placed = co_await input_.Next();
     if (!placed && !interrupted_) {
       Complain(QStringLiteral("standard input ended"));
@@ -240,12 +240,13 @@ int Measure(const QCommandLineParser& parser) {
 }  // namespace
 
 Command MeasureCommand() {
-  return {QStringLiteral("measure"),
-          QStringLiteral("(--port N | --device PATH) --out FILE [options]"),
-          Text::tr("Measures background, reference and samples into a data file."),
-          0,
-          DeclareMeasureOptions,
-          Measure};
+  return {
+      QStringLiteral("measure"),
+      QStringLiteral("(--port N | --device PATH) --out FILE [options]"),
+      Text::tr("バックグラウンド、リファレンス、サンプルを測定し、データファイルに保存します。"),
+      0,
+      DeclareMeasureOptions,
+      Measure};
 }
 
 }  // namespace vexa::cli

@@ -82,25 +82,27 @@ std::optional<MeasurePlan> Read(const QCommandLineParser& parser, const Settings
 }  // namespace
 
 void DeclareMeasureOptions(QCommandLineParser& parser) {
-  const auto add = [&parser](const QString& name, const char* text, const char* value) {
-    parser.addOption({name, QLatin1String(text), QLatin1String(value)});
+  const auto add = [&parser](const QString& name, const QString& text, const char* value) {
+    parser.addOption({name, text, QLatin1String(value)});
   };
-  add(kPort, "Serial port number of the controller; 0 is the control box on the GP-IB.", "N");
-  add(kDevice, "Device of the controller, instead of a port number.", "PATH");
-  add(option::kOut, "Data file for the measured slots.", "FILE");
-  add(kSamplingTime, "Integration time of a line, 30 to 20000 ms (default: from the environment).",
-      "MS");
-  add(kAveraging, "Lines averaged for a frame, 1 to 16 (default 1).", "N");
-  add(kSamples, "Samples to measure, 1 to 10 (default 1).", "N");
-  parser.addOption({kPrompt, Text::tr("Waits for Enter before each measurement.")});
+  add(kPort, Text::tr("コントローラのシリアルポート番号。0 は GP-IB のコントロールボックスです。"),
+      "N");
+  add(kDevice, Text::tr("コントローラの装置ファイル（ポート番号の代わり）。"), "PATH");
+  add(option::kOut, Text::tr("測定したスロットのデータファイル。"), "FILE");
+  add(kSamplingTime, Text::tr("一ラインの積算時間、30～20000 ms（省略時：環境による）。"), "MS");
+  add(kAveraging, Text::tr("一回の測定で平均するライン数、1～16（省略時 1）。"), "N");
+  add(kSamples, Text::tr("測定するサンプルの数、1～10（省略時 1）。"), "N");
+  parser.addOption({kPrompt, Text::tr("測定のたびに Enter を待ちます。")});
   DeclareReferenceReflectance(parser);
-  add(option::kShift, "Calibration shift, 0 to 7 nm (default: from vexa.cal, else 4).", "K");
-  parser.addOption({kRecord, QStringLiteral("Keeps every frame and sample in the record store.")});
-  add(kStore, "The record store (default: records.db of the program directory).", "FILE");
-  add(kLot, "Lot of the records.", "NAME");
-  add(kOperator, "Operator of the records.", "NAME");
-  add(kSampleNumber, "Number of the next sample; once a sample.", "TEXT");
-  add(kReplyTimeout, "Longest wait for a reply of the controller (default 40000 ms).", "MS");
+  add(option::kShift,
+      Text::tr("キャリブレーションのシフト値、0～7 nm（省略時：vexa.cal の値、なければ 4）。"),
+      "K");
+  parser.addOption({kRecord, Text::tr("測定した光量とサンプルをすべて記録に残します。")});
+  add(kStore, Text::tr("記録のファイル（省略時：プログラムディレクトリの records.db）。"), "FILE");
+  add(kLot, Text::tr("記録のロット。"), "NAME");
+  add(kOperator, Text::tr("記録の測定者。"), "NAME");
+  add(kSampleNumber, Text::tr("次のサンプルの試料番号。サンプルごとに1回指定します。"), "TEXT");
+  add(kReplyTimeout, Text::tr("コントローラの応答を待つ最長の時間（省略時 40000 ms）。"), "MS");
 }
 
 std::optional<MeasurePlan> ReadMeasurePlan(const QCommandLineParser& parser, Settings& settings) {

@@ -34,10 +34,10 @@ bool LoadDataFile(const QString& path, Session& session, MessageService& message
 }
 
 void DeclareReferenceReflectance(QCommandLineParser& parser) {
-  parser.addOption({option::kReferenceReflectance,
-                    Text::tr("Reflectance of the reference: 0.1 to 110 percent, or a *.ref "
-                             "file (default: from the environment)."),
-                    QStringLiteral("V|FILE.ref")});
+  parser.addOption(
+      {option::kReferenceReflectance,
+       Text::tr("リファレンスの反射率：0.1～110 %、または *.ref ファイル（省略時：環境による）。"),
+       QStringLiteral("V|FILE.ref")});
 }
 
 ExitStatus TakeReferenceReflectance(const QCommandLineParser& parser, Settings& settings) {

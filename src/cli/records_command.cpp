@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include <algorithm>
 
+#include "base/translation.h"
 #include "cli/command_line.h"
 #include "cli/program_settings.h"
 #include "cli/records_actions.h"
@@ -69,25 +70,28 @@ QString ActionNames() {
 
 void DeclareOptions(QCommandLineParser& parser) {
   parser.addPositionalArgument(QStringLiteral("ACTION"),
-                               QStringLiteral("One of ") + ActionNames() + u'.');
-  const auto add = [&parser](const QString& name, const char* text, const char* value) {
-    parser.addOption({name, QLatin1String(text), QLatin1String(value)});
+                               Text::tr("%1 のどれか。").arg(ActionNames()));
+  const auto add = [&parser](const QString& name, const QString& text, const char* value) {
+    parser.addOption({name, text, QLatin1String(value)});
   };
-  add(kStore, "The record store (default: records.db of the program directory).", "FILE");
-  add(kLot, "list: only this lot; import: the lot of the samples.", "LOT");
-  add(kRecipe, "list: only this recipe.", "RECIPE");
-  add(kSample, "list: only sample numbers that hold this text.", "TEXT");
-  add(kOperator, "list: only this operator; import, supersede: who does it.", "NAME");
-  add(kFrom, "list: from this date, yyyy-mm-dd, or time on.", "DATE");
-  add(kTo, "list: to this date or time, included; sync: the PostgreSQL service or URI.", "DATE");
-  add(kVerdict, "list: only this verdict: OK, NG or none.", "VERDICT");
-  add(kLimit, "list: at most so many (default 100).", "N");
-  parser.addOption({kAll, QStringLiteral("list: superseded ones too.")});
-  add(kEnv, "evaluate: environment file in the place of the program directory's.", "FILE.env");
-  add(option::kStandard, "evaluate: standards in the place of the environment's.", "FILE.std");
-  add(option::kOut, "export: *.csv, *.dat, *.json or *.jdx.", "FILE");
-  add(kBy, "supersede: the sample that takes the place.", "ID");
-  add(kReason, "supersede: why.", "TEXT");
+  add(kStore, Text::tr("記録のファイル（省略時：プログラムディレクトリの records.db）。"), "FILE");
+  add(kLot, Text::tr("list：このロットだけ。import：サンプルのロット。"), "LOT");
+  add(kRecipe, Text::tr("list：このレシピだけ。"), "RECIPE");
+  add(kSample, Text::tr("list：この文字列を含む試料番号だけ。"), "TEXT");
+  add(kOperator, Text::tr("list：この測定者だけ。import、supersede：行う人。"), "NAME");
+  add(kFrom, Text::tr("list：この日付 (yyyy-mm-dd) または時刻から。"), "DATE");
+  add(kTo,
+      Text::tr("list：この日付または時刻まで（含む）。sync：PostgreSQL のサービスまたは URI。"),
+      "DATE");
+  add(kVerdict, Text::tr("list：この判定だけ：OK、NG、none（判定なし）。"), "VERDICT");
+  add(kLimit, Text::tr("list：最大の件数（省略時 100）。"), "N");
+  parser.addOption({kAll, Text::tr("list：差し替えられたものも。")});
+  add(kEnv, Text::tr("evaluate：プログラムディレクトリのものの代わりに使う環境ファイル。"),
+      "FILE.env");
+  add(option::kStandard, Text::tr("evaluate：環境のものの代わりに使う規格。"), "FILE.std");
+  add(option::kOut, Text::tr("export：*.csv、*.dat、*.json、*.jdx のどれか。"), "FILE");
+  add(kBy, Text::tr("supersede：代わりになるサンプル。"), "ID");
+  add(kReason, Text::tr("supersede：理由。"), "TEXT");
 }
 
 int Records(const QCommandLineParser& parser) {
@@ -117,7 +121,7 @@ int Records(const QCommandLineParser& parser) {
 Command RecordsCommand() {
   return {QStringLiteral("records"),
           QStringLiteral("ACTION [arguments] [options]"),
-          QStringLiteral("Searches, shows, exports and checks the kept measurements."),
+          Text::tr("記録した測定を検索、表示、エクスポート、検査します。"),
           -1,
           DeclareOptions,
           Records};

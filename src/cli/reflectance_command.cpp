@@ -18,14 +18,18 @@ struct FrameOption {
 };
 
 void DeclareOptions(QCommandLineParser& parser) {
-  for (const char* frame : {"background", "reference", "sample"}) {
-    parser.addOption({QString::fromLatin1(frame),
-                      Text::tr("Detector lines of the %1.").arg(QLatin1String(frame)),
-                      QStringLiteral("LINES.bin")});
+  const std::pair<QString, QString> frames[] = {
+      {QStringLiteral("background"), Text::tr("バックグラウンド")},
+      {QStringLiteral("reference"), Text::tr("リファレンス")},
+      {QStringLiteral("sample"), Text::tr("サンプル")}};
+  for (const auto& [option, frame] : frames) {
+    parser.addOption(
+        {option, Text::tr("%1の検出器ライン。").arg(frame), QStringLiteral("LINES.bin")});
   }
-  parser.addOption({option::kShift,
-                    Text::tr("Calibration shift, 0 to 7 nm (default: from vexa.cal, else 4)."),
-                    QStringLiteral("K")});
+  parser.addOption(
+      {option::kShift,
+       Text::tr("キャリブレーションのシフト値、0～7 nm（省略時：vexa.cal の値、なければ 4）。"),
+       QStringLiteral("K")});
   DeclareReferenceReflectance(parser);
 }
 
@@ -81,7 +85,7 @@ int Reflectance(const QCommandLineParser& parser) {
 Command ReflectanceCommand() {
   return {QStringLiteral("reflectance"),
           QStringLiteral("--background B --reference R --sample S [options]"),
-          Text::tr("Computes a reflectance spectrum from three sets of detector lines."),
+          Text::tr("三組の検出器ラインから反射率スペクトルを計算します。"),
           0,
           DeclareOptions,
           Reflectance};

@@ -12,9 +12,9 @@ namespace vexa::cli {
 namespace {
 
 void DeclareOptions(QCommandLineParser& parser) {
-  parser.addPositionalArgument(QStringLiteral("FILE"), Text::tr("A standard file (*.std)."));
-  parser.addOption({option::kOut, Text::tr("Writes the standards in the current layout."),
-                    QStringLiteral("FILE")});
+  parser.addPositionalArgument(QStringLiteral("FILE"), Text::tr("規格ファイル (*.std)。"));
+  parser.addOption(
+      {option::kOut, Text::tr("規格を現在の形式で書き込みます。"), QStringLiteral("FILE")});
 }
 
 QJsonObject LimitsJson(const StandardLimits& limits) {
@@ -109,7 +109,7 @@ int Standard(const QCommandLineParser& parser) {
 Command StandardCommand() {
   return {QStringLiteral("standard"),
           QStringLiteral("FILE [options]"),
-          Text::tr("Shows a standard file, and writes it in the current layout."),
+          Text::tr("規格ファイルを表示し、現在の形式で書き込みます。"),
           1,
           DeclareOptions,
           Standard};

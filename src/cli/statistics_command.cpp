@@ -26,25 +26,23 @@ const QString kTolerance = QStringLiteral("tolerance");
 constexpr double kLargest = 1e100;
 
 void DeclareOptions(QCommandLineParser& parser) {
-  parser.addPositionalArgument(QStringLiteral("KIND"),
-                               Text::tr("summary, xmr (control chart of individuals and moving "
-                                        "ranges), capability, or grr (gauge repeatability and "
-                                        "reproducibility)."));
+  parser.addPositionalArgument(
+      QStringLiteral("KIND"),
+      Text::tr("summary（要約）、xmr（個々の値と移動範囲の管理図）、capability（工程能力）、grr（ゲ"
+               "ージの繰返し性と再現性）のどれか。"));
   parser.addPositionalArgument(
       QStringLiteral("FILE"),
-      Text::tr("Numbers, one a line or in a table with a heading; grr: a table with the "
-               "columns part, operator, value."));
-  parser.addOption(
-      {kColumn, Text::tr("The column of the numbers in a table."), QStringLiteral("NAME")});
-  parser.addOption({kBaseline, Text::tr("xmr: the first N points set the limits (default: all)."),
+      Text::tr("数値。一行に一つ、または見出しのある表。grr：列が part、operator、value の表。"));
+  parser.addOption({kColumn, Text::tr("表の中の数値の列。"), QStringLiteral("NAME")});
+  parser.addOption({kBaseline,
+                    Text::tr("xmr：最初の N 点から限界を決めます（省略時：すべての点）。"),
                     QStringLiteral("N")});
-  parser.addOption({kRules, Text::tr("xmr: western (default), nelson, or some of Nelson's eight."),
+  parser.addOption({kRules,
+                    Text::tr("xmr：western（省略時）、nelson、または Nelson の8つのルールの一部。"),
                     QStringLiteral("western|nelson|1,2,5")});
-  parser.addOption(
-      {kLower, Text::tr("capability: lower limit of the tolerance."), QStringLiteral("L")});
-  parser.addOption(
-      {kUpper, Text::tr("capability: upper limit of the tolerance."), QStringLiteral("U")});
-  parser.addOption({kTolerance, Text::tr("grr: width of the tolerance."), QStringLiteral("T")});
+  parser.addOption({kLower, Text::tr("capability：公差の下限。"), QStringLiteral("L")});
+  parser.addOption({kUpper, Text::tr("capability：公差の上限。"), QStringLiteral("U")});
+  parser.addOption({kTolerance, Text::tr("grr：公差の幅。"), QStringLiteral("T")});
 }
 
 int Show(const QCommandLineParser& parser, const StatisticsReport& report) {
@@ -219,7 +217,7 @@ int Statistics(const QCommandLineParser& parser) {
 Command StatisticsCommand() {
   return {QStringLiteral("statistics"),
           QStringLiteral("summary|xmr|capability|grr FILE [options]"),
-          Text::tr("Summary, control chart, capability or gauge study of numbers."),
+          Text::tr("数値の要約、管理図、工程能力、測定システム解析。"),
           2,
           DeclareOptions,
           Statistics};

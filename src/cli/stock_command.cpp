@@ -12,8 +12,8 @@ namespace vexa::cli {
 namespace {
 
 void DeclareOptions(QCommandLineParser& parser) {
-  parser.addPositionalArgument(QStringLiteral("FILE"), Text::tr("A stock file (*.stc)."));
-  parser.addOption({option::kOut, Text::tr("Writes the points as a stock file of this version."),
+  parser.addPositionalArgument(QStringLiteral("FILE"), Text::tr("累積ファイル (*.stc)。"));
+  parser.addOption({option::kOut, Text::tr("点をこのバージョンの累積ファイルに書き込みます。"),
                     QStringLiteral("FILE")});
 }
 
@@ -78,7 +78,7 @@ int Stock(const QCommandLineParser& parser) {
 Command StockCommand() {
   return {QStringLiteral("stock"),
           QStringLiteral("FILE [options]"),
-          Text::tr("Shows the accumulated colour points of a stock file."),
+          Text::tr("累積ファイルに累積された色の点を表示します。"),
           1,
           DeclareOptions,
           Stock};

@@ -34,6 +34,11 @@ struct LineReader {
   EnvironmentValue operator()(const QString*) const { return reader.Line(); }
 };
 
+// An empty file has no header, and so no version.
+QString HeaderLine(TextReader& reader) {
+  return reader.AtEnd() ? QString() : reader.Field();
+}
+
 struct LineWriter {
   FileText& text;
   void operator()(std::monostate) const {}
@@ -96,13 +101,24 @@ EnvironmentTable<EnvironmentPlace> EnvironmentLines(Settings& settings) {
   return lines;
 }
 
+bool IsEnvironmentFile(const QString& path) {
+  const ReadResult<QString> header = TryRead([&path] {
+    TextReader reader = TextReader::Open(path);
+    return HeaderLine(reader);
+  });
+  if (header && ReadHeaderVersion(*header, file_kind::kEnvironment.word) > 0.0) {
+    return true;
+  }
+  const bool data = header && ReadHeaderVersion(*header, file_kind::kData.word) > 0.0;
+  return !data && path.endsWith(QStringLiteral(".env"), Qt::CaseInsensitive);
+}
+
 ReadResult<EnvironmentContent> ReadEnvFile(const QString& path) {
   return TryRead([&path] {
     TextReader reader = TextReader::Open(path);
-    // An empty file has no header, and so no version.
-    const QString header = reader.AtEnd() ? QString() : reader.Field();
-    EnvironmentContent content{.version = ReadHeaderVersion(header, file_kind::kEnvironment.word),
-                               .lines = {}};
+    EnvironmentContent content{
+        .version = ReadHeaderVersion(HeaderLine(reader), file_kind::kEnvironment.word),
+        .lines = {}};
     if (content.version < file_kind::kEnvironment.oldest) {
       throw ReadFault({.kind = FileFaultKind::kVersion, .line = 1, .version = content.version});
     }

@@ -34,6 +34,10 @@ struct EnvironmentContent {
   EnvironmentTable<EnvironmentValue> lines;
 };
 
+/// True for a file whose header says that it is an environment file, or that ends in "env" (in any
+/// case) and does not say that it is a data file.
+[[nodiscard]] bool IsEnvironmentFile(const QString& path);
+
 /// Reads an environment file of the current layout (version 2.99 and later) or of the older one
 /// (from 1.0), which lacks some of the lines.
 ReadResult<EnvironmentContent> ReadEnvFile(const QString& path);

@@ -112,7 +112,8 @@ TEST_F(Program, TheWindowAndTheCommandLineFitTheSameThickness) {
 }
 
 TEST_F(Program, WrongOptionsAreOneLineAndStatusTwo) {
-  for (const char* arguments : {"--nonsense", "--demo", "stray", "--language fr", "--language"}) {
+  for (const char* arguments :
+       {"--nonsense", "--demo", "one two", "--demo @x one", "--language fr", "--language"}) {
     EXPECT_EQ(Run(arguments), 2) << arguments;
     EXPECT_EQ(complaints, 1) << arguments;
   }

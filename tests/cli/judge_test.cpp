@@ -53,7 +53,7 @@ TEST_F(Judging, OnlyTextsDependOnTheLanguage) {
   for (const QByteArray command :
        {"judge @data.csv --standard @a.std --json", "analyse @data.csv --standard @a.std --json",
         "convert @data.csv @out.csv", "convert @data.csv @out.dat",
-        "standard @a.std --out @out.std", "standard --help", "--help"}) {
+        "standard @a.std --out @out.std"}) {
     // Each time into a new file: an existing one is asked about.
     QByteArray written[2];
     for (const int english : {0, 1}) {

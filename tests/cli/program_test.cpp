@@ -5,6 +5,7 @@
 
 #include <QDir>
 #include <QFile>
+#include <QRegularExpression>
 #include <tuple>
 
 #include "cli/running_programs.h"
@@ -51,6 +52,27 @@ TEST_F(CommandLine, WrongUsageIsOneLineAndStatusTwo) {
       EXPECT_EQ(outcome.out, "") << arguments.constData();
       EXPECT_TRUE(outcome.err.startsWith("vexa-cli: ")) << arguments.constData();
       EXPECT_EQ(outcome.err.count('\n'), 1) << outcome.err.constData();
+    }
+  }
+}
+
+TEST_F(CommandLine, HelpIsInTheLanguageAskedFor) {
+  static const QRegularExpression kJapanese(QStringLiteral("[\\p{Han}\\p{Hiragana}\\p{Katakana}]"));
+  // An option, or a command of the overview, and what it does.
+  static const QRegularExpression kEntry(QStringLiteral("^  (-\\S.*|[a-z]\\S*|[A-Z]+)  +\\S"),
+                                         QRegularExpression::MultilineOption);
+  for (const char* command :
+       {"", "analyse", "convert", "decode", "dispersion", "env", "fit", "judge", "measure",
+        "records", "reflectance", "standard", "statistics", "stock"}) {
+    const QByteArray arguments = QByteArray(command) + " --help --language ";
+    const QString english = QString::fromUtf8(Run(arguments + "en").out);
+    EXPECT_FALSE(english.contains(kJapanese)) << english.toStdString();
+    EXPECT_GE(english.count(kEntry), 6) << english.toStdString();
+    const Outcome japanese = Run(arguments + "ja");
+    EXPECT_EQ(japanese.status, 0);
+    EXPECT_EQ(japanese.out, Run(QByteArray(command) + " --help").out) << "the default";
+    for (const QString& line : QString::fromUtf8(japanese.out).split(u'\n')) {
+      EXPECT_TRUE(!line.contains(kEntry) || line.contains(kJapanese)) << line.toStdString();
     }
   }
 }

@@ -7,42 +7,48 @@
 
 namespace vexa {
 
-QCoro::Task<> OpenDataFile(Session& session, MessageService& messages, FileDialogs& dialogs) {
+QCoro::Task<bool> OpenDataFile(Session& session, MessageService& messages, FileDialogs& dialogs) {
   const std::optional<QString> path =
       dialogs.AskOpen(Text::tr("ﾌｧｲﾙを開く"), Text::tr("ﾃﾞｰﾀ･ﾌｧｲﾙ(*.csv,*.dat)|*.csv;*.dat|"));
   if (!path) {
-    co_return;
+    co_return false;
   }
-  const ReadResult<DataFileContent> content = ReadDataFile(*path);
+  const bool opened = co_await OpenDataFile(*path, session, messages);
+  co_return opened;
+}
+
+QCoro::Task<bool> OpenDataFile(QString path, Session& session, MessageService& messages) {
+  const ReadResult<DataFileContent> content = ReadDataFile(path);
   if (!content) {
     messages.Tell(DataFileMessage(content.Fault()));
-    co_return;
+    co_return false;
   }
   if (const std::optional<MessageCall> question = StoreQuestion(*content)) {
     const MessageResult answer = co_await messages.Ask(*question);
     if (answer != MessageResult::kOk) {
-      co_return;
+      co_return false;
     }
   }
   const VEXATYPE& state = session.State();
   const QString comment = content->blocks ? content->comment : state.dataFileComment;
   const SlotTable slotsRead = SlotsWith(*content, state.measurementSlots);
-  if (const auto message = AccumulationMessage(session.LoadSlots(slotsRead, *path, comment))) {
+  if (const auto message = AccumulationMessage(session.LoadSlots(slotsRead, path, comment))) {
     messages.Tell(*message);
   }
+  co_return true;
 }
 
-QCoro::Task<> SaveDataFileAs(Session& session, MessageService& messages, FileDialogs& dialogs) {
+QCoro::Task<bool> SaveDataFileAs(Session& session, MessageService& messages, FileDialogs& dialogs) {
   const VEXATYPE& state = session.State();
   if (!state.HasValidSlot()) {
     messages.Tell({Message::kNoValidData});
-    co_return;
+    co_return false;
   }
   const std::optional<SaveChoice> choice = dialogs.AskSave(
       Text::tr("ﾌｧｲﾙの名前を付けて保存"),
       QStringLiteral("Data File(*.csv)|*.csv|Data File(*.dat)|*.dat|Data File(5)(*.dat)|*.dat"));
   if (!choice) {
-    co_return;
+    co_return false;
   }
   const QStringList extensions{QStringLiteral(".csv"), QStringLiteral(".dat")};
   auto layout = static_cast<DataFileLayout>(choice->filterIndex);
@@ -54,9 +60,11 @@ QCoro::Task<> SaveDataFileAs(Session& session, MessageService& messages, FileDia
     layout = ending;
   }
   const bool may = co_await MayReplace(path, messages);
-  if (may && TellWritten(WriteDataFile(path, layout, state), path, messages)) {
+  const bool written = may && TellWritten(WriteDataFile(path, layout, state), path, messages);
+  if (written) {
     session.SetDataFileName(path);
   }
+  co_return written;
 }
 
 }  // namespace vexa

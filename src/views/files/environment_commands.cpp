@@ -32,11 +32,15 @@ bool OpenEnvironment(Session& session, MessageService& messages, FileDialogs& di
   const std::optional<QString> path =
       dialogs.AskOpen(Text::tr("環境ﾌｧｲﾙを開く"),
                       Text::tr("環境ﾃﾞｰﾀ･ﾌｧｲﾙ(*.env)|*.env|") + Text::tr("全てのﾌｧｲﾙ(*.*)|*.*|"));
-  if (!path || !MayKeepName(NameForStartup(session.State(), *path), messages)) {
+  return path && OpenEnvironment(*path, session, messages);
+}
+
+bool OpenEnvironment(const QString& path, Session& session, MessageService& messages) {
+  if (!MayKeepName(NameForStartup(session.State(), path), messages)) {
     return false;
   }
   Settings settings = session.SettingsInForce();
-  const Environment environment = ReadEnvironment(*path, settings.programDirectory);
+  const Environment environment = ReadEnvironment(path, settings.programDirectory);
   (void)ApplyEnvironment(environment, settings);
   TellAll(environment.notices, messages);
   TellAll(LoadDispersionData(settings).notices, messages);
@@ -61,20 +65,19 @@ QCoro::Task<bool> SaveEnvironment(Session& session, MessageService& messages) {
   co_return Write(path, state.envFileName, session, messages);
 }
 
-QCoro::Task<> SaveEnvironmentAs(Session& session, MessageService& messages, FileDialogs& dialogs) {
+QCoro::Task<bool> SaveEnvironmentAs(Session& session, MessageService& messages,
+                                    FileDialogs& dialogs) {
   const std::optional<SaveChoice> choice = dialogs.AskSave(
       Text::tr("環境ﾌｧｲﾙの名前を付けて保存"), QStringLiteral("Enviroment File (*.env)|*.env"));
   if (!choice) {
-    co_return;
+    co_return false;
   }
   const QString path = WithExtension(choice->path, QStringLiteral(".env"));
   if (!MayKeepName(NameForStartup(session.State(), path), messages)) {
-    co_return;
+    co_return false;
   }
   const bool may = co_await MayReplace(path, messages);
-  if (may) {
-    (void)Write(path, path, session, messages);
-  }
+  co_return may&& Write(path, path, session, messages);
 }
 
 }  // namespace vexa

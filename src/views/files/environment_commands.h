@@ -12,11 +12,16 @@ namespace vexa {
 [[nodiscard]] bool OpenEnvironment(Session& session, MessageService& messages,
                                    FileDialogs& dialogs);
 
+/// The same with a file that was chosen elsewhere.
+[[nodiscard]] bool OpenEnvironment(const QString& path, Session& session, MessageService& messages);
+
 /// Writes the environment file in use; true when written. It asks only where a file of that name
 /// was never read, so that defaults do not take the place of a good one.
 QCoro::Task<bool> SaveEnvironment(Session& session, MessageService& messages);
 
-/// Asks for a name, writes the environment under it and keeps it as the name in use.
-QCoro::Task<> SaveEnvironmentAs(Session& session, MessageService& messages, FileDialogs& dialogs);
+/// Asks for a name, writes the environment under it and keeps it as the name in use; true
+/// when written.
+QCoro::Task<bool> SaveEnvironmentAs(Session& session, MessageService& messages,
+                                    FileDialogs& dialogs);
 
 }  // namespace vexa

@@ -2,6 +2,7 @@
 #include "views/graph/cursor_strip.h"
 
 #include <QGridLayout>
+#include <algorithm>
 
 #include "base/number_text.h"
 #include "base/translation.h"
@@ -45,17 +46,20 @@ void CursorStrip::resizeEvent(QResizeEvent* event) {
   Arrange();
 }
 
-// Two rows where there is room for them.
+// Two rows where there is room for them, and as many columns as the names of the curves leave.
 void CursorStrip::Arrange() {
-  const int besides = layout()->minimumSize().width();
-  const int most =
-      (width() - besides) / fontMetrics().horizontalAdvance(QStringLiteral("■ 10: 100.000"));
+  const int room = width() - layout()->minimumSize().width();
+  const int most = room / fontMetrics().horizontalAdvance(QStringLiteral("■ 10: 100.000"));
   const int rows = kMostCurves <= 2 * most ? 2 : 3;
-  if (rows == rows_) {
+  const auto columnsFor = [rows](int curves) { return (curves + rows - 1) / rows; };
+  const int value = fontMetrics().horizontalAdvance(QStringLiteral("■ : 10000.000"));
+  const int columns = std::max(columnsFor(std::max(count_, 1)),
+                               std::min(columnsFor(kMostCurves), room / (widestName_ + value)));
+  if (rows == rows_ && columns == columns_) {
     return;
   }
   rows_ = rows;
-  const int columns = (kMostCurves + rows - 1) / rows;
+  columns_ = columns;
   for (int i = 0; i < kMostCurves; ++i) {
     grid_->addWidget(values_[static_cast<std::size_t>(i)], i / columns, i % columns);
     grid_->setColumnStretch(i, i < columns ? 1 : 0);
@@ -65,6 +69,8 @@ void CursorStrip::Arrange() {
 
 void CursorStrip::Show(const std::vector<SpectrumCurve>& curves, int nm, QStringView pattern) {
   wavelength_->setText(QStringLiteral("%1 nm").arg(nm));
+  count_ = static_cast<int>(curves.size());
+  widestName_ = 0;
   for (std::size_t i = 0; i < values_.size(); ++i) {
     values_[i]->setVisible(i < curves.size());
     if (i >= curves.size()) {
@@ -73,7 +79,9 @@ void CursorStrip::Show(const std::vector<SpectrumCurve>& curves, int nm, QString
     values_[i]->setText(QStringLiteral("<span style='color:%1'>■</span> %2: %3")
                             .arg(curves[i].pen.color().name(), curves[i].label.toHtmlEscaped(),
                                  FormatNumber(curves[i].values[nm], pattern)));
+    widestName_ = std::max(widestName_, fontMetrics().horizontalAdvance(curves[i].label));
   }
+  Arrange();
 }
 
 QPushButton* CursorStrip::StepButton(const char* name, int by) {

@@ -36,6 +36,9 @@ class CursorStrip : public QWidget {
   QLabel* wavelength_;
   QGridLayout* grid_;
   int rows_ = 0;
+  int columns_ = 0;
+  int count_ = 0;       ///< curves shown
+  int widestName_ = 0;  ///< of theirs, in pixels
   std::vector<QLabel*> values_;
 };
 
