@@ -2,6 +2,7 @@
 #pragma once
 
 #include <QCoroTask>
+#include <QLockFile>
 #include <QMainWindow>
 
 #include "app/main_menu.h"
@@ -60,12 +61,14 @@ class VEXA : public QMainWindow {
 
   QCoro::Task<> End();
   QCoro::Task<bool> Unload();
+  void TellOfAnotherWindow();
   void ListenToSession();
   void Refresh();
   void SetPhase(Phase phase);
   void ShowAvailable();
 
   Services services_;
+  QLockFile lock_;  ///< of the program directory, by the first window in it
   Session session_;
   InstrumentDesk desk_;
   SessionJournal journal_;

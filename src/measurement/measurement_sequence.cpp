@@ -30,6 +30,20 @@ void AddFailure(Status status, const Controller& controller, std::vector<Message
   }
 }
 
+// What is odd about a frame that is taken all the same.
+void AddDoubts(const Acquisition& acquisition, const FrameConditions& asked,
+               std::vector<MessageCall>& messages) {
+  const auto counts = acquisition.counts.Values();
+  if (std::ranges::all_of(counts, [](double count) { return count == 0.0; })) {
+    messages.push_back({Message::kNoLight});
+  }
+  if (acquisition.linesTaken > 0 && acquisition.linesTaken < asked.averagingCount) {
+    messages.push_back(
+        {Message::kLinesMissing,
+         {QString::number(acquisition.linesTaken), QString::number(asked.averagingCount)}});
+  }
+}
+
 // That the history takes nothing more is told once until it does again.
 void AddStorage(const SampleStorage& storage, std::optional<HistoryAddResult>& lastHistory,
                 std::vector<MessageCall>& messages) {
@@ -119,6 +133,7 @@ QCoro::Task<MeasurementOutcome> MeasurementSequence::Measure(MeasurementKind kin
     outcome.status = acquisition.status;
     if (acquisition.status == kSuccess) {
       taken.takenAt = session_.Now();
+      AddDoubts(acquisition, taken, outcome.messages);
       Store(kind, slot, acquisition.counts, taken, outcome);
     } else {
       AddFailure(acquisition.status, *controller_, outcome.messages);

@@ -4,6 +4,7 @@
 #include <QString>
 #include <array>
 
+#include "base/known_files.h"
 #include "colour/colour_stock.h"
 #include "measurement/frame_conditions.h"
 #include "measurement/measurement_slot.h"
@@ -39,6 +40,7 @@ struct Settings {
 
   QString programDirectory;
   QString envFileName = QStringLiteral("vexa.env");
+  KnownFiles knownFiles;  ///< start-up, environment and calibration file, as read or written last
   Flag envFileRead;          ///< the environment in force was read from that file, or written to it
   QString standardFileName;  ///< full path of the standard file in use
 };

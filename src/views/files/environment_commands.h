@@ -12,8 +12,9 @@ namespace vexa {
 [[nodiscard]] bool OpenEnvironment(Session& session, MessageService& messages,
                                    FileDialogs& dialogs);
 
-/// Writes the environment file in use; true when written. It asks only where a file of that name
-/// was never read, so that defaults do not take the place of a good one.
+/// Writes the environment file in use; true when written. It asks where a file of that name
+/// was never read, so that defaults do not take the place of a good one, and where another has
+/// changed it.
 QCoro::Task<bool> SaveEnvironment(Session& session, MessageService& messages);
 
 /// Asks for a name, writes the environment under it and keeps it as the name in use.
