@@ -90,6 +90,8 @@ class Reader {
     return *this;
   }
 
+  [[nodiscard]] bool IsAtEnd() const { return stream_.atEnd(); }
+
   /// Everything was there, was a finite number where it was one, and nothing is left.
   [[nodiscard]] bool ReadAll() const {
     return stream_.status() == QDataStream::Ok && stream_.atEnd() && finite_;
@@ -100,10 +102,19 @@ class Reader {
   bool finite_ = true;
 };
 
+void Write(Writer& out, const FrameConditions& taken) {
+  out << taken.takenAt << taken.samplingTimeMs << taken.averagingCount << taken.calibrationShiftNm;
+}
+
+void Read(Reader& in, FrameConditions& taken) {
+  in >> taken.takenAt >> taken.samplingTimeMs >> taken.averagingCount >> taken.calibrationShiftNm;
+}
+
 QByteArray FrameBytes(bool measured, const FrameConditions& taken, const RawSpectrum& spectrum) {
   Writer out;
-  out << FlagByte(measured) << taken.takenAt << taken.samplingTimeMs << taken.averagingCount
-      << taken.calibrationShiftNm << spectrum.Values();
+  out << FlagByte(measured);
+  Write(out, taken);
+  out << spectrum.Values();
   return out.Bytes();
 }
 
@@ -113,14 +124,26 @@ bool PutFrame(const QByteArray& bytes, Flag& measured, FrameConditions& taken,
   quint8 flags = 0;
   FrameConditions conditions;
   RawSpectrum values;
-  in >> flags >> conditions.takenAt >> conditions.samplingTimeMs >> conditions.averagingCount >>
-      conditions.calibrationShiftNm >> values.Values();
+  in >> flags;
+  Read(in, conditions);
+  in >> values.Values();
   if (in.ReadAll()) {
     measured = flags == kValidBit;
     taken = conditions;
     spectrum = values;
   }
   return in.ReadAll();
+}
+
+void Write(Writer& out, const DispersionSetting& setting) {
+  out << setting.kind << setting.fixedValue << std::span<const double>(setting.schott)
+      << std::span<const double>(setting.sellmeier) << setting.indexFileName
+      << setting.dataFileName;
+}
+
+void Read(Reader& in, DispersionSetting& setting) {
+  in >> setting.kind >> setting.fixedValue >> std::span<double>(setting.schott) >>
+      std::span<double>(setting.sellmeier) >> setting.indexFileName >> setting.dataFileName;
 }
 
 QByteArray SlotBytes(const MeasurementSlot& slot) {
@@ -133,6 +156,10 @@ QByteArray SlotBytes(const MeasurementSlot& slot) {
       << thickness.secondIndex << FlagByte(thickness.physical) << thickness.extrema.count;
   for (const Extremum& extremum : thickness.extrema.Found()) {
     out << extremum.point.wavelengthNm << extremum.point.reflectance << FlagByte(extremum.maximum);
+  }
+  if (slot.taken) {
+    Write(out, slot.taken->frame);
+    Write(out, slot.taken->reference);
   }
   return out.Bytes();
 }
@@ -161,6 +188,12 @@ bool PutSlot(const QByteArray& bytes, MeasurementSlot& slot) {
   in >> flags >> read.info.measuredAt >> read.info.sampleNumber >> read.info.remark1 >>
       read.info.remark2 >> read.reflectance.Values();
   ReadThickness(in, read.thickness);
+  // A slot that came from a file says nothing more.
+  if (!in.IsAtEnd()) {
+    read.taken.emplace();
+    Read(in, read.taken->frame);
+    Read(in, read.taken->reference);
+  }
   if (in.ReadAll()) {
     read.valid = flags == kValidBit;
     slot = read;

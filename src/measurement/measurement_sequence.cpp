@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "measurement/measurement_sequence.h"
 
+#include <algorithm>
 #include <exception>
 
 #include "base/translation.h"
@@ -125,7 +126,8 @@ QCoro::Task<MeasurementOutcome> MeasurementSequence::Measure(MeasurementKind kin
   emit Began(kind, slot);
   try {
     // What the frame is taken with, whatever is changed while it is being taken.
-    FrameConditions taken = session_.ConditionsNow();
+    SampleBasis basis = session_.BasisNow();
+    FrameConditions& taken = basis.conditions.frame;
     const AcquisitionSettings settings = SettingsOf(session_.State().instrument);
     const LightFlag light =
         kind == MeasurementKind::kBackground ? LightFlag::kBackground : LightFlag::kSample;
@@ -134,7 +136,7 @@ QCoro::Task<MeasurementOutcome> MeasurementSequence::Measure(MeasurementKind kin
     if (acquisition.status == kSuccess) {
       taken.takenAt = session_.Now();
       AddDoubts(acquisition, taken, outcome.messages);
-      Store(kind, slot, acquisition.counts, taken, outcome);
+      Store(kind, slot, acquisition.counts, basis, outcome);
     } else {
       AddFailure(acquisition.status, *controller_, outcome.messages);
     }
@@ -147,16 +149,16 @@ QCoro::Task<MeasurementOutcome> MeasurementSequence::Measure(MeasurementKind kin
 }
 
 void MeasurementSequence::Store(MeasurementKind kind, int slot, const RawSpectrum& counts,
-                                const FrameConditions& taken, MeasurementOutcome& outcome) {
+                                const SampleBasis& basis, MeasurementOutcome& outcome) {
   switch (kind) {
     case MeasurementKind::kBackground:
-      session_.StoreFrame(FrameKind::kBackground, counts, taken);
+      session_.StoreFrame(FrameKind::kBackground, counts, basis.conditions.frame);
       break;
     case MeasurementKind::kReference:
-      session_.StoreFrame(FrameKind::kReference, counts, taken);
+      session_.StoreFrame(FrameKind::kReference, counts, basis.conditions.frame);
       break;
     case MeasurementKind::kSample:
-      AddStorage(session_.StoreSample(slot, counts, taken), lastHistory_, outcome.messages);
+      AddStorage(session_.StoreSample(slot, counts, basis), lastHistory_, outcome.messages);
       break;
   }
 }

@@ -3,10 +3,12 @@
 
 #include <QDateTime>
 #include <QString>
+#include <optional>
 
 #include "base/flag.h"
 #include "base/spectrum.h"
 #include "colour/colorimetry.h"
+#include "measurement/frame_conditions.h"
 #include "optics/thickness.h"
 #include "standards/judgement.h"
 
@@ -31,8 +33,9 @@ struct MeasurementSlot {
   ThicknessResult thickness;      ///< zero when none was computed
   ReflectanceSpectrum filmIndex;  ///< that the thickness was computed with, where the substrate's
                                   ///< index gives it; else zero
-  Flag valid;                     ///< the slot holds a spectrum, measured or loaded
-  Flag informationTyped;          ///< the information was typed after the sample was measured
+  std::optional<SampleConditions> taken;  ///< nothing where the slot was loaded from a file
+  Flag valid;                             ///< the slot holds a spectrum, measured or loaded
+  Flag informationTyped;  ///< the information was typed after the sample was measured
 };
 
 }  // namespace vexa
