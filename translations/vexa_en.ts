@@ -3189,5 +3189,45 @@ Commands:
         <source>%1を置いて Enter を押してください: </source>
         <translation>Place the %1 and press Enter: </translation>
     </message>
+    <message>
+        <source>起動ﾌｧｲﾙのﾗｲﾝ位置(ﾋﾟｸｾﾙ)が検出器に合いません。測定される波長は正しくありません。<byte value="xd"/><byte value="xd"/>ﾌｧｲﾙ名:%1<byte value="xd"/><byte value="xd"/>ﾗｲﾝ位置:%2</source>
+        <translation>The line positions (pixels) of the start-up file do not fit the detector. The wavelengths measured will not be right.<byte value="xd"/><byte value="xd"/>File name: %1<byte value="xd"/><byte value="xd"/>Line positions: %2</translation>
+    </message>
+    <message>
+        <source>設定ﾌｧｲﾙが、読み書きした後に他のｳｨﾝﾄﾞｳかﾌﾟﾛｸﾞﾗﾑで変更されています。上書き保存しますか？<byte value="xd"/><byte value="xd"/>%1</source>
+        <translation>Another window or program has changed the settings file since it was read or written here. Overwrite it?<byte value="xd"/><byte value="xd"/>%1</translation>
+    </message>
+    <message>
+        <source>同じﾌｫﾙﾀﾞでﾌﾟﾛｸﾞﾗﾑがすでに起動しています。設定ﾌｧｲﾙを共有するので、どちらかだけで設定を変更して下さい。<byte value="xd"/><byte value="xd"/>%1</source>
+        <translation>The program is running already in the same folder. Both share its settings files: change settings in only one of them.<byte value="xd"/><byte value="xd"/>%1</translation>
+    </message>
+    <message>
+        <source>取り込んだ光量がすべて0です。検出器とｹｰﾌﾞﾙ、分光器のﾗｲﾝ位置を確認して下さい。</source>
+        <translation>The light amounts of the frame are all 0. Check the detector, its cable and the line positions of the spectrometer.</translation>
+    </message>
+    <message>
+        <source>検出器のﾗｲﾝが%2本のうち%1本しか届いていません。届いたﾗｲﾝの平均を使います。</source>
+        <translation>Of %2 detector lines only %1 have come. The mean of those is used.</translation>
+    </message>
+    <message>
+        <source>%1 を他のユーザーが書き換えられるので、%2 を読み込みません。</source>
+        <translation>%2 is not loaded, because other users may write %1.</translation>
+    </message>
+    <message>
+        <source>膜屈折率 %1</source>
+        <translation>Film index %1</translation>
+    </message>
+    <message>
+        <source>膜 %1</source>
+        <translation>Film %1</translation>
+    </message>
+    <message>
+        <source>膜</source>
+        <translation>Film</translation>
+    </message>
+    <message>
+        <source>ﾃﾞｰﾀごと (測定条件の表)</source>
+        <translation>Each its own (table of conditions)</translation>
+    </message>
 </context>
 </TS>

@@ -3,6 +3,7 @@
 
 #include <QApplication>
 #include <QCloseEvent>
+#include <QDir>
 #include <QMenuBar>
 #include <QScreen>
 #include <utility>
@@ -33,6 +34,7 @@ RecordContext ContextOf(const QString& programDirectory) {
 
 VEXA::VEXA(Services services, const QString& programDirectory)
     : services_(std::move(services)),
+      lock_(QDir(programDirectory).filePath(QStringLiteral("vexa.lock"))),
       session_(programDirectory, services_.clock),
       desk_(session_, services_.messages, services_.makeController),
       journal_(session_, services_.messages),
@@ -66,6 +68,7 @@ VEXA::~VEXA() {
 QCoro::Task<> VEXA::Load() {
   SetPhase(Phase::kStarting);
   setWindowTitle(QStringLiteral("MERIDOX ") + QStringLiteral("VEXA-KT-440 Ver3.21"));
+  TellOfAnotherWindow();
   Settings settings = session_.SettingsInForce();
   TellAll(LoadConfiguration(settings), services_.messages);
   session_.TakeSettings(settings);
@@ -164,11 +167,25 @@ QCoro::Task<bool> VEXA::Unload() {
       co_return false;
     }
   }
-  (void)TellWritten(WriteStartupFile(State()), StartupPath(State().programDirectory),
-                    services_.messages);
+  const QString startup = StartupPath(State().programDirectory);
+  const bool may = co_await MayReplaceKnown(State().knownFiles, startup, services_.messages);
+  if (may) {
+    (void)TellWritten(WriteStartupFile(State()), startup, services_.messages);
+  }
   journal_.End();
   desk_.Close();
   co_return true;
+}
+
+// Only a notice: one window more may be wanted, to look at files while the other measures. Nor does
+// a directory that takes no lock hold the program up: it takes no settings either.
+void VEXA::TellOfAnotherWindow() {
+  lock_.setStaleLockTime(
+      0);  // the lock of a window that runs never ages, that of a dead one is void
+  if (!lock_.isLocked() && !lock_.tryLock() && lock_.error() == QLockFile::LockFailedError) {
+    services_.messages.Tell(
+        {Message::kAnotherWindow, {QDir::toNativeSeparators(State().programDirectory)}});
+  }
 }
 
 void VEXA::ListenToSession() {

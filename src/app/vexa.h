@@ -2,6 +2,7 @@
 #pragma once
 
 #include <QCoroTask>
+#include <QLockFile>
 #include <QMainWindow>
 
 #include "app/main_menu.h"
@@ -63,6 +64,7 @@ class VEXA : public QMainWindow {
 
   QCoro::Task<> End();
   QCoro::Task<bool> Unload();
+  void TellOfAnotherWindow();
   void ListenToSession();
   void ShowSelected();
   void Refresh();
@@ -70,6 +72,7 @@ class VEXA : public QMainWindow {
   void ShowAvailable();
 
   Services services_;
+  QLockFile lock_;  ///< of the program directory, by the first window in it
   Session session_;
   InstrumentDesk desk_;
   SessionJournal journal_;

@@ -75,11 +75,24 @@ constexpr std::array<MessageEntry, kMessageCount> kCatalogue{{
     {Message::kUnknownIlluminant, title::kWarning, MessageIcon::kWarning, MessageButtons::kOk,
      QT_TRANSLATE_NOOP("Text",
                        "環境ﾌｧｲﾙの光源の値が正しくありません。\r\r環境ﾌｧｲﾙ名:%1\r\r光源:%2")},
+    {Message::kLinePositionsUnfit, title::kWarning, MessageIcon::kWarning, MessageButtons::kOk,
+     QT_TRANSLATE_NOOP(
+         "Text",
+         "起動ﾌｧｲﾙのﾗｲﾝ位置(ﾋﾟｸｾﾙ)が検出器に合いません。測定される波長は正しくありません。"
+         "\r\rﾌｧｲﾙ名:%1\r\rﾗｲﾝ位置:%2")},
     {Message::kNoEnvironmentName, title::kError, MessageIcon::kStop, MessageButtons::kOk,
      QT_TRANSLATE_NOOP("Text", "ﾌｧｲﾙ名が定義されていません。")},
     {Message::kReplaceUnreadEnvironment, title::kWarning, MessageIcon::kWarning,
      MessageButtons::kYesNo,
      QT_TRANSLATE_NOOP("Text", "読み込まれていない環境ﾌｧｲﾙです。上書き保存しますか？\r\r%1")},
+    {Message::kReplaceChangedFile, title::kWarning, MessageIcon::kWarning, MessageButtons::kYesNo,
+     QT_TRANSLATE_NOOP("Text",
+                       "設定ﾌｧｲﾙが、読み書きした後に他のｳｨﾝﾄﾞｳかﾌﾟﾛｸﾞﾗﾑで変更されています。"
+                       "上書き保存しますか？\r\r%1")},
+    {Message::kAnotherWindow, title::kWarning, MessageIcon::kWarning, MessageButtons::kOk,
+     QT_TRANSLATE_NOOP("Text",
+                       "同じﾌｫﾙﾀﾞでﾌﾟﾛｸﾞﾗﾑがすでに起動しています。設定ﾌｧｲﾙを共有するので、"
+                       "どちらかだけで設定を変更して下さい。\r\r%1")},
     {Message::kSaveEnvironment, title::kMessage, MessageIcon::kQuestion,
      MessageButtons::kYesNoCancel, QT_TRANSLATE_NOOP("Text", "%1\r\r現在の環境をｾｰﾌﾞしますか。")},
     {Message::kProgramSettingsUnreadable, title::kWarning, MessageIcon::kWarning,
@@ -145,6 +158,12 @@ constexpr std::array<MessageEntry, kMessageCount> kCatalogue{{
      QT_TRANSLATE_NOOP("Text", "全てのデータをクリアします。よろしいですか？")},
     {Message::kSaturated, title::kWarning, MessageIcon::kWarning, MessageButtons::kOk,
      QT_TRANSLATE_NOOP("Text", "取り込んだﾃﾞｰﾀが飽和しています。")},
+    {Message::kNoLight, title::kWarning, MessageIcon::kWarning, MessageButtons::kOk,
+     QT_TRANSLATE_NOOP(
+         "Text", "取り込んだ光量がすべて0です。検出器とｹｰﾌﾞﾙ、分光器のﾗｲﾝ位置を確認して下さい。")},
+    {Message::kLinesMissing, title::kWarning, MessageIcon::kWarning, MessageButtons::kOk,
+     QT_TRANSLATE_NOOP(
+         "Text", "検出器のﾗｲﾝが%2本のうち%1本しか届いていません。届いたﾗｲﾝの平均を使います。")},
     {Message::kAcquisitionFailed, title::kWarning, MessageIcon::kWarning, MessageButtons::kOk,
      QT_TRANSLATE_NOOP("Text", "データ取得でエラーが発生しました。")},
     {Message::kEndMeasurement, title::kMessage, MessageIcon::kQuestion, MessageButtons::kOkCancel,

@@ -28,8 +28,11 @@ enum class Message : std::uint8_t {
   kEnvironmentReadError,     ///< %1 path
   kEnvironmentMissing,       ///< %1 path
   kUnknownIlluminant,        ///< %1 path, %2 its value
+  kLinePositionsUnfit,       ///< %1 path, %2 positions
   kNoEnvironmentName,
   kReplaceUnreadEnvironment,  ///< %1 path
+  kReplaceChangedFile,        ///< %1 path
+  kAnotherWindow,             ///< %1 directory
   kSaveEnvironment,           ///< %1 path
 
   // Settings of the program.
@@ -61,6 +64,8 @@ enum class Message : std::uint8_t {
   kMeasureOver,
   kClearAll,
   kSaturated,
+  kNoLight,
+  kLinesMissing,       ///< %1 lines that came, %2 lines asked for
   kAcquisitionFailed,  ///< with the port's diagnosis as details
   kEndMeasurement,     ///< asked when the window is closed while something runs
   kUnexpectedFault,    ///< %1 what the system says

@@ -57,6 +57,9 @@ int Decode(const QCommandLineParser& parser) {
     Complain(QStringLiteral("two neighbouring line positions are equal"));
     return kFailed;
   }
+  if (!FitTheDetector(*positions, *startNm)) {
+    Complain(QStringLiteral("the line positions do not fit the detector"));
+  }
   if (mapped.status == 1) {
     Complain(QStringLiteral("%1: saturated").arg(path));
   }

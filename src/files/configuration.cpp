@@ -61,6 +61,21 @@ void ReadStandards(const QString& programDirectory, Environment& environment) {
   }
 }
 
+// They are kept as they are: the frames say what they are worth.
+QList<MessageCall> PositionDoubts(const QString& path,
+                                  const std::array<std::int16_t, 5>& linePositions) {
+  LinePositions positions{};
+  std::ranges::copy(linePositions, positions.begin());
+  if (FitTheDetector(positions)) {
+    return {};
+  }
+  QStringList pixels;
+  for (const std::int16_t position : linePositions) {
+    pixels << QString::number(position);
+  }
+  return {{Message::kLinePositionsUnfit, {path, pixels.join(QStringLiteral(", "))}}};
+}
+
 }  // namespace
 
 void SetEnvDefaults(Settings& settings) {
@@ -83,7 +98,9 @@ QString FindSettingsFile(const QString& programDirectory, const QString& name) {
 }
 
 Environment ReadEnvironment(const QString& path, const QString& programDirectory) {
-  Environment environment{.path = path, .content = {}, .standards = {}, .notices = {}};
+  Environment environment{
+      .path = path, .knownFiles = {}, .content = {}, .standards = {}, .notices = {}};
+  environment.knownFiles.Remember(path);
   const auto content = ReadEnvFile(path);
   if (!content) {
     environment.notices << EnvironmentMessage(path, content.Fault());
@@ -97,6 +114,7 @@ Environment ReadEnvironment(const QString& path, const QString& programDirectory
 
 bool ApplyEnvironment(const Environment& environment, Settings& settings) {
   settings.envFileRead = environment.content.has_value();
+  settings.knownFiles.Remember(environment.knownFiles);
   if (!environment.content) {
     SetEnvironmentDefaults(settings);
     return false;
@@ -111,7 +129,11 @@ Configuration ReadConfiguration(const QString& programDirectory, UnnamedEnvironm
   Configuration configuration;
   QList<MessageCall>& notices = configuration.notices;
   const QString startup = StartupPath(programDirectory);
+  configuration.knownFiles.Remember(startup);
   configuration.startup = TakeOrTell(ReadStartupFile(startup), startup, notices);
+  if (configuration.startup) {
+    notices << PositionDoubts(startup, configuration.startup->linePositions);
+  }
   const QString name =
       configuration.startup ? configuration.startup->envFileName : VEXATYPE().envFileName;
   const QString path = FindSettingsFile(programDirectory, name);
@@ -123,6 +145,7 @@ Configuration ReadConfiguration(const QString& programDirectory, UnnamedEnvironm
     }
   }
   const QString calibration = QDir(programDirectory).filePath(QStringLiteral("vexa.cal"));
+  configuration.knownFiles.Remember(calibration);
   configuration.calibrationShiftNm =
       TakeOrTell(ReadCalibrationFile(calibration), calibration, notices);
   return configuration;
@@ -130,6 +153,7 @@ Configuration ReadConfiguration(const QString& programDirectory, UnnamedEnvironm
 
 void ApplyConfiguration(const Configuration& configuration, Settings& settings) {
   SetEnvDefaults(settings);
+  settings.knownFiles.Remember(configuration.knownFiles);
   if (configuration.startup) {
     ApplyStartup(*configuration.startup, settings);
   }

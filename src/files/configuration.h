@@ -5,6 +5,7 @@
 #include <QString>
 #include <optional>
 
+#include "base/known_files.h"
 #include "base/message.h"
 #include "files/environment_file.h"
 #include "files/startup_file.h"
@@ -24,6 +25,7 @@ void SetEnvDefaults(Settings& settings);
 /// An environment file with the standard file that it names.
 struct Environment {
   QString path;
+  KnownFiles knownFiles;
   std::optional<EnvironmentContent> content;  ///< nothing when it cannot be read
   std::optional<StandardContents> standards;  ///< likewise, or when it names none
   QList<MessageCall> notices;                 ///< to be told one after another
@@ -37,6 +39,7 @@ bool ApplyEnvironment(const Environment& environment, Settings& settings);
 
 /// What the files of a program directory say at the start.
 struct Configuration {
+  KnownFiles knownFiles;
   std::optional<StartupContent> startup;
   std::optional<Environment> environment;  ///< nothing when it was not looked for
   std::optional<std::int16_t> calibrationShiftNm;

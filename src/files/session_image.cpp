@@ -105,10 +105,19 @@ class Reader {
   bool finite_ = true;
 };
 
+void Write(Writer& out, const FrameConditions& taken) {
+  out << taken.takenAt << taken.samplingTimeMs << taken.averagingCount << taken.calibrationShiftNm;
+}
+
+void Read(Reader& in, FrameConditions& taken) {
+  in >> taken.takenAt >> taken.samplingTimeMs >> taken.averagingCount >> taken.calibrationShiftNm;
+}
+
 QByteArray FrameBytes(bool measured, const FrameConditions& taken, const RawSpectrum& spectrum) {
   Writer out;
-  out << FlagByte(measured) << taken.takenAt << taken.samplingTimeMs << taken.averagingCount
-      << taken.calibrationShiftNm << spectrum.Values();
+  out << FlagByte(measured);
+  Write(out, taken);
+  out << spectrum.Values();
   return out.Bytes();
 }
 
@@ -118,14 +127,26 @@ bool PutFrame(const QByteArray& bytes, Flag& measured, FrameConditions& taken,
   quint8 flags = 0;
   FrameConditions conditions;
   RawSpectrum values;
-  in >> flags >> conditions.takenAt >> conditions.samplingTimeMs >> conditions.averagingCount >>
-      conditions.calibrationShiftNm >> values.Values();
+  in >> flags;
+  Read(in, conditions);
+  in >> values.Values();
   if (in.ReadAll()) {
     measured = flags == kValidBit;
     taken = conditions;
     spectrum = values;
   }
   return in.ReadAll();
+}
+
+void Write(Writer& out, const DispersionSetting& setting) {
+  out << setting.kind << setting.fixedValue << std::span<const double>(setting.schott)
+      << std::span<const double>(setting.sellmeier) << setting.indexFileName
+      << setting.dataFileName;
+}
+
+void Read(Reader& in, DispersionSetting& setting) {
+  in >> setting.kind >> setting.fixedValue >> std::span<double>(setting.schott) >>
+      std::span<double>(setting.sellmeier) >> setting.indexFileName >> setting.dataFileName;
 }
 
 QByteArray SlotBytes(const MeasurementSlot& slot) {
@@ -139,8 +160,13 @@ QByteArray SlotBytes(const MeasurementSlot& slot) {
   for (const Extremum& extremum : thickness.extrema.Found()) {
     out << extremum.point.wavelengthNm << extremum.point.reflectance << FlagByte(extremum.maximum);
   }
+  out << static_cast<quint8>(slot.doubts.size());
   for (const ThicknessDoubt doubt : slot.doubts) {
     out << static_cast<quint8>(doubt);
+  }
+  if (slot.taken) {
+    Write(out, slot.taken->frame);
+    Write(out, slot.taken->reference);
   }
   return out.Bytes();
 }
@@ -162,6 +188,23 @@ void ReadThickness(Reader& in, ThicknessResult& thickness) {
   }
 }
 
+// Earlier versions kept none. False when one is of no kind that there is.
+bool ReadDoubts(Reader& in, std::vector<ThicknessDoubt>& doubts) {
+  quint8 count = 0;
+  if (!in.AtEnd()) {
+    in >> count;
+  }
+  for (quint8 i = 0; i < std::min<quint8>(count, kLastDoubt + 1); ++i) {
+    quint8 doubt = 0;
+    in >> doubt;
+    if (doubt > kLastDoubt) {
+      return false;
+    }
+    doubts.push_back(static_cast<ThicknessDoubt>(doubt));
+  }
+  return count == doubts.size();
+}
+
 bool PutSlot(const QByteArray& bytes, MeasurementSlot& slot) {
   Reader in(bytes);
   quint8 flags = 0;
@@ -169,13 +212,14 @@ bool PutSlot(const QByteArray& bytes, MeasurementSlot& slot) {
   in >> flags >> read.info.measuredAt >> read.info.sampleNumber >> read.info.remark1 >>
       read.info.remark2 >> read.reflectance.Values();
   ReadThickness(in, read.thickness);
-  while (!in.AtEnd() && read.doubts.size() <= kLastDoubt) {
-    quint8 doubt = 0;
-    in >> doubt;
-    if (doubt > kLastDoubt) {
-      return false;
-    }
-    read.doubts.push_back(static_cast<ThicknessDoubt>(doubt));
+  if (!ReadDoubts(in, read.doubts)) {
+    return false;
+  }
+  // A slot that came from a file says nothing more.
+  if (!in.AtEnd()) {
+    read.taken.emplace();
+    Read(in, read.taken->frame);
+    Read(in, read.taken->reference);
   }
   if (in.ReadAll()) {
     read.valid = flags == kValidBit;

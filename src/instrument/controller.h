@@ -50,6 +50,7 @@ struct AcquisitionSettings {
 struct Acquisition {
   Status status = -1;
   RawSpectrum counts;
+  int linesTaken = 0;  ///< that the counts are the mean of, where the controller sends each one
 };
 
 /// The instrument's controller, whichever way it is connected. An operation is a coroutine that

@@ -2,6 +2,7 @@
 #include "instrument/frm_com_h8_ctrl.h"
 
 #include <QScopeGuard>
+#include <algorithm>
 #include <span>
 #include <utility>
 
@@ -185,6 +186,8 @@ QCoro::Task<Acquisition> frmComH8Ctrl::H8GetData(LightFlag light, LinePositions 
   }
   if (acquisition.status == 0) {
     acquisition.status = LinesToWaves(acquisition.counts, positions, startNm);
+    acquisition.linesTaken = static_cast<int>(std::ranges::count_if(
+        lines_, [](const LineBuffer& line) -> bool { return line.complete; }));
   }
   co_return acquisition;
 }

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <QString>
+#include <optional>
 
 namespace vexa {
 
@@ -25,9 +26,17 @@ struct GpLibrary {
   int (*gp_tfrin)(int address, int length, unsigned char* bytes, int* received) = nullptr;
 };
 
+/// Why a library could not be bound.
+struct GpBindingFault {
+  QString missing;      ///< "U2GPLIB" or the name of a call
+  QString reason = {};  ///< more about it in words, where there is more to say
+};
+
 /// Binds the library by its name, from this directory or else from the system's path, and its
-/// calls by theirs; it then stays loaded to the end of the program. Gives back the name of what is
-/// missing ("U2GPLIB" or a call), empty when all is bound.
-[[nodiscard]] QString BindGpLibrary(const QString& directory, GpLibrary& library);
+/// calls by theirs; it then stays loaded to the end of the program. What lies in the directory runs
+/// with the user's rights: it is refused when others may write or replace it. Nothing when all is
+/// bound.
+[[nodiscard]] std::optional<GpBindingFault> BindGpLibrary(const QString& directory,
+                                                          GpLibrary& library);
 
 }  // namespace vexa

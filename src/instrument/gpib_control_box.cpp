@@ -111,6 +111,7 @@ QCoro::Task<Status> GpibControlBox::Operate(std::function<QCoro::Task<bool>()> s
   }
   const auto release = qScopeGuard([this] { busy_ = false; });
   failure_.reset();
+  failureDetails_.clear();
   cancelled_ = false;
   bool done = connected_;
   if (!done) {
@@ -135,8 +136,9 @@ QCoro::Task<Status> GpibControlBox::Operate(std::function<QCoro::Task<bool>()> s
 }
 
 QCoro::Task<bool> GpibControlBox::Connect() {
-  if (const QString missing = BindGpLibrary(directory_, library_); !missing.isEmpty()) {
-    co_return Fail(gpib_error::kControlBox, missing.toLatin1().constData(), {kInitCode});
+  if (const auto fault = BindGpLibrary(directory_, library_)) {
+    failureDetails_ = fault->reason;
+    co_return Fail(gpib_error::kControlBox, fault->missing.toLatin1().constData(), {kInitCode});
   }
   const struct {
     const char* function;

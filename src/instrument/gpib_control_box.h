@@ -47,6 +47,7 @@ class GpibControlBox : public Controller {
   void Cancel() override;
   void Close() override;
   void EndAtOnce() override;
+  [[nodiscard]] QString FailureDetails() const override { return failureDetails_; }
   [[nodiscard]] std::optional<MessageCall> FailureMessage() const override;
   [[nodiscard]] bool IsLightPathClosed() const override { return lightClosed_; }
 
@@ -85,6 +86,7 @@ class GpibControlBox : public Controller {
   QString directory_;
   int replyTimeoutMs_;
   GpLibrary library_;
+  QString failureDetails_;
   std::optional<Failure> failure_;  ///< the first of the operation
   Sampling wanted_;
   Sampling sampling_;  ///< what the box has confirmed last

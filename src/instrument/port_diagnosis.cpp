@@ -7,6 +7,7 @@
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
+#include <algorithm>
 
 #include "base/translation.h"
 
@@ -21,6 +22,16 @@ QString DeviceName(const QString& path) {
              : path;
 }
 
+// Of the two ends of a pseudo-terminal this one holds the other: it is the device, no rival.
+bool IsDeviceItself(const QFileInfo& openFile, const QString& process, const QString& device) {
+  if (!openFile.symLinkTarget().endsWith(QStringLiteral("/ptmx"))) {
+    return false;
+  }
+  QFile info(QStringLiteral("/proc/%1/fdinfo/%2").arg(process, openFile.fileName()));
+  const QByteArray index = "tty-index:\t" + QFileInfo(device).fileName().toLatin1() + '\n';
+  return info.open(QIODevice::ReadOnly) && info.readAll().contains(index);
+}
+
 /// The other processes that have the device open: "minicom (PID 812)". Those of other users are
 /// not seen without their rights.
 QStringList Users(const QString& path) {
@@ -32,16 +43,18 @@ QStringList Users(const QString& path) {
       continue;
     }
     const QDir files(processes.filePath(process + QStringLiteral("/fd")));
-    for (const QFileInfo& file : files.entryInfoList(QDir::Files | QDir::System)) {
-      if (file.symLinkTarget() != device) {
-        continue;
-      }
-      QFile name(processes.filePath(process + QStringLiteral("/comm")));
-      const bool named = name.open(QIODevice::ReadOnly);
-      users << QStringLiteral("%1 (PID %2)")
-                   .arg(named ? QString::fromUtf8(name.readAll().trimmed()) : QString(), process);
-      break;
+    const QFileInfoList open = files.entryInfoList(QDir::Files | QDir::System);
+    const bool uses = std::ranges::any_of(
+        open, [&](const QFileInfo& file) { return file.symLinkTarget() == device; });
+    if (!uses || std::ranges::any_of(open, [&](const QFileInfo& file) {
+          return IsDeviceItself(file, process, device);
+        })) {
+      continue;
     }
+    QFile name(processes.filePath(process + QStringLiteral("/comm")));
+    const bool named = name.open(QIODevice::ReadOnly);
+    users << QStringLiteral("%1 (PID %2)")
+                 .arg(named ? QString::fromUtf8(name.readAll().trimmed()) : QString(), process);
   }
   return users;
 }

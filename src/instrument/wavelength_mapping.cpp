@@ -2,6 +2,7 @@
 #include "instrument/wavelength_mapping.h"
 
 #include <algorithm>
+#include <functional>
 
 #include "base/arithmetic.h"
 
@@ -60,6 +61,10 @@ std::vector<double> BinByNanometre(const PixelFrame& pixels, const PixelWaveleng
   return points;
 }
 
+bool IsBypass(const LinePositions& positions) {
+  return positions[0] == 0 && positions[5] == kLastPixel;
+}
+
 }  // namespace
 
 std::optional<PixelFrame> AverageLines(std::span<const LineBuffer> lines) {
@@ -95,7 +100,7 @@ MappedSpectrum LinesToWaves(std::span<const LineBuffer> lines, const LinePositio
     return {};
   }
   const Status status = IsSaturated(*pixels) ? 1 : 0;
-  if (positions[0] == 0 && positions[5] == kLastPixel) {
+  if (IsBypass(positions)) {
     return {status, 0, std::vector<double>(pixels->begin(), pixels->end())};
   }
   try {
@@ -106,6 +111,24 @@ MappedSpectrum LinesToWaves(std::span<const LineBuffer> lines, const LinePositio
   } catch (const ArithmeticFault&) {
     return {};
   }
+}
+
+bool FitTheDetector(const LinePositions& positions, int startNm) {
+  if (IsBypass(positions)) {
+    return true;
+  }
+  const std::span used(positions.data(), startNm >= kFiveLineStartNm ? 5U : 6U);
+  const bool ascending = std::ranges::adjacent_find(used, std::greater_equal()) == used.end();
+  if (!ascending || used.front() < 0 || used.back() > kLastPixel) {
+    return false;
+  }
+  LineBuffer ones;
+  for (std::size_t pixel = 0; pixel < kPixelsPerLine; ++pixel) {
+    ones.bytes[2 * pixel] = 1;
+  }
+  ones.complete = true;
+  const std::vector<double> points = LinesToWaves({&ones, 1}, positions, startNm).values;
+  return 10 * std::ranges::count(points, 1.0) >= 9 * kMappedPoints;
 }
 
 Status FillSpectrum(std::span<const LineBuffer> lines, const LinePositions& positions, int startNm,

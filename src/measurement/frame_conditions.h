@@ -19,6 +19,13 @@ struct FrameConditions {
   std::int16_t calibrationShiftNm = 0;
 };
 
+/// Under which settings a sample's reflectance was measured: those of its frame, and where the
+/// reflectance of its reference sample comes from.
+struct SampleConditions {
+  FrameConditions frame;
+  DispersionSetting reference;
+};
+
 [[nodiscard]] FrameConditions ConditionsNow(const InstrumentSettings& settings,
                                             const QDateTime& now);
 

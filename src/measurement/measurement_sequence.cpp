@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "measurement/measurement_sequence.h"
 
+#include <algorithm>
 #include <exception>
 
 #include "base/translation.h"
@@ -27,6 +28,20 @@ void AddFailure(Status status, const Controller& controller, std::vector<Message
     messages.push_back({Message::kSaturated});
   } else {
     messages.push_back({Message::kAcquisitionFailed, {}, controller.FailureDetails()});
+  }
+}
+
+// What is odd about a frame that is taken all the same.
+void AddDoubts(const Acquisition& acquisition, const FrameConditions& asked,
+               std::vector<MessageCall>& messages) {
+  const auto counts = acquisition.counts.Values();
+  if (std::ranges::all_of(counts, [](double count) { return count == 0.0; })) {
+    messages.push_back({Message::kNoLight});
+  }
+  if (acquisition.linesTaken > 0 && acquisition.linesTaken < asked.averagingCount) {
+    messages.push_back(
+        {Message::kLinesMissing,
+         {QString::number(acquisition.linesTaken), QString::number(asked.averagingCount)}});
   }
 }
 
@@ -111,7 +126,8 @@ QCoro::Task<MeasurementOutcome> MeasurementSequence::Measure(MeasurementKind kin
   emit Began(kind, slot);
   try {
     // What the frame is taken with, whatever is changed while it is being taken.
-    FrameConditions taken = session_.ConditionsNow();
+    SampleBasis basis = session_.BasisNow();
+    FrameConditions& taken = basis.conditions.frame;
     const AcquisitionSettings settings = SettingsOf(session_.State().instrument);
     const LightFlag light =
         kind == MeasurementKind::kBackground ? LightFlag::kBackground : LightFlag::kSample;
@@ -119,7 +135,8 @@ QCoro::Task<MeasurementOutcome> MeasurementSequence::Measure(MeasurementKind kin
     outcome.status = acquisition.status;
     if (acquisition.status == kSuccess) {
       taken.takenAt = session_.Now();
-      Store(kind, slot, acquisition.counts, taken, outcome);
+      AddDoubts(acquisition, taken, outcome.messages);
+      Store(kind, slot, acquisition.counts, basis, outcome);
     } else {
       AddFailure(acquisition.status, *controller_, outcome.messages);
     }
@@ -132,16 +149,16 @@ QCoro::Task<MeasurementOutcome> MeasurementSequence::Measure(MeasurementKind kin
 }
 
 void MeasurementSequence::Store(MeasurementKind kind, int slot, const RawSpectrum& counts,
-                                const FrameConditions& taken, MeasurementOutcome& outcome) {
+                                const SampleBasis& basis, MeasurementOutcome& outcome) {
   switch (kind) {
     case MeasurementKind::kBackground:
-      session_.StoreFrame(FrameKind::kBackground, counts, taken);
+      session_.StoreFrame(FrameKind::kBackground, counts, basis.conditions.frame);
       break;
     case MeasurementKind::kReference:
-      session_.StoreFrame(FrameKind::kReference, counts, taken);
+      session_.StoreFrame(FrameKind::kReference, counts, basis.conditions.frame);
       break;
     case MeasurementKind::kSample:
-      AddStorage(session_.StoreSample(slot, counts, taken), lastHistory_, outcome.messages);
+      AddStorage(session_.StoreSample(slot, counts, basis), lastHistory_, outcome.messages);
       break;
   }
 }

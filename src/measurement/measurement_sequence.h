@@ -59,8 +59,8 @@ class MeasurementSequence : public QObject {
  private:
   [[nodiscard]] std::optional<MessageCall> Refusal(MeasurementKind kind) const;
   [[nodiscard]] QCoro::Task<MeasurementOutcome> Measure(MeasurementKind kind, int slot);
-  void Store(MeasurementKind kind, int slot, const RawSpectrum& counts,
-             const FrameConditions& taken, MeasurementOutcome& outcome);
+  void Store(MeasurementKind kind, int slot, const RawSpectrum& counts, const SampleBasis& basis,
+             MeasurementOutcome& outcome);
 
   Session& session_;
   Controller* controller_ = nullptr;

@@ -9,6 +9,7 @@
 #include "base/flag.h"
 #include "base/spectrum.h"
 #include "colour/colorimetry.h"
+#include "measurement/frame_conditions.h"
 #include "optics/film_fit.h"
 #include "optics/thickness.h"
 #include "optics/thickness_doubts.h"
@@ -38,8 +39,9 @@ struct MeasurementSlot {
   std::optional<FilmFit> fit;          ///< made last of this spectrum
   ReflectanceSpectrum filmIndex;  ///< that the thickness was computed with, where the substrate's
                                   ///< index gives it; else zero
-  Flag valid;                     ///< the slot holds a spectrum, measured or loaded
-  Flag informationTyped;          ///< the information was typed after the sample was measured
+  std::optional<SampleConditions> taken;  ///< nothing where the slot was loaded from a file
+  Flag valid;                             ///< the slot holds a spectrum, measured or loaded
+  Flag informationTyped;  ///< the information was typed after the sample was measured
 };
 
 }  // namespace vexa

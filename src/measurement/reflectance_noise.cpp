@@ -26,8 +26,8 @@ double LinesOf(const FrameConditions& taken) {
 }  // namespace
 
 ReflectanceSpectrum ReflectanceNoise(const VEXATYPE& state, const RawSpectrum& sample,
-                                     const FrameConditions& sampleTaken) {
-  const int shift = std::clamp<int>(state.instrument.calibrationShiftNm, 0, 7);
+                                     const SampleBasis& basis) {
+  const int shift = std::clamp<int>(basis.conditions.frame.calibrationShiftNm, 0, 7);
   const double backgroundLines = LinesOf(state.backgroundTaken);
   const double referenceLines = LinesOf(state.referenceTaken);
   const double dark = VarianceOf(state.background) * backgroundLines;
@@ -43,10 +43,10 @@ ReflectanceSpectrum ReflectanceNoise(const VEXATYPE& state, const RawSpectrum& s
     const double r = state.reference[nm + shift] - background;
     const double s = sample[nm + shift] - background;
     const double ratio = s / r;
-    const double variance = (dark + perCount * std::max(s, 0.0)) / LinesOf(sampleTaken) +
+    const double variance = (dark + perCount * std::max(s, 0.0)) / LinesOf(basis.conditions.frame) +
                             ratio * ratio * (dark + perCount * std::max(r, 0.0)) / referenceLines +
                             (1.0 - ratio) * (1.0 - ratio) * dark / backgroundLines;
-    noise[nm] = std::abs(state.referenceReflectance[nm] / r) * std::sqrt(variance);
+    noise[nm] = std::abs(basis.referenceReflectance[nm] / r) * std::sqrt(variance);
     if (!std::isfinite(noise[nm]) || noise[nm] <= 0.0) {
       return {};
     }

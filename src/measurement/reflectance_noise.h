@@ -11,6 +11,6 @@ namespace vexa {
 /// of as many lines as were averaged. Both are told by the third differences of the two frames, in
 /// which the light itself vanishes. Zeros where that tells nothing, as without light.
 [[nodiscard]] ReflectanceSpectrum ReflectanceNoise(const VEXATYPE& state, const RawSpectrum& sample,
-                                                   const FrameConditions& sampleTaken);
+                                                   const SampleBasis& basis);
 
 }  // namespace vexa

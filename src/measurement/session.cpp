@@ -26,6 +26,10 @@ FrameConditions Session::ConditionsNow() const {
   return vexa::ConditionsNow(state_.instrument, clock_());
 }
 
+SampleBasis Session::BasisNow() const {
+  return {{ConditionsNow(), state_.referenceSetting}, state_.referenceReflectance};
+}
+
 void Session::StoreFrame(FrameKind kind, const RawSpectrum& counts, const FrameConditions& taken) {
   const bool background = kind == FrameKind::kBackground;
   (background ? state_.background : state_.reference) = counts;
@@ -35,16 +39,17 @@ void Session::StoreFrame(FrameKind kind, const RawSpectrum& counts, const FrameC
 }
 
 SampleStorage Session::StoreSample(int slotNumber, const RawSpectrum& counts,
-                                   const FrameConditions& taken) {
+                                   const SampleBasis& basis) {
   MeasurementSlot& slot = *state_.Slot(slotNumber);
   SampleStorage result;
   state_.sample = counts;
-  state_.sampleTaken = taken;
+  state_.sampleBasis = basis;
   MeasurementSlot fresh;
   fresh.reflectance =
       ComputeReflectance(counts, state_.background, state_.reference,
-                         state_.instrument.calibrationShiftNm, state_.referenceReflectance);
-  fresh.noise = ReflectanceNoise(state_, counts, taken);
+                         basis.conditions.frame.calibrationShiftNm, basis.referenceReflectance);
+  fresh.noise = ReflectanceNoise(state_, counts, basis);
+  fresh.taken = basis.conditions;
   if (slot.informationTyped) {
     fresh.info = slot.info;
   }

@@ -41,13 +41,17 @@ class Session : public QObject {
 
   /// The conditions of a frame that is taken now under the settings in force.
   [[nodiscard]] FrameConditions ConditionsNow() const;
+  /// What a sample rests on whose acquisition begins now.
+  [[nodiscard]] SampleBasis BasisNow() const;
 
   void StoreFrame(FrameKind kind, const RawSpectrum& counts, const FrameConditions& taken);
 
   /// Puts a sample into slot 1..10, in this order: reflectance, evaluation, accumulation, verdicts,
   /// date, and where they are automatic the thickness and the fit with their point of the history.
-  /// What was typed of the slot's earlier sample goes, unless it was typed after that was measured.
-  SampleStorage StoreSample(int slot, const RawSpectrum& counts, const FrameConditions& taken);
+  /// The reflectance is that of its basis, whatever was set since; what is computed of it is, as in every slot, by
+  /// the settings in force. What was typed of the slot's earlier sample goes, unless it was typed
+  /// after that was measured.
+  SampleStorage StoreSample(int slot, const RawSpectrum& counts, const SampleBasis& basis);
 
   /// Empties all ten slots and their sample information.
   void ClearSlots();

@@ -4,6 +4,7 @@
 #include <QString>
 #include <array>
 
+#include "base/known_files.h"
 #include "colour/colour_stock.h"
 #include "measurement/frame_conditions.h"
 #include "measurement/measurement_slot.h"
@@ -39,8 +40,16 @@ struct Settings {
 
   QString programDirectory;
   QString envFileName = QStringLiteral("vexa.env");
-  Flag envFileRead;          ///< the environment in force was read from that file, or written to it
+  KnownFiles knownFiles;  ///< start-up, environment and calibration file, as read or written last
+  Flag envFileRead;       ///< the environment in force was read from that file, or written to it
   QString standardFileName;  ///< full path of the standard file in use
+};
+
+/// What a sample's reflectance is computed with besides its frames, as it was in force when the
+/// acquisition of its frame began.
+struct SampleBasis {
+  SampleConditions conditions;
+  ReflectanceSpectrum referenceReflectance;
 };
 
 /// The one measurement state that the whole program shares. A Session owns it and is alone in
@@ -62,7 +71,7 @@ struct VEXATYPE : Settings {
   Flag referenceMeasured;
   FrameConditions backgroundTaken;  ///< meaningful once it was measured
   FrameConditions referenceTaken;
-  FrameConditions sampleTaken;  ///< of the sample measured last
+  SampleBasis sampleBasis;  ///< of the sample measured last
   SlotTable measurementSlots;
 
   ColourStock stock;

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "optics/bunsan.h"
 
+#include <algorithm>
+
 #include "base/arithmetic.h"
 #include "optics/index_file.h"
 
@@ -50,6 +52,15 @@ double IndexToReflectance(double index) {
 double ReflectanceToIndex(double percent) {
   const double amplitude = SquareRoot(percent / 100.0);
   return Divide(1.0 + amplitude, 1.0 - amplitude);
+}
+
+std::optional<ReflectanceSpectrum> ReflectanceToIndex(const ReflectanceSpectrum& percent) {
+  ReflectanceSpectrum index;
+  const bool below100 = std::ranges::max(percent.Values()) < 100.0;
+  if (below100 && Fill(index, [&](int nm) { return ReflectanceToIndex(percent[nm]); })) {
+    return index;
+  }
+  return std::nullopt;
 }
 
 Dispersion GetBunsanArray(Flag asReflectance, const DispersionSetting& setting) {

@@ -55,4 +55,8 @@ struct Dispersion {
 /// for 100 and for a negative one. Example: 4 gives 1.5.
 [[nodiscard]] double ReflectanceToIndex(double percent);
 
+/// Likewise at every wavelength; nothing unless all of them lie from 0 to below 100 percent.
+[[nodiscard]] std::optional<ReflectanceSpectrum> ReflectanceToIndex(
+    const ReflectanceSpectrum& percent);
+
 }  // namespace vexa

@@ -33,6 +33,19 @@ FrameRecord FrameOf(RecordFrameKind kind, const RawSpectrum& counts, const Frame
   return {kind, counts, taken, ControllerName(state.instrument), station};
 }
 
+// The settings with which the sample measured last was computed, whatever was set since its
+// acquisition began.
+Settings SettingsBehind(const VEXATYPE& state) {
+  const auto& [conditions, reflectance] = state.sampleBasis;
+  Settings settings = state;
+  settings.instrument.samplingTimeMs = conditions.frame.samplingTimeMs;
+  settings.instrument.averagingCount = conditions.frame.averagingCount;
+  settings.instrument.calibrationShiftNm = conditions.frame.calibrationShiftNm;
+  settings.referenceSetting = conditions.reference;
+  settings.referenceReflectance = reflectance;
+  return settings;
+}
+
 }  // namespace
 
 QList<Row> MeasuredSample::Rows() const {
@@ -55,7 +68,7 @@ std::optional<FrameRecord> ReferenceOf(const VEXATYPE& state, const QString& sta
                  station);
 }
 
-SettingsRecord SettingsOf(const VEXATYPE& state, const QString& station) {
+SettingsRecord SettingsOf(const Settings& state, const QString& station) {
   SettingsRecord settings{station, SettingsJson(state), state.referenceReflectance, {}};
   // The index of the film is then derived from each sample, and no setting.
   settings.index = state.thickness.coat.kind == DispersionKind::kSubstrate ? state.substrateIndex
@@ -104,14 +117,15 @@ std::optional<MeasuredSample> MeasuredSampleOf(const VEXATYPE& state, int slotNu
   if (slot == nullptr || !slot->valid || !background || !reference) {
     return std::nullopt;
   }
-  MeasuredSample measured{SettingsOf(state, context.station), *background, *reference,
+  const Settings settings = SettingsBehind(state);
+  MeasuredSample measured{SettingsOf(settings, context.station), *background, *reference,
                           ResultsOf(state, *slot, context)};
   measured.sample.settingsId = ToRow(measured.settings).id;
   measured.sample.backgroundId = ToRow(measured.background).id;
   measured.sample.referenceId = ToRow(measured.reference).id;
   measured.sample.frame =
       FrameOf(RecordFrameKind::kSample, state.sample,
-              ConditionsNow(state.instrument, slot->info.measuredAt), state, context.station);
+              ConditionsNow(settings.instrument, slot->info.measuredAt), state, context.station);
   return measured;
 }
 

@@ -40,7 +40,7 @@ struct MeasuredSample {
 [[nodiscard]] std::optional<FrameRecord> ReferenceOf(const VEXATYPE& state, const QString& station);
 
 /// The settings in force that a result depends on.
-[[nodiscard]] SettingsRecord SettingsOf(const VEXATYPE& state, const QString& station);
+[[nodiscard]] SettingsRecord SettingsOf(const Settings& state, const QString& station);
 
 /// The record of a slot's results alone, without frames and settings.
 [[nodiscard]] SampleRecord ResultsOf(const VEXATYPE& state, const MeasurementSlot& slot,

@@ -39,7 +39,7 @@ QJsonObject DispersionJson(const DispersionSetting& setting) {
 
 }  // namespace
 
-QJsonObject SettingsJson(const VEXATYPE& state) {
+QJsonObject SettingsJson(const Settings& state) {
   const ThicknessSettings& thickness = state.thickness;
   return {{QStringLiteral("instrument"), InstrumentJson(state.instrument)},
           {QStringLiteral("colour"), ColourSettingsJson(state.colour)},

@@ -51,6 +51,8 @@ class MainWindow : public test::MainWindowTest {
   bool Enabled(const char* name) { return Find<QWidget>(name).isEnabled(); }
   bool LightWarning() { return Find<QWidget>("Warning").isVisible(); }
 
+  static void OpenView(VEXA& of, int view) { of.Commands().views->actions().at(view)->trigger(); }
+
   // Opens an environment file of these settings.
   void OpenEnvironment(const VEXATYPE& settings) {
     ASSERT_TRUE(WriteEnvFile(files.Path("a.env"), settings));
@@ -306,6 +308,55 @@ TEST_F(MainWindow, AsksAboutTheEnvironmentAtTheEnd) {
   window->close();
   EXPECT_FALSE(window->isVisible());
   EXPECT_TRUE(ReadEnvFile(Path("vexa.env")));
+}
+
+TEST_F(MainWindow, ASecondWindowIsToldAndNeitherOverwritesTheOthersSettings) {
+  window->Commands().saveEnvironment->trigger();
+  EXPECT_EQ(messages.Take(), Shown{});
+  const std::unique_ptr<VEXA> first = std::move(window);
+  Start();
+  EXPECT_EQ(messages.Take(), (Shown{{Message::kAnotherWindow, {peer.Directory()}}}));
+
+  const ShownMessage environment{Message::kReplaceChangedFile, {Path("vexa.env")}};
+  const ShownMessage calibration{Message::kReplaceChangedFile, {Path("vexa.cal")}};
+  window->Commands().saveEnvironment->trigger();
+  EXPECT_EQ(messages.Take(), Shown{}) << "as it was read";
+  OpenView(*window, 3);
+  window->Commands().saveEnvironment->trigger();
+  InDialog(window->Commands().calibration, [](QWidget& dialog) {
+    Type(dialog, "Shift", "7");
+    Click(dialog, "OK");
+  });
+  messages.Take();
+  const QByteArray others = peer.files.Read("vexa.env");
+
+  for (const auto answer : {MessageResult::kNo, MessageResult::kYes}) {
+    SCOPED_TRACE(static_cast<int>(answer));
+    messages.answers = {answer, answer};
+    first->Commands().saveEnvironment->trigger();
+    EXPECT_EQ(messages.Take(), Shown{environment});
+    EXPECT_EQ(peer.files.Read("vexa.env") == others, answer == MessageResult::kNo);
+    first->Commands().calibration->trigger();
+    auto* dialog = first->findChild<QDialog*>(QStringLiteral("CalibrationDlg"));
+    ASSERT_NE(dialog, nullptr);
+    Click(*dialog, "OK");
+    EXPECT_EQ(messages.Take().front(), calibration);
+    EXPECT_EQ(peer.files.Read("vexa.cal").contains(" 7 "), answer == MessageResult::kNo);
+    dialog->close();
+    EXPECT_EQ(first->State().instrument.calibrationShiftNm, 4);
+  }
+
+  messages.answers = {MessageResult::kNo};
+  window->close();
+  EXPECT_TRUE(peer.files.Has("vexa.int"));
+  const QByteArray left = peer.files.Read("vexa.int") + "another's";
+  peer.files.Write("vexa.int", left);
+  messages.answers = {MessageResult::kNo, MessageResult::kNo};
+  messages.Take();
+  first->close();
+  EXPECT_EQ(messages.Take().back(),
+            (ShownMessage{Message::kReplaceChangedFile, {Path("vexa.int")}}));
+  EXPECT_EQ(peer.files.Read("vexa.int"), left);
 }
 
 TEST_F(MainWindow, ClosingWhileItMeasuresAsksAndEndsInOrder) {

@@ -112,6 +112,24 @@ TEST_F(OverGpib, EveryFailingCallIsToldWithItsTextStepAndCode) {
   }
 }
 
+TEST_F(OverGpib, ALibraryThatOthersMayWriteIsRefusedWithTheReason) {
+  const QString library = files.Path("libU2GPLIB.so");
+  QFile::remove(library);
+  ASSERT_TRUE(QFile::copy(QStringLiteral(VEXA_CONTROL_BOX), library));
+  const auto own = QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner;
+  qputenv("U2GPLIB_OPTIONS", "--pace none");
+  for (const auto& [permissions, refused] :
+       {std::pair{own, false}, {own | QFile::WriteGroup, true}, {own | QFile::WriteOther, true}}) {
+    for (const QString& opened : {library, files.Path("")}) {
+      ASSERT_TRUE(QFile::setPermissions(opened, permissions));
+      const Outcome outcome = Measure("--port 0");
+      EXPECT_EQ(outcome.status, refused ? 1 : 0) << outcome.err.constData();
+      EXPECT_EQ(outcome.err.contains("libU2GPLIB.so を読み込みません"), refused);
+      ASSERT_TRUE(QFile::setPermissions(opened, own));
+    }
+  }
+}
+
 TEST_F(OverGpib, AMissingLibraryOrCallIsAFailedInitialisation) {
   const std::pair<QString, const char*> cases[] = {
       {files.Path("nothing"), "U2GPLIB"},

@@ -45,6 +45,13 @@ TEST_F(Configuration, AMissingEnvironmentIsToldAndPortAndPositionsStay) {
   EXPECT_EQ(state.instrument.linePositions[2], 379);
   EXPECT_EQ(state.envFileName, QStringLiteral("vexa.env"));
 
+  written.instrument.linePositions[2] = 0;
+  ASSERT_TRUE(WriteStartupFile(written));
+  EXPECT_EQ(Load(), (std::vector{Message::kLinePositionsUnfit, Message::kEnvironmentMissing}));
+  EXPECT_EQ(state.instrument.linePositions[2], 0) << "told, and kept";
+  written.instrument.linePositions[2] = 379;
+  ASSERT_TRUE(WriteStartupFile(written));
+
   written.display.view = 2;
   ASSERT_TRUE(WriteEnvFile(files.Path("mine.env"), written));
   EXPECT_EQ(Load(), std::vector<Message>()) << "found by its name";

@@ -27,6 +27,7 @@ std::array<SessionImage, 4> Moments() {
   slot.thickness = {{500.5, 1.5}, {600.0, 2.5}, 1500.0, false, 1.5, 1.6, {}};
   slot.thickness.extrema.count = 1;
   slot.thickness.extrema.entries[0] = {{500.5, 1.5}, true};
+  slot.taken = {state.backgroundTaken, {DispersionKind::kFixedValue, 3.5, {}, {}, {}, {}}};
   moments[2] = TakeImage(state);
   state.ClearSlots();
   state.accumulate = true;

@@ -10,6 +10,7 @@
 #include <QTimer>
 #include <array>
 
+#include "instrument/port_diagnosis.h"
 #include "instrument/serial_port_path.h"
 #include "support/scripted_peer.h"
 #include "support/waiting.h"
@@ -284,18 +285,32 @@ TEST(H8ControllerStart, FailureIsExplained) {
   peer.At(1, kSilence);
   EXPECT_NE(Done(silent.Initialise(5)), 0);
   EXPECT_TRUE(silent.FailureDetails().contains(QStringLiteral("応答がありません")));
-  // Handed down open: QProcess would open it as the controlling terminal of a session's leader.
-  const int held = ::open(QFile::encodeName(peer.Path()).constData(), O_RDWR | O_NOCTTY);
-  QProcess other;
-  other.start(QStringLiteral("sleep"), {QStringLiteral("60")});
-  ASSERT_TRUE(other.waitForStarted());
-  ::close(held);
-  EXPECT_TRUE(
-      silent.FailureDetails().contains(QStringLiteral("sleep (PID %1)").arg(other.processId())));
-  other.kill();
-  other.waitForFinished();
   EXPECT_EQ(Done(silent.LghtSht(true)), 0);
   EXPECT_EQ(silent.FailureDetails(), QString());
+}
+
+// The virtual instrument keeps both ends of its pseudo-terminal open: it is the device itself.
+TEST(PortDiagnosis, NamesAnotherProgramButNotTheOtherEndOfThePort) {
+  const int end = ::posix_openpt(O_RDWR | O_NOCTTY);
+  ASSERT_EQ(::grantpt(end), 0);
+  ASSERT_EQ(::unlockpt(end), 0);
+  const QString path = QString::fromLocal8Bit(::ptsname(end));
+  for (const bool holdsEnd : {true, false}) {
+    ASSERT_EQ(::fcntl(end, F_SETFD, holdsEnd ? 0 : FD_CLOEXEC), 0);
+    // Handed down open: QProcess would open it as the controlling terminal of a session's leader.
+    const int port = ::open(QFile::encodeName(path).constData(), O_RDWR | O_NOCTTY);
+    QProcess other;
+    other.start(QStringLiteral("sleep"), {QStringLiteral("60")});
+    ASSERT_TRUE(other.waitForStarted());
+    ::close(port);
+    const QString named = QStringLiteral("sleep (PID %1)").arg(other.processId());
+    for (const QString& explanation : {ExplainSilentPort(path), ExplainClosedPort(path)}) {
+      EXPECT_EQ(explanation.contains(named), !holdsEnd) << explanation.toStdString();
+    }
+    other.kill();
+    other.waitForFinished();
+  }
+  ::close(end);
 }
 
 }  // namespace

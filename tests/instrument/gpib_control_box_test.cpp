@@ -35,7 +35,7 @@ class ControlBox : public testing::Test {
   // What the sensor sees at 555 nm, asked of the library itself: pixel 363 of the line.
   static int LookThrough(const char* before = nullptr) {
     GpLibrary gp;
-    EXPECT_EQ(BindGpLibrary(QStringLiteral(VEXA_LIBRARY_DIR), gp), QString());
+    EXPECT_EQ(BindGpLibrary(QStringLiteral(VEXA_LIBRARY_DIR), gp), std::nullopt);
     if (before != nullptr) {
       EXPECT_EQ(gp.gp_wrt(1, before), 0);
     }

@@ -110,6 +110,30 @@ TEST(LinesToWaves, SixLinesBelow390) {
   EXPECT_EQ(at(768), 470.5);
 }
 
+TEST(LinesToWaves, PositionsThatCannotBeOfThisDetectorAreKnown) {
+  const struct {
+    const char* name;
+    LinePositions positions;
+    int startNm;
+    bool fit;
+  } cases[] = {
+      {"the defaults", kDefaultLinePositions, 440, true},
+      {"another detector's", {130, 320, 370, 400, 460, 0}, 440, true},
+      {"none", {0, 0, 0, 0, 0, 0}, 440, false},
+      {"descending", {469, 409, 378, 325, 138, 0}, 440, false},
+      {"two the same", {138, 325, 325, 409, 469, 0}, 440, false},
+      {"off the detector", {138, 325, 378, 409, 512, 0}, 440, false},
+      {"negative", {-1, 325, 378, 409, 469, 0}, 440, false},
+      {"crowded", {1, 2, 3, 4, 5, 0}, 440, false},
+      {"far off", {0, 187, 240, 271, 331, 0}, 440, false},
+      {"the sixth counts below 390 nm", kDefaultLinePositions, 380, false},
+      {"bypass", {0, 1, 2, 3, 4, 511}, 440, true},
+  };
+  for (const auto& c : cases) {
+    EXPECT_EQ(FitTheDetector(c.positions, c.startNm), c.fit) << c.name;
+  }
+}
+
 TEST(LinesToWaves, BypassAndUnusablePositions) {
   LineBuffers lines;
   lines[0] = Line([](int pixel) { return pixel; });

@@ -7,6 +7,7 @@
 #include <functional>
 #include <stdexcept>
 
+#include "measurement/evaluation.h"
 #include "support/slots.h"
 #include "support/waiting.h"
 
@@ -165,6 +166,28 @@ TEST_F(Sequence, WhateverFailsIsToldAndLeavesTheSessionAsItWas) {
   EXPECT_EQ(session.State().Slot(10)->info.measuredAt, before);
 }
 
+TEST_F(Sequence, AnOddFrameIsToldAndTakenAllTheSame) {
+  MeasureFrames();
+  const RawSpectrum light = CountsOf(Flat(0.5));
+  using enum Message;
+  const struct {
+    const char* name;
+    Acquisition frame;
+    std::vector<Message> told;
+  } cases[] = {
+      {"as it should be", {kSuccess, light, 2}, {}},
+      {"from a controller that sends the mean", {kSuccess, light, 0}, {}},
+      {"a dead detector", {kSuccess, {}, 2}, {kNoLight}},
+      {"one line of two", {kSuccess, light, 1}, {kLinesMissing}},
+  };
+  for (const auto& c : cases) {
+    controller.next = c.frame;
+    const MeasurementOutcome outcome = Done(sequence.MeasureSample(1));
+    EXPECT_EQ(Told(outcome), c.told) << c.name;
+    EXPECT_EQ(session.State().sample, c.frame.counts) << c.name;
+  }
+}
+
 TEST_F(Sequence, OneRunsAtATimeAndCanBeCancelled) {
   std::string heard;
   QObject::connect(&sequence, &MeasurementSequence::Began,
@@ -203,6 +226,34 @@ TEST_F(Sequence, AFrameCarriesTheSettingsItWasTakenWith) {
   ASSERT_TRUE(Done(sequence.MeasureReference()).IsDone());
   EXPECT_EQ(controller.asked, std::pair(LightFlag::kSample, Sampling{5000, 16}));
   EXPECT_EQ(session.State().referenceTaken.averagingCount, 16);
+}
+
+TEST_F(Sequence, ASampleIsComputedWithWhatWasInForceWhenItBegan) {
+  Settings settings = session.SettingsInForce();
+  settings.referenceSetting.fixedValue = 4.0;
+  session.TakeSettings(settings);
+  MeasureFrames();
+  // Twice the light at the shift in force, ten times it at the other.
+  controller.next.counts = CountsOf(Flat(2.0));
+  controller.next.counts[444] = 200.0;
+  controller.next.counts[447] = 1000.0;
+  controller.meanwhile = [&] {
+    settings.instrument.calibrationShiftNm = 7;
+    settings.referenceReflectance = Flat(100.0);
+    settings.referenceSetting.fixedValue = 100.0;
+    settings.colour.illuminant = 1;
+    session.TakeSettings(settings);
+  };
+  ASSERT_TRUE(Done(sequence.MeasureSample(1)).IsDone());
+  const MeasurementSlot& slot = *session.State().Slot(1);
+  EXPECT_DOUBLE_EQ(slot.reflectance[440], 8.0);
+  ASSERT_TRUE(slot.taken);
+  EXPECT_EQ(slot.taken->frame.calibrationShiftNm, 4);
+  EXPECT_EQ(slot.taken->frame.samplingTimeMs, 400);
+  EXPECT_EQ(slot.taken->reference.fixedValue, 4.0);
+  MeasurementSlot evaluated = slot;
+  ComputeColours(settings.colour, evaluated);
+  EXPECT_EQ(slot.colour.x, evaluated.colour.x) << "as every slot is shown";
 }
 
 TEST_F(Sequence, AHistoryThatTakesNothingMoreIsToldOnce) {

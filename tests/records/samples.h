@@ -40,6 +40,8 @@ inline VEXATYPE MeasuredState(unsigned seed = 1) {
   state.backgroundTaken = ConditionsNow(state.instrument, noon);
   state.referenceTaken = ConditionsNow(state.instrument, noon.addSecs(60));
   state.referenceReflectance = Flat(4.0);
+  state.sampleBasis = {{ConditionsNow(state.instrument, noon), state.referenceSetting},
+                       state.referenceReflectance};
   MeasurementSlot& slot = *state.Slot(1);
   slot.valid = true;
   slot.info = {

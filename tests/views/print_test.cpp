@@ -121,10 +121,16 @@ TEST_F(Printing, ReportSaysUnderWhichConditionsAndFromWhichFile) {
   state.standard.conditions[0] = {true, 7.6, 3.4};
   state.standard.conditions[1] = {true, 7.2, 3.6};
   state.standard.wavelengths = {500, 700};
-  state.instrument.samplingTimeMs = 250;
-  state.instrument.averagingCount = 8;
+  SampleConditions taken{{{}, 250, 8, 4}, DefaultReferenceSetting()};
+  taken.reference.kind = DispersionKind::kFixedValue;
+  state.Slot(1)->taken = state.Slot(2)->taken = taken;
   state.envFileName = QStringLiteral("C:\\顧客\\甲.env");
   request.content = ReportContent::kGraph;
+  const auto expect = [](const QString& all, std::initializer_list<const char*> texts) {
+    for (const char* text : texts) {
+      EXPECT_TRUE(all.contains(QString::fromUtf8(text))) << text << all.toStdString();
+    }
+  };
   const struct {
     const char* dataFile;
     bool unsaved;
@@ -136,13 +142,19 @@ TEST_F(Printing, ReportSaysUnderWhichConditionsAndFromWhichFile) {
     state.currentDataFileName = QString::fromUtf8(c.dataFile);
     request.unsaved = c.unsaved;
     const QString all = Pages().join(QString());
-    for (const char* text : {c.shown, "環境ﾌｧｲﾙ 甲.env", "測定条件 250 ms × 8回",
-                             "波長 [nm] 500 700", "上限 [%] 7.6 7.2", "下限 [%] 3.4 3.6"}) {
-      EXPECT_TRUE(all.contains(QString::fromUtf8(text))) << text << all.toStdString();
-    }
+    expect(all, {c.shown, "環境ﾌｧｲﾙ 甲.env", "測定条件 250 ms × 8回", "ﾘﾌｧﾚﾝｽ 固定値 4.0 %",
+                 "波長 [nm] 500 700", "上限 [%] 7.6 7.2", "下限 [%] 3.4 3.6"});
     EXPECT_FALSE(all.contains(QStringLiteral("顧客")));
     EXPECT_GE(all.count(u'Q'), name.size()) << "whole at least once";
   }
+  // Whatever is set now, a slot says what it was measured under.
+  state.Slot(2)->taken->frame.averagingCount = 1;
+  state.Slot(2)->taken->reference.kind = DispersionKind::kIndexFile;
+  state.Slot(2)->taken->reference.indexFileName = QStringLiteral("/顧客/BK7.ref");
+  expect(Pages().join(QString()),
+         {"測定条件 ﾃﾞｰﾀごと", "250 ms × 8回 固定値 4.0 %", "2 A-002 250 ms × 1回 BK7.ref"});
+  state.Slot(2)->taken.reset();
+  expect(Pages().join(QString()), {"2 A-002 - -"});
 }
 
 TEST_F(Printing, TheDiagramIsPrintedWhenItIsChosen) {

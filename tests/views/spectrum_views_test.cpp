@@ -10,6 +10,8 @@
 #include "views/common/axis_scale.h"
 #include "views/common/plot_export.h"
 #include "views/common/proposed_name.h"
+#include "views/common/slot_style.h"
+#include "views/graph/index_graph.h"
 #include "views/graph/light_graph.h"
 #include "views/graph/main_views.h"
 #include "views/graph/reflectance_graph.h"
@@ -50,6 +52,45 @@ TEST_F(SpectrumViews, LightStandsAtItsCalibratedWavelength) {
   LightGraph graph;
   graph.Show(state, 0);
   EXPECT_GT(graph.yAxis->range().upper, 4094.0);
+}
+
+TEST_F(SpectrumViews, IndexOfASlotIsItsOwn) {
+  for (const int number : {2, 3, 4}) {
+    state.Slot(number)->valid = true;
+    state.Slot(number)->reflectance = test::Flat(number == 4 ? 100.0 : 4.0);
+  }
+  state.Slot(2)->filmIndex = test::Flat(1.6);
+  state.Slot(3)->filmIndex = test::Flat(1.7);
+  state.filmIndex = test::Flat(1.48);
+  state.substrateIndex = test::Flat(1.8);
+  const struct {
+    std::int16_t coatKind;
+    int selected;
+    std::vector<double> at600nm;
+  } cases[] = {
+      // The index of 4 % is 1.5, that of 100 % is none; film indices follow.
+      {DispersionKind::kFixedValue, 4, {1.5, 1.5, 1.48, 1.8}},
+      {DispersionKind::kSubstrate, 2, {1.5, 1.5, 1.6, 1.8}},
+      {DispersionKind::kSubstrate, 3, {1.5, 1.5, 1.7, 1.8}},
+      {DispersionKind::kSubstrate, 4, {1.5, 1.5, 1.8}},
+      {DispersionKind::kSubstrate, 0, {1.5, 1.5, 1.6, 1.7, 1.8}},
+  };
+  for (const auto& c : cases) {
+    state.thickness.coat.kind = c.coatKind;
+    IndexGraph graph;
+    graph.Show(state, c.selected);
+    std::vector<double> shown;
+    for (const SpectrumCurve& curve : graph.Curves()) {
+      shown.push_back(curve.values[600]);
+      EXPECT_TRUE(graph.yAxis->range().contains(shown.back())) << curve.name.toStdString();
+    }
+    ASSERT_EQ(shown.size(), c.at600nm.size()) << c.selected;
+    for (std::size_t i = 0; i < shown.size(); ++i) {
+      EXPECT_DOUBLE_EQ(shown[i], c.at600nm[i]) << c.selected;
+    }
+    EXPECT_EQ(graph.Curves().front().pen.color(), SlotColour(2));
+    EXPECT_EQ(graph.Curves().front().name, QStringLiteral("2 S-2"));
+  }
 }
 
 TEST_F(SpectrumViews, MinimumIsThatOfTheShownRange) {

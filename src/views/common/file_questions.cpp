@@ -16,6 +16,15 @@ QCoro::Task<bool> MayReplace(QString path, MessageService& messages, Message que
   co_return answer == MessageResult::kYes || answer == MessageResult::kOk;
 }
 
+QCoro::Task<bool> MayReplaceKnown(const KnownFiles& known, QString path, MessageService& messages) {
+  if (!known.IsChangedByOthers(path)) {
+    co_return true;
+  }
+  const MessageCall call{Message::kReplaceChangedFile, {path}};
+  const MessageResult answer = co_await messages.Ask(call);
+  co_return answer == MessageResult::kYes || answer == MessageResult::kOk;
+}
+
 bool MayKeepName(const QString& path, MessageService& messages) {
   const bool may = IsEncodable(path);
   if (!may) {

@@ -3,6 +3,7 @@
 
 #include <QString>
 
+#include "base/known_files.h"
 #include "base/message.h"
 #include "base/replace_file.h"
 
@@ -12,6 +13,11 @@ namespace vexa {
 /// kReplaceFileOrCancel, too.
 [[nodiscard]] QCoro::Task<bool> MayReplace(QString path, MessageService& messages,
                                            Message question = Message::kReplaceFile);
+
+/// True when nobody else has changed the settings file since it was known, or the user agrees to
+/// replace what the other has written.
+[[nodiscard]] QCoro::Task<bool> MayReplaceKnown(const KnownFiles& known, QString path,
+                                                MessageService& messages);
 
 /// True when the settings files can hold the name; otherwise it is refused with a message.
 [[nodiscard]] bool MayKeepName(const QString& path, MessageService& messages);

@@ -20,6 +20,7 @@ bool Write(const QString& path, const QString& name, Session& session, MessageSe
   if (written) {
     Settings settings = session.SettingsInForce();
     settings.envFileRead = true;
+    settings.knownFiles.Remember(path);
     settings.envFileName = name;
     session.TakeSettings(settings);
   }
@@ -55,6 +56,10 @@ QCoro::Task<bool> SaveEnvironment(Session& session, MessageService& messages) {
     co_return false;
   }
   const QString path = CompletePath(state, state.envFileName);
+  const bool may = co_await MayReplaceKnown(state.knownFiles, path, messages);
+  if (!may) {
+    co_return false;
+  }
   if (!state.envFileRead && QFileInfo::exists(path)) {
     const MessageCall question{Message::kReplaceUnreadEnvironment, {path}};
     const MessageResult answer = co_await messages.Ask(question);

@@ -15,8 +15,9 @@ namespace vexa {
 /// The same with a file that was chosen elsewhere.
 [[nodiscard]] bool OpenEnvironment(const QString& path, Session& session, MessageService& messages);
 
-/// Writes the environment file in use; true when written. It asks only where a file of that name
-/// was never read, so that defaults do not take the place of a good one.
+/// Writes the environment file in use; true when written. It asks where a file of that name
+/// was never read, so that defaults do not take the place of a good one, and where another has
+/// changed it.
 QCoro::Task<bool> SaveEnvironment(Session& session, MessageService& messages);
 
 /// Asks for a name, writes the environment under it and keeps it as the name in use; true

@@ -12,8 +12,9 @@ namespace {
 
 constexpr int kRepeatMs = 70;
 constexpr int kTicksBeforeRepeat = 3;
-// The ten slots and the reference data.
-constexpr int kMostCurves = kSlotCount + 1;
+// The ten slots, and the film and substrate indices beside them.
+constexpr int kMostCurves = kSlotCount + 3;
+constexpr int kFewestColumns = 2;
 
 }  // namespace
 
@@ -46,15 +47,17 @@ void CursorStrip::resizeEvent(QResizeEvent* event) {
   Arrange();
 }
 
-// Two rows where there is room for them, and as many columns as the names of the curves leave.
+// As many rows as the ten slots need, so that the graph above keeps its height while they fill, and
+// more where the names are long.
 void CursorStrip::Arrange() {
-  const int room = width() - layout()->minimumSize().width();
-  const int most = room / fontMetrics().horizontalAdvance(QStringLiteral("■ 10: 100.000"));
-  const int rows = kMostCurves <= 2 * most ? 2 : 3;
-  const auto columnsFor = [rows](int curves) { return (curves + rows - 1) / rows; };
-  const int value = fontMetrics().horizontalAdvance(QStringLiteral("■ : 10000.000"));
-  const int columns = std::max(columnsFor(std::max(count_, 1)),
-                               std::min(columnsFor(kMostCurves), room / (widestName_ + value)));
+  const int room = std::max(width() - layout()->minimumSize().width(), 1);
+  const auto rowsFor = [room](int count, int width) {
+    const int columns = std::clamp(room / std::max(width, 1), 1, kMostCurves);
+    return (count + columns - 1) / columns;
+  };
+  const int usual = rowsFor(kSlotCount + 1, CellWidth(QStringLiteral("10")));
+  const int rows = std::max({2, std::min(usual, 3), rowsFor(shown_, widest_)});
+  const int columns = std::max(1, (std::max(shown_, kFewestColumns * rows) + rows - 1) / rows);
   if (rows == rows_ && columns == columns_) {
     return;
   }
@@ -67,20 +70,24 @@ void CursorStrip::Arrange() {
   setFixedHeight(rows * (fontMetrics().height() + 3));
 }
 
+int CursorStrip::CellWidth(const QString& label) const {
+  return fontMetrics().horizontalAdvance(QStringLiteral("■ %1: 0000.000 ").arg(label));
+}
+
 void CursorStrip::Show(const std::vector<SpectrumCurve>& curves, int nm, QStringView pattern) {
   wavelength_->setText(QStringLiteral("%1 nm").arg(nm));
-  count_ = static_cast<int>(curves.size());
-  widestName_ = 0;
+  widest_ = 0;
   for (std::size_t i = 0; i < values_.size(); ++i) {
     values_[i]->setVisible(i < curves.size());
     if (i >= curves.size()) {
       continue;
     }
+    widest_ = std::max(widest_, CellWidth(curves[i].label));
     values_[i]->setText(QStringLiteral("<span style='color:%1'>■</span> %2: %3")
                             .arg(curves[i].pen.color().name(), curves[i].label.toHtmlEscaped(),
                                  FormatNumber(curves[i].values[nm], pattern)));
-    widestName_ = std::max(widestName_, fontMetrics().horizontalAdvance(curves[i].label));
   }
+  shown_ = static_cast<int>(std::min(curves.size(), values_.size()));
   Arrange();
 }
 

@@ -32,13 +32,14 @@ class CursorStrip : public QWidget {
  private:
   QPushButton* StepButton(const char* name, int by);
   void Arrange();
+  [[nodiscard]] int CellWidth(const QString& label) const;
 
   QLabel* wavelength_;
   QGridLayout* grid_;
   int rows_ = 0;
   int columns_ = 0;
-  int count_ = 0;       ///< curves shown
-  int widestName_ = 0;  ///< of theirs, in pixels
+  int shown_ = 0;   ///< values
+  int widest_ = 0;  ///< of these, in pixels
   std::vector<QLabel*> values_;
 };
 

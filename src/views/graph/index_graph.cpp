@@ -14,8 +14,8 @@ IndexGraph::IndexGraph(QWidget* parent)
   ShowFullView();
 }
 
-void IndexGraph::Show(const VEXATYPE& state, int /*selectedSlot*/) {
-  ShowCurves(IndexCurves(state), state.display);
+void IndexGraph::Show(const VEXATYPE& state, int selectedSlot) {
+  ShowCurves(IndexCurves(state, selectedSlot), state.display);
 }
 
 void IndexGraph::ScaleOrdinate(const DisplaySettings& /*display*/) {

@@ -5,7 +5,7 @@
 
 namespace vexa {
 
-/// The refractive indices of film and substrate over the wavelength.
+/// Refractive indices over the wavelength: of the slots, of film and substrate.
 class IndexGraph : public SpectrumGraph {
   Q_OBJECT
 

@@ -4,6 +4,7 @@
 #include <algorithm>
 
 #include "base/translation.h"
+#include "optics/bunsan.h"
 #include "views/common/slot_style.h"
 #include "views/common/theme.h"
 
@@ -30,24 +31,28 @@ SpectrumCurve NamedCurve(const QString& name, const QColor& colour, Qt::PenStyle
   return curve;
 }
 
+SpectrumCurve SlotCurve(int number, const MeasurementSlot& slot, const ReflectanceSpectrum& values,
+                        bool selected) {
+  QPen pen = SlotPen(number);
+  if (selected) {
+    pen.setWidthF(kSelectedWidth);
+  }
+  return {.name = SlotName(number, slot.info.sampleNumber).trimmed(),
+          .label = QString::number(number),
+          .pen = pen,
+          .marker = SlotMarker(number),
+          .values = values};
+}
+
 }  // namespace
 
 std::vector<SpectrumCurve> ReflectanceCurves(const VEXATYPE& state, int selectedSlot) {
   std::vector<SpectrumCurve> curves;
   for (int number = 1; number <= kSlotCount; ++number) {
     const MeasurementSlot& slot = *state.Slot(number);
-    if (!slot.valid) {
-      continue;
+    if (slot.valid) {
+      curves.push_back(SlotCurve(number, slot, slot.reflectance, number == selectedSlot));
     }
-    QPen pen = SlotPen(number);
-    if (number == selectedSlot) {
-      pen.setWidthF(kSelectedWidth);
-    }
-    curves.push_back({.name = SlotName(number, slot.info.sampleNumber).trimmed(),
-                      .label = QString::number(number),
-                      .pen = pen,
-                      .marker = SlotMarker(number),
-                      .values = slot.reflectance});
   }
   if (state.display.showReferenceData && HoldsValues(state.referenceReflectance)) {
     curves.push_back(NamedCurve(Text::tr("理論反射率"), theme::kMutedText, Qt::DashLine));
@@ -56,16 +61,36 @@ std::vector<SpectrumCurve> ReflectanceCurves(const VEXATYPE& state, int selected
   return curves;
 }
 
-std::vector<SpectrumCurve> IndexCurves(const VEXATYPE& state) {
+std::vector<SpectrumCurve> IndexCurves(const VEXATYPE& state, int selectedSlot) {
   std::vector<SpectrumCurve> curves;
-  if (HoldsValues(state.filmIndex)) {
-    curves.push_back(NamedCurve(Text::tr("膜屈折率"), SlotColour(1), Qt::SolidLine));
-    curves.back().values = state.filmIndex;
+  const auto add = [&curves](const QString& name, const QString& label, const QColor& colour,
+                             Qt::PenStyle style, const ReflectanceSpectrum& values) {
+    if (HoldsValues(values)) {
+      curves.push_back(NamedCurve(name, colour, style));
+      curves.back().label = label;
+      curves.back().values = values;
+    }
+  };
+  for (int number = 1; number <= kSlotCount; ++number) {
+    const MeasurementSlot& slot = *state.Slot(number);
+    const auto index = slot.valid ? ReflectanceToIndex(slot.reflectance) : std::nullopt;
+    if (index) {
+      curves.push_back(SlotCurve(number, slot, *index, number == selectedSlot));
+    }
   }
-  if (HoldsValues(state.substrateIndex)) {
-    curves.push_back(NamedCurve(Text::tr("基板屈折率"), SlotColour(2), Qt::DashLine));
-    curves.back().values = state.substrateIndex;
+  for (int number = 1; number <= kSlotCount; ++number) {
+    const MeasurementSlot& slot = *state.Slot(number);
+    if (slot.valid && (selectedSlot == 0 || number == selectedSlot)) {
+      add(Text::tr("膜屈折率 %1").arg(number), Text::tr("膜 %1").arg(number), SlotColour(number),
+          Qt::DashDotLine, slot.filmIndex);
+    }
   }
+  // With the substrate's index each slot has a film index of its own.
+  if (state.thickness.coat.kind != DispersionKind::kSubstrate) {
+    add(Text::tr("膜屈折率"), Text::tr("膜"), theme::kText, Qt::SolidLine, state.filmIndex);
+  }
+  add(Text::tr("基板屈折率"), Text::tr("基板"), theme::kMutedText, Qt::DashLine,
+      state.substrateIndex);
   return curves;
 }
 

@@ -22,8 +22,10 @@ struct SpectrumCurve {
 /// line; then that of the reference sample when the settings show it.
 [[nodiscard]] std::vector<SpectrumCurve> ReflectanceCurves(const VEXATYPE& state, int selectedSlot);
 
-/// The refractive indices of the film and of the substrate, as far as they are known.
-[[nodiscard]] std::vector<SpectrumCurve> IndexCurves(const VEXATYPE& state);
+/// The refractive index that the reflectance of each valid slot is that of as a bare surface; that
+/// of its film, where its thickness was computed with the substrate's, of the selected slot alone
+/// or, with none selected (0), of every one; then those of film and substrate that are set.
+[[nodiscard]] std::vector<SpectrumCurve> IndexCurves(const VEXATYPE& state, int selectedSlot);
 
 /// The light amounts of background, reference and last sample in detector counts, as far as they
 /// were measured, at the wavelengths that the calibration shift gives them.

@@ -2,15 +2,14 @@
 #include "views/print/page_header.h"
 
 #include <QPainter>
-#include <QRegularExpression>
 
 #include "base/date_text.h"
-#include "base/number_text.h"
 #include "base/translation.h"
 #include "colour/colour_tables.h"
 #include "views/common/colour_texts.h"
 #include "views/common/theme.h"
 #include "views/paper/printed_pages.h"
+#include "views/print/measuring_conditions.h"
 
 namespace vexa {
 namespace {
@@ -25,27 +24,6 @@ constexpr double kColumnGap = 40.0;
 constexpr int kTitleSize = 50;
 constexpr int kTextSize = 28;
 const QString kNone = QStringLiteral("-");
-
-// A report goes to others, whom the directories of this computer do not concern.
-QString FileText(const QString& name) {
-  static const QRegularExpression kSeparator(QStringLiteral("[/\\\\:]"));
-  return name.isEmpty() ? kNone : name.section(kSeparator, -1);
-}
-
-QString ReferenceText(const DispersionSetting& setting) {
-  switch (setting.kind) {
-    case DispersionKind::kFixedValue:
-      return Text::tr("固定値 %1 %").arg(FormatNumber(setting.fixedValue, u"##0.0###").trimmed());
-    case DispersionKind::kSchott:
-      return Text::tr("Schott分散式");
-    case DispersionKind::kSellmeier:
-      return Text::tr("Sellmeier分散式");
-    case DispersionKind::kIndexFile:
-      return FileText(setting.indexFileName);
-    default:
-      return kNone;
-  }
-}
 
 void DrawText(QPainter& painter, const QRectF& place, Qt::Alignment alignment, const QString& text,
               Qt::TextElideMode elide) {
@@ -68,11 +46,12 @@ QString ReportTitle(const ReportRequest& request) {
 PageHeader::PageHeader(const VEXATYPE& state, const ReportRequest& request)
     : title_(ReportTitle(request)) {
   const ColourSettings& colour = state.colour;
+  const MeasuringConditions conditions = CommonConditions(state);
   entries_ = {
       {Text::tr("測定者"), request.operatorName.trimmed().isEmpty() ? kNone : request.operatorName},
-      {Text::tr("環境ﾌｧｲﾙ"), FileText(state.envFileName)},
+      {Text::tr("環境ﾌｧｲﾙ"), BareName(state.envFileName)},
       {Text::tr("日付"), DateTimeText(request.date.startOfDay())},
-      {Text::tr("規格ﾌｧｲﾙ"), FileText(state.standardFileName)},
+      {Text::tr("規格ﾌｧｲﾙ"), BareName(state.standardFileName)},
       {Text::tr("測色条件"),
        Text::tr("光源 %1　視野 %2°　平均 %3-%4 nm")
            .arg(IlluminantText(colour.illuminant), ObserverText(colour.observer2Deg))
@@ -80,11 +59,9 @@ PageHeader::PageHeader(const VEXATYPE& state, const ReportRequest& request)
            .arg(colour.avgTo)},
       {Text::tr("ﾃﾞｰﾀﾌｧｲﾙ"), request.unsaved || state.currentDataFileName.isEmpty()
                                  ? Text::tr("未保存")
-                                 : FileText(state.currentDataFileName)},
-      {Text::tr("測定条件"), Text::tr("%1 ms × %2回")
-                                 .arg(state.instrument.samplingTimeMs)
-                                 .arg(state.instrument.averagingCount)},
-      {Text::tr("ﾘﾌｧﾚﾝｽ"), ReferenceText(state.referenceSetting)}};
+                                 : BareName(state.currentDataFileName)},
+      {Text::tr("測定条件"), conditions.sampling},
+      {Text::tr("ﾘﾌｧﾚﾝｽ"), conditions.reference}};
 }
 
 QRectF PageHeader::Body(const QSizeF& page) {

@@ -12,6 +12,7 @@
 #include "views/graph/reflectance_graph.h"
 #include "views/paper/page_flow.h"
 #include "views/paper/plot_drawing.h"
+#include "views/print/measuring_conditions.h"
 #include "views/print/page_header.h"
 #include "views/print/slot_tables.h"
 #include "views/print/spectrum_pages.h"
@@ -80,6 +81,9 @@ void AddDiagram(PageFlow& flow, const VEXATYPE& state,
 
 std::vector<PageTable> Summary(const VEXATYPE& state, bool cie) {
   std::vector<PageTable> tables{SampleTable(state), ValueTable(state)};
+  if (const std::optional<PageTable> conditions = ConditionsTable(state)) {
+    tables.push_back(*conditions);
+  }
   if (cie) {
     tables.back().caption += QStringLiteral(" (%1)").arg(ColourKindText(ColourKind::kInstrument));
     tables.push_back(CieTable(state));

@@ -42,15 +42,24 @@ void CalibrationDlg::accept() {
     EnterAgain(shift_->Field());
     return;
   }
+  Take(static_cast<std::int16_t>(*shift));
+}
+
+QCoro::Task<> CalibrationDlg::Take(std::int16_t shiftNm) {
   const QString path = CompletePath(state_, QStringLiteral("vexa.cal"));
+  const bool may = co_await MayReplaceKnown(state_.knownFiles, path, messages_);
+  if (!may) {
+    co_return;
+  }
   messages_.Tell({Message::kShiftChanged, {path}});
-  Settings settings = session_.SettingsInForce();
-  settings.instrument.calibrationShiftNm = static_cast<std::int16_t>(*shift);
-  session_.TakeSettings(settings);
   const WriteResult kept =
       KeepUnreadable(path, [&path] { return static_cast<bool>(ReadCalibrationFile(path)); });
-  (void)TellWritten(kept ? WriteCalibrationFile(path, state_.instrument.calibrationShiftNm) : kept,
-                    path, messages_);
+  Settings settings = session_.SettingsInForce();
+  settings.instrument.calibrationShiftNm = shiftNm;
+  if (TellWritten(kept ? WriteCalibrationFile(path, shiftNm) : kept, path, messages_)) {
+    settings.knownFiles.Remember(path);
+  }
+  session_.TakeSettings(settings);
   QDialog::accept();
 }
 

@@ -20,6 +20,8 @@ class CalibrationDlg : public QDialog {
   void accept() override;
 
  private:
+  QCoro::Task<> Take(std::int16_t shiftNm);
+
   Session& session_;
   const VEXATYPE& state_;
   MessageService& messages_;
