@@ -2617,5 +2617,319 @@ controller is not connected.</translation>
         <source>ﾌﾟﾛｸﾞﾗﾑ設定(&amp;P)</source>
         <translation>&amp;Program settings</translation>
     </message>
+    <message>
+        <source>共有の記録に送る記録: %1件</source>
+        <translation>Records to be sent to the shared store: %1</translation>
+    </message>
+    <message>
+        <source>記録</source>
+        <translation>Records</translation>
+    </message>
+    <message>
+        <source>記録の設定ﾌｧｲﾙを読めません。記録は共有されず、測定機の名前はこの計算機の名前になります。<byte value="xd"/><byte value="xd"/>%1</source>
+        <translation>The settings file of the records cannot be read. Records are not shared, and the station has the name of this computer.<byte value="xd"/><byte value="xd"/>%1</translation>
+    </message>
+    <message>
+        <source>記録を読めません。<byte value="xd"/><byte value="xd"/>%1</source>
+        <translation>The records cannot be read.<byte value="xd"/><byte value="xd"/>%1</translation>
+    </message>
+    <message>
+        <source>記録に書き込めませんでした。<byte value="xd"/><byte value="xd"/>%1</source>
+        <translation>The record store could not be written to.<byte value="xd"/><byte value="xd"/>%1</translation>
+    </message>
+    <message>
+        <source>どちらかの記録は、すでに置き換えられています。</source>
+        <translation>One of the records is superseded already.</translation>
+    </message>
+    <message>
+        <source>ﾃﾞｰﾀ･ﾌｧｲﾙに入る記録は10件までです。</source>
+        <translation>A data file holds ten records at most.</translation>
+    </message>
+    <message>
+        <source>%1 imported, %2 already there
+</source>
+        <translation>%1 imported, %2 already there
+</translation>
+    </message>
+    <message>
+        <source>%1 rows, head %2
+</source>
+        <translation>%1 rows, head %2
+</translation>
+    </message>
+    <message>
+        <source>One of %1.</source>
+        <translation>One of %1.</translation>
+    </message>
+    <message>
+        <source>The record store (default: records.db of the program directory).</source>
+        <translation>The record store (default: records.db of the program directory).</translation>
+    </message>
+    <message>
+        <source>list: only this lot; import: the lot of the samples.</source>
+        <translation>list: only this lot; import: the lot of the samples.</translation>
+    </message>
+    <message>
+        <source>list: only this recipe.</source>
+        <translation>list: only this recipe.</translation>
+    </message>
+    <message>
+        <source>list: only sample numbers that hold this text.</source>
+        <translation>list: only sample numbers that hold this text.</translation>
+    </message>
+    <message>
+        <source>list: only this operator; import, supersede: who does it.</source>
+        <translation>list: only this operator; import, supersede: who does it.</translation>
+    </message>
+    <message>
+        <source>list: from this date, yyyy-mm-dd, or time on.</source>
+        <translation>list: from this date, yyyy-mm-dd, or time on.</translation>
+    </message>
+    <message>
+        <source>list: to this date or time, included; sync: the PostgreSQL service or URI.</source>
+        <translation>list: to this date or time, included; sync: the PostgreSQL service or URI.</translation>
+    </message>
+    <message>
+        <source>list: only this verdict: OK, NG or none.</source>
+        <translation>list: only this verdict: OK, NG or none.</translation>
+    </message>
+    <message>
+        <source>list: at most so many (default 100).</source>
+        <translation>list: at most so many (default 100).</translation>
+    </message>
+    <message>
+        <source>list: superseded ones too.</source>
+        <translation>list: superseded ones too.</translation>
+    </message>
+    <message>
+        <source>evaluate: environment file in the place of the program directory&apos;s.</source>
+        <translation>evaluate: environment file in the place of the program directory&apos;s.</translation>
+    </message>
+    <message>
+        <source>evaluate: standards in the place of the environment&apos;s.</source>
+        <translation>evaluate: standards in the place of the environment&apos;s.</translation>
+    </message>
+    <message>
+        <source>export: *.csv, *.dat, *.json or *.jdx.</source>
+        <translation>export: *.csv, *.dat, *.json or *.jdx.</translation>
+    </message>
+    <message>
+        <source>supersede: the sample that takes the place.</source>
+        <translation>supersede: the sample that takes the place.</translation>
+    </message>
+    <message>
+        <source>supersede: why.</source>
+        <translation>supersede: why.</translation>
+    </message>
+    <message>
+        <source>Searches, shows, exports and checks the kept measurements.</source>
+        <translation>Searches, shows, exports and checks the kept measurements.</translation>
+    </message>
+    <message>
+        <source>%1 sent, %2 waiting
+</source>
+        <translation>%1 sent, %2 waiting
+</translation>
+    </message>
+    <message>
+        <source>記録 %1: %2</source>
+        <translation>Record %1: %2</translation>
+    </message>
+    <message>
+        <source>%1件</source>
+        <translation>%1 records</translation>
+    </message>
+    <message>
+        <source>件数</source>
+        <translation>Number</translation>
+    </message>
+    <message>
+        <source>印刷日</source>
+        <translation>Printed</translation>
+    </message>
+    <message>
+        <source>ロット</source>
+        <translation>Lot</translation>
+    </message>
+    <message>
+        <source>レシピ</source>
+        <translation>Recipe</translation>
+    </message>
+    <message>
+        <source>測定機</source>
+        <translation>Station</translation>
+    </message>
+    <message>
+        <source>測定日時</source>
+        <translation>Measured</translation>
+    </message>
+    <message>
+        <source>番号</source>
+        <translation>No.</translation>
+    </message>
+    <message>
+        <source>判定</source>
+        <translation>Verdict</translation>
+    </message>
+    <message>
+        <source>いまの設定での再計算</source>
+        <translation>Recomputed under the settings in force</translation>
+    </message>
+    <message>
+        <source>記録された値は変わりません。記録と異なる値は太字です。</source>
+        <translation>The stored values stay. Values that differ from them are bold.</translation>
+    </message>
+    <message>
+        <source>再計算</source>
+        <translation>Recomputed</translation>
+    </message>
+    <message>
+        <source>記録の書き出し</source>
+        <translation>Export records</translation>
+    </message>
+    <message>
+        <source>書き込みが許可されていないか、ﾌｧｲﾙに書けない文字があります。</source>
+        <translation>Writing is not allowed, or a character has no place in the file.</translation>
+    </message>
+    <message>
+        <source>余裕 %1</source>
+        <translation>margin %1</translation>
+    </message>
+    <message>
+        <source>ﾊﾞｯｸｸﾞﾗｳﾝﾄﾞ</source>
+        <translation>Background</translation>
+    </message>
+    <message>
+        <source>ﾌﾟﾛｸﾞﾗﾑ</source>
+        <translation>Program</translation>
+    </message>
+    <message>
+        <source>置き換えた記録</source>
+        <translation>Supersedes</translation>
+    </message>
+    <message>
+        <source>理由</source>
+        <translation>Reason</translation>
+    </message>
+    <message>
+        <source>全期間</source>
+        <translation>All time</translation>
+    </message>
+    <message>
+        <source>今日</source>
+        <translation>Today</translation>
+    </message>
+    <message>
+        <source>7日間</source>
+        <translation>7 days</translation>
+    </message>
+    <message>
+        <source>30日間</source>
+        <translation>30 days</translation>
+    </message>
+    <message>
+        <source>期間を指定</source>
+        <translation>From - to</translation>
+    </message>
+    <message>
+        <source>すべて</source>
+        <translation>All</translation>
+    </message>
+    <message>
+        <source>判定なし</source>
+        <translation>None</translation>
+    </message>
+    <message>
+        <source>この測定機</source>
+        <translation>This station</translation>
+    </message>
+    <message>
+        <source>全測定機 (共有)</source>
+        <translation>All stations (shared)</translation>
+    </message>
+    <message>
+        <source>置き換えられた記録も</source>
+        <translation>With superseded ones</translation>
+    </message>
+    <message>
+        <source>試料Noの一部</source>
+        <translation>Part of the sample number</translation>
+    </message>
+    <message>
+        <source>検索(&amp;F)</source>
+        <translation>&amp;Find</translation>
+    </message>
+    <message>
+        <source>期間</source>
+        <translation>Period</translation>
+    </message>
+    <message>
+        <source>検索先</source>
+        <translation>Search in</translation>
+    </message>
+    <message>
+        <source>まだ記録がありません。</source>
+        <translation>There are no records yet.</translation>
+    </message>
+    <message>
+        <source>記録を検索できません。%1</source>
+        <translation>The records cannot be searched. %1</translation>
+    </message>
+    <message>
+        <source>ｽﾛｯﾄに読み込む(&amp;L)</source>
+        <translation>&amp;Load into slots</translation>
+    </message>
+    <message>
+        <source>再計算(&amp;E)</source>
+        <translation>R&amp;ecompute</translation>
+    </message>
+    <message>
+        <source>書き出し(&amp;X)</source>
+        <translation>E&amp;xport</translation>
+    </message>
+    <message>
+        <source>置き換え(&amp;S)</source>
+        <translation>&amp;Supersede</translation>
+    </message>
+    <message>
+        <source>10件までをｽﾛｯﾄに読み込みます。</source>
+        <translation>Loads up to ten into the slots.</translation>
+    </message>
+    <message>
+        <source>いまの設定で計算し直し、記録された値と並べます。</source>
+        <translation>Computes anew under the settings in force, and shows that beside the stored values.</translation>
+    </message>
+    <message>
+        <source>2件を選び、一方でもう一方を置き換えます。</source>
+        <translation>Select two: one takes the place of the other.</translation>
+    </message>
+    <message>
+        <source>%1件以上</source>
+        <translation>%1 records or more</translation>
+    </message>
+    <message>
+        <source>(ｸﾞﾗﾌは%1件まで)</source>
+        <translation>(graph: %1 at most)</translation>
+    </message>
+    <message>
+        <source>&#x3000;選択 %1件 </source>
+        <translation>, %1 selected </translation>
+    </message>
+    <message>
+        <source>記録の置き換え</source>
+        <translation>Supersede a record</translation>
+    </message>
+    <message>
+        <source>残す記録がもう一方を置き換えます。置き換えられた記録は消えません。</source>
+        <translation>The record that stays takes the place of the other, which is not deleted.</translation>
+    </message>
+    <message>
+        <source>残す記録</source>
+        <translation>Stays</translation>
+    </message>
+    <message>
+        <source>決めた人</source>
+        <translation>Decided by</translation>
+    </message>
 </context>
 </TS>

@@ -3,6 +3,7 @@
 
 #include <QDialog>
 #include <QMenu>
+#include <algorithm>
 #include <utility>
 
 #include "app/version_dialog.h"
@@ -17,9 +18,12 @@
 #include "views/optics/ref_set_dlg.h"
 #include "views/optics/thick_graph.h"
 #include "views/optics/wave_list_dlg.h"
+#include "views/print/page_header.h"
 #include "views/print/print_dlg.h"
 #include "views/print/print_setup_dlg.h"
+#include "views/print/records_report.h"
 #include "views/print/report.h"
+#include "views/records/records_window.h"
 #include "views/settings/calibration_dlg.h"
 #include "views/settings/dispset.h"
 #include "views/settings/sampling_dlg.h"
@@ -34,12 +38,14 @@ WindowCommands::WindowCommands(const MenuCommands& menu, WindowParts parts, QWid
       state_(parts.session.State()),
       desk_(parts.desk),
       recorder_(parts.recorder),
+      recordSettings_(parts.recordSettings),
       preferences_(parts.preferences),
       messages_(parts.messages),
       dialogs_(parts.dialogs),
       selectedSlot_(std::move(parts.selectedSlot)),
       window_(window),
-      printer_(parts.session.State(), parts.messages, parts.dialogs) {
+      printer_(parts.session.State(), parts.messages, parts.dialogs),
+      reader_(StorePath(), parts.recordSettings.shared) {
   ConnectFiles();
   ConnectWindows();
   ConnectLanguages();
@@ -99,6 +105,7 @@ void WindowCommands::ConnectWindows() {
   Open(menu_.calibration, [this] { return new CalibrationDlg(session_, messages_, &window_); });
   Open(menu_.version, [this] { return MakeVersionDialog(&window_); });
   Do(menu_.thicknessGraph, [this] { ShowThicknessGraph(); });
+  Do(menu_.records, [this] { ShowRecords(); });
 }
 
 void WindowCommands::ConnectLanguages() {
@@ -149,6 +156,7 @@ void WindowCommands::Print() {
   }
   report_.date = today;
   report_.unsaved = !state_.slotsSaved;
+  report_.proof = ProofText(StorePath());
   PrintSlots(state_, selectedSlot_(), report_, printer_, messages_, &window_);
 }
 
@@ -168,6 +176,34 @@ void WindowCommands::ShowThicknessGraph() {
   }
   thicknessGraph_->show();
   thicknessGraph_->raise();
+}
+
+void WindowCommands::ShowRecords() {
+  if (records_.isNull()) {
+    const auto print = [this](const QList<WholeRecord>& records) { PrintRecords(records); };
+    records_ = new RecordsWindow({reader_, session_, desk_, messages_, dialogs_, StorePath(),
+                                  recordSettings_.station, print},
+                                 &window_);
+    records_->setAttribute(Qt::WA_DeleteOnClose);
+    connect(&recorder_.Keeper(), &RecordKeeper::Stored, records_, &RecordsWindow::TakeNewer);
+    connect(records_, &RecordsWindow::Decided, this, &WindowCommands::Recorded);
+  }
+  records_->show();
+  records_->raise();
+  records_->activateWindow();
+}
+
+// The store of this station proves nothing of the rows of others.
+void WindowCommands::PrintRecords(const QList<WholeRecord>& records) {
+  const bool own = std::ranges::all_of(records, [this](const WholeRecord& record) {
+    return record.sample.station == recordSettings_.station;
+  });
+  printer_.Print(Text::tr("記録"), MakeRecordsReport(records, session_.Now().date(),
+                                                     own ? ProofText(StorePath()) : QString()));
+}
+
+QString WindowCommands::StorePath() const {
+  return RecordStorePath(state_.programDirectory);
 }
 
 QDialog* WindowCommands::MakeSettingsList() {

@@ -7,6 +7,8 @@
 #include "app/main_menu.h"
 #include "files/program_preferences.h"
 #include "measurement/instrument_desk.h"
+#include "records/record_reader.h"
+#include "records/record_settings.h"
 #include "records/session_recorder.h"
 #include "views/common/file_dialogs.h"
 #include "views/paper/current_printer.h"
@@ -16,6 +18,7 @@ class QWidget;
 
 namespace vexa {
 
+class RecordsWindow;
 class ThickGraph;
 
 /// What the windows of the menu work with.
@@ -23,6 +26,7 @@ struct WindowParts {
   Session& session;
   InstrumentDesk& desk;
   SessionRecorder& recorder;
+  const RecordSettings& recordSettings;
   ProgramPreferences& preferences;
   MessageService& messages;
   FileDialogs& dialogs;
@@ -40,6 +44,10 @@ class WindowCommands : public QObject {
   /// Takes or gives away what must not happen while something runs.
   void ShowAvailable(bool usable);
 
+ signals:
+  /// A window has put a row into the record store.
+  void Recorded();
+
  private:
   void ConnectFiles();
   void ConnectWindows();
@@ -51,6 +59,9 @@ class WindowCommands : public QObject {
   void Print();
   void KeepLanguage(const QString& code);
   void ShowThicknessGraph();
+  void ShowRecords();
+  void PrintRecords(const QList<WholeRecord>& records);
+  [[nodiscard]] QString StorePath() const;
   [[nodiscard]] QDialog* MakeSettingsList();
 
   const MenuCommands& menu_;
@@ -58,6 +69,7 @@ class WindowCommands : public QObject {
   const VEXATYPE& state_;
   InstrumentDesk& desk_;
   SessionRecorder& recorder_;
+  const RecordSettings& recordSettings_;
   ProgramPreferences& preferences_;
   MessageService& messages_;
   FileDialogs& dialogs_;
@@ -66,6 +78,8 @@ class WindowCommands : public QObject {
   CurrentPrinter printer_;
   ReportRequest report_;  ///< as printed last
   ThickGraph* thicknessGraph_ = nullptr;
+  RecordReader reader_;
+  QPointer<RecordsWindow> records_;
 };
 
 }  // namespace vexa

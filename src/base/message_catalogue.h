@@ -44,6 +44,13 @@ enum class Message : std::uint8_t {
   kJournalWriteError,      ///< %1 path
   kRecordStoreFault,       ///< %1 path
 
+  // Records.
+  kRecordSettingsUnreadable,  ///< %1 path
+  kRecordUnreadable,          ///< %1 why
+  kRecordNotWritten,          ///< %1 why
+  kSupersededAlready,
+  kTooManyForDataFile,
+
   // Controller and measurement.
   kControllerFailed,    ///< with the port's diagnosis as details
   kGpibServiceRequest,  ///< %1 step, %2 code, as for the next ones

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include <algorithm>
 
+#include "base/translation.h"
 #include "cli/command_line.h"
 #include "cli/program_settings.h"
 #include "cli/records_actions.h"
@@ -68,26 +69,38 @@ QString ActionNames() {
 }
 
 void DeclareOptions(QCommandLineParser& parser) {
-  parser.addPositionalArgument(QStringLiteral("ACTION"),
-                               QStringLiteral("One of ") + ActionNames() + u'.');
+  parser.addPositionalArgument(QStringLiteral("ACTION"), Text::tr("One of %1.").arg(ActionNames()));
   const auto add = [&parser](const QString& name, const char* text, const char* value) {
-    parser.addOption({name, QLatin1String(text), QLatin1String(value)});
+    parser.addOption({name, Text::tr(text), QLatin1String(value)});
   };
-  add(kStore, "The record store (default: records.db of the program directory).", "FILE");
-  add(kLot, "list: only this lot; import: the lot of the samples.", "LOT");
-  add(kRecipe, "list: only this recipe.", "RECIPE");
-  add(kSample, "list: only sample numbers that hold this text.", "TEXT");
-  add(kOperator, "list: only this operator; import, supersede: who does it.", "NAME");
-  add(kFrom, "list: from this date, yyyy-mm-dd, or time on.", "DATE");
-  add(kTo, "list: to this date or time, included; sync: the PostgreSQL service or URI.", "DATE");
-  add(kVerdict, "list: only this verdict: OK, NG or none.", "VERDICT");
-  add(kLimit, "list: at most so many (default 100).", "N");
-  parser.addOption({kAll, QStringLiteral("list: superseded ones too.")});
-  add(kEnv, "evaluate: environment file in the place of the program directory's.", "FILE.env");
-  add(option::kStandard, "evaluate: standards in the place of the environment's.", "FILE.std");
-  add(option::kOut, "export: *.csv, *.dat, *.json or *.jdx.", "FILE");
-  add(kBy, "supersede: the sample that takes the place.", "ID");
-  add(kReason, "supersede: why.", "TEXT");
+  add(kStore,
+      QT_TRANSLATE_NOOP("Text", "The record store (default: records.db of the program directory)."),
+      "FILE");
+  add(kLot, QT_TRANSLATE_NOOP("Text", "list: only this lot; import: the lot of the samples."),
+      "LOT");
+  add(kRecipe, QT_TRANSLATE_NOOP("Text", "list: only this recipe."), "RECIPE");
+  add(kSample, QT_TRANSLATE_NOOP("Text", "list: only sample numbers that hold this text."), "TEXT");
+  add(kOperator,
+      QT_TRANSLATE_NOOP("Text", "list: only this operator; import, supersede: who does it."),
+      "NAME");
+  add(kFrom, QT_TRANSLATE_NOOP("Text", "list: from this date, yyyy-mm-dd, or time on."), "DATE");
+  add(kTo,
+      QT_TRANSLATE_NOOP(
+          "Text", "list: to this date or time, included; sync: the PostgreSQL service or URI."),
+      "DATE");
+  add(kVerdict, QT_TRANSLATE_NOOP("Text", "list: only this verdict: OK, NG or none."), "VERDICT");
+  add(kLimit, QT_TRANSLATE_NOOP("Text", "list: at most so many (default 100)."), "N");
+  parser.addOption({kAll, Text::tr("list: superseded ones too.")});
+  add(kEnv,
+      QT_TRANSLATE_NOOP("Text",
+                        "evaluate: environment file in the place of the program directory's."),
+      "FILE.env");
+  add(option::kStandard,
+      QT_TRANSLATE_NOOP("Text", "evaluate: standards in the place of the environment's."),
+      "FILE.std");
+  add(option::kOut, QT_TRANSLATE_NOOP("Text", "export: *.csv, *.dat, *.json or *.jdx."), "FILE");
+  add(kBy, QT_TRANSLATE_NOOP("Text", "supersede: the sample that takes the place."), "ID");
+  add(kReason, QT_TRANSLATE_NOOP("Text", "supersede: why."), "TEXT");
 }
 
 int Records(const QCommandLineParser& parser) {
@@ -117,7 +130,7 @@ int Records(const QCommandLineParser& parser) {
 Command RecordsCommand() {
   return {QStringLiteral("records"),
           QStringLiteral("ACTION [arguments] [options]"),
-          QStringLiteral("Searches, shows, exports and checks the kept measurements."),
+          Text::tr("Searches, shows, exports and checks the kept measurements."),
           -1,
           DeclareOptions,
           Records};

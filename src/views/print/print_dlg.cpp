@@ -173,7 +173,8 @@ ReportRequest PrintDlg::Entries() const {
           .content = static_cast<ReportContent>(content_->checkedId()),
           .stepNm = step_->checkedId(),
           .diagram = diagram_->isChecked(),
-          .unsaved = request_.unsaved};
+          .unsaved = request_.unsaved,
+          .proof = request_.proof};
 }
 
 PageMaker PrintDlg::Pages(const ReportRequest& request) const {

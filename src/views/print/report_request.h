@@ -18,6 +18,7 @@ struct ReportRequest {
   int stepNm = 1;        ///< of the spectra as text, 1 or 10
   bool diagram = false;  ///< with the chromaticity diagram
   bool unsaved = false;  ///< the slots are no longer what their data file holds
+  QString proof;         ///< stands below every page: ProofText of the record store; or empty
 };
 
 }  // namespace vexa
