@@ -52,7 +52,6 @@ RecomputedWindow::RecomputedWindow(const QList<WholeRecord>& records, const Sett
   table_->setColumnCount(static_cast<int>(headers.size()));
   table_->setHorizontalHeaderLabels(headers);
   table_->horizontalHeader()->setHighlightSections(false);
-  table_->horizontalHeader()->setStretchLastSection(true);
   auto* told = new QLabel(Text::tr("記録された値は変わりません。記録と異なる値は太字です。"));
   told->setWordWrap(true);
   QPushButton* copy = DialogButton("CopyRecomputed", Text::tr("ｺﾋﾟｰ(&C)"));
@@ -69,6 +68,7 @@ RecomputedWindow::RecomputedWindow(const QList<WholeRecord>& records, const Sett
     AddRow(record, EvaluateAnew(record, settings, false));
   }
   table_->resizeColumnsToContents();
+  table_->horizontalHeader()->setSectionResizeMode(0, QHeaderView::Stretch);
   resize(820, 420);
   connect(copy, &QPushButton::clicked, this, &RecomputedWindow::CopyTable);
   connect(new QShortcut(QKeySequence::Copy, this), &QShortcut::activated, this,

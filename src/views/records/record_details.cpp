@@ -62,7 +62,8 @@ QString FrameText(const std::optional<FrameRecord>& frame) {
 
 void AddSample(Sheet& sheet, const WholeRecord& record) {
   const SampleRecord& sample = record.sample;
-  sheet.Heading(OrNone(sample.sampleNumber.simplified()));
+  sheet.Heading(Text::tr("試料No") + QStringLiteral("　") +
+                OrNone(sample.sampleNumber.simplified()));
   sheet.Row(Text::tr("測定日時"), DateTimeText(sample.measuredAt));
   sheet.Row(Text::tr("ロット"), OrNone(sample.lot));
   sheet.Row(Text::tr("レシピ"), OrNone(sample.recipe));

@@ -104,8 +104,7 @@ QWidget* RecordsWindow::BuildSelection() {
   auto* right = new QSplitter(Qt::Vertical);
   right->addWidget(graph_);
   right->addWidget(details_);
-  right->setStretchFactor(0, 1);
-  right->setStretchFactor(1, 1);
+  right->setSizes({300, 260});
   right->setChildrenCollapsible(false);
   return right;
 }
