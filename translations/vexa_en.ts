@@ -2675,12 +2675,12 @@ Where the reflectance has a peak or a valley in this range, the error can exceed
     </message>
     <message>
         <source>測色値に「CIE」の列を加え、色度図で選べるようにし、印刷にも加えます。</source>
-        <translation>Adds the column "CIE" to the colour values, a choice to the chromaticity diagram, and a table to the report.</translation>
+        <translation>Adds the column &quot;CIE&quot; to the colour values, a choice to the chromaticity diagram, and a table to the report.</translation>
     </message>
     <message>
         <source>他の測色計の値と比較できる値です。装置固有の測色値、規格の判定、
 ﾌｧｲﾙの内容は変わりません。440 nm より下は外挿した値を用います。</source>
-        <translation>They compare with the values of other colorimeters. The instrument's own colour values,
+        <translation>They compare with the values of other colorimeters. The instrument&apos;s own colour values,
 the judgement and the contents of files stay as they are. Below 440 nm the spectrum is extrapolated.</translation>
     </message>
     <message>
@@ -3228,6 +3228,252 @@ Commands:
     <message>
         <source>ﾃﾞｰﾀごと (測定条件の表)</source>
         <translation>Each its own (table of conditions)</translation>
+    </message>
+    <message>
+        <source>共有の記録に送る記録: %1件</source>
+        <translation>Records to be sent to the shared store: %1</translation>
+    </message>
+    <message>
+        <source>記録</source>
+        <translation>Records</translation>
+    </message>
+    <message>
+        <source>記録の設定ﾌｧｲﾙを読めません。記録は共有されず、測定機の名前はこの計算機の名前になります。<byte value="xd"/><byte value="xd"/>%1</source>
+        <translation>The settings file of the records cannot be read. Records are not shared, and the station has the name of this computer.<byte value="xd"/><byte value="xd"/>%1</translation>
+    </message>
+    <message>
+        <source>記録を読めません。<byte value="xd"/><byte value="xd"/>%1</source>
+        <translation>The records cannot be read.<byte value="xd"/><byte value="xd"/>%1</translation>
+    </message>
+    <message>
+        <source>記録に書き込めませんでした。<byte value="xd"/><byte value="xd"/>%1</source>
+        <translation>The record store could not be written to.<byte value="xd"/><byte value="xd"/>%1</translation>
+    </message>
+    <message>
+        <source>どちらかの記録は、すでに置き換えられています。</source>
+        <translation>One of the records is superseded already.</translation>
+    </message>
+    <message>
+        <source>ﾃﾞｰﾀ･ﾌｧｲﾙに入る記録は10件までです。</source>
+        <translation>A data file holds ten records at most.</translation>
+    </message>
+    <message>
+        <source>%1 imported, %2 already there
+</source>
+        <translation>%1 imported, %2 already there
+</translation>
+    </message>
+    <message>
+        <source>%1 rows, head %2
+</source>
+        <translation>%1 rows, head %2
+</translation>
+    </message>
+    <message>
+        <source>%1 sent, %2 waiting
+</source>
+        <translation>%1 sent, %2 waiting
+</translation>
+    </message>
+    <message>
+        <source>記録 %1: %2</source>
+        <translation>Record %1: %2</translation>
+    </message>
+    <message>
+        <source>%1件</source>
+        <translation>%1 records</translation>
+    </message>
+    <message>
+        <source>件数</source>
+        <translation>Number</translation>
+    </message>
+    <message>
+        <source>印刷日</source>
+        <translation>Printed</translation>
+    </message>
+    <message>
+        <source>ロット</source>
+        <translation>Lot</translation>
+    </message>
+    <message>
+        <source>レシピ</source>
+        <translation>Recipe</translation>
+    </message>
+    <message>
+        <source>測定機</source>
+        <translation>Station</translation>
+    </message>
+    <message>
+        <source>測定日時</source>
+        <translation>Measured</translation>
+    </message>
+    <message>
+        <source>番号</source>
+        <translation>No.</translation>
+    </message>
+    <message>
+        <source>判定</source>
+        <translation>Verdict</translation>
+    </message>
+    <message>
+        <source>いまの設定での再計算</source>
+        <translation>Recomputed under the settings in force</translation>
+    </message>
+    <message>
+        <source>記録された値は変わりません。記録と異なる値は太字です。</source>
+        <translation>The stored values stay. Values that differ from them are bold.</translation>
+    </message>
+    <message>
+        <source>再計算</source>
+        <translation>Recomputed</translation>
+    </message>
+    <message>
+        <source>記録の書き出し</source>
+        <translation>Export records</translation>
+    </message>
+    <message>
+        <source>書き込みが許可されていないか、ﾌｧｲﾙに書けない文字があります。</source>
+        <translation>Writing is not allowed, or a character has no place in the file.</translation>
+    </message>
+    <message>
+        <source>余裕 %1</source>
+        <translation>margin %1</translation>
+    </message>
+    <message>
+        <source>ﾊﾞｯｸｸﾞﾗｳﾝﾄﾞ</source>
+        <translation>Background</translation>
+    </message>
+    <message>
+        <source>ﾌﾟﾛｸﾞﾗﾑ</source>
+        <translation>Program</translation>
+    </message>
+    <message>
+        <source>置き換えた記録</source>
+        <translation>Supersedes</translation>
+    </message>
+    <message>
+        <source>理由</source>
+        <translation>Reason</translation>
+    </message>
+    <message>
+        <source>全期間</source>
+        <translation>All time</translation>
+    </message>
+    <message>
+        <source>今日</source>
+        <translation>Today</translation>
+    </message>
+    <message>
+        <source>7日間</source>
+        <translation>7 days</translation>
+    </message>
+    <message>
+        <source>30日間</source>
+        <translation>30 days</translation>
+    </message>
+    <message>
+        <source>期間を指定</source>
+        <translation>From - to</translation>
+    </message>
+    <message>
+        <source>すべて</source>
+        <translation>All</translation>
+    </message>
+    <message>
+        <source>判定なし</source>
+        <translation>None</translation>
+    </message>
+    <message>
+        <source>この測定機</source>
+        <translation>This station</translation>
+    </message>
+    <message>
+        <source>全測定機 (共有)</source>
+        <translation>All stations (shared)</translation>
+    </message>
+    <message>
+        <source>置き換えられた記録も</source>
+        <translation>With superseded ones</translation>
+    </message>
+    <message>
+        <source>試料Noの一部</source>
+        <translation>Part of the sample number</translation>
+    </message>
+    <message>
+        <source>検索(&amp;F)</source>
+        <translation>&amp;Find</translation>
+    </message>
+    <message>
+        <source>期間</source>
+        <translation>Period</translation>
+    </message>
+    <message>
+        <source>検索先</source>
+        <translation>Search in</translation>
+    </message>
+    <message>
+        <source>まだ記録がありません。</source>
+        <translation>There are no records yet.</translation>
+    </message>
+    <message>
+        <source>記録を検索できません。%1</source>
+        <translation>The records cannot be searched. %1</translation>
+    </message>
+    <message>
+        <source>ｽﾛｯﾄに読み込む(&amp;L)</source>
+        <translation>&amp;Load into slots</translation>
+    </message>
+    <message>
+        <source>再計算(&amp;E)</source>
+        <translation>R&amp;ecompute</translation>
+    </message>
+    <message>
+        <source>書き出し(&amp;X)</source>
+        <translation>E&amp;xport</translation>
+    </message>
+    <message>
+        <source>置き換え(&amp;S)</source>
+        <translation>&amp;Supersede</translation>
+    </message>
+    <message>
+        <source>10件までをｽﾛｯﾄに読み込みます。</source>
+        <translation>Loads up to ten into the slots.</translation>
+    </message>
+    <message>
+        <source>いまの設定で計算し直し、記録された値と並べます。</source>
+        <translation>Computes anew under the settings in force, and shows that beside the stored values.</translation>
+    </message>
+    <message>
+        <source>2件を選び、一方でもう一方を置き換えます。</source>
+        <translation>Select two: one takes the place of the other.</translation>
+    </message>
+    <message>
+        <source>%1件以上</source>
+        <translation>%1 records or more</translation>
+    </message>
+    <message>
+        <source>(ｸﾞﾗﾌは%1件まで)</source>
+        <translation>(graph: %1 at most)</translation>
+    </message>
+    <message>
+        <source>&#x3000;選択 %1件 </source>
+        <translation>, %1 selected </translation>
+    </message>
+    <message>
+        <source>記録の置き換え</source>
+        <translation>Supersede a record</translation>
+    </message>
+    <message>
+        <source>残す記録がもう一方を置き換えます。置き換えられた記録は消えません。</source>
+        <translation>The record that stays takes the place of the other, which is not deleted.</translation>
+    </message>
+    <message>
+        <source>残す記録</source>
+        <translation>Stays</translation>
+    </message>
+    <message>
+        <source>決めた人</source>
+        <translation>Decided by</translation>
     </message>
 </context>
 </TS>

@@ -3,10 +3,14 @@
 
 #include <QApplication>
 #include <QComboBox>
+#include <QDeadlineTimer>
+#include <QDialog>
 #include <QPixmap>
 #include <QPointer>
 #include <QPushButton>
 #include <QTabWidget>
+#include <QTableView>
+#include <QTextEdit>
 #include <cstdio>
 
 #include "app/vexa.h"
@@ -25,6 +29,14 @@ void LetDraw() {
   constexpr int kRounds = 5;
   for (int i = 0; i < kRounds; ++i) {
     QApplication::processEvents();
+  }
+}
+
+void WaitUntil(const std::function<bool()>& done) {
+  constexpr int kPatienceMs = 10000;
+  const QDeadlineTimer deadline(kPatienceMs);
+  while (!done() && !deadline.hasExpired()) {
+    QApplication::processEvents(QEventLoop::AllEvents, 10);
   }
 }
 
@@ -108,6 +120,22 @@ void Gallery::TakeWindows(VEXA& window) {
     }
   }
   TakeWindow(QStringLiteral("ThickGraph"), QStringLiteral("thickness-history"));
+  TakeRecords(window);
+}
+
+// What is read of the store comes from a thread of its own.
+void Gallery::TakeRecords(VEXA& window) {
+  window.Commands().records->trigger();
+  const auto* records = window.findChild<QWidget*>(QStringLiteral("RecordsWindow"));
+  auto* table = records->findChild<QTableView*>(QStringLiteral("RecordTable"));
+  const auto* details = records->findChild<QTextEdit*>(QStringLiteral("RecordDetails"));
+  WaitUntil([table] { return table->model()->rowCount() > 0; });
+  table->selectAll();
+  WaitUntil([details] { return !details->document()->isEmpty(); });
+  Press(*records, "RecomputeRecords");
+  WaitUntil([records] { return records->findChild<QDialog*>() != nullptr; });
+  TakeWindow(QStringLiteral("RecomputedWindow"), QStringLiteral("records-recomputed"));
+  TakeWindow(QStringLiteral("RecordsWindow"), QStringLiteral("records"));
 }
 
 void Gallery::TakeFilmFit(VEXA& window) {

@@ -9,6 +9,7 @@
 #include "files/program_preferences.h"
 #include "measurement/dispersion_data.h"
 #include "measurement/session.h"
+#include "records/record_settings.h"
 #include "views/common/quiet_messages.h"
 #include "views/paper/current_printer.h"
 #include "views/print/page_header.h"
@@ -59,6 +60,7 @@ int RunReport(const ReportCommand& command, const QString& programDirectory) {
   request.cie = ProgramPreferences(programDirectory).InForce().showCie;
   request.title = command.title;
   request.operatorName = command.operatorName;
+  request.proof = ProofText(RecordStorePath(programDirectory));
   if (!WritePdf(command.pdfFile, ReportTitle(request), PageLayoutOf(SavedPrintSettings(state)),
                 MakeReport(state, request))) {
     Complain(QStringLiteral("%1: cannot be written").arg(command.pdfFile));

@@ -81,6 +81,14 @@ void StatusPanels::AddEnvironmentPanel() {
   environment_->setMinimumWidth(kEnvironmentWidth);
   environment_->setStyleSheet(StyleOf(std::nullopt).arg(environment_->objectName()));
   addWidget(environment_, 1);
+  shared_ = new QLabel;
+  shared_->setObjectName(QStringLiteral("SharedPanel"));
+  shared_->setTextFormat(Qt::PlainText);
+  shared_->setStyleSheet(QStringLiteral("QLabel { color: %1; }").arg(theme::kMutedText.name()));
+  addWidget(shared_);
+  shared_->hide();
+  sharedSoon_.setSingleShot(true);
+  connect(&sharedSoon_, &QTimer::timeout, shared_, &QLabel::show);
 }
 
 void StatusPanels::AddVerdictPanel(std::size_t group) {
@@ -101,6 +109,20 @@ void StatusPanels::AddVerdictPanel(std::size_t group) {
 void StatusPanels::ShowEnvironmentName(const QString& name) {
   environment_->setText(Text::tr("環境ﾌｧｲﾙ名") + QStringLiteral(":") + name);
   environment_->setToolTip(name);
+}
+
+void StatusPanels::ShowShared(const SharedStatus& status) {
+  constexpr int kQuietMs = 2000;  // what is sent at once is not worth a look
+  shared_->setText(QStringLiteral("⇡%1").arg(status.waiting));
+  shared_->setToolTip((Text::tr("共有の記録に送る記録: %1件").arg(status.waiting) + u'\n' +
+                       StoreFaultText(status.fault))
+                          .trimmed());
+  if (status.waiting == 0 && status.fault == StoreFault::kNone) {
+    sharedSoon_.stop();
+    shared_->hide();
+  } else if (!shared_->isVisible() && !sharedSoon_.isActive()) {
+    sharedSoon_.start(kQuietMs);
+  }
 }
 
 void StatusPanels::ShowJudgement(const Judgement& judgement) {

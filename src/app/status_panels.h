@@ -4,14 +4,16 @@
 #include <QLabel>
 #include <QPixmap>
 #include <QStatusBar>
+#include <QTimer>
 #include <array>
 
+#include "records/shared_store.h"
 #include "standards/judgement.h"
 
 namespace vexa {
 
 /// The seven panels of the status bar: the environment file name, and one panel for the verdict of
-/// each group of standards.
+/// each group of standards; and what waits for the shared store.
 class StatusPanels : public QStatusBar {
   Q_OBJECT
 
@@ -24,6 +26,9 @@ class StatusPanels : public QStatusBar {
   /// margin.
   void ShowJudgement(const Judgement& judgement);
 
+  /// Shows how many records wait to be sent to the shared store, and why; nothing when none does.
+  void ShowShared(const SharedStatus& status);
+
  private:
   void AddEnvironmentPanel();
   void AddVerdictPanel(std::size_t group);
@@ -32,6 +37,8 @@ class StatusPanels : public QStatusBar {
   QPixmap passedMark_;
   QPixmap failedMark_;
   QLabel* environment_ = nullptr;
+  QLabel* shared_ = nullptr;
+  QTimer sharedSoon_;
   struct VerdictPanel {
     QLabel* text;
     QLabel* mark;

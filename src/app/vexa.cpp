@@ -24,9 +24,9 @@ namespace vexa {
 namespace {
 
 // What the records of the window tell beside its state.
-RecordContext ContextOf(const QString& programDirectory) {
+RecordContext ContextOf(const RecordSettings& settings) {
   RecordContext context;
-  context.station = ReadRecordSettings(programDirectory).value_or(RecordSettings()).station;
+  context.station = settings.station;
   return context;
 }
 
@@ -38,15 +38,17 @@ VEXA::VEXA(Services services, const QString& programDirectory)
       session_(programDirectory, services_.clock),
       desk_(session_, services_.messages, services_.makeController),
       journal_(session_, services_.messages),
-      recorder_(session_, RecordStorePath(programDirectory), ContextOf(programDirectory)),
+      recordSettings_(ReadRecordSettings(programDirectory).value_or(UsualRecordSettings())),
+      recorder_(session_, RecordStorePath(programDirectory), ContextOf(recordSettings_)),
       preferences_(programDirectory),
       menu_(BuildMenu(*menuBar())),
       panels_(new MainPanels(session_, desk_, services_.messages, services_.dialogs)),
       status_(new StatusPanels),
-      commands_(new WindowCommands(menu_,
-                                   {session_, desk_, recorder_, preferences_, services_.messages,
-                                    services_.dialogs, [this] { return GetOption(); }},
-                                   *this)) {
+      commands_(new WindowCommands(
+          menu_,
+          {session_, desk_, recorder_, recordSettings_, preferences_, services_.messages,
+           services_.dialogs, [this] { return GetOption(); }},
+          *this)) {
   commands_->setParent(this);
   setCentralWidget(panels_);
   setStatusBar(status_);
@@ -56,6 +58,7 @@ VEXA::VEXA(Services services, const QString& programDirectory)
   const auto showCie = [this] { panels_->ShowCie(preferences_.InForce().showCie); };
   connect(&preferences_, &ProgramPreferences::Changed, this, showCie);
   showCie();
+  StartSharing();
   Refresh();
   ShowAvailable();
 }
@@ -72,6 +75,10 @@ QCoro::Task<> VEXA::Load() {
   Settings settings = session_.SettingsInForce();
   TellAll(LoadConfiguration(settings), services_.messages);
   session_.TakeSettings(settings);
+  if (!ReadRecordSettings(State().programDirectory)) {
+    services_.messages.Tell(
+        {Message::kRecordSettingsUnreadable, {RecordSettingsPath(State().programDirectory)}});
+  }
   co_await desk_.Connect();
   if (phase_ != Phase::kStarting) {
     co_return;
@@ -215,6 +222,17 @@ void VEXA::ListenToSession() {
 void VEXA::ShowSelected() {
   commands_->ShowSlot(GetOption());
   Refresh();
+}
+
+void VEXA::StartSharing() {
+  if (recordSettings_.shared.isEmpty()) {
+    return;
+  }
+  sender_ = std::make_unique<SharedSender>(RecordStorePath(State().programDirectory),
+                                           recordSettings_.shared);
+  connect(&recorder_.Keeper(), &RecordKeeper::Stored, sender_.get(), &SharedSender::Wake);
+  connect(commands_, &WindowCommands::Recorded, sender_.get(), &SharedSender::Wake);
+  connect(sender_.get(), &SharedSender::StatusChanged, status_, &StatusPanels::ShowShared);
 }
 
 void VEXA::Refresh() {

@@ -4,6 +4,7 @@
 #include <QCoroTask>
 #include <QLockFile>
 #include <QMainWindow>
+#include <memory>
 
 #include "app/main_menu.h"
 #include "app/session_journal.h"
@@ -11,7 +12,9 @@
 #include "files/program_preferences.h"
 #include "measurement/instrument_desk.h"
 #include "measurement/session.h"
+#include "records/record_settings.h"
 #include "records/session_recorder.h"
+#include "records/shared_sender.h"
 #include "views/common/file_dialogs.h"
 
 namespace vexa {
@@ -67,6 +70,7 @@ class VEXA : public QMainWindow {
   void TellOfAnotherWindow();
   void ListenToSession();
   void ShowSelected();
+  void StartSharing();
   void Refresh();
   void SetPhase(Phase phase);
   void ShowAvailable();
@@ -76,6 +80,7 @@ class VEXA : public QMainWindow {
   Session session_;
   InstrumentDesk desk_;
   SessionJournal journal_;
+  RecordSettings recordSettings_;
   SessionRecorder recorder_;
   ProgramPreferences preferences_;
   Phase phase_ = Phase::kStarting;
@@ -83,6 +88,7 @@ class VEXA : public QMainWindow {
   MainPanels* panels_ = nullptr;
   StatusPanels* status_ = nullptr;
   WindowCommands* commands_ = nullptr;
+  std::unique_ptr<SharedSender> sender_;  ///< where a shared store is named
 };
 
 }  // namespace vexa

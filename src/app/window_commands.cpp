@@ -3,6 +3,7 @@
 
 #include <QDialog>
 #include <QMenu>
+#include <algorithm>
 #include <utility>
 
 #include "app/version_dialog.h"
@@ -17,9 +18,12 @@
 #include "views/optics/ref_set_dlg.h"
 #include "views/optics/thick_graph.h"
 #include "views/optics/wave_list_dlg.h"
+#include "views/print/page_header.h"
 #include "views/print/print_dlg.h"
 #include "views/print/print_setup_dlg.h"
+#include "views/print/records_report.h"
 #include "views/print/report.h"
+#include "views/records/records_window.h"
 #include "views/settings/calibration_dlg.h"
 #include "views/settings/dispset.h"
 #include "views/settings/program_settings_dlg.h"
@@ -35,6 +39,7 @@ WindowCommands::WindowCommands(const MenuCommands& menu, WindowParts parts, QWid
       state_(parts.session.State()),
       desk_(parts.desk),
       recorder_(parts.recorder),
+      recordSettings_(parts.recordSettings),
       preferences_(parts.preferences),
       messages_(parts.messages),
       dialogs_(parts.dialogs),
@@ -42,7 +47,8 @@ WindowCommands::WindowCommands(const MenuCommands& menu, WindowParts parts, QWid
       window_(window),
       files_(*menu.recentFiles, parts.session, parts.desk, parts.preferences, parts.messages,
              parts.dialogs, window),
-      printer_(parts.session.State(), parts.messages, parts.dialogs) {
+      printer_(parts.session.State(), parts.messages, parts.dialogs),
+      reader_(StorePath(), parts.recordSettings.shared) {
   ConnectFiles();
   ConnectWindows();
   ConnectLanguages();
@@ -107,6 +113,7 @@ void WindowCommands::ConnectWindows() {
   Open(menu_.version, [this] { return MakeVersionDialog(&window_); });
   Do(menu_.thicknessGraph, [this] { ShowThicknessGraph(); });
   Do(menu_.filmFit, [this] { ShowFilmFit(); });
+  Do(menu_.records, [this] { ShowRecords(); });
 }
 
 void WindowCommands::ConnectLanguages() {
@@ -152,6 +159,7 @@ void WindowCommands::Print() {
   }
   report_.date = today;
   report_.unsaved = !state_.slotsSaved;
+  report_.proof = ProofText(StorePath());
   PrintSlots(state_, selectedSlot_(), report_, printer_, messages_, &window_);
 }
 
@@ -187,6 +195,34 @@ void WindowCommands::ShowSlot(int slot) {
   if (!filmFit_.isNull()) {
     filmFit_->ShowSlot(slot);
   }
+}
+
+void WindowCommands::ShowRecords() {
+  if (records_.isNull()) {
+    const auto print = [this](const QList<WholeRecord>& records) { PrintRecords(records); };
+    records_ = new RecordsWindow({reader_, session_, desk_, messages_, dialogs_, StorePath(),
+                                  recordSettings_.station, print},
+                                 &window_);
+    records_->setAttribute(Qt::WA_DeleteOnClose);
+    connect(&recorder_.Keeper(), &RecordKeeper::Stored, records_, &RecordsWindow::TakeNewer);
+    connect(records_, &RecordsWindow::Decided, this, &WindowCommands::Recorded);
+  }
+  records_->show();
+  records_->raise();
+  records_->activateWindow();
+}
+
+// The store of this station proves nothing of the rows of others.
+void WindowCommands::PrintRecords(const QList<WholeRecord>& records) {
+  const bool own = std::ranges::all_of(records, [this](const WholeRecord& record) {
+    return record.sample.station == recordSettings_.station;
+  });
+  printer_.Print(Text::tr("記録"), MakeRecordsReport(records, session_.Now().date(),
+                                                     own ? ProofText(StorePath()) : QString()));
+}
+
+QString WindowCommands::StorePath() const {
+  return RecordStorePath(state_.programDirectory);
 }
 
 QDialog* WindowCommands::MakeSettingsList() {

@@ -9,6 +9,8 @@
 #include "app/main_menu.h"
 #include "files/program_preferences.h"
 #include "measurement/instrument_desk.h"
+#include "records/record_reader.h"
+#include "records/record_settings.h"
 #include "records/session_recorder.h"
 #include "views/common/file_dialogs.h"
 #include "views/paper/current_printer.h"
@@ -19,6 +21,7 @@ class QWidget;
 namespace vexa {
 
 class FilmFitWindow;
+class RecordsWindow;
 class ThickGraph;
 
 /// What the windows of the menu work with.
@@ -26,6 +29,7 @@ struct WindowParts {
   Session& session;
   InstrumentDesk& desk;
   SessionRecorder& recorder;
+  const RecordSettings& recordSettings;
   ProgramPreferences& preferences;
   MessageService& messages;
   FileDialogs& dialogs;
@@ -48,6 +52,10 @@ class WindowCommands : public QObject {
 
   [[nodiscard]] FileOpener& Files() { return files_; }
 
+ signals:
+  /// A window has put a row into the record store.
+  void Recorded();
+
  private:
   void ConnectFiles();
   void ConnectWindows();
@@ -59,6 +67,9 @@ class WindowCommands : public QObject {
   void KeepLanguage(const QString& code);
   void ShowThicknessGraph();
   void ShowFilmFit();
+  void ShowRecords();
+  void PrintRecords(const QList<WholeRecord>& records);
+  [[nodiscard]] QString StorePath() const;
   [[nodiscard]] QDialog* MakeSettingsList();
 
   const MenuCommands& menu_;
@@ -66,6 +77,7 @@ class WindowCommands : public QObject {
   const VEXATYPE& state_;
   InstrumentDesk& desk_;
   SessionRecorder& recorder_;
+  const RecordSettings& recordSettings_;
   ProgramPreferences& preferences_;
   MessageService& messages_;
   FileDialogs& dialogs_;
@@ -76,6 +88,8 @@ class WindowCommands : public QObject {
   ReportRequest report_;  ///< as printed last
   ThickGraph* thicknessGraph_ = nullptr;
   QPointer<FilmFitWindow> filmFit_;
+  RecordReader reader_;
+  QPointer<RecordsWindow> records_;
 };
 
 }  // namespace vexa

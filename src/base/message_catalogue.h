@@ -47,6 +47,13 @@ enum class Message : std::uint8_t {
   kJournalWriteError,      ///< %1 path
   kRecordStoreFault,       ///< %1 path
 
+  // Records.
+  kRecordSettingsUnreadable,  ///< %1 path
+  kRecordUnreadable,          ///< %1 why
+  kRecordNotWritten,          ///< %1 why
+  kSupersededAlready,
+  kTooManyForDataFile,
+
   // Controller and measurement.
   kControllerFailed,    ///< with the port's diagnosis as details
   kGpibServiceRequest,  ///< %1 step, %2 code, as for the next ones
@@ -105,8 +112,8 @@ enum class Message : std::uint8_t {
   kHistoryScaleFault,
   kHistoryScaleOutOfRange,
   kHistoryWriteError,
-  kFilmFitRefused,    ///< %1 what is wrong with an entry
-  kFilmStackFault,    ///< %1 path, %2 what is wrong with it
+  kFilmFitRefused,  ///< %1 what is wrong with an entry
+  kFilmStackFault,  ///< %1 path, %2 what is wrong with it
 
   // Standards. %1 names the group, or the field.
   kStandardOutOfRange,

@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include "base/translation.h"
 #include "cli/program_settings.h"
 #include "cli/records_actions.h"
 #include "records/record_builder.h"
@@ -65,7 +66,7 @@ int ImportFiles(const QCommandLineParser& parser, const QStringList& arguments) 
   if (parser.isSet(option::kJson)) {
     PrintJson({{QStringLiteral("imported"), imported}, {QStringLiteral("known"), known}});
   } else {
-    Print(QStringLiteral("%1 imported, %2 already there\n").arg(imported).arg(known));
+    Print(Text::tr("%1 imported, %2 already there\n").arg(imported).arg(known));
   }
   return status;
 }
@@ -121,7 +122,7 @@ int VerifyStore(const QCommandLineParser& parser, const QStringList& /*arguments
                 intact ? QJsonValue() : QJsonValue(check.value.firstDamaged)},
                {QStringLiteral("head"), head}});
   } else {
-    Print(QStringLiteral("%1 rows, head %2\n").arg(check.value.rows).arg(head));
+    Print(Text::tr("%1 rows, head %2\n").arg(check.value.rows).arg(head));
   }
   if (!intact) {
     Complain(QStringLiteral("records: row %1 %2")

@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include "base/translation.h"
 #include "cli/program_settings.h"
 #include "cli/records_actions.h"
 #include "records/shared_store.h"
@@ -36,7 +37,7 @@ int SyncStore(const QCommandLineParser& parser, const QStringList& /*arguments*/
   if (parser.isSet(option::kJson)) {
     PrintJson({{QStringLiteral("sent"), status.sent}, {QStringLiteral("waiting"), status.waiting}});
   } else {
-    Print(QStringLiteral("%1 sent, %2 waiting\n").arg(status.sent).arg(status.waiting));
+    Print(Text::tr("%1 sent, %2 waiting\n").arg(status.sent).arg(status.waiting));
   }
   return status.fault == StoreFault::kNone
              ? kDone

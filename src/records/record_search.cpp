@@ -1,7 +1,11 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "records/record_search.h"
 
+#include <QJsonDocument>
 #include <QStringList>
+#include <utility>
+
+#include "records/result_json.h"
 
 namespace vexa {
 namespace {
@@ -56,6 +60,10 @@ Conditions ConditionsOf(const RecordQuery& query) {
     conditions.Add(QStringLiteral("(utc, station, number) < (?, ?, ?)"),
                    {query.after->utcMs, query.after->station, query.after->number});
   }
+  if (query.newerThan) {
+    conditions.Add(QStringLiteral("(utc, station, number) > (?, ?, ?)"),
+                   {query.newerThan->utcMs, query.newerThan->station, query.newerThan->number});
+  }
   if (!query.samplePart.isEmpty()) {
     conditions.Add(QStringLiteral("lower(sample) LIKE ? ESCAPE '\\'"), {Pattern(query.samplePart)});
   }
@@ -66,6 +74,23 @@ Conditions ConditionsOf(const RecordQuery& query) {
   return conditions;
 }
 
+// Whose place the sample has taken by the document of its own row, or of a later event.
+void TakePlace(const QJsonDocument& document, RecordSummary& summary) {
+  summary.supersedes = document[QStringLiteral("supersedes")].toString();
+  summary.reason = document[QStringLiteral("reason")].toString();
+}
+
+// What a table shows of the results, as the document of a row has it.
+void TakeResults(const QJsonDocument& document, RecordSummary& summary) {
+  TakePlace(document, summary);
+  summary.colour = ColourOf(document[QStringLiteral("colour")].toObject());
+  if (const QJsonValue thickness = document[QStringLiteral("thickness")]; thickness.isObject()) {
+    const ThicknessResult result = ThicknessOf(thickness.toObject());
+    summary.thicknessNm = result.thicknessNm;
+    summary.physical = result.physical;
+  }
+}
+
 }  // namespace
 
 Answer<QList<RecordSummary>> SearchRecords(const SqlSession& session, const RecordQuery& query) {
@@ -74,8 +99,8 @@ Answer<QList<RecordSummary>> SearchRecords(const SqlSession& session, const Reco
   const QString sql =
       QStringLiteral(
           "SELECT r.id, r.number, r.utc, r.time, r.station, r.lot, r.recipe, r.sample, r.operator,"
-          " r.verdict, coalesce(r.supersedes, (SELECT e.supersedes FROM record_row e WHERE"
-          " e.subject = r.id AND e.supersedes IS NOT NULL ORDER BY e.number DESC LIMIT 1))"
+          " r.verdict, r.document, (SELECT e.document FROM record_row e WHERE"
+          " e.subject = r.id AND e.supersedes IS NOT NULL ORDER BY e.number DESC LIMIT 1)"
           " FROM (SELECT station, number FROM record_row k WHERE %1"
           " ORDER BY utc DESC, station DESC, number DESC LIMIT ?) p"
           " JOIN record_row r ON r.number = p.number AND r.station = p.station"
@@ -88,8 +113,22 @@ Answer<QList<RecordSummary>> SearchRecords(const SqlSession& session, const Reco
   Answer<QList<RecordSummary>> found;
   while (rows.value.next()) {
     const auto text = [&rows](int column) { return rows.value.value(column).toString(); };
-    found.value.append({text(0), rows.value.value(1).toLongLong(), rows.value.value(2).toLongLong(),
-                        text(3), text(4), text(5), text(6), text(7), text(8), text(9), text(10)});
+    RecordSummary summary;
+    summary.id = text(0);
+    summary.number = rows.value.value(1).toLongLong();
+    summary.utcMs = rows.value.value(2).toLongLong();
+    summary.time = text(3);
+    summary.station = text(4);
+    summary.lot = text(5);
+    summary.recipe = text(6);
+    summary.sampleNumber = text(7);
+    summary.operatorName = text(8);
+    summary.verdict = text(9);
+    TakeResults(QJsonDocument::fromJson(text(10).toUtf8()), summary);
+    if (summary.supersedes.isEmpty()) {
+      TakePlace(QJsonDocument::fromJson(text(11).toUtf8()), summary);
+    }
+    found.value.append(std::move(summary));
   }
   found.fault = FaultOf(rows.value.lastError());
   return found;

@@ -22,8 +22,12 @@ struct RecordSummary {
   QString recipe;
   QString sampleNumber;
   QString operatorName;
-  QString verdict;     ///< "OK", "NG" or "none"
-  QString supersedes;  ///< the id of the sample that it replaces, or empty
+  QString verdict;      ///< "OK", "NG" or "none"
+  QString supersedes;   ///< the id of the sample that it replaces, or empty
+  QString reason;       ///< why it does
+  ColourResult colour;  ///< not a number what could not be computed
+  std::optional<double> thicknessNm;
+  bool physical = false;  ///< the thickness is no optical one
 };
 
 /// Which samples are wanted; what is not given does not restrict.
@@ -41,6 +45,8 @@ struct RecordQuery {
 
   /// Only what comes behind this one: the last of the page before.
   std::optional<RecordSummary> after;
+  /// Only what comes before this one, as it was measured since.
+  std::optional<RecordSummary> newerThan;
 };
 
 /// The newest first; samples of the same millisecond by station and number.

@@ -10,8 +10,8 @@
 namespace vexa {
 
 std::optional<RecordSettings> ReadRecordSettings(const QString& directory) {
-  RecordSettings settings{QSysInfo::machineHostName(), {}};
-  QFile file(QDir(directory).filePath(QStringLiteral("records.json")));
+  RecordSettings settings = UsualRecordSettings();
+  QFile file(RecordSettingsPath(directory));
   if (!file.exists()) {
     return settings;
   }
@@ -32,6 +32,14 @@ std::optional<RecordSettings> ReadRecordSettings(const QString& directory) {
   }
   settings.shared = shared.toString();
   return settings;
+}
+
+RecordSettings UsualRecordSettings() {
+  return {QSysInfo::machineHostName(), {}};
+}
+
+QString RecordSettingsPath(const QString& directory) {
+  return QDir(directory).filePath(QStringLiteral("records.json"));
 }
 
 QString RecordStorePath(const QString& directory) {

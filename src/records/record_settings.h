@@ -16,6 +16,12 @@ struct RecordSettings {
 /// The settings of the directory; nothing when the file is there but not readable as such.
 [[nodiscard]] std::optional<RecordSettings> ReadRecordSettings(const QString& directory);
 
+/// Without such a file: the name of this computer, and no shared store.
+[[nodiscard]] RecordSettings UsualRecordSettings();
+
+/// The path of `records.json`.
+[[nodiscard]] QString RecordSettingsPath(const QString& directory);
+
 /// The path of the record store of a program directory.
 [[nodiscard]] QString RecordStorePath(const QString& directory);
 

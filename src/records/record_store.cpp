@@ -241,4 +241,14 @@ Answer<ChainHead> RecordStore::End() const {
   return head;
 }
 
+std::optional<ChainHead> HeadOf(const QString& path) {
+  constexpr int kPatienceMs = 100;
+  RecordStore store;
+  if (store.Open(path, RecordStore::Mode::kRead, kPatienceMs) != StoreFault::kNone) {
+    return std::nullopt;
+  }
+  const Answer<ChainHead> head = store.Head();
+  return head && head.value.number > 0 ? std::optional(head.value) : std::nullopt;
+}
+
 }  // namespace vexa

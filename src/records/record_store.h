@@ -100,4 +100,7 @@ class RecordStore : public RecordSource {
   FileIdentity identity_;
 };
 
+/// The head of the store of that path; nothing when it has no rows, or cannot be read at once.
+[[nodiscard]] std::optional<ChainHead> HeadOf(const QString& path);
+
 }  // namespace vexa

@@ -126,7 +126,7 @@ QJsonObject RecordJson(const WholeRecord& record) {
       {QStringLiteral("version"), sample.programVersion},
       {QStringLiteral("source"), OptionalText(sample.source)},
       {QStringLiteral("supersedes"), OptionalText(record.summary.supersedes)},
-      {QStringLiteral("reason"), OptionalText(sample.reason)},
+      {QStringLiteral("reason"), OptionalText(record.summary.reason)},
       {QStringLiteral("conditions"), ConditionsJson(record)},
       {QStringLiteral("background"), FrameJson(record.background, sample.backgroundId)},
       {QStringLiteral("reference"), FrameJson(record.reference, sample.referenceId)},

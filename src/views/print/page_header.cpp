@@ -6,6 +6,7 @@
 #include "base/date_text.h"
 #include "base/translation.h"
 #include "colour/colour_tables.h"
+#include "records/record_store.h"
 #include "views/common/colour_texts.h"
 #include "views/common/theme.h"
 #include "views/paper/printed_pages.h"
@@ -23,6 +24,8 @@ constexpr double kLabelWidth = 170.0;
 constexpr double kColumnGap = 40.0;
 constexpr int kTitleSize = 50;
 constexpr int kTextSize = 28;
+constexpr int kProofSize = 22;
+constexpr double kProofMargin = 130.0;
 const QString kNone = QStringLiteral("-");
 
 void DrawText(QPainter& painter, const QRectF& place, Qt::Alignment alignment, const QString& text,
@@ -44,7 +47,7 @@ QString ReportTitle(const ReportRequest& request) {
 }
 
 PageHeader::PageHeader(const VEXATYPE& state, const ReportRequest& request)
-    : title_(ReportTitle(request)) {
+    : title_(ReportTitle(request)), proof_(request.proof) {
   const ColourSettings& colour = state.colour;
   const MeasuringConditions conditions = CommonConditions(state);
   entries_ = {
@@ -89,11 +92,30 @@ void PageHeader::Paint(QPainter& painter, const QSizeF& page, int number, int co
     y += i % 2 == 0 ? 0.0 : kRowHeight;
   }
 
+  PaintFooter(painter, page, number, count, proof_);
+}
+
+void PaintFooter(QPainter& painter, const QSizeF& page, int number, int count,
+                 const QString& proof) {
   SetPageFont(painter, kTextSize);
+  const double width = page.width();
   const QRectF footer(0.0, page.height() - kFooterHeight + 20.0, width, kFooterHeight - 20.0);
   DrawText(painter, footer, Qt::AlignLeft, QStringLiteral("VEXA-KT"), Qt::ElideRight);
   DrawText(painter, footer, Qt::AlignRight, QStringLiteral("%1 / %2").arg(number).arg(count),
            Qt::ElideRight);
+  SetPageFont(painter, kProofSize);
+  painter.setPen(theme::kMutedText);
+  DrawText(painter, footer.adjusted(kProofMargin, 0.0, -kProofMargin, 0.0), Qt::AlignHCenter, proof,
+           Qt::ElideNone);
+  painter.setPen(theme::kText);
+}
+
+QString ProofText(const QString& storePath) {
+  const std::optional<ChainHead> head = HeadOf(storePath);
+  return head ? Text::tr("記録 %1: %2")
+                    .arg(head->number)
+                    .arg(QString::fromLatin1(head->hash.toHex()))
+              : QString();
 }
 
 }  // namespace vexa

@@ -31,8 +31,18 @@ class PageHeader {
   };
 
   QString title_;
+  QString proof_;
   std::vector<Entry> entries_;  ///< two in a row
 };
+
+/// Paints what stands below a page: the number of the page, and what proves its rows, as
+/// ProofText has it.
+void PaintFooter(QPainter& painter, const QSizeF& page, int number, int count,
+                 const QString& proof);
+
+/// Number and hash of the last row of a record store, by which anyone can check later that all
+/// rows up to it are still the same; empty without a store.
+[[nodiscard]] QString ProofText(const QString& storePath);
 
 /// The title of the request, or the usual one.
 [[nodiscard]] QString ReportTitle(const ReportRequest& request);

@@ -179,7 +179,8 @@ ReportRequest PrintDlg::Entries() const {
           .stepNm = step_->checkedId(),
           .diagram = diagram_->isChecked(),
           .cie = cie_->isChecked(),
-          .unsaved = request_.unsaved};
+          .unsaved = request_.unsaved,
+          .proof = request_.proof};
 }
 
 PageMaker PrintDlg::Pages(const ReportRequest& request) const {

@@ -19,6 +19,7 @@ struct ReportRequest {
   bool diagram = false;  ///< with the chromaticity diagram
   bool cie = false;      ///< with the CIE colours, and those on a diagram of their own
   bool unsaved = false;  ///< the slots are no longer what their data file holds
+  QString proof;         ///< stands below every page: ProofText of the record store; or empty
 };
 
 }  // namespace vexa

@@ -1,0 +1,18 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <QDate>
+#include <QList>
+
+#include "records/whole_record.h"
+#include "views/paper/printed_pages.h"
+
+namespace vexa {
+
+/// The pages of a report of records as they are stored, in the order given: their curves (of the
+/// first fifty), how many were judged how, and a row for each. `proof` stands below every page, as
+/// ProofText has it.
+[[nodiscard]] PageMaker MakeRecordsReport(const QList<WholeRecord>& records, const QDate& printed,
+                                          const QString& proof);
+
+}  // namespace vexa

@@ -1,0 +1,175 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "views/records/record_details.h"
+
+#include <algorithm>
+
+#include "base/date_text.h"
+#include "base/number_text.h"
+#include "base/translation.h"
+#include "optics/thickness_doubts.h"
+#include "views/common/theme.h"
+
+namespace vexa {
+namespace {
+
+const QString kNone = QStringLiteral("-");
+
+QString Number(double value, QStringView pattern) {
+  return FormatNumber(value, pattern).trimmed();
+}
+
+QString OrNone(const QString& text) {
+  return text.isEmpty() ? kNone : text.toHtmlEscaped();
+}
+
+/// Rows of a label and what stands beside it, under headings.
+class Sheet {
+ public:
+  void Heading(const QString& text) {
+    html_ +=
+        QStringLiteral("<tr><td colspan=2 style='padding-top:8px'><b>%1</b></td></tr>").arg(text);
+  }
+  /// `html` is escaped already.
+  void Row(const QString& label, const QString& html) {
+    html_ += QStringLiteral(
+                 "<tr><td style='color:%1; padding-right:12px; white-space:nowrap'>%2</td>"
+                 "<td>%3</td></tr>")
+                 .arg(theme::kMutedText.name(), label, html);
+  }
+  [[nodiscard]] QString Html() const {
+    return QStringLiteral("<table cellspacing=0 cellpadding=1>%1</table>").arg(html_);
+  }
+
+ private:
+  QString html_;
+};
+
+QString Coloured(const QString& verdict) {
+  return verdict == QLatin1String("NG")
+             ? QStringLiteral("<b style='color:%1'>NG</b>").arg(theme::kBad.name())
+             : verdict;
+}
+
+QString FrameText(const std::optional<FrameRecord>& frame) {
+  return frame ? QStringLiteral("%1　%2 ms × %3　%4 nm　%5")
+                     .arg(DateTimeText(frame->taken.takenAt))
+                     .arg(frame->taken.samplingTimeMs)
+                     .arg(frame->taken.averagingCount)
+                     .arg(frame->taken.calibrationShiftNm)
+                     .arg(frame->controller.toHtmlEscaped())
+               : kNone;
+}
+
+void AddSample(Sheet& sheet, const WholeRecord& record) {
+  const SampleRecord& sample = record.sample;
+  sheet.Heading(Text::tr("試料No") + QStringLiteral("　") +
+                OrNone(sample.sampleNumber.simplified()));
+  sheet.Row(Text::tr("測定日時"), DateTimeText(sample.measuredAt));
+  sheet.Row(Text::tr("ロット"), OrNone(sample.lot));
+  sheet.Row(Text::tr("レシピ"), OrNone(sample.recipe));
+  sheet.Row(Text::tr("測定者"), OrNone(sample.operatorName));
+  sheet.Row(Text::tr("測定機"), OrNone(sample.station));
+  for (const auto& [label, text] :
+       {std::pair(Text::tr("備考1"), sample.remark1), std::pair(Text::tr("備考2"), sample.remark2),
+        std::pair(Text::tr("ﾃﾞｰﾀﾌｧｲﾙ"), sample.source)}) {
+    if (!text.isEmpty()) {
+      sheet.Row(label, text.toHtmlEscaped());
+    }
+  }
+}
+
+void AddVerdicts(Sheet& sheet, const SampleRecord& sample) {
+  const std::array captions{Text::tr("反射率", "column"),
+                            Text::tr("平均反射率", "column"),
+                            Text::tr("視感反射率", "column"),
+                            Text::tr("波長"),
+                            Text::tr("クロマC*"),
+                            Text::tr("色相角h[deg]")};
+  sheet.Heading(Text::tr("合否判定") + QStringLiteral("　") + Coloured(VerdictText(sample)));
+  for (std::size_t i = 0; i < captions.size(); ++i) {
+    const GroupJudgement& group = sample.groups.at(i);
+    if (!group.passed) {
+      continue;
+    }
+    const QString margin =
+        group.margin ? Text::tr("余裕 %1").arg(Number(*group.margin, u"0.000#")) : QString();
+    sheet.Row(captions.at(i),
+              Coloured(*group.passed ? QStringLiteral("OK") : QStringLiteral("NG")) +
+                  QStringLiteral("　") + margin);
+  }
+}
+
+void AddValues(Sheet& sheet, const SampleRecord& sample) {
+  const ColourResult& colour = sample.colour;
+  sheet.Heading(Text::tr("測定値"));
+  sheet.Row(QStringLiteral("L* a* b*"),
+            QStringLiteral("%1　%2　%3")
+                .arg(Number(colour.L, u"##0.00"), Number(colour.a, u"0.0000"),
+                     Number(colour.b, u"0.0000")));
+  sheet.Row(QStringLiteral("x y"),
+            QStringLiteral("%1　%2").arg(Number(colour.x, u"0.0000"), Number(colour.y, u"0.0000")));
+  sheet.Row(QStringLiteral("C* h[°]"), QStringLiteral("%1　%2").arg(Number(colour.C, u"##0.000"),
+                                                                    Number(colour.h, u"##0.000")));
+  sheet.Row(Text::tr("平均[%]"), Number(colour.Rm, u"##0.0##"));
+  sheet.Row(Text::tr("視感[%]"), Number(colour.Y, u"##0.0##"));
+  sheet.Row(Text::tr("膜厚", "column"), ThicknessText(sample));
+  for (const QString& name : sample.doubts) {
+    for (const ThicknessDoubt doubt :
+         {ThicknessDoubt::kEdge, ThicknessDoubt::kDuplicate, ThicknessDoubt::kSpacing,
+          ThicknessDoubt::kNoise, ThicknessDoubt::kDisagrees}) {
+      if (ThicknessDoubtName(doubt) == name) {
+        sheet.Row({}, QStringLiteral("⚠ ") + ThicknessDoubtText(doubt).toHtmlEscaped());
+      }
+    }
+  }
+}
+
+void AddConditions(Sheet& sheet, const WholeRecord& record) {
+  sheet.Heading(Text::tr("測定条件"));
+  sheet.Row(Text::tr("ﾊﾞｯｸｸﾞﾗｳﾝﾄﾞ"), FrameText(record.background));
+  sheet.Row(Text::tr("ﾘﾌｧﾚﾝｽ"), FrameText(record.reference));
+  sheet.Row(Text::tr("試料"), FrameText(record.sample.frame));
+  if (record.settings) {
+    const QJsonObject& values = record.settings->values;
+    sheet.Row(Text::tr("規格ﾌｧｲﾙ"), OrNone(values[QStringLiteral("standardFile")].toString()));
+  }
+}
+
+void AddProof(Sheet& sheet, const WholeRecord& record) {
+  sheet.Heading(Text::tr("記録"));
+  sheet.Row(Text::tr("番号"), QString::number(record.summary.number));
+  sheet.Row(QStringLiteral("ID"), record.summary.id);
+  sheet.Row(QStringLiteral("SHA-256"), QString::fromLatin1(record.hash.toHex().first(32)) +
+                                           QStringLiteral("<br>") +
+                                           QString::fromLatin1(record.hash.toHex().sliced(32)));
+  sheet.Row(Text::tr("ﾌﾟﾛｸﾞﾗﾑ"), OrNone(record.sample.programVersion));
+  if (!record.summary.supersedes.isEmpty()) {
+    sheet.Row(Text::tr("置き換えた記録"), record.summary.supersedes);
+    sheet.Row(Text::tr("理由"), OrNone(record.summary.reason));
+  }
+}
+
+}  // namespace
+
+QString VerdictText(const SampleRecord& sample) {
+  const Verdict verdict = VerdictOf(sample.groups);
+  return verdict == Verdict::kNone ? kNone : VerdictWord(verdict);
+}
+
+QString ThicknessText(const SampleRecord& sample) {
+  return sample.thickness ? Number(sample.thickness->thicknessNm, u"###0.0") +
+                                ThicknessUnit(sample.thickness->physical)
+                          : kNone;
+}
+
+QString RecordDetails(const WholeRecord& record) {
+  Sheet sheet;
+  AddSample(sheet, record);
+  AddVerdicts(sheet, record.sample);
+  AddValues(sheet, record.sample);
+  AddConditions(sheet, record);
+  AddProof(sheet, record);
+  return sheet.Html();
+}
+
+}  // namespace vexa
