@@ -72,6 +72,9 @@ TEST_F(Records, ListShowAndExportTellWhatWasMeasured) {
             state.background[848]);
   EXPECT_EQ(shown["reflectance"].toArray().size(), 401);
   EXPECT_TRUE(shown["standard"].toString().startsWith(QLatin1String("VEXA-KT 440-840")));
+  EXPECT_EQ(shown["cie"].toObject()[QStringLiteral("observer")], 2);
+  EXPECT_GT(shown["cie"].toObject()[QStringLiteral("Rv")].toDouble(), 1.0);
+  EXPECT_TRUE(Do("show " + ids[0]).out.contains("440 nm より下は外挿"));
   EXPECT_EQ(shown["station"], QStringLiteral("一号"));
   EXPECT_EQ(Do("show 1").status, 1) << "settings are no sample";
 
@@ -80,6 +83,8 @@ TEST_F(Records, ListShowAndExportTellWhatWasMeasured) {
   const QJsonArray all =
       QJsonDocument::fromJson(files.Read("o.json"))[QStringLiteral("records")].toArray();
   EXPECT_EQ(all[0].toObject(), shown.Json());
+  ASSERT_EQ(Do(both + "@o.jdx").status, 0);
+  EXPECT_TRUE(files.Read("o.jdx").contains("\n##$CIE illuminant= A\n"));
   ASSERT_EQ(Do(both + "@o.csv").status, 0);
   EXPECT_EQ(Run("judge @o.csv --standard @o.csv").status, 1);
   ASSERT_EQ(Do("import @o.csv --lot L2").status, 0);
@@ -107,6 +112,10 @@ TEST_F(Records, EvaluateComputesAnewFromTheCounts) {
   const QJsonObject other = evaluated("--env @a.env --standard @a.std");
   EXPECT_DOUBLE_EQ(other[QStringLiteral("reflectance")].toArray()[9].toDouble(),
                    2.0 * stored.toArray()[9].toDouble());
+  const auto luminous = [](const QJsonObject& record) {
+    return record[QStringLiteral("cie")][QLatin1String("Rv")].toDouble();
+  };
+  EXPECT_NEAR(luminous(other), 2.0 * luminous(anew), 1e-12);
   EXPECT_EQ(other[QStringLiteral("verdict")], QStringLiteral("NG"));
   EXPECT_EQ(Do("show " + ids[0] + " --json")["reflectance"], stored) << "stored values stay";
 }

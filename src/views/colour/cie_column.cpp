@@ -28,7 +28,7 @@ CieColumn::CieColumn(QGridLayout& grid, const Rows& rows) {
        {std::pair{ColourKind::kInstrument, kOwnColumn}, std::pair{ColourKind::kCie, kCieColumn}}) {
     QLabel* heading =
         AddText(grid, 0, column, kind == ColourKind::kCie ? "CieHeading" : "InstrumentHeading",
-                ColourKindText(kind));
+                ColourKindText(kind), column == kOwnColumn ? 2 : 1);  // with the unit
     heading->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
     QFont bold = heading->font();
     bold.setBold(true);

@@ -164,7 +164,7 @@ PageTable CieTable(const VEXATYPE& state) {
     const bool spread = part.value == &CieColour::spread;
     const QString symbol = QString::fromUtf8(part.symbol);
     table.columns.push_back(
-        {spread ? Text::tr("外挿差%1").arg(symbol) : symbol, spread ? 200.0 : 138.0});
+        {spread ? Text::tr("外挿差%1").arg(symbol) : symbol, spread ? 250.0 : 133.0});
   }
   AddRows(table, state, [&state](const MeasurementSlot& slot, Row& row) {
     const std::optional<CieColour> colour = CalcCieColour(slot.reflectance, state.colour);
