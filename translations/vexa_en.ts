@@ -2826,7 +2826,7 @@ controller is not connected.</translation>
         <translation>Searches, shows, exports and checks the kept measurements.</translation>
     </message>
     <message>
-        <source>%1 のどれか。</source>
+        <source>次のどれか：%1。</source>
         <translation>One of %1.</translation>
     </message>
     <message>

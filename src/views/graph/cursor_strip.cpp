@@ -52,7 +52,7 @@ void CursorStrip::Arrange() {
   const int most = room / fontMetrics().horizontalAdvance(QStringLiteral("■ 10: 100.000"));
   const int rows = kMostCurves <= 2 * most ? 2 : 3;
   const auto columnsFor = [rows](int curves) { return (curves + rows - 1) / rows; };
-  const int value = fontMetrics().horizontalAdvance(QStringLiteral("■ : 10000.000"));
+  const int value = fontMetrics().horizontalAdvance(QStringLiteral("■ : 100.000"));
   const int columns = std::max(columnsFor(std::max(count_, 1)),
                                std::min(columnsFor(kMostCurves), room / (widestName_ + value)));
   if (rows == rows_ && columns == columns_) {
