@@ -3154,7 +3154,7 @@ Commands:
         <translation>Searches, shows, exports and checks the kept measurements.</translation>
     </message>
     <message>
-        <source>%1 のどれか。</source>
+        <source>次のどれか：%1。</source>
         <translation>One of %1.</translation>
     </message>
     <message>

@@ -155,7 +155,8 @@ int main(int argc, char* argv[]) {
 
   QCommandLineParser parser;
   parser.setApplicationDescription(Text::tr("顕微反射率測定装置 VEXA-KT の制御・解析プログラム。"));
-  parser.addHelpOption();
+  parser.addOption(
+      {{QStringLiteral("h"), QStringLiteral("help")}, Text::tr("この説明を表示します。")});
   parser.addVersionOption();
   parser.addPositionalArgument(QStringLiteral("FILE"),
                                Text::tr("開くデータファイルまたは環境ファイル。"),

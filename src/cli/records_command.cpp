@@ -70,7 +70,7 @@ QString ActionNames() {
 
 void DeclareOptions(QCommandLineParser& parser) {
   parser.addPositionalArgument(QStringLiteral("ACTION"),
-                               Text::tr("%1 のどれか。").arg(ActionNames()));
+                               Text::tr("次のどれか：%1。").arg(ActionNames()));
   const auto add = [&parser](const QString& name, const QString& text, const char* value) {
     parser.addOption({name, text, QLatin1String(value)});
   };

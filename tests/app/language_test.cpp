@@ -221,7 +221,7 @@ TEST_F(Languages, EveryTextIsInItsLanguageAndHasRoom) {
     SCOPED_TRACE(LanguageCode(language).toStdString());
     UseLanguage(language);
     peer.files.Write("program.json", R"({"showCie": true})");
-    Start();
+    StartPatient();
     ASSERT_NO_FATAL_FAILURE(MeasureTwo());
     window->resize(1024, 600);
     test::Wait(0);
@@ -270,19 +270,19 @@ class Day : public Languages {
 
   // The files that it leaves, by name. The program directory differs in six letters alone.
   std::map<QString, QByteArray> Files() {
-    Start();
+    StartPatient();
     Work();
     EXPECT_EQ(messages.Take(), (test::Shown{{Message::kSaveEnvironment, {Path("a.env")}}}));
-    std::map<QString, QByteArray> files;
+    std::map<QString, QByteArray> left;
     for (const QString& name : QDir(peer.Directory()).entryList(QDir::Files)) {
       // Rows of the store are chained by what is drawn at random.
       if (!name.startsWith(QLatin1String("com")) && !name.startsWith(QLatin1String("records.db"))) {
-        files[name] =
+        left[name] =
             peer.files.Read(name.toUtf8()).replace(peer.Directory().last(6).toLatin1(), "");
       }
     }
-    files[QStringLiteral("the caption of the window")] = title.toUtf8();
-    return files;
+    left[QStringLiteral("the caption of the window")] = title.toUtf8();
+    return left;
   }
 };
 
