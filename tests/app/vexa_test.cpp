@@ -309,10 +309,12 @@ TEST_F(MainWindow, AsksAboutTheEnvironmentAtTheEnd) {
 
 TEST_F(MainWindow, ASecondWindowIsToldAndNeitherOverwritesTheOthersSettings) {
   window->Commands().saveEnvironment->trigger();
-  EXPECT_EQ(messages.Take(), Shown{});
+  window->close();
+  Start();
+  messages.Take();
   const std::unique_ptr<VEXA> first = std::move(window);
   Start();
-  EXPECT_EQ(messages.Take(), (Shown{{Message::kAnotherWindow, {peer.Directory()}}}));
+  EXPECT_EQ(messages.Take().front(), (ShownMessage{Message::kAnotherWindow, {peer.Directory()}}));
 
   const ShownMessage environment{Message::kReplaceChangedFile, {Path("vexa.env")}};
   const ShownMessage calibration{Message::kReplaceChangedFile, {Path("vexa.cal")}};
@@ -465,7 +467,8 @@ TEST_F(MainWindow, CalibrationShiftIsKeptInItsFile) {
     Click(dialog, "OK");
   });
   EXPECT_EQ(messages.Take(),
-            (Shown{{"VEXA-KT 情報: この設定は、再起動を含め次の測定から有効になります。"
+            (Shown{{Message::kReplaceChangedFile, {Path("vexa.cal")}},
+                   {"VEXA-KT 情報: この設定は、再起動を含め次の測定から有効になります。"
                     "\r\rｷｬﾘﾌﾞﾚｰｼｮﾝ･ﾌｧｲﾙ名:" +
                         Path("vexa.cal").toStdString(),
                     64}}));
