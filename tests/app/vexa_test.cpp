@@ -4,6 +4,7 @@
 #include <gtest/gtest.h>
 
 #include <cmath>
+#include <functional>
 
 #include "app/main_window_test.h"
 #include "files/data_file.h"
@@ -533,6 +534,34 @@ TEST_F(MainWindow, CursorFollowsClickKeysAndJump) {
       Click(dialog, "OK");
     });
     EXPECT_EQ(graph.CursorNm(), nm);
+  }
+}
+
+TEST_F(MainWindow, AccumulatingEndsWhereTheConditionsChange) {
+  MeasureThrough(0);
+  const std::pair<const char*, std::function<void()>> changes[] = {
+      {"the display settings, with the points kept",
+       [&] {
+         messages.answers = {MessageResult::kNo};
+         InDialog(window->Commands().displaySettings, [](QWidget& dialog) {
+           Click(dialog, "Illuminant3");
+           Click(dialog, "OK");
+         });
+       }},
+      {"an environment", [&] { OpenEnvironment(VEXATYPE()); }},
+  };
+  auto& box = Find<QAbstractButton>("AccumulateChk");
+  for (const auto& [name, change] : changes) {
+    SCOPED_TRACE(name);
+    Press("AccumulateChk");
+    Measure("Mes1", 300);
+    ASSERT_TRUE(box.isChecked());
+    const ColourStock before = window->State().stock;
+    EXPECT_GT(before.Count, 0);
+    change();
+    EXPECT_FALSE(box.isChecked());
+    Measure("Mes1", 200);
+    EXPECT_EQ(window->State().stock, before);
   }
 }
 
