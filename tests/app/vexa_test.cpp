@@ -5,6 +5,7 @@
 
 #include <QComboBox>
 #include <cmath>
+#include <functional>
 
 #include "app/main_window_test.h"
 #include "files/data_file.h"
@@ -312,10 +313,12 @@ TEST_F(MainWindow, AsksAboutTheEnvironmentAtTheEnd) {
 
 TEST_F(MainWindow, ASecondWindowIsToldAndNeitherOverwritesTheOthersSettings) {
   window->Commands().saveEnvironment->trigger();
-  EXPECT_EQ(messages.Take(), Shown{});
+  window->close();
+  Start();
+  messages.Take();
   const std::unique_ptr<VEXA> first = std::move(window);
   Start();
-  EXPECT_EQ(messages.Take(), (Shown{{Message::kAnotherWindow, {peer.Directory()}}}));
+  EXPECT_EQ(messages.Take().front(), (ShownMessage{Message::kAnotherWindow, {peer.Directory()}}));
 
   const ShownMessage environment{Message::kReplaceChangedFile, {Path("vexa.env")}};
   const ShownMessage calibration{Message::kReplaceChangedFile, {Path("vexa.cal")}};
@@ -468,7 +471,8 @@ TEST_F(MainWindow, CalibrationShiftIsKeptInItsFile) {
     Click(dialog, "OK");
   });
   EXPECT_EQ(messages.Take(),
-            (Shown{{"VEXA-KT 情報: この設定は、再起動を含め次の測定から有効になります。"
+            (Shown{{Message::kReplaceChangedFile, {Path("vexa.cal")}},
+                   {"VEXA-KT 情報: この設定は、再起動を含め次の測定から有効になります。"
                     "\r\rｷｬﾘﾌﾞﾚｰｼｮﾝ･ﾌｧｲﾙ名:" +
                         Path("vexa.cal").toStdString(),
                     64}}));
@@ -533,6 +537,34 @@ TEST_F(MainWindow, CursorFollowsClickKeysAndJump) {
       Click(dialog, "OK");
     });
     EXPECT_EQ(graph.CursorNm(), nm);
+  }
+}
+
+TEST_F(MainWindow, AccumulatingEndsWhereTheConditionsChange) {
+  MeasureThrough(0);
+  const std::pair<const char*, std::function<void()>> changes[] = {
+      {"the display settings, with the points kept",
+       [&] {
+         messages.answers = {MessageResult::kNo};
+         InDialog(window->Commands().displaySettings, [](QWidget& dialog) {
+           Click(dialog, "Illuminant3");
+           Click(dialog, "OK");
+         });
+       }},
+      {"an environment", [&] { OpenEnvironment(VEXATYPE()); }},
+  };
+  auto& box = Find<QAbstractButton>("AccumulateChk");
+  for (const auto& [name, change] : changes) {
+    SCOPED_TRACE(name);
+    Press("AccumulateChk");
+    Measure("Mes1", 300);
+    ASSERT_TRUE(box.isChecked());
+    const ColourStock before = window->State().stock;
+    EXPECT_GT(before.Count, 0);
+    change();
+    EXPECT_FALSE(box.isChecked());
+    Measure("Mes1", 200);
+    EXPECT_EQ(window->State().stock, before);
   }
 }
 

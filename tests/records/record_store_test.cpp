@@ -53,8 +53,8 @@ TEST_F(Store, KeepsEveryBitOfAMeasuredSample) {
   slot.fit = FilmFit{.layers = {{1500.0, 1.5, 0.5}}, .warnings = {QStringLiteral("W")}};
   slot.judgement.groups[0] = {true, 0.25};
   slot.judgement.groups[4] = {false, std::nullopt};
-  state.referenceReflectance[440] = 1.0 / 3.0;
-  state.colour.avgFrom = 900;  // no average can be computed
+  state.sampleBasis.referenceReflectance[440] = 1.0 / 3.0;  // another was set since it began
+  state.colour.avgFrom = 900;                               // no average can be computed
   const MeasuredSample measured =
       *MeasuredSampleOf(state, 1, With<Context>(&Context::lot, "ロット 1"));
   const Answer<QList<qint64>> numbers = store.Append(measured.Rows());
@@ -75,7 +75,7 @@ TEST_F(Store, KeepsEveryBitOfAMeasuredSample) {
   EXPECT_EQ(frame->kind, RecordFrameKind::kBackground);
   EXPECT_EQ(ToFrame(store.Find(sample->referenceId).value.row)->counts, state.reference);
   const auto settings = ToSettings(store.Find(sample->settingsId).value.row);
-  EXPECT_EQ(settings->referenceReflectance, state.referenceReflectance);
+  EXPECT_EQ(settings->referenceReflectance, state.sampleBasis.referenceReflectance);
 }
 
 TEST_F(Store, KeepsTheCieColourAndItsVerdict) {
