@@ -134,6 +134,27 @@ TEST_F(History, ClearsAfterAQuestion) {
   EXPECT_EQ(Labels(), "0 - -");
 }
 
+TEST_F(History, SaysOfWhichKindEachPointIs) {
+  state.Slot(1)->doubts = {ThicknessDoubt::kEdge};
+  Add({1500.0});
+  state.Slot(1)->doubts.clear();
+  state.Slot(1)->fit = FilmFit{.outcome = FitOutcome::kOk, .layers = {{1512.0, 1.0}}};
+  Add({1510.0});
+  state.Slot(1)->thickness = {};
+  Press("AddPoint");
+  const auto kinds = [this] {
+    return Text("PointKind") + ' ' + Text("PointFit") +
+           (Find<QLabel>("PointDoubt").pixmap().isNull() ? "" : " !");
+  };
+  EXPECT_EQ(Labels() + ' ' + kinds(), "3 1512.0 3 膜厚ﾌｨｯﾄ -");
+  emit Find<QAbstractButton>("CursorLeft").pressed();
+  EXPECT_EQ(kinds(), "物理膜厚 1512.0");
+  emit Find<QAbstractButton>("CursorLeft").pressed();
+  EXPECT_EQ(kinds(), "物理膜厚 - !");
+  Press("DeletePoint");
+  EXPECT_EQ(kinds(), "物理膜厚 1512.0") << "what is known of a point moves with it";
+}
+
 TEST_F(History, APointOffTheScaleKeepsTheScale) {
   Add({1510.0, 1630.0, 20001.0});
   EXPECT_EQ(messages.Take(), (Shown{{Message::kHistoryScaleFault}}));

@@ -13,6 +13,7 @@
 #include "views/optics/thickness_panel.h"
 #include "views/optics/wave_list_dlg.h"
 #include "views/paper/current_printer.h"
+#include "views/print/slot_tables.h"
 
 namespace vexa {
 namespace {
@@ -145,6 +146,29 @@ TEST_F(Thickness, JumpTakesAWholeNumber) {
     EXPECT_EQ(dialog.Outcome(), QStringLiteral("OK"));
     EXPECT_EQ(dialog.Wavelength(), 650);
   }
+}
+
+TEST_F(Thickness, ADoubtStandsBesideTheNumberWhereverItIsShown) {
+  MeasurementSlot& slot = *state.Slot(1);
+  slot.valid = true;
+  slot.thickness = {{500.0, 1.0}, {600.0, 1.0}, 2304.0, true, 1.6, 1.6, {}};
+  const QString why = ThicknessDoubtText(ThicknessDoubt::kDisagrees);
+  const auto shown = [&] {
+    panel.Show(1);
+    const WaveListDlg list(state, 1, printer);
+    std::string where;
+    where += Text("ThicknessDoubt") == why.toStdString() ? 'p' : '-';
+    where += test::Child<QLabel>(list, "WaveListDoubts").text().contains(why) ? 'l' : '-';
+    const std::optional<PageTable> table = ThicknessTable(state);
+    where += table && table->rows.at(0).at(2).text.contains(why) ? 'r' : '-';
+    where += ValueTable(state).rows.at(0).back().text.startsWith(u'▲') ? 'v' : '-';
+    return where;
+  };
+  EXPECT_EQ(shown(), "----");
+  EXPECT_TRUE(Text("Thickness").starts_with("2304.0"));
+  slot.doubts = {ThicknessDoubt::kDuplicate, ThicknessDoubt::kDisagrees};
+  EXPECT_EQ(shown(), "plrv");
+  EXPECT_TRUE(Text("Thickness").starts_with("2304.0")) << "the number is as it was";
 }
 
 }  // namespace
