@@ -39,7 +39,7 @@ TEST_F(Records, AppearAsTheyAreMeasured) {
   MeasureFrames();
   Measure("Mes1", 300);
   EXPECT_TRUE(WaitForRows(records, 1));
-  Measure("Mes2", 300);
+  Measure("Mes2", 310);
   EXPECT_TRUE(WaitForRows(records, 2));
   EXPECT_EQ(&OpenRecords(), &records) << "there is one window";
   EXPECT_FALSE(records.findChild<QComboBox*>(QStringLiteral("Place"))->isVisible());
@@ -48,7 +48,7 @@ TEST_F(Records, AppearAsTheyAreMeasured) {
 TEST_F(Records, UnreadableSettingsAreTold) {
   peer.files.Write("records.json", "{\"station\": 1}");
   Create();
-  Done(window->Load());
+  test::Done(window->Load());
   const test::Shown shown = messages.Take();
   EXPECT_NE(std::ranges::find(shown, test::ShownMessage(Message::kRecordSettingsUnreadable,
                                                         {RecordSettingsPath(peer.Directory())})),
@@ -80,7 +80,7 @@ TEST_F(Records, WaitForASharedStoreThatIsAway) {
   EXPECT_FALSE(waiting.isVisible());
 
   server.Stop();
-  Measure("Mes2", 300);
+  Measure("Mes2", 310);
   ASSERT_TRUE(QTest::qWaitFor([&waiting] { return waiting.isVisible(); }, 20000));
   EXPECT_EQ(waiting.text(), QStringLiteral("⇡1"));
   place.setCurrentIndex(1);

@@ -42,8 +42,8 @@ class RecordsWindowTest : public test::WindowTest {
     ASSERT_TRUE(store.Append(MeasuredSampleOf(measured, 1, context)->Rows()));
   }
 
-  void Open() {
-    reader = std::make_unique<RecordReader>(path, QString());
+  void Open(const char* shared = "") {
+    reader = std::make_unique<RecordReader>(path, QLatin1String(shared));
     const auto print = [this](const QList<WholeRecord>& records) { printed = records; };
     window = std::make_unique<RecordsWindow>(RecordsWindowParts{
         *reader, session, desk, messages, dialogs, path, QStringLiteral("line 1"), print});
@@ -126,6 +126,12 @@ TEST_F(RecordsWindowTest, FieldsRestrictWhatIsFound) {
     Settle();
     EXPECT_EQ(Numbers(), found) << day;
   }
+}
+
+TEST_F(RecordsWindowTest, FitsASmallScreen) {
+  Open("service=none");
+  EXPECT_LE(window->minimumSizeHint().width(), 1024 - 16);
+  EXPECT_LE(window->minimumSizeHint().height(), 600 - 44);
 }
 
 TEST_F(RecordsWindowTest, PagesComeAsTheTableScrolls) {

@@ -27,7 +27,7 @@ namespace {
 
 constexpr qsizetype kMostCurves = 50;
 constexpr int kMostSelectedAtOnce = 2000;
-constexpr std::array<int, 9> kColumnWidths{140, 90, 110, 46, 56, 56, 56, 66, 92};
+constexpr std::array<int, 9> kColumnWidths{140, 90, 110, 58, 56, 56, 56, 66, 92};
 
 // Why nothing is found, for the user.
 QString SearchFaultText(StoreFault fault) {
