@@ -31,12 +31,9 @@ constexpr double kLargestGrowthKiB = 8192.0;
 // Says yes to everything: a slot may be overwritten.
 class Yes : public vexa::MessageService {
  public:
-  vexa::MessageResult MsgCall(const QString& /*text*/, std::int16_t type,
-                              const QString& /*title*/) override {
-    const auto buttons = type & vexa::message_type::kButtonMask;
-    return buttons == vexa::message_type::kYesNo || buttons == vexa::message_type::kYesNoCancel
-               ? vexa::MessageResult::kYes
-               : vexa::MessageResult::kOk;
+  void Tell(const vexa::MessageCall& /*call*/) override {}
+  QCoro::Task<vexa::MessageResult> Ask(vexa::MessageCall call) override {
+    co_return vexa::AgreeingAnswer(vexa::CatalogueEntry(call.id).buttons);
   }
   void Beep() override {}
 };

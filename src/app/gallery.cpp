@@ -108,7 +108,7 @@ void Gallery::TakeWindows(VEXA& window) {
 void Gallery::TakeMessage() {
   OriginalMsgFrm message;
   const auto show = [&message] {
-    message.Show(
+    message.MsgCall(
         {Message::kControllerFailed, {}, Text::tr("com5 (/dev/ttyUSB0) という装置がありません。")});
   };
   TakeDialog(show, QStringLiteral("message"), [this](QWidget& dialog) {

@@ -103,7 +103,7 @@ TEST_F(DisplaySettings, ChangedConditionsOfferToClearTheStock) {
     test::Click(window, "Illuminant3");
     test::Child<QLineEdit>(window, "Shortest").setText(QStringLiteral("500"));
     test::Click(window, "OK");
-    EXPECT_EQ(messages.Take().at(0).type, 36);
+    EXPECT_EQ(messages.Take().at(0).id, Message::kClearStockForDisplay);
     EXPECT_EQ(state.stock.Count, answer == MessageResult::kYes ? 0 : 1);
     EXPECT_EQ(state.colour.illuminant, 4);
     EXPECT_EQ(state.display.shortestNm, 440.0) << "full scale stands above what was typed";
