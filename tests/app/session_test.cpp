@@ -89,8 +89,9 @@ TEST_F(KeptSession, TheOfferListsAllThatWasLeft) {
   Start();
   const test::Shown offers = messages.Take();
   ASSERT_EQ(offers.size(), 1U);
-  EXPECT_NE(offers[0].text.find("。\r\rｽﾛｯﾄ: 2, 10\r累積数: 3\r膜厚ｸﾞﾗﾌ: 2\r\r"), std::string::npos)
-      << offers[0].text;
+  EXPECT_NE(offers[0].Text().find("。\r\rｽﾛｯﾄ: 2, 10\r累積数: 3\r膜厚ｸﾞﾗﾌ: 2\r\r"),
+            std::string::npos)
+      << offers[0].Text();
 }
 
 TEST_F(KeptSession, ASlotIsKeptBeforeAnyMessageAboutItIsAnswered) {

@@ -291,8 +291,7 @@ TEST_F(MainWindow, AsksAboutTheEnvironmentAtTheEnd) {
   EXPECT_FALSE(peer.files.Has("vexa.int"));
   window->close();
   EXPECT_FALSE(window->isVisible());
-  const ShownMessage question{
-      "VEXA-KT ﾒｯｾｰｼﾞ: " + Path("vexa.env").toStdString() + "\r\r現在の環境をｾｰﾌﾞしますか。", 35};
+  const ShownMessage question{Message::kSaveEnvironment, {Path("vexa.env")}};
   EXPECT_EQ(messages.Take(), (Shown{question, question}));
   EXPECT_TRUE(peer.files.Has("vexa.int"));
   EXPECT_FALSE(peer.files.Has("vexa.env"));
@@ -345,10 +344,8 @@ TEST_F(MainWindow, FitsOntoASmallScreen) {
 }
 
 TEST_F(MainWindow, SamplingSettingsAreCheckedAndSentAtOnce) {
-  const ShownMessage timeError{
-      "VEXA-KT ｴﾗｰ: ｻﾝﾌﾟﾘﾝｸﾞ時間が設定範囲を越えています。 (30 ≦ 設定値 ≦ 10000)", 16};
-  const ShownMessage countError{
-      "VEXA-KT ｴﾗｰ: 取り込み平均回数が設定範囲を越えています。 (1 ≦ 設定値 ≦ 16)", 16};
+  const ShownMessage timeError{Message::kSamplingTimeOutOfRange};
+  const ShownMessage countError{Message::kAveragingOutOfRange};
   struct Case {
     const char* time;
     const char* averaging;
@@ -396,8 +393,7 @@ TEST_F(MainWindow, SamplingSettingsAreCheckedAndSentAtOnce) {
 }
 
 TEST_F(MainWindow, CalibrationShiftIsKeptInItsFile) {
-  const ShownMessage range{
-      "VEXA-KT ｴﾗｰ: ｷｬﾘﾌﾞﾚｰｼｮﾝのｼﾌﾄ値が設定範囲を越えています。 (0 ≦ 設定値 ≦ 7)", 16};
+  const ShownMessage range{Message::kShiftOutOfRange};
   for (const char* shift : {"8", ""}) {
     InDialog(window->Commands().calibration, [shift](QWidget& dialog) {
       Type(dialog, "Shift", shift);

@@ -4,6 +4,7 @@
 #include <deque>
 #include <functional>
 #include <ostream>
+#include <string>
 #include <utility>
 #include <vector>
 
@@ -18,13 +19,17 @@ struct ShownMessage {
 
   bool operator==(const ShownMessage&) const = default;
 
+  /// "TITLE: TEXT".
+  [[nodiscard]] std::string Text() const {
+    return MessageTitle(id).toStdString() + ": " + MessageText({id, arguments}).toStdString();
+  }
+
   Message id;
   QStringList arguments;
 };
 
 inline void PrintTo(const ShownMessage& message, std::ostream* out) {
-  *out << '"' << MessageTitle(message.id).toStdString() << ": "
-       << MessageText({message.id, message.arguments}).toStdString() << '"';
+  *out << '"' << message.Text() << '"';
 }
 
 using Shown = std::vector<ShownMessage>;
