@@ -4,6 +4,7 @@
 #include <QApplication>
 #include <QCloseEvent>
 #include <QMenuBar>
+#include <QPointer>
 #include <QScreen>
 #include <utility>
 
@@ -115,6 +116,7 @@ void VEXA::closeEvent(QCloseEvent* event) {
 QCoro::Task<> VEXA::End() {
   const Phase before = phase_;
   SetPhase(Phase::kEnding);
+  const QPointer<VEXA> alive(this);
   bool ending = true;
   if (!desk_.IsIdle()) {
     const MessageCall question{Message::kEndMeasurement};
@@ -124,6 +126,10 @@ QCoro::Task<> VEXA::End() {
   if (ending) {
     co_await desk_.Finish();
     ending = co_await Unload();
+  }
+  // What is asked is refused, too, when a signal ends the program meanwhile.
+  if (alive == nullptr || phase_ != Phase::kEnding) {
+    co_return;
   }
   SetPhase(ending ? Phase::kEnded : before);
   if (ending) {

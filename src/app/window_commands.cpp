@@ -129,7 +129,8 @@ void WindowCommands::Open(QAction* action, std::function<QDialog*()> make) {
 }
 
 QCoro::Task<> WindowCommands::TakeOverEnvironment() {
-  if (OpenEnvironment(session_, messages_, dialogs_)) {
+  const bool changed = co_await OpenEnvironment(session_, messages_, dialogs_);
+  if (changed) {
     co_await desk_.SendSampling();
   }
 }

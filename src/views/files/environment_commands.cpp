@@ -28,12 +28,13 @@ bool Write(const QString& path, const QString& name, Session& session, MessageSe
 
 }  // namespace
 
-bool OpenEnvironment(Session& session, MessageService& messages, FileDialogs& dialogs) {
+QCoro::Task<bool> OpenEnvironment(Session& session, MessageService& messages,
+                                  FileDialogs& dialogs) {
   const std::optional<QString> path =
-      dialogs.AskOpen(Text::tr("環境ﾌｧｲﾙを開く"),
-                      Text::tr("環境ﾃﾞｰﾀ･ﾌｧｲﾙ(*.env)|*.env|") + Text::tr("全てのﾌｧｲﾙ(*.*)|*.*|"));
+      co_await dialogs.AskOpen(Text::tr("環境ﾌｧｲﾙを開く"), Text::tr("環境ﾃﾞｰﾀ･ﾌｧｲﾙ(*.env)|*.env|") +
+                                                               Text::tr("全てのﾌｧｲﾙ(*.*)|*.*|"));
   if (!path || !MayKeepName(NameForStartup(session.State(), *path), messages)) {
-    return false;
+    co_return false;
   }
   Settings settings = session.SettingsInForce();
   const Environment environment = ReadEnvironment(*path, settings.programDirectory);
@@ -41,7 +42,7 @@ bool OpenEnvironment(Session& session, MessageService& messages, FileDialogs& di
   TellAll(environment.notices, messages);
   TellAll(LoadDispersionData(settings).notices, messages);
   session.TakeSettings(settings);
-  return true;
+  co_return true;
 }
 
 QCoro::Task<bool> SaveEnvironment(Session& session, MessageService& messages) {
@@ -62,7 +63,7 @@ QCoro::Task<bool> SaveEnvironment(Session& session, MessageService& messages) {
 }
 
 QCoro::Task<> SaveEnvironmentAs(Session& session, MessageService& messages, FileDialogs& dialogs) {
-  const std::optional<SaveChoice> choice = dialogs.AskSave(
+  const std::optional<SaveChoice> choice = co_await dialogs.AskSave(
       Text::tr("環境ﾌｧｲﾙの名前を付けて保存"), QStringLiteral("Enviroment File (*.env)|*.env"));
   if (!choice) {
     co_return;
