@@ -14,6 +14,7 @@
 #include "views/common/original_msg_frm.h"
 #include "views/common/scroll_body.h"
 #include "views/graph/reflectance_graph.h"
+#include "views/graph/view_table.h"
 
 namespace vexa {
 namespace {
@@ -47,11 +48,6 @@ int Gallery::Take(VEXA& window) {
 }
 
 void Gallery::TakeViews(VEXA& window) {
-  const QStringList names{
-      QStringLiteral("view-reflectance"), QStringLiteral("view-reflectance-text"),
-      QStringLiteral("view-index"),       QStringLiteral("view-light"),
-      QStringLiteral("view-light-text"),  QStringLiteral("view-chromaticity"),
-      QStringLiteral("view-reciprocal")};
   const QList<QAction*> views = window.Commands().views->actions();
   for (qsizetype i = 0; i < views.size(); ++i) {
     views[i]->trigger();
@@ -59,7 +55,7 @@ void Gallery::TakeViews(VEXA& window) {
     while (window.findChild<ColourPanel*>()->Picture()->IsBuilding()) {
       QApplication::processEvents();
     }
-    Save(window, names[i]);
+    Save(window, QStringLiteral("view-") + QLatin1String(kViews[static_cast<std::size_t>(i)].name));
   }
   views.constFirst()->trigger();
 }

@@ -7,6 +7,7 @@
 #include "base/number_text.h"
 #include "cli/console.h"
 #include "colour/colour_tables.h"
+#include "colour/colour_values.h"
 
 namespace vexa::cli {
 namespace {
@@ -14,16 +15,24 @@ namespace {
 struct CiePart {
   const char* name;
   double CieColour::*value;
-  const char16_t* pattern;
+  QStringView pattern;
 };
 
+using namespace colour_value;  // with the digits of the instrument's own colour
+
 constexpr CiePart kCieParts[] = {
-    {"X", &CieColour::X, u"##0.0##"},   {"Y", &CieColour::Y, u"##0.0##"},
-    {"Z", &CieColour::Z, u"##0.0##"},   {"x", &CieColour::x, u"0.0000"},
-    {"y", &CieColour::y, u"0.0000"},    {"L", &CieColour::L, u"##0.00"},
-    {"a", &CieColour::a, u"0.0000"},    {"b", &CieColour::b, u"0.0000"},
-    {"C", &CieColour::C, u"##0.000"},   {"h", &CieColour::h, u"##0.000"},
-    {"Rv", &CieColour::Rv, u"##0.0##"}, {"spread", &CieColour::spread, u"##0.000"},
+    {"X", &CieColour::X, kLuminous.pattern},
+    {"Y", &CieColour::Y, kLuminous.pattern},
+    {"Z", &CieColour::Z, kLuminous.pattern},
+    {"x", &CieColour::x, kChromaticityX.pattern},
+    {"y", &CieColour::y, kChromaticityY.pattern},
+    {"L", &CieColour::L, kL.pattern},
+    {"a", &CieColour::a, kA.pattern},
+    {"b", &CieColour::b, kB.pattern},
+    {"C", &CieColour::C, kChroma.pattern},
+    {"h", &CieColour::h, kHue.pattern},
+    {"Rv", &CieColour::Rv, kLuminous.pattern},
+    {"spread", &CieColour::spread, u"##0.000"},
 };
 
 double ValueOf(const std::optional<CieColour>& colour, const CiePart& part) {
