@@ -49,6 +49,8 @@ class Hands {
   /// One turn of the event loop, and what is in front then is dealt with; false when nothing was.
   bool Work() {
     QApplication::processEvents(QEventLoop::AllEvents);
+    // Nothing is deleted later where no event loop runs.
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
     QWidget* front = QApplication::activeModalWidget();
     if (front == nullptr) {
       return false;
