@@ -45,10 +45,7 @@ class PreparedAnswers : public MessageService {
   }
   QCoro::Task<MessageResult> Ask(MessageCall call) override {
     Tell(call);
-    if (answers.empty()) {
-      co_return MessageResult::kOk;
-    }
-    co_return std::exchange(answers, {answers.begin() + 1, answers.end()}).front();
+    co_return NextAnswer();
   }
   void Beep() override { ++beeps; }
 
@@ -59,6 +56,15 @@ class PreparedAnswers : public MessageService {
   int beeps = 0;
 
  private:
+  MessageResult NextAnswer() {
+    if (answers.empty()) {
+      return MessageResult::kOk;
+    }
+    const MessageResult answer = answers.front();
+    answers.pop_front();
+    return answer;
+  }
+
   Shown shown_;
 };
 
