@@ -22,12 +22,12 @@ namespace {
 /// Asks for nothing.
 class NoFiles : public FileDialogs {
  public:
-  std::optional<QString> AskOpen(const QString& /*title*/, const QString& /*filter*/) override {
-    return std::nullopt;
+  QCoro::Task<std::optional<QString>> AskOpen(QString /*title*/, QString /*filter*/) override {
+    co_return std::nullopt;
   }
-  std::optional<SaveChoice> AskSave(const QString& /*title*/, const QString& /*filter*/,
-                                    const QString& /*proposed*/) override {
-    return std::nullopt;
+  QCoro::Task<std::optional<SaveChoice>> AskSave(QString /*title*/, QString /*filter*/,
+                                                 QString /*proposed*/) override {
+    co_return std::nullopt;
   }
 };
 

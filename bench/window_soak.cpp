@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// Measures again and again in the main window on the virtual instrument, and looks at the memory:
-// after the first hundred measurements, in which every slot and view has been drawn, it stays.
+// Measures again and again in the main window on the virtual instrument, opens and closes windows,
+// file dialogs and messages meanwhile, and looks at the memory: after the first hundred
+// measurements, in which every slot, view and dialog has been drawn, it stays.
 // Usage: window_soak [MEASUREMENTS]; exit status 1 when it grew or a measurement failed.
 #include <unistd.h>
 
@@ -9,17 +10,21 @@
 #include <QDir>
 #include <QElapsedTimer>
 #include <QFile>
+#include <QFileDialog>
 #include <QProcess>
 #include <QPushButton>
 #include <QTemporaryDir>
 #include <cstdio>
 #include <memory>
+#include <utility>
 
 #include "app/vexa.h"
 #include "instrument/frm_com_h8_ctrl.h"
 #include "instrument/serial_port_path.h"
 #include "views/common/file_dialogs.h"
+#include "views/common/original_msg_frm.h"
 #include "views/common/theme.h"
+#include "views/common/window_messages.h"
 
 namespace {
 
@@ -28,30 +33,6 @@ constexpr int kWarmUp = 100;
 // A cache that fills late may take a few MiB, once; what every measurement keeps comes to more.
 constexpr double kLargestGrowthKiB = 8192.0;
 
-// Says yes to everything: a slot may be overwritten.
-class Yes : public vexa::MessageService {
- public:
-  vexa::MessageResult MsgCall(const QString& /*text*/, std::int16_t type,
-                              const QString& /*title*/) override {
-    const auto buttons = type & vexa::message_type::kButtonMask;
-    return buttons == vexa::message_type::kYesNo || buttons == vexa::message_type::kYesNoCancel
-               ? vexa::MessageResult::kYes
-               : vexa::MessageResult::kOk;
-  }
-  void Beep() override {}
-};
-
-class NoFiles : public vexa::FileDialogs {
- public:
-  std::optional<QString> AskOpen(const QString& /*title*/, const QString& /*filter*/) override {
-    return std::nullopt;
-  }
-  std::optional<vexa::SaveChoice> AskSave(const QString& /*title*/, const QString& /*filter*/,
-                                          const QString& /*proposed*/) override {
-    return std::nullopt;
-  }
-};
-
 double ResidentKiB() {
   QFile file(QStringLiteral("/proc/self/statm"));
   const bool open = file.open(QIODevice::ReadOnly);
@@ -59,15 +40,67 @@ double ResidentKiB() {
   return pages * static_cast<double>(::sysconf(_SC_PAGESIZE)) / 1024.0;
 }
 
-// Presses the button and lets the window work until it takes commands again.
-bool Measure(vexa::VEXA& window, const QString& button) {
+// Stands for the user at the dialogs: agrees to messages, names a file or cancels by turns, and
+// closes every other window.
+class Hands {
+ public:
+  explicit Hands(const QString& file) : file_(file) {}
+
+  /// One turn of the event loop, and what is in front then is dealt with; false when nothing was.
+  bool Work() {
+    QApplication::processEvents(QEventLoop::AllEvents);
+    // Nothing is deleted later where no event loop runs.
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    QWidget* front = QApplication::activeModalWidget();
+    if (front == nullptr) {
+      return false;
+    }
+    if (auto* message = qobject_cast<vexa::OriginalMsgFrm*>(front)) {
+      auto* yes = message->findChild<QPushButton*>(QStringLiteral("btnYes"));
+      auto* ok = message->findChild<QPushButton*>(QStringLiteral("btnOK"));
+      (yes->isVisible() ? yes : ok)->click();
+    } else if (auto* files = qobject_cast<QFileDialog*>(front);
+               files != nullptr && number_ % 2 == 0) {
+      files->selectFile(file_);
+      static_cast<QDialog*>(files)->done(QDialog::Accepted);
+    } else {
+      front->close();
+    }
+    ++number_;
+    return true;
+  }
+
+  [[nodiscard]] int Number() const { return number_; }
+
+ private:
+  QString file_;
+  int number_ = 0;  ///< of dialogs dealt with
+};
+
+// Presses the button, opens a dialog beside the measurement, and goes on until both are done.
+bool Measure(vexa::VEXA& window, const QString& button, Hands& hands, QAction* beside) {
   window.findChild<QPushButton*>(button)->click();
   QElapsedTimer timer;
   timer.start();
-  do {
-    QApplication::processEvents(QEventLoop::AllEvents);
-  } while (!window.Commands().openFile->isEnabled() && timer.elapsed() < kPatienceMs);
-  return window.Commands().openFile->isEnabled();
+  bool busy = true;
+  while (busy && timer.elapsed() < kPatienceMs) {
+    const bool handled = hands.Work();
+    const bool measuring = !window.Desk().IsIdle();
+    if (measuring && beside != nullptr) {
+      std::exchange(beside, nullptr)->trigger();
+    }
+    busy = handled || measuring || QApplication::activeModalWidget() != nullptr;
+  }
+  return !busy;
+}
+
+// What opens a window, a file dialog or a message while something is measured.
+QList<QAction*> Besides(const vexa::MenuCommands& menu) {
+  return {
+      menu.saveFileAs,      menu.saveEnvironmentAs, menu.printSettings,     menu.print,
+      menu.displaySettings, menu.settingsList,      menu.standards,         menu.thicknessSettings,
+      menu.wavelengthList,  menu.colourDifference,  menu.referenceSettings, menu.calibration,
+      menu.version};
 }
 
 }  // namespace
@@ -85,8 +118,9 @@ int main(int argc, char* argv[]) {
        QStringLiteral("none")});
   int wrong = instrument.waitForReadyRead(kPatienceMs) ? 0 : 1;
 
-  Yes messages;
-  NoFiles dialogs;
+  vexa::WindowMessages messages;
+  vexa::WindowFileDialogs dialogs;
+  Hands hands(directory.filePath(QStringLiteral("soak")));
   double warm = 0.0;
   double growth = 0.0;
   {
@@ -98,23 +132,28 @@ int main(int argc, char* argv[]) {
                              });
                        }},
                       directory.path());
+    messages.SetWindow(&window);
+    dialogs.SetWindow(&window);
     window.show();
     QCoro::waitFor(window.Load());
-    wrong += Measure(window, QStringLiteral("Background")) ? 0 : 1;
-    wrong += Measure(window, QStringLiteral("Reference")) ? 0 : 1;
+    const QList<QAction*> besides = Besides(window.Commands());
+    wrong += Measure(window, QStringLiteral("Background"), hands, nullptr) ? 0 : 1;
+    wrong += Measure(window, QStringLiteral("Reference"), hands, nullptr) ? 0 : 1;
     const QList<QAction*> views = window.Commands().views->actions();
     for (int number = 0; number < measurements && wrong == 0; ++number) {
       views[number % views.size()]->trigger();
       const int slot = 1 + number % vexa::kSlotCount;
-      wrong +=
-          Measure(window, QStringLiteral("Mes%1").arg(slot)) && window.State().Slot(slot)->valid
-              ? 0
-              : 1;
+      wrong += Measure(window, QStringLiteral("Mes%1").arg(slot), hands,
+                       besides[number % besides.size()]) &&
+                       window.State().Slot(slot)->valid
+                   ? 0
+                   : 1;
       if (number == std::min(kWarmUp, measurements / 2)) {
         warm = ResidentKiB();
       }
       if (number % 100 == 99) {
-        std::printf("%8d  measurements, %.0f KiB\n", number + 1, ResidentKiB());
+        std::printf("%8d  measurements, %d dialogs, %.0f KiB\n", number + 1, hands.Number(),
+                    ResidentKiB());
         std::fflush(stdout);
       }
     }
@@ -122,12 +161,12 @@ int main(int argc, char* argv[]) {
     window.close();
     // It goes once the instrument is at rest.
     while (window.isVisible()) {
-      QApplication::processEvents(QEventLoop::WaitForMoreEvents);
+      hands.Work();
     }
   }
   instrument.terminate();
   instrument.waitForFinished(kPatienceMs);
-  std::printf("%8d  measurements, %d wrong; memory %.0f KiB after warm-up, %+.0f KiB\n",
-              measurements, wrong, warm, growth);
+  std::printf("%8d  measurements, %d dialogs, %d wrong; memory %.0f KiB after warm-up, %+.0f KiB\n",
+              measurements, hands.Number(), wrong, warm, growth);
   return wrong == 0 && growth < kLargestGrowthKiB ? 0 : 1;
 }

@@ -5,12 +5,12 @@
 
 namespace vexa::bench {
 
-/// Shows nothing and answers OK.
+/// Shows nothing and agrees to everything.
 class SilentMessages : public MessageService {
  public:
-  MessageResult MsgCall(const QString& /*text*/, std::int16_t /*type*/,
-                        const QString& /*title*/) override {
-    return MessageResult::kOk;
+  void Tell(const MessageCall& /*call*/) override {}
+  QCoro::Task<MessageResult> Ask(MessageCall call) override {
+    co_return AgreeingAnswer(CatalogueEntry(call.id).buttons);
   }
   void Beep() override {}
 };

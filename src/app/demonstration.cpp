@@ -145,15 +145,16 @@ QCoro::Task<int> Demonstration::Drive(VEXA& window) {
   co_return drawn&& saved&& messages_.faults == 0 ? 0 : 1;
 }
 
-std::optional<QString> Demonstration::Names::AskOpen(const QString& /*title*/,
-                                                     const QString& /*filter*/) {
-  return std::nullopt;
+QCoro::Task<std::optional<QString>> Demonstration::Names::AskOpen(QString /*title*/,
+                                                                  QString /*filter*/) {
+  co_return std::nullopt;
 }
 
-std::optional<SaveChoice> Demonstration::Names::AskSave(const QString& /*title*/,
-                                                        const QString& /*filter*/,
-                                                        const QString& /*proposed*/) {
-  return SaveChoice{dataFile};
+QCoro::Task<std::optional<SaveChoice>> Demonstration::Names::AskSave(QString /*title*/,
+                                                                     QString /*filter*/,
+                                                                     QString /*proposed*/) {
+  const SaveChoice choice{dataFile};
+  co_return choice;
 }
 
 }  // namespace vexa

@@ -36,9 +36,9 @@ class Demonstration {
   /// Names the file of the run wherever one is asked for.
   class Names : public FileDialogs {
    public:
-    std::optional<QString> AskOpen(const QString& title, const QString& filter) override;
-    std::optional<SaveChoice> AskSave(const QString& title, const QString& filter,
-                                      const QString& proposed) override;
+    QCoro::Task<std::optional<QString>> AskOpen(QString title, QString filter) override;
+    QCoro::Task<std::optional<SaveChoice>> AskSave(QString title, QString filter,
+                                                   QString proposed) override;
     QString dataFile;
   };
 

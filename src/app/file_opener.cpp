@@ -72,7 +72,8 @@ QCoro::Task<> FileOpener::AskForData() {
 }
 
 QCoro::Task<> FileOpener::AskForEnvironment() {
-  if (OpenEnvironment(session_, messages_, dialogs_)) {
+  const bool opened = co_await OpenEnvironment(session_, messages_, dialogs_);
+  if (opened) {
     co_await TakeEnvironment();
   }
 }

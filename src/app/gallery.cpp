@@ -21,6 +21,7 @@
 #include "views/common/scroll_body.h"
 #include "views/film/film_fit_window.h"
 #include "views/graph/reflectance_graph.h"
+#include "views/graph/view_table.h"
 
 namespace vexa {
 namespace {
@@ -63,11 +64,6 @@ int Gallery::Take(VEXA& window) {
 }
 
 void Gallery::TakeViews(VEXA& window) {
-  const QStringList names{
-      QStringLiteral("view-reflectance"), QStringLiteral("view-reflectance-text"),
-      QStringLiteral("view-index"),       QStringLiteral("view-light"),
-      QStringLiteral("view-light-text"),  QStringLiteral("view-chromaticity"),
-      QStringLiteral("view-reciprocal")};
   const QList<QAction*> views = window.Commands().views->actions();
   for (qsizetype i = 0; i < views.size(); ++i) {
     views[i]->trigger();
@@ -75,7 +71,7 @@ void Gallery::TakeViews(VEXA& window) {
     while (window.findChild<ColourPanel*>()->Picture()->IsBuilding()) {
       QApplication::processEvents();
     }
-    Save(window, names[i]);
+    Save(window, QStringLiteral("view-") + QLatin1String(kViews[static_cast<std::size_t>(i)].name));
   }
   views.constFirst()->trigger();
 }
@@ -186,7 +182,7 @@ void Gallery::TakeCie(VEXA& window) {
 void Gallery::TakeMessage() {
   OriginalMsgFrm message;
   const auto show = [&message] {
-    message.Show(
+    message.MsgCall(
         {Message::kControllerFailed, {}, Text::tr("com5 (/dev/ttyUSB0) という装置がありません。")});
   };
   TakeDialog(show, QStringLiteral("message"), [this](QWidget& dialog) {

@@ -5,6 +5,7 @@
 
 #include "base/language.h"
 #include "base/translation.h"
+#include "views/graph/view_table.h"
 
 namespace vexa {
 namespace {
@@ -18,12 +19,10 @@ QAction* Add(QMenu* menu, const QString& caption, const QKeySequence& shortcut =
 
 QActionGroup* AddViews(QMenu* menu) {
   auto* views = new QActionGroup(menu);
-  for (const QString& caption :
-       {Text::tr("反射率ｸﾞﾗﾌ"), Text::tr("反射率ﾃｷｽﾄ"), Text::tr("屈折率ｸﾞﾗﾌ"),
-        Text::tr("光量ｸﾞﾗﾌ"), Text::tr("光量ﾃｷｽﾄ"), Text::tr("色度図"), QStringLiteral("1/λ")}) {
-    QAction* action = Add(menu, caption);
+  for (const ViewEntry& entry : kViews) {
+    QAction* action = Add(menu, Text::tr(entry.caption));
     action->setCheckable(true);
-    action->setData(views->actions().size());
+    action->setData(static_cast<int>(entry.view));
     views->addAction(action);
   }
   views->actions().constFirst()->setChecked(true);

@@ -9,20 +9,14 @@ void Complain(const QString& text) {
   std::fprintf(stderr, "vexa: %s\n", qUtf8Printable(text));
 }
 
-MessageResult UnattendedMessages::MsgCall(const QString& text, std::int16_t type,
-                                          const QString& title) {
-  switch (type & message_type::kButtonMask) {
-    case message_type::kYesNoCancel:
-      return MessageResult::kNo;
-    case message_type::kYesNo:
-      return MessageResult::kYes;
-    case message_type::kOkCancel:
-      return MessageResult::kOk;
-    default:
-      Complain(title + QStringLiteral(": ") + QString(text).replace(u'\r', u' '));
-      ++faults;
-      return MessageResult::kOk;
-  }
+void UnattendedMessages::Tell(const MessageCall& call) {
+  Complain(MessageTitle(call.id) + QStringLiteral(": ") + MessageText(call).replace(u'\r', u' '));
+  ++faults;
+}
+
+QCoro::Task<MessageResult> UnattendedMessages::Ask(MessageCall call) {
+  const MessageButtons buttons = CatalogueEntry(call.id).buttons;
+  co_return buttons == MessageButtons::kYesNoCancel ? MessageResult::kNo : AgreeingAnswer(buttons);
 }
 
 }  // namespace vexa

@@ -12,7 +12,8 @@ void Complain(const QString& text);
 /// that nobody asked for; any other message is a line on standard error.
 class UnattendedMessages : public MessageService {
  public:
-  MessageResult MsgCall(const QString& text, std::int16_t type, const QString& title) override;
+  void Tell(const MessageCall& call) override;
+  QCoro::Task<MessageResult> Ask(MessageCall call) override;
   void Beep() override {}
 
   int faults = 0;  ///< messages other than questions

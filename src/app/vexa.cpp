@@ -5,6 +5,7 @@
 #include <QCloseEvent>
 #include <QDir>
 #include <QMenuBar>
+#include <QPointer>
 #include <QScreen>
 #include <utility>
 
@@ -138,6 +139,7 @@ void VEXA::closeEvent(QCloseEvent* event) {
 QCoro::Task<> VEXA::End() {
   const Phase before = phase_;
   SetPhase(Phase::kEnding);
+  const QPointer<VEXA> alive(this);
   bool ending = true;
   if (!desk_.IsIdle()) {
     const MessageCall question{Message::kEndMeasurement};
@@ -147,6 +149,10 @@ QCoro::Task<> VEXA::End() {
   if (ending) {
     co_await desk_.Finish();
     ending = co_await Unload();
+  }
+  // What is asked is refused, too, when a signal ends the program meanwhile.
+  if (alive == nullptr || phase_ != Phase::kEnding) {
+    co_return;
   }
   SetPhase(ending ? Phase::kEnded : before);
   if (ending) {

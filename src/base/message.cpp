@@ -44,25 +44,6 @@ MessageResult RefusingAnswer(MessageButtons buttons) {
   return MessageResult::kOk;
 }
 
-std::int16_t MessageType(Message id) {
-  constexpr std::int16_t kIcons[] = {message_type::kStopIcon, message_type::kQuestionIcon,
-                                     message_type::kWarningIcon, message_type::kInformationIcon};
-  constexpr std::int16_t kButtons[] = {message_type::kOk, message_type::kOkCancel,
-                                       message_type::kYesNoCancel, message_type::kYesNo};
-  const MessageEntry& entry = CatalogueEntry(id);
-  return static_cast<std::int16_t>(kButtons[static_cast<std::size_t>(entry.buttons)] +
-                                   kIcons[static_cast<std::size_t>(entry.icon)]);
-}
-
-void MessageService::Tell(const MessageCall& call) {
-  MsgCallWithDetails(MessageText(call), MessageType(call.id), MessageTitle(call.id), call.details);
-}
-
-QCoro::Task<MessageResult> MessageService::Ask(MessageCall call) {
-  co_return MsgCallWithDetails(MessageText(call), MessageType(call.id), MessageTitle(call.id),
-                               call.details);
-}
-
 void TellAll(const QList<MessageCall>& calls, MessageService& messages) {
   for (const MessageCall& call : calls) {
     messages.Tell(call);

@@ -159,8 +159,14 @@ enum class Message : std::uint8_t {
 
 inline constexpr int kMessageCount = static_cast<int>(Message::kOneFileAtATime) + 1;
 
-enum class MessageIcon : std::uint8_t { kStop, kQuestion, kWarning, kInformation };
-enum class MessageButtons : std::uint8_t { kOk, kOkCancel, kYesNoCancel, kYesNo };
+// The numbers of icon and buttons add up to the type code of a message.
+enum class MessageIcon : std::uint8_t {
+  kStop = 16,
+  kQuestion = 32,
+  kWarning = 48,
+  kInformation = 64
+};
+enum class MessageButtons : std::uint8_t { kOk = 0, kOkCancel = 1, kYesNoCancel = 3, kYesNo = 4 };
 
 /// What all messages of one identity share. Title and text are source texts, to be translated when
 /// they are shown; single CR characters break the lines of the text.

@@ -12,6 +12,7 @@
 #include "cli/console.h"
 #include "cli/judgement_json.h"
 #include "cli/program_settings.h"
+#include "colour/colour_values.h"
 #include "files/data_file.h"
 #include "measurement/evaluation.h"
 #include "optics/thickness_doubts.h"
@@ -31,20 +32,6 @@ struct SlotReport {
   std::optional<Status> thickness;
 };
 
-struct Part {
-  const char* name;
-  double ColourResult::*value;
-  const char16_t* pattern;
-};
-
-constexpr Part kColourParts[] = {
-    {"L", &ColourResult::L, u"##0.00"},  {"a", &ColourResult::a, u"0.0000"},
-    {"b", &ColourResult::b, u"0.0000"},  {"x", &ColourResult::x, u"0.0000"},
-    {"y", &ColourResult::y, u"0.0000"},  {"C", &ColourResult::C, u"##0.000"},
-    {"h", &ColourResult::h, u"##0.000"}, {"Rm", &ColourResult::Rm, u"##0.0##"},
-    {"Y", &ColourResult::Y, u"##0.0##"},
-};
-
 void DeclareOptions(QCommandLineParser& parser) {
   parser.addPositionalArgument(QStringLiteral("FILE"), Text::tr("データファイル (*.csv, *.dat)。"));
   DeclareAnalysisOptions(parser);
@@ -54,8 +41,8 @@ void DeclareOptions(QCommandLineParser& parser) {
 // The slot itself does not tell what of its colour could be computed.
 void FillColour(const ColourSettings& settings, SlotReport& report) {
   ColourResult& colour = report.colour;
-  for (const Part& part : kColourParts) {
-    colour.*part.value = std::numeric_limits<double>::quiet_NaN();
+  for (const ColourValue& part : kColourValues) {
+    colour.*part.member = std::numeric_limits<double>::quiet_NaN();
   }
   report.colourOk = CalcColour(report.slot->reflectance, settings, colour);
   (void)AverageReflectance(report.slot->reflectance, settings.avgFrom, settings.avgTo, colour.Rm);
@@ -87,8 +74,8 @@ bool IsJudged(const VEXATYPE& state, const QCommandLineParser& parser) {
 
 QJsonObject ColourJson(const SlotReport& report) {
   QJsonObject object{{QStringLiteral("ok"), report.colourOk}};
-  for (const Part& part : kColourParts) {
-    object[QLatin1String(part.name)] = ToJson(std::array{report.colour.*part.value}).first();
+  for (const ColourValue& part : kColourValues) {
+    object[QLatin1String(part.name)] = ToJson(std::array{part.Of(report.colour)}).first();
   }
   return object;
 }
@@ -146,15 +133,14 @@ void PrintReportsJson(const QString& path, const std::vector<SlotReport>& report
 // Texts of any width stand last in their lines, so that all columns keep their places.
 void PrintColours(const std::vector<SlotReport>& reports) {
   QString line = QStringLiteral("slot");
-  for (const Part& part : kColourParts) {
+  for (const ColourValue& part : kColourValues) {
     line += QStringLiteral(" %1").arg(QLatin1String(part.name), 9);
   }
   Print(line + QStringLiteral("  sample\n"));
   for (const SlotReport& report : reports) {
     line = QStringLiteral("%1").arg(report.number, 4);
-    for (const Part& part : kColourParts) {
-      line += QStringLiteral(" %1").arg(
-          FormatNumber(report.colour.*part.value, part.pattern).trimmed(), 9);
+    for (const ColourValue& part : kColourValues) {
+      line += QStringLiteral(" %1").arg(part.TextOf(report.colour), 9);
     }
     Print(line + QStringLiteral("  ") + report.slot->info.sampleNumber + u'\n');
   }

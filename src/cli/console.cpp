@@ -62,7 +62,8 @@ bool ComplainUnwritten(const WriteResult& result, const QString& path) {
 }
 
 void ConsoleMessages::Tell(const MessageCall& call) {
-  MsgCall(MessageText(call), message_type::kOk, MessageTitle(call.id));
+  const QString line = MessageText(call).replace(u'\r', u' ').replace(u'\n', u' ');
+  Write(stderr, MessageTitle(call.id) + QStringLiteral(": ") + line + u'\n');
   if (!call.details.isEmpty()) {
     Complain(call.details);
   }
@@ -73,22 +74,6 @@ QCoro::Task<MessageResult> ConsoleMessages::Ask(MessageCall call) {
   const MessageButtons buttons = CatalogueEntry(call.id).buttons;
   const bool no = refusing_ && buttons == MessageButtons::kYesNoCancel;
   co_return no ? MessageResult::kNo : refusing_ ? RefusingAnswer(buttons) : AgreeingAnswer(buttons);
-}
-
-MessageResult ConsoleMessages::MsgCall(const QString& text, std::int16_t type,
-                                       const QString& title) {
-  QString line = text;
-  line.replace(u'\r', u' ').replace(u'\n', u' ');
-  Write(stderr, title + QStringLiteral(": ") + line + u'\n');
-  switch (type & message_type::kButtonMask) {
-    case message_type::kYesNoCancel:
-    case message_type::kYesNo:
-      return refusing_ ? MessageResult::kNo : MessageResult::kYes;
-    case message_type::kOkCancel:
-      return refusing_ ? MessageResult::kCancel : MessageResult::kOk;
-    default:
-      return MessageResult::kOk;
-  }
 }
 
 }  // namespace vexa::cli

@@ -48,7 +48,6 @@ class ConsoleMessages : public MessageService {
 
   void Tell(const MessageCall& call) override;
   QCoro::Task<MessageResult> Ask(MessageCall call) override;
-  MessageResult MsgCall(const QString& text, std::int16_t type, const QString& title) override;
   void Beep() override {}
 
  private:

@@ -5,6 +5,7 @@
 #include "cli/records_actions.h"
 #include "cli/text_columns.h"
 #include "colour/cie_colour.h"
+#include "colour/colour_values.h"
 #include "files/configuration.h"
 #include "measurement/dispersion_data.h"
 #include "records/record_files.h"
@@ -41,12 +42,13 @@ QString Number(double value, QStringView pattern) {
 }
 
 QString ResultText(const SampleRecord& sample) {
-  QList<QStringList> rows{{QStringLiteral("verdict"), VerdictWord(VerdictOf(sample))},
-                          {QStringLiteral("L* a* b*"), Number(sample.colour.L, u"##0.00"),
-                           Number(sample.colour.a, u"0.0000"), Number(sample.colour.b, u"0.0000")},
-                          {QStringLiteral("x y Y"), Number(sample.colour.x, u"0.0000"),
-                           Number(sample.colour.y, u"0.0000"), Number(sample.colour.Y, u"##0.0##")},
-                          {QStringLiteral("Rm"), Number(sample.colour.Rm, u"##0.0##")}};
+  const auto text = [&sample](const ColourValue& value) { return value.TextOf(sample.colour); };
+  using namespace colour_value;
+  QList<QStringList> rows{
+      {QStringLiteral("verdict"), VerdictWord(VerdictOf(sample))},
+      {QStringLiteral("L* a* b*"), text(kL), text(kA), text(kB)},
+      {QStringLiteral("x y Y"), text(kChromaticityX), text(kChromaticityY), text(kLuminous)},
+      {QStringLiteral("Rm"), text(kAverage)}};
   if (sample.cie) {
     const auto part = [&sample](const char* name, QStringView pattern) {
       return Number(NumberOf((*sample.cie)[QLatin1String(name)]), pattern);

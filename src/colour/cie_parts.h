@@ -4,30 +4,31 @@
 #include <array>
 
 #include "colour/cie_colour.h"
+#include "colour/colour_values.h"
 
 namespace vexa {
 
 /// One value of a CIE colour: its name in JSON and tables of the command line, its symbol with its
-/// unit for readers, the format that it is shown in.
+/// unit for readers, and its format, which is that of the instrument's own value.
 struct CiePart {
   const char* name;
   const char* symbol;
   double CieColour::*value;
-  const char16_t* pattern;
+  QStringView pattern;
 };
 
 inline constexpr std::array<CiePart, 12> kCieParts{{
-    {"X", "X", &CieColour::X, u"##0.0##"},
-    {"Y", "Y", &CieColour::Y, u"##0.0##"},
-    {"Z", "Z", &CieColour::Z, u"##0.0##"},
-    {"x", "x", &CieColour::x, u"0.0000"},
-    {"y", "y", &CieColour::y, u"0.0000"},
-    {"L", "L*", &CieColour::L, u"##0.00"},
-    {"a", "a*", &CieColour::a, u"0.0000"},
-    {"b", "b*", &CieColour::b, u"0.0000"},
-    {"C", "C*", &CieColour::C, u"##0.000"},
-    {"h", "h[°]", &CieColour::h, u"##0.000"},
-    {"Rv", "Rv[%]", &CieColour::Rv, u"##0.0##"},
+    {"X", "X", &CieColour::X, colour_value::kLuminous.pattern},
+    {"Y", "Y", &CieColour::Y, colour_value::kLuminous.pattern},
+    {"Z", "Z", &CieColour::Z, colour_value::kLuminous.pattern},
+    {"x", "x", &CieColour::x, colour_value::kChromaticityX.pattern},
+    {"y", "y", &CieColour::y, colour_value::kChromaticityY.pattern},
+    {"L", "L*", &CieColour::L, colour_value::kL.pattern},
+    {"a", "a*", &CieColour::a, colour_value::kA.pattern},
+    {"b", "b*", &CieColour::b, colour_value::kB.pattern},
+    {"C", "C*", &CieColour::C, colour_value::kChroma.pattern},
+    {"h", "h[°]", &CieColour::h, colour_value::kHue.pattern},
+    {"Rv", "Rv[%]", &CieColour::Rv, colour_value::kLuminous.pattern},
     {"spread", "ΔE*ab", &CieColour::spread, u"##0.000"},
 }};
 

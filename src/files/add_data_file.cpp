@@ -6,21 +6,26 @@
 #include "base/header_version.h"
 #include "base/number_text.h"
 #include "base/text_file.h"
+#include "colour/colour_values.h"
 
 namespace vexa {
 namespace {
 
 struct ValueRow {
   const char16_t* label;
-  double ColourResult::*value;
+  ColourValue value;
 };
 
 constexpr ValueRow kValueRows[] = {
-    {u"L*,", &ColourResult::L},         {u"a*,", &ColourResult::a},
-    {u"b*,", &ColourResult::b},         {u"x,", &ColourResult::x},
-    {u"y,", &ColourResult::y},          {u"色相角,", &ColourResult::h},
-    {u"クロマ,", &ColourResult::C},     {u"平均反射率,", &ColourResult::Rm},
-    {u"視感反射率,", &ColourResult::Y},
+    {u"L*,", colour_value::kL},
+    {u"a*,", colour_value::kA},
+    {u"b*,", colour_value::kB},
+    {u"x,", colour_value::kChromaticityX},
+    {u"y,", colour_value::kChromaticityY},
+    {u"色相角,", colour_value::kHue},
+    {u"クロマ,", colour_value::kChroma},
+    {u"平均反射率,", colour_value::kAverage},
+    {u"視感反射率,", colour_value::kLuminous},
 };
 
 QString ConditionText(const ColourSettings& settings) {
@@ -32,9 +37,9 @@ QString ConditionText(const ColourSettings& settings) {
 
 // The first value stands unpadded after its label, as the label makes the two one text.
 QString ValueText(const ValueRow& row, const VEXATYPE& state) {
-  QString text = QString::fromUtf16(row.label) + SignedText(state.Slot(1)->colour.*row.value);
+  QString text = QString::fromUtf16(row.label) + SignedText(row.value.Of(state.Slot(1)->colour));
   for (int number = 2; number <= kSlotCount; ++number) {
-    text += u',' + FormatNumber(state.Slot(number)->colour.*row.value, u"0.000000000000000");
+    text += u',' + FormatNumber(row.value.Of(state.Slot(number)->colour), u"0.000000000000000");
   }
   return text;
 }

@@ -7,20 +7,10 @@
 
 #include "colour/cie_parts.h"
 #include "colour/colour_tables.h"
+#include "colour/colour_values.h"
 
 namespace vexa {
 namespace {
-
-struct ColourPart {
-  const char* name;
-  double ColourResult::*value;
-};
-
-constexpr ColourPart kColourParts[] = {
-    {"L", &ColourResult::L}, {"a", &ColourResult::a},   {"b", &ColourResult::b},
-    {"x", &ColourResult::x}, {"y", &ColourResult::y},   {"C", &ColourResult::C},
-    {"h", &ColourResult::h}, {"Rm", &ColourResult::Rm}, {"Y", &ColourResult::Y},
-};
 
 constexpr std::array<const char*, kStandardGroupCount> kGroupNames{
     "reflectance", "averageReflectance", "luminousReflectance", "wavelengthValue", "chroma",
@@ -114,16 +104,16 @@ QJsonArray NumbersJson(std::span<const double> values) {
 
 QJsonObject ColourJson(const ColourResult& colour) {
   QJsonObject object;
-  for (const ColourPart& part : kColourParts) {
-    object[QLatin1String(part.name)] = NumberJson(colour.*part.value);
+  for (const ColourValue& part : kColourValues) {
+    object[QLatin1String(part.name)] = NumberJson(colour.*part.member);
   }
   return object;
 }
 
 ColourResult ColourOf(const QJsonObject& object) {
   ColourResult colour;
-  for (const ColourPart& part : kColourParts) {
-    colour.*part.value = NumberOf(object[QLatin1String(part.name)]);
+  for (const ColourValue& part : kColourValues) {
+    colour.*part.member = NumberOf(object[QLatin1String(part.name)]);
   }
   return colour;
 }

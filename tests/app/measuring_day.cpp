@@ -32,10 +32,6 @@ class Answers : public MessageService {
     }
     co_return AgreeingAnswer(buttons);
   }
-  MessageResult MsgCall(const QString& /*text*/, std::int16_t /*type*/,
-                        const QString& /*title*/) override {
-    return MessageResult::kOk;
-  }
   void Beep() override {}
 
  private:

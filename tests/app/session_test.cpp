@@ -37,13 +37,11 @@ TEST_F(KeptSession, IsRestoredAndGoesOn) {
   messages.answers = {MessageResult::kCancel};
   Start();
   EXPECT_FALSE(window->State().HasValidSlot());
-  EXPECT_EQ(
-      messages.Take(),
-      (std::vector<ShownMessage>{
-          {"VEXA-KT ﾒｯｾｰｼﾞ: 前回のﾌﾟﾛｸﾞﾗﾑは正常に終了していません。測定ﾃﾞｰﾀを復元しますか。\r\r"
-           "ﾊﾞｯｸｸﾞﾗﾝﾄﾞ: 2026/3/9 7:05:03\rﾘﾌｧﾚﾝｽ: 2026/3/9 7:05:03\rｽﾛｯﾄ: 2\r累積数: 1\r\r"
-           "いいえ: 破棄します。\rｷｬﾝｾﾙ: 次の起動まで残します。",
-           35}}));
+  EXPECT_EQ(messages.Take(),
+            (std::vector<ShownMessage>{
+                {Message::kRestoreSession,
+                 {QStringLiteral("ﾊﾞｯｸｸﾞﾗﾝﾄﾞ: 2026/3/9 7:05:03\rﾘﾌｧﾚﾝｽ: 2026/3/9 7:05:03\rｽﾛｯﾄ: 2\r"
+                                 "累積数: 1")}}}));
 
   messages.answers = {MessageResult::kYes, MessageResult::kNo};
   peer.TakeFrames();
@@ -91,8 +89,9 @@ TEST_F(KeptSession, TheOfferListsAllThatWasLeft) {
   Start();
   const test::Shown offers = messages.Take();
   ASSERT_EQ(offers.size(), 1U);
-  EXPECT_NE(offers[0].text.find("。\r\rｽﾛｯﾄ: 2, 10\r累積数: 3\r膜厚ｸﾞﾗﾌ: 2\r\r"), std::string::npos)
-      << offers[0].text;
+  EXPECT_NE(offers[0].Text().find("。\r\rｽﾛｯﾄ: 2, 10\r累積数: 3\r膜厚ｸﾞﾗﾌ: 2\r\r"),
+            std::string::npos)
+      << offers[0].Text();
 }
 
 TEST_F(KeptSession, ASlotIsKeptBeforeAnyMessageAboutItIsAnswered) {

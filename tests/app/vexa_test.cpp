@@ -24,12 +24,11 @@ using test::Shown;
 using test::ShownMessage;
 using test::Type;
 
-const ShownMessage kAskBackground{"VEXA-KT ﾒｯｾｰｼﾞ: ﾊﾞｯｸｸﾞﾗﾝﾄﾞを測定して下さい。", 64};
-const ShownMessage kAskReference{"VEXA-KT ﾒｯｾｰｼﾞ: ﾘﾌｧﾚﾝｽを測定して下さい。", 64};
-const ShownMessage kSaturated{"VEXA-KT ﾜｰﾆﾝｸﾞ: 取り込んだﾃﾞｰﾀが飽和しています。", 48};
-const ShownMessage kFailed{"VEXA-KT ﾜｰﾆﾝｸﾞ: データ取得でエラーが発生しました。", 48};
-const ShownMessage kOverwrite{"VEXA-KT ﾒｯｾｰｼﾞ: すでに測定されてます。上書きしてもよろしいですか？",
-                              33};
+const ShownMessage kAskBackground{Message::kMeasureBackground};
+const ShownMessage kAskReference{Message::kMeasureReference};
+const ShownMessage kSaturated{Message::kSaturated};
+const ShownMessage kFailed{Message::kAcquisitionFailed};
+const ShownMessage kOverwrite{Message::kMeasureOver};
 
 class MainWindow : public test::MainWindowTest {
  protected:
@@ -242,7 +241,7 @@ TEST_F(MainWindow, AllClearAsksFirst) {
   Press("AllClear");
   EXPECT_TRUE(window->State().Slot(2)->valid);
   Press("AllClear");
-  const ShownMessage question{"ALL CLEAR: 全てのデータをクリアします。よろしいですか？", 33};
+  const ShownMessage question{Message::kClearAll};
   EXPECT_EQ(messages.Take(), (std::vector{question, question}));
   EXPECT_FALSE(window->State().HasValidSlot());
   EXPECT_EQ(Text("Time"), "0:00:00");
@@ -252,7 +251,7 @@ TEST_F(MainWindow, AllClearAsksFirst) {
 TEST_F(MainWindow, SavesTheSlots) {
   QAction* save = window->Commands().saveFileAs;
   save->trigger();
-  EXPECT_EQ(messages.Take(), (Shown{{"VEXA-KT 情報: 有効ﾃﾞｰﾀがありません。", 64}}));
+  EXPECT_EQ(messages.Take(), Shown{Message::kNoValidData});
 
   MeasureThrough(2);
   save->trigger();  // cancelled
@@ -271,8 +270,7 @@ TEST_F(MainWindow, SavesTheSlots) {
   messages.answers = {MessageResult::kNo};
   Measure("Mes3", 500);
   save->trigger();
-  EXPECT_EQ(messages.Take(),
-            (Shown{{"VEXA-KT ﾜｰﾆﾝｸﾞ: 同ﾌｧｲﾙ名が存在します。上書き保存しますか？", 52}}));
+  EXPECT_EQ(messages.Take(), Shown{Message::kReplaceFile});
   EXPECT_EQ(peer.files.Read("試料 1.csv"), content);
 }
 
@@ -299,8 +297,7 @@ TEST_F(MainWindow, AsksAboutTheEnvironmentAtTheEnd) {
   EXPECT_FALSE(peer.files.Has("vexa.int"));
   window->close();
   EXPECT_FALSE(window->isVisible());
-  const ShownMessage question{
-      "VEXA-KT ﾒｯｾｰｼﾞ: " + Path("vexa.env").toStdString() + "\r\r現在の環境をｾｰﾌﾞしますか。", 35};
+  const ShownMessage question{Message::kSaveEnvironment, {Path("vexa.env")}};
   EXPECT_EQ(messages.Take(), (Shown{question, question}));
   EXPECT_TRUE(peer.files.Has("vexa.int"));
   EXPECT_FALSE(peer.files.Has("vexa.env"));
@@ -404,10 +401,8 @@ TEST_F(MainWindow, FitsOntoASmallScreen) {
 }
 
 TEST_F(MainWindow, SamplingSettingsAreCheckedAndSentAtOnce) {
-  const ShownMessage timeError{
-      "VEXA-KT ｴﾗｰ: ｻﾝﾌﾟﾘﾝｸﾞ時間が設定範囲を越えています。 (30 ≦ 設定値 ≦ 10000)", 16};
-  const ShownMessage countError{
-      "VEXA-KT ｴﾗｰ: 取り込み平均回数が設定範囲を越えています。 (1 ≦ 設定値 ≦ 16)", 16};
+  const ShownMessage timeError{Message::kSamplingTimeOutOfRange};
+  const ShownMessage countError{Message::kAveragingOutOfRange};
   struct Case {
     const char* time;
     const char* averaging;
@@ -455,8 +450,7 @@ TEST_F(MainWindow, SamplingSettingsAreCheckedAndSentAtOnce) {
 }
 
 TEST_F(MainWindow, CalibrationShiftIsKeptInItsFile) {
-  const ShownMessage range{
-      "VEXA-KT ｴﾗｰ: ｷｬﾘﾌﾞﾚｰｼｮﾝのｼﾌﾄ値が設定範囲を越えています。 (0 ≦ 設定値 ≦ 7)", 16};
+  const ShownMessage range{Message::kShiftOutOfRange};
   for (const char* shift : {"8", ""}) {
     InDialog(window->Commands().calibration, [shift](QWidget& dialog) {
       Type(dialog, "Shift", shift);
@@ -470,12 +464,8 @@ TEST_F(MainWindow, CalibrationShiftIsKeptInItsFile) {
     Type(dialog, "Shift", "7");
     Click(dialog, "OK");
   });
-  EXPECT_EQ(messages.Take(),
-            (Shown{{Message::kReplaceChangedFile, {Path("vexa.cal")}},
-                   {"VEXA-KT 情報: この設定は、再起動を含め次の測定から有効になります。"
-                    "\r\rｷｬﾘﾌﾞﾚｰｼｮﾝ･ﾌｧｲﾙ名:" +
-                        Path("vexa.cal").toStdString(),
-                    64}}));
+  EXPECT_EQ(messages.Take(), (Shown{{Message::kReplaceChangedFile, {Path("vexa.cal")}},
+                                    {Message::kShiftChanged, {Path("vexa.cal")}}}));
   EXPECT_EQ(peer.files.Read("vexa.cal"), "VEXA-KT 440-840 Ver 3.21 Calibration File\r\n 7 \r\n");
   EXPECT_EQ(peer.files.Read("vexa.cal.bad"), "unreadable");
   EXPECT_EQ(window->State().instrument.calibrationShiftNm, 7);
@@ -706,7 +696,7 @@ class DeadController : public test::MainWindowTest {
 
 TEST_F(DeadController, LeavesTheProgramUsable) {
   Start();
-  EXPECT_EQ(messages.Take(), (Shown{{"ｺﾝﾄﾛｰﾗｴﾗｰ: 通信でﾃﾞﾊﾞｲｽ･ｴﾗｰ発生しました。", 16}}));
+  EXPECT_EQ(messages.Take(), Shown{Message::kControllerFailed});
   for (const char* name : {"Background", "Reference", "Mes1", "Mes10"}) {
     EXPECT_FALSE(Enabled(name)) << name;
   }

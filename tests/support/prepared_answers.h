@@ -3,7 +3,7 @@
 
 #include <deque>
 #include <functional>
-#include <optional>
+#include <ostream>
 #include <string>
 #include <utility>
 #include <vector>
@@ -12,27 +12,24 @@
 
 namespace vexa::test {
 
-/// A message that was shown: which one and with what arguments. One that was called by its text is
-/// "TITLE: TEXT" and its type code.
+/// A message that was shown: which one and with what arguments.
 struct ShownMessage {
-  ShownMessage(Message id, QStringList arguments = {})  // NOLINT: a message alone is one shown
-      : call(MessageCall{id, std::move(arguments)}),
-        text(MessageTitle(id).toStdString() + ": " + MessageText(*call).toStdString()),
-        type(MessageType(id)) {}
-  ShownMessage(std::string titleAndText, int typeCode)
-      : text(std::move(titleAndText)), type(typeCode) {}
+  ShownMessage(Message shown, QStringList with = {})  // NOLINT: a message alone is one shown
+      : id(shown), arguments(std::move(with)) {}
 
-  bool operator==(const ShownMessage& other) const {
-    return call && other.call ? call == other.call : text == other.text && type == other.type;
+  bool operator==(const ShownMessage&) const = default;
+
+  /// "TITLE: TEXT".
+  [[nodiscard]] std::string Text() const {
+    return MessageTitle(id).toStdString() + ": " + MessageText({id, arguments}).toStdString();
   }
 
-  std::optional<MessageCall> call;
-  std::string text;
-  int type = 0;
+  Message id;
+  QStringList arguments;
 };
 
 inline void PrintTo(const ShownMessage& message, std::ostream* out) {
-  *out << '"' << message.text << "\" (" << message.type << ')';
+  *out << '"' << message.Text() << '"';
 }
 
 using Shown = std::vector<ShownMessage>;
@@ -41,16 +38,14 @@ using Shown = std::vector<ShownMessage>;
 class PreparedAnswers : public MessageService {
  public:
   void Tell(const MessageCall& call) override {
-    shown_.push_back({call.id, call.arguments});
+    shown_.emplace_back(call.id, call.arguments);
     if (whenShown) {
       whenShown();
     }
   }
   QCoro::Task<MessageResult> Ask(MessageCall call) override {
-    co_return Show({call.id, call.arguments});
-  }
-  MessageResult MsgCall(const QString& text, std::int16_t type, const QString& title) override {
-    return Show({title.toStdString() + ": " + text.toStdString(), type});
+    Tell(call);
+    co_return NextAnswer();
   }
   void Beep() override { ++beeps; }
 
@@ -61,15 +56,13 @@ class PreparedAnswers : public MessageService {
   int beeps = 0;
 
  private:
-  MessageResult Show(ShownMessage message) {
-    shown_.push_back(std::move(message));
-    if (whenShown) {
-      whenShown();
-    }
+  MessageResult NextAnswer() {
     if (answers.empty()) {
       return MessageResult::kOk;
     }
-    return std::exchange(answers, {answers.begin() + 1, answers.end()}).front();
+    const MessageResult answer = answers.front();
+    answers.pop_front();
+    return answer;
   }
 
   Shown shown_;

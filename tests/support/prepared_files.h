@@ -11,15 +11,17 @@ namespace vexa::test {
 /// File dialogs that answer with what a test prepared; nothing prepared is Cancel.
 class PreparedFiles : public FileDialogs {
  public:
-  std::optional<QString> AskOpen(const QString& /*title*/, const QString& asked) override {
+  QCoro::Task<std::optional<QString>> AskOpen(QString /*title*/, QString asked) override {
     filter = asked.toStdString();
-    return open;
+    const std::optional<QString> answer = open;  // a task would take the member itself along
+    co_return answer;
   }
-  std::optional<SaveChoice> AskSave(const QString& /*title*/, const QString& asked,
-                                    const QString& name) override {
+  QCoro::Task<std::optional<SaveChoice>> AskSave(QString /*title*/, QString asked,
+                                                 QString name) override {
     filter = asked.toStdString();
     proposed = name.toStdString();
-    return save;
+    const std::optional<SaveChoice> answer = save;
+    co_return answer;
   }
 
   std::optional<QString> open;

@@ -67,7 +67,7 @@ TEST_F(Stock, SavesLoadsAndClears) {
   EXPECT_TRUE(Text("StockWindowCount").ends_with("2 / 100"));
   dialogs.save = SaveChoice{files.Path("missing/x.stc"), 1};
   Press("StockSave");
-  EXPECT_EQ(messages.Take().at(0).type, 16);
+  EXPECT_EQ(messages.Take().at(0).id, Message::kWriteError);
 }
 
 TEST_F(Stock, AFaultyFileIsToldAndChangesNothing) {

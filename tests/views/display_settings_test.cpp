@@ -69,7 +69,7 @@ TEST_F(DisplaySettings, EntriesAreCheckedInTheirOrder) {
     const auto shown = messages.Take();
     ASSERT_EQ(shown.size(), c.message == nullptr ? 0U : 1U) << c.typed.front().first;
     if (c.message != nullptr) {
-      EXPECT_EQ(shown[0].text, std::string("設定入力: ") + c.message);
+      EXPECT_EQ(shown[0].Text(), std::string("設定入力: ") + c.message);
       EXPECT_EQ(state.display.maximumPercent, 4.0) << "nothing is stored";
       const auto& field = test::Child<QLineEdit>(window, c.fault);
       EXPECT_EQ(window.focusWidget(), &field) << c.fault;
@@ -103,7 +103,7 @@ TEST_F(DisplaySettings, ChangedConditionsOfferToClearTheStock) {
     test::Click(window, "Illuminant3");
     test::Child<QLineEdit>(window, "Shortest").setText(QStringLiteral("500"));
     test::Click(window, "OK");
-    EXPECT_EQ(messages.Take().at(0).type, 36);
+    EXPECT_EQ(messages.Take().at(0).id, Message::kClearStockForDisplay);
     EXPECT_EQ(state.stock.Count, answer == MessageResult::kYes ? 0 : 1);
     EXPECT_EQ(state.colour.illuminant, 4);
     EXPECT_EQ(state.display.shortestNm, 440.0) << "full scale stands above what was typed";

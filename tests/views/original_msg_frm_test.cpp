@@ -32,7 +32,7 @@ TEST(OriginalMsgFrm, ShowsTheButtonsOfItsMessageAndTellsWhichWasPressed) {
   OriginalMsgFrm dialog;
   for (const Case& c : cases) {
     for (const auto& [button, result] : c.buttons) {
-      dialog.Show({c.id});
+      dialog.MsgCall({c.id});
       for (const auto* each : dialog.findChildren<QPushButton*>()) {
         EXPECT_EQ(each->isVisible(), c.buttons.contains(each->objectName().toStdString()));
       }
@@ -41,12 +41,12 @@ TEST(OriginalMsgFrm, ShowsTheButtonsOfItsMessageAndTellsWhichWasPressed) {
       EXPECT_FALSE(dialog.isVisible());
       EXPECT_EQ(dialog.Result(), result);
     }
-    dialog.Show({c.id});
+    dialog.MsgCall({c.id});
     dialog.close();
     EXPECT_EQ(dialog.Result(), c.byFrame);
   }
   // A path may look like a place for an argument.
-  dialog.Show({Message::kSettingsReadError, {QStringLiteral("/%2%1")}});
+  dialog.MsgCall({Message::kSettingsReadError, {QStringLiteral("/%2%1")}});
   EXPECT_EQ(
       Child<QLabel>(dialog, "lblCmmnt").text(),
       QStringLiteral(
@@ -56,7 +56,7 @@ TEST(OriginalMsgFrm, ShowsTheButtonsOfItsMessageAndTellsWhichWasPressed) {
 TEST(OriginalMsgFrm, DetailsUnfoldUnderTheTextOfTheirMessageAlone) {
   OriginalMsgFrm dialog;
   for (const QString& details : {QString(), QStringLiteral("/dev/ttyS4"), QString()}) {
-    dialog.Show({Message::kControllerFailed, {}, details});
+    dialog.MsgCall({Message::kControllerFailed, {}, details});
     auto& unfold = Child<QToolButton>(dialog, "Unfold");
     const auto& text = Child<QLabel>(dialog, "Details");
     EXPECT_EQ(unfold.isVisible(), !details.isEmpty());

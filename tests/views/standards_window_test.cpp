@@ -144,7 +144,9 @@ TEST_F(StandardsWindow, RefusesFaultyEntriesAndStaysOpen) {
     dialogs.save = SaveChoice{files.Path("faulty.std")};
     for (const char* button : {"btnOK", "save_bt"}) {
       Press(button);
-      EXPECT_EQ(messages.Take(), (Shown{{std::string("VEXA-KT ｴﾗｰ: ") + c.message, 48}}));
+      const Shown shown = messages.Take();
+      ASSERT_EQ(shown.size(), 1U);
+      EXPECT_EQ(shown[0].Text(), std::string("VEXA-KT ｴﾗｰ: ") + c.message);
       EXPECT_TRUE(window->isVisible());
       const char* fault = c.conditions.size() > 1 ? "condition10Wavelength" : c.field;
       EXPECT_EQ(window->focusWidget(), &Find<QWidget>(fault)) << fault;

@@ -299,8 +299,8 @@ void ColourDifferenceWindow::Print() {
 
 QCoro::Task<> ColourDifferenceWindow::Export() {
   const std::optional<SaveChoice> choice =
-      dialogs_.AskSave(windowTitle(), QStringLiteral("CSV(*.csv)|*.csv"),
-                       WithExtension(ProposedName(state_), QStringLiteral(".csv")));
+      co_await dialogs_.AskSave(windowTitle(), QStringLiteral("CSV(*.csv)|*.csv"),
+                                WithExtension(ProposedName(state_), QStringLiteral(".csv")));
   if (!choice) {
     co_return;
   }

@@ -7,9 +7,9 @@
 #include <QVBoxLayout>
 #include <memory>
 
-#include "base/number_text.h"
 #include "base/translation.h"
 #include "colour/colour_tables.h"
+#include "colour/colour_values.h"
 #include "views/colour/background_picture.h"
 #include "views/colour/chromaticity_diagram.h"
 #include "views/colour/stock_window.h"
@@ -92,17 +92,18 @@ QWidget* ColourPanel::BuildValues() {
   grid->setVerticalSpacing(1);
   grid->setHorizontalSpacing(6);
   grid->setColumnStretch(1, 1);
-  const QString degree = QStringLiteral("°");
-  const QString percent = QStringLiteral("%");
-  observer_ = AddValue(*grid, "Observer", Text::tr("視野:"), degree);
+  const auto unit = [](const ColourValue& value) { return QString::fromUtf8(value.unit); };
+  observer_ = AddValue(*grid, "Observer", Text::tr("視野:"), QStringLiteral("°"));
   illuminant_ = AddValue(*grid, "Illuminant", Text::tr("光源:"), {});
   first_ = AddValue(*grid, "Coordinate1", {}, {});
   second_ = AddValue(*grid, "Coordinate2", {}, {});
   third_ = AddValue(*grid, "Coordinate3", {}, {});
-  chroma_ = AddValue(*grid, "Chroma", QStringLiteral("C* :"), {});
-  hue_ = AddValue(*grid, "Hue", QStringLiteral("h :"), degree);
-  average_ = AddValue(*grid, "AverageReflectance", Text::tr("平均反射率"), percent);
-  luminous_ = AddValue(*grid, "LuminousReflectance", Text::tr("視感反射率"), percent);
+  chroma_ = AddValue(*grid, "Chroma", QStringLiteral("C* :"), unit(colour_value::kChroma));
+  hue_ = AddValue(*grid, "Hue", QStringLiteral("h :"), unit(colour_value::kHue));
+  average_ =
+      AddValue(*grid, "AverageReflectance", Text::tr("平均反射率"), unit(colour_value::kAverage));
+  luminous_ =
+      AddValue(*grid, "LuminousReflectance", Text::tr("視感反射率"), unit(colour_value::kLuminous));
   return values_;
 }
 
@@ -180,17 +181,21 @@ void ColourPanel::ShowValues(int selectedSlot) {
   const MeasurementSlot* slot = state_.Slot(selectedSlot);
   const bool valid = slot != nullptr && slot->valid;
   const ColourResult colour = valid ? slot->colour : ColourResult();
-  const auto show = [known = colour.IsComputed()](const Value& value, double number,
-                                                  QStringView pattern) {
-    value.text->setText(known ? FormatNumber(number, pattern).trimmed() : kNone);
+  using namespace colour_value;
+  const auto show = [&colour](const Value& shown, const ColourValue& value, bool known) {
+    shown.text->setText(known ? value.TextOf(colour) : kNone);
   };
-  show(first_, xyMode ? colour.x : colour.a, u"0.0000");
-  show(second_, xyMode ? colour.y : colour.b, u"0.0000");
-  show(third_, xyMode ? colour.Y : colour.L, u"##0.00");
-  show(chroma_, colour.C, u"##0.000");
-  show(hue_, colour.h, u"##0.000");
-  average_.text->setText(valid ? FormatNumber(colour.Rm, u"##0.0##").trimmed() : kNone);
-  show(luminous_, colour.Y, u"##0.0##");
+  const bool computed = colour.IsComputed();
+  // Beside x and y, Y has the digits of L*.
+  ColourValue third = kL;
+  third.member = xyMode ? kLuminous.member : kL.member;
+  show(first_, xyMode ? kChromaticityX : kA, computed);
+  show(second_, xyMode ? kChromaticityY : kB, computed);
+  show(third_, third, computed);
+  show(chroma_, kChroma, computed);
+  show(hue_, kHue, computed);
+  show(average_, kAverage, valid);
+  show(luminous_, kLuminous, computed);
   if (cie_) {
     cie_->Show(valid ? CalcCieColour(slot->reflectance, state_.colour) : std::nullopt, xyMode);
   }

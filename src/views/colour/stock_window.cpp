@@ -98,22 +98,23 @@ void StockWindow::ClearLast() {
   session_.RemoveLastColour();
 }
 
-void StockWindow::Load() {
-  const std::optional<QString> path = dialogs_.AskOpen(Text::tr("累積ﾃﾞｰﾀ･ﾌｧｲﾙを開く"), Filter());
+QCoro::Task<> StockWindow::Load() {
+  const std::optional<QString> path =
+      co_await dialogs_.AskOpen(Text::tr("累積ﾃﾞｰﾀ･ﾌｧｲﾙを開く"), Filter());
   if (!path) {
-    return;
+    co_return;
   }
   const ReadResult<ColourStock> stock = ReadStockFile(*path);
   if (!stock) {
     messages_.Tell(StockMessage(stock.Fault()));
-    return;
+    co_return;
   }
   session_.ReplaceStock(*stock);
 }
 
 QCoro::Task<> StockWindow::Save() {
   const std::optional<SaveChoice> choice =
-      dialogs_.AskSave(Text::tr("累積ﾃﾞｰﾀ･ﾌｧｲﾙの保存"), Filter());
+      co_await dialogs_.AskSave(Text::tr("累積ﾃﾞｰﾀ･ﾌｧｲﾙの保存"), Filter());
   if (!choice) {
     co_return;
   }

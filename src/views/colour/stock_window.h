@@ -35,7 +35,7 @@ class StockWindow : public QDialog {
                          const std::function<void()>& run);
   void ClearAll();
   void ClearLast();
-  void Load();
+  QCoro::Task<> Load();
   QCoro::Task<> Save();
   void CloseWindow();
 

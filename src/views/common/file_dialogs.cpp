@@ -1,10 +1,11 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "views/common/file_dialogs.h"
 
-#include <QDir>
+#include <QApplication>
 #include <QFileDialog>
 #include <QFileInfo>
 #include <algorithm>
+#include <coroutine>
 
 namespace vexa {
 namespace {
@@ -26,48 +27,84 @@ NameFilters Split(const QString& filter) {
   return names;
 }
 
-void Prepare(QFileDialog& dialog, const NameFilters& names, const QString& folder) {
-  dialog.setOption(QFileDialog::HideNameFilterDetails);
-  dialog.setNameFilters(names.filters);
-  if (!folder.isEmpty()) {
-    dialog.setDirectory(folder);
+/// Opens the dialog, and waits until it is closed or goes, which is as good as cancelled.
+class Choice {
+ public:
+  explicit Choice(QFileDialog& dialog) : dialog_(dialog) {}
+
+  [[nodiscard]] bool await_ready() const { return false; }
+  void await_suspend(std::coroutine_handle<> asking) {
+    const auto goOn = [this, asking](bool accepted) {
+      QObject::disconnect(closed_);
+      QObject::disconnect(gone_);
+      accepted_ = accepted;
+      asking.resume();
+    };
+    closed_ = QObject::connect(&dialog_, &QDialog::finished,
+                               [goOn](int result) { goOn(result == QDialog::Accepted); });
+    gone_ = QObject::connect(&dialog_, &QObject::destroyed, [goOn] { goOn(false); });
+    dialog_.open();
   }
-}
+  [[nodiscard]] bool await_resume() const { return accepted_; }
+
+ private:
+  QFileDialog& dialog_;
+  QMetaObject::Connection closed_;
+  QMetaObject::Connection gone_;
+  bool accepted_ = false;
+};
 
 }  // namespace
 
-std::optional<QString> WindowFileDialogs::AskOpen(const QString& title, const QString& filter) {
-  QFileDialog dialog(window_, title);
-  dialog.setFileMode(QFileDialog::ExistingFile);
-  Prepare(dialog, Split(filter), folder_);
-  if (dialog.exec() != QDialog::Accepted) {
-    return std::nullopt;
+QCoro::Task<std::optional<QString>> WindowFileDialogs::AskOpen(QString title, QString filter) {
+  QFileDialog* dialog = Make(title, Split(filter).filters);
+  dialog->setFileMode(QFileDialog::ExistingFile);
+  Choice choice(*dialog);
+  const bool accepted = co_await choice;
+  if (!accepted) {
+    co_return std::nullopt;
   }
-  QString path = dialog.selectedFiles().value(0);
+  const QString path = dialog->selectedFiles().value(0);
   folder_ = QFileInfo(path).absolutePath();
-  return path;
+  co_return path;
 }
 
-std::optional<SaveChoice> WindowFileDialogs::AskSave(const QString& title, const QString& filter,
-                                                     const QString& proposed) {
-  QFileDialog dialog(window_, title);
-  dialog.setAcceptMode(QFileDialog::AcceptSave);
-  dialog.setFileMode(QFileDialog::AnyFile);
-  dialog.setOption(QFileDialog::DontConfirmOverwrite);
+QCoro::Task<std::optional<SaveChoice>> WindowFileDialogs::AskSave(QString title, QString filter,
+                                                                  QString proposed) {
   const NameFilters names = Split(filter);
-  Prepare(dialog, names, folder_);
+  QFileDialog* dialog = Make(title, names.filters);
+  dialog->setAcceptMode(QFileDialog::AcceptSave);
+  dialog->setFileMode(QFileDialog::AnyFile);
+  dialog->setOption(QFileDialog::DontConfirmOverwrite);
   if (!proposed.isEmpty()) {
-    dialog.selectFile(proposed);
+    dialog->selectFile(proposed);
   }
-  if (dialog.exec() != QDialog::Accepted) {
-    return std::nullopt;
+  Choice choice(*dialog);
+  const bool accepted = co_await choice;
+  if (!accepted) {
+    co_return std::nullopt;
   }
-  const QString path = dialog.selectedFiles().value(0);
+  const QString path = dialog->selectedFiles().value(0);
   folder_ = QFileInfo(path).absolutePath();
   // With the patterns hidden, the toolkit's own dialog names the filter by its text alone.
-  const QString selected = dialog.selectedNameFilter();
+  const QString selected = dialog->selectedNameFilter();
   const qsizetype index = std::max(names.filters.indexOf(selected), names.texts.indexOf(selected));
-  return SaveChoice{path, static_cast<int>(index) + 1};
+  const SaveChoice chosen{path, static_cast<int>(index) + 1};
+  co_return chosen;
+}
+
+// A child of the window that asks, and so gone with it.
+QFileDialog* WindowFileDialogs::Make(const QString& title, const QStringList& filters) {
+  QWidget* asking = QApplication::activeModalWidget();
+  auto* dialog = new QFileDialog(asking != nullptr ? asking : window_.data(), title);
+  dialog->setAttribute(Qt::WA_DeleteOnClose);
+  dialog->setOption(QFileDialog::HideNameFilterDetails);
+  dialog->setNameFilters(filters);
+  if (!folder_.isEmpty()) {
+    dialog->setDirectory(folder_);
+  }
+  QObject::connect(&end_, &QObject::destroyed, dialog, [dialog] { delete dialog; });
+  return dialog;
 }
 
 QString WithExtension(const QString& path, const QString& extension, const QStringList& others) {

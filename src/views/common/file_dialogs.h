@@ -1,11 +1,16 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include <QCoroTask>
+#include <QObject>
+#include <QPointer>
 #include <QString>
 #include <QStringList>
+#include <QWidget>
 #include <optional>
+#include <utility>
 
-class QWidget;
+class QFileDialog;
 
 namespace vexa {
 
@@ -17,6 +22,8 @@ struct SaveChoice {
 
 /// Where the commands ask for file names: the toolkit's dialogs, or prepared answers in a test.
 /// A filter is pairs of a text and its patterns: "text|*.csv;*.dat|text|*.env".
+/// Who is there to answer at once (a test) has answered when a call returns. A dialog that goes
+/// with its window answers nothing: what follows that touches nothing that goes with a window.
 class FileDialogs {
  public:
   FileDialogs() = default;
@@ -25,30 +32,35 @@ class FileDialogs {
   FileDialogs& operator=(const FileDialogs&) = delete;
 
   /// An existing file; nothing when cancelled.
-  virtual std::optional<QString> AskOpen(const QString& title, const QString& filter) = 0;
+  virtual QCoro::Task<std::optional<QString>> AskOpen(QString title, QString filter) = 0;
 
   /// A file name without a question about overwriting; nothing when cancelled. `proposed` stands in
   /// the entry at first.
-  virtual std::optional<SaveChoice> AskSave(const QString& title, const QString& filter,
-                                            const QString& proposed) = 0;
-  std::optional<SaveChoice> AskSave(const QString& title, const QString& filter) {
-    return AskSave(title, filter, {});
+  virtual QCoro::Task<std::optional<SaveChoice>> AskSave(QString title, QString filter,
+                                                         QString proposed) = 0;
+  QCoro::Task<std::optional<SaveChoice>> AskSave(QString title, QString filter) {
+    return AskSave(std::move(title), std::move(filter), {});
   }
 };
 
-/// The toolkit's dialogs over a window. They remember the folder used last.
+/// The toolkit's dialogs over the window that asks. They remember the folder used last. Those that
+/// are open when this object ends are cancelled.
 class WindowFileDialogs : public FileDialogs {
  public:
+  /// The window over which a dialog opens where no other is in front; null for none.
   void SetWindow(QWidget* window) { window_ = window; }
 
-  std::optional<QString> AskOpen(const QString& title, const QString& filter) override;
+  QCoro::Task<std::optional<QString>> AskOpen(QString title, QString filter) override;
   using FileDialogs::AskSave;
-  std::optional<SaveChoice> AskSave(const QString& title, const QString& filter,
-                                    const QString& proposed) override;
+  QCoro::Task<std::optional<SaveChoice>> AskSave(QString title, QString filter,
+                                                 QString proposed) override;
 
  private:
-  QWidget* window_ = nullptr;
+  [[nodiscard]] QFileDialog* Make(const QString& title, const QStringList& filters);
+
+  QPointer<QWidget> window_;
   QString folder_;
+  QObject end_;  ///< the open dialogs go with it
 };
 
 /// The name with the extension (".csv") added, unless it ends with it or with one of the others.

@@ -15,17 +15,32 @@ constexpr int kIconSize = 40;
 constexpr int kTextWidth = 520;
 constexpr int kDetailsWidth = 400;
 
-bool Shows(std::int16_t type, MessageResult button) {
-  switch (type & message_type::kButtonMask) {
-    case message_type::kOkCancel:
+bool Shows(MessageButtons buttons, MessageResult button) {
+  switch (buttons) {
+    case MessageButtons::kOk:
+      break;
+    case MessageButtons::kOkCancel:
       return button == MessageResult::kOk || button == MessageResult::kCancel;
-    case message_type::kYesNoCancel:
+    case MessageButtons::kYesNoCancel:
       return button != MessageResult::kOk;
-    case message_type::kYesNo:
+    case MessageButtons::kYesNo:
       return button == MessageResult::kYes || button == MessageResult::kNo;
-    default:
-      return button == MessageResult::kOk;
   }
+  return button == MessageResult::kOk;
+}
+
+QStyle::StandardPixmap Pixmap(MessageIcon icon) {
+  switch (icon) {
+    case MessageIcon::kStop:
+      break;
+    case MessageIcon::kQuestion:
+      return QStyle::SP_MessageBoxQuestion;
+    case MessageIcon::kWarning:
+      return QStyle::SP_MessageBoxWarning;
+    case MessageIcon::kInformation:
+      return QStyle::SP_MessageBoxInformation;
+  }
+  return QStyle::SP_MessageBoxCritical;
 }
 
 }  // namespace
@@ -96,15 +111,23 @@ OriginalMsgFrm::OriginalMsgFrm(QWidget* parent)
   layout->setSizeConstraint(QLayout::SetFixedSize);
 }
 
-void OriginalMsgFrm::Show(const MessageCall& call) {
-  Present(MessageText(call), MessageType(call.id), MessageTitle(call.id), call.details);
+void OriginalMsgFrm::MsgCall(const MessageCall& call) {
+  const MessageEntry& entry = CatalogueEntry(call.id);
+  setWindowTitle(MessageTitle(call.id));
+  ShowText(MessageText(call));
+  ShowButtons(entry.buttons);
+  icon_->setPixmap(style()->standardIcon(Pixmap(entry.icon)).pixmap(kIconSize, kIconSize));
+  ShowDetails(call.details);
   setModal(true);
   show();
 }
 
-void OriginalMsgFrm::Present(const QString& text, std::int16_t type, const QString& title,
-                             const QString& details) {
-  setWindowTitle(title);
+void OriginalMsgFrm::reject() {
+  result_ = closedByFrame_;
+  QDialog::reject();
+}
+
+void OriginalMsgFrm::ShowText(const QString& text) {
   QString lines = text;
   lines.replace(QStringLiteral("\r\n"), QStringLiteral("\n")).replace(u'\r', u'\n');
   lblCmmnt_->setText(lines);
@@ -114,20 +137,12 @@ void OriginalMsgFrm::Present(const QString& text, std::int16_t type, const QStri
     lblCmmnt_->setWordWrap(true);
     lblCmmnt_->setMinimumWidth(kTextWidth);
   }
-  ShowButtons(type);
-  ShowIcon(type);
-  ShowDetails(details);
 }
 
-void OriginalMsgFrm::reject() {
-  result_ = closedByFrame_;
-  QDialog::reject();
-}
-
-void OriginalMsgFrm::ShowButtons(std::int16_t type) {
+void OriginalMsgFrm::ShowButtons(MessageButtons buttons) {
   QPushButton* first = nullptr;
   for (const Button& button : buttons_) {
-    const bool shown = Shows(type, button.result);
+    const bool shown = Shows(buttons, button.result);
     button.widget->setVisible(shown);
     button.widget->setDefault(false);
     if (shown) {
@@ -140,29 +155,6 @@ void OriginalMsgFrm::ShowButtons(std::int16_t type) {
     first->setDefault(true);
     first->setFocus();
   }
-}
-
-void OriginalMsgFrm::ShowIcon(std::int16_t type) {
-  QStyle::StandardPixmap pixmap{};
-  switch (type & message_type::kIconMask) {
-    case message_type::kStopIcon:
-      pixmap = QStyle::SP_MessageBoxCritical;
-      break;
-    case message_type::kQuestionIcon:
-      pixmap = QStyle::SP_MessageBoxQuestion;
-      break;
-    case message_type::kWarningIcon:
-      pixmap = QStyle::SP_MessageBoxWarning;
-      break;
-    case message_type::kInformationIcon:
-      pixmap = QStyle::SP_MessageBoxInformation;
-      break;
-    default:
-      icon_->hide();
-      return;
-  }
-  icon_->setPixmap(style()->standardIcon(pixmap).pixmap(kIconSize, kIconSize));
-  icon_->show();
 }
 
 // Folded at first: the text above says what happened.

@@ -2,7 +2,6 @@
 #pragma once
 
 #include <QDialog>
-#include <QDialogButtonBox>
 #include <QLabel>
 #include <QPushButton>
 #include <array>
@@ -23,11 +22,7 @@ class OriginalMsgFrm : public QDialog {
 
   /// Shows the message over all windows and returns at once; finished() tells that a button was
   /// pressed, which is Result() then. Details, where there are any, unfold below the text.
-  void Show(const MessageCall& call);
-
-  /// Puts a message into the dialog without showing it.
-  void Present(const QString& text, std::int16_t type, const QString& title,
-               const QString& details);
+  void MsgCall(const MessageCall& call);
 
   [[nodiscard]] MessageResult Result() const { return result_; }
 
@@ -39,8 +34,8 @@ class OriginalMsgFrm : public QDialog {
     MessageResult result;
   };
 
-  void ShowButtons(std::int16_t type);
-  void ShowIcon(std::int16_t type);
+  void ShowText(const QString& text);
+  void ShowButtons(MessageButtons buttons);
   void ShowDetails(const QString& details);
 
   QLabel* icon_;

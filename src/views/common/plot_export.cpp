@@ -55,9 +55,9 @@ void Paint(QCustomPlot& plot, QPaintDevice& device, double scale) {
 
 QCoro::Task<> SavePicture(QCustomPlot& plot, MessageService& messages, FileDialogs& dialogs,
                           QString name) {
-  const std::optional<SaveChoice> choice =
-      dialogs.AskSave(Text::tr("ｸﾞﾗﾌの保存"),
-                      QStringLiteral("PNG(*.png)|*.png|SVG(*.svg)|*.svg|PDF(*.pdf)|*.pdf"), name);
+  const std::optional<SaveChoice> choice = co_await dialogs.AskSave(
+      Text::tr("ｸﾞﾗﾌの保存"), QStringLiteral("PNG(*.png)|*.png|SVG(*.svg)|*.svg|PDF(*.pdf)|*.pdf"),
+      name);
   if (!choice) {
     co_return;
   }

@@ -12,11 +12,6 @@ class QuietMessages : public MessageService {
 
   void Tell(const MessageCall& /*call*/) override {}
   QCoro::Task<MessageResult> Ask(MessageCall call) override { return messages_.Ask(call); }
-  MessageResult MsgCall(const QString& text, std::int16_t type, const QString& title) override {
-    return (type & message_type::kButtonMask) == message_type::kOk
-               ? MessageResult::kOk
-               : messages_.MsgCall(text, type, title);
-  }
   void Beep() override {}
 
  private:

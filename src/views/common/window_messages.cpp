@@ -68,19 +68,6 @@ QCoro::Task<MessageResult> WindowMessages::Ask(MessageCall call) {
   co_return co_await answer;
 }
 
-MessageResult WindowMessages::MsgCall(const QString& text, std::int16_t type,
-                                      const QString& title) {
-  return MsgCallWithDetails(text, type, title, {});
-}
-
-MessageResult WindowMessages::MsgCallWithDetails(const QString& text, std::int16_t type,
-                                                 const QString& title, const QString& details) {
-  OriginalMsgFrm dialog(window_);
-  dialog.Present(text, type, title, details);
-  dialog.exec();
-  return dialog.Result();
-}
-
 void WindowMessages::Beep() {
   QApplication::beep();
 }
@@ -104,7 +91,7 @@ void WindowMessages::ShowNext() {
   if (above != nullptr) {
     dialog.windowHandle()->setTransientParent(above->windowHandle());
   }
-  dialog.Show(waiting_.front().call);
+  dialog.MsgCall(waiting_.front().call);
 }
 
 // The dialog is hidden before who asked goes on, and may itself say something.

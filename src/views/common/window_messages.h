@@ -27,9 +27,6 @@ class WindowMessages : public QObject, public MessageService {
 
   void Tell(const MessageCall& call) override;
   QCoro::Task<MessageResult> Ask(MessageCall call) override;
-  MessageResult MsgCall(const QString& text, std::int16_t type, const QString& title) override;
-  MessageResult MsgCallWithDetails(const QString& text, std::int16_t type, const QString& title,
-                                   const QString& details) override;
   void Beep() override;
 
   bool eventFilter(QObject* watched, QEvent* event) override;

@@ -8,8 +8,8 @@
 namespace vexa {
 
 QCoro::Task<bool> OpenDataFile(Session& session, MessageService& messages, FileDialogs& dialogs) {
-  const std::optional<QString> path =
-      dialogs.AskOpen(Text::tr("ﾌｧｲﾙを開く"), Text::tr("ﾃﾞｰﾀ･ﾌｧｲﾙ(*.csv,*.dat)|*.csv;*.dat|"));
+  const std::optional<QString> path = co_await dialogs.AskOpen(
+      Text::tr("ﾌｧｲﾙを開く"), Text::tr("ﾃﾞｰﾀ･ﾌｧｲﾙ(*.csv,*.dat)|*.csv;*.dat|"));
   if (!path) {
     co_return false;
   }
@@ -44,7 +44,7 @@ QCoro::Task<bool> SaveDataFileAs(Session& session, MessageService& messages, Fil
     messages.Tell({Message::kNoValidData});
     co_return false;
   }
-  const std::optional<SaveChoice> choice = dialogs.AskSave(
+  const std::optional<SaveChoice> choice = co_await dialogs.AskSave(
       Text::tr("ﾌｧｲﾙの名前を付けて保存"),
       QStringLiteral("Data File(*.csv)|*.csv|Data File(*.dat)|*.dat|Data File(5)(*.dat)|*.dat"));
   if (!choice) {

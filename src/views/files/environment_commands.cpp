@@ -29,11 +29,15 @@ bool Write(const QString& path, const QString& name, Session& session, MessageSe
 
 }  // namespace
 
-bool OpenEnvironment(Session& session, MessageService& messages, FileDialogs& dialogs) {
+QCoro::Task<bool> OpenEnvironment(Session& session, MessageService& messages,
+                                  FileDialogs& dialogs) {
   const std::optional<QString> path =
-      dialogs.AskOpen(Text::tr("環境ﾌｧｲﾙを開く"),
-                      Text::tr("環境ﾃﾞｰﾀ･ﾌｧｲﾙ(*.env)|*.env|") + Text::tr("全てのﾌｧｲﾙ(*.*)|*.*|"));
-  return path && OpenEnvironment(*path, session, messages);
+      co_await dialogs.AskOpen(Text::tr("環境ﾌｧｲﾙを開く"), Text::tr("環境ﾃﾞｰﾀ･ﾌｧｲﾙ(*.env)|*.env|") +
+                                                               Text::tr("全てのﾌｧｲﾙ(*.*)|*.*|"));
+  if (!path) {
+    co_return false;
+  }
+  co_return OpenEnvironment(*path, session, messages);
 }
 
 bool OpenEnvironment(const QString& path, Session& session, MessageService& messages) {
@@ -72,7 +76,7 @@ QCoro::Task<bool> SaveEnvironment(Session& session, MessageService& messages) {
 
 QCoro::Task<bool> SaveEnvironmentAs(Session& session, MessageService& messages,
                                     FileDialogs& dialogs) {
-  const std::optional<SaveChoice> choice = dialogs.AskSave(
+  const std::optional<SaveChoice> choice = co_await dialogs.AskSave(
       Text::tr("環境ﾌｧｲﾙの名前を付けて保存"), QStringLiteral("Enviroment File (*.env)|*.env"));
   if (!choice) {
     co_return false;
@@ -82,7 +86,10 @@ QCoro::Task<bool> SaveEnvironmentAs(Session& session, MessageService& messages,
     co_return false;
   }
   const bool may = co_await MayReplace(path, messages);
-  co_return may&& Write(path, path, session, messages);
+  if (!may) {
+    co_return false;
+  }
+  co_return Write(path, path, session, messages);
 }
 
 }  // namespace vexa

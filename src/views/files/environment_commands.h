@@ -9,8 +9,8 @@ namespace vexa {
 
 /// Asks for an environment file and reads it, with the standards and dispersion data that it names.
 /// True when the settings changed, be it to the defaults after a file that cannot be read.
-[[nodiscard]] bool OpenEnvironment(Session& session, MessageService& messages,
-                                   FileDialogs& dialogs);
+[[nodiscard]] QCoro::Task<bool> OpenEnvironment(Session& session, MessageService& messages,
+                                                FileDialogs& dialogs);
 
 /// The same with a file that was chosen elsewhere.
 [[nodiscard]] bool OpenEnvironment(const QString& path, Session& session, MessageService& messages);

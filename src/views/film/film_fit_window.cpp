@@ -323,8 +323,9 @@ QCoro::Task<> FilmFitWindow::FitEachSample(bool on) {
   ChangePreferences([fitting](ProgramSettings& s) { s.fitEachMeasurement = fitting; });
 }
 
-void FilmFitWindow::OpenStack() {
-  const std::optional<QString> path = dialogs_.AskOpen(Text::tr("膜構成ﾌｧｲﾙを開く"), Filter());
+QCoro::Task<> FilmFitWindow::OpenStack() {
+  const std::optional<QString> path =
+      co_await dialogs_.AskOpen(Text::tr("膜構成ﾌｧｲﾙを開く"), Filter());
   // What each sample is fitted with is what the window shows.
   if (path && ReadStack(*path) && each_->isChecked()) {
     FitEachSample(true);
@@ -336,8 +337,8 @@ QCoro::Task<bool> FilmFitWindow::SaveStack() {
     co_return false;
   }
   const QString& named = preferences_.InForce().filmStack;
-  const std::optional<SaveChoice> choice =
-      dialogs_.AskSave(Text::tr("膜構成ﾌｧｲﾙの保存"), Filter(), QFileInfo(named).fileName());
+  const std::optional<SaveChoice> choice = co_await dialogs_.AskSave(
+      Text::tr("膜構成ﾌｧｲﾙの保存"), Filter(), QFileInfo(named).fileName());
   if (!choice) {
     co_return false;
   }

@@ -54,7 +54,7 @@ class FilmFitWindow : public QDialog {
   void FitSlots(bool all);
   void TakeFit(int slot, const FilmFitRun::Result& result);
   QCoro::Task<> FitEachSample(bool on);
-  void OpenStack();
+  QCoro::Task<> OpenStack();
   QCoro::Task<bool> SaveStack();
   bool ReadStack(const QString& path);
   void ChangePreferences(const std::function<void(ProgramSettings&)>& change);

@@ -180,8 +180,8 @@ void FilmStackEditor::ShowRows() {
   add_->setEnabled(layers_ < rows_.size());
 }
 
-void FilmStackEditor::AskFile(QLineEdit& material) {
-  const std::optional<QString> path = dialogs_.AskOpen(
+QCoro::Task<> FilmStackEditor::AskFile(QLineEdit& material) {
+  const std::optional<QString> path = co_await dialogs_.AskOpen(
       Text::tr("材料ﾌｧｲﾙを開く"), Text::tr("材料ﾌｧｲﾙ(*.ind;*.nk)") + QStringLiteral("|*.ind;*.nk"));
   if (path) {
     material.setText(*path);

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <QComboBox>
+#include <QCoroTask>
 #include <QGroupBox>
 #include <QPushButton>
 #include <array>
@@ -53,7 +54,7 @@ class FilmStackEditor : public QGroupBox {
   void AddLayer();
   void RemoveLayer(std::size_t place);
   void ShowRows();
-  void AskFile(QLineEdit& material);
+  QCoro::Task<> AskFile(QLineEdit& material);
 
   FileDialogs& dialogs_;
   std::size_t layers_ = 1;

@@ -8,11 +8,11 @@
 
 #include "base/translation.h"
 #include "views/common/dialog_buttons.h"
+#include "views/graph/view_table.h"
 
 namespace vexa {
 namespace {
 
-constexpr int kReciprocalView = 6;
 constexpr int kMostDigits = 9;  // of a number that an int holds
 
 }  // namespace
@@ -23,8 +23,9 @@ JampWave::JampWave(const VEXATYPE& state, QWidget* parent)
   setWindowTitle(Text::tr("ｼﾞｬﾝﾌﾟ"));
   wavelength_->setObjectName(QStringLiteral("Wavelength"));
   wavelength_->setMaxLength(kMostDigits);
-  auto* unit = new QLabel(state.display.view == kReciprocalView ? QStringLiteral("[1/nm]")
-                                                                : QStringLiteral("[nm]"));
+  auto* unit = new QLabel(ViewOf(state.display.view).abscissa == Abscissa::kReciprocal
+                              ? QStringLiteral("[1/nm]")
+                              : QStringLiteral("[nm]"));
   unit->setObjectName(QStringLiteral("Unit"));
   auto* frame = new QGroupBox(Text::tr("ｼﾞｬﾝﾌﾟ設定"));
   auto* grid = new QGridLayout(frame);

@@ -6,7 +6,6 @@
 #include <QLabel>
 #include <QStackedWidget>
 #include <QVBoxLayout>
-#include <algorithm>
 #include <utility>
 
 #include "base/translation.h"
@@ -22,14 +21,6 @@
 #include "views/graph/spectrum_table.h"
 
 namespace vexa {
-namespace {
-
-constexpr QStringView kReflectancePattern = u"##0.000";
-constexpr QStringView kIndexPattern = u"0.0000";
-constexpr QStringView kLightPattern = u"###0.0";
-
-}  // namespace
-
 MainViews::MainViews(const VEXATYPE& state, MessageService& messages, FileDialogs& dialogs,
                      std::shared_ptr<BackgroundPicture> picture, QWidget* parent)
     : QWidget(parent),
@@ -50,11 +41,11 @@ MainViews::MainViews(const VEXATYPE& state, MessageService& messages, FileDialog
 }
 
 void MainViews::Show(int selectedSlot) {
-  const auto named = static_cast<std::size_t>(std::max<int>(state_.display.view, 0));
-  current_ = named < views_.size() ? named : 0;
-  View& view = views_[current_];
+  const ViewEntry& entry = ViewOf(state_.display.view);
+  current_ = static_cast<std::size_t>(entry.view);
+  ShownView& view = views_[current_];
   if (view.widget == nullptr) {
-    view = BuildView(current_);
+    view = Build(entry);
     stack_->addWidget(view.widget);
   }
   view.show(selectedSlot);
@@ -71,38 +62,38 @@ void MainViews::MoveCursor(int nm) {
   }
 }
 
-MainViews::View MainViews::BuildView(std::size_t number) {
-  switch (number) {
-    case 1:
-      return TableView(QStringLiteral("ReflectanceTable"), false);
-    case 2:
-      return GraphView(new IndexGraph, kIndexPattern);
-    case 3:
-      return GraphView(new LightGraph, kLightPattern);
-    case 4:
-      return TableView(QStringLiteral("LightTable"), true);
-    case 5:
+MainViews::ShownView MainViews::Build(const ViewEntry& entry) {
+  switch (entry.view) {
+    case View::kReflectance:
+    case View::kReciprocal:
+      break;
+    case View::kReflectanceText:
+      return TableView(QStringLiteral("ReflectanceTable"), entry);
+    case View::kIndex:
+      return GraphView(new IndexGraph, entry);
+    case View::kLight:
+      return GraphView(new LightGraph, entry);
+    case View::kLightText:
+      return TableView(QStringLiteral("LightTable"), entry);
+    case View::kChromaticity:
       return DiagramView();
-    case 6:
-      return ReflectanceView(true);
-    default:
-      return ReflectanceView(false);
   }
+  return ReflectanceView(entry);
 }
 
-MainViews::View MainViews::GraphView(SpectrumGraph* graph, QStringView pattern) {
+MainViews::ShownView MainViews::GraphView(SpectrumGraph* graph, const ViewEntry& entry) {
   AddExport(*graph, messages_, dialogs_, [this] { return ProposedName(state_); });
   connect(graph, &SpectrumGraph::CursorMoved, this, [this](int nm) {
     cursorNm_ = nm;
     ShowCursor();
   });
   connect(graph, &SpectrumGraph::JumpRequested, this, &MainViews::AskJump);
-  return {graph, [this, graph](int slot) { graph->Show(state_, slot); }, graph, pattern};
+  return {graph, [this, graph](int slot) { graph->Show(state_, slot); }, graph, entry.pattern};
 }
 
-MainViews::View MainViews::ReflectanceView(bool reciprocal) {
-  auto* graph = new ReflectanceGraph(reciprocal ? Abscissa::kReciprocal : Abscissa::kWavelength);
-  View view = GraphView(graph, kReflectancePattern);
+MainViews::ShownView MainViews::ReflectanceView(const ViewEntry& entry) {
+  auto* graph = new ReflectanceGraph(entry.abscissa);
+  ShownView view = GraphView(graph, entry);
   view.show = [this, graph](int slot) {
     graph->Show(state_, slot);
     graph->ShowBand(ReflectanceBand(state_.standard));
@@ -110,16 +101,17 @@ MainViews::View MainViews::ReflectanceView(bool reciprocal) {
   return view;
 }
 
-MainViews::View MainViews::TableView(const QString& name, bool light) {
+MainViews::ShownView MainViews::TableView(const QString& name, const ViewEntry& entry) {
   auto* table = new SpectrumTable;
   table->setObjectName(name);
-  return {table, [this, table, light](int slot) {
-            table->Show(light ? LightCurves(state_) : ReflectanceCurves(state_, slot),
-                        state_.display, light ? kLightPattern : kReflectancePattern);
+  return {table, [this, table, &entry](int slot) {
+            table->Show(entry.view == View::kLightText ? LightCurves(state_)
+                                                       : ReflectanceCurves(state_, slot),
+                        state_.display, entry.pattern);
           }};
 }
 
-MainViews::View MainViews::DiagramView() {
+MainViews::ShownView MainViews::DiagramView() {
   auto* diagram = new ChromaticityDiagram(picture_);
   AddExport(*diagram, messages_, dialogs_, [this] { return ProposedName(state_); });
   auto* choice = new QComboBox;
@@ -164,7 +156,7 @@ void MainViews::ChooseDiagramKind(ColourKind kind) {
 }
 
 void MainViews::ShowCursor() {
-  const View& view = views_[current_];
+  const ShownView& view = views_[current_];
   if (view.graph != nullptr) {
     strip_->Show(view.graph->Curves(), cursorNm_, view.pattern);
   }

@@ -10,6 +10,7 @@
 #include "measurement/vexatype.h"
 #include "views/common/colour_kind.h"
 #include "views/common/file_dialogs.h"
+#include "views/graph/view_table.h"
 
 class QStackedWidget;
 
@@ -49,18 +50,18 @@ class MainViews : public QWidget {
 
  private:
   /// A view, how it takes over the state, and its graph and format of values when it has a cursor.
-  struct View {
+  struct ShownView {
     QWidget* widget = nullptr;
     std::function<void(int selectedSlot)> show;
     SpectrumGraph* graph = nullptr;
     QStringView pattern = {};
   };
 
-  View BuildView(std::size_t number);
-  View GraphView(SpectrumGraph* graph, QStringView pattern);
-  View ReflectanceView(bool reciprocal);
-  View TableView(const QString& name, bool light);
-  View DiagramView();
+  ShownView Build(const ViewEntry& entry);
+  ShownView GraphView(SpectrumGraph* graph, const ViewEntry& entry);
+  ShownView ReflectanceView(const ViewEntry& entry);
+  ShownView TableView(const QString& name, const ViewEntry& entry);
+  ShownView DiagramView();
   void ChooseDiagramKind(ColourKind kind);
   void ShowCursor();
   void AskJump();
@@ -71,7 +72,7 @@ class MainViews : public QWidget {
   std::shared_ptr<BackgroundPicture> picture_;
   QStackedWidget* stack_;
   CursorStrip* strip_;
-  std::array<View, 7> views_;
+  std::array<ShownView, kViews.size()> views_;
   std::size_t current_ = 0;
   int cursorNm_ = 550;
   bool cieOffered_ = false;

@@ -5,6 +5,7 @@
 
 #include "base/number_text.h"
 #include "views/common/theme.h"
+#include "views/graph/view_table.h"
 
 namespace vexa {
 namespace {
@@ -75,7 +76,7 @@ void MinimumMark::Show(const ReflectanceSpectrum* spectrum) {
   point_->position->setCoords(place, value);
   text_->position->setCoords(place, value);
   text_->setText(
-      QStringLiteral("Min %1 nm  %2 %").arg(lowest).arg(FormatNumber(value, u"##0.000")));
+      QStringLiteral("Min %1 nm  %2 %").arg(lowest).arg(FormatNumber(value, kReflectancePattern)));
   // Below, where nothing of the curve is, unless the border is too near; away from the nearer side.
   constexpr double kRoom = 0.08;
   const QCPRange across = plot_.xAxis->range();

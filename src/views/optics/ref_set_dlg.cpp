@@ -251,11 +251,11 @@ void RefSetDlg::GoTo(const NumberFieldsFrame& frame) {
   EnterAgain(frame.FieldAtFault());
 }
 
-void RefSetDlg::LoadIndexFile() {
+QCoro::Task<> RefSetDlg::LoadIndexFile() {
   const ModeTexts texts = Texts(mode_);
-  const std::optional<QString> path = dialogs_.AskOpen(texts.caption, texts.fileFilter);
+  const std::optional<QString> path = co_await dialogs_.AskOpen(texts.caption, texts.fileFilter);
   if (!path || !MayKeepName(*path, messages_)) {
-    return;
+    co_return;
   }
   const auto values = ReadIndexFile(*path);
   if (values) {
@@ -265,16 +265,16 @@ void RefSetDlg::LoadIndexFile() {
   }
 }
 
-void RefSetDlg::LoadSubstrateFile() {
-  const std::optional<QString> path =
-      dialogs_.AskOpen(Texts(mode_).caption, Text::tr("ﾃﾞｰﾀ･ﾌｧｲﾙ(*.csv,*.dat)|*.csv;*.dat|"));
+QCoro::Task<> RefSetDlg::LoadSubstrateFile() {
+  const std::optional<QString> path = co_await dialogs_.AskOpen(
+      Texts(mode_).caption, Text::tr("ﾃﾞｰﾀ･ﾌｧｲﾙ(*.csv,*.dat)|*.csv;*.dat|"));
   if (!path || !MayKeepName(*path, messages_)) {
-    return;
+    co_return;
   }
   const auto reflectance = ReadSubstrateFile(*path);
   if (reflectance) {
     substrateFile_->SetPath(*path);
-    return;
+    co_return;
   }
   if (const std::optional<MessageCall> notice = SubstrateNotice(reflectance.Fault())) {
     messages_.Tell(*notice);
@@ -289,7 +289,7 @@ QCoro::Task<> RefSetDlg::Save() {
   }
   const ModeTexts texts = Texts(mode_);
   const std::optional<SaveChoice> choice =
-      dialogs_.AskSave(texts.caption, Text::tr("全てのﾌｧｲﾙ(*.*)|*.*|") + texts.fileFilter);
+      co_await dialogs_.AskSave(texts.caption, Text::tr("全てのﾌｧｲﾙ(*.*)|*.*|") + texts.fileFilter);
   if (!choice) {
     co_return;
   }

@@ -49,8 +49,8 @@ class RefSetDlg : public QDialog {
   [[nodiscard]] bool TakeNumbers(DispersionSetting& setting);
   /// Opens the page of the frame, on its field at fault.
   void GoTo(const NumberFieldsFrame& frame);
-  void LoadIndexFile();
-  void LoadSubstrateFile();
+  QCoro::Task<> LoadIndexFile();
+  QCoro::Task<> LoadSubstrateFile();
   QCoro::Task<> Save();
 
   Mode mode_;

@@ -188,7 +188,7 @@ void ThickGraph::MoveCursor(int by) {
 }
 
 QCoro::Task<> ThickGraph::Save() {
-  const std::optional<SaveChoice> choice = dialogs_.AskSave(
+  const std::optional<SaveChoice> choice = co_await dialogs_.AskSave(
       Text::tr("ﾌｧｲﾙの名前を付けて保存"), QStringLiteral("Data File (*.thk)|*.thk"));
   if (!choice) {
     co_return;

@@ -80,8 +80,8 @@ QCoro::Task<bool> CurrentPrinter::Print(QString title, PageMaker pages, int copi
 
 QCoro::Task<bool> CurrentPrinter::PrintToFile(QString title, PageMaker pages) {
   const std::optional<SaveChoice> choice =
-      dialogs_.AskSave(Text::tr("印刷"), QStringLiteral("PDF(*.pdf)|*.pdf"),
-                       WithExtension(ProposedName(state_), QStringLiteral(".pdf")));
+      co_await dialogs_.AskSave(Text::tr("印刷"), QStringLiteral("PDF(*.pdf)|*.pdf"),
+                                WithExtension(ProposedName(state_), QStringLiteral(".pdf")));
   if (!choice) {
     co_return false;
   }

@@ -10,6 +10,7 @@
 #include "views/graph/index_graph.h"
 #include "views/graph/light_graph.h"
 #include "views/graph/reflectance_graph.h"
+#include "views/graph/view_table.h"
 #include "views/paper/page_flow.h"
 #include "views/paper/plot_drawing.h"
 #include "views/print/measuring_conditions.h"
@@ -38,18 +39,14 @@ VEXATYPE Selected(const VEXATYPE& state, int slot) {
 
 // The graph of the view in force; the reflectance for the views that are no such graph.
 std::unique_ptr<SpectrumGraph> MakeGraph(const VEXATYPE& state) {
-  constexpr int kIndexView = 2;
-  constexpr int kLightView = 3;
-  constexpr int kReciprocalView = 6;
-  const int view = state.display.view;
-  if (view == kIndexView) {
+  const ViewEntry& view = ViewOf(state.display.view);
+  if (view.view == View::kIndex) {
     return std::make_unique<IndexGraph>();
   }
-  if (view == kLightView) {
+  if (view.view == View::kLight) {
     return std::make_unique<LightGraph>();
   }
-  auto graph = std::make_unique<ReflectanceGraph>(view == kReciprocalView ? Abscissa::kReciprocal
-                                                                          : Abscissa::kWavelength);
+  auto graph = std::make_unique<ReflectanceGraph>(view.abscissa);
   graph->ShowBand(ReflectanceBand(state.standard));
   return graph;
 }

@@ -8,6 +8,7 @@
 #include "base/translation.h"
 #include "colour/cie_parts.h"
 #include "colour/colour_tables.h"
+#include "colour/colour_values.h"
 #include "standards/condition_caption.h"
 #include "views/common/colour_texts.h"
 #include "views/optics/fit_text.h"
@@ -25,22 +26,20 @@ constexpr double kBandWidth = 140.0;
 
 struct ColourColumn {
   QString title;
-  double ColourResult::*value;
-  QString pattern;
-  bool ofCalcColour;  // as all but the average reflectance
+  ColourValue value;
 };
 
 const std::vector<ColourColumn>& ColourColumns() {
-  static const std::vector<ColourColumn> kColumns{
-      {QStringLiteral("x"), &ColourResult::x, QStringLiteral("0.0000"), true},
-      {QStringLiteral("y"), &ColourResult::y, QStringLiteral("0.0000"), true},
-      {QStringLiteral("L*"), &ColourResult::L, QStringLiteral("##0.00"), true},
-      {QStringLiteral("a*"), &ColourResult::a, QStringLiteral("0.0000"), true},
-      {QStringLiteral("b*"), &ColourResult::b, QStringLiteral("0.0000"), true},
-      {QStringLiteral("C*"), &ColourResult::C, QStringLiteral("##0.000"), true},
-      {QStringLiteral("h[°]"), &ColourResult::h, QStringLiteral("##0.000"), true},
-      {Text::tr("平均[%]"), &ColourResult::Rm, QStringLiteral("##0.0##"), false},
-      {Text::tr("視感[%]"), &ColourResult::Y, QStringLiteral("##0.0##"), true}};
+  using namespace colour_value;
+  static const std::vector<ColourColumn> kColumns{{QStringLiteral("x"), kChromaticityX},
+                                                  {QStringLiteral("y"), kChromaticityY},
+                                                  {QStringLiteral("L*"), kL},
+                                                  {QStringLiteral("a*"), kA},
+                                                  {QStringLiteral("b*"), kB},
+                                                  {QStringLiteral("C*"), kChroma},
+                                                  {QStringLiteral("h[°]"), kHue},
+                                                  {Text::tr("平均[%]"), kAverage},
+                                                  {Text::tr("視感[%]"), kLuminous}};
   return kColumns;
 }
 
@@ -145,9 +144,8 @@ PageTable ValueTable(const VEXATYPE& state) {
     ColourResult ignored;
     const bool coloured = CalcColour(slot.reflectance, state.colour, ignored);
     for (const ColourColumn& column : ColourColumns()) {
-      row.push_back({coloured || !column.ofCalcColour
-                         ? FormatNumber(slot.colour.*column.value, column.pattern).trimmed()
-                         : kNone});
+      const bool known = coloured || column.value.member == &ColourResult::Rm;
+      row.push_back({known ? column.value.TextOf(slot.colour) : kNone});
     }
     row.push_back({ThicknessText(slot)});
   });

@@ -5,6 +5,7 @@
 
 #include "base/number_text.h"
 #include "base/translation.h"
+#include "views/graph/view_table.h"
 #include "views/print/slot_tables.h"
 
 namespace vexa {
@@ -69,8 +70,9 @@ PageTable MakeTable(const VEXATYPE& state, const std::vector<int>& numbers, int 
       cells.push_back({within ? QString::number(nm) : QString()});
       for (const int number : numbers) {
         cells.push_back(
-            {within ? FormatNumber(state.Slot(number)->reflectance[nm], u"##0.000").trimmed()
-                    : QString()});
+            {within
+                 ? FormatNumber(state.Slot(number)->reflectance[nm], kReflectancePattern).trimmed()
+                 : QString()});
       }
     }
   }

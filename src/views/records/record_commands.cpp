@@ -41,10 +41,10 @@ QCoro::Task<> LoadIntoSlots(QList<WholeRecord> records, Session& session,
 }
 
 QCoro::Task<> ExportAs(QList<WholeRecord> records, FileDialogs& dialogs, MessageService& messages) {
-  const std::optional<SaveChoice> choice =
-      dialogs.AskSave(Text::tr("記録の書き出し"),
-                      QStringLiteral("CSV(*.csv)|*.csv|Data File(*.dat)|*.dat|JSON(*.json)|*.json|"
-                                     "JCAMP-DX(*.jdx)|*.jdx"));
+  const std::optional<SaveChoice> choice = co_await dialogs.AskSave(
+      Text::tr("記録の書き出し"),
+      QStringLiteral("CSV(*.csv)|*.csv|Data File(*.dat)|*.dat|JSON(*.json)|*.json|"
+                     "JCAMP-DX(*.jdx)|*.jdx"));
   if (!choice) {
     co_return;
   }

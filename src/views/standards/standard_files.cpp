@@ -11,25 +11,27 @@ StandardContents ContentsOf(const Settings& state) {
   return {state.standard, state.chromaMarker, state.hueMarker};
 }
 
-std::optional<StandardFile> LoadStandardFile(MessageService& messages, FileDialogs& dialogs) {
-  const std::optional<QString> path =
-      dialogs.AskOpen(Text::tr("規格ﾌｧｲﾙを開く"), QStringLiteral("Standard Files (*.std)|*.std"));
+QCoro::Task<std::optional<StandardFile>> LoadStandardFile(MessageService& messages,
+                                                          FileDialogs& dialogs) {
+  const std::optional<QString> path = co_await dialogs.AskOpen(
+      Text::tr("規格ﾌｧｲﾙを開く"), QStringLiteral("Standard Files (*.std)|*.std"));
   if (!path || !MayKeepName(*path, messages)) {
-    return std::nullopt;
+    co_return std::nullopt;
   }
   const ReadResult<StandardContents> contents = ReadStandardFile(*path);
   if (!contents) {
     messages.Tell(StandardMessage(*path, contents.Fault()));
-    return std::nullopt;
+    co_return std::nullopt;
   }
-  return StandardFile{*path, *contents};
+  const StandardFile file{*path, *contents};
+  co_return file;
 }
 
 QCoro::Task<std::optional<QString>> SaveStandardFile(StandardContents contents, QString filter,
                                                      MessageService& messages,
                                                      FileDialogs& dialogs) {
   const std::optional<SaveChoice> choice =
-      dialogs.AskSave(Text::tr("規格ﾌｧｲﾙの名前を付けて保存"), filter);
+      co_await dialogs.AskSave(Text::tr("規格ﾌｧｲﾙの名前を付けて保存"), filter);
   if (!choice) {
     co_return std::nullopt;
   }

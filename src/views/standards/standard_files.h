@@ -22,8 +22,8 @@ struct StandardFile {
 
 /// Asks for a standard file and reads it whole. Nothing when cancelled, and, shown, when it cannot
 /// be read.
-[[nodiscard]] std::optional<StandardFile> LoadStandardFile(MessageService& messages,
-                                                           FileDialogs& dialogs);
+[[nodiscard]] QCoro::Task<std::optional<StandardFile>> LoadStandardFile(MessageService& messages,
+                                                                        FileDialogs& dialogs);
 
 /// Asks for a name under the filter and writes the standards. The path; nothing when cancelled,
 /// and, shown, when it cannot be written.

@@ -261,13 +261,15 @@ std::optional<StandardContents> StandardFrm::Entered() {
   return contents;
 }
 
-void StandardFrm::Load() {
-  if (const std::optional<StandardFile> file = LoadStandardFile(messages_, dialogs_)) {
-    fileName_ = file->path;
-    inFile_ = file->contents;
-    Show(file->contents);
-    ShowFileName();
+QCoro::Task<> StandardFrm::Load() {
+  const std::optional<StandardFile> file = co_await LoadStandardFile(messages_, dialogs_);
+  if (!file) {
+    co_return;
   }
+  fileName_ = file->path;
+  inFile_ = file->contents;
+  Show(file->contents);
+  ShowFileName();
 }
 
 QCoro::Task<> StandardFrm::Save() {

@@ -36,7 +36,7 @@ class StandardFrm : public QDialog {
   std::optional<StandardContents> Entered();
   QLineEdit* TakeInto(StandardContents& contents, QString& where) const;
   [[nodiscard]] QLineEdit* FieldAtFault(const StandardSet& entered) const;
-  void Load();
+  QCoro::Task<> Load();
   QCoro::Task<> Save();
 
   Session& session_;
