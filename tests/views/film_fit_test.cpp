@@ -44,7 +44,7 @@ class FilmFitting : public test::WindowTest {
   }
   void FitAndWait(const char* button) {
     Press(button);
-    EXPECT_TRUE(QTest::qWaitFor([this] { return window.IsDone(); }));
+    EXPECT_TRUE(QTest::qWaitFor([this] { return window.IsDone(); }, 30000));
   }
   [[nodiscard]] double Fitted(int slot) const {
     const std::optional<FilmFit>& fit = state.Slot(slot)->fit;
@@ -72,17 +72,24 @@ TEST_F(FilmFitting, FitsTheSelectedSlotOrAll) {
   EXPECT_EQ(Text("FitOutcome"), FilmFitFaultText(FilmFitFault::kSpectrum).toStdString());
   EXPECT_TRUE(messages.Take().empty());
 
-  // A known primer that is not there is no film of this sample.
-  Press("AddLayer");
-  Enter("Layer2", "2.2");
-  Find<QComboBox>("Layer2Kind").setCurrentIndex(1);
-  Enter("Layer2From", "300");
-  FitAndWait("FitSlot");
-  EXPECT_FALSE(state.Slot(2)->fit) << "made of another stack";
   window.ShowSlot(1);
+  Enter("IndexUncertainty", "1");
   FitAndWait("FitSlot");
-  EXPECT_EQ(state.Slot(1)->fit->layers.size(), 2U);
-  EXPECT_NE(state.Slot(1)->fit->outcome, FitOutcome::kOk);
+  EXPECT_NEAR(state.Slot(1)->fit->layers.front().uncertaintyNm, 15.0, 0.5);
+  EXPECT_FALSE(state.Slot(2)->fit) << "made under other conditions";
+
+  Press("AddLayer");
+  Enter("Layer2", kLens);
+  Find<QComboBox>("Layer2Kind").setCurrentIndex(1);
+  dialogs.save = SaveChoice{files.Path("two.flm"), 1};
+  Enter("Layer2From", "300");
+  Press("SaveStack");
+  Press("Layer1Remove");
+  EXPECT_EQ(Find<QLineEdit>("Layer1").text(), QLatin1String(kLens));
+  dialogs.open = files.Path("two.flm");
+  Press("OpenStack");
+  EXPECT_EQ(Find<QLineEdit>("Layer1").text(), QLatin1String(kCoat));
+  EXPECT_EQ(Find<QComboBox>("Layer2Kind").currentIndex(), 1) << "its thickness is known";
 }
 
 TEST_F(FilmFitting, RefusesABadEntryAndPutsTheFocusOnIt) {
