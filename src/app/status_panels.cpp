@@ -12,7 +12,8 @@ namespace vexa {
 namespace {
 
 constexpr int kEnvironmentWidth = 90;
-constexpr int kVerdictWidth = 144;  // six of them and the file's name fit onto 1024 pixels
+constexpr int kNarrowEnvironmentWidth = 40;  // beside what waits for the shared store
+constexpr int kVerdictWidth = 144;           // six of them and the file's name fit onto 1024 pixels
 constexpr int kMarkSize = 16;
 constexpr QColor kGoodPaper{0xe3, 0xf3, 0xe8};
 
@@ -88,7 +89,10 @@ void StatusPanels::AddEnvironmentPanel() {
   addWidget(shared_);
   shared_->hide();
   sharedSoon_.setSingleShot(true);
-  connect(&sharedSoon_, &QTimer::timeout, shared_, &QLabel::show);
+  connect(&sharedSoon_, &QTimer::timeout, this, [this] {
+    environment_->setMinimumWidth(kNarrowEnvironmentWidth);
+    shared_->show();
+  });
 }
 
 void StatusPanels::AddVerdictPanel(std::size_t group) {
@@ -120,6 +124,7 @@ void StatusPanels::ShowShared(const SharedStatus& status) {
   if (status.waiting == 0 && status.fault == StoreFault::kNone) {
     sharedSoon_.stop();
     shared_->hide();
+    environment_->setMinimumWidth(kEnvironmentWidth);
   } else if (!shared_->isVisible() && !sharedSoon_.isActive()) {
     sharedSoon_.start(kQuietMs);
   }

@@ -8,8 +8,8 @@
 namespace vexa {
 
 /// Turns SIGINT, SIGTERM and SIGHUP into a call in the event loop, and lets writing to a closed
-/// pipe fail instead of ending the program. To be made after the application object and
-/// before any thread starts.
+/// pipe fail instead of ending the program, whatever threads there are. To be made after the
+/// application object, and one at a time.
 class EndSignals {
  public:
   /// Throws std::system_error when the system has no descriptor left.

@@ -83,6 +83,7 @@ TEST_F(Records, WaitForASharedStoreThatIsAway) {
   Measure("Mes2", 310);
   ASSERT_TRUE(QTest::qWaitFor([&waiting] { return waiting.isVisible(); }, 20000));
   EXPECT_EQ(waiting.text(), QStringLiteral("⇡1"));
+  EXPECT_LE(window->minimumSizeHint().width(), 1024 - 16) << "the panel has its place";
   place.setCurrentIndex(1);
   const auto& told = test::Child<QLabel>(records, "RecordState");
   EXPECT_TRUE(QTest::qWaitFor(
