@@ -15,6 +15,7 @@
 #include "files/data_file.h"
 #include "measurement/evaluation.h"
 #include "optics/thickness_doubts.h"
+#include "records/result_json.h"
 
 namespace vexa::cli {
 namespace {

@@ -1,54 +1,15 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "cli/cie_report.h"
 
-#include <array>
-#include <limits>
-
-#include "base/number_text.h"
-#include "cli/console.h"
+#include "colour/cie_parts.h"
 #include "colour/colour_tables.h"
 
 namespace vexa::cli {
-namespace {
-
-struct CiePart {
-  const char* name;
-  double CieColour::*value;
-  const char16_t* pattern;
-};
-
-constexpr CiePart kCieParts[] = {
-    {"X", &CieColour::X, u"##0.0##"},   {"Y", &CieColour::Y, u"##0.0##"},
-    {"Z", &CieColour::Z, u"##0.0##"},   {"x", &CieColour::x, u"0.0000"},
-    {"y", &CieColour::y, u"0.0000"},    {"L", &CieColour::L, u"##0.00"},
-    {"a", &CieColour::a, u"0.0000"},    {"b", &CieColour::b, u"0.0000"},
-    {"C", &CieColour::C, u"##0.000"},   {"h", &CieColour::h, u"##0.000"},
-    {"Rv", &CieColour::Rv, u"##0.0##"}, {"spread", &CieColour::spread, u"##0.000"},
-};
-
-double ValueOf(const std::optional<CieColour>& colour, const CiePart& part) {
-  return colour ? (*colour).*part.value : std::numeric_limits<double>::quiet_NaN();
-}
-
-int ObserverDegrees(const ColourSettings& settings) {
-  return settings.observer2Deg ? 2 : 10;
-}
-
-}  // namespace
-
-QJsonObject CieJson(const std::optional<CieColour>& colour, const ColourSettings& settings) {
-  QJsonObject object{{QStringLiteral("observer"), ObserverDegrees(settings)},
-                     {QStringLiteral("illuminant"), IlluminantText(settings.illuminant)}};
-  for (const CiePart& part : kCieParts) {
-    object[QLatin1String(part.name)] = ToJson(std::array{ValueOf(colour, part)}).first();
-  }
-  return object;
-}
 
 QString CieText(const std::vector<CieLine>& lines, const ColourSettings& settings) {
   QString text = QStringLiteral("\nCIE %1/%2°  %3\nslot")
                      .arg(IlluminantText(settings.illuminant))
-                     .arg(ObserverDegrees(settings))
+                     .arg(settings.observer2Deg ? 2 : 10)
                      .arg(CieRangeText());
   for (const CiePart& part : kCieParts) {
     text += QStringLiteral(" %1").arg(QLatin1String(part.name), 9);
@@ -56,8 +17,7 @@ QString CieText(const std::vector<CieLine>& lines, const ColourSettings& setting
   for (const CieLine& line : lines) {
     text += QStringLiteral("\n%1").arg(line.slot, 4);
     for (const CiePart& part : kCieParts) {
-      text += QStringLiteral(" %1").arg(
-          FormatNumber(ValueOf(line.colour, part), part.pattern).trimmed(), 9);
+      text += QStringLiteral(" %1").arg(CieValueText(line.colour, part), 9);
     }
   }
   return text + u'\n';

@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include <QJsonObject>
 #include <QString>
 #include <optional>
 #include <vector>
@@ -9,10 +8,6 @@
 #include "colour/cie_colour.h"
 
 namespace vexa::cli {
-
-/// The CIE colour of one slot and what it was computed for; null what could not be computed.
-[[nodiscard]] QJsonObject CieJson(const std::optional<CieColour>& colour,
-                                  const ColourSettings& settings);
 
 /// One line of the readable table.
 struct CieLine {

@@ -4,9 +4,11 @@
 #include "cli/program_settings.h"
 #include "cli/records_actions.h"
 #include "cli/text_columns.h"
+#include "colour/cie_colour.h"
 #include "files/configuration.h"
 #include "measurement/dispersion_data.h"
 #include "records/record_files.h"
+#include "records/result_json.h"
 #include "records/whole_record.h"
 #include "standards/standard_file.h"
 
@@ -39,12 +41,22 @@ QString Number(double value, QStringView pattern) {
 }
 
 QString ResultText(const SampleRecord& sample) {
-  QList<QStringList> rows{{QStringLiteral("verdict"), VerdictWord(VerdictOf(sample.groups))},
+  QList<QStringList> rows{{QStringLiteral("verdict"), VerdictWord(VerdictOf(sample))},
                           {QStringLiteral("L* a* b*"), Number(sample.colour.L, u"##0.00"),
                            Number(sample.colour.a, u"0.0000"), Number(sample.colour.b, u"0.0000")},
                           {QStringLiteral("x y Y"), Number(sample.colour.x, u"0.0000"),
                            Number(sample.colour.y, u"0.0000"), Number(sample.colour.Y, u"##0.0##")},
                           {QStringLiteral("Rm"), Number(sample.colour.Rm, u"##0.0##")}};
+  if (sample.cie) {
+    const auto part = [&sample](const char* name, QStringView pattern) {
+      return Number(NumberOf((*sample.cie)[QLatin1String(name)]), pattern);
+    };
+    rows << QStringList{QStringLiteral("CIE L* a* b*"), part("L", u"##0.00"), part("a", u"0.0000"),
+                        part("b", u"0.0000")}
+         << QStringList{QStringLiteral("CIE C* h Rv"), part("C", u"##0.000"), part("h", u"##0.000"),
+                        part("Rv", u"##0.0##")}
+         << QStringList{QStringLiteral("CIE spread"), part("spread", u"##0.000"), CieRangeText()};
+  }
   if (sample.thickness) {
     rows << QStringList{
         QStringLiteral("thickness"),

@@ -84,11 +84,20 @@ void AddConditions(LabelledRecords& block, const WholeRecord& record) {
 }
 
 void AddResults(LabelledRecords& block, const SampleRecord& sample) {
-  block.Add("$VERDICT", VerdictWord(VerdictOf(sample.groups)));
+  block.Add("$VERDICT", VerdictWord(VerdictOf(sample)));
   const QJsonObject colour = ColourJson(sample.colour);
   for (auto part = colour.begin(); part != colour.end(); ++part) {
     if (part->isDouble()) {
       block.Add(("$COLOUR " + part.key().toLatin1()).constData(), part->toDouble());
+    }
+  }
+  const QJsonObject cie = sample.cie.value_or(QJsonObject());
+  for (auto part = cie.begin(); part != cie.end(); ++part) {
+    const QByteArray label = "$CIE " + part.key().toLatin1();
+    if (part->isDouble()) {
+      block.Add(label.constData(), part->toDouble());
+    } else if (part->isString()) {
+      block.Add(label.constData(), part->toString());
     }
   }
   if (sample.thickness) {

@@ -78,7 +78,7 @@ void PutText(QJsonObject& document, const char* name, const QString& text) {
 
 }  // namespace
 
-Verdict VerdictOf(const GroupJudgements& groups) {
+Verdict VerdictOf(std::span<const GroupJudgement> groups) {
   Verdict verdict = Verdict::kNone;
   for (const GroupJudgement& group : groups) {
     if (group.passed && !*group.passed) {
@@ -89,6 +89,12 @@ Verdict VerdictOf(const GroupJudgements& groups) {
     }
   }
   return verdict;
+}
+
+Verdict VerdictOf(const SampleRecord& sample) {
+  const Verdict byStandard = VerdictOf(sample.groups);
+  const Verdict byCie = VerdictOf(sample.cieGroups);
+  return std::max(byStandard, byCie);
 }
 
 QString VerdictWord(Verdict verdict) {
@@ -133,13 +139,17 @@ Row ToRow(const SampleRecord& sample) {
     PutText(document, part.name, sample.*part.text);
   }
   document[QStringLiteral("colour")] = ColourJson(sample.colour);
-  document[QStringLiteral("verdict")] = VerdictWord(VerdictOf(sample.groups));
+  document[QStringLiteral("verdict")] = VerdictWord(VerdictOf(sample));
   document[QStringLiteral("verdicts")] = GroupsJson(sample.groups);
   if (sample.thickness) {
     document[QStringLiteral("thickness")] = ThicknessJson(*sample.thickness, sample.doubts);
   }
   if (sample.cie) {
     document[QStringLiteral("cie")] = *sample.cie;
+  }
+  if (VerdictOf(sample.cieGroups) != Verdict::kNone) {
+    document[QStringLiteral("cieLimits")] = CieLimitsJson(sample.cieLimits);
+    document[QStringLiteral("cieVerdicts")] = CieGroupsJson(sample.cieGroups);
   }
   if (sample.fit) {
     document[QStringLiteral("fit")] = *sample.fit;
@@ -218,6 +228,8 @@ std::optional<SampleRecord> ToSample(const Row& row) {
     return value.isObject() ? std::optional(value.toObject()) : std::nullopt;
   };
   sample.cie = optional("cie");
+  sample.cieLimits = CieLimitsOf(document[QStringLiteral("cieLimits")].toObject());
+  sample.cieGroups = CieGroupsOf(document[QStringLiteral("cieVerdicts")].toArray());
   sample.fit = optional("fit");
   if (const std::optional<QJsonObject> conditions = optional("frame")) {
     FrameRecord& frame = sample.frame.emplace();

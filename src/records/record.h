@@ -6,12 +6,14 @@
 #include <QString>
 #include <QStringList>
 #include <optional>
+#include <span>
 
 #include "base/spectrum.h"
 #include "colour/colorimetry.h"
 #include "measurement/frame_conditions.h"
 #include "optics/thickness.h"
 #include "records/row.h"
+#include "standards/cie_limits.h"
 #include "standards/judgement.h"
 
 namespace vexa {
@@ -57,9 +59,11 @@ struct SampleRecord {
   QString settingsId;
   std::optional<FrameRecord> frame;  ///< nothing when imported
 
-  ReflectanceSpectrum reflectance;           ///< percent
-  ColourResult colour;                       ///< not a number what could not be computed
-  std::optional<QJsonObject> cie;            ///< as another floor has written it
+  ReflectanceSpectrum reflectance;  ///< percent
+  ColourResult colour;              ///< not a number what could not be computed
+  std::optional<QJsonObject> cie;   ///< see CieJson; nothing in records before it was
+  CieLimits cieLimits;              ///< judged beside the standard
+  CieJudgement cieGroups;
   std::optional<ThicknessResult> thickness;  ///< nothing when none was computed
   QStringList doubts;                        ///< about the thickness
   std::optional<QJsonObject> fit;            ///< as another floor has written it
@@ -82,7 +86,10 @@ struct EventRecord {
 };
 
 /// NG when a judged group failed, OK when all that were judged passed, none when none was.
-[[nodiscard]] Verdict VerdictOf(const std::array<GroupJudgement, kStandardGroupCount>& groups);
+[[nodiscard]] Verdict VerdictOf(std::span<const GroupJudgement> groups);
+
+/// The verdict on a sample as a whole: by the standard and by the limits of its CIE values.
+[[nodiscard]] Verdict VerdictOf(const SampleRecord& sample);
 
 /// "OK", "NG" or "none".
 [[nodiscard]] QString VerdictWord(Verdict verdict);

@@ -4,7 +4,9 @@
 #include <QFileInfo>
 #include <limits>
 
+#include "colour/cie_colour.h"
 #include "colour/colorimetry.h"
+#include "records/result_json.h"
 #include "records/settings_json.h"
 
 namespace vexa {
@@ -75,7 +77,10 @@ SampleRecord ResultsOf(const VEXATYPE& state, const MeasurementSlot& slot,
   sample.programVersion = QStringLiteral(VEXA_VERSION);
   sample.reflectance = slot.reflectance;
   sample.colour = ComputableColour(slot.reflectance, state.colour);
-  sample.cie = context.cie;
+  const std::optional<CieColour> cie = CalcCieColour(slot.reflectance, state.colour);
+  sample.cie = CieJson(cie, state.colour);
+  sample.cieLimits = context.cieLimits;
+  sample.cieGroups = JudgeCie(cie, context.cieLimits);
   if (slot.thickness.IsComputed()) {
     sample.thickness = slot.thickness;
     sample.doubts = context.doubts;

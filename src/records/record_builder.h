@@ -18,8 +18,8 @@ struct RecordContext {
   QString lot;
   QString recipe;
   QString operatorName;
-  QStringList doubts;  ///< about the thickness
-  std::optional<QJsonObject> cie;
+  QStringList doubts;   ///< about the thickness
+  CieLimits cieLimits;  ///< of a recipe, judged beside the standard; all off without one
   std::optional<QJsonObject> fit;
   QString supersedes;
   QString reason;

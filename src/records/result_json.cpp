@@ -5,6 +5,9 @@
 #include <cmath>
 #include <limits>
 
+#include "colour/cie_parts.h"
+#include "colour/colour_tables.h"
+
 namespace vexa {
 namespace {
 
@@ -40,6 +43,55 @@ QString PassedWord(const std::optional<bool>& passed) {
     return QStringLiteral("none");
   }
   return *passed ? QStringLiteral("OK") : QStringLiteral("NG");
+}
+
+const QString kLimits = QStringLiteral("limits");
+const QString kTarget = QStringLiteral("target");
+const QString kLower = QStringLiteral("lower");
+const QString kUpper = QStringLiteral("upper");
+
+std::array<const char*, kCieGroupCount> CieGroupNames() {
+  std::array<const char*, kCieGroupCount> names{};
+  std::ranges::transform(kCieLimitsEntries, names.begin(), &CieLimitsEntry::name);
+  return names;
+}
+
+template <std::size_t kCount>
+QJsonArray Json(const std::array<GroupJudgement, kCount>& groups,
+                const std::array<const char*, kCount>& names) {
+  QJsonArray array;
+  for (std::size_t i = 0; i < kCount; ++i) {
+    const std::optional<double> margin = groups[i].margin;
+    array.append(
+        QJsonObject{{QStringLiteral("group"), QLatin1String(names[i])},
+                    {QStringLiteral("verdict"), PassedWord(groups[i].passed)},
+                    {QStringLiteral("margin"), margin ? NumberJson(*margin) : QJsonValue()}});
+  }
+  return array;
+}
+
+template <std::size_t kCount>
+std::array<GroupJudgement, kCount> JudgementsOf(const QJsonArray& array,
+                                                const std::array<const char*, kCount>& names) {
+  std::array<GroupJudgement, kCount> groups;
+  for (const auto& value : array) {
+    const QJsonObject object = value.toObject();
+    const auto name = std::ranges::find_if(names, [&object](const char* known) {
+      return object[QStringLiteral("group")] == QLatin1String(known);
+    });
+    if (name == names.end()) {
+      continue;
+    }
+    GroupJudgement& group = groups[static_cast<std::size_t>(name - names.begin())];
+    if (const QString word = object[QStringLiteral("verdict")].toString();
+        word == QLatin1String("OK") || word == QLatin1String("NG")) {
+      group.passed = word == QLatin1String("OK");
+    }
+    if (const QJsonValue margin = object[QStringLiteral("margin")]; margin.isDouble()) {
+      group.margin = margin.toDouble();
+    }
+  }
+  return groups;
 }
 
 }  // namespace
@@ -113,37 +165,59 @@ ThicknessResult ThicknessOf(const QJsonObject& object) {
 }
 
 QJsonArray GroupsJson(const GroupJudgements& groups) {
-  QJsonArray array;
-  for (std::size_t i = 0; i < groups.size(); ++i) {
-    const std::optional<double> margin = groups[i].margin;
-    array.append(
-        QJsonObject{{QStringLiteral("group"), QLatin1String(kGroupNames[i])},
-                    {QStringLiteral("verdict"), PassedWord(groups[i].passed)},
-                    {QStringLiteral("margin"), margin ? NumberJson(*margin) : QJsonValue()}});
-  }
-  return array;
+  return Json(groups, kGroupNames);
 }
 
 GroupJudgements GroupsOf(const QJsonArray& array) {
-  GroupJudgements groups;
-  for (const auto& value : array) {
-    const QJsonObject object = value.toObject();
-    const auto name = std::ranges::find_if(kGroupNames, [&object](const char* known) {
-      return object[QStringLiteral("group")] == QLatin1String(known);
-    });
-    if (name == kGroupNames.end()) {
-      continue;
-    }
-    GroupJudgement& group = groups[static_cast<std::size_t>(name - kGroupNames.begin())];
-    if (const QString word = object[QStringLiteral("verdict")].toString();
-        word == QLatin1String("OK") || word == QLatin1String("NG")) {
-      group.passed = word == QLatin1String("OK");
-    }
-    if (const QJsonValue margin = object[QStringLiteral("margin")]; margin.isDouble()) {
-      group.margin = margin.toDouble();
+  return JudgementsOf(array, kGroupNames);
+}
+
+QJsonObject CieJson(const std::optional<CieColour>& colour, const ColourSettings& settings) {
+  QJsonObject object{{QStringLiteral("observer"), settings.observer2Deg ? 2 : 10},
+                     {QStringLiteral("illuminant"), IlluminantText(settings.illuminant)}};
+  for (const CiePart& part : kCieParts) {
+    object[QLatin1String(part.name)] = colour ? NumberJson((*colour).*part.value) : QJsonValue();
+  }
+  return object;
+}
+
+QJsonObject CieLimitsJson(const CieLimits& limits) {
+  QJsonObject ranges;
+  for (const CieLimitsEntry& entry : kCieLimitsEntries) {
+    if (const StandardLimits& range = limits.*entry.limits; range.enabled) {
+      ranges[QLatin1String(entry.name)] = QJsonObject{{kLower, range.lower}, {kUpper, range.upper}};
     }
   }
-  return groups;
+  QJsonObject object{{kLimits, ranges}};
+  if (limits.deltaE00.enabled) {
+    object[kTarget] = QJsonObject{{QStringLiteral("L"), limits.target.L},
+                                  {QStringLiteral("a"), limits.target.a},
+                                  {QStringLiteral("b"), limits.target.b}};
+  }
+  return object;
+}
+
+CieLimits CieLimitsOf(const QJsonObject& object) {
+  CieLimits limits;
+  const QJsonObject ranges = object[kLimits].toObject();
+  for (const CieLimitsEntry& entry : kCieLimitsEntries) {
+    const QJsonValue range = ranges[QLatin1String(entry.name)];
+    StandardLimits& named = limits.*entry.limits;
+    named = {range.isObject(), range[kUpper].toDouble(named.upper),
+             range[kLower].toDouble(named.lower)};
+  }
+  const QJsonValue target = object[kTarget];
+  limits.target = {target[QStringLiteral("L")].toDouble(), target[QStringLiteral("a")].toDouble(),
+                   target[QStringLiteral("b")].toDouble()};
+  return limits;
+}
+
+QJsonArray CieGroupsJson(const CieJudgement& groups) {
+  return Json(groups, CieGroupNames());
+}
+
+CieJudgement CieGroupsOf(const QJsonArray& array) {
+  return JudgementsOf(array, CieGroupNames());
 }
 
 }  // namespace vexa

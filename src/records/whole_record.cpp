@@ -94,13 +94,17 @@ Answer<WholeRecord> LoadRecord(const RecordSource& store, const QString& idOrNum
 }
 
 QJsonObject ResultsJson(const SampleRecord& sample) {
+  const bool judged = VerdictOf(sample.cieGroups) != Verdict::kNone;
   return {{QStringLiteral("first"), ReflectanceSpectrum::kFirstNm},
           {QStringLiteral("reflectance"), NumbersJson(sample.reflectance.Values())},
           {QStringLiteral("colour"), ColourJson(sample.colour)},
           {QStringLiteral("thickness"),
            sample.thickness ? ThicknessJson(*sample.thickness, sample.doubts) : QJsonValue()},
-          {QStringLiteral("verdict"), VerdictWord(VerdictOf(sample.groups))},
-          {QStringLiteral("verdicts"), GroupsJson(sample.groups)}};
+          {QStringLiteral("verdict"), VerdictWord(VerdictOf(sample))},
+          {QStringLiteral("verdicts"), GroupsJson(sample.groups)},
+          {QStringLiteral("cie"), sample.cie ? *sample.cie : QJsonValue()},
+          {QStringLiteral("cieLimits"), judged ? CieLimitsJson(sample.cieLimits) : QJsonValue()},
+          {QStringLiteral("cieVerdicts"), judged ? CieGroupsJson(sample.cieGroups) : QJsonValue()}};
 }
 
 QJsonObject RecordJson(const WholeRecord& record) {
@@ -134,7 +138,6 @@ QJsonObject RecordJson(const WholeRecord& record) {
       {QStringLiteral("standard"), settings[QStringLiteral("standard")].isString()
                                        ? settings[QStringLiteral("standard")]
                                        : QJsonValue()},
-      {QStringLiteral("cie"), sample.cie ? *sample.cie : QJsonValue()},
       {QStringLiteral("fit"), sample.fit ? *sample.fit : QJsonValue()}};
   for (auto part = rest.begin(); part != rest.end(); ++part) {
     object.insert(part.key(), part.value());
@@ -163,7 +166,9 @@ SampleRecord EvaluateAnew(const WholeRecord& record, const Settings& settings, b
     // A record without a thickness says that there is none.
     (void)ComputeSlotThickness(state, slot);
   }
-  return ResultsOf(state, slot, {});
+  RecordContext context;
+  context.cieLimits = record.sample.cieLimits;
+  return ResultsOf(state, slot, context);
 }
 
 }  // namespace vexa

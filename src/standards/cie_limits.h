@@ -29,6 +29,20 @@ struct CieLimits {
 enum class CieGroup { kLuminousReflectance, kL, kA, kB, kChroma, kHueAngle, kDeltaE00 };
 inline constexpr std::size_t kCieGroupCount = 7;
 
+/// The limits of each CieGroup, under the name that files give them.
+struct CieLimitsEntry {
+  const char* name;
+  StandardLimits CieLimits::*limits;
+};
+inline constexpr std::array<CieLimitsEntry, kCieGroupCount> kCieLimitsEntries{
+    {{"Rv", &CieLimits::luminousReflectance},
+     {"L", &CieLimits::L},
+     {"a", &CieLimits::a},
+     {"b", &CieLimits::b},
+     {"C", &CieLimits::chroma},
+     {"h", &CieLimits::hueAngle},
+     {"deltaE00", &CieLimits::deltaE00}}};
+
 /// The verdict on each CieGroup.
 using CieJudgement = std::array<GroupJudgement, kCieGroupCount>;
 
