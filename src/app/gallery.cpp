@@ -2,6 +2,9 @@
 #include "app/gallery.h"
 
 #include <QApplication>
+#include <QCoroTask>
+#include <QKeyEvent>
+#include <QLineEdit>
 #include <QPixmap>
 #include <QPushButton>
 #include <QTabWidget>
@@ -14,6 +17,7 @@
 #include "views/common/original_msg_frm.h"
 #include "views/common/scroll_body.h"
 #include "views/graph/reflectance_graph.h"
+#include "views/lot/lot_window.h"
 
 namespace vexa {
 namespace {
@@ -42,6 +46,7 @@ int Gallery::Take(VEXA& window) {
   TakeViews(window);
   TakeDialogs(window);
   TakeWindows(window);
+  TakeLot(window);
   TakeMessage();
   return missing_;
 }
@@ -103,6 +108,31 @@ void Gallery::TakeWindows(VEXA& window) {
     }
   }
   TakeWindow(QStringLiteral("ThickGraph"), QStringLiteral("thickness-history"));
+}
+
+// A lot of a few lenses, on whatever the stage shows next.
+void Gallery::TakeLot(VEXA& window) {
+  window.Commands().lotMeasurement->trigger();
+  LetDraw();
+  auto* lots = window.findChild<LotWindow*>();
+  lots->findChild<QLineEdit*>(QStringLiteral("LotName"))->setText(QStringLiteral("L-2031"));
+  lots->findChild<QLineEdit*>(QStringLiteral("LotOperator"))->setText(QStringLiteral("VEXA"));
+  LetDraw();
+  Save(*lots, QStringLiteral("lot-start"));
+  Press(*lots, "LotStart");
+  QCoro::waitFor(window.Desk().UntilIdle());
+  constexpr int kLenses = 4;
+  for (int lens = 1; lens <= kLenses; ++lens) {
+    auto* number = lots->findChild<QLineEdit*>(QStringLiteral("LotNumber"));
+    number->setText(QStringLiteral("A-%1").arg(lens));
+    QKeyEvent key(QEvent::KeyPress, Qt::Key_Return, Qt::NoModifier);
+    QApplication::sendEvent(number, &key);
+    QCoro::waitFor(window.Desk().UntilIdle());
+    LetDraw();
+  }
+  Save(*lots, QStringLiteral("lot"));
+  lots->close();
+  LetDraw();
 }
 
 void Gallery::TakeMessage() {

@@ -23,6 +23,7 @@ class Gallery {
   void TakeViews(VEXA& window);
   void TakeDialogs(VEXA& window);
   void TakeWindows(VEXA& window);
+  void TakeLot(VEXA& window);
   void TakeMessage();
   /// The dialog that `open` opens, each of its pages; `inside` may do more in it before it closes.
   void TakeDialog(const std::function<void()>& open, const QString& name,

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <QObject>
+#include <QPointer>
 #include <functional>
 
 #include "app/main_menu.h"
@@ -16,6 +17,7 @@ class QWidget;
 
 namespace vexa {
 
+class LotWindow;
 class ThickGraph;
 
 /// What the windows of the menu work with.
@@ -50,6 +52,7 @@ class WindowCommands : public QObject {
   QCoro::Task<> TakeOverController();
   void Print();
   void KeepLanguage(const QString& code);
+  void ShowLots();
   void ShowThicknessGraph();
   [[nodiscard]] QDialog* MakeSettingsList();
 
@@ -66,6 +69,7 @@ class WindowCommands : public QObject {
   CurrentPrinter printer_;
   ReportRequest report_;  ///< as printed last
   ThickGraph* thicknessGraph_ = nullptr;
+  QPointer<LotWindow> lots_;
 };
 
 }  // namespace vexa

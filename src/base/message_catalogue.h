@@ -43,6 +43,10 @@ enum class Message : std::uint8_t {
   kRestoreDamagedSession,  ///< %1 what it holds
   kJournalWriteError,      ///< %1 path
   kRecordStoreFault,       ///< %1 path
+  kRecordStoreUnreadable,  ///< %1 path
+  kRecipeFault,            ///< %1 path, with what is wrong as details
+  kLotWithoutName,
+  kLotWithoutRows,  ///< %1 lot
 
   // Controller and measurement.
   kControllerFailed,    ///< with the port's diagnosis as details

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "cli/measure_plan.h"
 
+#include <variant>
+
 #include "base/translation.h"
 #include "cli/command_line.h"
 #include "cli/console.h"
@@ -19,6 +21,7 @@ const QString kReplyTimeout = QStringLiteral("reply-timeout");
 const QString kRecord = QStringLiteral("record");
 const QString kStore = QStringLiteral("store");
 const QString kLot = QStringLiteral("lot");
+const QString kRecipe = QStringLiteral("recipe");
 const QString kOperator = QStringLiteral("operator");
 const QString kSampleNumber = QStringLiteral("sample-number");
 
@@ -98,9 +101,34 @@ void DeclareMeasureOptions(QCommandLineParser& parser) {
   parser.addOption({kRecord, QStringLiteral("Keeps every frame and sample in the record store.")});
   add(kStore, "The record store (default: records.db of the program directory).", "FILE");
   add(kLot, "Lot of the records.", "NAME");
+  add(kRecipe,
+      "Measures under the environment and the standard of a recipe, each sample as often as it "
+      "wants; the records name it.",
+      "FILE.json");
   add(kOperator, "Operator of the records.", "NAME");
   add(kSampleNumber, "Number of the next sample; once a sample.", "TEXT");
   add(kReplyTimeout, "Longest wait for a reply of the controller (default 40000 ms).", "MS");
+}
+
+ExitStatus TakeRecipe(const QCommandLineParser& parser, Settings& settings,
+                      MessageService& messages, std::optional<Recipe>& recipe) {
+  if (!parser.isSet(kRecipe)) {
+    return kDone;
+  }
+  const QString path = parser.value(kRecipe);
+  const auto read = ReadRecipe(path);
+  if (const auto* fault = std::get_if<RecipeFault>(&read)) {
+    Complain(QStringLiteral("%1: %2").arg(path, RecipeFaultText(*fault)));
+    return kFailed;
+  }
+  recipe = std::get<Recipe>(read);
+  const RecipeInForce applied = ApplyRecipe(*recipe, settings);
+  TellAll(applied.notices, messages);
+  if (!applied.complete) {
+    Complain(QStringLiteral("%1: not all of its files can be read").arg(path));
+    return kFailed;
+  }
+  return kDone;
 }
 
 std::optional<MeasurePlan> ReadMeasurePlan(const QCommandLineParser& parser, Settings& settings) {

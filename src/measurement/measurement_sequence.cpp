@@ -2,6 +2,7 @@
 #include "measurement/measurement_sequence.h"
 
 #include <exception>
+#include <utility>
 
 #include "base/translation.h"
 #include "measurement/controller_start.h"
@@ -9,12 +10,6 @@
 
 namespace vexa {
 namespace {
-
-AcquisitionSettings SettingsOf(const InstrumentSettings& instrument) {
-  return {.linePositions = instrument.linePositions,
-          .settlingTimeMs = instrument.settlingTimeMs,
-          .sampling = SamplingOf(instrument)};
-}
 
 void AddFailure(Status status, const Controller& controller, std::vector<MessageCall>& messages) {
   if (status == Controller::kCancelled) {
@@ -49,6 +44,12 @@ void AddStorage(const SampleStorage& storage, std::optional<HistoryAddResult>& l
 
 }  // namespace
 
+AcquisitionSettings AcquisitionSettingsOf(const InstrumentSettings& instrument) {
+  return {.linePositions = instrument.linePositions,
+          .settlingTimeMs = instrument.settlingTimeMs,
+          .sampling = SamplingOf(instrument)};
+}
+
 void Tell(const MeasurementOutcome& outcome, MessageService& messages) {
   for (const MessageCall& call : outcome.messages) {
     if (call.id == Message::kSaturated) {
@@ -62,15 +63,16 @@ MeasurementSequence::MeasurementSequence(Session& session, QObject* parent)
     : QObject(parent), session_(session) {}
 
 QCoro::Task<MeasurementOutcome> MeasurementSequence::MeasureBackground() {
-  return Measure(MeasurementKind::kBackground, 0);
+  return Measure(MeasurementKind::kBackground);
 }
 
 QCoro::Task<MeasurementOutcome> MeasurementSequence::MeasureReference() {
-  return Measure(MeasurementKind::kReference, 0);
+  return Measure(MeasurementKind::kReference);
 }
 
-QCoro::Task<MeasurementOutcome> MeasurementSequence::MeasureSample(int slot) {
-  return Measure(MeasurementKind::kSample, slot);
+QCoro::Task<MeasurementOutcome> MeasurementSequence::MeasureSample(
+    int slot, std::optional<QString> sampleNumber) {
+  return Measure(MeasurementKind::kSample, slot, std::move(sampleNumber));
 }
 
 void MeasurementSequence::Cancel() {
@@ -97,7 +99,8 @@ std::optional<MessageCall> MeasurementSequence::Refusal(MeasurementKind kind) co
   return std::nullopt;
 }
 
-QCoro::Task<MeasurementOutcome> MeasurementSequence::Measure(MeasurementKind kind, int slot) {
+QCoro::Task<MeasurementOutcome> MeasurementSequence::Measure(MeasurementKind kind, int slot,
+                                                             std::optional<QString> sampleNumber) {
   MeasurementOutcome outcome;
   const bool hasPlace = kind != MeasurementKind::kSample || session_.State().Slot(slot) != nullptr;
   if (running_ || !hasPlace) {
@@ -112,14 +115,21 @@ QCoro::Task<MeasurementOutcome> MeasurementSequence::Measure(MeasurementKind kin
   try {
     // What the frame is taken with, whatever is changed while it is being taken.
     FrameConditions taken = session_.ConditionsNow();
-    const AcquisitionSettings settings = SettingsOf(session_.State().instrument);
+    const AcquisitionSettings settings = AcquisitionSettingsOf(session_.State().instrument);
     const LightFlag light =
         kind == MeasurementKind::kBackground ? LightFlag::kBackground : LightFlag::kSample;
     const Acquisition acquisition = co_await controller_->Acquire(light, settings);
     outcome.status = acquisition.status;
     if (acquisition.status == kSuccess) {
       taken.takenAt = session_.Now();
-      Store(kind, slot, acquisition.counts, taken, outcome);
+      if (kind == MeasurementKind::kSample) {
+        AddStorage(session_.StoreSample(slot, acquisition.counts, taken, sampleNumber),
+                   lastHistory_, outcome.messages);
+      } else {
+        session_.StoreFrame(
+            kind == MeasurementKind::kBackground ? FrameKind::kBackground : FrameKind::kReference,
+            acquisition.counts, taken);
+      }
     } else {
       AddFailure(acquisition.status, *controller_, outcome.messages);
     }
@@ -129,21 +139,6 @@ QCoro::Task<MeasurementOutcome> MeasurementSequence::Measure(MeasurementKind kin
   running_ = false;
   emit Ended(kind, slot);
   co_return outcome;
-}
-
-void MeasurementSequence::Store(MeasurementKind kind, int slot, const RawSpectrum& counts,
-                                const FrameConditions& taken, MeasurementOutcome& outcome) {
-  switch (kind) {
-    case MeasurementKind::kBackground:
-      session_.StoreFrame(FrameKind::kBackground, counts, taken);
-      break;
-    case MeasurementKind::kReference:
-      session_.StoreFrame(FrameKind::kReference, counts, taken);
-      break;
-    case MeasurementKind::kSample:
-      AddStorage(session_.StoreSample(slot, counts, taken), lastHistory_, outcome.messages);
-      break;
-  }
 }
 
 }  // namespace vexa

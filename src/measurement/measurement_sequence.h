@@ -3,6 +3,7 @@
 
 #include <QCoroTask>
 #include <QObject>
+#include <QString>
 #include <optional>
 #include <vector>
 
@@ -24,6 +25,9 @@ struct MeasurementOutcome {
   [[nodiscard]] bool IsDone() const { return status == kSuccess; }
 };
 
+/// What an acquisition under these settings takes.
+[[nodiscard]] AcquisitionSettings AcquisitionSettingsOf(const InstrumentSettings& instrument);
+
 /// Tells the user what an outcome has to say.
 void Tell(const MeasurementOutcome& outcome, MessageService& messages);
 
@@ -43,8 +47,9 @@ class MeasurementSequence : public QObject {
   /// Needs a background.
   [[nodiscard]] QCoro::Task<MeasurementOutcome> MeasureReference();
   /// Into slot 1..10, whatever it holds. Needs a background, a reference, and what is known of the
-  /// reference's reflectance.
-  [[nodiscard]] QCoro::Task<MeasurementOutcome> MeasureSample(int slot);
+  /// reference's reflectance. The number is that of the sample, where it is known.
+  [[nodiscard]] QCoro::Task<MeasurementOutcome> MeasureSample(
+      int slot, std::optional<QString> sampleNumber = {});
 
   /// Ends the measurement that runs with Controller::kCancelled.
   void Cancel();
@@ -58,9 +63,8 @@ class MeasurementSequence : public QObject {
 
  private:
   [[nodiscard]] std::optional<MessageCall> Refusal(MeasurementKind kind) const;
-  [[nodiscard]] QCoro::Task<MeasurementOutcome> Measure(MeasurementKind kind, int slot);
-  void Store(MeasurementKind kind, int slot, const RawSpectrum& counts,
-             const FrameConditions& taken, MeasurementOutcome& outcome);
+  [[nodiscard]] QCoro::Task<MeasurementOutcome> Measure(MeasurementKind kind, int slot = 0,
+                                                        std::optional<QString> sampleNumber = {});
 
   Session& session_;
   Controller* controller_ = nullptr;

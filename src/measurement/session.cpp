@@ -34,7 +34,8 @@ void Session::StoreFrame(FrameKind kind, const RawSpectrum& counts, const FrameC
 }
 
 SampleStorage Session::StoreSample(int slotNumber, const RawSpectrum& counts,
-                                   const FrameConditions& taken) {
+                                   const FrameConditions& taken,
+                                   const std::optional<QString>& sampleNumber) {
   MeasurementSlot& slot = *state_.Slot(slotNumber);
   SampleStorage result;
   state_.sample = counts;
@@ -43,7 +44,9 @@ SampleStorage Session::StoreSample(int slotNumber, const RawSpectrum& counts,
   fresh.reflectance =
       ComputeReflectance(counts, state_.background, state_.reference,
                          state_.instrument.calibrationShiftNm, state_.referenceReflectance);
-  if (slot.informationTyped) {
+  if (sampleNumber) {
+    fresh.info.sampleNumber = *sampleNumber;
+  } else if (slot.informationTyped) {
     fresh.info = slot.info;
   }
   fresh.valid = true;

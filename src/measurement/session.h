@@ -46,8 +46,10 @@ class Session : public QObject {
 
   /// Puts a sample into slot 1..10, in this order: reflectance, evaluation, accumulation, verdicts,
   /// date, and where it is automatic the thickness with its point of the history. What was typed of
-  /// the slot's earlier sample goes, unless it was typed after that was measured.
-  SampleStorage StoreSample(int slot, const RawSpectrum& counts, const FrameConditions& taken);
+  /// the slot's earlier sample goes, unless it was typed after that was measured; a number that is
+  /// given is the sample's own, and all of the earlier one goes.
+  SampleStorage StoreSample(int slot, const RawSpectrum& counts, const FrameConditions& taken,
+                            const std::optional<QString>& sampleNumber = {});
 
   /// Empties all ten slots and their sample information.
   void ClearSlots();

@@ -37,7 +37,9 @@ void SessionRecorder::KeepSample(int slotNumber) {
     }
   }
   if (const auto measured = MeasuredSampleOf(state, slotNumber, context)) {
-    (void)keeper_.Keep(measured->Rows());
+    const QList<Row> rows = measured->Rows();
+    (void)keeper_.Keep(rows);
+    lastSample_ = {rows.constLast().id, VerdictOf(measured->sample)};
   }
 }
 
