@@ -104,7 +104,7 @@ class LotMeasuring : public test::MainWindowTest {
 
 TEST_F(LotMeasuring, TakesOneKeyOrOneScanALens) {
   Begin("L1");
-  EXPECT_EQ(Panel(), "準備 ﾊﾞｯｸｸﾞﾗｳﾝﾄﾞ測定");
+  EXPECT_EQ(Panel(), "準備 ﾊﾞｯｸｸﾞﾗﾝﾄﾞ測定");
   TakeFrames();
   EXPECT_EQ(Panel(), "測定可 ");
   Scan("A-01", kGood);

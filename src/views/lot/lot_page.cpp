@@ -102,7 +102,7 @@ QWidget* LotPage::MakeButtons() {
   auto* layout = new QHBoxLayout(row);
   layout->setContentsMargins(0, 0, 0, 0);
   layout->setSpacing(6);
-  layout->addWidget(CommandButton("LotBackground", Text::tr("F2 ﾊﾞｯｸｸﾞﾗｳﾝﾄﾞ"), Qt::Key_F2,
+  layout->addWidget(CommandButton("LotBackground", Text::tr("F2 ﾊﾞｯｸｸﾞﾗﾝﾄﾞ"), Qt::Key_F2,
                                   &LotPage::MeasureBackground));
   layout->addWidget(
       CommandButton("LotReference", Text::tr("F3 ﾘﾌｧﾚﾝｽ"), Qt::Key_F3, &LotPage::MeasureReference));
@@ -353,7 +353,7 @@ QString LotPage::Hint() const {
   }
   switch (run_.WhatIsDue()) {
     case LotRun::Due::kBackground:
-      return Text::tr("ReturnまたはSpaceでﾊﾞｯｸｸﾞﾗｳﾝﾄﾞを測定します。") + waiting;
+      return Text::tr("ReturnまたはSpaceでﾊﾞｯｸｸﾞﾗﾝﾄﾞを測定します。") + waiting;
     case LotRun::Due::kReference:
       return Text::tr("ﾘﾌｧﾚﾝｽを置いて、ReturnまたはSpaceで測定します。") + waiting;
     case LotRun::Due::kNothing:

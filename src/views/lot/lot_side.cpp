@@ -84,7 +84,7 @@ void LotSide::Show(const LotRun& run, const Session& session) {
                        .arg(tally.Count(Verdict::kNotGood)));
   ShowLast(run);
   const VEXATYPE& state = session.State();
-  frames_->setText(Text::tr("ﾊﾞｯｸｸﾞﾗｳﾝﾄﾞ: %1\nﾘﾌｧﾚﾝｽ: %2")
+  frames_->setText(Text::tr("ﾊﾞｯｸｸﾞﾗﾝﾄﾞ: %1\nﾘﾌｧﾚﾝｽ: %2")
                        .arg(AgeText(state.backgroundMeasured, state.backgroundTaken,
                                     identity.recipe.backgroundAgeMinutes, session.Now()),
                             AgeText(state.referenceMeasured, state.referenceTaken,

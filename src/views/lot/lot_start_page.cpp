@@ -38,7 +38,7 @@ QString Description(const Recipe& recipe) {
   };
   return Text::tr(
              "環境: %1   規格: %2   膜構成: %3\n"
-             "測定回数: %4   ﾊﾞｯｸｸﾞﾗｳﾝﾄﾞ: %5   ﾘﾌｧﾚﾝｽ: %6")
+             "測定回数: %4   ﾊﾞｯｸｸﾞﾗﾝﾄﾞ: %5   ﾘﾌｧﾚﾝｽ: %6")
       .arg(file(recipe.environment), file(recipe.standard),
            recipe.filmStack.isEmpty() ? QStringLiteral("-") : file(recipe.filmStack))
       .arg(recipe.repeats)

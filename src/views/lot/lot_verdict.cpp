@@ -38,7 +38,7 @@ QString Failures(const MeasurementSlot& slot, const Recipe& recipe,
 VerdictPanel::Content Measuring(const LotRun& run) {
   switch (run.Running()) {
     case MeasurementKind::kBackground:
-      return {Text::tr("測定中"), kCalm, Text::tr("ﾊﾞｯｸｸﾞﾗｳﾝﾄﾞ"), {}};
+      return {Text::tr("測定中"), kCalm, Text::tr("ﾊﾞｯｸｸﾞﾗﾝﾄﾞ"), {}};
     case MeasurementKind::kReference:
       return {Text::tr("測定中"), kCalm, Text::tr("ﾘﾌｧﾚﾝｽ"), {}};
     case MeasurementKind::kSample:
@@ -75,8 +75,8 @@ VerdictPanel::Content VerdictContent(const LotRun& run, const VEXATYPE& state) {
   }
   switch (run.WhatIsDue()) {
     case LotRun::Due::kBackground:
-      return {Text::tr("準備"), kCalm, Text::tr("ﾊﾞｯｸｸﾞﾗｳﾝﾄﾞ測定"),
-              Text::tr("ﾊﾞｯｸｸﾞﾗｳﾝﾄﾞの測定が必要です。")};
+      return {Text::tr("準備"), kCalm, Text::tr("ﾊﾞｯｸｸﾞﾗﾝﾄﾞ測定"),
+              Text::tr("ﾊﾞｯｸｸﾞﾗﾝﾄﾞの測定が必要です。")};
     case LotRun::Due::kReference:
       return {Text::tr("準備"), kCalm, Text::tr("ﾘﾌｧﾚﾝｽ測定"),
               Text::tr("ﾘﾌｧﾚﾝｽを置いてください。")};
