@@ -70,8 +70,11 @@ QCoro::Task<MeasurementOutcome> MeasurementSequence::MeasureReference() {
   return Measure(MeasurementKind::kReference);
 }
 
-QCoro::Task<MeasurementOutcome> MeasurementSequence::MeasureSample(
-    int slot, std::optional<QString> sampleNumber) {
+QCoro::Task<MeasurementOutcome> MeasurementSequence::MeasureSample(int slot) {
+  return Measure(MeasurementKind::kSample, slot);
+}
+
+QCoro::Task<MeasurementOutcome> MeasurementSequence::MeasureSample(int slot, QString sampleNumber) {
   return Measure(MeasurementKind::kSample, slot, std::move(sampleNumber));
 }
 

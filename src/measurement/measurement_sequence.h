@@ -47,9 +47,10 @@ class MeasurementSequence : public QObject {
   /// Needs a background.
   [[nodiscard]] QCoro::Task<MeasurementOutcome> MeasureReference();
   /// Into slot 1..10, whatever it holds. Needs a background, a reference, and what is known of the
-  /// reference's reflectance. The number is that of the sample, where it is known.
-  [[nodiscard]] QCoro::Task<MeasurementOutcome> MeasureSample(
-      int slot, std::optional<QString> sampleNumber = {});
+  /// reference's reflectance.
+  [[nodiscard]] QCoro::Task<MeasurementOutcome> MeasureSample(int slot);
+  /// The same of the sample of this number.
+  [[nodiscard]] QCoro::Task<MeasurementOutcome> MeasureSample(int slot, QString sampleNumber);
 
   /// Ends the measurement that runs with Controller::kCancelled.
   void Cancel();

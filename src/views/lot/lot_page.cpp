@@ -20,6 +20,7 @@ namespace {
 constexpr int kAgesMs = 5000;
 constexpr int kEntryPixels = 28;
 constexpr int kHintPixels = 18;
+constexpr int kInstrumentReason = 3;  // of RepeatReasons
 
 // Why a lens is measured again; the first unless another is chosen.
 QStringList RepeatReasons() {
@@ -151,10 +152,8 @@ void LotPage::showEvent(QShowEvent* event) {
   number_->setFocus();
 }
 
-// A window that is gone measures no light.
-void LotPage::hideEvent(QHideEvent* event) {
-  QWidget::hideEvent(event);
-  if (!event->spontaneous() && lightButton_->isChecked()) {
+void LotPage::EndLight() {
+  if (lightButton_->isChecked()) {
     lightButton_->setChecked(false);
     ToggleLight();
   }
@@ -225,17 +224,24 @@ void LotPage::Begin(const QString& number) {
   }
   asked_.reset();
   number_->clear();
-  // One that failed is measured again under its number.
-  const bool again = number.isEmpty() && !run_.CurrentNumber().isEmpty() &&
-                     (run_.LastOutcome() == LotRun::Outcome::kFault ||
-                      run_.LastOutcome() == LotRun::Outcome::kCancelled) &&
-                     run_.CurrentLens() == nullptr;
-  const QString next = again ? run_.CurrentNumber() : number.isEmpty() ? run_.NextNumber() : number;
+  if (number.isEmpty() && IsToBeMeasuredAgain()) {
+    const bool cancelled = run_.LastOutcome() == LotRun::Outcome::kCancelled;
+    run_.MeasureLens(run_.CurrentNumber(), RepeatReasons().at(cancelled ? 0 : kInstrumentReason));
+    return;
+  }
+  const QString next = number.isEmpty() ? run_.NextNumber() : number;
   if (run_.Tally().Find(next) != nullptr) {
     AskToRepeat(next);
   } else {
     run_.MeasureLens(next);
   }
+}
+
+// The last lens failed, or was cancelled: it keeps its number.
+bool LotPage::IsToBeMeasuredAgain() const {
+  const bool ended = run_.LastOutcome() == LotRun::Outcome::kFault ||
+                     run_.LastOutcome() == LotRun::Outcome::kCancelled;
+  return ended && run_.LastKind() == MeasurementKind::kSample;
 }
 
 void LotPage::AskToRepeat(const QString& number) {
@@ -272,16 +278,16 @@ void LotPage::RepeatLast() {
 
 void LotPage::ToggleLight() {
   const bool on = lightButton_->isChecked();
-  light_->setVisible(on || light_->isVisible());
-  if (on) {
+  light_->setVisible(on);
+  if (on && !desk_.IsReady()) {
+    lightButton_->setChecked(false);
+    light_->ShowNone(Text::tr("光量を測れません。F7で再開します。"));
+  } else if (on) {
     light_->Clear();
     light_->ShowNone(Text::tr("光量を測っています..."));
     Watch();
-  } else {
-    light_->setVisible(false);
-    if (!run_.IsMeasuring()) {
-      desk_.EndWatching();
-    }
+  } else if (!run_.IsMeasuring()) {
+    desk_.EndWatching();
   }
 }
 

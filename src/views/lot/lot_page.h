@@ -29,6 +29,9 @@ class LotPage : public QWidget {
   LotPage(LotRun& run, Session& session, InstrumentDesk& desk, MessageService& messages,
           QWidget* parent = nullptr);
 
+  /// Shows the light no more: what is closed measures none.
+  void EndLight();
+
  signals:
   void ReportRequested();
   void EndRequested();
@@ -36,7 +39,6 @@ class LotPage : public QWidget {
  protected:
   bool eventFilter(QObject* watched, QEvent* event) override;
   void showEvent(QShowEvent* event) override;
-  void hideEvent(QHideEvent* event) override;
 
  private:
   [[nodiscard]] QPushButton* CommandButton(const char* name, const QString& caption, int key,
@@ -56,6 +58,7 @@ class LotPage : public QWidget {
   void ShowFrames();
   void TakeNextScanned();
   void Say(const QString& text);
+  [[nodiscard]] bool IsToBeMeasuredAgain() const;
   [[nodiscard]] QString Hint() const;
   QCoro::Task<> Watch();
 

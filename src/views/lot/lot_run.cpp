@@ -66,7 +66,8 @@ QCoro::Task<> LotRun::MeasureFrame(MeasurementKind kind) {
   const QPointer<LotRun> alive(this);
   running_ = kind;
   emit Changed();
-  const MeasurementOutcome outcome = co_await desk_.Measure(kind, 0, {});
+  const QString number;
+  const MeasurementOutcome outcome = co_await desk_.Measure(kind, 0, number);
   if (alive.isNull()) {
     co_return;
   }
@@ -92,7 +93,8 @@ QCoro::Task<> LotRun::MeasureLens(QString number, QString reason) {
     repetition_ = i + 1;
     emit Changed();
     const QString supersedes = replaced.value(i).id;
-    going = co_await MeasureOnce(supersedes, supersedes.isEmpty() ? QString() : reason);
+    const QString why = supersedes.isEmpty() ? QString() : reason;
+    going = co_await MeasureOnce(supersedes, why);
     if (alive.isNull()) {
       co_return;
     }
@@ -159,6 +161,7 @@ int LotRun::NextSlot() const {
 }
 
 void LotRun::End(const MeasurementOutcome& outcome) {
+  lastKind_ = *running_;
   running_.reset();
   if (!outcome.IsDone()) {
     const bool cancelled = outcome.status == Controller::kCancelled;

@@ -54,6 +54,7 @@ class LotRun : public QObject {
   [[nodiscard]] int Repetition() const { return repetition_; }         ///< from 1, while measuring
   [[nodiscard]] Due WhatIsDue() const;
   [[nodiscard]] Outcome LastOutcome() const { return outcome_; }
+  [[nodiscard]] MeasurementKind LastKind() const { return lastKind_; }  ///< what it was about
   [[nodiscard]] const QString& FaultText() const { return fault_; }
   [[nodiscard]] const QString& HoldReason() const { return hold_; }
   /// The lens that is, or was last, measured; null before the first, or when nothing of it was
@@ -89,6 +90,7 @@ class LotRun : public QObject {
   std::optional<MeasurementKind> running_;
   int repetition_ = 0;
   Outcome outcome_ = Outcome::kNone;
+  MeasurementKind lastKind_ = MeasurementKind::kSample;
   QString fault_;
   QString hold_;
   QString number_;

@@ -71,8 +71,11 @@ LotSide::LotSide(QWidget* parent)
 void LotSide::Show(const LotRun& run, const Session& session) {
   const LotIdentity& identity = run.Identity();
   const LotTally& tally = run.Tally();
-  identity_->setText(Text::tr("ロット: %1\nレシピ: %2\n作業者: %3")
-                         .arg(identity.lot, identity.recipe.name, identity.operatorName));
+  identity_->setText(
+      Text::tr("ロット: %1\nレシピ: %2\n作業者: %3")
+          .arg(identity.lot,
+               identity.recipe.name.isEmpty() ? QStringLiteral("-") : identity.recipe.name,
+               identity.operatorName));
   const std::optional<double> yield = tally.Yield();
   constexpr double kPercent = 100.0;
   yield_->setText(

@@ -32,7 +32,7 @@ QString Failures(const MeasurementSlot& slot, const Recipe& recipe,
       failures << QStringLiteral("CIE %1:NG").arg(QString::fromUtf8(kCieLabels[i]));
     }
   }
-  return failures.join(QStringLiteral("   "));
+  return failures.join(u'\n');
 }
 
 VerdictPanel::Content Measuring(const LotRun& run) {

@@ -44,6 +44,9 @@ void LotWindow::closeEvent(QCloseEvent* event) {
     event->ignore();
     return;
   }
+  if (page_ != nullptr) {
+    page_->EndLight();
+  }
   QDialog::closeEvent(event);
   // reject() does nothing, so that the base has left it open.
   event->accept();
@@ -86,6 +89,7 @@ void LotWindow::End() {
   if (run_ == nullptr || run_->IsMeasuring()) {
     return;
   }
+  page_->EndLight();
   pages_->setCurrentWidget(start_);
   page_->deleteLater();
   page_ = nullptr;
