@@ -66,6 +66,9 @@ LotPage::LotPage(LotRun& run, Session& session, InstrumentDesk& desk, MessageSer
   auto* left = new QVBoxLayout;
   left->addWidget(verdict_, 1);
   left->addWidget(light_);
+  left->addWidget(said_);
+  left->addWidget(hint_);
+  left->addWidget(number_);
   auto* top = new QHBoxLayout;
   top->addLayout(left, 1);
   top->addWidget(side_);
@@ -73,9 +76,6 @@ LotPage::LotPage(LotRun& run, Session& session, InstrumentDesk& desk, MessageSer
   layout->setContentsMargins(12, 10, 12, 10);
   layout->setSpacing(8);
   layout->addLayout(top, 1);
-  layout->addWidget(said_);
-  layout->addWidget(hint_);
-  layout->addWidget(number_);
   layout->addWidget(MakeButtons());
   setFocusProxy(number_);
 
