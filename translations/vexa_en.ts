@@ -3475,5 +3475,391 @@ Commands:
         <source>決めた人</source>
         <translation>Decided by</translation>
     </message>
+    <message>
+        <source>レシピを使えません。<byte value="xd"/><byte value="xd"/>%1</source>
+        <translation>The recipe cannot be used.<byte value="xd"/><byte value="xd"/>%1</translation>
+    </message>
+    <message>
+        <source>ロットを入力してください。</source>
+        <translation>Enter a lot.</translation>
+    </message>
+    <message>
+        <source>ロット %1 の記録がありません。</source>
+        <translation>There are no records of lot %1.</translation>
+    </message>
+    <message>
+        <source>反射率 %1 nm [%]</source>
+        <translation>Reflectance %1 nm [%]</translation>
+    </message>
+    <message>
+        <source>光量 %1 nm [ｶｳﾝﾄ]</source>
+        <translation>Light %1 nm [counts]</translation>
+    </message>
+    <message>
+        <source>暗レベル [ｶｳﾝﾄ]</source>
+        <translation>Dark level [counts]</translation>
+    </message>
+    <message>
+        <source>暗ノイズ [ｶｳﾝﾄ]</source>
+        <translation>Dark noise [counts]</translation>
+    </message>
+    <message>
+        <source>最大波長 [nm]</source>
+        <translation>Wavelength of maximum [nm]</translation>
+    </message>
+    <message>
+        <source>最小波長 [nm]</source>
+        <translation>Wavelength of minimum [nm]</translation>
+    </message>
+    <message>
+        <source>視感反射率 Rv</source>
+        <translation>Luminous reflectance Rv</translation>
+    </message>
+    <message>
+        <source>色相角 h</source>
+        <translation>Hue angle h</translation>
+    </message>
+    <message>
+        <source>値が物理的な限界0に近く、正規分布とみなせません。</source>
+        <translation>The values lie near the physical limit 0 and cannot be taken for normally distributed.</translation>
+    </message>
+    <message>
+        <source>続く値どうしに相関があります（1次の自己相関が0.3を超えています）。</source>
+        <translation>Successive values are correlated (lag-1 autocorrelation above 0.3).</translation>
+    </message>
+    <message>
+        <source>最大 %1 (%2 nm)  %3%</source>
+        <translation>Peak %1 (%2 nm)  %3%</translation>
+    </message>
+    <message>
+        <source>飽和</source>
+        <translation>saturated</translation>
+    </message>
+    <message>
+        <source>平均</source>
+        <translation>Mean</translation>
+    </message>
+    <message>
+        <source>置き直し</source>
+        <translation>placed again</translation>
+    </message>
+    <message>
+        <source>汚れを拭いた</source>
+        <translation>cleaned</translation>
+    </message>
+    <message>
+        <source>番号の間違い</source>
+        <translation>wrong number</translation>
+    </message>
+    <message>
+        <source>測定器の異常</source>
+        <translation>instrument fault</translation>
+    </message>
+    <message>
+        <source>結果の確認</source>
+        <translation>result checked</translation>
+    </message>
+    <message>
+        <source>F3 ﾘﾌｧﾚﾝｽ</source>
+        <translation>F3 Reference</translation>
+    </message>
+    <message>
+        <source>F4 測り直し</source>
+        <translation>F4 Repeat</translation>
+    </message>
+    <message>
+        <source>F7 光量</source>
+        <translation>F7 Light</translation>
+    </message>
+    <message>
+        <source>F8 報告書</source>
+        <translation>F8 Report</translation>
+    </message>
+    <message>
+        <source>F10 ロット終了</source>
+        <translation>F10 End of lot</translation>
+    </message>
+    <message>
+        <source>測定中です。終わるまで待ってください。</source>
+        <translation>Measuring. Wait until it ends.</translation>
+    </message>
+    <message>
+        <source>先に、指示された測定をしてください。番号 %1 は残してあります。</source>
+        <translation>First make the measurement that is asked for. The number %1 is kept.</translation>
+    </message>
+    <message>
+        <source>測り直すレンズがありません。</source>
+        <translation>There is no lens to repeat.</translation>
+    </message>
+    <message>
+        <source>光量を測っています...</source>
+        <translation>Measuring the light level...</translation>
+    </message>
+    <message>
+        <source>光量の測定を止めました。</source>
+        <translation>The light level was stopped.</translation>
+    </message>
+    <message>
+        <source>光量を測れません。F7で再開します。</source>
+        <translation>The light level cannot be measured. F7 starts it again.</translation>
+    </message>
+    <message>
+        <source>次の番号: %1</source>
+        <translation>Next number: %1</translation>
+    </message>
+    <message>
+        <source>測定中です。Escで中止します。</source>
+        <translation>Measuring. Esc cancels.</translation>
+    </message>
+    <message>
+        <source>ﾘﾌｧﾚﾝｽを置いて、ReturnまたはSpaceで測定します。</source>
+        <translation>Place the reference; Return or Space measures it.</translation>
+    </message>
+    <message>
+        <source>ReturnまたはSpaceで測り直します。Escでやめます。↑↓で理由を選びます。</source>
+        <translation>Return or Space measures it again, Esc does not. ↑↓ choose the reason.</translation>
+    </message>
+    <message>
+        <source>レンズを置き、番号を読み取るか、ReturnまたはSpaceで測定します。</source>
+        <translation>Place the lens; scan its number, or press Return or Space to measure it.</translation>
+    </message>
+    <message>
+        <source>レンズ %1 を置いて、Returnで測定します。</source>
+        <translation>Place lens %1; Return measures it.</translation>
+    </message>
+    <message>
+        <source>作業者</source>
+        <translation>Operator</translation>
+    </message>
+    <message>
+        <source>%1 から %2 まで</source>
+        <translation>from %1 to %2</translation>
+    </message>
+    <message>
+        <source>レンズ</source>
+        <translation>Lenses</translation>
+    </message>
+    <message>
+        <source>%1   OK %2   NG %3   判定なし %4</source>
+        <translation>%1   OK %2   NG %3   not judged %4</translation>
+    </message>
+    <message>
+        <source>歩留り</source>
+        <translation>Yield</translation>
+    </message>
+    <message>
+        <source>測定数</source>
+        <translation>Measurements</translation>
+    </message>
+    <message>
+        <source>%1   うち測り直し前 %2</source>
+        <translation>%1   of them superseded %2</translation>
+    </message>
+    <message>
+        <source>統計</source>
+        <translation>Statistics</translation>
+    </message>
+    <message>
+        <source>項目</source>
+        <translation>Item</translation>
+    </message>
+    <message>
+        <source>95%区間</source>
+        <translation>95 % interval</translation>
+    </message>
+    <message>
+        <source>Cpkを示さない理由</source>
+        <translation>Why no Cpk is given</translation>
+    </message>
+    <message>
+        <source>全測定</source>
+        <translation>All measurements</translation>
+    </message>
+    <message>
+        <source>時刻</source>
+        <translation>Time</translation>
+    </message>
+    <message>
+        <source>備考</source>
+        <translation>Remarks</translation>
+    </message>
+    <message>
+        <source>測り直し: %1</source>
+        <translation>repeated: %1</translation>
+    </message>
+    <message>
+        <source>無効 (測り直し済み)</source>
+        <translation>superseded</translation>
+    </message>
+    <message>
+        <source>ロット報告書</source>
+        <translation>Lot report</translation>
+    </message>
+    <message>
+        <source>記録 %1行  %2</source>
+        <translation>Record %1  %2</translation>
+    </message>
+    <message>
+        <source>測定器は使用中です。</source>
+        <translation>The instrument is in use.</translation>
+    </message>
+    <message>
+        <source>未測定</source>
+        <translation>not measured</translation>
+    </message>
+    <message>
+        <source>%1分前 (期限%2分)</source>
+        <translation>%1 min ago (limit %2 min)</translation>
+    </message>
+    <message>
+        <source>ロット: %1
+レシピ: %2
+作業者: %3</source>
+        <translation>Lot: %1
+Recipe: %2
+Operator: %3</translation>
+    </message>
+    <message>
+        <source>歩留り %1</source>
+        <translation>Yield %1</translation>
+    </message>
+    <message>
+        <source>レンズ %1   OK %2   NG %3</source>
+        <translation>Lenses %1   OK %2   NG %3</translation>
+    </message>
+    <message>
+        <source>現在の設定</source>
+        <translation>settings in force</translation>
+    </message>
+    <message>
+        <source>制限なし</source>
+        <translation>no limit</translation>
+    </message>
+    <message>
+        <source>%1分</source>
+        <translation>%1 min</translation>
+    </message>
+    <message>
+        <source>参照(&amp;B)...</source>
+        <translation>&amp;Browse...</translation>
+    </message>
+    <message>
+        <source>開始(&amp;S)</source>
+        <translation>&amp;Start</translation>
+    </message>
+    <message>
+        <source>このロットの報告書(&amp;R)...</source>
+        <translation>&amp;Report of this lot...</translation>
+    </message>
+    <message>
+        <source>レシピ(&amp;E)</source>
+        <translation>R&amp;ecipe</translation>
+    </message>
+    <message>
+        <source>ロット(&amp;L)</source>
+        <translation>&amp;Lot</translation>
+    </message>
+    <message>
+        <source>作業者(&amp;O)</source>
+        <translation>&amp;Operator</translation>
+    </message>
+    <message>
+        <source>(なし: 現在の設定で測定)</source>
+        <translation>(none: settings in force)</translation>
+    </message>
+    <message>
+        <source>レシピを開く</source>
+        <translation>Open recipe</translation>
+    </message>
+    <message>
+        <source>レシピ(*.json)|*.json|</source>
+        <translation>Recipe(*.json)|*.json|</translation>
+    </message>
+    <message>
+        <source>レシピを使えません: %1</source>
+        <translation>The recipe cannot be used: %1</translation>
+    </message>
+    <message>
+        <source>測定中</source>
+        <translation>BUSY</translation>
+    </message>
+    <message>
+        <source>測定済</source>
+        <translation>DONE</translation>
+    </message>
+    <message>
+        <source>判定する規格がありません。</source>
+        <translation>There is no standard to judge by.</translation>
+    </message>
+    <message>
+        <source>エラー</source>
+        <translation>ERROR</translation>
+    </message>
+    <message>
+        <source>準備</source>
+        <translation>PREPARE</translation>
+    </message>
+    <message>
+        <source>ﾘﾌｧﾚﾝｽを置いてください。</source>
+        <translation>Place the reference.</translation>
+    </message>
+    <message>
+        <source>保留</source>
+        <translation>HELD</translation>
+    </message>
+    <message>
+        <source>測定可</source>
+        <translation>READY</translation>
+    </message>
+    <message>
+        <source>レンズを置いてください。</source>
+        <translation>Place the lens.</translation>
+    </message>
+    <message>
+        <source>測定済み</source>
+        <translation>REPEAT?</translation>
+    </message>
+    <message>
+        <source>この番号は測定済みです (%1)。測り直しますか。
+理由: %2</source>
+        <translation>This number was measured already (%1). Measure it again?
+Reason: %2</translation>
+    </message>
+    <message>
+        <source>ロット測定</source>
+        <translation>Measure a lot</translation>
+    </message>
+    <message>
+        <source>F2 ﾊﾞｯｸｸﾞﾗﾝﾄﾞ</source>
+        <translation>F2 Background</translation>
+    </message>
+    <message>
+        <source>ReturnまたはSpaceでﾊﾞｯｸｸﾞﾗﾝﾄﾞを測定します。</source>
+        <translation>Return or Space measures the background.</translation>
+    </message>
+    <message>
+        <source>ﾊﾞｯｸｸﾞﾗﾝﾄﾞ: %1
+ﾘﾌｧﾚﾝｽ: %2</source>
+        <translation>Background: %1
+Reference: %2</translation>
+    </message>
+    <message>
+        <source>環境: %1   規格: %2   膜構成: %3
+測定回数: %4   ﾊﾞｯｸｸﾞﾗﾝﾄﾞ: %5   ﾘﾌｧﾚﾝｽ: %6</source>
+        <translation>Environment: %1   Standard: %2   Film stack: %3
+Repeats: %4   Background: %5   Reference: %6</translation>
+    </message>
+    <message>
+        <source>ﾊﾞｯｸｸﾞﾗﾝﾄﾞ</source>
+        <translation>Background</translation>
+    </message>
+    <message>
+        <source>ﾊﾞｯｸｸﾞﾗﾝﾄﾞの測定が必要です。</source>
+        <translation>The background has to be measured.</translation>
+    </message>
+    <message>
+        <source>レシピの環境と規格で、各サンプルをレシピの回数だけ測定します。記録にレシピ名が残ります。</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 </TS>

@@ -3,8 +3,11 @@
 
 #include <QApplication>
 #include <QComboBox>
+#include <QCoroTask>
 #include <QDeadlineTimer>
 #include <QDialog>
+#include <QKeyEvent>
+#include <QLineEdit>
 #include <QPixmap>
 #include <QPointer>
 #include <QPushButton>
@@ -22,6 +25,7 @@
 #include "views/film/film_fit_window.h"
 #include "views/graph/reflectance_graph.h"
 #include "views/graph/view_table.h"
+#include "views/lot/lot_window.h"
 
 namespace vexa {
 namespace {
@@ -59,6 +63,7 @@ int Gallery::Take(VEXA& window) {
   TakeDialogs(window);
   TakeWindows(window);
   TakeCie(window);
+  TakeLot(window);
   TakeMessage();
   return missing_;
 }
@@ -177,6 +182,31 @@ void Gallery::TakeCie(VEXA& window) {
   commands.programSettings->trigger();
   LetDraw();
   change(*QApplication::activeModalWidget());
+}
+
+// A lot of a few lenses, on whatever the stage shows next.
+void Gallery::TakeLot(VEXA& window) {
+  window.Commands().lotMeasurement->trigger();
+  LetDraw();
+  auto* lots = window.findChild<LotWindow*>();
+  lots->findChild<QLineEdit*>(QStringLiteral("LotName"))->setText(QStringLiteral("L-2031"));
+  lots->findChild<QLineEdit*>(QStringLiteral("LotOperator"))->setText(QStringLiteral("VEXA"));
+  LetDraw();
+  Save(*lots, QStringLiteral("lot-start"));
+  Press(*lots, "LotStart");
+  QCoro::waitFor(window.Desk().UntilIdle());
+  constexpr int kLenses = 4;
+  for (int lens = 1; lens <= kLenses; ++lens) {
+    auto* number = lots->findChild<QLineEdit*>(QStringLiteral("LotNumber"));
+    number->setText(QStringLiteral("A-%1").arg(lens));
+    QKeyEvent key(QEvent::KeyPress, Qt::Key_Return, Qt::NoModifier);
+    QApplication::sendEvent(number, &key);
+    QCoro::waitFor(window.Desk().UntilIdle());
+    LetDraw();
+  }
+  Save(*lots, QStringLiteral("lot"));
+  lots->close();
+  LetDraw();
 }
 
 void Gallery::TakeMessage() {

@@ -26,6 +26,7 @@ class Gallery {
   void TakeFilmFit(VEXA& window);
   void TakeCie(VEXA& window);
   void TakeRecords(VEXA& window);
+  void TakeLot(VEXA& window);
   void TakeMessage();
   /// The dialog that `open` opens, each of its pages; `inside` may do more in it before it closes.
   void TakeDialog(const std::function<void()>& open, const QString& name,

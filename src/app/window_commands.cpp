@@ -9,12 +9,15 @@
 #include "app/version_dialog.h"
 #include "base/translation.h"
 #include "files/program_settings_file.h"
+#include "records/daily_check_events.h"
+#include "records/record_settings.h"
 #include "views/colour/colour_difference_window.h"
 #include "views/common/file_questions.h"
 #include "views/common/quiet_messages.h"
 #include "views/files/addinp_frm.h"
 #include "views/files/environment_commands.h"
 #include "views/film/film_fit_window.h"
+#include "views/lot/lot_window.h"
 #include "views/optics/ref_set_dlg.h"
 #include "views/optics/thick_graph.h"
 #include "views/optics/wave_list_dlg.h"
@@ -110,6 +113,7 @@ void WindowCommands::ConnectWindows() {
     return dialog;
   });
   Open(menu_.calibration, [this] { return new CalibrationDlg(session_, messages_, &window_); });
+  Do(menu_.lotMeasurement, [this] { ShowLots(); });
   Open(menu_.version, [this] { return MakeVersionDialog(&window_); });
   Do(menu_.thicknessGraph, [this] { ShowThicknessGraph(); });
   Do(menu_.filmFit, [this] { ShowFilmFit(); });
@@ -223,6 +227,22 @@ void WindowCommands::PrintRecords(const QList<WholeRecord>& records) {
 
 QString WindowCommands::StorePath() const {
   return RecordStorePath(state_.programDirectory);
+}
+
+void WindowCommands::ShowLots() {
+  if (lots_.isNull()) {
+    const QString store = RecordStorePath(state_.programDirectory);
+    const auto held = [this, store]() -> std::optional<QString> {
+      const auto hold = FindVerdictHold(store, recorder_.Context().station);
+      return hold && hold.value ? std::optional(hold.value->Why()) : std::nullopt;
+    };
+    lots_ = new LotWindow(
+        {session_, desk_, recorder_, preferences_, messages_, dialogs_, printer_, held}, &window_);
+    lots_->setAttribute(Qt::WA_DeleteOnClose);
+  }
+  lots_->show();
+  lots_->raise();
+  lots_->activateWindow();
 }
 
 QDialog* WindowCommands::MakeSettingsList() {

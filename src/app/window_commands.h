@@ -22,6 +22,7 @@ namespace vexa {
 
 class FilmFitWindow;
 class RecordsWindow;
+class LotWindow;
 class ThickGraph;
 
 /// What the windows of the menu work with.
@@ -65,6 +66,7 @@ class WindowCommands : public QObject {
   QCoro::Task<> TakeOverController();
   void Print();
   void KeepLanguage(const QString& code);
+  void ShowLots();
   void ShowThicknessGraph();
   void ShowFilmFit();
   void ShowRecords();
@@ -90,6 +92,7 @@ class WindowCommands : public QObject {
   QPointer<FilmFitWindow> filmFit_;
   RecordReader reader_;
   QPointer<RecordsWindow> records_;
+  QPointer<LotWindow> lots_;
 };
 
 }  // namespace vexa

@@ -46,6 +46,9 @@ enum class Message : std::uint8_t {
   kRestoreDamagedSession,  ///< %1 what it holds
   kJournalWriteError,      ///< %1 path
   kRecordStoreFault,       ///< %1 path
+  kRecipeFault,            ///< %1 path, with what is wrong as details
+  kLotWithoutName,
+  kLotWithoutRows,  ///< %1 lot
 
   // Records.
   kRecordSettingsUnreadable,  ///< %1 path

@@ -71,8 +71,8 @@ class Run {
     if (report_.initialise == kSuccess) {
       report_.complete = co_await TakeFrames();
     }
-    for (int slot = 1; report_.complete && slot <= plan_.samples; ++slot) {
-      report_.complete = co_await TakeSample(slot);
+    for (int sample = 1; report_.complete && sample <= plan_.samples; ++sample) {
+      report_.complete = co_await TakeSample(sample);
     }
     file_.Finish();
     co_return report_;
@@ -87,8 +87,9 @@ class Run {
  private:
   void NameSamples() {
     std::array<SampleInfo, kSlotCount> information;
-    for (qsizetype i = 0; i < plan_.sampleNumbers.size(); ++i) {
-      information[static_cast<std::size_t>(i)].sampleNumber = plan_.sampleNumbers[i];
+    for (std::size_t slot = 0; slot < information.size(); ++slot) {
+      const int sample = static_cast<int>(slot) / plan_.Repeats();
+      information[slot].sampleNumber = plan_.sampleNumbers.value(sample);
     }
     session_.EditInformation(information);
   }
@@ -100,6 +101,10 @@ class Run {
     context.station = ReadRecordSettings(directory).value_or(RecordSettings()).station;
     context.lot = plan_.lot;
     context.operatorName = plan_.operatorName;
+    if (plan_.recipe) {
+      context.recipe = plan_.recipe->name;
+      context.cieLimits = plan_.recipe->cie;
+    }
     recorder_ = std::make_unique<SessionRecorder>(session_, store, context);
     QObject::connect(recorder_.get(), &SessionRecorder::Faulted, recorder_.get(),
                      [this, store](StoreFault fault) {
@@ -141,16 +146,16 @@ class Run {
     co_return going;
   }
 
-  QCoro::Task<bool> TakeSample(int slot) {
-    const QString what = Text::tr("サンプル %1 ").arg(slot);
-    const bool placed = co_await Place(what);
-    if (!placed) {
-      co_return false;
+  QCoro::Task<bool> TakeSample(int sample) {
+    const QString what = Text::tr("サンプル %1 ").arg(sample);
+    bool going = co_await Place(what);
+    for (int i = 1; going && i <= plan_.Repeats(); ++i) {
+      const int slot = (sample - 1) * plan_.Repeats() + i;
+      const MeasurementOutcome outcome = co_await sequence_.MeasureSample(slot);
+      report_.samples.append(ToJson(outcome.status));
+      going = IsDone(outcome) && Save();
     }
-    const MeasurementOutcome outcome = co_await sequence_.MeasureSample(slot);
-    report_.samples.append(ToJson(outcome.status));
-    const bool done = IsDone(outcome);
-    co_return done&& Save();
+    co_return going;
   }
 
   bool Save() {
@@ -218,11 +223,32 @@ void PrintReport(const Report& report, bool json) {
   }
 }
 
+// Gives the plan its recipe; false, with a complaint, when all measurements are more than slots.
+bool TakesRepeats(MeasurePlan& plan, const std::optional<Recipe>& recipe) {
+  plan.recipe = recipe;
+  const int measurements = plan.samples * plan.Repeats();
+  if (measurements > kSlotCount) {
+    Complain(QStringLiteral("%1 samples, %2 times each, are more than %3 measurements")
+                 .arg(plan.samples)
+                 .arg(plan.Repeats())
+                 .arg(kSlotCount));
+    return false;
+  }
+  return true;
+}
+
 int Measure(const QCommandLineParser& parser) {
   ConsoleMessages messages(parser.isSet(option::kNo));
   Settings settings = LoadSettings(parser, messages);
-  const std::optional<MeasurePlan> plan = ReadMeasurePlan(parser, settings);
-  if (!plan) {
+  if (Settings scratch = settings; !ReadMeasurePlan(parser, scratch)) {
+    return kUsageError;
+  }
+  std::optional<Recipe> recipe;
+  if (const ExitStatus taken = TakeRecipe(parser, settings, messages, recipe); taken != kDone) {
+    return taken;
+  }
+  std::optional<MeasurePlan> plan = ReadMeasurePlan(parser, settings);
+  if (!plan || !TakesRepeats(*plan, recipe)) {
     return kUsageError;
   }
   if (const ExitStatus taken = TakeReferenceReflectance(parser, settings); taken != kDone) {

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "cli/measure_plan.h"
 
+#include <variant>
+
 #include "base/translation.h"
 #include "cli/command_line.h"
 #include "cli/console.h"
@@ -19,6 +21,7 @@ const QString kReplyTimeout = QStringLiteral("reply-timeout");
 const QString kRecord = QStringLiteral("record");
 const QString kStore = QStringLiteral("store");
 const QString kLot = QStringLiteral("lot");
+const QString kRecipe = QStringLiteral("recipe");
 const QString kOperator = QStringLiteral("operator");
 const QString kSampleNumber = QStringLiteral("sample-number");
 
@@ -100,9 +103,34 @@ void DeclareMeasureOptions(QCommandLineParser& parser) {
   parser.addOption({kRecord, Text::tr("測定した光量とサンプルをすべて記録に残します。")});
   add(kStore, Text::tr("記録のファイル（省略時：プログラムディレクトリの records.db）。"), "FILE");
   add(kLot, Text::tr("記録のロット。"), "NAME");
+  add(kRecipe,
+      Text::tr("レシピの環境と規格で、各サンプルをレシピの回数だけ測定します。記録にレシピ名が残り"
+               "ます。"),
+      "FILE.json");
   add(kOperator, Text::tr("記録の測定者。"), "NAME");
   add(kSampleNumber, Text::tr("次のサンプルの試料番号。サンプルごとに1回指定します。"), "TEXT");
   add(kReplyTimeout, Text::tr("コントローラの応答を待つ最長の時間（省略時 40000 ms）。"), "MS");
+}
+
+ExitStatus TakeRecipe(const QCommandLineParser& parser, Settings& settings,
+                      MessageService& messages, std::optional<Recipe>& recipe) {
+  if (!parser.isSet(kRecipe)) {
+    return kDone;
+  }
+  const QString path = parser.value(kRecipe);
+  const auto read = ReadRecipe(path);
+  if (const auto* fault = std::get_if<RecipeFault>(&read)) {
+    Complain(QStringLiteral("%1: %2").arg(path, RecipeFaultText(*fault)));
+    return kFailed;
+  }
+  recipe = std::get<Recipe>(read);
+  const RecipeInForce applied = ApplyRecipe(*recipe, settings);
+  TellAll(applied.notices, messages);
+  if (!applied.complete) {
+    Complain(QStringLiteral("%1: not all of its files can be read").arg(path));
+    return kFailed;
+  }
+  return kDone;
 }
 
 std::optional<MeasurePlan> ReadMeasurePlan(const QCommandLineParser& parser, Settings& settings) {

@@ -112,6 +112,57 @@ QCoro::Task<> InstrumentDesk::MeasureSample(int slotNumber) {
   Tell(outcome, messages_);
 }
 
+QCoro::Task<MeasurementOutcome> InstrumentDesk::Measure(MeasurementKind kind, int slot,
+                                                        QString sampleNumber) {
+  co_await EndWatching();
+  MeasurementOutcome outcome;
+  if (!IsIdle()) {
+    co_return outcome;
+  }
+  switch (kind) {
+    case MeasurementKind::kBackground:
+      outcome = co_await sequence_.MeasureBackground();
+      break;
+    case MeasurementKind::kReference:
+      outcome = co_await sequence_.MeasureReference();
+      break;
+    case MeasurementKind::kSample:
+      outcome = co_await sequence_.MeasureSample(slot, sampleNumber);
+      break;
+  }
+  co_return outcome;
+}
+
+QCoro::Task<Status> InstrumentDesk::WatchLight() {
+  if (!ready_ || !IsIdle()) {
+    co_return Controller::kBusy;
+  }
+  SetActivity(Activity::kWatching);
+  watchEnds_ = false;
+  Status status = kSuccess;
+  while (status >= kSuccess && !watchEnds_) {
+    AcquisitionSettings settings = AcquisitionSettingsOf(session_.State().instrument);
+    settings.sampling.averagingCount = 1;
+    const Acquisition frame = co_await controller_->Acquire(LightFlag::kSample, settings);
+    status = frame.status;
+    if (status >= kSuccess && !watchEnds_) {
+      emit LightSeen(status != kSuccess, frame.counts);
+    }
+  }
+  SetActivity(Activity::kIdle);
+  watched_.Wake();
+  co_return watchEnds_ ? Controller::kCancelled : status;
+}
+
+QCoro::Task<> InstrumentDesk::EndWatching() {
+  if (activity_ == Activity::kWatching) {
+    Cancel();
+  }
+  while (activity_ == Activity::kWatching) {
+    co_await watched_.Sleep();
+  }
+}
+
 QCoro::Task<> InstrumentDesk::ClearAll() {
   if (!IsIdle()) {
     co_return;
@@ -125,6 +176,7 @@ QCoro::Task<> InstrumentDesk::ClearAll() {
 
 void InstrumentDesk::Cancel() {
   if (!IsIdle()) {
+    watchEnds_ = true;
     controller_->Cancel();
   }
 }

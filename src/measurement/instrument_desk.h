@@ -23,6 +23,7 @@ class InstrumentDesk : public QObject {
     kIdle,
     kStarting,  ///< the controller is being initialised, or set up
     kMeasuring,
+    kWatching,  ///< the light level: frames one after another, which are not stored
   };
   /// Makes the controller that the settings name.
   using MakeController = std::function<std::unique_ptr<Controller>(const VEXATYPE&)>;
@@ -47,6 +48,15 @@ class InstrumentDesk : public QObject {
   QCoro::Task<> MeasureReference();
   /// Asks before a measured slot is measured over.
   QCoro::Task<> MeasureSample(int slot);
+  /// Any of the three for who shows by itself how it ended: nothing is told, a measured slot
+  /// (1..10, of a sample) is measured over, and the number is the sample's. Watching ends for it.
+  QCoro::Task<MeasurementOutcome> Measure(MeasurementKind kind, int slot, QString sampleNumber);
+
+  /// Takes single frames, and announces each, until it is ended, or one fails; then its status.
+  QCoro::Task<Status> WatchLight();
+  /// Done when the instrument is at rest again; what else runs goes on.
+  QCoro::Task<> EndWatching();
+
   /// Empties all slots after a question.
   QCoro::Task<> ClearAll();
 
@@ -65,6 +75,8 @@ class InstrumentDesk : public QObject {
   void ActivityChanged();
   void Began(vexa::MeasurementKind kind, int slot);
   void Ended(vexa::MeasurementKind kind, int slot);
+  /// A frame while watching; saturated or not, its counts.
+  void LightSeen(bool saturated, const vexa::RawSpectrum& counts);
   void WaitBegan(vexa::AwaitedStep step, int expectedMs, int limitMs);
   void WaitEnded();
 
@@ -78,6 +90,8 @@ class InstrumentDesk : public QObject {
   Activity activity_ = Activity::kIdle;
   bool ready_ = false;
   Awakening idle_;
+  Awakening watched_;
+  bool watchEnds_ = false;
   std::unique_ptr<Controller> controller_;
 };
 

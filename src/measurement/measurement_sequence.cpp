@@ -3,6 +3,7 @@
 
 #include <algorithm>
 #include <exception>
+#include <utility>
 
 #include "base/translation.h"
 #include "measurement/controller_start.h"
@@ -10,12 +11,6 @@
 
 namespace vexa {
 namespace {
-
-AcquisitionSettings SettingsOf(const InstrumentSettings& instrument) {
-  return {.linePositions = instrument.linePositions,
-          .settlingTimeMs = instrument.settlingTimeMs,
-          .sampling = SamplingOf(instrument)};
-}
 
 void AddFailure(Status status, const Controller& controller, std::vector<MessageCall>& messages) {
   if (status == Controller::kCancelled) {
@@ -64,6 +59,12 @@ void AddStorage(const SampleStorage& storage, std::optional<HistoryAddResult>& l
 
 }  // namespace
 
+AcquisitionSettings AcquisitionSettingsOf(const InstrumentSettings& instrument) {
+  return {.linePositions = instrument.linePositions,
+          .settlingTimeMs = instrument.settlingTimeMs,
+          .sampling = SamplingOf(instrument)};
+}
+
 void Tell(const MeasurementOutcome& outcome, MessageService& messages) {
   for (const MessageCall& call : outcome.messages) {
     if (call.id == Message::kSaturated) {
@@ -77,15 +78,19 @@ MeasurementSequence::MeasurementSequence(Session& session, QObject* parent)
     : QObject(parent), session_(session) {}
 
 QCoro::Task<MeasurementOutcome> MeasurementSequence::MeasureBackground() {
-  return Measure(MeasurementKind::kBackground, 0);
+  return Measure(MeasurementKind::kBackground);
 }
 
 QCoro::Task<MeasurementOutcome> MeasurementSequence::MeasureReference() {
-  return Measure(MeasurementKind::kReference, 0);
+  return Measure(MeasurementKind::kReference);
 }
 
 QCoro::Task<MeasurementOutcome> MeasurementSequence::MeasureSample(int slot) {
   return Measure(MeasurementKind::kSample, slot);
+}
+
+QCoro::Task<MeasurementOutcome> MeasurementSequence::MeasureSample(int slot, QString sampleNumber) {
+  return Measure(MeasurementKind::kSample, slot, std::move(sampleNumber));
 }
 
 void MeasurementSequence::Cancel() {
@@ -112,7 +117,8 @@ std::optional<MessageCall> MeasurementSequence::Refusal(MeasurementKind kind) co
   return std::nullopt;
 }
 
-QCoro::Task<MeasurementOutcome> MeasurementSequence::Measure(MeasurementKind kind, int slot) {
+QCoro::Task<MeasurementOutcome> MeasurementSequence::Measure(MeasurementKind kind, int slot,
+                                                             std::optional<QString> sampleNumber) {
   MeasurementOutcome outcome;
   const bool hasPlace = kind != MeasurementKind::kSample || session_.State().Slot(slot) != nullptr;
   if (running_ || !hasPlace) {
@@ -128,7 +134,7 @@ QCoro::Task<MeasurementOutcome> MeasurementSequence::Measure(MeasurementKind kin
     // What the frame is taken with, whatever is changed while it is being taken.
     SampleBasis basis = session_.BasisNow();
     FrameConditions& taken = basis.conditions.frame;
-    const AcquisitionSettings settings = SettingsOf(session_.State().instrument);
+    const AcquisitionSettings settings = AcquisitionSettingsOf(session_.State().instrument);
     const LightFlag light =
         kind == MeasurementKind::kBackground ? LightFlag::kBackground : LightFlag::kSample;
     const Acquisition acquisition = co_await controller_->Acquire(light, settings);
@@ -136,7 +142,7 @@ QCoro::Task<MeasurementOutcome> MeasurementSequence::Measure(MeasurementKind kin
     if (acquisition.status == kSuccess) {
       taken.takenAt = session_.Now();
       AddDoubts(acquisition, taken, outcome.messages);
-      Store(kind, slot, acquisition.counts, basis, outcome);
+      Store(kind, slot, acquisition.counts, basis, sampleNumber, outcome);
     } else {
       AddFailure(acquisition.status, *controller_, outcome.messages);
     }
@@ -149,7 +155,9 @@ QCoro::Task<MeasurementOutcome> MeasurementSequence::Measure(MeasurementKind kin
 }
 
 void MeasurementSequence::Store(MeasurementKind kind, int slot, const RawSpectrum& counts,
-                                const SampleBasis& basis, MeasurementOutcome& outcome) {
+                                const SampleBasis& basis,
+                                const std::optional<QString>& sampleNumber,
+                                MeasurementOutcome& outcome) {
   switch (kind) {
     case MeasurementKind::kBackground:
       session_.StoreFrame(FrameKind::kBackground, counts, basis.conditions.frame);
@@ -158,7 +166,8 @@ void MeasurementSequence::Store(MeasurementKind kind, int slot, const RawSpectru
       session_.StoreFrame(FrameKind::kReference, counts, basis.conditions.frame);
       break;
     case MeasurementKind::kSample:
-      AddStorage(session_.StoreSample(slot, counts, basis), lastHistory_, outcome.messages);
+      AddStorage(session_.StoreSample(slot, counts, basis, sampleNumber), lastHistory_,
+                 outcome.messages);
       break;
   }
 }

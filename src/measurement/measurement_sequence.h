@@ -3,6 +3,7 @@
 
 #include <QCoroTask>
 #include <QObject>
+#include <QString>
 #include <optional>
 #include <vector>
 
@@ -23,6 +24,9 @@ struct MeasurementOutcome {
 
   [[nodiscard]] bool IsDone() const { return status == kSuccess; }
 };
+
+/// What an acquisition under these settings takes.
+[[nodiscard]] AcquisitionSettings AcquisitionSettingsOf(const InstrumentSettings& instrument);
 
 /// Tells the user what an outcome has to say.
 void Tell(const MeasurementOutcome& outcome, MessageService& messages);
@@ -45,6 +49,8 @@ class MeasurementSequence : public QObject {
   /// Into slot 1..10, whatever it holds. Needs a background, a reference, and what is known of the
   /// reference's reflectance.
   [[nodiscard]] QCoro::Task<MeasurementOutcome> MeasureSample(int slot);
+  /// The same of the sample of this number.
+  [[nodiscard]] QCoro::Task<MeasurementOutcome> MeasureSample(int slot, QString sampleNumber);
 
   /// Ends the measurement that runs with Controller::kCancelled.
   void Cancel();
@@ -58,9 +64,10 @@ class MeasurementSequence : public QObject {
 
  private:
   [[nodiscard]] std::optional<MessageCall> Refusal(MeasurementKind kind) const;
-  [[nodiscard]] QCoro::Task<MeasurementOutcome> Measure(MeasurementKind kind, int slot);
+  [[nodiscard]] QCoro::Task<MeasurementOutcome> Measure(MeasurementKind kind, int slot = 0,
+                                                        std::optional<QString> sampleNumber = {});
   void Store(MeasurementKind kind, int slot, const RawSpectrum& counts, const SampleBasis& basis,
-             MeasurementOutcome& outcome);
+             const std::optional<QString>& sampleNumber, MeasurementOutcome& outcome);
 
   Session& session_;
   Controller* controller_ = nullptr;

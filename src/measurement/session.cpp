@@ -39,7 +39,8 @@ void Session::StoreFrame(FrameKind kind, const RawSpectrum& counts, const FrameC
 }
 
 SampleStorage Session::StoreSample(int slotNumber, const RawSpectrum& counts,
-                                   const SampleBasis& basis) {
+                                   const SampleBasis& basis,
+                                   const std::optional<QString>& sampleNumber) {
   MeasurementSlot& slot = *state_.Slot(slotNumber);
   SampleStorage result;
   state_.sample = counts;
@@ -50,7 +51,9 @@ SampleStorage Session::StoreSample(int slotNumber, const RawSpectrum& counts,
                          basis.conditions.frame.calibrationShiftNm, basis.referenceReflectance);
   fresh.noise = ReflectanceNoise(state_, counts, basis);
   fresh.taken = basis.conditions;
-  if (slot.informationTyped) {
+  if (sampleNumber) {
+    fresh.info.sampleNumber = *sampleNumber;
+  } else if (slot.informationTyped) {
     fresh.info = slot.info;
   }
   fresh.valid = true;

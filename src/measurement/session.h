@@ -48,10 +48,12 @@ class Session : public QObject {
 
   /// Puts a sample into slot 1..10, in this order: reflectance, evaluation, accumulation, verdicts,
   /// date, and where they are automatic the thickness and the fit with their point of the history.
-  /// The reflectance is that of its basis, whatever was set since; what is computed of it is, as in every slot, by
-  /// the settings in force. What was typed of the slot's earlier sample goes, unless it was typed
-  /// after that was measured.
-  SampleStorage StoreSample(int slot, const RawSpectrum& counts, const SampleBasis& basis);
+  /// The reflectance is that of its basis, whatever was set since; what is computed of it is, as in
+  /// every slot, by the settings in force. What was typed of the slot's earlier sample goes, unless
+  /// it was typed after that was measured; a number that is given is the sample's own, and all of
+  /// the earlier one goes.
+  SampleStorage StoreSample(int slot, const RawSpectrum& counts, const SampleBasis& basis,
+                            const std::optional<QString>& sampleNumber = {});
 
   /// Empties all ten slots and their sample information.
   void ClearSlots();

@@ -25,7 +25,9 @@ void SessionRecorder::KeepFrame(FrameKind kind) {
 
 void SessionRecorder::KeepSample(int slotNumber) {
   if (const auto measured = MeasuredSampleOf(session_.State(), slotNumber, context_)) {
-    (void)keeper_.Keep(measured->Rows());
+    const QList<Row> rows = measured->Rows();
+    (void)keeper_.Keep(rows);
+    lastSample_ = {rows.constLast().id, VerdictOf(measured->sample)};
   }
 }
 

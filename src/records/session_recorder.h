@@ -22,6 +22,18 @@ class SessionRecorder : public QObject {
   /// What the records tell from now on.
   void SetContext(const RecordContext& context) { context_ = context; }
 
+  [[nodiscard]] const RecordContext& Context() const { return context_; }
+
+  /// The id and the verdict of the sample that was kept last.
+  struct KeptSample {
+    QString id;
+    Verdict verdict = Verdict::kNone;
+  };
+  [[nodiscard]] const KeptSample& LastSample() const { return lastSample_; }
+
+  /// Keeps a decision or a check, too.
+  void Keep(const EventRecord& event) { (void)keeper_.Keep({ToRow(event)}); }
+
   [[nodiscard]] const RecordKeeper& Keeper() const { return keeper_; }
 
  signals:
@@ -35,6 +47,7 @@ class SessionRecorder : public QObject {
   Session& session_;
   RecordContext context_;
   RecordKeeper keeper_;
+  KeptSample lastSample_;
 };
 
 }  // namespace vexa

@@ -39,6 +39,18 @@ void ReadStandard(TextReader& reader, StandardSet& standard) {
   ReadLimits(reader, standard.hueAngle);
 }
 
+StandardContents ReadContents(TextReader& reader) {
+  const double version = ReadHeaderVersion(reader.Row(1).constFirst(), file_kind::kStandard.word);
+  if (version <= file_kind::kStandard.oldest) {
+    throw ReadFault({.kind = FileFaultKind::kVersion, .line = 1, .version = version});
+  }
+  StandardContents contents;
+  ReadStandard(reader, contents.standard);
+  ReadMarker(reader, contents.chromaMarker);
+  ReadMarker(reader, contents.hueMarker);
+  return contents;
+}
+
 void WriteRange(FileText& text, const StandardLimits& limits) {
   text.Number(limits.upper).Number(limits.lower);
 }
@@ -53,15 +65,14 @@ void WriteLimits(FileText& text, const StandardLimits& limits) {
 ReadResult<StandardContents> ReadStandardFile(const QString& path) {
   return TryRead([&path] {
     TextReader reader = TextReader::Open(path);
-    const double version = ReadHeaderVersion(reader.Row(1).constFirst(), file_kind::kStandard.word);
-    if (version <= file_kind::kStandard.oldest) {
-      throw ReadFault({.kind = FileFaultKind::kVersion, .line = 1, .version = version});
-    }
-    StandardContents contents;
-    ReadStandard(reader, contents.standard);
-    ReadMarker(reader, contents.chromaMarker);
-    ReadMarker(reader, contents.hueMarker);
-    return contents;
+    return ReadContents(reader);
+  });
+}
+
+ReadResult<StandardContents> ParseStandard(const QString& text) {
+  return TryRead([&text] {
+    TextReader reader(text.toLatin1());
+    return ReadContents(reader);
   });
 }
 

@@ -23,6 +23,9 @@ struct StandardContents {
 /// Reads a standard file of version 3.00 or later.
 ReadResult<StandardContents> ReadStandardFile(const QString& path);
 
+/// The same of the text of such a file, as a record keeps it.
+ReadResult<StandardContents> ParseStandard(const QString& text);
+
 /// The lines of a standard file of these contents.
 [[nodiscard]] FileText StandardFileText(const StandardContents& contents);
 

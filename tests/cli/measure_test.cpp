@@ -202,5 +202,41 @@ TEST_F(MeasureRun, AFileThatCannotBeWrittenIsToldBeforeTheInstrumentIsAsked) {
   EXPECT_EQ(Exchanges(), 0);
 }
 
+TEST_F(MeasureRun, ARecipeGivesStandardRepeatsAndItsName) {
+  Start("--stage glass");
+  files.Write("r.json", R"({"format": "VEXA-KT recipe", "version": 1, "name": "AR", "repeats": 2,
+                            "cie": {"limits": {"Rv": {"lower": 3, "upper": 3.1}}}})");
+  const QByteArray recipe = "--recipe @r.json ";
+  const Outcome measured = Measure(recipe + "--record --lot L --samples 2 --sample-number A");
+  EXPECT_EQ(measured.status, 0) << measured.err.constData();
+  EXPECT_EQ(measured["samples"].toArray().size(), 4);
+  const QJsonArray records = Run("records list --dir @ --lot L --json")["records"].toArray();
+  ASSERT_EQ(records.size(), 4);
+  const char* numbers[] = {"", "", "A", "A"};  // the newest first
+  for (int i = 0; i < 4; ++i) {
+    const QJsonObject record = records[i].toObject();
+    EXPECT_EQ(record[QStringLiteral("recipe")], QStringLiteral("AR"));
+    EXPECT_EQ(record[QStringLiteral("verdict")], QStringLiteral("NG"));
+    EXPECT_EQ(record[QStringLiteral("sample")], QLatin1String(numbers[i]));
+  }
+
+  files.Write("bad.json", R"({"format": "VEXA-KT recipe", "version": 1, "repeat": 2})");
+  files.Write("none.json", R"({"format": "VEXA-KT recipe", "version": 1, "standard": "no.std"})");
+  struct Case {
+    QByteArray options;
+    int status;
+    const char* complaint;
+  };
+  const Case cases[] = {{recipe + "--samples 6", 2, "10"},
+                        {"--recipe @bad.json", 1, "repeat: "},
+                        {"--recipe @none.json", 1, "no.std"},
+                        {"--recipe @missing.json", 1, "missing.json"}};
+  for (const Case& c : cases) {
+    const Outcome refused = Measure(c.options);
+    EXPECT_EQ(refused.status, c.status) << c.options.constData();
+    EXPECT_TRUE(refused.err.contains(c.complaint)) << refused.err.constData();
+  }
+}
+
 }  // namespace
 }  // namespace vexa

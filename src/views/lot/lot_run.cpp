@@ -1,0 +1,191 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "views/lot/lot_run.h"
+
+#include <QPointer>
+#include <QStringList>
+#include <utility>
+
+#include "base/translation.h"
+#include "measurement/frame_conditions.h"
+
+namespace vexa {
+namespace {
+
+// A frame that no lens may be measured with any more.
+bool IsOutdated(bool measured, const FrameConditions& taken, int limitMinutes,
+                const Session& session) {
+  const FrameChanges changes = ChangedSince(taken, session.State().instrument, session.Now());
+  const bool old =
+      limitMinutes > 0 && taken.takenAt.secsTo(session.Now()) >= qint64{60} * limitMinutes;
+  return !measured || changes.samplingTime || changes.averagingCount || changes.future || old;
+}
+
+QString TextOf(const MeasurementOutcome& outcome) {
+  QStringList texts;
+  for (const MessageCall& message : outcome.messages) {
+    texts << MessageText(message).replace(u'\r', u' ').simplified();
+  }
+  return texts.isEmpty() ? Text::tr("測定器は使用中です。") : texts.join(u'\n');
+}
+
+}  // namespace
+
+LotRun::LotRun(LotIdentity identity, LotTally tally, Session& session, InstrumentDesk& desk,
+               SessionRecorder& recorder, VerdictHeld held)
+    : identity_(std::move(identity)),
+      tally_(std::move(tally)),
+      session_(session),
+      desk_(desk),
+      recorder_(recorder),
+      held_(std::move(held)) {
+  if (!tally_.Lenses().empty()) {
+    number_ = tally_.Lenses().back().number;
+  }
+}
+
+LotRun::Due LotRun::WhatIsDue() const {
+  const VEXATYPE& state = session_.State();
+  if (IsOutdated(state.backgroundMeasured, state.backgroundTaken,
+                 identity_.recipe.backgroundAgeMinutes, session_)) {
+    return Due::kBackground;
+  }
+  return IsOutdated(state.referenceMeasured, state.referenceTaken,
+                    identity_.recipe.referenceAgeMinutes, session_)
+             ? Due::kReference
+             : Due::kNothing;
+}
+
+QString LotRun::NextNumber() const {
+  return tally_.NumberAfter(number_);
+}
+
+QCoro::Task<> LotRun::MeasureFrame(MeasurementKind kind) {
+  if (IsMeasuring()) {
+    co_return;
+  }
+  const QPointer<LotRun> alive(this);
+  running_ = kind;
+  emit Changed();
+  const QString number;
+  const MeasurementOutcome outcome = co_await desk_.Measure(kind, 0, number);
+  if (alive.isNull()) {
+    co_return;
+  }
+  if (outcome.IsDone()) {
+    outcome_ = Outcome::kFrame;
+  }
+  End(outcome);
+}
+
+QCoro::Task<> LotRun::MeasureLens(QString number, QString reason) {
+  if (IsMeasuring()) {
+    co_return;
+  }
+  const QPointer<LotRun> alive(this);
+  number_ = number;
+  running_ = MeasurementKind::kSample;
+  hold_ = held_ ? held_().value_or(QString()) : QString();
+  const LotLens* earlier = tally_.Find(number);
+  const QList<LotLens::Measurement> replaced =
+      earlier == nullptr ? QList<LotLens::Measurement>() : earlier->measurements;
+  bool going = true;
+  for (int i = 0; going && i < identity_.recipe.repeats; ++i) {
+    repetition_ = i + 1;
+    emit Changed();
+    const QString supersedes = replaced.value(i).id;
+    const QString why = supersedes.isEmpty() ? QString() : reason;
+    going = co_await MeasureOnce(supersedes, why);
+    if (alive.isNull()) {
+      co_return;
+    }
+  }
+}
+
+// False when it failed, which is then the outcome, or when the lens is done.
+QCoro::Task<bool> LotRun::MeasureOnce(QString supersedes, QString reason) {
+  const QPointer<LotRun> alive(this);
+  SessionRecorder& recorder = recorder_;  // which outlives this
+  const RecordContext usual = recorder.Context();
+  RecordContext context = usual;
+  context.lot = identity_.lot;
+  context.recipe = identity_.recipe.name;
+  context.operatorName = identity_.operatorName;
+  context.cieLimits = identity_.recipe.cie;
+  context.supersedes = supersedes;
+  context.reason = reason;
+  recorder.SetContext(context);
+  slot_ = NextSlot();
+  const MeasurementOutcome outcome =
+      co_await desk_.Measure(MeasurementKind::kSample, slot_, number_);
+  recorder.SetContext(usual);
+  if (alive.isNull()) {
+    co_return false;
+  }
+  if (!outcome.IsDone()) {
+    End(outcome);
+    co_return false;
+  }
+  const SessionRecorder::KeptSample& kept = recorder_.LastSample();
+  tally_.Add(number_, {kept.id, kept.verdict}, supersedes);
+  Hold();
+  const bool more = repetition_ < identity_.recipe.repeats;
+  if (!more) {
+    outcome_ = hold_.isEmpty() ? Outcome::kJudged : Outcome::kHeld;
+    End(outcome);
+  }
+  co_return more;
+}
+
+void LotRun::Cancel() {
+  if (IsMeasuring()) {
+    desk_.Cancel();
+  }
+}
+
+// The first empty one, or the one measured longest ago; then in their order.
+int LotRun::NextSlot() const {
+  if (slot_ != 0) {
+    return slot_ % kSlotCount + 1;
+  }
+  int next = 1;
+  for (int number = 1; number <= kSlotCount; ++number) {
+    const MeasurementSlot& slot = *session_.State().Slot(number);
+    if (!slot.valid) {
+      return number;
+    }
+    if (slot.info.measuredAt < session_.State().Slot(next)->info.measuredAt) {
+      next = number;
+    }
+  }
+  return next;
+}
+
+void LotRun::End(const MeasurementOutcome& outcome) {
+  lastKind_ = *running_;
+  running_.reset();
+  if (!outcome.IsDone()) {
+    const bool cancelled = outcome.status == Controller::kCancelled;
+    outcome_ = cancelled ? Outcome::kCancelled : Outcome::kFault;
+    fault_ = TextOf(outcome);
+  } else {
+    fault_ = outcome.messages.empty() ? QString() : TextOf(outcome);
+  }
+  emit Changed();
+}
+
+// That a verdict was held, and why, is kept beside the sample, whose own row tells what it was.
+void LotRun::Hold() {
+  if (hold_.isEmpty()) {
+    return;
+  }
+  EventRecord event;
+  event.type = QStringLiteral("verdict-held");
+  event.subject = recorder_.LastSample().id;
+  event.reason = hold_;
+  event.operatorName = identity_.operatorName;
+  event.station = recorder_.Context().station;
+  event.time = session_.Now();
+  recorder_.Keep(event);
+}
+
+}  // namespace vexa
