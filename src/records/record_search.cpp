@@ -3,6 +3,8 @@
 
 #include <QStringList>
 
+#include "records/record_source.h"
+
 namespace vexa {
 namespace {
 
@@ -66,22 +68,28 @@ Conditions ConditionsOf(const RecordQuery& query) {
   return conditions;
 }
 
+// The inner search finds its rows in an index alone; the outer one touches those of the page.
+Answer<QSqlQuery> Find(const SqlSession& session, const RecordQuery& query,
+                       const QString& columns) {
+  const Conditions conditions = ConditionsOf(query);
+  const QString sql = QStringLiteral(
+                          "SELECT %1 FROM (SELECT station, number FROM record_row k WHERE %2"
+                          " ORDER BY utc DESC, station DESC, number DESC LIMIT ?) p"
+                          " JOIN record_row r ON r.number = p.number AND r.station = p.station"
+                          " ORDER BY r.utc DESC, r.station DESC, r.number DESC")
+                          .arg(columns, conditions.Text());
+  return session.Select(sql, QVariantList(conditions.Values()) << query.limit);
+}
+
 }  // namespace
 
 Answer<QList<RecordSummary>> SearchRecords(const SqlSession& session, const RecordQuery& query) {
-  const Conditions conditions = ConditionsOf(query);
-  // The inner search finds its rows in an index alone; the outer one touches those of the page.
-  const QString sql =
-      QStringLiteral(
-          "SELECT r.id, r.number, r.utc, r.time, r.station, r.lot, r.recipe, r.sample, r.operator,"
-          " r.verdict, coalesce(r.supersedes, (SELECT e.supersedes FROM record_row e WHERE"
-          " e.subject = r.id AND e.supersedes IS NOT NULL ORDER BY e.number DESC LIMIT 1))"
-          " FROM (SELECT station, number FROM record_row k WHERE %1"
-          " ORDER BY utc DESC, station DESC, number DESC LIMIT ?) p"
-          " JOIN record_row r ON r.number = p.number AND r.station = p.station"
-          " ORDER BY r.utc DESC, r.station DESC, r.number DESC")
-          .arg(conditions.Text());
-  Answer<QSqlQuery> rows = session.Select(sql, QVariantList(conditions.Values()) << query.limit);
+  Answer<QSqlQuery> rows =
+      Find(session, query,
+           QStringLiteral("r.id, r.number, r.utc, r.time, r.station, r.lot, r.recipe, r.sample,"
+                          " r.operator, r.verdict, coalesce(r.supersedes, (SELECT e.supersedes"
+                          " FROM record_row e WHERE e.subject = r.id AND e.supersedes IS NOT NULL"
+                          " ORDER BY e.number DESC LIMIT 1))"));
   if (!rows) {
     return {{}, rows.fault};
   }
@@ -93,6 +101,16 @@ Answer<QList<RecordSummary>> SearchRecords(const SqlSession& session, const Reco
   }
   found.fault = FaultOf(rows.value.lastError());
   return found;
+}
+
+StoreFault VisitRows(const SqlSession& session, const RecordQuery& query,
+                     const std::function<void(const StoredRow& row)>& visit) {
+  Answer<QSqlQuery> rows =
+      Find(session, query, QStringLiteral("r.number, r.id, r.document, r.numbers, r.hash"));
+  while (rows && rows.value.next()) {
+    visit(RowOf(rows.value));
+  }
+  return rows ? FaultOf(rows.value.lastError()) : rows.fault;
 }
 
 }  // namespace vexa

@@ -3,6 +3,7 @@
 
 #include <QList>
 #include <QString>
+#include <functional>
 
 #include "records/record_search.h"
 #include "records/row.h"
@@ -19,6 +20,10 @@ class RecordSource {
 
   [[nodiscard]] virtual Answer<QList<RecordSummary>> Search(const RecordQuery& query) const = 0;
 
+  /// Hands over the whole rows of the samples that the query finds, the newest first.
+  [[nodiscard]] virtual StoreFault Visit(
+      const RecordQuery& query, const std::function<void(const StoredRow& row)>& visit) const = 0;
+
   /// The row by its id; kMissing when there is none.
   [[nodiscard]] virtual Answer<StoredRow> Find(const QString& id) const = 0;
 };
@@ -26,6 +31,10 @@ class RecordSource {
 /// The row whose `column` has this value, by its session.
 [[nodiscard]] Answer<StoredRow> FindRow(const SqlSession& session, const QString& column,
                                         const QVariant& value);
+
+/// Hands over the rows of the samples that the query finds, by their session, the newest first.
+[[nodiscard]] StoreFault VisitRows(const SqlSession& session, const RecordQuery& query,
+                                   const std::function<void(const StoredRow& row)>& visit);
 
 /// The columns of a whole row, and the row of a query of them that stands on one.
 inline const QString kRowColumns = QStringLiteral("number, id, document, numbers, hash");

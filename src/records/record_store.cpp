@@ -98,6 +98,11 @@ Answer<QList<RecordSummary>> RecordStore::Search(const RecordQuery& query) const
   return SearchRecords(session_, query);
 }
 
+StoreFault RecordStore::Visit(const RecordQuery& query,
+                              const std::function<void(const StoredRow& row)>& visit) const {
+  return VisitRows(session_, query, visit);
+}
+
 Answer<QStringList> RecordStore::Stations() const {
   Answer<QSqlQuery> query =
       session_.Select(QStringLiteral("SELECT DISTINCT station FROM record_row"));

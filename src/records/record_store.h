@@ -65,6 +65,9 @@ class RecordStore : public RecordSource {
   [[nodiscard]] Answer<QList<StoredRow>> RowsAfter(qint64 number, int limit) const;
 
   [[nodiscard]] Answer<QList<RecordSummary>> Search(const RecordQuery& query) const override;
+  [[nodiscard]] StoreFault Visit(
+      const RecordQuery& query,
+      const std::function<void(const StoredRow& row)>& visit) const override;
 
   /// The events of that type, of that subject unless it is empty, the newest first.
   [[nodiscard]] Answer<QList<StoredRow>> Events(const QString& type, const QString& subject = {},

@@ -96,6 +96,11 @@ Answer<QList<RecordSummary>> SharedStore::Search(const RecordQuery& query) const
   return SearchRecords(session_, query);
 }
 
+StoreFault SharedStore::Visit(const RecordQuery& query,
+                              const std::function<void(const StoredRow& row)>& visit) const {
+  return VisitRows(session_, query, visit);
+}
+
 Answer<StoredRow> SharedStore::Find(const QString& id) const {
   return FindRow(session_, QStringLiteral("id"), id);
 }

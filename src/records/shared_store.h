@@ -33,6 +33,9 @@ class SharedStore : public RecordSource {
       const RecordStore& local, const std::function<bool(const SharedStatus& status)>& goOn) const;
 
   [[nodiscard]] Answer<QList<RecordSummary>> Search(const RecordQuery& query) const override;
+  [[nodiscard]] StoreFault Visit(
+      const RecordQuery& query,
+      const std::function<void(const StoredRow& row)>& visit) const override;
   [[nodiscard]] Answer<StoredRow> Find(const QString& id) const override;
 
  private:
