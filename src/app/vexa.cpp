@@ -40,10 +40,12 @@ VEXA::VEXA(Services services, const QString& programDirectory)
       menu_(BuildMenu(*menuBar())),
       panels_(new MainPanels(session_, desk_, services_.messages, services_.dialogs)),
       status_(new StatusPanels),
-      commands_(new WindowCommands(menu_,
-                                   {session_, desk_, recorder_, preferences_, services_.messages,
-                                    services_.dialogs, [this] { return GetOption(); }},
-                                   *this)) {
+      commands_(new WindowCommands(
+          menu_,
+          {session_, desk_, recorder_, preferences_, services_.messages, services_.dialogs,
+           [this](const std::vector<int>& slotNumbers) { panels_->ShowSpread(slotNumbers); },
+           [this] { return GetOption(); }},
+          *this)) {
   commands_->setParent(this);
   setCentralWidget(panels_);
   setStatusBar(status_);

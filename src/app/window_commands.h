@@ -3,6 +3,7 @@
 
 #include <QObject>
 #include <functional>
+#include <vector>
 
 #include "app/main_menu.h"
 #include "files/program_preferences.h"
@@ -26,6 +27,8 @@ struct WindowParts {
   ProgramPreferences& preferences;
   MessageService& messages;
   FileDialogs& dialogs;
+  /// Has the graph show the mean and spread of these slots as well.
+  std::function<void(const std::vector<int>&)> showSpread;
   std::function<int()> selectedSlot;  ///< the slot (1..10) that is shown; 0 for none
 };
 
@@ -46,6 +49,8 @@ class WindowCommands : public QObject {
   void ConnectLanguages();
   void Do(QAction* action, std::function<void()> run);
   void Open(QAction* action, std::function<QDialog*()> make);
+  /// Likewise a window that is kept beside the main one; an open one is brought to the front.
+  void OpenBeside(QAction* action, std::function<QDialog*()> make);
   QCoro::Task<> TakeOverEnvironment();
   QCoro::Task<> TakeOverController();
   void Print();
@@ -61,6 +66,7 @@ class WindowCommands : public QObject {
   ProgramPreferences& preferences_;
   MessageService& messages_;
   FileDialogs& dialogs_;
+  std::function<void(const std::vector<int>&)> showSpread_;
   std::function<int()> selectedSlot_;
   QWidget& window_;
   CurrentPrinter printer_;

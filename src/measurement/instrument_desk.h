@@ -47,6 +47,8 @@ class InstrumentDesk : public QObject {
   QCoro::Task<> MeasureReference();
   /// Asks before a measured slot is measured over.
   QCoro::Task<> MeasureSample(int slot);
+  /// Likewise without a question: for who measures one lens again and again.
+  QCoro::Task<> MeasureSampleOver(int slot);
   /// Empties all slots after a question.
   QCoro::Task<> ClearAll();
 

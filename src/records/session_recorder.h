@@ -22,6 +22,8 @@ class SessionRecorder : public QObject {
   /// What the records tell from now on.
   void SetContext(const RecordContext& context) { context_ = context; }
 
+  [[nodiscard]] const RecordContext& Context() const { return context_; }
+
   [[nodiscard]] const RecordKeeper& Keeper() const { return keeper_; }
 
  signals:

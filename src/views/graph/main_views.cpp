@@ -61,6 +61,11 @@ void MainViews::Show(int selectedSlot) {
   strip_->setVisible(view.graph != nullptr && state_.display.showCursor);
 }
 
+void MainViews::ShowSpread(const std::vector<int>& slotNumbers, int selectedSlot) {
+  spread_ = slotNumbers;
+  Show(selectedSlot);
+}
+
 void MainViews::MoveCursor(int nm) {
   if (SpectrumGraph* graph = views_[current_].graph) {
     graph->MoveCursor(nm);
@@ -102,6 +107,7 @@ MainViews::View MainViews::ReflectanceView(bool reciprocal) {
   view.show = [this, graph](int slot) {
     graph->Show(state_, slot);
     graph->ShowBand(ReflectanceBand(state_.standard));
+    graph->ShowSpread(state_, spread_);
   };
   return view;
 }
