@@ -211,7 +211,7 @@ void DailyCheckWindow::ShowVerdict() {
   verdict_->setText(text);
   QFont font = this->font();
   font.setBold(true);
-  font.setPointSizeF(1.2 * font.pointSizeF());
+  font.setPixelSize(qRound(1.2 * fontInfo().pixelSize()));
   verdict_->setFont(font);
   QPalette palette = verdict_->palette();
   palette.setColor(QPalette::WindowText, colour);

@@ -252,7 +252,8 @@ void XmrPlot::ShowLines(QCPAxisRect& pane, const std::vector<std::pair<QString, 
 void XmrPlot::ShowAll() {
   const auto count = static_cast<double>(picture_.values.size());
   const double margin = std::max(0.5, 0.01 * count);
-  xAxis->setRange(1.0 - margin, std::max(count, 1.0) + margin);
+  constexpr double kFewestPlaces = 5.0;  // fewer would have ticks between them
+  xAxis->setRange(1.0 - margin, std::max(count, kFewestPlaces) + margin);
   replot(rpQueuedReplot);
 }
 
