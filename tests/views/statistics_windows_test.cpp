@@ -69,8 +69,8 @@ TEST(ChartStudy, GivesNoCapabilityWhereTheNormalModelDoesNotHold) {
     bool refused;
   };
   for (const Case& c : {Case{"in control", Normal(50.0), Quantity::kChroma, true, 0, false},
-                        Case{"near 0", Normal(2.9), Quantity::kChroma, false, 1, false},
-                        Case{"0 is no bound", Normal(2.9), Quantity::kB, true, 0, false},
+                        Case{"near 0", Normal(2.5), Quantity::kChroma, false, 1, false},
+                        Case{"0 is no bound", Normal(2.5), Quantity::kB, true, 0, false},
                         Case{"correlated", walk, Quantity::kB, false, 1, false},
                         Case{"one value", {1.0}, Quantity::kB, false, 0, true},
                         Case{"none", {}, Quantity::kB, false, 0, true},
