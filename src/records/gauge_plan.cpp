@@ -24,7 +24,8 @@ constexpr int kMostReadings =
 void Shuffle(std::vector<int>& places, std::mt19937& random) {
   for (std::size_t left = places.size(); left > 1; --left) {
     const auto most = static_cast<std::uint32_t>(left);
-    const std::uint32_t fair = std::mt19937::max() - std::mt19937::max() % most;
+    constexpr std::uint32_t kLargest = 0xffffffff;
+    const std::uint32_t fair = kLargest - kLargest % most;
     std::uint32_t drawn = 0;
     do {
       drawn = static_cast<std::uint32_t>(random());
@@ -119,8 +120,8 @@ std::vector<GaugeTask> OrderOf(const GaugePlan& plan) {
   return order;
 }
 
-GaugeSession::GaugeSession(const GaugePlan& plan)
-    : plan(plan), order(OrderOf(plan)), values(order.size()) {}
+GaugeSession::GaugeSession(const GaugePlan& measured)
+    : plan(measured), order(OrderOf(measured)), values(order.size()) {}
 
 std::optional<std::size_t> GaugeSession::Next() const {
   const auto next = std::ranges::find_if(values, IsOpen);

@@ -52,7 +52,7 @@ struct GaugeSession {
   std::vector<GaugeTask> order;
   std::vector<std::optional<double>> values;  ///< in that order
 
-  explicit GaugeSession(const GaugePlan& plan);
+  explicit GaugeSession(const GaugePlan& measured);
 
   /// The measurement that comes next; nothing when all are made.
   [[nodiscard]] std::optional<std::size_t> Next() const;

@@ -18,8 +18,10 @@ constexpr std::size_t kManyPoints = 1000;  // more than the chart has pixels
 constexpr double kMargin = 0.06;           // of the range, above and below
 // A tolerance further away than this would press the points flat.
 constexpr double kFarLimit = 4.0;
-// Labels nearer to one another than this part of the axis would cover each other.
+// Labels nearer to one another than this part of the axis would cover each other: of a pane that
+// has a plot for itself and its ranges, and of one among several.
 constexpr double kLabelRoom = 0.045;
+constexpr double kSmallLabelRoom = 0.17;
 
 const QPen kControlPen(theme::kBad, 1.2, Qt::DashLine);
 const QPen kTolerancePen(QColor(0x8a, 0x5a, 0x00), 1.2, Qt::DashDotLine);
@@ -176,11 +178,12 @@ void XmrPlot::ShowValues() {
   // The labels of the lines stand at the right axis; the first ones have the right of way.
   lines.insert(lines.end(), tolerance.begin(), tolerance.end());
   const QSharedPointer<QCPAxisTickerText> ticker(new QCPAxisTickerText);
+  const double room = ranges_ != nullptr ? kLabelRoom : kSmallLabelRoom;
   std::vector<double> placed;
   for (const auto& [name, value] : lines) {
     const double at = value;
     if (std::ranges::none_of(placed, [&](double other) {
-          return std::abs(other - at) < kLabelRoom * yAxis->range().size();
+          return std::abs(other - at) < room * yAxis->range().size();
         })) {
       ticker->addTick(at, LineText(name, at));
       placed.push_back(at);
