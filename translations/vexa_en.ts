@@ -2619,7 +2619,7 @@ controller is not connected.</translation>
     </message>
     <message>
         <source>反射率 %1 nm [%]</source>
-        <translation>Reflectance %1 nm [%]</translation>
+        <translation>Refl. %1 nm [%]</translation>
     </message>
     <message>
         <source>光量 %1 nm [ｶｳﾝﾄ]</source>

@@ -143,7 +143,7 @@ QWidget* ControlChartWindow::BuildPages() {
   pages_->addTab(signals_, Text::tr("異常"));
   pages_->addTab(groups_, Text::tr("群"));
   pages_->addTab(record_, Text::tr("記録"));
-  pages_->setMinimumWidth(300);
+  pages_->setMinimumWidth(360);
   return pages_;
 }
 

@@ -157,7 +157,7 @@ QWidget* GaugeStudyWindow::BuildPlan() {
   layout->addWidget(records);
   layout->addStretch();
   auto* scroll = new ScrollBody(body);
-  constexpr int kWidth = 300;
+  constexpr int kWidth = 350;
   scroll->setFixedWidth(kWidth);
   return scroll;
 }

@@ -69,7 +69,7 @@ SlotStatisticsWindow::SlotStatisticsWindow(const Parts& parts, QWidget* parent)
   layout->setContentsMargins(12, 10, 12, 10);
   layout->addLayout(top, 1);
   layout->addLayout(bottom);
-  resize(920, 470);
+  resize(1000, 470);
 
   connect(slots_, &QListWidget::itemChanged, this, &SlotStatisticsWindow::ShowSlots);
   connect(inGraph_, &QCheckBox::toggled, this,

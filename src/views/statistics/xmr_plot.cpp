@@ -68,12 +68,11 @@ XmrPlot::XmrPlot(Panes panes, QWidget* parent) : Plot(parent) {
     auto* together = new QCPMarginGroup(this);
     axisRect()->setMarginGroup(QCP::msLeft | QCP::msRight, together);
     ranges_->setMarginGroup(QCP::msLeft | QCP::msRight, together);
+    ranges_->axis(QCPAxis::atBottom)->setLabel(Text::tr("点番号"));
     ranges_->axis(QCPAxis::atLeft)->setLabel(Text::tr("移動範囲"));
     connect(xAxis, qOverload<const QCPRange&>(&QCPAxis::rangeChanged),
             ranges_->axis(QCPAxis::atBottom), qOverload<const QCPRange&>(&QCPAxis::setRange));
   }
-  QCPAxis* points = ranges_ != nullptr ? ranges_->axis(QCPAxis::atBottom) : xAxis;
-  points->setLabel(Text::tr("点番号"));
   yAxis2->setTickLabels(true);
   axisRect()->setRangeDrag(Qt::Horizontal);
   axisRect()->setRangeZoom(Qt::Horizontal);
