@@ -3111,11 +3111,11 @@ controller is not connected.</translation>
     </message>
     <message>
         <source>繰返し性の限界 2.8s</source>
-        <translation>Repeatability limit 2.8s</translation>
+        <translation>Limit 2.8s</translation>
     </message>
     <message>
         <source>反射率の平均の標準偏差 [%]</source>
-        <translation>Mean standard deviation of the reflectance [%]</translation>
+        <translation>Mean s of the reflectance [%]</translation>
     </message>
     <message>
         <source>グラフに平均と幅を示す</source>
