@@ -2,6 +2,7 @@
 #include <benchmark/benchmark.h>
 
 #include <QApplication>
+#include <cmath>
 #include <memory>
 
 #include "instrument/h8_reply.h"
@@ -11,6 +12,7 @@
 #include "views/colour/background_picture.h"
 #include "views/graph/main_views.h"
 #include "views/graph/reflectance_graph.h"
+#include "views/statistics/xmr_plot.h"
 
 namespace {
 
@@ -110,5 +112,29 @@ void SwitchToView(benchmark::State& state) {
   }
 }
 BENCHMARK(SwitchToView)->DenseRange(1, 6)->Unit(benchmark::kMillisecond);
+
+// A control chart of so many points at the size that it has in its window, each replot whole.
+void DrawControlChart(benchmark::State& state) {
+  vexa::XmrPicture picture;
+  picture.title = QStringLiteral("Rv");
+  for (int i = 0; i < state.range(0); ++i) {
+    picture.values.push_back(4.0 + 0.02 * (i * 7919 % 101) + 0.3 * std::sin(i * 0.01));
+  }
+  const auto limits = vexa::statistics::ComputeLimits(picture.values);
+  if (!limits) {
+    state.SkipWithError("limits");
+    return;
+  }
+  picture.limits = *limits;
+  vexa::XmrPlot plot(vexa::XmrPlot::Panes::kValuesAndRanges);
+  plot.resize(766, 700);
+  plot.show();
+  plot.Show(picture);
+  QApplication::processEvents();
+  while (state.KeepRunning()) {
+    plot.replot(QCustomPlot::rpImmediateRefresh);
+  }
+}
+BENCHMARK(DrawControlChart)->Arg(1000)->Arg(10000)->Unit(benchmark::kMillisecond);
 
 }  // namespace

@@ -3859,7 +3859,467 @@ Repeats: %4   Background: %5   Reference: %6</translation>
     </message>
     <message>
         <source>レシピの環境と規格で、各サンプルをレシピの回数だけ測定します。記録にレシピ名が残ります。</source>
-        <translation type="unfinished"></translation>
+        <translation>Measures under the environment and the standard of a recipe, each sample as often as it wants; the records name it.</translation>
+    </message>
+    <message>
+        <source>値</source>
+        <translation>Value</translation>
+    </message>
+    <message>
+        <source>平均の95%信頼区間</source>
+        <translation>95% interval of the mean</translation>
+    </message>
+    <message>
+        <source>標準偏差</source>
+        <translation>Standard deviation</translation>
+    </message>
+    <message>
+        <source>中央値</source>
+        <translation>Median</translation>
+    </message>
+    <message>
+        <source>1次の自己相関</source>
+        <translation>Lag-1 autocorrelation</translation>
+    </message>
+    <message>
+        <source>平均移動範囲</source>
+        <translation>Mean moving range</translation>
+    </message>
+    <message>
+        <source>規格下限</source>
+        <translation>Lower limit (LSL)</translation>
+    </message>
+    <message>
+        <source>規格上限</source>
+        <translation>Upper limit (USL)</translation>
+    </message>
+    <message>
+        <source>規格外の点</source>
+        <translation>Points outside</translation>
+    </message>
+    <message>
+        <source>規格外の期待値</source>
+        <translation>Expected outside</translation>
+    </message>
+    <message>
+        <source>異常</source>
+        <translation>Signals</translation>
+    </message>
+    <message>
+        <source>点番号</source>
+        <translation>Point</translation>
+    </message>
+    <message>
+        <source>日時</source>
+        <translation>Time</translation>
+    </message>
+    <message>
+        <source>規則</source>
+        <translation>Rules</translation>
+    </message>
+    <message>
+        <source>群</source>
+        <translation>Group</translation>
+    </message>
+    <message>
+        <source>そのため工程能力指数は示しません。規格外は %1 点中 %2 点でした。</source>
+        <translation>So no capability index is shown. Of %1 points %2 were outside the limits.</translation>
+    </message>
+    <message>
+        <source>工程能力指数なし: %1</source>
+        <translation>No capability index: %1</translation>
+    </message>
+    <message>
+        <source>管理状態にないため、工程能力指数は将来を約束しません。</source>
+        <translation>The process is not in control, so the capability promises nothing for the future.</translation>
+    </message>
+    <message>
+        <source>この値のない記録が %1 件あります。</source>
+        <translation>%1 records do not have this value.</translation>
+    </message>
+    <message>
+        <source>新しい方から %1 件だけを示しています。</source>
+        <translation>Only the newest %1 are shown.</translation>
+    </message>
+    <message>
+        <source>群なし</source>
+        <translation>No groups</translation>
+    </message>
+    <message>
+        <source>日</source>
+        <translation>Day</translation>
+    </message>
+    <message>
+        <source>装置</source>
+        <translation>Station</translation>
+    </message>
+    <message>
+        <source>管理図</source>
+        <translation>Control chart</translation>
+    </message>
+    <message>
+        <source>最初のこの点数から管理限界を求めます。</source>
+        <translation>The control limits come from the first so many points.</translation>
+    </message>
+    <message>
+        <source>読み直し(&amp;R)</source>
+        <translation>&amp;Read again</translation>
+    </message>
+    <message>
+        <source>限界の点数</source>
+        <translation>Points for limits</translation>
+    </message>
+    <message>
+        <source>ヒストグラム</source>
+        <translation>Histogram</translation>
+    </message>
+    <message>
+        <source>注意</source>
+        <translation>Note</translation>
+    </message>
+    <message>
+        <source>度数</source>
+        <translation>Count</translation>
+    </message>
+    <message>
+        <source>期間を限る</source>
+        <translation>Limit the days</translation>
+    </message>
+    <message>
+        <source>から</source>
+        <translation>From</translation>
+    </message>
+    <message>
+        <source>まで</source>
+        <translation>To</translation>
+    </message>
+    <message>
+        <source>移動範囲</source>
+        <translation>Moving range</translation>
+    </message>
+    <message>
+        <source>日常点検の設定</source>
+        <translation>Settings of the daily check</translation>
+    </message>
+    <message>
+        <source>点検する波長を変えると、限界は新しい点検から決め直すことになります。</source>
+        <translation>With other wavelengths, the limits have to be set anew from new checks.</translation>
+    </message>
+    <message>
+        <source>異常のときはロットの判定を保留する</source>
+        <translation>Hold lot verdicts while a check is red</translation>
+    </message>
+    <message>
+        <source>波長%1</source>
+        <translation>Wavelength %1</translation>
+    </message>
+    <message>
+        <source>全変動に対する割合</source>
+        <translation>of the total</translation>
+    </message>
+    <message>
+        <source>公差に対する割合</source>
+        <translation>of the tolerance</translation>
+    </message>
+    <message>
+        <source>ゲージ R&amp;R</source>
+        <translation>Gauge R&amp;R</translation>
+    </message>
+    <message>
+        <source>繰返し性</source>
+        <translation>Repeatability</translation>
+    </message>
+    <message>
+        <source>再現性</source>
+        <translation>Reproducibility</translation>
+    </message>
+    <message>
+        <source>交互作用</source>
+        <translation>Interaction</translation>
+    </message>
+    <message>
+        <source>部品</source>
+        <translation>Part</translation>
+    </message>
+    <message>
+        <source>点検片</source>
+        <translation>Check piece</translation>
+    </message>
+    <message>
+        <source>ランプ</source>
+        <translation>Lamp</translation>
+    </message>
+    <message>
+        <source>暗レベルとノイズ</source>
+        <translation>Dark level and noise</translation>
+    </message>
+    <message>
+        <source>「測定」を押してください。光を閉じて背景を測定します。</source>
+        <translation>Press &quot;Measure&quot;. The light is closed and the background measured.</translation>
+    </message>
+    <message>
+        <source>ﾘﾌｧﾚﾝｽ試料を置いて「測定」を押してください。</source>
+        <translation>Put the reference in place and press &quot;Measure&quot;.</translation>
+    </message>
+    <message>
+        <source>点検片を置いて「測定」を押してください。</source>
+        <translation>Put the check piece in place and press &quot;Measure&quot;.</translation>
+    </message>
+    <message>
+        <source>測定(&amp;M)</source>
+        <translation>&amp;Measure</translation>
+    </message>
+    <message>
+        <source>限界を決める(&amp;L)...</source>
+        <translation>Set &amp;limits...</translation>
+    </message>
+    <message>
+        <source>保留を解く(&amp;H)...</source>
+        <translation>Release &amp;hold...</translation>
+    </message>
+    <message>
+        <source>日常点検</source>
+        <translation>Daily check</translation>
+    </message>
+    <message>
+        <source>設定(&amp;S)...</source>
+        <translation>&amp;Settings...</translation>
+    </message>
+    <message>
+        <source>点検</source>
+        <translation>Check</translation>
+    </message>
+    <message>
+        <source>背景</source>
+        <translation>Background</translation>
+    </message>
+    <message>
+        <source>測定しています...</source>
+        <translation>Measuring...</translation>
+    </message>
+    <message>
+        <source>まだ点検していません。</source>
+        <translation>Not checked yet.</translation>
+    </message>
+    <message>
+        <source>正常</source>
+        <translation>Green: normal</translation>
+    </message>
+    <message>
+        <source>異常（ロットの判定を保留しています）</source>
+        <translation>Red: lot verdicts are held</translation>
+    </message>
+    <message>
+        <source>限界を決めたときと測定条件が違うため、判定できません。</source>
+        <translation>No verdict: the limits were set under other measuring conditions.</translation>
+    </message>
+    <message>
+        <source>限界を決めるためのデータを集めています。</source>
+        <translation>Collecting data for the limits.</translation>
+    </message>
+    <message>
+        <source>限界: %1 に %2 日分から決定</source>
+        <translation>Limits: set on %1 from %2 days</translation>
+    </message>
+    <message>
+        <source>限界: 未決定（この条件で %1/%2 日）</source>
+        <translation>Limits: not set yet (%1 of %2 days under these conditions)</translation>
+    </message>
+    <message>
+        <source>限界の決定</source>
+        <translation>Setting the limits</translation>
+    </message>
+    <message>
+        <source>%1 日分の点検から管理限界を決めます。次に決め直すまで変わりません。</source>
+        <translation>The control limits are set from the checks of %1 days. They stay until they are set again.</translation>
+    </message>
+    <message>
+        <source>保留の解除</source>
+        <translation>Releasing the hold</translation>
+    </message>
+    <message>
+        <source>異常の理由を確かめて、ロットの判定の保留を解きます。</source>
+        <translation>The hold of lot verdicts is released after the reason for the alarm was found.</translation>
+    </message>
+    <message>
+        <source>管理限界</source>
+        <translation>Control limits</translation>
+    </message>
+    <message>
+        <source>決定者</source>
+        <translation>Decided by</translation>
+    </message>
+    <message>
+        <source>繰返し性（併合）</source>
+        <translation>Repeatability (pooled)</translation>
+    </message>
+    <message>
+        <source>合計</source>
+        <translation>Total</translation>
+    </message>
+    <message>
+        <source>ゲージ R&amp;R は公差の %1 %、識別できる区分は %2 です。</source>
+        <translation>Gauge R&amp;R is %1 % of the tolerance, with %2 distinct categories.</translation>
+    </message>
+    <message>
+        <source>ゲージ R&amp;R は全変動の %1 %、識別できる区分は %2 です。</source>
+        <translation>Gauge R&amp;R is %1 % of the total spread, with %2 distinct categories.</translation>
+    </message>
+    <message>
+        <source>この測定システムは使えます。</source>
+        <translation>This measuring system will do. </translation>
+    </message>
+    <message>
+        <source>この測定システムは用途によっては使えます。</source>
+        <translation>This measuring system will do for some uses. </translation>
+    </message>
+    <message>
+        <source>この測定システムは改善が必要です。</source>
+        <translation>This measuring system needs improvement. </translation>
+    </message>
+    <message>
+        <source>分散分析</source>
+        <translation>Analysis of variance</translation>
+    </message>
+    <message>
+        <source>要因</source>
+        <translation>Source</translation>
+    </message>
+    <message>
+        <source>成分</source>
+        <translation>Components</translation>
+    </message>
+    <message>
+        <source>全変動 [%]</source>
+        <translation>Of total [%]</translation>
+    </message>
+    <message>
+        <source>公差 [%]</source>
+        <translation>Of tolerance [%]</translation>
+    </message>
+    <message>
+        <source>測定システム解析</source>
+        <translation>Gauge study</translation>
+    </message>
+    <message>
+        <source>A, B, C</source>
+        <translation>A, B, C</translation>
+    </message>
+    <message>
+        <source>なし</source>
+        <translation>None</translation>
+    </message>
+    <message>
+        <source>計画を作る(&amp;N)</source>
+        <translation>Make pla&amp;n</translation>
+    </message>
+    <message>
+        <source>記録を解析(&amp;A)</source>
+        <translation>&amp;Analyse records</translation>
+    </message>
+    <message>
+        <source>計画</source>
+        <translation>Plan</translation>
+    </message>
+    <message>
+        <source>解析</source>
+        <translation>Study</translation>
+    </message>
+    <message>
+        <source>名前</source>
+        <translation>Name</translation>
+    </message>
+    <message>
+        <source>部品の数</source>
+        <translation>Parts</translation>
+    </message>
+    <message>
+        <source>繰返し</source>
+        <translation>Repeats</translation>
+    </message>
+    <message>
+        <source>公差の幅</source>
+        <translation>Width of tolerance</translation>
+    </message>
+    <message>
+        <source>記録から</source>
+        <translation>From records</translation>
+    </message>
+    <message>
+        <source>新しい解析</source>
+        <translation>New study</translation>
+    </message>
+    <message>
+        <source>測定者は、違う名前で2人以上10人以下をコンマで区切って入力してください。</source>
+        <translation>Enter two to ten operators with different names, separated by commas.</translation>
+    </message>
+    <message>
+        <source>公差の幅は0より大きい数です。</source>
+        <translation>The width of the tolerance is a number above 0.</translation>
+    </message>
+    <message>
+        <source>計画を作るか、続ける解析を選んでください。</source>
+        <translation>Make a plan, or choose a study to go on with.</translation>
+    </message>
+    <message>
+        <source>すべて測定しました。</source>
+        <translation>All is measured.</translation>
+    </message>
+    <message>
+        <source>%1/%2  測定者 %3: 部品 %4 を置いて「測定」を押してください。結果は最後まで示しません。</source>
+        <translation>%1 of %2  Operator %3: put part %4 in place and press &quot;Measure&quot;. Results are shown at the end.</translation>
+    </message>
+    <message>
+        <source>この試料には解析する値がありません。測り直してください。</source>
+        <translation>This sample does not have the value of the study. Measure it again.</translation>
+    </message>
+    <message>
+        <source>ｽﾛｯﾄの統計(&amp;S)</source>
+        <translation>&amp;Slot statistics</translation>
+    </message>
+    <message>
+        <source>繰返し性の限界 2.8s</source>
+        <translation>Limit 2.8s</translation>
+    </message>
+    <message>
+        <source>反射率の平均の標準偏差 [%]</source>
+        <translation>Mean s of the reflectance [%]</translation>
+    </message>
+    <message>
+        <source>グラフに平均と幅を示す</source>
+        <translation>Mean and spread in the graph</translation>
+    </message>
+    <message>
+        <source>ｽﾛｯﾄの統計</source>
+        <translation>Slot statistics</translation>
+    </message>
+    <message>
+        <source> 回</source>
+        <translation> times</translation>
+    </message>
+    <message>
+        <source>一つのレンズの繰返し</source>
+        <translation>Repeats of one lens</translation>
+    </message>
+    <message>
+        <source>選んだ %1 個のｽﾛｯﾄ</source>
+        <translation>%1 ticked slots</translation>
+    </message>
+    <message>
+        <source>中止(&amp;M)</source>
+        <translation>Stop (&amp;M)</translation>
+    </message>
+    <message>
+        <source>繰返し測定(&amp;M)</source>
+        <translation>&amp;Measure repeats</translation>
+    </message>
+    <message>
+        <source>%1/%2 回目を測定しています...</source>
+        <translation>Measuring %1 of %2...</translation>
+    </message>
+    <message>
+        <source>一つのレンズの %1 回の測定</source>
+        <translation>%1 measurements of one lens</translation>
     </message>
 </context>
 </TS>

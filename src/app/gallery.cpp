@@ -15,6 +15,7 @@
 #include <QTableView>
 #include <QTextEdit>
 #include <cstdio>
+#include <tuple>
 
 #include "app/vexa.h"
 #include "base/translation.h"
@@ -111,6 +112,14 @@ void Gallery::TakeWindows(VEXA& window) {
   Press(window, "StockShow");
   TakeWindow(QStringLiteral("StockWindow"), QStringLiteral("accumulation"));
   TakeFilmFit(window);
+  for (const auto& [command, object, name] :
+       {std::tuple{window.Commands().slotStatistics, "SlotStatisticsWindow", "slot-statistics"},
+        std::tuple{window.Commands().controlChart, "ControlChartWindow", "control-chart"},
+        std::tuple{window.Commands().dailyCheck, "DailyCheckWindow", "daily-check"},
+        std::tuple{window.Commands().gaugeStudy, "GaugeStudyWindow", "gauge-study"}}) {
+    command->trigger();
+    TakeWindow(QLatin1String(object), QLatin1String(name));
+  }
   window.Commands().thicknessGraph->trigger();
   LetDraw();
   for (const QWidget* history : QApplication::topLevelWidgets()) {

@@ -81,6 +81,7 @@ MenuCommands BuildMenu(QMenuBar& bar) {
   commands.thicknessGraph = Add(analysis, Text::tr("膜厚ｸﾞﾗﾌ(&G)"));
   commands.filmFit = Add(analysis, Text::tr("膜厚ﾌｨｯﾄ(&F)"));
   commands.colourDifference = Add(analysis, Text::tr("色差測定"));
+  commands.slotStatistics = Add(analysis, Text::tr("ｽﾛｯﾄの統計(&S)"));
   analysis->addSeparator();
   commands.dailyCheck = Add(analysis, Text::tr("日常点検(&D)"));
   commands.controlChart = Add(analysis, Text::tr("管理図(&C)"));

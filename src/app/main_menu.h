@@ -29,6 +29,7 @@ struct MenuCommands {
   QAction* thicknessGraph;
   QAction* filmFit;
   QAction* colourDifference;
+  QAction* slotStatistics;
   QAction* dailyCheck;
   QAction* controlChart;
   QAction* gaugeStudy;

@@ -61,6 +61,10 @@ void MainPanels::SelectSlot(int slot) {
   bar_->SelectSlot(slot);
 }
 
+void MainPanels::ShowSpread(const std::vector<int>& slotNumbers) {
+  views_->ShowSpread(slotNumbers, SelectedSlot());
+}
+
 int MainPanels::CurrentView() const {
   return views_->CurrentView();
 }

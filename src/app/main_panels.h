@@ -2,6 +2,7 @@
 #pragma once
 
 #include <QWidget>
+#include <vector>
 
 #include "base/message.h"
 #include "measurement/instrument_desk.h"
@@ -30,6 +31,9 @@ class MainPanels : public QWidget {
   void SelectSlot(int slot);
   /// 0..6, in the order of the view menu.
   [[nodiscard]] int CurrentView() const;
+
+  /// The slots whose mean and spread the graph shows as well; empty: none.
+  void ShowSpread(const std::vector<int>& slotNumbers);
 
   /// Shows the state of the session.
   void Show();

@@ -48,7 +48,9 @@ VEXA::VEXA(Services services, const QString& programDirectory)
       commands_(new WindowCommands(
           menu_,
           {session_, desk_, recorder_, recordSettings_, preferences_, services_.messages,
-           services_.dialogs, [this] { return GetOption(); }},
+           services_.dialogs,
+           [this](const std::vector<int>& slotNumbers) { panels_->ShowSpread(slotNumbers); },
+           [this] { return GetOption(); }},
           *this)) {
   commands_->setParent(this);
   setCentralWidget(panels_);

@@ -3,6 +3,7 @@
 
 #include <QDialog>
 #include <QMenu>
+#include <QPointer>
 #include <algorithm>
 #include <utility>
 
@@ -33,6 +34,10 @@
 #include "views/settings/sampling_dlg.h"
 #include "views/settings/table.h"
 #include "views/standards/standard_frm.h"
+#include "views/statistics/control_chart_window.h"
+#include "views/statistics/daily_check_window.h"
+#include "views/statistics/gauge_study_window.h"
+#include "views/statistics/slot_statistics_window.h"
 
 namespace vexa {
 
@@ -46,6 +51,7 @@ WindowCommands::WindowCommands(const MenuCommands& menu, WindowParts parts, QWid
       preferences_(parts.preferences),
       messages_(parts.messages),
       dialogs_(parts.dialogs),
+      showSpread_(std::move(parts.showSpread)),
       selectedSlot_(std::move(parts.selectedSlot)),
       window_(window),
       files_(*menu.recentFiles, parts.session, parts.desk, parts.preferences, parts.messages,
@@ -115,6 +121,28 @@ void WindowCommands::ConnectWindows() {
   Open(menu_.calibration, [this] { return new CalibrationDlg(session_, messages_, &window_); });
   Do(menu_.lotMeasurement, [this] { ShowLots(); });
   Open(menu_.version, [this] { return MakeVersionDialog(&window_); });
+  OpenBeside(menu_.slotStatistics, [this] {
+    auto* dialog =
+        new SlotStatisticsWindow({session_, desk_, printer_, messages_, dialogs_}, &window_);
+    connect(dialog, &SlotStatisticsWindow::SpreadWanted, this, showSpread_);
+    return dialog;
+  });
+  OpenBeside(menu_.dailyCheck, [this] {
+    return new DailyCheckWindow(
+        {session_, desk_, recorder_, RecordStorePath(state_.programDirectory), printer_, messages_,
+         dialogs_},
+        &window_);
+  });
+  OpenBeside(menu_.gaugeStudy, [this] {
+    return new GaugeStudyWindow(
+        {session_, desk_, recorder_, RecordStorePath(state_.programDirectory), printer_, messages_,
+         dialogs_},
+        &window_);
+  });
+  OpenBeside(menu_.controlChart, [this] {
+    return new ControlChartWindow(session_, RecordStorePath(state_.programDirectory), printer_,
+                                  messages_, dialogs_, &window_);
+  });
   Do(menu_.thicknessGraph, [this] { ShowThicknessGraph(); });
   Do(menu_.filmFit, [this] { ShowFilmFit(); });
   Do(menu_.records, [this] { ShowRecords(); });
@@ -144,6 +172,18 @@ void WindowCommands::Open(QAction* action, std::function<QDialog*()> make) {
     QDialog* dialog = make();
     dialog->setAttribute(Qt::WA_DeleteOnClose);
     dialog->open();
+  });
+}
+
+void WindowCommands::OpenBeside(QAction* action, std::function<QDialog*()> make) {
+  Do(action, [make = std::move(make), open = QPointer<QDialog>()]() mutable {
+    if (open == nullptr) {
+      open = make();
+      open->setAttribute(Qt::WA_DeleteOnClose);
+    }
+    open->show();
+    open->raise();
+    open->activateWindow();
   });
 }
 

@@ -4,6 +4,7 @@
 #include <QObject>
 #include <QPointer>
 #include <functional>
+#include <vector>
 
 #include "app/file_opener.h"
 #include "app/main_menu.h"
@@ -34,6 +35,8 @@ struct WindowParts {
   ProgramPreferences& preferences;
   MessageService& messages;
   FileDialogs& dialogs;
+  /// Has the graph show the mean and spread of these slots as well.
+  std::function<void(const std::vector<int>&)> showSpread;
   std::function<int()> selectedSlot;  ///< the slot (1..10) that is shown; 0 for none
 };
 
@@ -63,6 +66,8 @@ class WindowCommands : public QObject {
   void ConnectLanguages();
   void Do(QAction* action, std::function<void()> run);
   void Open(QAction* action, std::function<QDialog*()> make);
+  /// Likewise a window that is kept beside the main one; an open one is brought to the front.
+  void OpenBeside(QAction* action, std::function<QDialog*()> make);
   QCoro::Task<> TakeOverController();
   void Print();
   void KeepLanguage(const QString& code);
@@ -83,6 +88,7 @@ class WindowCommands : public QObject {
   ProgramPreferences& preferences_;
   MessageService& messages_;
   FileDialogs& dialogs_;
+  std::function<void(const std::vector<int>&)> showSpread_;
   std::function<int()> selectedSlot_;
   QWidget& window_;
   FileOpener files_;

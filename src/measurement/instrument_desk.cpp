@@ -108,6 +108,13 @@ QCoro::Task<> InstrumentDesk::MeasureSample(int slotNumber) {
       co_return;
     }
   }
+  co_await MeasureSampleOver(slotNumber);
+}
+
+QCoro::Task<> InstrumentDesk::MeasureSampleOver(int slotNumber) {
+  if (session_.State().Slot(slotNumber) == nullptr || !IsIdle()) {
+    co_return;
+  }
   const MeasurementOutcome outcome = co_await sequence_.MeasureSample(slotNumber);
   Tell(outcome, messages_);
 }

@@ -48,6 +48,8 @@ class InstrumentDesk : public QObject {
   QCoro::Task<> MeasureReference();
   /// Asks before a measured slot is measured over.
   QCoro::Task<> MeasureSample(int slot);
+  /// Likewise without a question: for who measures one lens again and again.
+  QCoro::Task<> MeasureSampleOver(int slot);
   /// Any of the three for who shows by itself how it ended: nothing is told, a measured slot
   /// (1..10, of a sample) is measured over, and the number is the sample's. Watching ends for it.
   QCoro::Task<MeasurementOutcome> Measure(MeasurementKind kind, int slot, QString sampleNumber);

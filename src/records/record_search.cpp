@@ -5,9 +5,8 @@
 #include <QStringList>
 #include <utility>
 
-#include "records/result_json.h"
-
 #include "records/record_source.h"
+#include "records/result_json.h"
 
 namespace vexa {
 namespace {

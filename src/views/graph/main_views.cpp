@@ -56,6 +56,11 @@ void MainViews::Show(int selectedSlot) {
   strip_->setVisible(view.graph != nullptr && state_.display.showCursor);
 }
 
+void MainViews::ShowSpread(const std::vector<int>& slotNumbers, int selectedSlot) {
+  spread_ = slotNumbers;
+  Show(selectedSlot);
+}
+
 void MainViews::MoveCursor(int nm) {
   if (SpectrumGraph* graph = views_[current_].graph) {
     graph->MoveCursor(nm);
@@ -97,6 +102,7 @@ MainViews::ShownView MainViews::ReflectanceView(const ViewEntry& entry) {
   view.show = [this, graph](int slot) {
     graph->Show(state_, slot);
     graph->ShowBand(ReflectanceBand(state_.standard));
+    graph->ShowSpread(state_, spread_);
   };
   return view;
 }

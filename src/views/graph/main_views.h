@@ -5,6 +5,7 @@
 #include <array>
 #include <functional>
 #include <memory>
+#include <vector>
 
 #include "base/message.h"
 #include "measurement/vexatype.h"
@@ -40,6 +41,9 @@ class MainViews : public QWidget {
 
   /// 0..6, in the order of the view menu.
   [[nodiscard]] int CurrentView() const { return static_cast<int>(current_); }
+
+  /// The slots whose mean and spread the reflectance graphs show as well; empty: none.
+  void ShowSpread(const std::vector<int>& slotNumbers, int selectedSlot);
 
   void MoveCursor(int nm);
   [[nodiscard]] int CursorNm() const { return cursorNm_; }
@@ -77,6 +81,7 @@ class MainViews : public QWidget {
   int cursorNm_ = 550;
   bool cieOffered_ = false;
   ColourKind diagramKind_ = ColourKind::kInstrument;
+  std::vector<int> spread_;  ///< slots
 };
 
 }  // namespace vexa

@@ -4,9 +4,11 @@
 #include <algorithm>
 
 #include "base/translation.h"
+#include "statistics/spectrum_statistics.h"
 #include "views/common/axis_scale.h"
 #include "views/graph/band_drawing.h"
 #include "views/graph/minimum_mark.h"
+#include "views/graph/spread_drawing.h"
 
 namespace vexa {
 namespace {
@@ -21,7 +23,8 @@ constexpr double kFarLimit = 3.0;
 ReflectanceGraph::ReflectanceGraph(Abscissa abscissa, QWidget* parent)
     : SpectrumGraph(abscissa, Text::tr("反射率 [%]"), parent),
       band_(std::make_unique<BandDrawing>(*this, abscissa)),
-      minimum_(std::make_unique<MinimumMark>(*this, abscissa)) {
+      minimum_(std::make_unique<MinimumMark>(*this, abscissa)),
+      spread_(std::make_unique<SpreadDrawing>(*this, abscissa)) {
   setObjectName(abscissa == Abscissa::kWavelength ? QStringLiteral("ReflectanceGraph")
                                                   : QStringLiteral("ReciprocalGraph"));
   connect(xAxis, qOverload<const QCPRange&>(&QCPAxis::rangeChanged), this,
@@ -43,6 +46,19 @@ void ReflectanceGraph::Show(const VEXATYPE& state, int selectedSlot) {
 
 void ReflectanceGraph::ShowBand(const std::vector<std::vector<BandPoint>>& band) {
   band_->Show(band);
+  RefreshFullView();
+}
+
+void ReflectanceGraph::ShowSpread(const VEXATYPE& state, const std::vector<int>& slotNumbers) {
+  std::vector<ReflectanceSpectrum> spectra;
+  spectra.reserve(slotNumbers.size());
+  for (const int number : slotNumbers) {
+    if (const MeasurementSlot* slot = state.Slot(number); slot != nullptr && slot->valid) {
+      spectra.push_back(slot->reflectance);
+    }
+  }
+  const auto spread = statistics::ComputeSpectrumStatistics(spectra);
+  spread_->Show(spread ? &*spread : nullptr);
   RefreshFullView();
 }
 

@@ -12,6 +12,7 @@ namespace vexa {
 
 class BandDrawing;
 class MinimumMark;
+class SpreadDrawing;
 
 /// The reflectance of all valid slots, the limits of the standard behind them, and a mark at the
 /// minimum of the selected slot when the settings want it.
@@ -27,6 +28,10 @@ class ReflectanceGraph : public SpectrumGraph {
   /// Draws the limits of the reflectance behind the curves; an empty list takes them away.
   void ShowBand(const std::vector<std::vector<BandPoint>>& band);
 
+  /// Draws mean, standard deviation and envelope of the valid ones of these slots; nothing of fewer
+  /// than two.
+  void ShowSpread(const VEXATYPE& state, const std::vector<int>& slotNumbers);
+
  protected:
   /// By the settings, or from 0 to the next round number above all curves, and above the limits
   /// unless these are far above the curves.
@@ -38,6 +43,7 @@ class ReflectanceGraph : public SpectrumGraph {
 
   std::unique_ptr<BandDrawing> band_;
   std::unique_ptr<MinimumMark> minimum_;
+  std::unique_ptr<SpreadDrawing> spread_;
   std::optional<ReflectanceSpectrum> marked_;
 };
 

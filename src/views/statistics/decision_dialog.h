@@ -1,0 +1,34 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <QDialog>
+#include <QFormLayout>
+#include <QLineEdit>
+
+namespace vexa {
+
+/// Asks who decides, and why. It cannot be accepted without a reason.
+class DecisionDialog : public QDialog {
+  Q_OBJECT
+
+ public:
+  /// `question` says what is decided.
+  DecisionDialog(const QString& title, const QString& question, const QString& operatorName,
+                 QWidget* parent = nullptr);
+
+  [[nodiscard]] QString Operator() const { return operator_->text().trimmed(); }
+  [[nodiscard]] QString Reason() const { return reason_->text().trimmed(); }
+
+  [[nodiscard]] QSize sizeHint() const override;
+
+ protected:
+  /// The fields, for those of a derived dialog.
+  [[nodiscard]] QFormLayout& Form() { return *form_; }
+
+ private:
+  QFormLayout* form_;
+  QLineEdit* operator_;
+  QLineEdit* reason_;
+};
+
+}  // namespace vexa

@@ -1,0 +1,386 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "views/statistics/gauge_study_window.h"
+
+#include <QComboBox>
+#include <QFormLayout>
+#include <QGroupBox>
+#include <QHBoxLayout>
+#include <QPointer>
+#include <QPushButton>
+#include <QRandomGenerator>
+#include <QRegularExpression>
+#include <QSpinBox>
+#include <QTabWidget>
+#include <QTableWidget>
+#include <QVBoxLayout>
+#include <utility>
+
+#include "base/date_text.h"
+#include "base/translation.h"
+#include "records/daily_check_events.h"
+#include "views/common/dialog_buttons.h"
+#include "views/common/number_field.h"
+#include "views/common/plot_export.h"
+#include "views/common/scroll_body.h"
+#include "views/common/theme.h"
+#include "views/paper/plot_drawing.h"
+#include "views/statistics/component_plot.h"
+#include "views/statistics/gauge_result.h"
+#include "views/statistics/series_filter.h"
+
+namespace vexa {
+namespace {
+
+const QString kFileName = QStringLiteral("gauge-study");
+const QString kRecipe = QStringLiteral("gauge-study");  // of the records of its measurements
+
+QSpinBox* CountField(const char* name, int least, int most, int value) {
+  auto* field = new QSpinBox;
+  field->setObjectName(QLatin1String(name));
+  field->setLocale(QLocale::c());
+  field->setRange(least, most);
+  field->setValue(value);
+  return field;
+}
+
+QLabel* WrappedLabel(const char* name) {
+  auto* label = new QLabel;
+  label->setObjectName(QLatin1String(name));
+  label->setWordWrap(true);
+  return label;
+}
+
+void Colour(QLabel& label, const QColor& colour) {
+  QPalette palette = label.palette();
+  palette.setColor(QPalette::WindowText, colour);
+  label.setPalette(palette);
+}
+
+QString StudyText(const GaugeSession& study) {
+  return QStringLiteral("%1  %2  (%3/%4)")
+      .arg(study.plan.name, DateTimeText(study.plan.begun))
+      .arg(study.Done())
+      .arg(study.order.size());
+}
+
+}  // namespace
+
+GaugeStudyWindow::GaugeStudyWindow(const Parts& parts, QWidget* parent)
+    : QDialog(parent),
+      parts_(parts),
+      state_(parts.session.State()),
+      choice_(new QComboBox),
+      name_(new QLineEdit),
+      value_(new ValueChoice),
+      partCount_(CountField("Parts", 2, GaugePlan::kMostParts, 10)),
+      operators_(new QLineEdit),
+      repeats_(CountField("Repeats", 2, GaugePlan::kMostRepeats, 3)),
+      toleranceField_(new NumberField(QStringLiteral("0.######"))),
+      refusal_(WrappedLabel("PlanRefusal")),
+      instruction_(WrappedLabel("GaugeInstruction")),
+      measure_(DialogButton("MeasureGauge", Text::tr("測定(&M)"))),
+      filter_(new SeriesFilter(parts.session.Now().date())),
+      grade_(WrappedLabel("GaugeGrade")),
+      variance_(MakeResultView("Variance")),
+      components_(MakeResultView("ComponentTable")),
+      plot_(new ComponentPlot) {
+  setObjectName(QStringLiteral("GaugeStudyWindow"));
+  setWindowTitle(Text::tr("測定システム解析"));
+  setWindowFlag(Qt::WindowMaximizeButtonHint);
+  AddExport(*plot_, parts_.messages, parts_.dialogs, [] { return kFileName; });
+  QPushButton* print = DialogButton("PrintGauge", Text::tr("印刷(&P)"));
+  QPushButton* save = DialogButton("SaveGauge", Text::tr("保存(&S)"));
+  QPushButton* closeButton = DialogButton("CloseGauge", Text::tr("閉じる"));
+  auto* bottom = new QHBoxLayout;
+  bottom->addWidget(print);
+  bottom->addWidget(save);
+  bottom->addStretch();
+  bottom->addWidget(closeButton);
+  auto* top = new QHBoxLayout;
+  top->addWidget(BuildPlan());
+  top->addWidget(BuildResult(), 1);
+  auto* layout = new QVBoxLayout(this);
+  layout->setContentsMargins(12, 10, 12, 10);
+  layout->addLayout(top, 1);
+  layout->addLayout(bottom);
+  resize(960, 560);
+
+  connect(choice_, &QComboBox::activated, this, &GaugeStudyWindow::ChooseStudy);
+  connect(measure_, &QPushButton::clicked, this, [this] { MeasureNext(); });
+  connect(print, &QPushButton::clicked, this, &GaugeStudyWindow::Print);
+  connect(save, &QPushButton::clicked, this, &GaugeStudyWindow::Save);
+  connect(closeButton, &QPushButton::clicked, this, &QDialog::close);
+  connect(&parts_.desk, &InstrumentDesk::ActivityChanged, this, &GaugeStudyWindow::ShowProgress);
+  connect(&parts_.session, &Session::SampleStored, this, [this] { measured_ = true; });
+  LoadStudies({});
+}
+
+QWidget* GaugeStudyWindow::BuildPlan() {
+  choice_->setObjectName(QStringLiteral("StudyChoice"));
+  name_->setObjectName(QStringLiteral("StudyName"));
+  operators_->setObjectName(QStringLiteral("Operators"));
+  operators_->setPlaceholderText(Text::tr("A, B, C"));
+  toleranceField_->setObjectName(QStringLiteral("Tolerance"));
+  toleranceField_->setPlaceholderText(Text::tr("なし"));
+  Colour(*refusal_, theme::kBad);
+  refusal_->hide();
+  QPushButton* make = DialogButton("MakePlan", Text::tr("計画を作る(&N)"));
+  QPushButton* analyse = DialogButton("AnalyseRecords", Text::tr("記録を解析(&A)"));
+  connect(make, &QPushButton::clicked, this, &GaugeStudyWindow::MakePlan);
+  connect(analyse, &QPushButton::clicked, this, &GaugeStudyWindow::AnalyseRecords);
+
+  auto* plan = new QGroupBox(Text::tr("計画"));
+  auto* form = new QFormLayout(plan);
+  form->addRow(Text::tr("解析"), choice_);
+  form->addRow(Text::tr("名前"), name_);
+  form->addRow(Text::tr("値"), value_);
+  form->addRow(Text::tr("部品の数"), partCount_);
+  form->addRow(Text::tr("測定者"), operators_);
+  form->addRow(Text::tr("繰返し"), repeats_);
+  form->addRow(Text::tr("公差の幅"), toleranceField_);
+  form->addRow(refusal_);
+  form->addRow(make);
+  auto* measuring = new QGroupBox(Text::tr("測定"));
+  auto* measures = new QVBoxLayout(measuring);
+  measures->addWidget(instruction_);
+  measures->addWidget(measure_);
+  auto* records = new QGroupBox(Text::tr("記録から"));
+  auto* recorded = new QVBoxLayout(records);
+  recorded->addWidget(filter_);
+  recorded->addWidget(analyse);
+
+  auto* body = new QWidget;
+  auto* layout = new QVBoxLayout(body);
+  layout->setContentsMargins(0, 0, 6, 0);
+  layout->addWidget(plan);
+  layout->addWidget(measuring);
+  layout->addWidget(records);
+  layout->addStretch();
+  auto* scroll = new ScrollBody(body);
+  constexpr int kWidth = 350;
+  scroll->setFixedWidth(kWidth);
+  return scroll;
+}
+
+QWidget* GaugeStudyWindow::BuildResult() {
+  auto* tables = new QTabWidget;
+  tables->setObjectName(QStringLiteral("GaugePages"));
+  tables->addTab(components_, Text::tr("成分"));
+  tables->addTab(variance_, Text::tr("分散分析"));
+  plot_->setMinimumSize(240, 150);
+  auto* result = new QWidget;
+  auto* layout = new QVBoxLayout(result);
+  layout->setContentsMargins(0, 0, 0, 0);
+  layout->addWidget(grade_);
+  layout->addWidget(plot_, 1);
+  layout->addWidget(tables, 1);
+  return result;
+}
+
+void GaugeStudyWindow::LoadStudies(const QString& id) {
+  Answer<std::vector<GaugeSession>> loaded =
+      LoadGaugeSessions(parts_.storePath, parts_.recorder.Context().station);
+  studies_ = std::move(loaded.value);
+  choice_->clear();
+  choice_->addItem(Text::tr("新しい解析"));
+  for (const GaugeSession& study : studies_) {
+    choice_->addItem(StudyText(study), study.plan.id);
+    if (study.plan.id == id) {
+      choice_->setCurrentIndex(choice_->count() - 1);
+    }
+  }
+  ChooseStudy();
+  if (!loaded) {
+    ClearResult(StoreFaultText(loaded.fault));
+  }
+}
+
+void GaugeStudyWindow::ChooseStudy() {
+  const int index = choice_->currentIndex() - 1;
+  study_ = index >= 0 ? std::optional(studies_[static_cast<std::size_t>(index)]) : std::nullopt;
+  ClearResult({});
+  if (study_ && !study_->Next()) {
+    value_->SetValue(study_->plan.value);
+    Analyse(ReadingsOf(*study_), study_->plan.tolerance);
+  }
+  ShowProgress();
+}
+
+void GaugeStudyWindow::MakePlan() {
+  GaugePlan plan;
+  plan.begun = parts_.session.Now();
+  plan.name = name_->text().trimmed();
+  plan.value = value_->Value();
+  plan.parts = partCount_->value();
+  for (const QString& name :
+       operators_->text().split(QRegularExpression(QStringLiteral("[,、]")), Qt::SkipEmptyParts)) {
+    plan.operators << name.trimmed();
+  }
+  plan.repeats = repeats_->value();
+  plan.tolerance = toleranceField_->Value();
+  plan.seed = QRandomGenerator::system()->generate();
+  QString refused;
+  if (!plan.IsValid()) {
+    refused = Text::tr("測定者は、違う名前で2人以上10人以下をコンマで区切って入力してください。");
+  } else if (!toleranceField_->text().trimmed().isEmpty() &&
+             !(plan.tolerance && *plan.tolerance > 0.0)) {
+    refused = Text::tr("公差の幅は0より大きい数です。");
+  }
+  refusal_->setText(refused);
+  refusal_->setVisible(!refused.isEmpty());
+  QString id;
+  if (refused.isEmpty() && Keep(PlanEvent(plan, parts_.recorder.Context().station), &id)) {
+    LoadStudies(id);
+  }
+}
+
+void GaugeStudyWindow::ShowProgress() {
+  const std::optional<std::size_t> next = study_ ? study_->Next() : std::nullopt;
+  if (!study_) {
+    instruction_->setText(Text::tr("計画を作るか、続ける解析を選んでください。"));
+  } else if (!next) {
+    instruction_->setText(Text::tr("すべて測定しました。"));
+  } else {
+    const GaugeTask& task = study_->order[*next];
+    instruction_->setText(Text::tr("%1/%2  測定者 %3: 部品 %4 を置いて「測定」を押してください。"
+                                   "結果は最後まで示しません。")
+                              .arg(*next + 1)
+                              .arg(study_->order.size())
+                              .arg(study_->plan.operators[task.gaugeOperator])
+                              .arg(task.part + 1));
+  }
+  measure_->setEnabled(next && !busy_ && parts_.desk.IsIdle() && parts_.desk.IsReady());
+  choice_->setEnabled(!busy_);
+}
+
+QCoro::Task<> GaugeStudyWindow::MeasureNext() {
+  const std::optional<std::size_t> place = study_ ? study_->Next() : std::nullopt;
+  if (!place || busy_ || !parts_.desk.IsIdle()) {
+    co_return;
+  }
+  const QPointer<GaugeStudyWindow> self(this);
+  busy_ = true;
+  measured_ = false;
+  SessionRecorder& recorder = parts_.recorder;
+  const RecordContext before = recorder.Context();
+  RecordContext context = before;
+  const GaugeTask task = study_->order[*place];
+  context.lot = study_->plan.name;
+  context.recipe = kRecipe;
+  context.operatorName = study_->plan.operators[task.gaugeOperator];
+  recorder.SetContext(context);
+  constexpr int kSlot = kSlotCount;
+  if (std::exchange(asked_, true)) {
+    co_await parts_.desk.MeasureSampleOver(kSlot);
+  } else {
+    co_await parts_.desk.MeasureSample(kSlot);
+  }
+  recorder.SetContext(before);
+  if (self == nullptr) {
+    co_return;
+  }
+  busy_ = false;
+  asked_ = measured_;
+  if (measured_ && KeepReading(kSlot, *place) && !study_->Next()) {
+    LoadStudies(study_->plan.id);
+  }
+  ShowProgress();
+}
+
+bool GaugeStudyWindow::KeepReading(int slot, std::size_t place) {
+  const SampleRecord sample = ResultsOf(state_, *state_.Slot(slot), parts_.recorder.Context());
+  const std::optional<double> value = ValueOf(sample, study_->plan.value);
+  if (!value) {
+    ClearResult(Text::tr("この試料には解析する値がありません。測り直してください。"));
+    return false;
+  }
+  if (!Keep(ReadingEvent(study_->plan, place, *value, parts_.session.Now(),
+                         parts_.recorder.Context().station))) {
+    return false;
+  }
+  study_->values[place] = *value;
+  return true;
+}
+
+void GaugeStudyWindow::AnalyseRecords() {
+  RecordStore store;
+  constexpr int kMostRecords = 10000;
+  StoreFault fault = store.Open(parts_.storePath, RecordStore::Mode::kRead);
+  Answer<ValueSeries> series;
+  if (fault == StoreFault::kNone) {
+    series = LoadSeries(store, filter_->Query(kMostRecords), value_->Value());
+    fault = series.fault;
+  }
+  if (fault != StoreFault::kNone) {
+    ClearResult(StoreFaultText(fault));
+    return;
+  }
+  const std::optional<double> tolerance = toleranceField_->Value();
+  Analyse(ReadingsOf(series.value), tolerance && *tolerance > 0.0 ? tolerance : std::nullopt);
+}
+
+void GaugeStudyWindow::Analyse(const GaugeReadings& readings, std::optional<double> tolerance) {
+  const auto result = statistics::AnalyseGauge(readings.readings, tolerance);
+  if (!result) {
+    ClearResult(statistics::RefusalText(result.Why()));
+    return;
+  }
+  readings_ = readings;
+  result_ = *result;
+  tolerance_ = tolerance;
+  grade_->setText(GradeText(*result));
+  Colour(*grade_, GradeOf(*result) == GaugeGrade::kPoor   ? theme::kBad
+                  : GradeOf(*result) == GaugeGrade::kGood ? theme::kGood
+                                                          : theme::kText);
+  ShowResults(*variance_, VarianceTable(*result));
+  ShowResults(*components_, ComponentTable(*result, tolerance));
+  plot_->Show(*result, tolerance);
+}
+
+void GaugeStudyWindow::ClearResult(const QString& why) {
+  result_.reset();
+  readings_ = {};
+  grade_->setText(why);
+  Colour(*grade_, theme::kBad);
+  variance_->setRowCount(0);
+  components_->setRowCount(0);
+  plot_->Clear();
+}
+
+bool GaugeStudyWindow::Keep(const EventRecord& event, QString* id) {
+  const Answer<QString> kept = KeepEvent(parts_.storePath, event);
+  if (!kept) {
+    parts_.messages.Tell({Message::kWriteError, {parts_.storePath, StoreFaultText(kept.fault)}});
+  } else if (id != nullptr) {
+    *id = kept.value;
+  }
+  return static_cast<bool>(kept);
+}
+
+void GaugeStudyWindow::Print() {
+  constexpr QSize kPlot(960, 380);
+  if (!result_) {
+    parts_.messages.Tell({Message::kNoValidData});
+    return;
+  }
+  ResultTable about{{}, {Text::tr("項目"), Text::tr("値")}, {}, 2};
+  about.rows = {{Text::tr("値"), ValueTitle(value_->Value())},
+                {Text::tr("部品の数"), QString::number(readings_.parts.size())},
+                {Text::tr("測定者"), readings_.operators.join(QStringLiteral(", "))},
+                {Text::tr("判定"), GradeText(*result_)}};
+  PrintResults(parts_.printer, windowTitle(), {{PlotDrawing(*plot_, kPlot), kPlot}},
+               {about, ComponentTable(*result_, tolerance_), VarianceTable(*result_)});
+}
+
+void GaugeStudyWindow::Save() {
+  QList<QStringList> rows{
+      {QStringLiteral("part"), QStringLiteral("operator"), QStringLiteral("value")}};
+  rows.reserve(static_cast<qsizetype>(readings_.readings.size()) + 1);
+  for (const statistics::GaugeReading& reading : readings_.readings) {
+    rows << QStringList{readings_.parts[reading.part], readings_.operators[reading.gaugeOperator],
+                        FileNumber(reading.value)};
+  }
+  SaveCsv(windowTitle(), kFileName, rows, parts_.messages, parts_.dialogs);
+}
+
+}  // namespace vexa

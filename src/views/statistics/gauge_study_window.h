@@ -1,0 +1,91 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <QCoroTask>
+#include <QDialog>
+#include <QLabel>
+#include <optional>
+
+#include "measurement/instrument_desk.h"
+#include "records/gauge_plan.h"
+#include "records/session_recorder.h"
+#include "views/common/file_dialogs.h"
+
+class QComboBox;
+class QLineEdit;
+class QPushButton;
+class QSpinBox;
+class QTableWidget;
+
+namespace vexa {
+
+class ComponentPlot;
+class CurrentPrinter;
+class NumberField;
+class SeriesFilter;
+class ValueChoice;
+
+/// A gauge study: it makes a plan, leads through its measurements in random order without showing
+/// what they gave, and analyses them; or it analyses records. A study goes on where it was left,
+/// also after the program has ended.
+class GaugeStudyWindow : public QDialog {
+  Q_OBJECT
+
+ public:
+  struct Parts {
+    Session& session;
+    InstrumentDesk& desk;
+    SessionRecorder& recorder;
+    QString storePath;
+    CurrentPrinter& printer;
+    MessageService& messages;
+    FileDialogs& dialogs;
+  };
+
+  explicit GaugeStudyWindow(const Parts& parts, QWidget* parent = nullptr);
+
+ private:
+  QWidget* BuildPlan();
+  QWidget* BuildResult();
+  /// Reads the studies of the store, and chooses the one of this id, or else none.
+  void LoadStudies(const QString& id);
+  void ChooseStudy();
+  void MakePlan();
+  void ShowProgress();
+  QCoro::Task<> MeasureNext();
+  bool KeepReading(int slot, std::size_t place);
+  void AnalyseRecords();
+  void Analyse(const GaugeReadings& readings, std::optional<double> tolerance);
+  void ClearResult(const QString& why);
+  [[nodiscard]] bool Keep(const EventRecord& event, QString* id = nullptr);
+  void Print();
+  void Save();
+
+  Parts parts_;
+  const VEXATYPE& state_;
+  std::vector<GaugeSession> studies_;
+  std::optional<GaugeSession> study_;
+  GaugeReadings readings_;
+  std::optional<statistics::GaugeStudy> result_;
+  std::optional<double> tolerance_;
+  bool measured_ = false;
+  bool busy_ = false;
+  bool asked_ = false;  ///< what the slot held may be measured over
+  QComboBox* choice_;
+  QLineEdit* name_;
+  ValueChoice* value_;
+  QSpinBox* partCount_;
+  QLineEdit* operators_;
+  QSpinBox* repeats_;
+  NumberField* toleranceField_;
+  QLabel* refusal_;
+  QLabel* instruction_;
+  QPushButton* measure_;
+  SeriesFilter* filter_;
+  QLabel* grade_;
+  QTableWidget* variance_;
+  QTableWidget* components_;
+  ComponentPlot* plot_;
+};
+
+}  // namespace vexa

@@ -1,0 +1,57 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <QCheckBox>
+#include <QComboBox>
+#include <QDateEdit>
+#include <QLineEdit>
+#include <QSpinBox>
+#include <QWidget>
+
+#include "records/record_value.h"
+
+namespace vexa {
+
+/// Which value, at which wavelength where it has one.
+class ValueChoice : public QWidget {
+  Q_OBJECT
+
+ public:
+  explicit ValueChoice(QWidget* parent = nullptr);
+
+  [[nodiscard]] RecordValue Value() const;
+  void SetValue(const RecordValue& value);
+
+ signals:
+  void Changed();
+
+ private:
+  QComboBox* quantity_;
+  QSpinBox* nm_;
+};
+
+/// Of which records: recipe, lot, operator, and days. An empty field does not restrict.
+class SeriesFilter : public QWidget {
+  Q_OBJECT
+
+ public:
+  /// `today` is the last day of the range that stands in the fields at first.
+  explicit SeriesFilter(const QDate& today, QWidget* parent = nullptr);
+
+  [[nodiscard]] RecordQuery Query(int limit) const;
+  /// What restricts, for a caption: "ロット A-1   2026/10/01 - 2026/11/22".
+  [[nodiscard]] QString Description() const;
+
+ signals:
+  void Changed();
+
+ private:
+  QLineEdit* recipe_;
+  QLineEdit* lot_;
+  QLineEdit* operator_;
+  QCheckBox* days_;
+  QDateEdit* from_;
+  QDateEdit* to_;
+};
+
+}  // namespace vexa
