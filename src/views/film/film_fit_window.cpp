@@ -94,6 +94,8 @@ FilmFitWindow::FilmFitWindow(Session& session, ProgramPreferences& preferences,
   const auto name = [this] { return ProposedName(state_); };
   AddExport(*plot_, messages_, dialogs_, name);
   AddExport(*fourier_, messages_, dialogs_, name);
+  plot_->setMinimumSize(270, 170);
+  fourier_->setMinimumSize(210, 170);
   auto* plots = new QSplitter(Qt::Horizontal);
   plots->addWidget(Framed(plot_));
   plots->addWidget(Framed(fourier_));
@@ -152,7 +154,7 @@ QWidget* FilmFitWindow::BuildEntries() {
   connect(conditions_, &FilmFitConditions::Edited, this, edited);
   auto* area = new ScrollBody(content);
   area->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-  constexpr int kEntriesWidth = 410;
+  constexpr int kEntriesWidth = 450;
   area->setFixedWidth(kEntriesWidth);
   return area;
 }

@@ -11,8 +11,8 @@
 namespace vexa {
 namespace {
 
-constexpr int kNumberWidth = 68;
-constexpr int kMaterialWidth = 120;
+constexpr int kNumberWidth = 62;
+constexpr int kMaterialWidth = 80;
 constexpr int kNarrowButton = 30;
 constexpr int kKnown = 1;  // of the choice of a thickness
 
@@ -107,6 +107,7 @@ void FilmStackEditor::Show(const FilmStackSetting& setting) {
         i < setting.layers.size() ? setting.layers[i] : FilmLayerSetting();
     const Row& row = rows_.at(i);
     row.material->setText(layer.material);
+    row.material->setCursorPosition(0);
     row.kind->setCurrentIndex(layer.range.IsFixed() ? kKnown : 0);
     row.from->SetValue(layer.range.fromNm);
     row.to->SetValue(layer.range.toNm);
