@@ -1,7 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "views/records/record_details.h"
 
-#include <algorithm>
+#include <array>
+#include <utility>
 
 #include "base/date_text.h"
 #include "base/number_text.h"
