@@ -28,7 +28,7 @@ class LotMeasuring : public test::MainWindowTest {
     contents.standard.averageReflectance = {true, 2.5, 1.0};
     ASSERT_TRUE(WriteStandardFile(Path("ar.std"), contents));
     WriteRecipe({});
-    Start();
+    StartPatient();
     OpenLots();
   }
 
@@ -165,8 +165,8 @@ TEST_F(LotMeasuring, PausesForAFrameThatIsDue) {
 TEST_F(LotMeasuring, TellsAFaultAndKeepsWhatIsTypedMeanwhile) {
   Begin("L1");
   TakeFrames();
-  // The reply to the measurement does not come; what is scanned meanwhile is for later.
-  peer.At(2, test::PeerAction::kSilence);
+  // The measurement is refused; what is scanned meanwhile is for later.
+  peer.At(2, test::PeerAction::kErrorReply);
   QTest::keyClicks(&test::Child<QLineEdit>(*lots, "LotNumber"), QStringLiteral("C-1"));
   Key("LotNumber", Qt::Key_Return);
   QTest::keyClicks(&test::Child<QLineEdit>(*lots, "LotNumber"), QStringLiteral("C-2"));

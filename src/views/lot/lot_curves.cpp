@@ -68,7 +68,9 @@ void LotCurves::Show(const LotContent& lot) {
     }
   }
   ShowBand(ReflectanceBand(lot.standard.standard));
-  ShowCurves(std::move(curves), DisplaySettings());
+  DisplaySettings display;
+  display.showCursor = false;
+  ShowCurves(std::move(curves), display);
 }
 
 }  // namespace vexa

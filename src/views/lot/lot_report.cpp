@@ -72,8 +72,8 @@ PageTable SummaryTable(const LotContent& lot) {
   add(Text::tr("レシピ"), Names(lot, &SampleRecord::recipe));
   add(Text::tr("作業者"), Names(lot, &SampleRecord::operatorName));
   add(Text::tr("測定"), Text::tr("%1 から %2 まで")
-                            .arg(TimeWithOffset(lot.rows.front().sample.measuredAt),
-                                 TimeWithOffset(lot.rows.back().sample.measuredAt)));
+                            .arg(DateTimeText(lot.rows.front().sample.measuredAt),
+                                 DateTimeText(lot.rows.back().sample.measuredAt)));
   add(Text::tr("レンズ"), Text::tr("%1   OK %2   NG %3   判定なし %4")
                               .arg(tally.Lenses().size())
                               .arg(tally.Count(Verdict::kOk))
@@ -163,7 +163,7 @@ PageTable RowTable(const LotContent& lot, const std::vector<LotValue>& values) {
                   .rowHeight = 38.0};
   const std::size_t count = std::min(values.size(), kMostValues);
   for (std::size_t i = 0; i < count; ++i) {
-    table.columns.push_back({values[i].title, 170.0});
+    table.columns.push_back({values[i].title, 290.0});
   }
   table.columns.push_back({Text::tr("備考"), 300.0, Qt::AlignLeft, true});
   table.rows.reserve(lot.rows.size());
