@@ -186,7 +186,8 @@ std::vector<Fitted> FitValid(const VEXATYPE& state, const FilmFitRequest& reques
   for (std::size_t i = 0; i < fits.size(); ++i) {
     if (const auto* fault = std::get_if<FilmFitFault>(&fits[i])) {
       Complain(QStringLiteral("slot %1: %2").arg(fitted[i].number).arg(FilmFitFaultText(*fault)));
-      fitted[i].fit.layers.assign(request.ranges.size(), {kNotANumber, kNotANumber, kNotANumber, kNotANumber, kNotANumber});
+      fitted[i].fit.layers.assign(
+          request.ranges.size(), {kNotANumber, kNotANumber, kNotANumber, kNotANumber, kNotANumber});
     } else {
       fitted[i].fit = std::get<FilmFit>(fits[i]);
     }
