@@ -46,9 +46,6 @@ enum class Message : std::uint8_t {
   kRestoreDamagedSession,  ///< %1 what it holds
   kJournalWriteError,      ///< %1 path
   kRecordStoreFault,       ///< %1 path
-  kRecipeFault,            ///< %1 path, with what is wrong as details
-  kLotWithoutName,
-  kLotWithoutRows,  ///< %1 lot
 
   // Records.
   kRecordSettingsUnreadable,  ///< %1 path
@@ -56,6 +53,11 @@ enum class Message : std::uint8_t {
   kRecordNotWritten,          ///< %1 why
   kSupersededAlready,
   kTooManyForDataFile,
+
+  // Lots.
+  kRecipeFault,  ///< %1 path, with what is wrong as details
+  kLotWithoutName,
+  kLotWithoutRows,  ///< %1 lot
 
   // Controller and measurement.
   kControllerFailed,    ///< with the port's diagnosis as details

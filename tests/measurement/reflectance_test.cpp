@@ -42,7 +42,9 @@ TEST(ReflectanceNoise, IsToldByTheFramesUpToAFactor) {
   state.reference = frame(1.0, 4.0);
   state.backgroundTaken.averagingCount = 1;
   state.referenceTaken.averagingCount = 4;
-  const ReflectanceSpectrum noise = ReflectanceNoise(state, frame(0.25, 16.0), {{}, 0, 16, 0});
+  SampleBasis basis{{}, state.referenceReflectance};
+  basis.conditions.frame.averagingCount = 16;
+  const ReflectanceSpectrum noise = ReflectanceNoise(state, frame(0.25, 16.0), basis);
   const auto truth = [&](int nm) {
     return std::sqrt(variance(50.0 + 0.25 * light(nm)) / 16.0 + variance(50.0 + light(nm)) / 64.0 +
                      0.5625 * variance(50.0)) /

@@ -113,41 +113,6 @@ TEST_F(Store, KeepsTheCieColourAndItsVerdict) {
   EXPECT_EQ(VerdictOf(keep({})), Verdict::kNone);
 }
 
-TEST_F(Store, KeepsTheCieColourAndItsVerdict) {
-  VEXATYPE state = MeasuredState();
-  state.colour.illuminant = 4;
-  state.colour.observer2Deg = false;
-  state.Slot(1)->reflectance = test::Flat(18.0);
-  state.Slot(1)->judgement.groups[0] = {true, 0.5};
-  const auto keep = [&state](const CieLimits& limits) {
-    return *ToSample(
-        MeasuredSampleOf(state, 1, With<Context>(&Context::cieLimits, limits))->Rows().last());
-  };
-  const SampleRecord plain = keep({});
-  EXPECT_EQ((*plain.cie)[QLatin1String("observer")], 10);
-  EXPECT_EQ((*plain.cie)[QLatin1String("illuminant")], QLatin1String("D65"));
-  EXPECT_NEAR((*plain.cie)[QLatin1String("Rv")].toDouble(), 18.0, 1e-9);
-  EXPECT_TRUE((*plain.cie)[QLatin1String("h")].isNull()) << "a grey has no hue";
-  EXPECT_EQ(VerdictOf(plain), Verdict::kOk);
-
-  CieLimits limits;
-  limits.luminousReflectance = {true, 20.0, 17.0};
-  EXPECT_EQ(VerdictOf(keep(limits)), Verdict::kOk);
-  limits.deltaE00 = {true, 1.0, 0.0};
-  limits.target = {50.0, 0.0, 0.0};
-  limits.hueAngle = {true, 20.0, 340.0};
-  const SampleRecord judged = keep(limits);
-  EXPECT_EQ(VerdictOf(judged), Verdict::kNotGood) << "the standard alone says OK";
-  EXPECT_EQ(judged.cieLimits, limits);
-  EXPECT_NEAR(*judged.cieGroups[0].margin, 1.0, 1e-9);
-  EXPECT_EQ(judged.cieGroups[5].passed, false);
-  EXPECT_FALSE(judged.cieGroups[5].margin);
-  EXPECT_EQ(judged.cieGroups[6].passed, true) << "18 % is L* 49.5";
-  EXPECT_FALSE(judged.cieGroups[1].passed) << "not asked for";
-  state.Slot(1)->judgement.groups[0] = {};
-  EXPECT_EQ(VerdictOf(keep({})), Verdict::kNone);
-}
-
 TEST_F(Store, FramesAndSettingsAreKeptOnce) {
   VEXATYPE state = MeasuredState();
   ASSERT_TRUE(store.Append(MeasuredSampleOf(state, 1, {})->Rows()));

@@ -114,7 +114,7 @@ TEST_F(FilmFitting, RefusesABadEntryAndPutsTheFocusOnIt) {
     Press("FitAll");
     const Shown shown = messages.Take();
     ASSERT_EQ(shown.size(), 1U) << c.field << ' ' << c.entry;
-    EXPECT_EQ(shown[0].call->id, Message::kFilmFitRefused);
+    EXPECT_EQ(shown[0].id, Message::kFilmFitRefused);
     EXPECT_EQ(window.focusWidget(), &Find<QLineEdit>(c.field)) << c.entry;
     EXPECT_TRUE(window.IsDone()) << "nothing is fitted";
     Enter(c.field, c.good);
@@ -150,7 +150,7 @@ TEST_F(FilmFitting, TheStackIsKeptInAFileThatTheSettingsName) {
   files.Write("bad.flm", "{}");
   dialogs.open = files.Path("bad.flm");
   Press("OpenStack");
-  EXPECT_EQ(messages.Take().at(0).call->id, Message::kFilmStackFault);
+  EXPECT_EQ(messages.Take().at(0).id, Message::kFilmStackFault);
   EXPECT_EQ(preferences.InForce().filmStack, files.Path("膜.flm"));
 }
 
@@ -175,7 +175,7 @@ TEST_F(FilmFitting, FollowsEachMeasurementWhereAsked) {
   for (int nm = ReflectanceSpectrum::kFirstNm; nm <= ReflectanceSpectrum::kLastNm; ++nm) {
     counts[nm] = coat[nm] * 1250.0;
   }
-  session.StoreSample(5, counts, session.ConditionsNow());
+  session.StoreSample(5, counts, session.BasisNow());
   EXPECT_NEAR(Fitted(5), 2500.0, 0.5);
   ASSERT_EQ(state.thicknessHistory.count, 1);
   EXPECT_TRUE(state.thicknessHistory.notes[0].fitted);
@@ -184,7 +184,7 @@ TEST_F(FilmFitting, FollowsEachMeasurementWhereAsked) {
   EXPECT_TRUE(Child<QLabel>(panel, "FittedThickness").text().startsWith(QStringLiteral("2500.")));
 
   each.click();
-  session.StoreSample(5, counts, session.ConditionsNow());
+  session.StoreSample(5, counts, session.BasisNow());
   EXPECT_FALSE(state.Slot(5)->fit);
 }
 

@@ -132,10 +132,11 @@ void LotStartPage::AddRecipe(const QString& path) {
   recipes_->addItem(recipe == nullptr ? QFileInfo(path).fileName() : recipe->name, path);
 }
 
-void LotStartPage::Browse() {
-  const auto path = dialogs_.AskOpen(Text::tr("レシピを開く"), Text::tr("レシピ(*.json)|*.json|"));
+QCoro::Task<> LotStartPage::Browse() {
+  const std::optional<QString> path =
+      co_await dialogs_.AskOpen(Text::tr("レシピを開く"), Text::tr("レシピ(*.json)|*.json|"));
   if (!path) {
-    return;
+    co_return;
   }
   if (recipes_->findData(*path) < 0) {
     AddRecipe(*path);

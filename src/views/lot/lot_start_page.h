@@ -2,6 +2,7 @@
 #pragma once
 
 #include <QComboBox>
+#include <QCoroTask>
 #include <QLabel>
 #include <QLineEdit>
 #include <QWidget>
@@ -33,7 +34,7 @@ class LotStartPage : public QWidget {
  private:
   void FillRecipes(const QString& programDirectory);
   void AddRecipe(const QString& path);
-  void Browse();
+  QCoro::Task<> Browse();
   void ShowRecipe();
 
   FileDialogs& dialogs_;

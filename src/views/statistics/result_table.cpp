@@ -107,8 +107,8 @@ QCoro::Task<bool> PrintResults(CurrentPrinter& printer, QString title,
 QCoro::Task<> SaveCsv(QString title, QString proposed, QList<QStringList> rows,
                       MessageService& messages, FileDialogs& dialogs) {
   const QString ending = QStringLiteral(".csv");
-  const std::optional<SaveChoice> choice =
-      dialogs.AskSave(title, QStringLiteral("CSV(*.csv)|*.csv"), WithExtension(proposed, ending));
+  const std::optional<SaveChoice> choice = co_await dialogs.AskSave(
+      title, QStringLiteral("CSV(*.csv)|*.csv"), WithExtension(proposed, ending));
   if (!choice) {
     co_return;
   }
