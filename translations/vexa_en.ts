@@ -4321,5 +4321,20 @@ Repeats: %4   Background: %5   Reference: %6</translation>
         <source>一つのレンズの %1 回の測定</source>
         <translation>%1 measurements of one lens</translation>
     </message>
+    <message>
+        <source>膜厚ﾌｨｯﾄ</source>
+        <comment>kind</comment>
+        <translation>fit</translation>
+    </message>
+    <message>
+        <source>物理膜厚</source>
+        <comment>kind</comment>
+        <translation>physical</translation>
+    </message>
+    <message>
+        <source>光学膜厚</source>
+        <comment>kind</comment>
+        <translation>optical</translation>
+    </message>
 </context>
 </TS>

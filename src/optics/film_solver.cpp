@@ -204,7 +204,9 @@ void FilmSolver::WeighByResiduals(std::span<const double> residuals) {
     const auto high = std::min<std::ptrdiff_t>(i + kNoiseReachNm, last);
     const double local = Rms(
         residuals.subspan(static_cast<std::size_t>(low), static_cast<std::size_t>(high - low + 1)));
-    rootWeights_[static_cast<std::size_t>(i)] = local > 0.0 ? 1.0 / local : 1.0;
+    // No instrument is quieter; a computed spectrum may leave nothing at all.
+    constexpr double kLeastNoise = 1e-6;
+    rootWeights_[static_cast<std::size_t>(i)] = 1.0 / std::max(local, kLeastNoise);
   }
 }
 

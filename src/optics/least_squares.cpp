@@ -79,8 +79,10 @@ std::optional<LeastSquaresResult> SolveLeastSquares(const LeastSquaresProblem& p
   const int status =
       gsl_multifit_nlinear_driver(static_cast<std::size_t>(limits.iterations), limits.step,
                                   limits.gradient, 0.0, nullptr, nullptr, &reason, workspace.get());
-  // No further progress means that the minimum is reached as nearly as rounding lets it.
-  if (status != GSL_SUCCESS && status != GSL_ENOPROG) {
+  // No further progress means that the minimum is reached as nearly as rounding lets it; with the
+  // first step already, that the start was the minimum.
+  const bool atStart = status == GSL_EMAXITER && reason == GSL_ENOPROG;
+  if (status != GSL_SUCCESS && status != GSL_ENOPROG && !atStart) {
     return std::nullopt;
   }
   const gsl_vector* residuals = gsl_multifit_nlinear_residual(workspace.get());

@@ -38,6 +38,7 @@ std::vector<std::string> ScriptedPeer::TakeFrames() {
 }
 
 void ScriptedPeer::Send(const QByteArray& bytes) {
+  timesDue_.clear();  // numbers of timers come again
   unsent_ += bytes;
   WritePending();
 }

@@ -87,7 +87,7 @@ FilmFitResults::FilmFitResults(QWidget* parent)
   table_->setColumnCount(static_cast<int>(Headings().size()));
   table_->setHorizontalHeaderLabels(Headings());
   table_->horizontalHeader()->setSectionResizeMode(QHeaderView::ResizeToContents);
-  table_->horizontalHeader()->setSectionResizeMode(1, QHeaderView::Stretch);
+  table_->horizontalHeader()->setStretchLastSection(true);
   table_->horizontalHeader()->setHighlightSections(false);
   outcome_->setObjectName(QStringLiteral("FitOutcome"));
   outcome_->setWordWrap(true);

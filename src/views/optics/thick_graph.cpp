@@ -248,9 +248,9 @@ void ThickGraph::ShowHistory() {
   thickness_->setText(cursor_ > 0 ? FormatNumber(history.values[place], u"###0.0") : kNothing);
   const HistoryNote note = cursor_ > 0 ? history.notes[place] : HistoryNote();
   kind_->setText(cursor_ == 0       ? kNothing
-                 : note.fitted      ? Text::tr("膜厚ﾌｨｯﾄ")
-                 : history.physical ? Text::tr("物理膜厚")
-                                    : Text::tr("光学膜厚"));
+                 : note.fitted      ? Text::tr("膜厚ﾌｨｯﾄ", "kind")
+                 : history.physical ? Text::tr("物理膜厚", "kind")
+                                    : Text::tr("光学膜厚", "kind"));
   fit_->setText(note.fitNm > 0.0 ? FormatNumber(note.fitNm, u"###0.0") : kNothing);
   doubt_->setPixmap(note.doubtful ? DoubtMark() : QPixmap());
 }

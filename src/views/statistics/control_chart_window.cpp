@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "views/statistics/control_chart_window.h"
 
+#include <QTabBar>
 #include <QApplication>
 #include <QComboBox>
 #include <QFormLayout>
@@ -143,7 +144,7 @@ QWidget* ControlChartWindow::BuildPages() {
   pages_->addTab(signals_, Text::tr("異常"));
   pages_->addTab(groups_, Text::tr("群"));
   pages_->addTab(record_, Text::tr("記録"));
-  pages_->setMinimumWidth(360);
+  pages_->setMinimumWidth(std::max(360, pages_->tabBar()->sizeHint().width()));
   return pages_;
 }
 
