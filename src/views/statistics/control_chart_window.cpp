@@ -1,13 +1,13 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "views/statistics/control_chart_window.h"
 
-#include <QTabBar>
 #include <QApplication>
 #include <QComboBox>
 #include <QFormLayout>
 #include <QHBoxLayout>
 #include <QPushButton>
 #include <QSpinBox>
+#include <QTabBar>
 #include <QTableWidget>
 #include <QVBoxLayout>
 
