@@ -16,22 +16,11 @@
 #include "files/film_stack_start.h"
 #include "files/startup_file.h"
 #include "measurement/dispersion_data.h"
-#include "records/record_settings.h"
 #include "views/common/file_questions.h"
 #include "views/files/environment_commands.h"
 #include "views/standards/standard_files.h"
 
 namespace vexa {
-namespace {
-
-// What the records of the window tell beside its state.
-RecordContext ContextOf(const RecordSettings& settings) {
-  RecordContext context;
-  context.station = settings.station;
-  return context;
-}
-
-}  // namespace
 
 VEXA::VEXA(Services services, const QString& programDirectory)
     : services_(std::move(services)),
@@ -39,16 +28,15 @@ VEXA::VEXA(Services services, const QString& programDirectory)
       session_(programDirectory, services_.clock),
       desk_(session_, services_.messages, services_.makeController),
       journal_(session_, services_.messages),
-      recordSettings_(ReadRecordSettings(programDirectory).value_or(UsualRecordSettings())),
-      recorder_(session_, RecordStorePath(programDirectory), ContextOf(recordSettings_)),
+      records_(session_, services_.messages),
       preferences_(programDirectory),
       menu_(BuildMenu(*menuBar())),
       panels_(new MainPanels(session_, desk_, services_.messages, services_.dialogs)),
       status_(new StatusPanels),
       commands_(new WindowCommands(
           menu_,
-          {session_, desk_, recorder_, recordSettings_, preferences_, services_.messages,
-           services_.dialogs,
+          {session_, desk_, records_.Recorder(), records_.Settings(), preferences_,
+           services_.messages, services_.dialogs,
            [this](const std::vector<int>& slotNumbers) { panels_->ShowSpread(slotNumbers); },
            [this] { return GetOption(); }},
           *this)) {
@@ -61,7 +49,6 @@ VEXA::VEXA(Services services, const QString& programDirectory)
   const auto showCie = [this] { panels_->ShowCie(preferences_.InForce().showCie); };
   connect(&preferences_, &ProgramPreferences::Changed, this, showCie);
   showCie();
-  StartSharing();
   Refresh();
   ShowAvailable();
 }
@@ -78,10 +65,7 @@ QCoro::Task<> VEXA::Load() {
   Settings settings = session_.SettingsInForce();
   TellAll(LoadConfiguration(settings), services_.messages);
   session_.TakeSettings(settings);
-  if (!ReadRecordSettings(State().programDirectory)) {
-    services_.messages.Tell(
-        {Message::kRecordSettingsUnreadable, {RecordSettingsPath(State().programDirectory)}});
-  }
+  records_.TellOfSettings();
   co_await desk_.Connect();
   if (phase_ != Phase::kStarting) {
     co_return;
@@ -195,8 +179,8 @@ QCoro::Task<bool> VEXA::Unload() {
 // Only a notice: one window more may be wanted, to look at files while the other measures. Nor does
 // a directory that takes no lock hold the program up: it takes no settings either.
 void VEXA::TellOfAnotherWindow() {
-  lock_.setStaleLockTime(
-      0);  // the lock of a window that runs never ages, that of a dead one is void
+  // The lock of a window that runs never ages; that of a dead one is void.
+  lock_.setStaleLockTime(0);
   if (!lock_.isLocked() && !lock_.tryLock() && lock_.error() == QLockFile::LockFailedError) {
     services_.messages.Tell(
         {Message::kAnotherWindow, {QDir::toNativeSeparators(State().programDirectory)}});
@@ -216,11 +200,8 @@ void VEXA::ListenToSession() {
   });
   connect(&session_, &Session::SettingsChanged, this, &VEXA::Refresh);
   connect(&session_, &Session::StockChanged, this, &VEXA::Refresh);
-  connect(&recorder_, &SessionRecorder::Faulted, this, [this](StoreFault fault) {
-    services_.messages.Tell({Message::kRecordStoreFault,
-                             {RecordStorePath(State().programDirectory)},
-                             StoreFaultText(fault)});
-  });
+  connect(commands_, &WindowCommands::Recorded, &records_, &StationRecords::Send);
+  connect(&records_, &StationRecords::SharedStatusChanged, status_, &StatusPanels::ShowShared);
   connect(&desk_, &InstrumentDesk::ActivityChanged, this, &VEXA::ShowAvailable);
   connect(panels_, &MainPanels::SlotSelected, this, &VEXA::ShowSelected);
   connect(panels_, &MainPanels::SampleInformationRequested, menu_.sampleInformation,
@@ -230,17 +211,6 @@ void VEXA::ListenToSession() {
 void VEXA::ShowSelected() {
   commands_->ShowSlot(GetOption());
   Refresh();
-}
-
-void VEXA::StartSharing() {
-  if (recordSettings_.shared.isEmpty()) {
-    return;
-  }
-  sender_ = std::make_unique<SharedSender>(RecordStorePath(State().programDirectory),
-                                           recordSettings_.shared);
-  connect(&recorder_.Keeper(), &RecordKeeper::Stored, sender_.get(), &SharedSender::Wake);
-  connect(commands_, &WindowCommands::Recorded, sender_.get(), &SharedSender::Wake);
-  connect(sender_.get(), &SharedSender::StatusChanged, status_, &StatusPanels::ShowShared);
 }
 
 void VEXA::Refresh() {

@@ -4,17 +4,14 @@
 #include <QCoroTask>
 #include <QLockFile>
 #include <QMainWindow>
-#include <memory>
 
 #include "app/main_menu.h"
 #include "app/session_journal.h"
+#include "app/station_records.h"
 #include "base/message.h"
 #include "files/program_preferences.h"
 #include "measurement/instrument_desk.h"
 #include "measurement/session.h"
-#include "records/record_settings.h"
-#include "records/session_recorder.h"
-#include "records/shared_sender.h"
 #include "views/common/file_dialogs.h"
 
 namespace vexa {
@@ -70,7 +67,6 @@ class VEXA : public QMainWindow {
   void TellOfAnotherWindow();
   void ListenToSession();
   void ShowSelected();
-  void StartSharing();
   void Refresh();
   void SetPhase(Phase phase);
   void ShowAvailable();
@@ -80,15 +76,13 @@ class VEXA : public QMainWindow {
   Session session_;
   InstrumentDesk desk_;
   SessionJournal journal_;
-  RecordSettings recordSettings_;
-  SessionRecorder recorder_;
+  StationRecords records_;
   ProgramPreferences preferences_;
   Phase phase_ = Phase::kStarting;
   MenuCommands menu_{};
   MainPanels* panels_ = nullptr;
   StatusPanels* status_ = nullptr;
   WindowCommands* commands_ = nullptr;
-  std::unique_ptr<SharedSender> sender_;  ///< where a shared store is named
 };
 
 }  // namespace vexa

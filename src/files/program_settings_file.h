@@ -17,9 +17,9 @@ namespace vexa {
 struct ProgramSettings {
   Language language = Language::kJapanese;
   bool showCie = false;             ///< the CIE colour stands beside the instrument's own
-  QString filmStack;                ///< the file of the film stack (*.flm); empty for none
+  QString filmStack = {};           ///< the file of the film stack (*.flm); empty for none
   bool fitEachMeasurement = false;  ///< the film fit follows every measurement
-  QStringList recentFiles;          ///< whole paths, the last one first
+  QStringList recentFiles = {};     ///< whole paths, the last one first
 
   bool operator==(const ProgramSettings&) const = default;
 };

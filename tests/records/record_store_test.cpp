@@ -50,7 +50,9 @@ TEST_F(Store, KeepsEveryBitOfAMeasuredSample) {
   slot.thickness.extrema.count = 1;
   slot.thickness.extrema.entries[0] = {{500.5, 1.5}, true};
   slot.doubts = {ThicknessDoubt::kEdge};
-  slot.fit = FilmFit{.layers = {{1500.0, 1.5, 0.5}}, .warnings = {QStringLiteral("W")}};
+  slot.fit.emplace();
+  slot.fit->layers = {{1500.0, 1.5, 0.5}};
+  slot.fit->warnings = {QStringLiteral("W")};
   slot.judgement.groups[0] = {true, 0.25};
   slot.judgement.groups[4] = {false, std::nullopt};
   state.sampleBasis.referenceReflectance[440] = 1.0 / 3.0;  // another was set since it began

@@ -95,7 +95,7 @@ void FilmFitPlot::ShowNothing() {
 FourierPlot::FourierPlot(QWidget* parent) : Plot(parent) {
   setObjectName(QStringLiteral("FourierPlot"));
   xAxis->setLabel(Text::tr("膜厚 [nm]"));
-  xAxis->ticker()->setTickCount(4);
+  xAxis->ticker()->setTickCount(2);
   yAxis->setLabel(Text::tr("ﾌｰﾘｴ振幅 [%]"));
   amplitude_ = addGraph();
   amplitude_->setPen(QPen(theme::kAccent, 1.4));

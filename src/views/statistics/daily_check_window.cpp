@@ -8,6 +8,7 @@
 #include <QPushButton>
 #include <QTabWidget>
 #include <QVBoxLayout>
+#include <algorithm>
 #include <cmath>
 #include <utility>
 
@@ -26,6 +27,7 @@ namespace vexa {
 namespace {
 
 const QString kRecipe = QStringLiteral("daily-check");  // of the record of the check piece
+constexpr QSize kPrintedChart(960, 210);                // pixels
 
 /// The charts of a page of the window: the first value, and how many.
 struct ChartPage {
@@ -46,14 +48,9 @@ QLabel* WrappedLabel(const char* name) {
 }
 
 QString InstructionFor(int step) {
-  switch (step) {
-    case 0:
-      return Text::tr("「測定」を押してください。光を閉じて背景を測定します。");
-    case 1:
-      return Text::tr("ﾘﾌｧﾚﾝｽ試料を置いて「測定」を押してください。");
-    default:
-      return Text::tr("点検片を置いて「測定」を押してください。");
-  }
+  return step == 0 ? Text::tr("「測定」を押してください。光を閉じて背景を測定します。")
+         : step == 1 ? Text::tr("ﾘﾌｧﾚﾝｽ試料を置いて「測定」を押してください。")
+                     : Text::tr("点検片を置いて「測定」を押してください。");
 }
 
 }  // namespace
@@ -389,12 +386,10 @@ bool DailyCheckWindow::Keep(const EventRecord& event) {
 }
 
 void DailyCheckWindow::Print() {
-  constexpr QSize kChart(960, 210);
-  std::vector<std::pair<QPicture, QSize>> plots;
-  plots.reserve(charts_.size());
-  for (XmrPlot* chart : charts_) {
-    plots.emplace_back(PlotDrawing(*chart, kChart), kChart);
-  }
+  std::vector<std::pair<QPicture, QSize>> plots(charts_.size());
+  std::ranges::transform(charts_, plots.begin(), [](XmrPlot* chart) {
+    return std::pair(PlotDrawing(*chart, kPrintedChart), kPrintedChart);
+  });
   ResultTable table{{}, {Text::tr("項目"), Text::tr("値")}, {}, 2};
   table.rows = {{Text::tr("装置"), parts_.recorder.Context().station},
                 {Text::tr("判定"), verdict_->text()},
