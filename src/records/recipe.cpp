@@ -20,7 +20,7 @@ namespace vexa {
 namespace {
 
 constexpr int kVersion = 1;
-constexpr qsizetype kLargest = 1024 * 1024;
+constexpr qsizetype kLargest = 1'048'576;
 const QLatin1String kFormat("VEXA-KT recipe");
 
 /// One object of the file. Whatever is not taken from it by the end is unknown.

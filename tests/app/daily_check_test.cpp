@@ -117,7 +117,7 @@ TEST_F(DailyCheckOnInstrument, AnAgeingLampAndALeakingShutterTurnItRed) {
     Tell(wear.line);
     CheckNextDay();
     ASSERT_TRUE(History().hold) << wear.line;
-    const auto& findings = History().hold->findings;
+    const auto findings = History().hold->findings;
     EXPECT_TRUE(std::ranges::count(findings, wear.first, &CheckFinding::value) > 0)
         << wear.line << '\n'
         << Text("CheckReasons");

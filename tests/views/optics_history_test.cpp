@@ -138,7 +138,9 @@ TEST_F(History, SaysOfWhichKindEachPointIs) {
   state.Slot(1)->doubts = {ThicknessDoubt::kEdge};
   Add({1500.0});
   state.Slot(1)->doubts.clear();
-  state.Slot(1)->fit = FilmFit{.outcome = FitOutcome::kOk, .layers = {{1512.0, 1.0}}};
+  state.Slot(1)->fit.emplace();
+  state.Slot(1)->fit->outcome = FitOutcome::kOk;
+  state.Slot(1)->fit->layers = {{1512.0, 1.0}};
   Add({1510.0});
   state.Slot(1)->thickness = {};
   Press("AddPoint");
