@@ -5,6 +5,7 @@
 #include <QHash>
 #include <algorithm>
 #include <cmath>
+#include <limits>
 
 #include "base/date_text.h"
 #include "base/translation.h"
@@ -215,7 +216,12 @@ ResultTable GroupTable(const ChartStudy& study) {
   }
   for (std::size_t i = 0; i < groups.size(); ++i) {
     const auto summary = statistics::Summarise(groups[i]);
-    const auto [least, greatest] = std::ranges::minmax(groups[i]);
+    double least = std::numeric_limits<double>::infinity();
+    double greatest = -least;
+    for (const double value : groups[i]) {
+      least = std::min(least, value);
+      greatest = std::max(greatest, value);
+    }
     table.rows << QStringList{study.groupNames[static_cast<qsizetype>(i)],
                               QString::number(groups[i].size()),
                               ResultText(summary ? summary->mean : least),
