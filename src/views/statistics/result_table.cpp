@@ -75,7 +75,7 @@ PageTable ToPage(const ResultTable& table) {
   return page;
 }
 
-QCoro::Task<bool> PrintResults(CurrentPrinter& printer, QString title,
+QCoro::Task<bool> PrintResults(CurrentPrinter& printer, const QString& title,
                                std::vector<std::pair<QPicture, QSize>> plots,
                                QList<ResultTable> tables) {
   const auto make = [title, plots = std::move(plots),

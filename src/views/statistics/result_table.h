@@ -31,7 +31,7 @@ void ShowResults(QTableWidget& view, const ResultTable& table);
 [[nodiscard]] PageTable ToPage(const ResultTable& table);
 
 /// Prints pictures of plots, each as wide as the page, with tables below them.
-QCoro::Task<bool> PrintResults(CurrentPrinter& printer, QString title,
+QCoro::Task<bool> PrintResults(CurrentPrinter& printer, const QString& title,
                                std::vector<std::pair<QPicture, QSize>> plots,
                                QList<ResultTable> tables);
 
