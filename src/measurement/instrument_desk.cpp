@@ -161,10 +161,14 @@ QCoro::Task<Status> InstrumentDesk::WatchLight() {
   co_return watchEnds_ ? Controller::kCancelled : status;
 }
 
-QCoro::Task<> InstrumentDesk::EndWatching() {
+void InstrumentDesk::StopWatching() {
   if (activity_ == Activity::kWatching) {
     Cancel();
   }
+}
+
+QCoro::Task<> InstrumentDesk::EndWatching() {
+  StopWatching();
   while (activity_ == Activity::kWatching) {
     co_await watched_.Sleep();
   }

@@ -56,8 +56,8 @@ class InstrumentDesk : public QObject {
 
   /// Takes single frames, and announces each, until it is ended, or one fails; then its status.
   QCoro::Task<Status> WatchLight();
-  /// Done when the instrument is at rest again; what else runs goes on.
-  QCoro::Task<> EndWatching();
+  /// Ends it; what else runs goes on.
+  void StopWatching();
 
   /// Empties all slots after a question.
   QCoro::Task<> ClearAll();
@@ -83,6 +83,8 @@ class InstrumentDesk : public QObject {
   void WaitEnded();
 
  private:
+  /// Stops watching, and is done when the instrument is at rest.
+  QCoro::Task<> EndWatching();
   void SetActivity(Activity activity);
 
   Session& session_;

@@ -287,7 +287,7 @@ void LotPage::ToggleLight() {
     light_->ShowNone(Text::tr("光量を測っています..."));
     Watch();
   } else if (!run_.IsMeasuring()) {
-    desk_.EndWatching();
+    desk_.StopWatching();
   }
 }
 
