@@ -63,7 +63,12 @@ int RunWindow(const QList<vexa::MessageCall>& notices, const QString& file) {
   messages.SetWindow(&window);
   dialogs.SetWindow(&window);
   window.show();
-  const vexa::EndSignals endSignals([&window] { window.EndAtOnce(); });
+  // Not quit(), which asks every window first: a message may be open that the next one follows.
+  const auto end = [](vexa::VEXA& ended) -> QCoro::Task<> {
+    co_await ended.EndAtOnce();
+    QCoreApplication::exit();
+  };
+  const vexa::EndSignals endSignals([&window, end] { end(window); });
   vexa::TellAll(notices, messages);
   const auto start = [](vexa::VEXA& started, QString named) -> QCoro::Task<> {
     co_await started.Load();

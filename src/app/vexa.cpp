@@ -106,7 +106,6 @@ QCoro::Task<> VEXA::EndAtOnce() {
   co_await desk_.Finish();
   desk_.Close();
   SetPhase(Phase::kEnded);
-  QApplication::quit();
 }
 
 int VEXA::GetOption() const {

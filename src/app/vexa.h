@@ -47,7 +47,8 @@ class VEXA : public QMainWindow {
   QCoro::Task<> OpenFile(QString path);
 
   /// Ends the program as a signal asks it to: whatever runs is cancelled, the instrument is set to
-  /// rest, nothing is asked, and the journal stays for the next start.
+  /// rest, nothing is asked, and the journal stays for the next start. Whoever asked ends the event
+  /// loop then.
   QCoro::Task<> EndAtOnce();
 
   [[nodiscard]] int GetOption() const;
