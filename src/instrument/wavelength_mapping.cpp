@@ -128,7 +128,7 @@ bool FitTheDetector(const LinePositions& positions, int startNm) {
   }
   ones.complete = true;
   const std::vector<double> points = LinesToWaves({&ones, 1}, positions, startNm).values;
-  return 10 * std::ranges::count(points, 1.0) >= 9 * kMappedPoints;
+  return 10 * std::ranges::count(points, 1.0) >= std::ptrdiff_t{9} * kMappedPoints;
 }
 
 Status FillSpectrum(std::span<const LineBuffer> lines, const LinePositions& positions, int startNm,
