@@ -37,7 +37,8 @@ FrameRecord FrameOf(RecordFrameKind kind, const RawSpectrum& counts, const Frame
 // acquisition began.
 Settings SettingsBehind(const VEXATYPE& state) {
   const auto& [conditions, reflectance] = state.sampleBasis;
-  Settings settings = state;
+  const Settings& inForce = state;
+  Settings settings = inForce;
   settings.instrument.samplingTimeMs = conditions.frame.samplingTimeMs;
   settings.instrument.averagingCount = conditions.frame.averagingCount;
   settings.instrument.calibrationShiftNm = conditions.frame.calibrationShiftNm;

@@ -51,7 +51,7 @@ bool IsOutside(double value, const statistics::SpecificationLimits& limits) {
 }
 
 void StudyCapability(ChartStudy& study) {
-  const statistics::SpecificationLimits& limits = study.request.specification;
+  const statistics::SpecificationLimits& limits = study.request.tolerance;
   study.outside = static_cast<std::size_t>(std::ranges::count_if(
       study.values, [&limits](double value) { return IsOutside(value, limits); }));
   study.doubts =
@@ -105,7 +105,7 @@ ChartStudy StudyChart(const ValueSeries& series, const ChartRequest& request) {
   study.summary = *summary;
   if (const Quantity quantity = request.value.quantity;
       quantity == Quantity::kHue || quantity == Quantity::kCieHue) {
-    study.request.specification = NearestTurn(request.specification, summary->mean);
+    study.request.tolerance = NearestTurn(request.tolerance, summary->mean);
   }
   const std::size_t baseline = request.baseline == 0 ? study.values.size() : request.baseline;
   if (baseline > study.values.size()) {
@@ -129,7 +129,7 @@ XmrPicture PictureOf(const ChartStudy& study, const ValueSeries& series) {
                      .values = study.values,
                      .groups = study.groups,
                      .limits = study.limits,
-                     .specification = study.request.specification,
+                     .tolerance = study.request.tolerance,
                      .broken = {},
                      .hints = {}};
   for (const statistics::Signal& signal : study.found) {
@@ -177,8 +177,8 @@ ResultTable StatisticsTable(const ChartStudy& study) {
     add(QStringLiteral("LCL"), ResultText(study.limits->lower));
     add(Text::tr("平均移動範囲"), ResultText(study.limits->meanRange));
   }
-  add(Text::tr("規格下限"), LimitText(study.request.specification.lower));
-  add(Text::tr("規格上限"), LimitText(study.request.specification.upper));
+  add(Text::tr("規格下限"), LimitText(study.request.tolerance.lower));
+  add(Text::tr("規格上限"), LimitText(study.request.tolerance.upper));
   add(Text::tr("規格外の点"), QString::number(study.outside));
   const std::optional<statistics::Capability>& capability = study.capability;
   add(QStringLiteral("Cp"), IndexText(capability ? capability->cp : std::nullopt));
@@ -240,7 +240,7 @@ QStringList Warnings(const ChartStudy& study, const ValueSeries& series) {
   for (const statistics::NormalDoubt doubt : study.doubts) {
     lines << statistics::DoubtText(doubt);
   }
-  const statistics::SpecificationLimits& limits = study.request.specification;
+  const statistics::SpecificationLimits& limits = study.request.tolerance;
   if (!study.doubts.empty() && (limits.lower || limits.upper)) {
     lines << Text::tr("そのため工程能力指数は示しません。規格外は %1 点中 %2 点でした。")
                  .arg(study.values.size())

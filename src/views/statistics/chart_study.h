@@ -23,7 +23,7 @@ struct ChartRequest {
   Grouping grouping = Grouping::kNone;
   bool nelson = false;       ///< otherwise the Western Electric rules
   std::size_t baseline = 0;  ///< the first so many points set the limits; 0: all
-  statistics::SpecificationLimits specification;
+  statistics::SpecificationLimits tolerance;
 };
 
 /// A series as a control chart and what it says about the process.
@@ -37,7 +37,7 @@ struct ChartStudy {
   std::vector<statistics::Signal> found;             ///< where a rule is broken
   std::optional<statistics::Capability> capability;  ///< nothing with doubts, too
   std::vector<statistics::NormalDoubt> doubts;
-  std::size_t outside = 0;  ///< values outside the specification
+  std::size_t outside = 0;  ///< values outside the tolerance
   QString refusal;          ///< why there is no chart
   QString noCapability;     ///< why there is none, unless it is for the doubts
 

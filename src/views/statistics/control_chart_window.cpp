@@ -174,7 +174,7 @@ void ControlChartWindow::Study() {
       {value, static_cast<Grouping>(grouping_->currentIndex()), rules_->currentIndex() == 1,
        static_cast<std::size_t>(baseline_->value()), LimitsOf(session_.State().standard, value)});
   plot_->Show(PictureOf(study_, series_));
-  histogram_->Show(ValueTitle(value), study_.values, study_.request.specification);
+  histogram_->Show(ValueTitle(value), study_.values, study_.request.tolerance);
   ShowResults(*statistics_, StatisticsTable(study_));
   ShowResults(*signals_, SignalTable(study_, series_));
   ShowResults(*groups_, GroupTable(study_));

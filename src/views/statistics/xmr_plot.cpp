@@ -159,9 +159,8 @@ void XmrPlot::ShowValues() {
   }
   std::vector<std::pair<QString, double>> tolerance;
   const double reach = kFarLimit * (greatest - least);
-  for (const auto& [name, limit] :
-       {std::pair{QStringLiteral("USL"), picture_.specification.upper},
-        std::pair{QStringLiteral("LSL"), picture_.specification.lower}}) {
+  for (const auto& [name, limit] : {std::pair{QStringLiteral("USL"), picture_.tolerance.upper},
+                                    std::pair{QStringLiteral("LSL"), picture_.tolerance.lower}}) {
     if (limit && *limit<greatest + reach&& * limit> least - reach) {
       tolerance.emplace_back(name, *limit);
     }

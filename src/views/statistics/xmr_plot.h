@@ -16,7 +16,7 @@ struct XmrPicture {
   std::vector<double> values;
   std::vector<int> groups;  ///< of each value, from 0; empty: all in one
   std::optional<statistics::ChartLimits> limits;
-  statistics::SpecificationLimits specification;
+  statistics::SpecificationLimits tolerance;
   std::vector<std::size_t> broken;  ///< points, from 1, that a rule marks
   std::vector<QString> hints;       ///< of each value, while the mouse is over it; may be empty
 };
