@@ -9,6 +9,7 @@
 #include <QPushButton>
 
 #include "app/vexa.h"
+#include "app/window_waits.h"
 #include "files/environment_file.h"
 #include "files/program_settings_file.h"
 #include "files/startup_file.h"
@@ -133,10 +134,9 @@ QCoro::Task<int> Demonstration::Drive(VEXA& window) {
   window.findChild<QPushButton*>(QStringLiteral("ThicknessButton"))->click();
   window.Commands().saveFileAs->trigger();
   const QString picture = QDir(directory_).filePath(QStringLiteral("window.png"));
-  while (window.findChild<ColourPanel*>()->Picture()->IsBuilding()) {
-    QApplication::processEvents();
-  }
-  QApplication::processEvents();
+  const BackgroundPicture* background = window.findChild<ColourPanel*>()->Picture().get();
+  co_await Until([background] { return !background->IsBuilding(); });
+  co_await Drawn();
   const bool drawn = window.grab().save(picture);
   if (!drawn) {
     Complain(QStringLiteral("%1: cannot be written").arg(picture));

@@ -3,13 +3,10 @@
 
 #include <QApplication>
 #include <QComboBox>
-#include <QCoroTask>
-#include <QDeadlineTimer>
 #include <QDialog>
 #include <QKeyEvent>
 #include <QLineEdit>
 #include <QPixmap>
-#include <QPointer>
 #include <QPushButton>
 #include <QTabWidget>
 #include <QTableView>
@@ -18,6 +15,7 @@
 #include <tuple>
 
 #include "app/vexa.h"
+#include "app/window_waits.h"
 #include "base/translation.h"
 #include "views/colour/background_picture.h"
 #include "views/colour/colour_panel.h"
@@ -31,59 +29,64 @@
 namespace vexa {
 namespace {
 
-void LetDraw() {
-  constexpr int kRounds = 5;
-  for (int i = 0; i < kRounds; ++i) {
-    QApplication::processEvents();
-  }
-}
-
-void WaitUntil(const std::function<bool()>& done) {
-  constexpr int kPatienceMs = 10000;
-  const QDeadlineTimer deadline(kPatienceMs);
-  while (!done() && !deadline.hasExpired()) {
-    QApplication::processEvents(QEventLoop::AllEvents, 10);
-  }
-}
-
 void Press(const QWidget& window, const char* button) {
   window.findChild<QAbstractButton*>(QLatin1String(button))->click();
-  LetDraw();
+}
+
+void ChooseLast(const QWidget& within, const char* choice) {
+  auto* box = within.findChild<QComboBox*>(QLatin1String(choice));
+  box->setCurrentIndex(box->count() - 1);
+  emit box->activated(box->currentIndex());
+}
+
+QWidget* ShownWindow(const QString& objectName) {
+  for (QWidget* window : QApplication::topLevelWidgets()) {
+    if (window->isVisible() && window->objectName() == objectName) {
+      return window;
+    }
+  }
+  return nullptr;
 }
 
 }  // namespace
 
-Gallery::Gallery(const QString& directory) : directory_(directory) {}
+Gallery::Gallery(const QString& directory, VEXA& window) : directory_(directory), window_(window) {}
 
-int Gallery::Take(VEXA& window) {
+QCoro::Task<int> Gallery::Take() {
   if (!directory_.mkpath(QStringLiteral("."))) {
     Fail(directory_.path());
-    return missing_;
+    co_return missing_;
   }
-  TakeViews(window);
-  TakeDialogs(window);
-  TakeWindows(window);
-  TakeCie(window);
-  TakeLot(window);
-  TakeMessage();
-  return missing_;
+  co_await TakeViews();
+  co_await TakeDialogs();
+  co_await TakePrint();
+  co_await TakeWindows();
+  co_await TakeFilmFit();
+  co_await TakeThicknessGraph();
+  co_await TakeRecords();
+  co_await TakeCie();
+  co_await TakeLot();
+  co_await TakeMessage();
+  const int missing = missing_;
+  co_return missing;
 }
 
-void Gallery::TakeViews(VEXA& window) {
-  const QList<QAction*> views = window.Commands().views->actions();
+QCoro::Task<> Gallery::TakeViews() {
+  const QList<QAction*> views = window_.Commands().views->actions();
+  const BackgroundPicture* background = window_.findChild<ColourPanel*>()->Picture().get();
   for (qsizetype i = 0; i < views.size(); ++i) {
     views[i]->trigger();
-    LetDraw();
-    while (window.findChild<ColourPanel*>()->Picture()->IsBuilding()) {
-      QApplication::processEvents();
-    }
-    Save(window, QStringLiteral("view-") + QLatin1String(kViews[static_cast<std::size_t>(i)].name));
+    co_await Drawn();
+    co_await Until([background] { return !background->IsBuilding(); });
+    const QLatin1String view(kViews[static_cast<std::size_t>(i)].name);
+    const QString name = QStringLiteral("view-") + view;
+    co_await Save(window_, name);
   }
   views.constFirst()->trigger();
 }
 
-void Gallery::TakeDialogs(VEXA& window) {
-  const MenuCommands& commands = window.Commands();
+QCoro::Task<> Gallery::TakeDialogs() {
+  const MenuCommands& commands = window_.Commands();
   const std::pair<QAction*, const char*> dialogs[] = {
       {commands.displaySettings, "display-settings"},
       {commands.settingsList, "settings-list"},
@@ -97,185 +100,193 @@ void Gallery::TakeDialogs(VEXA& window) {
       {commands.samplingSettings, "sampling-settings"},
       {commands.calibration, "calibration"},
       {commands.version, "version"}};
-  for (const auto& [command, name] : dialogs) {
-    TakeDialog([action = command] { action->trigger(); }, QLatin1String(name));
+  for (const auto& [command, named] : dialogs) {
+    command->trigger();
+    const QString name = QLatin1String(named);
+    co_await TakeDialog(name, nullptr);
   }
-  TakeDialog([&] { commands.print->trigger(); }, QStringLiteral("print"),
-             [this](QWidget& dialog) {
-               TakeDialog([&] { Press(dialog, "Preview"); }, QStringLiteral("print-preview"));
-             });
-  auto* graph = window.findChild<ReflectanceGraph*>(QStringLiteral("ReflectanceGraph"));
-  TakeDialog([graph] { emit graph->JumpRequested(); }, QStringLiteral("jump"));
+  auto* graph = window_.findChild<ReflectanceGraph*>(QStringLiteral("ReflectanceGraph"));
+  emit graph->JumpRequested();
+  co_await TakeDialog(QStringLiteral("jump"), nullptr);
 }
 
-void Gallery::TakeWindows(VEXA& window) {
-  Press(window, "StockShow");
-  TakeWindow(QStringLiteral("StockWindow"), QStringLiteral("accumulation"));
-  TakeFilmFit(window);
-  for (const auto& [command, object, name] :
-       {std::tuple{window.Commands().slotStatistics, "SlotStatisticsWindow", "slot-statistics"},
-        std::tuple{window.Commands().controlChart, "ControlChartWindow", "control-chart"},
-        std::tuple{window.Commands().dailyCheck, "DailyCheckWindow", "daily-check"},
-        std::tuple{window.Commands().gaugeStudy, "GaugeStudyWindow", "gauge-study"}}) {
+QCoro::Task<> Gallery::TakePrint() {
+  window_.Commands().print->trigger();
+  const QPointer<QWidget> dialog = co_await TakePages(QStringLiteral("print"), nullptr);
+  if (!dialog.isNull()) {
+    Press(*dialog, "Preview");
+    co_await TakeDialog(QStringLiteral("print-preview"), dialog);
+    dialog->close();
+    co_await Drawn();
+  }
+}
+
+QCoro::Task<> Gallery::TakeWindows() {
+  Press(window_, "StockShow");
+  co_await TakeWindow(QStringLiteral("StockWindow"), QStringLiteral("accumulation"));
+  const MenuCommands& commands = window_.Commands();
+  const std::tuple<QAction*, const char*, const char*> windows[] = {
+      {commands.slotStatistics, "SlotStatisticsWindow", "slot-statistics"},
+      {commands.controlChart, "ControlChartWindow", "control-chart"},
+      {commands.dailyCheck, "DailyCheckWindow", "daily-check"},
+      {commands.gaugeStudy, "GaugeStudyWindow", "gauge-study"}};
+  for (const auto& [command, object, named] : windows) {
     command->trigger();
-    TakeWindow(QLatin1String(object), QLatin1String(name));
+    const QString objectName = QLatin1String(object);
+    const QString name = QLatin1String(named);
+    co_await TakeWindow(objectName, name);
   }
-  window.Commands().thicknessGraph->trigger();
-  LetDraw();
-  for (const QWidget* history : QApplication::topLevelWidgets()) {
-    if (history->objectName() == QLatin1String("ThickGraph")) {
-      Press(*history, "AddPoint");
-      TakeDialog([&] { history->findChild<QAction*>(QStringLiteral("GraphSettings"))->trigger(); },
-                 QStringLiteral("thickness-history-settings"));
-    }
+}
+
+QCoro::Task<> Gallery::TakeThicknessGraph() {
+  const QString objectName = QStringLiteral("ThickGraph");
+  window_.Commands().thicknessGraph->trigger();
+  co_await Drawn();
+  if (const QWidget* history = ShownWindow(objectName)) {
+    Press(*history, "AddPoint");
+    history->findChild<QAction*>(QStringLiteral("GraphSettings"))->trigger();
+    co_await TakeDialog(QStringLiteral("thickness-history-settings"), nullptr);
   }
-  TakeWindow(QStringLiteral("ThickGraph"), QStringLiteral("thickness-history"));
-  TakeRecords(window);
+  co_await TakeWindow(objectName, QStringLiteral("thickness-history"));
 }
 
 // What is read of the store comes from a thread of its own.
-void Gallery::TakeRecords(VEXA& window) {
-  window.Commands().records->trigger();
-  const auto* records = window.findChild<QWidget*>(QStringLiteral("RecordsWindow"));
+QCoro::Task<> Gallery::TakeRecords() {
+  window_.Commands().records->trigger();
+  const auto* records = window_.findChild<QWidget*>(QStringLiteral("RecordsWindow"));
   auto* table = records->findChild<QTableView*>(QStringLiteral("RecordTable"));
   const auto* details = records->findChild<QTextEdit*>(QStringLiteral("RecordDetails"));
-  WaitUntil([table] { return table->model()->rowCount() > 0; });
+  co_await Until([table] { return table->model()->rowCount() > 0; });
   table->selectAll();
-  WaitUntil([details] { return !details->document()->isEmpty(); });
+  co_await Until([details] { return !details->document()->isEmpty(); });
   Press(*records, "RecomputeRecords");
-  WaitUntil([records] { return records->findChild<QDialog*>() != nullptr; });
-  TakeWindow(QStringLiteral("RecomputedWindow"), QStringLiteral("records-recomputed"));
-  TakeWindow(QStringLiteral("RecordsWindow"), QStringLiteral("records"));
+  co_await Until([records] { return records->findChild<QDialog*>() != nullptr; });
+  co_await TakeWindow(QStringLiteral("RecomputedWindow"), QStringLiteral("records-recomputed"));
+  co_await TakeWindow(QStringLiteral("RecordsWindow"), QStringLiteral("records"));
 }
 
-void Gallery::TakeFilmFit(VEXA& window) {
-  window.Commands().filmFit->trigger();
-  LetDraw();
-  if (auto* fit = window.findChild<FilmFitWindow*>()) {
+QCoro::Task<> Gallery::TakeFilmFit() {
+  window_.Commands().filmFit->trigger();
+  co_await Drawn();
+  if (auto* fit = window_.findChild<FilmFitWindow*>()) {
     Press(*fit, "FitAll");
-    while (!fit->IsDone()) {
-      QApplication::processEvents(QEventLoop::WaitForMoreEvents);
-    }
+    co_await Until([fit] { return fit->IsDone(); });
   }
-  TakeWindow(QStringLiteral("FilmFitWindow"), QStringLiteral("film-fit"));
+  co_await TakeWindow(QStringLiteral("FilmFitWindow"), QStringLiteral("film-fit"));
 }
 
 // Everything that the CIE colours add; it is gone again at the end.
-void Gallery::TakeCie(VEXA& window) {
-  const MenuCommands& commands = window.Commands();
-  const auto choose = [](const QWidget& within, const char* choice) {
-    auto* box = within.findChild<QComboBox*>(QLatin1String(choice));
-    box->setCurrentIndex(box->count() - 1);
-    emit box->activated(box->currentIndex());
-    LetDraw();
-  };
-  const auto change = [](QWidget& dialog) {
+QCoro::Task<> Gallery::TakeCie() {
+  const MenuCommands& commands = window_.Commands();
+  const auto change = [](const QWidget& dialog) {
     Press(dialog, "ShowCie");
     Press(dialog, "OK");
   };
-  TakeDialog([&] { commands.programSettings->trigger(); }, QStringLiteral("program-settings"),
-             change);
-  constexpr int kDiagramView = 5;
-  commands.views->actions().at(kDiagramView)->trigger();
-  LetDraw();
-  choose(window, "DiagramKind");
-  Save(window, QStringLiteral("view-chromaticity-cie"));
-  TakeDialog(
-      [&] {
-        commands.colourDifference->trigger();
-        LetDraw();
-        choose(*QApplication::activeModalWidget(), "DifferenceKind");
-      },
-      QStringLiteral("colour-difference-cie"));
+  commands.programSettings->trigger();
+  const QPointer<QWidget> on = co_await TakePages(QStringLiteral("program-settings"), nullptr);
+  if (on.isNull()) {
+    co_return;
+  }
+  change(*on);
+  commands.views->actions().at(static_cast<int>(View::kChromaticity))->trigger();
+  co_await Drawn();
+  ChooseLast(window_, "DiagramKind");
+  co_await Drawn();
+  co_await Save(window_, QStringLiteral("view-chromaticity-cie"));
+  commands.colourDifference->trigger();
+  co_await Drawn();
+  ChooseLast(*QApplication::activeModalWidget(), "DifferenceKind");
+  co_await TakeDialog(QStringLiteral("colour-difference-cie"), nullptr);
   commands.views->actions().constFirst()->trigger();
   commands.programSettings->trigger();
-  LetDraw();
+  co_await Drawn();
   change(*QApplication::activeModalWidget());
 }
 
 // A lot of a few lenses, on whatever the stage shows next.
-void Gallery::TakeLot(VEXA& window) {
-  window.Commands().lotMeasurement->trigger();
-  LetDraw();
-  auto* lots = window.findChild<LotWindow*>();
+QCoro::Task<> Gallery::TakeLot() {
+  window_.Commands().lotMeasurement->trigger();
+  co_await Drawn();
+  auto* lots = window_.findChild<LotWindow*>();
   lots->findChild<QLineEdit*>(QStringLiteral("LotName"))->setText(QStringLiteral("L-2031"));
   lots->findChild<QLineEdit*>(QStringLiteral("LotOperator"))->setText(QStringLiteral("VEXA"));
-  LetDraw();
-  Save(*lots, QStringLiteral("lot-start"));
+  co_await Drawn();
+  co_await Save(*lots, QStringLiteral("lot-start"));
   Press(*lots, "LotStart");
-  QCoro::waitFor(window.Desk().UntilIdle());
+  co_await window_.Desk().UntilIdle();
   constexpr int kLenses = 4;
   for (int lens = 1; lens <= kLenses; ++lens) {
     auto* number = lots->findChild<QLineEdit*>(QStringLiteral("LotNumber"));
     number->setText(QStringLiteral("A-%1").arg(lens));
     QKeyEvent key(QEvent::KeyPress, Qt::Key_Return, Qt::NoModifier);
     QApplication::sendEvent(number, &key);
-    QCoro::waitFor(window.Desk().UntilIdle());
-    LetDraw();
+    co_await window_.Desk().UntilIdle();
+    co_await Drawn();
   }
-  Save(*lots, QStringLiteral("lot"));
+  co_await Save(*lots, QStringLiteral("lot"));
   lots->close();
-  LetDraw();
+  co_await Drawn();
 }
 
-void Gallery::TakeMessage() {
+QCoro::Task<> Gallery::TakeMessage() {
   OriginalMsgFrm message;
-  const auto show = [&message] {
-    message.MsgCall(
-        {Message::kControllerFailed, {}, Text::tr("com5 (/dev/ttyUSB0) という装置がありません。")});
-  };
-  TakeDialog(show, QStringLiteral("message"), [this](QWidget& dialog) {
-    Press(dialog, "Unfold");
-    Save(dialog, QStringLiteral("message-unfolded"));
-  });
+  const MessageCall call{
+      Message::kControllerFailed, {}, Text::tr("com5 (/dev/ttyUSB0) という装置がありません。")};
+  message.MsgCall(call);
+  const QPointer<QWidget> dialog = co_await TakePages(QStringLiteral("message"), nullptr);
+  if (!dialog.isNull()) {
+    Press(*dialog, "Unfold");
+    co_await Drawn();
+    co_await Save(*dialog, QStringLiteral("message-unfolded"));
+    dialog->close();
+  }
 }
 
-void Gallery::TakeDialog(const std::function<void()>& open, const QString& name,
-                         const std::function<void(QWidget&)>& inside) {
-  const QWidget* below = QApplication::activeModalWidget();
-  open();
-  LetDraw();
+QCoro::Task<QPointer<QWidget>> Gallery::TakePages(QString name, const QWidget* below) {
+  co_await Drawn();
   const QPointer<QWidget> dialog = QApplication::activeModalWidget();
   if (dialog == below) {
     Fail(name);
-    return;
+    co_return QPointer<QWidget>();
   }
   auto* pages = dialog->findChild<QTabWidget*>();
-  for (int page = 0; page < (pages == nullptr ? 1 : pages->count()); ++page) {
+  const int count = pages == nullptr ? 1 : pages->count();
+  for (int page = 0; page < count; ++page) {
     if (pages != nullptr) {
       pages->setCurrentIndex(page);
-      LetDraw();
+      co_await Drawn();
     }
-    Save(*dialog, page == 0 ? name : QStringLiteral("%1-%2").arg(name).arg(page + 1));
+    const QString picture = page == 0 ? name : QStringLiteral("%1-%2").arg(name).arg(page + 1);
+    co_await Save(*dialog, picture);
   }
-  if (inside) {
-    inside(*dialog);
-  }
-  if (dialog != nullptr) {
-    dialog->close();
-  }
-  LetDraw();
+  co_return QPointer<QWidget>(dialog);
 }
 
-void Gallery::TakeWindow(const QString& objectName, const QString& name) {
-  LetDraw();
-  for (QWidget* window : QApplication::topLevelWidgets()) {
-    if (window->isVisible() && window->objectName() == objectName) {
-      Save(*window, name);
-      window->close();
-      return;
-    }
+QCoro::Task<> Gallery::TakeDialog(QString name, const QWidget* below) {
+  const QPointer<QWidget> dialog = co_await TakePages(name, below);
+  if (!dialog.isNull()) {
+    dialog->close();
   }
-  Fail(name);
+  co_await Drawn();
+}
+
+QCoro::Task<> Gallery::TakeWindow(QString objectName, QString name) {
+  co_await Drawn();
+  if (QWidget* window = ShownWindow(objectName)) {
+    co_await Save(*window, name);
+    window->close();
+  } else {
+    Fail(name);
+  }
 }
 
 // On whatever screen: all of the window in the picture.
-void Gallery::Save(QWidget& widget, const QString& name) {
+QCoro::Task<> Gallery::Save(QWidget& widget, QString name) {
   if (const auto* body = widget.findChild<ScrollBody*>()) {
     const QSize hidden = (body->widget()->sizeHint() - body->viewport()->size()).expandedTo({0, 0});
     if (!hidden.isNull()) {
       widget.resize(widget.size() + hidden);
-      LetDraw();
+      co_await Drawn();
     }
   }
   if (!widget.grab().save(directory_.filePath(name + QStringLiteral(".png")))) {

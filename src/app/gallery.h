@@ -2,9 +2,10 @@
 #pragma once
 
 #include <QAction>
+#include <QCoroTask>
 #include <QDir>
+#include <QPointer>
 #include <QString>
-#include <functional>
 
 namespace vexa {
 
@@ -14,28 +15,33 @@ class VEXA;
 class Gallery {
  public:
   /// The pictures go into `directory`, one PNG a window, named after it.
-  explicit Gallery(const QString& directory);
+  Gallery(const QString& directory, VEXA& window);
 
   /// Shows one after the other; the number of pictures that could not be taken.
-  [[nodiscard]] int Take(VEXA& window);
+  [[nodiscard]] QCoro::Task<int> Take();
 
  private:
-  void TakeViews(VEXA& window);
-  void TakeDialogs(VEXA& window);
-  void TakeWindows(VEXA& window);
-  void TakeFilmFit(VEXA& window);
-  void TakeCie(VEXA& window);
-  void TakeRecords(VEXA& window);
-  void TakeLot(VEXA& window);
-  void TakeMessage();
-  /// The dialog that `open` opens, each of its pages; `inside` may do more in it before it closes.
-  void TakeDialog(const std::function<void()>& open, const QString& name,
-                  const std::function<void(QWidget&)>& inside = {});
-  void TakeWindow(const QString& objectName, const QString& name);
-  void Save(QWidget& widget, const QString& name);
+  QCoro::Task<> TakeViews();
+  QCoro::Task<> TakeDialogs();
+  QCoro::Task<> TakePrint();
+  QCoro::Task<> TakeWindows();
+  QCoro::Task<> TakeFilmFit();
+  QCoro::Task<> TakeThicknessGraph();
+  QCoro::Task<> TakeCie();
+  QCoro::Task<> TakeRecords();
+  QCoro::Task<> TakeLot();
+  QCoro::Task<> TakeMessage();
+  /// The dialog that has just been opened over `below` (null: over the windows), each of its pages.
+  /// It stays open; null when there is none.
+  QCoro::Task<QPointer<QWidget>> TakePages(QString name, const QWidget* below);
+  /// The same, and closes it.
+  QCoro::Task<> TakeDialog(QString name, const QWidget* below);
+  QCoro::Task<> TakeWindow(QString objectName, QString name);
+  QCoro::Task<> Save(QWidget& widget, QString name);
   void Fail(const QString& name);
 
   QDir directory_;
+  VEXA& window_;
   int missing_ = 0;
 };
 

@@ -45,8 +45,10 @@ int RunDemonstration(const QString& directory, bool gpib, const QString& picture
                         const QString& pictureDirectory, int& outcome) -> QCoro::Task<> {
     co_await driven.Load();
     outcome = co_await run.Drive(driven);
-    if (!pictureDirectory.isEmpty() && vexa::Gallery(pictureDirectory).Take(driven) != 0) {
-      outcome = 1;
+    if (!pictureDirectory.isEmpty()) {
+      vexa::Gallery gallery(pictureDirectory, driven);
+      const int missing = co_await gallery.Take();
+      outcome = missing == 0 ? outcome : 1;
     }
     driven.close();
     QApplication::quit();
