@@ -11,8 +11,8 @@ namespace vexa {
 /// Done when the windows have been laid out and drawn.
 [[nodiscard]] QCoro::Task<> Drawn();
 
-/// Done when `done` says so, or after ten seconds. A closure that is given owns nothing: g++ 12 lets
-/// go of it twice.
+/// Done when `done` says so, or after ten seconds. A closure that is given owns nothing: g++ 12
+/// lets go of it twice.
 [[nodiscard]] QCoro::Task<> Until(std::function<bool()> done);
 
 }  // namespace vexa

@@ -55,7 +55,7 @@ QString InstructionFor(int step) {
 
 }  // namespace
 
-DailyCheckWindow::DailyCheckWindow(const Parts& parts, QWidget* parent)
+DailyCheckWindow::DailyCheckWindow(const StudyParts& parts, QWidget* parent)
     : QDialog(parent),
       parts_(parts),
       state_(parts.session.State()),

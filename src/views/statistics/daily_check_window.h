@@ -6,10 +6,8 @@
 #include <QLabel>
 #include <functional>
 
-#include "measurement/instrument_desk.h"
 #include "records/daily_check_events.h"
-#include "records/session_recorder.h"
-#include "views/common/file_dialogs.h"
+#include "views/statistics/study_parts.h"
 
 class QPushButton;
 class QTabWidget;
@@ -26,17 +24,7 @@ class DailyCheckWindow : public QDialog {
   Q_OBJECT
 
  public:
-  struct Parts {
-    Session& session;
-    InstrumentDesk& desk;
-    SessionRecorder& recorder;
-    QString storePath;
-    CurrentPrinter& printer;
-    MessageService& messages;
-    FileDialogs& dialogs;
-  };
-
-  explicit DailyCheckWindow(const Parts& parts, QWidget* parent = nullptr);
+  explicit DailyCheckWindow(const StudyParts& parts, QWidget* parent = nullptr);
 
  private:
   /// What is measured next.
@@ -63,7 +51,7 @@ class DailyCheckWindow : public QDialog {
   bool Keep(const EventRecord& event);
   void Print();
 
-  Parts parts_;
+  StudyParts parts_;
   const VEXATYPE& state_;
   DailyCheckHistory history_;
   Step next_ = Step::kBackground;

@@ -65,7 +65,7 @@ QString StudyText(const GaugeSession& study) {
 
 }  // namespace
 
-GaugeStudyWindow::GaugeStudyWindow(const Parts& parts, QWidget* parent)
+GaugeStudyWindow::GaugeStudyWindow(const StudyParts& parts, QWidget* parent)
     : QDialog(parent),
       parts_(parts),
       state_(parts.session.State()),

@@ -6,10 +6,8 @@
 #include <QLabel>
 #include <optional>
 
-#include "measurement/instrument_desk.h"
 #include "records/gauge_plan.h"
-#include "records/session_recorder.h"
-#include "views/common/file_dialogs.h"
+#include "views/statistics/study_parts.h"
 
 class QComboBox;
 class QLineEdit;
@@ -32,17 +30,7 @@ class GaugeStudyWindow : public QDialog {
   Q_OBJECT
 
  public:
-  struct Parts {
-    Session& session;
-    InstrumentDesk& desk;
-    SessionRecorder& recorder;
-    QString storePath;
-    CurrentPrinter& printer;
-    MessageService& messages;
-    FileDialogs& dialogs;
-  };
-
-  explicit GaugeStudyWindow(const Parts& parts, QWidget* parent = nullptr);
+  explicit GaugeStudyWindow(const StudyParts& parts, QWidget* parent = nullptr);
 
  private:
   QWidget* BuildPlan();
@@ -61,7 +49,7 @@ class GaugeStudyWindow : public QDialog {
   void Print();
   void Save();
 
-  Parts parts_;
+  StudyParts parts_;
   const VEXATYPE& state_;
   std::vector<GaugeSession> studies_;
   std::optional<GaugeSession> study_;
