@@ -66,7 +66,7 @@ FilmFitConditions::FilmFitConditions(QWidget* parent)
     field->setObjectName(QLatin1String(name));
     field->setMinimumWidth(kFieldWidth);
     field->setMaximumWidth(kFieldWidth);
-    connect(field, &QLineEdit::textChanged, this, &FilmFitConditions::Edited);
+    connect(field, &QLineEdit::textEdited, this, &FilmFitConditions::Edited);
   }
   const std::pair<const char*, QCheckBox*> boxes[] = {
       {"ScaleFree", scaleFree_}, {"OffsetFree", offsetFree_}, {"IndexFree", indexFree_}};

@@ -61,7 +61,7 @@ void FilmStackEditor::BuildMaterial(Row& row, const QString& name) {
                "schott:A0,..,A5  sellmeier:A1,..,B3  cauchy:A,B[,C]"));
   row.file = NarrowButton(name + QStringLiteral("File"), QStringLiteral("..."),
                           Text::tr("材料ﾌｧｲﾙを選択"));
-  connect(row.material, &QLineEdit::textChanged, this, &FilmStackEditor::Edited);
+  connect(row.material, &QLineEdit::textEdited, this, &FilmStackEditor::Edited);
   connect(row.file, &QPushButton::clicked, this,
           [this, material = row.material] { AskFile(*material); });
 }
@@ -90,7 +90,7 @@ void FilmStackEditor::BuildRow(QGridLayout& grid, std::size_t place) {
   for (NumberField* field : {row.from, row.to}) {
     field->setMinimumWidth(kNumberWidth);
     field->setMaximumWidth(kNumberWidth);
-    connect(field, &QLineEdit::textChanged, this, &FilmStackEditor::Edited);
+    connect(field, &QLineEdit::textEdited, this, &FilmStackEditor::Edited);
   }
   connect(row.kind, &QComboBox::currentIndexChanged, this, [this] {
     ShowRows();
@@ -186,6 +186,7 @@ QCoro::Task<> FilmStackEditor::AskFile(QLineEdit& material) {
       Text::tr("材料ﾌｧｲﾙを開く"), Text::tr("材料ﾌｧｲﾙ(*.ind;*.nk)") + QStringLiteral("|*.ind;*.nk"));
   if (path) {
     material.setText(*path);
+    emit Edited();
   }
 }
 
