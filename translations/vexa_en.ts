@@ -482,12 +482,12 @@ Measuring opens it.</translation>
         <translation>Journal files that are unreadable cannot be restored. They are kept under these names.<byte value="xd"/><byte value="xd"/>%1</translation>
     </message>
     <message>
-        <source>前回のﾌﾟﾛｸﾞﾗﾑは正常に終了していません。測定ﾃﾞｰﾀを復元しますか。<byte value="xd"/><byte value="xd"/>%1<byte value="xd"/><byte value="xd"/>いいえ: 破棄します。<byte value="xd"/>ｷｬﾝｾﾙ: 次の起動まで残します。</source>
-        <translation>The program did not end normally last time. Restore the measured data?<byte value="xd"/><byte value="xd"/>%1<byte value="xd"/><byte value="xd"/>No: discards them.<byte value="xd"/>Cancel: keeps them until the next start.</translation>
+        <source>前回の測定ﾃﾞｰﾀが残っています。復元しますか。<byte value="xd"/><byte value="xd"/>%1<byte value="xd"/><byte value="xd"/>いいえ: 破棄します。<byte value="xd"/>ｷｬﾝｾﾙ: 次の起動まで残します。</source>
+        <translation>Measured data of an earlier session are left. Restore them?<byte value="xd"/><byte value="xd"/>%1<byte value="xd"/><byte value="xd"/>No: discards them.<byte value="xd"/>Cancel: keeps them until the next start.</translation>
     </message>
     <message>
-        <source>前回のﾌﾟﾛｸﾞﾗﾑは正常に終了していません。測定ﾃﾞｰﾀを復元しますか。<byte value="xd"/><byte value="xd"/>%1<byte value="xd"/><byte value="xd"/>壊れた記録があります。読めた記録を復元し、ﾌｧｲﾙの写しを残します。<byte value="xd"/><byte value="xd"/>いいえ: 破棄します。<byte value="xd"/>ｷｬﾝｾﾙ: 次の起動まで残します。</source>
-        <translation>The program did not end normally last time. Restore the measured data?<byte value="xd"/><byte value="xd"/>%1<byte value="xd"/><byte value="xd"/>Some records are damaged. The readable ones are restored, and a copy of the file is kept.<byte value="xd"/><byte value="xd"/>No: discards them.<byte value="xd"/>Cancel: keeps them until the next start.</translation>
+        <source>前回の測定ﾃﾞｰﾀが残っています。復元しますか。<byte value="xd"/><byte value="xd"/>%1<byte value="xd"/><byte value="xd"/>壊れた記録があります。読めた記録を復元し、ﾌｧｲﾙの写しを残します。<byte value="xd"/><byte value="xd"/>いいえ: 破棄します。<byte value="xd"/>ｷｬﾝｾﾙ: 次の起動まで残します。</source>
+        <translation>Measured data of an earlier session are left. Restore them?<byte value="xd"/><byte value="xd"/>%1<byte value="xd"/><byte value="xd"/>Some records are damaged. The readable ones are restored, and a copy of the file is kept.<byte value="xd"/><byte value="xd"/>No: discards them.<byte value="xd"/>Cancel: keeps them until the next start.</translation>
     </message>
     <message>
         <source>ｼﾞｬｰﾅﾙ･ﾌｧｲﾙに書き込めません。測定は続けられますが、ﾌﾟﾛｸﾞﾗﾑが異常終了すると測定ﾃﾞｰﾀは失われます。<byte value="xd"/><byte value="xd"/>%1</source>
@@ -4335,6 +4335,322 @@ Repeats: %4   Background: %5   Reference: %6</translation>
         <source>光学膜厚</source>
         <comment>kind</comment>
         <translation>optical</translation>
+    </message>
+    <message>
+        <source>--%1 は %2 のいずれかです：&quot;%3&quot;</source>
+        <translation>--%1 takes one of %2, not &quot;%3&quot;</translation>
+    </message>
+    <message>
+        <source>--%1 は 440-840 内の FROM-TO です：&quot;%2&quot;</source>
+        <translation>--%1 takes FROM-TO within 440-840, not &quot;%2&quot;</translation>
+    </message>
+    <message>
+        <source>--%1 は 0.1 ～ 10 です：&quot;%2&quot;</source>
+        <translation>--%1 takes 0.1 to 10, not &quot;%2&quot;</translation>
+    </message>
+    <message>
+        <source>%1：環境ファイルとして読み込めません</source>
+        <translation>%1: no readable environment file</translation>
+    </message>
+    <message>
+        <source>%1：規格ファイルとして読み込めません</source>
+        <translation>%1: not a readable standard file</translation>
+    </message>
+    <message>
+        <source>--%1 と --%2 は同時に指定できません</source>
+        <translation>--%1 and --%2 exclude each other</translation>
+    </message>
+    <message>
+        <source>%1：フォルダがありません</source>
+        <translation>%1: no such directory</translation>
+    </message>
+    <message>
+        <source>標準出力に書き込めません</source>
+        <translation>standard output cannot be written</translation>
+    </message>
+    <message>
+        <source>--%1 は %2 ～ %3 の数値です：&quot;%4&quot;</source>
+        <translation>--%1 takes a number from %2 to %3, not &quot;%4&quot;</translation>
+    </message>
+    <message>
+        <source>コマンドがありません。一覧は &quot;vexa-cli --help&quot;</source>
+        <translation>no command given; &quot;vexa-cli --help&quot; lists them</translation>
+    </message>
+    <message>
+        <source>コマンド &quot;%1&quot; はありません。一覧は &quot;vexa-cli --help&quot;</source>
+        <translation>unknown command &quot;%1&quot;; &quot;vexa-cli --help&quot; lists them</translation>
+    </message>
+    <message>
+        <source>%1：書き込めません（%2）</source>
+        <translation>%1: cannot be written (%2)</translation>
+    </message>
+    <message>
+        <source>%1：読み込めません</source>
+        <translation>%1: cannot be read</translation>
+    </message>
+    <message>
+        <source>%1：複数のファイルの出力先はフォルダです</source>
+        <translation>%1: several files go into a directory</translation>
+    </message>
+    <message>
+        <source>--positions は 6 個のピクセル位置です：&quot;%1&quot;</source>
+        <translation>--positions takes six pixel positions, not &quot;%1&quot;</translation>
+    </message>
+    <message>
+        <source>隣り合う輝線位置が同じです</source>
+        <translation>two neighbouring line positions are equal</translation>
+    </message>
+    <message>
+        <source>輝線位置が検出器に合いません</source>
+        <translation>the line positions do not fit the detector</translation>
+    </message>
+    <message>
+        <source>%1：飽和しています</source>
+        <translation>%1: saturated</translation>
+    </message>
+    <message>
+        <source>dispersion には --fixed、--schott、--sellmeier、--file、--substrate のいずれか 1 つを指定してください</source>
+        <translation>dispersion takes one of --fixed, --schott, --sellmeier, --file, --substrate</translation>
+    </message>
+    <message>
+        <source>--%1 は %2 です：&quot;%3&quot;</source>
+        <translation>--%1 takes %2, not &quot;%3&quot;</translation>
+    </message>
+    <message>
+        <source>fit には --substrate を 1 回、--layer を 1 ～ 4 回指定してください</source>
+        <translation>fit takes --substrate once and --layer one to four times</translation>
+    </message>
+    <message>
+        <source>--thickness は全部の層に 1 回ずつ指定するか、指定しないでください</source>
+        <translation>--thickness is given once for each layer or not at all</translation>
+    </message>
+    <message>
+        <source>--thickness は FROM-TO です：&quot;%1&quot;</source>
+        <translation>--thickness takes FROM-TO, not &quot;%1&quot;</translation>
+    </message>
+    <message>
+        <source>--range は 440-840 内の FROM-TO です：&quot;%1&quot;</source>
+        <translation>--range takes FROM-TO within 440-840, not &quot;%1&quot;</translation>
+    </message>
+    <message>
+        <source>スロット %1：%2</source>
+        <translation>slot %1: %2</translation>
+    </message>
+    <message>
+        <source>%1：スロット %2 は空です</source>
+        <translation>%1: slot %2 is empty</translation>
+    </message>
+    <message>
+        <source>judge には --standard FILE.std が必要です</source>
+        <translation>judge needs --standard FILE.std</translation>
+    </message>
+    <message>
+        <source>%1：1024 バイトの検出器ライン 1 ～ 16 本ではありません</source>
+        <translation>%1: not 1 to 16 detector lines of 1024 bytes</translation>
+    </message>
+    <message>
+        <source>%1：書き込めません</source>
+        <translation>%1: cannot be written</translation>
+    </message>
+    <message>
+        <source>標準入力が終わりました</source>
+        <translation>standard input ended</translation>
+    </message>
+    <message>
+        <source>%1 個の試料を %2 回ずつでは、測定が %3 回を超えます</source>
+        <translation>%1 samples, %2 times each, are more than %3 measurements</translation>
+    </message>
+    <message>
+        <source>measure には --out FILE が必要です</source>
+        <translation>measure needs --out FILE</translation>
+    </message>
+    <message>
+        <source>measure には --port N または --device PATH が必要です</source>
+        <translation>measure needs --port N or --device PATH</translation>
+    </message>
+    <message>
+        <source>--store、--lot、--operator は --record とともに指定してください</source>
+        <translation>--store, --lot and --operator belong to --record</translation>
+    </message>
+    <message>
+        <source>--sample-number が試料より多くあります</source>
+        <translation>more --sample-number than samples</translation>
+    </message>
+    <message>
+        <source>%1：その中のファイルに読み込めないものがあります</source>
+        <translation>%1: not all of its files can be read</translation>
+    </message>
+    <message>
+        <source>%1：読み込めないか、64 MiB を超えています</source>
+        <translation>%1: cannot be read, or is above 64 MiB</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; は数値ではありません</source>
+        <translation>&quot;%1&quot; is no number</translation>
+    </message>
+    <message>
+        <source>%1：%2 行目：%3</source>
+        <translation>%1: line %2: %3</translation>
+    </message>
+    <message>
+        <source>見出しに列 &quot;%1&quot; がありません</source>
+        <translation>the heading has no column &quot;%1&quot;</translation>
+    </message>
+    <message>
+        <source>複数の列があります。見出しのある表の列を --column で指定してください</source>
+        <translation>several columns; --column names one of a table with a heading</translation>
+    </message>
+    <message>
+        <source>列が %1 個ですが、見出しは %2 個です</source>
+        <translation>%1 columns, but %2 in the heading</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; が空です</source>
+        <translation>&quot;%1&quot; is empty</translation>
+    </message>
+    <message>
+        <source>--%1 は 0.1 ～ 110 %です：&quot;%2&quot;</source>
+        <translation>--%1 takes 0.1 to 110 percent, not &quot;%2&quot;</translation>
+    </message>
+    <message>
+        <source>%1：数値でも、読み込めるリファレンスファイルでもありません</source>
+        <translation>%1: neither a number nor a readable reference file</translation>
+    </message>
+    <message>
+        <source>records：%1：%2</source>
+        <translation>records: %1: %2</translation>
+    </message>
+    <message>
+        <source>records：records.json を読み込めません</source>
+        <translation>records: records.json cannot be read</translation>
+    </message>
+    <message>
+        <source>records supersede には --by と --reason が必要です</source>
+        <translation>records supersede: --by and a --reason are needed</translation>
+    </message>
+    <message>
+        <source>records：%1 か %2 は差し替え済みか、両方が同じものです</source>
+        <translation>records: %1 or %2 is superseded already, or both are one</translation>
+    </message>
+    <message>
+        <source>records：行 %1 が%2</source>
+        <translation>records: row %1 %2</translation>
+    </message>
+    <message>
+        <source>ありません</source>
+        <translation>is missing</translation>
+    </message>
+    <message>
+        <source>変更されたか、外部から入れられました</source>
+        <translation>was changed or put in from outside</translation>
+    </message>
+    <message>
+        <source>records に &quot;%1&quot; はありません：%2</source>
+        <translation>records: no action &quot;%1&quot;; there are %2</translation>
+    </message>
+    <message>
+        <source>使い方: vexa-cli records %1 %2</source>
+        <translation>usage: vexa-cli records %1 %2</translation>
+    </message>
+    <message>
+        <source>records %1 に --%2 はありません</source>
+        <translation>records %1 has no option --%2</translation>
+    </message>
+    <message>
+        <source>--%1 は日付 yyyy-mm-dd または日時です：&quot;%2&quot;</source>
+        <translation>--%1 takes a date, yyyy-mm-dd, or a time, not &quot;%2&quot;</translation>
+    </message>
+    <message>
+        <source>--%1 は OK、NG、none のいずれかです：&quot;%2&quot;</source>
+        <translation>--%1 takes OK, NG or none, not &quot;%2&quot;</translation>
+    </message>
+    <message>
+        <source>records export には --out が必要です</source>
+        <translation>records export: --out is missing</translation>
+    </message>
+    <message>
+        <source>%1：拡張子は csv、dat、json、jdx のいずれかです</source>
+        <translation>%1: ends in none of csv, dat, json, jdx</translation>
+    </message>
+    <message>
+        <source>%1：データファイルの試料は 10 個までです</source>
+        <translation>%1: a data file holds ten samples at most</translation>
+    </message>
+    <message>
+        <source>records：共有の記録がありません。--to または records.json の &quot;shared&quot; で指定してください</source>
+        <translation>records: no shared store: give --to, or &quot;shared&quot; in records.json</translation>
+    </message>
+    <message>
+        <source>records：&quot;%1&quot; は、パスワードのない PostgreSQL のサービスまたは URI ではありません</source>
+        <translation>records: &quot;%1&quot; is no PostgreSQL service or URI without a password</translation>
+    </message>
+    <message>
+        <source>共有の記録</source>
+        <translation>shared store</translation>
+    </message>
+    <message>
+        <source>reflectance には --%1 LINES.bin が必要です</source>
+        <translation>reflectance needs --%1 LINES.bin</translation>
+    </message>
+    <message>
+        <source>--%1 は western、nelson、またはカンマ区切りの 1 ～ 8 の番号です：&quot;%2&quot;</source>
+        <translation>--%1 takes western, nelson, or numbers from 1 to 8 with commas between, not &quot;%2&quot;</translation>
+    </message>
+    <message>
+        <source>statistics capability には --lower、--upper の一方または両方が必要です</source>
+        <translation>statistics capability takes --lower, --upper or both</translation>
+    </message>
+    <message>
+        <source>--lower は --upper より小さくしてください</source>
+        <translation>--lower has to be below --upper</translation>
+    </message>
+    <message>
+        <source>statistics：&quot;%1&quot; は summary、xmr、capability、grr のいずれでもありません</source>
+        <translation>statistics: &quot;%1&quot; is none of summary, xmr, capability, grr</translation>
+    </message>
+    <message>
+        <source>statistics %1 に --%2 はありません</source>
+        <translation>statistics %1 takes no --%2</translation>
+    </message>
+    <message>
+        <source>%1：準備できません</source>
+        <translation>%1: cannot be prepared</translation>
+    </message>
+    <message>
+        <source>仮想装置が起動しませんでした</source>
+        <translation>the virtual instrument did not start</translation>
+    </message>
+    <message>
+        <source>ファイルは一度に 1 つです</source>
+        <translation>takes one file at a time</translation>
+    </message>
+    <message>
+        <source>--report と --out は一緒に指定してください</source>
+        <translation>--report and --out belong together</translation>
+    </message>
+    <message>
+        <source>FILE は --report や --demo とともには指定できません</source>
+        <translation>FILE belongs to neither --report nor --demo</translation>
+    </message>
+    <message>
+        <source>--report と --demo は同時に指定できません</source>
+        <translation>--report and --demo exclude each other</translation>
+    </message>
+    <message>
+        <source>--title と --operator は --report とともに指定してください</source>
+        <translation>--title and --operator belong to --report</translation>
+    </message>
+    <message>
+        <source>%1：データファイル自身です</source>
+        <translation>%1: is the data file itself</translation>
+    </message>
+    <message>
+        <source>%1：データファイルとして読み込めません</source>
+        <translation>%1: no readable data file</translation>
+    </message>
+    <message>
+        <source>--language は ja または en です：&quot;%1&quot;</source>
+        <translation>--language takes ja or en, not &quot;%1&quot;</translation>
     </message>
 </context>
 </TS>

@@ -10,6 +10,7 @@
 
 #include "app/vexa.h"
 #include "app/window_waits.h"
+#include "base/translation.h"
 #include "files/environment_file.h"
 #include "files/program_settings_file.h"
 #include "files/startup_file.h"
@@ -95,12 +96,12 @@ bool Demonstration::StartInstrument() {
       !WriteStandardFile(state.standardFileName, {HardCoatStandard(), {}, {}}) ||
       !WriteFilmStackFile(program.filmStack, HardCoatStack()) ||
       !WriteProgramSettings(program, directory_)) {
-    Complain(QStringLiteral("%1: cannot be prepared").arg(directory_));
+    Complain(Text::tr("%1：準備できません").arg(directory_));
     return false;
   }
   const bool started = gpib_ ? PlaceLibrary() : StartProcess();
   if (!started) {
-    Complain(QStringLiteral("the virtual instrument did not start"));
+    Complain(Text::tr("仮想装置が起動しませんでした"));
   }
   return started;
 }
@@ -139,7 +140,7 @@ QCoro::Task<int> Demonstration::Drive(VEXA& window) {
   co_await Drawn();
   const bool drawn = window.grab().save(picture);
   if (!drawn) {
-    Complain(QStringLiteral("%1: cannot be written").arg(picture));
+    Complain(Text::tr("%1：書き込めません").arg(picture));
   }
   const bool saved = window.State().currentDataFileName == dialogs_.dataFile;
   co_return drawn&& saved&& messages_.faults == 0 ? 0 : 1;

@@ -126,20 +126,20 @@ struct Options {
 QString Fault(const QCommandLineParser& parser, const Options& options) {
   const qsizetype files = parser.positionalArguments().size();
   if (files > 1) {
-    return QStringLiteral("takes one file at a time");
+    return Text::tr("ファイルは一度に 1 つです");
   }
   const bool report = parser.isSet(options.report);
   if (report != parser.isSet(options.out)) {
-    return QStringLiteral("--report and --out belong together");
+    return Text::tr("--report と --out は一緒に指定してください");
   }
   if (files > 0 && (report || parser.isSet(options.demo))) {
-    return QStringLiteral("FILE belongs to neither --report nor --demo");
+    return Text::tr("FILE は --report や --demo とともには指定できません");
   }
   if (report && parser.isSet(options.demo)) {
-    return QStringLiteral("--report and --demo exclude each other");
+    return Text::tr("--report と --demo は同時に指定できません");
   }
   if (!report && (parser.isSet(options.title) || parser.isSet(options.operatorName))) {
-    return QStringLiteral("--title and --operator belong to --report");
+    return Text::tr("--title と --operator は --report とともに指定してください");
   }
   return {};
 }

@@ -4,6 +4,7 @@
 #include <QFileInfo>
 
 #include "app/unattended_messages.h"
+#include "base/translation.h"
 #include "files/configuration.h"
 #include "files/data_file.h"
 #include "files/program_preferences.h"
@@ -33,7 +34,7 @@ int RunReport(const ReportCommand& command, const QString& programDirectory) {
   // Two files that do not exist would count as the same.
   const QFileInfo pdf(command.pdfFile);
   if (pdf.exists() && pdf == QFileInfo(command.dataFile)) {
-    Complain(QStringLiteral("%1: is the data file itself").arg(command.pdfFile));
+    Complain(Text::tr("%1：データファイル自身です").arg(command.pdfFile));
     return 1;
   }
   UnattendedMessages messages;
@@ -51,7 +52,7 @@ int RunReport(const ReportCommand& command, const QString& programDirectory) {
     messages.Tell(DataFileMessage(content.Fault()));
   }
   if (!state.HasValidSlot()) {
-    Complain(QStringLiteral("%1: no readable data file").arg(command.dataFile));
+    Complain(Text::tr("%1：データファイルとして読み込めません").arg(command.dataFile));
     return 1;
   }
   ComputeThicknesses(session);
@@ -63,7 +64,7 @@ int RunReport(const ReportCommand& command, const QString& programDirectory) {
   request.proof = ProofText(RecordStorePath(programDirectory));
   if (!WritePdf(command.pdfFile, ReportTitle(request), PageLayoutOf(SavedPrintSettings(state)),
                 MakeReport(state, request))) {
-    Complain(QStringLiteral("%1: cannot be written").arg(command.pdfFile));
+    Complain(Text::tr("%1：書き込めません").arg(command.pdfFile));
     return 1;
   }
   return 0;

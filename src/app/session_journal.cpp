@@ -125,4 +125,13 @@ void SessionJournal::End() {
   journal_.Remove();
 }
 
+void SessionJournal::EndUnasked() {
+  const VEXATYPE& state = session_.State();
+  const bool measured = state.backgroundMeasured || state.referenceMeasured ||
+                        state.stock.Count > 0 || state.thicknessHistory.count > 0;
+  if (state.slotsSaved && !measured) {
+    End();
+  }
+}
+
 }  // namespace vexa

@@ -104,6 +104,7 @@ QCoro::Task<> VEXA::OpenFile(QString path) {
 QCoro::Task<> VEXA::EndAtOnce() {
   SetPhase(Phase::kEnding);
   co_await desk_.Finish();
+  journal_.EndUnasked();
   desk_.Close();
   SetPhase(Phase::kEnded);
 }

@@ -5,6 +5,8 @@
 #include <QLibraryInfo>
 #include <QTranslator>
 
+#include "base/translation.h"
+
 // A resource of a static library has to be asked for, outside any namespace.
 static void LoadTranslations() {
   Q_INIT_RESOURCE(translations);
@@ -56,7 +58,7 @@ LanguageRequest TakeLanguageRequest(QStringList& arguments) {
                                                 : QString();
     request.language = LanguageOf(code);
     if (!request.language) {
-      request.fault = QStringLiteral("--language takes ja or en, not \"%1\"").arg(code);
+      request.fault = Text::tr("--language は ja または en です：\"%1\"").arg(code);
       return request;
     }
   }

@@ -109,12 +109,12 @@ constexpr std::array<MessageEntry, kMessageCount> kCatalogue{{
     {Message::kRestoreSession, title::kMessage, MessageIcon::kQuestion,
      MessageButtons::kYesNoCancel,
      QT_TRANSLATE_NOOP("Text",
-                       "前回のﾌﾟﾛｸﾞﾗﾑは正常に終了していません。測定ﾃﾞｰﾀを復元しますか。\r\r%"
+                       "前回の測定ﾃﾞｰﾀが残っています。復元しますか。\r\r%"
                        "1\r\rいいえ: 破棄します。\rｷｬﾝｾﾙ: 次の起動まで残します。")},
     {Message::kRestoreDamagedSession, title::kMessage, MessageIcon::kQuestion,
      MessageButtons::kYesNoCancel,
      QT_TRANSLATE_NOOP("Text",
-                       "前回のﾌﾟﾛｸﾞﾗﾑは正常に終了していません。測定ﾃﾞｰﾀを復元しますか。\r\r%"
+                       "前回の測定ﾃﾞｰﾀが残っています。復元しますか。\r\r%"
                        "1\r\r壊れた記録があります。読めた記録を復元し、ﾌｧｲﾙの写しを残します。\r\rい"
                        "いえ: 破棄します。\rｷｬﾝｾﾙ: 次の起動まで残します。")},
     {Message::kJournalWriteError, title::kWarning, MessageIcon::kWarning, MessageButtons::kOk,

@@ -33,7 +33,7 @@ bool TakeWord(const QCommandLineParser& parser, const QString& name, const QStri
   }
   const qsizetype index = words.indexOf(parser.value(name));
   if (index < 0) {
-    Complain(QStringLiteral("--%1 takes one of %2, not \"%3\"")
+    Complain(Text::tr("--%1 は %2 のいずれかです：\"%3\"")
                  .arg(name, words.join(QStringLiteral(", ")), parser.value(name)));
     return false;
   }
@@ -51,7 +51,7 @@ bool TakeAverage(const QCommandLineParser& parser, ColourSettings& colour) {
   const short to = match.captured(2).toShort();
   if (!match.hasMatch() || from > to || !ReflectanceSpectrum::Contains(from) ||
       !ReflectanceSpectrum::Contains(to)) {
-    Complain(QStringLiteral("--%1 takes FROM-TO within 440-840, not \"%2\"")
+    Complain(Text::tr("--%1 は 440-840 内の FROM-TO です：\"%2\"")
                  .arg(kAverage, parser.value(kAverage)));
     return false;
   }
@@ -81,7 +81,7 @@ bool IndexIsInRange(const QCommandLineParser& parser) {
       parser.isSet(kIndex) ? ParseNumber(parser.value(kIndex)) : std::nullopt;
   const bool inRange = !index || (*index >= kLowest && *index <= kHighest);
   if (!inRange) {
-    Complain(QStringLiteral("--%1 takes 0.1 to 10, not \"%2\"").arg(kIndex, parser.value(kIndex)));
+    Complain(Text::tr("--%1 は 0.1 ～ 10 です：\"%2\"").arg(kIndex, parser.value(kIndex)));
   }
   return inRange;
 }
@@ -133,7 +133,7 @@ bool TakeEnvironment(const QCommandLineParser& parser, Settings& settings,
   const Environment environment = ReadEnvironment(parser.value(kEnv), settings.programDirectory);
   TellAll(environment.notices, messages);
   if (!ApplyEnvironment(environment, settings)) {
-    Complain(QStringLiteral("%1: no readable environment file").arg(parser.value(kEnv)));
+    Complain(Text::tr("%1：環境ファイルとして読み込めません").arg(parser.value(kEnv)));
     return false;
   }
   TellAll(LoadDispersionData(settings).notices, messages);
@@ -148,7 +148,7 @@ bool TakeStandard(const QCommandLineParser& parser, Settings& settings, MessageS
   const ReadResult<StandardContents> contents = ReadStandardFile(path);
   if (!contents) {
     messages.Tell(StandardMessage(path, contents.Fault()));
-    Complain(QStringLiteral("%1: no readable standard file").arg(path));
+    Complain(Text::tr("%1：規格ファイルとして読み込めません").arg(path));
     return false;
   }
   settings.standard = contents->standard;
@@ -163,7 +163,7 @@ ExitStatus TakeAnalysisOptions(const QCommandLineParser& parser, Settings& setti
     return kUsageError;
   }
   if (parser.isSet(kIndex) && parser.isSet(kSubstrate)) {
-    Complain(QStringLiteral("--%1 and --%2 exclude each other").arg(kIndex, kSubstrate));
+    Complain(Text::tr("--%1 と --%2 は同時に指定できません").arg(kIndex, kSubstrate));
     return kUsageError;
   }
   if (!TakeEnvironment(parser, settings, messages)) {

@@ -56,16 +56,16 @@ int RunCommand(const Command& command, const QStringList& arguments) {
   }
   const qsizetype given = parser.positionalArguments().size();
   if (command.files < 0 ? given < -command.files : given != command.files) {
-    Complain(QStringLiteral("usage: vexa-cli %1 %2").arg(command.name, command.arguments));
+    Complain(Text::tr("使い方: vexa-cli %1 %2").arg(command.name, command.arguments));
     return kUsageError;
   }
   if (parser.isSet(option::kDir) && !QFileInfo(parser.value(option::kDir)).isDir()) {
-    Complain(QStringLiteral("%1: no such directory").arg(parser.value(option::kDir)));
+    Complain(Text::tr("%1：フォルダがありません").arg(parser.value(option::kDir)));
     return kUsageError;
   }
   const int status = command.run(parser);
   if (!IsPrinted()) {
-    Complain(QStringLiteral("standard output cannot be written"));
+    Complain(Text::tr("標準出力に書き込めません"));
     return kFailed;
   }
   return status;
@@ -77,7 +77,7 @@ std::optional<Number> Checked(const QString& name, const QString& text, bool ok,
   if (ok && value >= minimum && value <= maximum) {
     return value;
   }
-  Complain(QStringLiteral("--%1 takes a number from %2 to %3, not \"%4\"")
+  Complain(Text::tr("--%1 は %2 ～ %3 の数値です：\"%4\"")
                .arg(name, QString::number(minimum), QString::number(maximum), text));
   return std::nullopt;
 }
@@ -95,7 +95,7 @@ int Run(QStringList arguments) {
     return kUsageError;
   }
   if (arguments.isEmpty()) {
-    Complain(QStringLiteral("no command given; \"vexa-cli --help\" lists them"));
+    Complain(Text::tr("コマンドがありません。一覧は \"vexa-cli --help\""));
     return kUsageError;
   }
   const QString& first = arguments.front();
@@ -112,7 +112,7 @@ int Run(QStringList arguments) {
       return RunCommand(command, arguments.sliced(1));
     }
   }
-  Complain(QStringLiteral("unknown command \"%1\"; \"vexa-cli --help\" lists them").arg(first));
+  Complain(Text::tr("コマンド \"%1\" はありません。一覧は \"vexa-cli --help\"").arg(first));
   return kUsageError;
 }
 

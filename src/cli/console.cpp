@@ -5,6 +5,7 @@
 #include <cmath>
 
 #include "base/number_text.h"
+#include "base/translation.h"
 
 namespace vexa::cli {
 namespace {
@@ -56,7 +57,7 @@ QString SpectrumText(int firstNm, std::span<const double> values) {
 
 bool ComplainUnwritten(const WriteResult& result, const QString& path) {
   if (!result) {
-    Complain(QStringLiteral("%1: cannot be written (%2)").arg(path, result.reason));
+    Complain(Text::tr("%1：書き込めません（%2）").arg(path, result.reason));
   }
   return result.written;
 }

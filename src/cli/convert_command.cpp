@@ -30,7 +30,7 @@ bool ConvertFile(const QString& in, const QString& out, DataFileLayout layout,
   const ReadResult<DataFileContent> content = ReadDataFile(in);
   if (!content) {
     messages.Tell(DataFileMessage(content.Fault()));
-    Complain(QStringLiteral("%1: not read").arg(in));
+    Complain(Text::tr("%1：読み込めません").arg(in));
     return false;
   }
   Session session({});
@@ -43,7 +43,7 @@ int Convert(const QCommandLineParser& parser) {
   const QString out = files.takeLast();
   const bool intoDirectory = QFileInfo(out).isDir();
   if (files.size() > 1 && !intoDirectory) {
-    Complain(QStringLiteral("%1: several files go into a directory").arg(out));
+    Complain(Text::tr("%1：複数のファイルの出力先はフォルダです").arg(out));
     return kUsageError;
   }
   const std::optional<int> number =

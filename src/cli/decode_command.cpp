@@ -34,8 +34,8 @@ std::optional<LinePositions> PositionsOption(const QCommandLineParser& parser) {
     positions[static_cast<std::size_t>(i)] = fields[i].toShort(&ok);
   }
   if (!ok) {
-    Complain(QStringLiteral("--positions takes six pixel positions, not \"%1\"")
-                 .arg(parser.value(kPositions)));
+    Complain(
+        Text::tr("--positions は 6 個のピクセル位置です：\"%1\"").arg(parser.value(kPositions)));
     return std::nullopt;
   }
   return positions;
@@ -54,14 +54,14 @@ int Decode(const QCommandLineParser& parser) {
   }
   const MappedSpectrum mapped = LinesToWaves(*lines, *positions, *startNm);
   if (mapped.values.empty()) {
-    Complain(QStringLiteral("two neighbouring line positions are equal"));
+    Complain(Text::tr("隣り合う輝線位置が同じです"));
     return kFailed;
   }
   if (!FitTheDetector(*positions, *startNm)) {
-    Complain(QStringLiteral("the line positions do not fit the detector"));
+    Complain(Text::tr("輝線位置が検出器に合いません"));
   }
   if (mapped.status == 1) {
-    Complain(QStringLiteral("%1: saturated").arg(path));
+    Complain(Text::tr("%1：飽和しています").arg(path));
   }
   if (parser.isSet(option::kJson)) {
     PrintJson({{QStringLiteral("status"), mapped.status},

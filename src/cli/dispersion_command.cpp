@@ -91,14 +91,15 @@ std::optional<DispersionSetting> TakeSource(const QCommandLineParser& parser) {
     }
   }
   if (given != 1) {
-    Complain(QStringLiteral(
-        "dispersion takes one of --fixed, --schott, --sellmeier, --file, --substrate"));
+    Complain(
+        Text::tr("dispersion には --fixed、--schott、--sellmeier、--file、--substrate のいずれか 1 "
+                 "つを指定してください"));
     return std::nullopt;
   }
   DispersionSetting setting{.kind = chosen->kind, .indexFileName = {}, .dataFileName = {}};
   const QString value = parser.value(chosen->name);
   if (!TakeValue(value, setting)) {
-    Complain(QStringLiteral("--%1 takes %2, not \"%3\"").arg(chosen->name, chosen->value, value));
+    Complain(Text::tr("--%1 は %2 です：\"%3\"").arg(chosen->name, chosen->value, value));
     return std::nullopt;
   }
   return setting;

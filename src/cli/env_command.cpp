@@ -33,7 +33,7 @@ int Environment(const QCommandLineParser& parser) {
     TellAll(EnvironmentDoubts(path, *content), messages);
   } else {
     messages.Tell(EnvironmentMessage(path, content.Fault()));
-    Complain(QStringLiteral("%1: not read").arg(path));
+    Complain(Text::tr("%1：読み込めません").arg(path));
   }
   const auto lines = EnvironmentLines(state);
   if (parser.isSet(option::kJson)) {

@@ -76,11 +76,11 @@ bool TakeLayers(const QCommandLineParser& parser, FilmStackSetting& setting) {
   const QStringList ranges = parser.values(kThickness);
   if (!parser.isSet(kSubstrate) || layers.isEmpty() ||
       static_cast<std::size_t>(layers.size()) > kMostFilmLayers) {
-    Complain(QStringLiteral("fit takes --substrate once and --layer one to four times"));
+    Complain(Text::tr("fit には --substrate を 1 回、--layer を 1 ～ 4 回指定してください"));
     return false;
   }
   if (!ranges.isEmpty() && ranges.size() != layers.size()) {
-    Complain(QStringLiteral("--thickness is given once for each layer or not at all"));
+    Complain(Text::tr("--thickness は全部の層に 1 回ずつ指定するか、指定しないでください"));
     return false;
   }
   setting.substrate = parser.value(kSubstrate);
@@ -89,7 +89,7 @@ bool TakeLayers(const QCommandLineParser& parser, FilmStackSetting& setting) {
     if (!ranges.isEmpty()) {
       const auto range = RangeOf(ranges[i]);
       if (!range) {
-        Complain(QStringLiteral("--thickness takes FROM-TO, not \"%1\"").arg(ranges[i]));
+        Complain(Text::tr("--thickness は FROM-TO です：\"%1\"").arg(ranges[i]));
         return false;
       }
       layer.range = *range;
@@ -101,16 +101,14 @@ bool TakeLayers(const QCommandLineParser& parser, FilmStackSetting& setting) {
 
 bool TakeOptions(const QCommandLineParser& parser, FilmFitOptions& options) {
   if (parser.isSet(kReferenceFree) && parser.isSet(kReferenceFixed)) {
-    Complain(
-        QStringLiteral("--%1 and --%2 exclude each other").arg(kReferenceFree, kReferenceFixed));
+    Complain(Text::tr("--%1 と --%2 は同時に指定できません").arg(kReferenceFree, kReferenceFixed));
     return false;
   }
   if (parser.isSet(kRange)) {
     static const QRegularExpression kWhole(QStringLiteral("^(\\d{3})-(\\d{3})$"));
     const auto match = kWhole.match(parser.value(kRange));
     if (!match.hasMatch()) {
-      Complain(QStringLiteral("--range takes FROM-TO within 440-840, not \"%1\"")
-                   .arg(parser.value(kRange)));
+      Complain(Text::tr("--range は 440-840 内の FROM-TO です：\"%1\"").arg(parser.value(kRange)));
       return false;
     }
     options.fromNm = match.captured(1).toInt();
@@ -185,7 +183,7 @@ std::vector<Fitted> FitValid(const VEXATYPE& state, const FilmFitRequest& reques
   const auto fits = FitFilms(spectra, request.stack, request.ranges, request.options);
   for (std::size_t i = 0; i < fits.size(); ++i) {
     if (const auto* fault = std::get_if<FilmFitFault>(&fits[i])) {
-      Complain(QStringLiteral("slot %1: %2").arg(fitted[i].number).arg(FilmFitFaultText(*fault)));
+      Complain(Text::tr("スロット %1：%2").arg(fitted[i].number).arg(FilmFitFaultText(*fault)));
       fitted[i].fit.layers.assign(
           request.ranges.size(), {kNotANumber, kNotANumber, kNotANumber, kNotANumber, kNotANumber});
     } else {
@@ -232,7 +230,7 @@ int Fit(const QCommandLineParser& parser) {
     return kFailed;
   }
   if (*only != 0 && !state.Slot(*only)->valid) {
-    Complain(QStringLiteral("%1: slot %2 is empty").arg(path).arg(*only));
+    Complain(Text::tr("%1：スロット %2 は空です").arg(path).arg(*only));
     return kFailed;
   }
   const std::vector<Fitted> fitted = FitValid(state, request, *only);

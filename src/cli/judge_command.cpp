@@ -59,7 +59,7 @@ QJsonArray SlotsJson(const VEXATYPE& state) {
 
 int Judge(const QCommandLineParser& parser) {
   if (!parser.isSet(option::kStandard)) {
-    Complain(QStringLiteral("judge needs --standard FILE.std"));
+    Complain(Text::tr("judge には --standard FILE.std が必要です"));
     return kUsageError;
   }
   ConsoleMessages messages(parser.isSet(option::kNo));
@@ -68,7 +68,7 @@ int Judge(const QCommandLineParser& parser) {
   const ReadResult<StandardContents> contents = ReadStandardFile(standard);
   if (!contents) {
     messages.Tell(StandardMessage(standard, contents.Fault()));
-    Complain(QStringLiteral("%1: not a readable standard file").arg(standard));
+    Complain(Text::tr("%1：規格ファイルとして読み込めません").arg(standard));
     return kFailed;
   }
   settings.standard = contents->standard;

@@ -4,6 +4,7 @@
 #include <QFile>
 #include <algorithm>
 
+#include "base/translation.h"
 #include "cli/console.h"
 
 namespace vexa::cli {
@@ -19,7 +20,7 @@ std::optional<LineBuffers> ReadLineFile(const QString& path) {
   const QByteArray bytes = file.read(kLargest + 1);
   const auto size = static_cast<std::size_t>(bytes.size());
   if (size == 0 || size > kLargest || size % kBytesPerLine != 0) {
-    Complain(QStringLiteral("%1: not 1 to 16 detector lines of 1024 bytes").arg(path));
+    Complain(Text::tr("%1：1024 バイトの検出器ライン 1 ～ 16 本ではありません").arg(path));
     return std::nullopt;
   }
   LineBuffers lines;

@@ -64,7 +64,7 @@ class Run {
 
   QCoro::Task<Report> MeasureAll() {
     if (!file_.CanBeWritten()) {
-      Complain(QStringLiteral("%1: cannot be written").arg(plan_.out));
+      Complain(Text::tr("%1：書き込めません").arg(plan_.out));
       co_return report_;
     }
     report_.initialise = co_await StartController();
@@ -175,7 +175,7 @@ class Run {
     Prompt(Text::tr("%1を置いて Enter を押してください: ").arg(what));
     const bool placed = co_await input_.Next();
     if (!placed && !interrupted_) {
-      Complain(QStringLiteral("standard input ended"));
+      Complain(Text::tr("標準入力が終わりました"));
     }
     co_return placed;
   }
@@ -228,7 +228,7 @@ bool TakesRepeats(MeasurePlan& plan, const std::optional<Recipe>& recipe) {
   plan.recipe = recipe;
   const int measurements = plan.samples * plan.Repeats();
   if (measurements > kSlotCount) {
-    Complain(QStringLiteral("%1 samples, %2 times each, are more than %3 measurements")
+    Complain(Text::tr("%1 個の試料を %2 回ずつでは、測定が %3 回を超えます")
                  .arg(plan.samples)
                  .arg(plan.Repeats())
                  .arg(kSlotCount));

@@ -48,15 +48,15 @@ std::optional<MeasurePlan> Read(const QCommandLineParser& parser, const Settings
     return std::nullopt;
   }
   if (!parser.isSet(option::kOut) || parser.value(option::kOut).isEmpty()) {
-    Complain(QStringLiteral("measure needs --out FILE"));
+    Complain(Text::tr("measure には --out FILE が必要です"));
     return std::nullopt;
   }
   if (!parser.isSet(kPort) && !parser.isSet(kDevice)) {
-    Complain(QStringLiteral("measure needs --port N or --device PATH"));
+    Complain(Text::tr("measure には --port N または --device PATH が必要です"));
     return std::nullopt;
   }
   if (parser.isSet(kPort) && parser.isSet(kDevice)) {
-    Complain(QStringLiteral("--port and --device exclude each other"));
+    Complain(Text::tr("--%1 と --%2 は同時に指定できません").arg(kPort, kDevice));
     return std::nullopt;
   }
   MeasurePlan plan;
@@ -72,11 +72,11 @@ std::optional<MeasurePlan> Read(const QCommandLineParser& parser, const Settings
   plan.operatorName = parser.value(kOperator);
   plan.sampleNumbers = parser.values(kSampleNumber);
   if (!plan.record && (parser.isSet(kStore) || parser.isSet(kLot) || parser.isSet(kOperator))) {
-    Complain(QStringLiteral("--store, --lot and --operator belong to --record"));
+    Complain(Text::tr("--store、--lot、--operator は --record とともに指定してください"));
     return std::nullopt;
   }
   if (plan.sampleNumbers.size() > plan.samples) {
-    Complain(QStringLiteral("more --sample-number than samples"));
+    Complain(Text::tr("--sample-number が試料より多くあります"));
     return std::nullopt;
   }
   return plan;
@@ -127,7 +127,7 @@ ExitStatus TakeRecipe(const QCommandLineParser& parser, Settings& settings,
   const RecipeInForce applied = ApplyRecipe(*recipe, settings);
   TellAll(applied.notices, messages);
   if (!applied.complete) {
-    Complain(QStringLiteral("%1: not all of its files can be read").arg(path));
+    Complain(Text::tr("%1：その中のファイルに読み込めないものがあります").arg(path));
     return kFailed;
   }
   return kDone;

@@ -6,6 +6,7 @@
 
 #include "base/code_page.h"
 #include "base/number_text.h"
+#include "base/translation.h"
 #include "cli/console.h"
 
 namespace vexa::cli {
@@ -16,12 +17,12 @@ constexpr qint64 kLargestFile = 64LL * 1024 * 1024;
 std::optional<QString> ReadText(const QString& path) {
   QFile file(path);
   if (!file.open(QIODevice::ReadOnly)) {
-    Complain(QStringLiteral("%1: cannot be read").arg(path));
+    Complain(Text::tr("%1：読み込めません").arg(path));
     return std::nullopt;
   }
   const QByteArray bytes = file.read(kLargestFile + 1);
   if (file.error() != QFile::NoError || bytes.size() > kLargestFile) {
-    Complain(QStringLiteral("%1: cannot be read, or is above 64 MiB").arg(path));
+    Complain(Text::tr("%1：読み込めないか、64 MiB を超えています").arg(path));
     return std::nullopt;
   }
   QStringDecoder utf8(QStringDecoder::Utf8);
@@ -54,13 +55,13 @@ class RowReader {
   [[nodiscard]] std::optional<double> Number(qsizetype column) const {
     const std::optional<double> number = ParseNumber(cells_[column]);
     if (!number) {
-      Fault(QStringLiteral("\"%1\" is no number").arg(cells_[column]));
+      Fault(Text::tr("\"%1\" は数値ではありません").arg(cells_[column]));
     }
     return number;
   }
 
   void Fault(const QString& text) const {
-    Complain(QStringLiteral("%1: line %2: %3").arg(path_).arg(line_).arg(text));
+    Complain(Text::tr("%1：%2 行目：%3").arg(path_).arg(line_).arg(text));
   }
 
  private:
@@ -115,7 +116,7 @@ std::optional<std::vector<qsizetype>> FindColumns(const RowReader& reader,
   for (const QString& name : names) {
     const qsizetype column = reader.Cells().indexOf(name);
     if (column < 0) {
-      reader.Fault(QStringLiteral("the heading has no column \"%1\"").arg(name));
+      reader.Fault(Text::tr("見出しに列 \"%1\" がありません").arg(name));
       return std::nullopt;
     }
     columns.push_back(column);
@@ -135,7 +136,8 @@ std::optional<std::vector<double>> ReadOnlyColumn(RowReader& reader) {
   std::vector<double> numbers;
   for (bool first = true; reader.Next(); first = false) {
     if (reader.Cells().size() != 1) {
-      reader.Fault(QStringLiteral("several columns; --column names one of a table with a heading"));
+      reader.Fault(
+          Text::tr("複数の列があります。見出しのある表の列を --column で指定してください"));
       return std::nullopt;
     }
     if (first && IsHeading(reader.Cells().front())) {
@@ -187,15 +189,14 @@ std::optional<LabelledNumbers> ReadLabelledNumbers(const QString& path,
   }
   while (reader.Next()) {
     if (reader.Cells().size() != width) {
-      reader.Fault(QStringLiteral("%1 columns, but %2 in the heading")
-                       .arg(reader.Cells().size())
-                       .arg(width));
+      reader.Fault(
+          Text::tr("列が %1 個ですが、見出しは %2 個です").arg(reader.Cells().size()).arg(width));
       return std::nullopt;
     }
     for (std::size_t i = 0; i < result.labels.size(); ++i) {
       const QString& label = reader.Cells()[(*columns)[i]];
       if (label.isEmpty()) {
-        reader.Fault(QStringLiteral("\"%1\" is empty").arg(labelColumns[static_cast<int>(i)]));
+        reader.Fault(Text::tr("\"%1\" が空です").arg(labelColumns[static_cast<int>(i)]));
         return std::nullopt;
       }
       result.labels[i].append(label);

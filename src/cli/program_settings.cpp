@@ -26,7 +26,7 @@ bool LoadDataFile(const QString& path, Session& session, MessageService& message
   const ReadResult<DataFileContent> content = ReadDataFile(path);
   if (!content) {
     messages.Tell(DataFileMessage(content.Fault()));
-    Complain(QStringLiteral("%1: not read").arg(path));
+    Complain(Text::tr("%1：読み込めません").arg(path));
     return false;
   }
   (void)session.LoadSlots(SlotsWith(*content, {}), path, content->comment);
@@ -47,8 +47,8 @@ ExitStatus TakeReferenceReflectance(const QCommandLineParser& parser, Settings& 
   const QString value = parser.value(option::kReferenceReflectance);
   if (const std::optional<double> percent = ParseNumber(value)) {
     if (*percent < 0.1 || *percent > 110.0) {
-      Complain(QStringLiteral("--%1 takes 0.1 to 110 percent, not \"%2\"")
-                   .arg(option::kReferenceReflectance, value));
+      Complain(
+          Text::tr("--%1 は 0.1 ～ 110 %です：\"%2\"").arg(option::kReferenceReflectance, value));
       return kUsageError;
     }
     std::ranges::fill(settings.referenceReflectance.Values(), *percent);
@@ -56,7 +56,7 @@ ExitStatus TakeReferenceReflectance(const QCommandLineParser& parser, Settings& 
   }
   const auto reflectance = ReadIndexFile(value);
   if (!reflectance) {
-    Complain(QStringLiteral("%1: neither a number nor a readable reference file").arg(value));
+    Complain(Text::tr("%1：数値でも、読み込めるリファレンスファイルでもありません").arg(value));
     return kFailed;
   }
   settings.referenceReflectance = *reflectance;

@@ -1,40 +1,14 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "cli/records_actions.h"
 
+#include "base/translation.h"
 #include "cli/program_settings.h"
+#include "records/store_fault.h"
 
 namespace vexa::cli {
 
-QString FaultText(StoreFault fault) {
-  switch (fault) {
-    case StoreFault::kNone:
-      break;
-    case StoreFault::kFull:
-      return QStringLiteral("the disk is full");
-    case StoreFault::kLocked:
-      return QStringLiteral("another program holds it");
-    case StoreFault::kReadOnly:
-      return QStringLiteral("it cannot be opened for this, or is read-only");
-    case StoreFault::kDamaged:
-      return QStringLiteral("it is damaged, or no record store");
-    case StoreFault::kMissing:
-      return QStringLiteral("there is none");
-    case StoreFault::kForeign:
-      return QStringLiteral("it is no record store, or one of a newer program");
-    case StoreFault::kRefused:
-      return QStringLiteral("the store refuses it");
-    case StoreFault::kUnreachable:
-      return QStringLiteral("the server cannot be reached");
-    case StoreFault::kOtherStore:
-      return QStringLiteral("it holds rows of another store under this station's name");
-    case StoreFault::kFailed:
-      return QStringLiteral("failed");
-  }
-  return QStringLiteral("done");
-}
-
 ExitStatus ComplainOf(const QString& what, StoreFault fault) {
-  Complain(QStringLiteral("records: %1: %2").arg(what, FaultText(fault)));
+  Complain(Text::tr("records：%1：%2").arg(what, StoreFaultText(fault)));
   return kFailed;
 }
 
@@ -59,7 +33,7 @@ bool OpenStore(const QCommandLineParser& parser, RecordStore::Mode mode, RecordS
 std::optional<RecordSettings> TakeRecordSettings(const QCommandLineParser& parser) {
   std::optional<RecordSettings> settings = ReadRecordSettings(ProgramDirectory(parser));
   if (!settings) {
-    Complain(QStringLiteral("records: records.json cannot be read"));
+    Complain(Text::tr("records：records.json を読み込めません"));
   }
   return settings;
 }

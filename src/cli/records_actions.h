@@ -39,9 +39,6 @@ int VerifyStore(const QCommandLineParser& parser, const QStringList& arguments);
 int SyncStore(const QCommandLineParser& parser, const QStringList& arguments);
 int BackUpStore(const QCommandLineParser& parser, const QStringList& arguments);
 
-/// The fault in words.
-[[nodiscard]] QString FaultText(StoreFault fault);
-
 /// Complains "records: WHAT: FAULT"; the exit status of a failure.
 ExitStatus ComplainOf(const QString& what, StoreFault fault);
 

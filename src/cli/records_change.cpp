@@ -73,7 +73,7 @@ int ImportFiles(const QCommandLineParser& parser, const QStringList& arguments) 
 
 int SupersedeRecord(const QCommandLineParser& parser, const QStringList& arguments) {
   if (!parser.isSet(kBy) || parser.value(kReason).trimmed().isEmpty()) {
-    Complain(QStringLiteral("records supersede: --by and a --reason are needed"));
+    Complain(Text::tr("records supersede には --by と --reason が必要です"));
     return kUsageError;
   }
   const std::optional<RecordSettings> settings = TakeRecordSettings(parser);
@@ -89,7 +89,7 @@ int SupersedeRecord(const QCommandLineParser& parser, const QStringList& argumen
   decision.station = settings->station;
   const StoreFault fault = Supersede(store, arguments.first(), parser.value(kBy), decision);
   if (fault == StoreFault::kRefused) {
-    Complain(QStringLiteral("records: %1 or %2 is superseded already, or both are one")
+    Complain(Text::tr("records：%1 か %2 は差し替え済みか、両方が同じものです")
                  .arg(arguments.first(), parser.value(kBy)));
     return kFailed;
   }
@@ -125,11 +125,11 @@ int VerifyStore(const QCommandLineParser& parser, const QStringList& /*arguments
     Print(Text::tr("%1 rows, head %2\n").arg(check.value.rows).arg(head));
   }
   if (!intact) {
-    Complain(QStringLiteral("records: row %1 %2")
+    Complain(Text::tr("records：行 %1 が%2")
                  .arg(check.value.firstDamaged)
                  .arg(check.value.damage == ChainCheck::Damage::kMissing
-                          ? QStringLiteral("is missing")
-                          : QStringLiteral("was changed or put in from outside")));
+                          ? Text::tr("ありません")
+                          : Text::tr("変更されたか、外部から入れられました")));
   }
   return intact ? kDone : kFailed;
 }

@@ -99,17 +99,17 @@ int Records(const QCommandLineParser& parser) {
   const QString name = arguments.takeFirst();
   const auto action = std::ranges::find(Actions(), name, &Action::name);
   if (action == Actions().end()) {
-    Complain(QStringLiteral("records: no action \"%1\"; there are %2").arg(name, ActionNames()));
+    Complain(Text::tr("records に \"%1\" はありません：%2").arg(name, ActionNames()));
     return kUsageError;
   }
   if (arguments.size() < action->least || (action->most >= 0 && arguments.size() > action->most)) {
-    Complain(QStringLiteral("usage: vexa-cli records %1 %2").arg(name, action->arguments));
+    Complain(Text::tr("使い方: vexa-cli records %1 %2").arg(name, action->arguments));
     return kUsageError;
   }
   const QStringList common{kStore, option::kJson, option::kDir, option::kNo};
   for (const QString& given : parser.optionNames()) {
     if (!action->options.contains(given) && !common.contains(given)) {
-      Complain(QStringLiteral("records %1 has no option --%2").arg(name, given));
+      Complain(Text::tr("records %1 に --%2 はありません").arg(name, given));
       return kUsageError;
     }
   }

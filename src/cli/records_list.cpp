@@ -2,6 +2,7 @@
 #include <limits>
 
 #include "base/date_text.h"
+#include "base/translation.h"
 #include "cli/command_line.h"
 #include "cli/program_settings.h"
 #include "cli/records_actions.h"
@@ -38,8 +39,8 @@ bool TakeDate(const QCommandLineParser& parser, const QString& name, bool end, Q
   }
   const std::optional<Date> date = ParseDate(parser.value(name));
   if (!date) {
-    Complain(QStringLiteral("--%1 takes a date, yyyy-mm-dd, or a time, not \"%2\"")
-                 .arg(name, parser.value(name)));
+    Complain(
+        Text::tr("--%1 は日付 yyyy-mm-dd または日時です：\"%2\"").arg(name, parser.value(name)));
     return false;
   }
   time = !end ? date->time : date->day ? date->time.addDays(1) : date->time.addMSecs(1);
@@ -56,7 +57,7 @@ bool TakeVerdict(const QCommandLineParser& parser, std::optional<Verdict>& verdi
       return true;
     }
   }
-  Complain(QStringLiteral("--%1 takes OK, NG or none, not \"%2\"")
+  Complain(Text::tr("--%1 は OK、NG、none のいずれかです：\"%2\"")
                .arg(kVerdict, parser.value(kVerdict)));
   return false;
 }

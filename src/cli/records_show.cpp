@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "base/number_text.h"
+#include "base/translation.h"
 #include "cli/analysis_settings.h"
 #include "cli/program_settings.h"
 #include "cli/records_actions.h"
@@ -151,7 +152,7 @@ int EvaluateRecords(const QCommandLineParser& parser, const QStringList& argumen
 
 int ExportFiles(const QCommandLineParser& parser, const QStringList& arguments) {
   if (!parser.isSet(option::kOut)) {
-    Complain(QStringLiteral("records export: --out is missing"));
+    Complain(Text::tr("records export には --out が必要です"));
     return kUsageError;
   }
   const QString path = parser.value(option::kOut);
@@ -163,13 +164,13 @@ int ExportFiles(const QCommandLineParser& parser, const QStringList& arguments) 
     case ExportOutcome::kWritten:
       break;
     case ExportOutcome::kUnknownKind:
-      Complain(QStringLiteral("%1: ends in none of csv, dat, json, jdx").arg(path));
+      Complain(Text::tr("%1：拡張子は csv、dat、json、jdx のいずれかです").arg(path));
       return kUsageError;
     case ExportOutcome::kTooMany:
-      Complain(QStringLiteral("%1: a data file holds ten samples at most").arg(path));
+      Complain(Text::tr("%1：データファイルの試料は 10 個までです").arg(path));
       return kFailed;
     case ExportOutcome::kNotWritten:
-      Complain(QStringLiteral("%1: cannot be written").arg(path));
+      Complain(Text::tr("%1：書き込めません").arg(path));
       return kFailed;
   }
   if (parser.isSet(option::kJson)) {

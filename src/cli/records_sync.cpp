@@ -14,7 +14,9 @@ int SyncStore(const QCommandLineParser& parser, const QStringList& /*arguments*/
   const QString connection =
       parser.isSet(records_option::kTo) ? parser.value(records_option::kTo) : settings->shared;
   if (connection.isEmpty()) {
-    Complain(QStringLiteral("records: no shared store: give --to, or \"shared\" in records.json"));
+    Complain(
+        Text::tr("records：共有の記録がありません。--to または records.json の \"shared\" "
+                 "で指定してください"));
     return kUsageError;
   }
   RecordStore local;
@@ -24,13 +26,15 @@ int SyncStore(const QCommandLineParser& parser, const QStringList& /*arguments*/
   SharedStore shared;
   const StoreFault opened = shared.Open(connection);
   if (opened == StoreFault::kRefused) {
-    Complain(QStringLiteral("records: \"%1\" is no PostgreSQL service or URI without a password")
-                 .arg(parser.isSet(records_option::kTo) ? QStringLiteral("--to")
-                                                        : QStringLiteral("shared")));
+    Complain(
+        Text::tr(
+            "records：\"%1\" は、パスワードのない PostgreSQL のサービスまたは URI ではありません")
+            .arg(parser.isSet(records_option::kTo) ? QStringLiteral("--to")
+                                                   : QStringLiteral("shared")));
     return kUsageError;
   }
   if (opened != StoreFault::kNone) {
-    return ComplainOf(QStringLiteral("shared store"), opened);
+    return ComplainOf(Text::tr("共有の記録"), opened);
   }
   const SharedStatus status =
       shared.Send(local, [](const SharedStatus& /*soFar*/) { return true; });
@@ -39,9 +43,8 @@ int SyncStore(const QCommandLineParser& parser, const QStringList& /*arguments*/
   } else {
     Print(Text::tr("%1 sent, %2 waiting\n").arg(status.sent).arg(status.waiting));
   }
-  return status.fault == StoreFault::kNone
-             ? kDone
-             : ComplainOf(QStringLiteral("shared store"), status.fault);
+  return status.fault == StoreFault::kNone ? kDone
+                                           : ComplainOf(Text::tr("共有の記録"), status.fault);
 }
 
 }  // namespace vexa::cli

@@ -49,7 +49,7 @@ int Reflectance(const QCommandLineParser& parser) {
                                      {QStringLiteral("sample"), {}}}};
   for (const FrameOption& frame : frames) {
     if (!parser.isSet(frame.name)) {
-      Complain(QStringLiteral("reflectance needs --%1 LINES.bin").arg(frame.name));
+      Complain(Text::tr("reflectance には --%1 LINES.bin が必要です").arg(frame.name));
       return kUsageError;
     }
   }
@@ -63,7 +63,7 @@ int Reflectance(const QCommandLineParser& parser) {
     const MappedSpectrum mapped = LinesToWaves(*lines, kDefaultLinePositions, kDetectorStartNm);
     std::ranges::copy(mapped.values, frame.spectrum.Values().begin());
     if (mapped.status != 0) {
-      Complain(QStringLiteral("%1: saturated").arg(path));
+      Complain(Text::tr("%1：飽和しています").arg(path));
       status = mapped.status;
     }
   }

@@ -84,7 +84,7 @@ int Standard(const QCommandLineParser& parser) {
   const ReadResult<StandardContents> contents = ReadStandardFile(path);
   if (!contents) {
     messages.Tell(StandardMessage(path, contents.Fault()));
-    Complain(QStringLiteral("%1: not a readable standard file").arg(path));
+    Complain(Text::tr("%1：規格ファイルとして読み込めません").arg(path));
     if (parser.isSet(option::kJson)) {
       PrintJson({{QStringLiteral("read"), false}});
     }

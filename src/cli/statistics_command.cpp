@@ -90,8 +90,7 @@ std::optional<std::vector<RunRule>> ChosenRules(const QCommandLineParser& parser
     }
   }
   if (static_cast<qsizetype>(rules.size()) != parts.size()) {
-    Complain(QStringLiteral("--%1 takes western, nelson, or numbers from 1 to 8 with commas "
-                            "between, not \"%2\"")
+    Complain(Text::tr("--%1 は western、nelson、またはカンマ区切りの 1 ～ 8 の番号です：\"%2\"")
                  .arg(kRules, text));
     return std::nullopt;
   }
@@ -135,11 +134,11 @@ int Capability(const QCommandLineParser& parser, const QString& path) {
     return kUsageError;
   }
   if (!limits.lower && !limits.upper) {
-    Complain(QStringLiteral("statistics capability takes --lower, --upper or both"));
+    Complain(Text::tr("statistics capability には --lower、--upper の一方または両方が必要です"));
     return kUsageError;
   }
   if (limits.lower && limits.upper && *limits.lower >= *limits.upper) {
-    Complain(QStringLiteral("--lower has to be below --upper"));
+    Complain(Text::tr("--lower は --upper より小さくしてください"));
     return kUsageError;
   }
   const auto values = ReadColumn(parser, path);
@@ -199,13 +198,13 @@ int Statistics(const QCommandLineParser& parser) {
   const QStringList given = parser.positionalArguments();
   const auto kind = std::ranges::find(kKinds, given[0], &Kind::name);
   if (kind == kKinds.end()) {
-    Complain(QStringLiteral("statistics: \"%1\" is none of summary, xmr, capability, grr")
+    Complain(Text::tr("statistics：\"%1\" は summary、xmr、capability、grr のいずれでもありません")
                  .arg(given[0]));
     return kUsageError;
   }
   for (const QString& name : {kBaseline, kRules, kLower, kUpper, kTolerance}) {
     if (parser.isSet(name) && !kind->options.contains(name)) {
-      Complain(QStringLiteral("statistics %1 takes no --%2").arg(kind->name, name));
+      Complain(Text::tr("statistics %1 に --%2 はありません").arg(kind->name, name));
       return kUsageError;
     }
   }

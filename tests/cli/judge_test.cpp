@@ -111,10 +111,10 @@ TEST_F(Judging, StandardsThatAreOffOrOddAreSafe) {
 }
 
 TEST_F(Judging, UnreadableFilesEndWithStatusOne) {
-  const Outcome missing = Run("judge @missing.csv --standard @a.std");
+  const Outcome missing = Run("judge @missing.csv --standard @a.std --language en");
   EXPECT_EQ(missing.status, 1);
   EXPECT_EQ(missing.out, "");
-  EXPECT_TRUE(missing.err.contains("missing.csv: not read\n"));
+  EXPECT_TRUE(missing.err.contains("missing.csv: cannot be read\n"));
   files.Write("a.std", "VEXA-KT 440-840 Ver 2.99 Standard File\r\n");
   const Outcome old = Judge("--json");
   EXPECT_EQ(old.status, 1);

