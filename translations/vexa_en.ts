@@ -4652,5 +4652,9 @@ Repeats: %4   Background: %5   Reference: %6</translation>
         <source>--language は ja または en です：&quot;%1&quot;</source>
         <translation>--language takes ja or en, not &quot;%1&quot;</translation>
     </message>
+    <message>
+        <source>ﾌｫﾙﾀﾞ</source>
+        <translation>folder</translation>
+    </message>
 </context>
 </TS>

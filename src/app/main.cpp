@@ -153,6 +153,7 @@ int main(int argc, char* argv[]) {
   QApplication application(argc, argv);
   QApplication::setApplicationName(QStringLiteral("vexa"));
   QApplication::setApplicationVersion(QStringLiteral(VEXA_VERSION));
+  vexa::TellTooLargeFilesAsErrors();
   vexa::ApplyTheme(application);
   QStringList arguments = QApplication::arguments();
   const vexa::LanguageRequest request = vexa::TakeLanguageRequest(arguments);

@@ -27,6 +27,10 @@ void Wake(int /*number*/) {
 
 }  // namespace
 
+void TellTooLargeFilesAsErrors() {
+  std::signal(SIGXFSZ, SIG_IGN);
+}
+
 EndSignals::EndSignals(std::function<void()> asked) {
   descriptor_ = ::eventfd(0, EFD_NONBLOCK | EFD_CLOEXEC);
   if (descriptor_ < 0) {

@@ -7,6 +7,10 @@
 
 namespace vexa {
 
+/// Lets writing beyond the greatest size of a file fail as any other, instead of ending the
+/// program.
+void TellTooLargeFilesAsErrors();
+
 /// Turns SIGINT, SIGTERM and SIGHUP into a call in the event loop, and lets writing to a closed
 /// pipe fail instead of ending the program, whatever threads there are. To be made after the
 /// application object, and one at a time.

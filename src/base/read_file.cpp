@@ -8,6 +8,8 @@
 #include <QFile>
 #include <cerrno>
 
+#include "base/held_file.h"
+
 namespace vexa {
 namespace {
 
@@ -25,6 +27,9 @@ FileFault OpenFault() {
 }  // namespace
 
 ReadResult<QByteArray> ReadRegularFile(const QString& path, qsizetype largest) {
+  if (HeldFile::Holds(path)) {
+    return FileFault{.kind = FileFaultKind::kNotRegular};
+  }
   // Opening a pipe waits for its other end unless it is told not to.
   const int descriptor =
       ::open(QFile::encodeName(path).constData(), O_RDONLY | O_NONBLOCK | O_NOCTTY | O_CLOEXEC);

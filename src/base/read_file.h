@@ -12,7 +12,7 @@ namespace vexa {
 inline constexpr qsizetype kLargestFile = qsizetype{64} * 1024 * 1024;
 
 /// The bytes of a regular file of at most `largest` bytes. Anything else of that name (a pipe, a
-/// socket, a device) is a fault at once: reading it might never end.
+/// socket, a device) is a fault at once: reading it might never end. So is a held file.
 ReadResult<QByteArray> ReadRegularFile(const QString& path, qsizetype largest = kLargestFile);
 
 }  // namespace vexa

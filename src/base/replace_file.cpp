@@ -10,6 +10,7 @@
 #include <cerrno>
 #include <cstring>
 
+#include "base/held_file.h"
 #include "base/translation.h"
 
 namespace vexa {
@@ -44,10 +45,19 @@ WriteResult Failed(int error) {
 
 }  // namespace
 
+WriteResult MayReplaceFile(const QString& path) {
+  const QFileInfo file(path);
+  if (file.exists() && (!file.isFile() || HeldFile::Holds(path))) {
+    return {false, Text::tr("通常のﾌｧｲﾙではありません。")};
+  }
+  const QFileInfo folder(file.absolutePath());
+  return !folder.isDir() ? Failed(ENOENT) : folder.isWritable() ? WriteResult{} : Failed(EACCES);
+}
+
 WriteResult ReplaceFile(const QString& path, const QByteArray& bytes) {
   // A device or a pipe would be replaced by a file.
-  if (const QFileInfo there(path); there.exists() && !there.isFile()) {
-    return {false, Text::tr("通常のﾌｧｲﾙではありません。")};
+  if (const WriteResult may = MayReplaceFile(path); !may) {
+    return may;
   }
   QSaveFile file(path);
   errno = 0;

@@ -19,6 +19,10 @@ struct [[nodiscard]] WriteResult {
 /// left as it was.
 WriteResult ReplaceFile(const QString& path, const QByteArray& bytes);
 
+/// Whether a file of that name could be made or replaced now: its folder takes files, and no
+/// device, pipe, folder or held file stands in its place.
+WriteResult MayReplaceFile(const QString& path);
+
 /// Makes the coming and going of names in a directory as lasting as the bytes behind them.
 [[nodiscard]] bool FlushDirectory(const QString& directory);
 

@@ -28,7 +28,7 @@ QJsonValue ToJson(const std::optional<Status>& status) {
 
 // The statuses of the steps made so far.
 struct Report {
-  Status initialise = 0;
+  std::optional<Status> initialise;
   std::optional<Status> background;
   std::optional<Status> reference;
   QJsonArray samples;
@@ -63,8 +63,7 @@ class Run {
   }
 
   QCoro::Task<Report> MeasureAll() {
-    if (!file_.CanBeWritten()) {
-      Complain(Text::tr("%1：書き込めません").arg(plan_.out));
+    if (!ComplainUnwritten(file_.MayBeWritten(), plan_.out)) {
       co_return report_;
     }
     report_.initialise = co_await StartController();
@@ -200,7 +199,7 @@ class Run {
 void PrintReport(const Report& report, bool json) {
   if (json) {
     PrintJson(
-        {{QStringLiteral("initialise"), report.initialise},
+        {{QStringLiteral("initialise"), ToJson(report.initialise)},
          {QStringLiteral("background"), ToJson(report.background)},
          {QStringLiteral("reference"), ToJson(report.reference)},
          {QStringLiteral("samples"), report.samples},
@@ -212,7 +211,7 @@ void PrintReport(const Report& report, bool json) {
       Print(QStringLiteral("%1 %2\n").arg(name, -12).arg(status.toInt(), 3));
     }
   };
-  line(QStringLiteral("initialise"), report.initialise);
+  line(QStringLiteral("initialise"), ToJson(report.initialise));
   line(QStringLiteral("background"), ToJson(report.background));
   line(QStringLiteral("reference"), ToJson(report.reference));
   for (qsizetype i = 0; i < report.samples.size(); ++i) {

@@ -2,7 +2,6 @@
 #include "cli/sample_file.h"
 
 #include <QFile>
-#include <QFileInfo>
 #include <algorithm>
 #include <utility>
 
@@ -26,20 +25,14 @@ QString CopyName(const QString& path) {
 
 SampleFile::SampleFile(QString path) : path_(std::move(path)), samplesBefore_(SamplesIn(path_)) {}
 
-bool SampleFile::CanBeWritten() const {
-  const QFileInfo file(path_);
-  const QFileInfo directory(file.absolutePath());
-  return directory.isDir() && directory.isWritable() && (!file.exists() || file.isFile());
-}
-
 WriteResult SampleFile::Save(const VEXATYPE& state) {
   samplesNow_ = static_cast<int>(std::ranges::count_if(
       state.measurementSlots, [](const MeasurementSlot& slot) { return bool{slot.valid}; }));
   if (samplesNow_ < samplesBefore_ && !copied_) {
     const QString copy = CopyName(path_);
     QFile::remove(copy);
-    if (!QFile::copy(path_, copy)) {
-      return {false, copy};
+    if (QFile earlier(path_); !earlier.copy(copy)) {
+      return {false, copy + QStringLiteral(": ") + earlier.errorString()};
     }
     copied_ = true;
   }

@@ -14,8 +14,8 @@ class SampleFile {
  public:
   explicit SampleFile(QString path);
 
-  /// Whether its directory takes files; said before the instrument is asked for anything.
-  [[nodiscard]] bool CanBeWritten() const;
+  /// Whether it can be written; said before the instrument is asked for anything.
+  [[nodiscard]] WriteResult MayBeWritten() const { return MayReplaceFile(path_); }
 
   /// Puts all valid slots on the disk.
   WriteResult Save(const VEXATYPE& state);

@@ -7,13 +7,26 @@
 namespace vexa {
 namespace {
 
+// The file that a setting names; empty when it names none.
+QString NamedFile(const DispersionSetting& setting) {
+  switch (setting.kind) {
+    case DispersionKind::kIndexFile:
+      return setting.indexFileName;
+    case DispersionKind::kSubstrate:
+      return setting.dataFileName;
+    default:
+      return {};
+  }
+}
+
 ReflectanceSpectrum Build(Flag asReflectance, const DispersionSetting& setting, const QString& name,
                           SpectraBuilt& built) {
   const Dispersion dispersion = GetBunsanArray(asReflectance, setting);
   if (dispersion.notice) {
     built.notices << *dispersion.notice;
   }
-  if (const std::optional<MessageCall> message = DispersionMessage(dispersion.status, name)) {
+  if (std::optional<MessageCall> message = DispersionMessage(dispersion.status, name)) {
+    message->details = NamedFile(setting);
     built.notices << *message;
     built.all = false;
   }

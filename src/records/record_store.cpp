@@ -13,11 +13,13 @@
 #include "records/sync_path.h"
 
 namespace vexa {
+
 StoreFault RecordStore::Open(const QString& path, Mode mode, int waitMs) {
   path_ = path;
   if (mode == Mode::kRead && !QFileInfo::exists(path)) {
     return StoreFault::kMissing;
   }
+  held_.emplace(path);
   StoreFault fault = session_.Open(QStringLiteral("QSQLITE"), path,
                                    QStringLiteral("QSQLITE_BUSY_TIMEOUT=%1").arg(waitMs));
   if (fault == StoreFault::kNone) {
@@ -30,6 +32,11 @@ StoreFault RecordStore::Open(const QString& path, Mode mode, int waitMs) {
   }
   identity_ = *identity;
   return StoreFault::kNone;
+}
+
+void RecordStore::Close() {
+  session_.Close();
+  held_.reset();
 }
 
 bool RecordStore::IsInPlace() const {

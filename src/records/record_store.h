@@ -7,6 +7,7 @@
 #include <functional>
 #include <optional>
 
+#include "base/held_file.h"
 #include "records/record_source.h"
 #include "records/row.h"
 #include "records/sql_session.h"
@@ -44,7 +45,7 @@ class RecordStore : public RecordSource {
   static constexpr int kWaitMs = 5000;
 
   [[nodiscard]] StoreFault Open(const QString& path, Mode mode, int waitMs = kWaitMs);
-  void Close() { session_.Close(); }
+  void Close();
 
   /// Open, and the file still has its name.
   [[nodiscard]] bool IsInPlace() const;
@@ -98,6 +99,7 @@ class RecordStore : public RecordSource {
   [[nodiscard]] Answer<QList<StoredRow>> Rows(const QString& condition,
                                               const QVariantList& values) const;
 
+  std::optional<HeldFile> held_;  ///< as long as the database is open
   SqlSession session_;
   QString path_;
   FileIdentity identity_;

@@ -8,6 +8,8 @@
 #include <functional>
 #include <thread>
 
+#include "base/read_file.h"
+#include "base/replace_file.h"
 #include "records/samples.h"
 #include "support/full_disk.h"
 #include "support/temporary_files.h"
@@ -355,6 +357,15 @@ TEST_F(Store, DecisionsAreFoundByTypeAndSubject) {
   EXPECT_EQ(found("release", ""), ",b,a");
   EXPECT_EQ(found("release", "b"), "b");
   EXPECT_EQ(found("freeze", "a"), "");
+}
+
+TEST_F(Store, NothingElseOfTheProgramOpensItsFiles) {
+  for (const QString& name : {path, path + QStringLiteral("-wal"), path + QStringLiteral("-shm")}) {
+    EXPECT_FALSE(ReadRegularFile(name)) << name.toStdString();
+    EXPECT_FALSE(ReplaceFile(name, "x")) << name.toStdString();
+  }
+  store.Close();
+  EXPECT_TRUE(ReadRegularFile(path)) << "like any other file";
 }
 
 TEST_F(Store, NoticesThatItsFileIsGone) {

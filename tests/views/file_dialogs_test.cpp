@@ -1,10 +1,13 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "views/common/file_dialogs.h"
 
+#include <fcntl.h>
 #include <gtest/gtest.h>
 
 #include <QApplication>
+#include <QFile>
 #include <QFileDialog>
+#include <QTreeView>
 #include <memory>
 
 #include "support/temporary_files.h"
@@ -69,6 +72,46 @@ TEST_F(FileDialog, AnswersNothingWhenItGoes) {
     EXPECT_EQ(choice, std::nullopt);
     EXPECT_EQ(QApplication::activeModalWidget(), nullptr);
   }
+}
+
+// A process loses its locks on a file when it closes any descriptor of it: the records are locked,
+// and lie where files are opened and saved.
+TEST_F(FileDialog, LooksIntoNoFile) {
+  const test::TemporaryFiles files;
+  files.Write("records.db", "locked");
+  QFile locked(files.Path("records.db"));
+  ASSERT_TRUE(locked.open(QIODevice::ReadWrite));
+  struct flock whole {};
+  whole.l_type = F_WRLCK;
+  ASSERT_EQ(::fcntl(locked.handle(), F_SETLK, &whole), 0);
+  // Seen by a second descriptor, which is not closed before the end.
+  QFile other(files.Path("records.db"));
+  ASSERT_TRUE(other.open(QIODevice::ReadWrite));
+  const auto isLocked = [&other] {
+    struct flock asked {};
+    asked.l_type = F_WRLCK;
+    return ::fcntl(other.handle(), F_OFD_GETLK, &asked) == 0 && asked.l_type != F_UNLCK;
+  };
+  ASSERT_TRUE(isLocked());
+  Save();
+  QFileDialog& dialog = Shown();
+  dialog.setNameFilter(QStringLiteral("(*)"));
+  dialog.setDirectory(files.Directory());
+  const auto* list = dialog.findChild<QTreeView*>(QStringLiteral("treeView"));
+  ASSERT_NE(list, nullptr);
+  for (int i = 0; i < 100 && list->model()->rowCount(list->rootIndex()) == 0; ++i) {
+    test::Wait(10);
+  }
+  ASSERT_EQ(list->model()->rowCount(list->rootIndex()), 1);
+  EXPECT_TRUE(dialog.testOption(QFileDialog::DontUseNativeDialog));
+  for (int column = 0; column < list->model()->columnCount(); ++column) {
+    const QModelIndex place = list->model()->index(0, column, list->rootIndex());
+    (void)place.data();
+    (void)place.data(Qt::DecorationRole);
+  }
+  test::Wait(100);
+  EXPECT_TRUE(isLocked());
+  dialog.reject();
 }
 
 }  // namespace

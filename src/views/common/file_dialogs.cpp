@@ -3,9 +3,12 @@
 
 #include <QApplication>
 #include <QFileDialog>
+#include <QFileIconProvider>
 #include <QFileInfo>
 #include <algorithm>
 #include <coroutine>
+
+#include "base/translation.h"
 
 namespace vexa {
 namespace {
@@ -26,6 +29,19 @@ NameFilters Split(const QString& filter) {
   }
   return names;
 }
+
+/// Icons and kinds of files by what their names say. The toolkit's provider looks into every file
+/// of a folder, and closing one that is locked (the records) gives up this program's locks on it.
+class NamesAloneIcons : public QFileIconProvider {
+ public:
+  using QFileIconProvider::icon;
+  [[nodiscard]] QIcon icon(const QFileInfo& file) const override {
+    return icon(file.isDir() ? IconType::Folder : IconType::File);
+  }
+  [[nodiscard]] QString type(const QFileInfo& file) const override {
+    return file.isDir() ? Text::tr("ﾌｫﾙﾀﾞ") : file.suffix();
+  }
+};
 
 /// Opens the dialog, and waits until it is closed or goes, which is as good as cancelled.
 class Choice {
@@ -98,6 +114,10 @@ QFileDialog* WindowFileDialogs::Make(const QString& title, const QStringList& fi
   QWidget* asking = QApplication::activeModalWidget();
   auto* dialog = new QFileDialog(asking != nullptr ? asking : window_.data(), title);
   dialog->setAttribute(Qt::WA_DeleteOnClose);
+  // The desktop's own dialog would look into the files, too, within this process.
+  dialog->setOption(QFileDialog::DontUseNativeDialog);
+  static NamesAloneIcons icons;
+  dialog->setIconProvider(&icons);
   dialog->setOption(QFileDialog::HideNameFilterDetails);
   dialog->setNameFilters(filters);
   if (!folder_.isEmpty()) {

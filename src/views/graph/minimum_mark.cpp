@@ -2,6 +2,7 @@
 #include "views/graph/minimum_mark.h"
 
 #include <algorithm>
+#include <array>
 
 #include "base/number_text.h"
 #include "views/common/theme.h"
@@ -39,7 +40,6 @@ MinimumMark::MinimumMark(QCustomPlot& plot, Abscissa abscissa)
       point_(new QCPItemTracer(&plot)),
       text_(new EdgedText(&plot)) {
   constexpr double kSize = 8.0;
-  constexpr QMargins kPadding(4, 8, 4, 8);
   point_->setStyle(QCPItemTracer::tsCircle);
   point_->setSize(kSize);
   point_->setPen(QPen(theme::kText, 1.5));
@@ -51,7 +51,6 @@ MinimumMark::MinimumMark(QCustomPlot& plot, Abscissa abscissa)
   text_->setObjectName(QStringLiteral("Minimum"));
   text_->setFont(plot.font());
   text_->setColor(theme::kText);
-  text_->setPadding(kPadding);
   text_->setSelectable(false);
   text_->setClipToAxisRect(true);
   Show(nullptr);
@@ -77,13 +76,54 @@ void MinimumMark::Show(const ReflectanceSpectrum* spectrum) {
   text_->position->setCoords(place, value);
   text_->setText(
       QStringLiteral("Min %1 nm  %2 %").arg(lowest).arg(FormatNumber(value, kReflectancePattern)));
-  // Below, where nothing of the curve is, unless the border is too near; away from the nearer side.
-  constexpr double kRoom = 0.08;
-  const QCPRange across = plot_.xAxis->range();
-  const QCPRange up = plot_.yAxis->range();
-  const bool low = value < up.lower + kRoom * up.size();
-  text_->setPositionAlignment((place > across.center() ? Qt::AlignRight : Qt::AlignLeft) |
-                              (low ? Qt::AlignBottom : Qt::AlignTop));
+  PutTextWhereLeastIs();
+}
+
+// What the curves draw within a part of the plot, in pixels.
+QVector<QPointF> MinimumMark::CurvePoints(const QRectF& around) const {
+  QVector<QPointF> points;
+  for (int i = 0; i < plot_.graphCount(); ++i) {
+    const QCPGraph* curve = plot_.graph(i);
+    for (const QCPGraphData& data : *curve->data()) {
+      const QPointF point = curve->coordsToPixels(data.key, data.value);
+      if (around.contains(point)) {
+        points << point;
+      }
+    }
+  }
+  return points;
+}
+
+// Below, where nothing of the marked curve is, and away from the nearer side first; elsewhere when
+// fewer points of the curves are there.
+void MinimumMark::PutTextWhereLeastIs() {
+  constexpr int kBeside = 4;
+  constexpr std::array<int, 3> kDistances{8, 28, 48};
+  const QRectF plot = plot_.axisRect()->rect();
+  const QPointF mark = text_->position->pixelPosition();
+  const QSizeF size = QFontMetricsF(text_->font()).size(0, text_->text());
+  const double reach = kDistances.back() + size.height();
+  const QVector<QPointF> points = CurvePoints({mark.x() - size.width() - kBeside, mark.y() - reach,
+                                               2.0 * (size.width() + kBeside), 2.0 * reach});
+  const bool leftFirst = mark.x() > plot.center().x();
+  qsizetype fewest = points.size() + 1;
+  for (const int distance : kDistances) {
+    for (const bool below : {true, false}) {
+      for (const bool left : {leftFirst, !leftFirst}) {
+        const QRectF box(QPointF(left ? mark.x() - kBeside - size.width() : mark.x() + kBeside,
+                                 below ? mark.y() + distance : mark.y() - distance - size.height()),
+                         size);
+        const auto here = std::ranges::count_if(
+            points, [&box](const QPointF& point) { return box.contains(point); });
+        if (plot.contains(box) && here < fewest) {
+          fewest = here;
+          text_->setPadding(QMargins(kBeside, distance, kBeside, distance));
+          text_->setPositionAlignment((left ? Qt::AlignRight : Qt::AlignLeft) |
+                                      (below ? Qt::AlignTop : Qt::AlignBottom));
+        }
+      }
+    }
+  }
 }
 
 }  // namespace vexa

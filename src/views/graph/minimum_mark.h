@@ -3,6 +3,8 @@
 
 #include <qcustomplot.h>
 
+#include <QVector>
+
 #include "base/spectrum.h"
 #include "views/graph/abscissa.h"
 
@@ -19,6 +21,9 @@ class MinimumMark {
   void Show(const ReflectanceSpectrum* spectrum);
 
  private:
+  [[nodiscard]] QVector<QPointF> CurvePoints(const QRectF& around) const;
+  void PutTextWhereLeastIs();
+
   QCustomPlot& plot_;
   Abscissa abscissa_;
   QCPItemTracer* point_;
