@@ -24,7 +24,8 @@ class SessionJournal : public QObject {
   /// The session ended as it should: nothing is left to restore.
   void End();
 
-  /// The session ended unasked: what was measured is left to restore, unless all of it is in a file.
+  /// The session ended unasked: what was measured is left to restore, unless all of it is in a
+  /// file.
   void EndUnasked();
 
  private:

@@ -362,8 +362,8 @@ TEST_F(Store, DecisionsAreFoundByTypeAndSubject) {
 TEST_F(Store, NothingElseOfTheProgramOpensItsFiles) {
   for (const QString& name : {path, path + QStringLiteral("-wal"), path + QStringLiteral("-shm")}) {
     EXPECT_FALSE(ReadRegularFile(name)) << name.toStdString();
-    EXPECT_FALSE(ReplaceFile(name, "x")) << name.toStdString();
   }
+  EXPECT_FALSE(ReplaceFile(path, "x"));
   store.Close();
   EXPECT_TRUE(ReadRegularFile(path)) << "like any other file";
 }
