@@ -15,7 +15,6 @@ namespace {
 
 constexpr double kThinNm = 1200.0;       // below it the transform's peaks are too wide
 constexpr double kLowestPeakNm = 600.0;  // of optical equivalents that are taken for peaks
-constexpr double kWeakestPeak = 0.1;     // of the strongest
 constexpr std::size_t kMostSeeds = 8;
 constexpr double kClearRatio = 10.0;  // of the peak of a fringe that is surely there
 constexpr std::size_t kMostCombinations = 3000;
@@ -100,7 +99,8 @@ class Search {
       strongest_ = first.thicknessNm;
     }
     for (const FourierPeak& peak : transform->peaks) {
-      if (peak.amplitude >= kWeakestPeak * transform->peaks.front().amplitude) {
+      if (peak.amplitude >=
+          FourierThickness::kWeakestCandidate * transform->peaks.front().amplitude) {
         peaks_.push_back(peak.thicknessNm);
       }
     }

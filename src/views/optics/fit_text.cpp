@@ -7,7 +7,7 @@
 
 namespace vexa {
 
-QString FitThicknessText(const FilmFit& fit) {
+QString FitThicknessText(const FilmFit& fit, const QString& between) {
   if (fit.outcome == FitOutcome::kNone) {
     return QStringLiteral("-");
   }
@@ -16,7 +16,7 @@ QString FitThicknessText(const FilmFit& fit) {
     layers << QStringLiteral("%1 ± %2").arg(FormatNumber(layer.thicknessNm, u"0.0"),
                                             FormatNumber(layer.uncertaintyNm, u"0.0"));
   }
-  return layers.join(QStringLiteral(" / "));
+  return layers.join(between);
 }
 
 QString DoubtTexts(const MeasurementSlot& slot) {
