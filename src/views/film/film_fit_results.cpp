@@ -17,6 +17,7 @@ namespace {
 constexpr int kSampleColumn = 1;  // of any length: it takes what is left
 constexpr int kThicknessColumn = 2;
 constexpr int kRowHeight = 24;
+constexpr int kTableWidth = 396;  // all columns, and a short sample number
 
 QString Number(double value, QStringView pattern) {
   return FormatNumber(value, pattern).trimmed();
@@ -89,6 +90,7 @@ FilmFitResults::FilmFitResults(QWidget* parent)
   table_->setIconSize(QSize(22, 12));
   table_->verticalHeader()->hide();
   table_->verticalHeader()->setDefaultSectionSize(kRowHeight);
+  table_->setMinimumWidth(kTableWidth);
   table_->setColumnCount(static_cast<int>(Headings().size()));
   table_->setHorizontalHeaderLabels(Headings());
   table_->horizontalHeader()->setSectionResizeMode(QHeaderView::ResizeToContents);

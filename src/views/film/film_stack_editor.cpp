@@ -2,7 +2,7 @@
 #include "views/film/film_stack_editor.h"
 
 #include <QGridLayout>
-#include <QLabel>
+#include <QHBoxLayout>
 #include <algorithm>
 
 #include "base/translation.h"
@@ -14,8 +14,7 @@ namespace {
 constexpr int kNumberWidth = 62;
 constexpr int kMaterialWidth = 200;
 constexpr int kNarrowButton = 30;
-constexpr int kColumns = 7;  // the widest row: number, kind, from, until, to, unit, and room
-constexpr int kKnown = 1;    // of the choice of a thickness
+constexpr int kKnown = 1;  // of the choice of a thickness
 
 QPushButton* NarrowButton(const QString& name, const QString& caption, const QString& tip) {
   auto* button = new QPushButton(caption);
@@ -37,7 +36,7 @@ FilmStackEditor::FilmStackEditor(FileDialogs& dialogs, QWidget* parent)
   grid->setContentsMargins(10, 6, 10, 8);
   grid->setHorizontalSpacing(4);
   grid->setVerticalSpacing(4);
-  grid->setColumnStretch(kColumns - 1, 1);
+  grid->setColumnStretch(1, 1);
   for (std::size_t place = 0; place < rows_.size(); ++place) {
     BuildRow(*grid, place);
   }
@@ -65,10 +64,10 @@ void FilmStackEditor::BuildMaterial(Row& row, const QString& name) {
 // A formula is long: the material has a line of its own, the thickness the next.
 void FilmStackEditor::PlaceMaterial(QGridLayout& grid, const Row& row, QPushButton& button,
                                     int line) {
-  grid.addWidget(row.number, line, 0);
-  grid.addWidget(row.material, line, 1, 1, kColumns - 1);
-  grid.addWidget(row.file, line, kColumns);
-  grid.addWidget(&button, line, kColumns + 1);
+  for (int column = 0; QWidget * widget : std::initializer_list<QWidget*>{row.number, row.material,
+                                                                          row.file, &button}) {
+    grid.addWidget(widget, line, column++);
+  }
 }
 
 void FilmStackEditor::BuildRow(QGridLayout& grid, std::size_t place) {
@@ -90,9 +89,12 @@ void FilmStackEditor::BuildRow(QGridLayout& grid, std::size_t place) {
   row.unit = new QLabel(QStringLiteral("nm"));
   const int line = 2 * static_cast<int>(place);
   PlaceMaterial(grid, row, *row.remove, line);
-  for (int column = 1; QWidget * widget : row.Thickness()) {
-    grid.addWidget(widget, line + 1, column++);
+  auto* thickness = new QHBoxLayout;
+  for (QWidget* widget : row.Thickness()) {
+    thickness->addWidget(widget);
   }
+  thickness->addStretch();
+  grid.addLayout(thickness, line + 1, 1, 1, 3);
   for (NumberField* field : {row.from, row.to}) {
     field->setMinimumWidth(kNumberWidth);
     field->setMaximumWidth(kNumberWidth);
@@ -108,6 +110,7 @@ void FilmStackEditor::BuildRow(QGridLayout& grid, std::size_t place) {
 void FilmStackEditor::Show(const FilmStackSetting& setting) {
   layers_ = std::clamp<std::size_t>(setting.layers.size(), 1, rows_.size());
   substrate_.material->setText(setting.substrate);
+  substrate_.material->setCursorPosition(0);
   for (std::size_t i = 0; i < rows_.size(); ++i) {
     const FilmLayerSetting layer =
         i < setting.layers.size() ? setting.layers[i] : FilmLayerSetting();

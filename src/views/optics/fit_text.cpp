@@ -13,8 +13,11 @@ QString FitThicknessText(const FilmFit& fit, const QString& between) {
   }
   QStringList layers;
   for (const FittedLayer& layer : fit.layers) {
-    layers << QStringLiteral("%1 ± %2").arg(FormatNumber(layer.thicknessNm, u"0.0"),
-                                            FormatNumber(layer.uncertaintyNm, u"0.0"));
+    const QString nm = FormatNumber(layer.thicknessNm, u"0.0");
+    const bool known = layer.uncertaintyNm == 0.0;
+    layers << (known
+                   ? nm
+                   : QStringLiteral("%1 ± %2").arg(nm, FormatNumber(layer.uncertaintyNm, u"0.0")));
   }
   return layers.join(between);
 }
