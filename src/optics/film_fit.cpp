@@ -298,7 +298,7 @@ class Fitter {
     const bool poor = fit.rms > kPoorNoises * fit.noise && fit.rms > kPoorPart * without;
     const double gain = std::pow(without / std::max(fit.rms, 1e-12), 2);
     const bool untold = std::ranges::any_of(fit.layers, [](const FittedLayer& layer) {
-      return layer.statisticalNm > layer.thicknessNm / 2.0;
+      return !(layer.statisticalNm <= layer.thicknessNm / 2.0);  // nor what is no number
     });
     if (gain < kNoFilmRatio || (poor && gain < 1.0 / kNoFilmPart) || untold) {
       return FitOutcome::kNone;
