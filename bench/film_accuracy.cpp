@@ -1,7 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // Measures thin, thick, primed and uneven films and films of a wrong index, over the whole path of
-// the virtual instrument; the coverage of the intervals on spectra of the exact model; and the
-// doubts. Prints the tables of docs/accuracy.md.
+// the virtual instrument; the coverage of the intervals and stacks of several layers on spectra of
+// the exact model; and the doubts. Prints the tables of docs/accuracy.md; those named alone: films,
+// coverage, layers, doubts.
 #include <algorithm>
 #include <cmath>
 #include <cstdio>
@@ -269,12 +270,85 @@ bool PrintCoverage() {
   return good;
 }
 
+// Random stacks of several layers, coat and primer in turn, the third layer of every other one of a
+// high index; the last ones known.
+void PrintLayers() {
+  constexpr int kStacks = 100;
+  constexpr double kSigma = 0.02;
+  std::printf(
+      "\n| layers | each of nm | known | right of %d | ok but wrong | poor | none |\n"
+      "|---|---|---|---|---|---|---|\n",
+      kStacks);
+  const Material coat = MaterialOf(simulator::HardCoatIndex);
+  const Material primer = MaterialOf(PrimerIndex);
+  const Material high = MaterialOf([](double nm) { return 1.9 + 20000.0 / (nm * nm); });
+  const struct {
+    std::size_t layers;
+    std::size_t known;
+    double fromNm;
+    double toNm;
+  } kinds[] = {{2, 0, 100, 4000}, {3, 0, 600, 3000}, {3, 0, 1000, 6000}, {3, 0, 100, 1500},
+               {3, 1, 100, 4000}, {3, 2, 100, 4000}, {4, 0, 1000, 4000}, {4, 2, 100, 4000}};
+  for (const auto& kind : kinds) {
+    std::mt19937_64 generator(1);
+    std::uniform_real_distribution<double> uniform(kind.fromNm, kind.toNm);
+    std::normal_distribution<double> normal(0.0, kSigma);
+    int right = 0;
+    int wrong = 0;
+    std::vector<int> outcomes(4);
+    for (int i = 0; i < kStacks; ++i) {
+      FilmStack stack{MaterialOf(simulator::LensPlasticIndex),
+                      {coat, primer, i % 2 == 0 ? coat : high, primer}};
+      stack.layers.resize(kind.layers);
+      FilmState truth;
+      std::vector<ThicknessRange> ranges(kind.layers);
+      for (std::size_t j = 0; j < kind.layers; ++j) {
+        const double nm = uniform(generator);
+        truth.thicknessesNm.push_back(nm);
+        if (j + kind.known >= kind.layers) {
+          ranges[j] = {nm, nm};
+        }
+      }
+      ReflectanceSpectrum spectrum;
+      FilmModel(stack, 440, 840, 1, 1.0).Reflect(truth, spectrum.Values());
+      for (double& value : spectrum.Values()) {
+        value += normal(generator);
+      }
+      const auto fit = std::get<FilmFit>(FitFilm(spectrum, stack, ranges));
+      bool found = fit.outcome != FitOutcome::kNone;
+      for (std::size_t j = 0; found && j < kind.layers; ++j) {
+        const FittedLayer& layer = fit.layers[j];
+        found = std::abs(layer.thicknessNm - truth.thicknessesNm[j]) <=
+                std::max(2.0, 2.0 * layer.uncertaintyNm);
+      }
+      right += found ? 1 : 0;
+      wrong += !found && fit.outcome == FitOutcome::kOk ? 1 : 0;
+      ++outcomes[static_cast<std::size_t>(fit.outcome)];
+    }
+    std::printf("| %zu | %.0f to %.0f | %zu | %d | %d | %d | %d |\n", kind.layers, kind.fromNm,
+                kind.toNm, kind.known, right, wrong,
+                outcomes[static_cast<std::size_t>(FitOutcome::kPoor)],
+                outcomes[static_cast<std::size_t>(FitOutcome::kNone)]);
+    std::fflush(stdout);
+  }
+}
+
 }  // namespace
 }  // namespace vexa
 
-int main() {
-  vexa::PrintCases();
-  const bool covered = vexa::PrintCoverage();
-  const bool doubted = vexa::PrintDoubts();
+// All tables, or those that are named.
+int main(int argc, char** argv) {
+  const std::vector<std::string> named(argv + 1, argv + argc);
+  const auto wanted = [&named](const char* table) {
+    return named.empty() || std::ranges::count(named, table) > 0;
+  };
+  if (wanted("films")) {
+    vexa::PrintCases();
+  }
+  const bool covered = !wanted("coverage") || vexa::PrintCoverage();
+  if (wanted("layers")) {
+    vexa::PrintLayers();
+  }
+  const bool doubted = !wanted("doubts") || vexa::PrintDoubts();
   return covered && doubted ? 0 : 1;
 }
