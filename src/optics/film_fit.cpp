@@ -25,6 +25,7 @@ constexpr std::size_t kMostAlternatives = 3;
 constexpr double kHopelessRatio = 3.0;  // of a seed's sum of squares to the best one's
 constexpr double kCorrelated = 0.95;
 constexpr double kNearlyAsGood = 1.05;  // of the root mean squares
+constexpr double kApartBy = 16.0;       // in chi squared, of two minima
 constexpr double kBetterBy = 16.0;      // in chi squared, for one more parameter
 constexpr double kPoorNoises = 2.5;
 constexpr double kPoorPart = 0.03;        // of what the film explains
@@ -306,9 +307,12 @@ class Fitter {
     if (poor) {
       return FitOutcome::kPoor;
     }
+    // Few points tell minima apart less well.
+    const auto freedom = std::max(static_cast<double>(measured_.size()) - 4.0, 1.0);
+    const double nearlyAsGood = std::max(kNearlyAsGood, std::sqrt(1.0 + kApartBy / freedom));
     const bool another =
         std::ranges::any_of(fit.alternatives, [&](const FitAlternative& alternative) {
-          return alternative.rms < kNearlyAsGood * quickRms;
+          return alternative.rms < nearlyAsGood * quickRms;
         });
     return another ? FitOutcome::kAmbiguous : FitOutcome::kOk;
   }
