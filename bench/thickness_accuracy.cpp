@@ -110,7 +110,9 @@ Outcome EvaluateFourier(const ReflectanceSpectrum& spectrum, double thicknessNm)
   return outcome;
 }
 
-Outcome EvaluateFit(const ReflectanceSpectrum& spectrum, double thicknessNm) {
+// With weights by the noise of the counts, as the window has them, or by the residual, as the
+// command line has them of a file.
+Outcome EvaluateFit(const Measured& film, bool counts, double thicknessNm) {
   static const FilmStack kStack = [] {
     FilmStack stack;
     stack.layers.resize(1);
@@ -120,7 +122,9 @@ Outcome EvaluateFit(const ReflectanceSpectrum& spectrum, double thicknessNm) {
     }
     return stack;
   }();
-  const auto fit = std::get<FilmFit>(FitFilm(spectrum, kStack, std::vector<ThicknessRange>(1)));
+  const auto fit =
+      std::get<FilmFit>(FitFilm(film.reflectance, kStack, std::vector<ThicknessRange>(1), {},
+                                counts ? &film.noise : nullptr));
   Outcome outcome;
   outcome.truthNm = thicknessNm;
   outcome.status = fit.outcome == FitOutcome::kOk ? Status{0} : kThicknessFault;
@@ -223,7 +227,8 @@ int PrintOnce(const std::vector<double>& coatsNm, const Conditions& conditions) 
   for (const double coatNm : coatsNm) {
     std::mt19937_64 generator(kSeed);
     const bool mayBeSplit = HasExtremumNearAnEnd(coatNm);
-    const ReflectanceSpectrum spectrum = Measure(HardCoat(coatNm), conditions, generator);
+    const Measured film = Measure(HardCoat(coatNm), conditions, generator);
+    const ReflectanceSpectrum& spectrum = film.reflectance;
     for (int type = 0; type < 3; ++type) {
       for (int kind = 0; kind < 2; ++kind) {
         const Outcome o = Evaluate(spectrum, type, kind, coatNm);
@@ -238,10 +243,15 @@ int PrintOnce(const std::vector<double>& coatsNm, const Conditions& conditions) 
     const Outcome fourier = EvaluateFourier(spectrum, coatNm);
     std::printf("| %.0f | Fourier | physical | | | | %.1f | %.1f | %+.1f | | |\n", coatNm, coatNm,
                 fourier.resultNm, fourier.Deviation());
-    const Outcome fit = EvaluateFit(spectrum, coatNm);
-    std::printf("| %.0f | fit | physical | | | | %.1f | %.1f | %+.1f | %.1f | %s |\n", coatNm,
-                coatNm, fit.resultNm, fit.Deviation(), fit.limitNm,
-                fit.WithinLimit() ? "" : "outside");
+    for (const bool counts : {false, true}) {
+      if (counts && film.noise.IsEmpty()) {
+        continue;
+      }
+      const Outcome fit = EvaluateFit(film, counts, coatNm);
+      std::printf("| %.0f | %s | physical | | | | %.1f | %.1f | %+.1f | %.1f | %s |\n", coatNm,
+                  counts ? "fit by counts" : "fit", coatNm, fit.resultNm, fit.Deviation(),
+                  fit.limitNm, fit.WithinLimit() ? "" : "outside");
+    }
   }
   std::printf("\n%d outside by A, B and C, %d of them without an extremum near an end\n", outside,
               unexplained);
@@ -260,15 +270,16 @@ void PrintRepeated(const std::vector<double>& coatsNm, const Conditions& conditi
   std::printf("|---|---|---|---|---|---|---|\n");
   for (const double coatNm : coatsNm) {
     std::mt19937_64 generator(kSeed);
-    std::vector<ReflectanceSpectrum> spectra;
+    std::vector<Measured> films;
+    films.reserve(kRepeats);
     for (int i = 0; i < kRepeats; ++i) {
-      spectra.push_back(Measure(HardCoat(coatNm), conditions, generator));
+      films.push_back(Measure(HardCoat(coatNm), conditions, generator));
     }
     const auto print = [&](const std::string& name, const auto& evaluate) {
       std::vector<double> deviations;
       int within = 0;
-      for (const ReflectanceSpectrum& spectrum : spectra) {
-        const Outcome o = evaluate(spectrum);
+      for (const Measured& film : films) {
+        const Outcome o = evaluate(film);
         within += o.WithinLimit() ? 1 : 0;
         deviations.push_back(o.Deviation());
       }
@@ -281,12 +292,14 @@ void PrintRepeated(const std::vector<double>& coatsNm, const Conditions& conditi
                   share.c_str(), at(0.5), at(0.05), at(0.95));
     };
     for (int type = 0; type < 3; ++type) {
-      print(std::string(1, kTypes[type]), [&](const ReflectanceSpectrum& spectrum) {
-        return Evaluate(spectrum, type, ThicknessKind::kPhysical, coatNm);
+      print(std::string(1, kTypes[type]), [&](const Measured& film) {
+        return Evaluate(film.reflectance, type, ThicknessKind::kPhysical, coatNm);
       });
     }
-    print("Fourier", [&](const auto& spectrum) { return EvaluateFourier(spectrum, coatNm); });
-    print("fit", [&](const auto& spectrum) { return EvaluateFit(spectrum, coatNm); });
+    print("Fourier",
+          [&](const Measured& film) { return EvaluateFourier(film.reflectance, coatNm); });
+    print("fit", [&](const Measured& film) { return EvaluateFit(film, false, coatNm); });
+    print("fit by counts", [&](const Measured& film) { return EvaluateFit(film, true, coatNm); });
   }
 }
 

@@ -970,8 +970,8 @@ Measuring opens it.</translation>
         <translation>The table of the material does not cover 440 to 840 nm.</translation>
     </message>
     <message>
-        <source>材料の屈折率が正の数でないか、吸収が負です。</source>
-        <translation>The refractive index of the material is not positive, or its absorption is negative.</translation>
+        <source>材料の屈折率は0より大きく、吸収は0以上で、どちらも100以下でなければなりません。</source>
+        <translation>The refractive index of a material must be above 0, its absorption at least 0, and both at most 100.</translation>
     </message>
     <message>
         <source>測定範囲の端から7nm以内の極値を数えています。</source>

@@ -8,6 +8,7 @@
 #include "instrument/h8_reply.h"
 #include "instrument/wavelength_mapping.h"
 #include "measurement/reflectance.h"
+#include "measurement/reflectance_noise.h"
 
 namespace vexa {
 namespace {
@@ -41,15 +42,24 @@ RawSpectrum Acquire(const simulator::ReflectanceCurve& percent, bool dark,
 
 }  // namespace
 
-ReflectanceSpectrum Measure(const simulator::ReflectanceCurve& face, const Conditions& conditions,
-                            std::mt19937_64& generator) {
+Measured Measure(const simulator::ReflectanceCurve& face, const Conditions& conditions,
+                 std::mt19937_64& generator) {
   const auto reference = [](double) { return kReferencePercent; };
-  ReflectanceSpectrum percent;
-  std::ranges::fill(percent.Values(), kReferencePercent);
-  const RawSpectrum background = Acquire(reference, true, conditions, generator);
-  const RawSpectrum bright = Acquire(reference, false, conditions, generator);
+  const FrameConditions taken{{},
+                              static_cast<std::int16_t>(conditions.integrationMs),
+                              static_cast<std::int16_t>(conditions.averaging),
+                              kShiftNm};
+  SampleBasis basis{{taken, {}}, {}};
+  std::ranges::fill(basis.referenceReflectance.Values(), kReferencePercent);
+  VEXATYPE state;
+  state.backgroundTaken = taken;
+  state.referenceTaken = taken;
+  state.background = Acquire(reference, true, conditions, generator);
+  state.reference = Acquire(reference, false, conditions, generator);
   const RawSpectrum sample = Acquire(face, false, conditions, generator);
-  return ComputeReflectance(sample, background, bright, kShiftNm, percent);
+  return {ComputeReflectance(sample, state.background, state.reference, kShiftNm,
+                             basis.referenceReflectance),
+          ReflectanceNoise(state, sample, basis)};
 }
 
 }  // namespace vexa

@@ -1,12 +1,11 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "files/session_image.h"
 
-#include <QDataStream>
-#include <QIODevice>
 #include <algorithm>
-#include <cmath>
-#include <concepts>
 #include <span>
+
+#include "files/film_fit_image.h"
+#include "files/image_stream.h"
 
 namespace vexa {
 namespace {
@@ -14,6 +13,7 @@ namespace {
 constexpr quint8 kValidBit = 1;
 constexpr quint8 kDoubtfulBit = 2;
 constexpr quint8 kFittedBit = 4;
+constexpr quint8 kNoiseBit = 8;
 constexpr auto kLastDoubt = static_cast<quint8>(ThicknessDoubt::kDisagrees);
 constexpr std::size_t kFirstSlotPlace = 2;
 constexpr std::size_t kStockPlace = kFirstSlotPlace + kSlotCount;
@@ -23,98 +23,16 @@ quint8 FlagByte(bool flag) {
   return flag ? kValidBit : quint8{0};
 }
 
-class Writer {
- public:
-  Writer() { stream_.setByteOrder(QDataStream::LittleEndian); }
-
-  template <std::integral Number>
-  Writer& operator<<(Number number) {
-    stream_ << number;
-    return *this;
-  }
-  Writer& operator<<(double number) {
-    stream_ << number;
-    return *this;
-  }
-  Writer& operator<<(std::span<const double> values) {
-    std::ranges::for_each(values, [this](double value) { *this << value; });
-    return *this;
-  }
-  Writer& operator<<(const QString& text) {
-    stream_ << (text.isEmpty() ? QByteArrayLiteral("") : text.toUtf8());  // null is empty, too
-    return *this;
-  }
-  // The time of the clock on the wall, which no change of the time zone moves.
-  Writer& operator<<(const QDateTime& time) {
-    stream_ << time.date().toJulianDay()
-            << qint32{time.isValid() ? time.time().msecsSinceStartOfDay() : -1};
-    return *this;
-  }
-
-  [[nodiscard]] const QByteArray& Bytes() const { return bytes_; }
-
- private:
-  QByteArray bytes_;
-  QDataStream stream_{&bytes_, QIODevice::WriteOnly};
-};
-
-class Reader {
- public:
-  explicit Reader(const QByteArray& bytes) : stream_(bytes) {
-    stream_.setByteOrder(QDataStream::LittleEndian);
-  }
-
-  template <std::integral Number>
-  Reader& operator>>(Number& number) {
-    stream_ >> number;
-    return *this;
-  }
-  Reader& operator>>(double& number) {
-    stream_ >> number;
-    finite_ = finite_ && std::isfinite(number);
-    return *this;
-  }
-  Reader& operator>>(std::span<double> values) {
-    std::ranges::for_each(values, [this](double& value) { *this >> value; });
-    return *this;
-  }
-  Reader& operator>>(QString& text) {
-    QByteArray bytes;
-    stream_ >> bytes;
-    text = QString::fromUtf8(bytes);
-    return *this;
-  }
-  Reader& operator>>(QDateTime& time) {
-    qint64 day = 0;
-    qint32 ms = -1;
-    stream_ >> day >> ms;
-    time = ms < 0 ? QDateTime()
-                  : QDateTime(QDate::fromJulianDay(day), QTime::fromMSecsSinceStartOfDay(ms));
-    return *this;
-  }
-
-  [[nodiscard]] bool AtEnd() const { return stream_.atEnd(); }
-
-  /// Everything was there, was a finite number where it was one, and nothing is left.
-  [[nodiscard]] bool ReadAll() const {
-    return stream_.status() == QDataStream::Ok && stream_.atEnd() && finite_;
-  }
-
- private:
-  QDataStream stream_;
-  bool finite_ = true;
-};
-
-void Write(Writer& out, const FrameConditions& taken) {
+void Write(ImageWriter& out, const FrameConditions& taken) {
   out << taken.takenAt << taken.samplingTimeMs << taken.averagingCount << taken.calibrationShiftNm;
 }
 
-void Read(Reader& in, FrameConditions& taken) {
+void Read(ImageReader& in, FrameConditions& taken) {
   in >> taken.takenAt >> taken.samplingTimeMs >> taken.averagingCount >> taken.calibrationShiftNm;
 }
 
 QByteArray FrameBytes(bool measured, const FrameConditions& taken, const RawSpectrum& spectrum) {
-  Writer out;
+  ImageWriter out;
   out << FlagByte(measured);
   Write(out, taken);
   out << spectrum.Values();
@@ -123,7 +41,7 @@ QByteArray FrameBytes(bool measured, const FrameConditions& taken, const RawSpec
 
 bool PutFrame(const QByteArray& bytes, Flag& measured, FrameConditions& taken,
               RawSpectrum& spectrum) {
-  Reader in(bytes);
+  ImageReader in(bytes);
   quint8 flags = 0;
   FrameConditions conditions;
   RawSpectrum values;
@@ -138,21 +56,26 @@ bool PutFrame(const QByteArray& bytes, Flag& measured, FrameConditions& taken,
   return in.ReadAll();
 }
 
-void Write(Writer& out, const DispersionSetting& setting) {
+void Write(ImageWriter& out, const DispersionSetting& setting) {
   out << setting.kind << setting.fixedValue << std::span<const double>(setting.schott)
       << std::span<const double>(setting.sellmeier) << setting.indexFileName
       << setting.dataFileName;
 }
 
-void Read(Reader& in, DispersionSetting& setting) {
+void Read(ImageReader& in, DispersionSetting& setting) {
   in >> setting.kind >> setting.fixedValue >> std::span<double>(setting.schott) >>
       std::span<double>(setting.sellmeier) >> setting.indexFileName >> setting.dataFileName;
 }
 
+quint8 FlagsOf(const MeasurementSlot& slot) {
+  return static_cast<quint8>(FlagByte(slot.valid) | (slot.fit ? kFittedBit : 0) |
+                             (slot.noise.IsEmpty() ? 0 : kNoiseBit));
+}
+
 QByteArray SlotBytes(const MeasurementSlot& slot) {
-  Writer out;
+  ImageWriter out;
   const ThicknessResult& thickness = slot.thickness;
-  out << FlagByte(slot.valid) << slot.info.measuredAt << slot.info.sampleNumber << slot.info.remark1
+  out << FlagsOf(slot) << slot.info.measuredAt << slot.info.sampleNumber << slot.info.remark1
       << slot.info.remark2 << slot.reflectance.Values() << thickness.thicknessNm
       << thickness.first.wavelengthNm << thickness.first.reflectance
       << thickness.second.wavelengthNm << thickness.second.reflectance << thickness.firstIndex
@@ -164,6 +87,12 @@ QByteArray SlotBytes(const MeasurementSlot& slot) {
   for (const ThicknessDoubt doubt : slot.doubts) {
     out << static_cast<quint8>(doubt);
   }
+  if (!slot.noise.IsEmpty()) {
+    out << slot.noise.Values();
+  }
+  if (slot.fit) {
+    Write(out, *slot.fit);
+  }
   if (slot.taken) {
     Write(out, slot.taken->frame);
     Write(out, slot.taken->reference);
@@ -171,7 +100,7 @@ QByteArray SlotBytes(const MeasurementSlot& slot) {
   return out.Bytes();
 }
 
-void ReadThickness(Reader& in, ThicknessResult& thickness) {
+void ReadThickness(ImageReader& in, ThicknessResult& thickness) {
   quint8 physical = 0;
   in >> thickness.thicknessNm >> thickness.first.wavelengthNm >> thickness.first.reflectance >>
       thickness.second.wavelengthNm >> thickness.second.reflectance >> thickness.firstIndex >>
@@ -189,7 +118,7 @@ void ReadThickness(Reader& in, ThicknessResult& thickness) {
 }
 
 // Earlier versions kept none. False when one is of no kind that there is.
-bool ReadDoubts(Reader& in, std::vector<ThicknessDoubt>& doubts) {
+bool ReadDoubts(ImageReader& in, std::vector<ThicknessDoubt>& doubts) {
   quint8 count = 0;
   if (!in.AtEnd()) {
     in >> count;
@@ -206,13 +135,20 @@ bool ReadDoubts(Reader& in, std::vector<ThicknessDoubt>& doubts) {
 }
 
 bool PutSlot(const QByteArray& bytes, MeasurementSlot& slot) {
-  Reader in(bytes);
+  ImageReader in(bytes);
   quint8 flags = 0;
   MeasurementSlot read;
   in >> flags >> read.info.measuredAt >> read.info.sampleNumber >> read.info.remark1 >>
       read.info.remark2 >> read.reflectance.Values();
   ReadThickness(in, read.thickness);
   if (!ReadDoubts(in, read.doubts)) {
+    return false;
+  }
+  // Earlier versions kept neither noise nor fit.
+  if ((flags & kNoiseBit) != 0) {
+    in >> read.noise.Values();
+  }
+  if ((flags & kFittedBit) != 0 && !Read(in, read.fit.emplace())) {
     return false;
   }
   // A slot that came from a file says nothing more.
@@ -222,14 +158,14 @@ bool PutSlot(const QByteArray& bytes, MeasurementSlot& slot) {
     Read(in, read.taken->reference);
   }
   if (in.ReadAll()) {
-    read.valid = flags == kValidBit;
+    read.valid = (flags & kValidBit) != 0;
     slot = read;
   }
   return in.ReadAll();
 }
 
 QByteArray StockBytes(bool accumulate, const ColourStock& stock) {
-  Writer out;
+  ImageWriter out;
   const auto count = static_cast<std::size_t>(stock.Count);
   out << FlagByte(accumulate) << FlagByte(stock.StockMode) << stock.StockIlluminant
       << FlagByte(stock.StockObserver) << stock.Count << std::span(stock.P1).first(count)
@@ -238,7 +174,7 @@ QByteArray StockBytes(bool accumulate, const ColourStock& stock) {
 }
 
 bool PutStock(const QByteArray& bytes, Flag& accumulate, ColourStock& stock) {
-  Reader in(bytes);
+  ImageReader in(bytes);
   quint8 flags = 0;
   quint8 mode = 0;
   quint8 observer = 0;
@@ -258,7 +194,7 @@ bool PutStock(const QByteArray& bytes, Flag& accumulate, ColourStock& stock) {
 }
 
 QByteArray HistoryBytes(const ThicknessHistory& history) {
-  Writer out;
+  ImageWriter out;
   out << FlagByte(history.physical) << history.count << history.Points();
   for (const HistoryNote& note : history.Notes()) {
     out << static_cast<quint8>((note.doubtful ? kDoubtfulBit : 0) | (note.fitted ? kFittedBit : 0))
@@ -268,7 +204,7 @@ QByteArray HistoryBytes(const ThicknessHistory& history) {
 }
 
 bool PutHistory(const QByteArray& bytes, ThicknessHistory& history) {
-  Reader in(bytes);
+  ImageReader in(bytes);
   quint8 physical = 0;
   ThicknessHistory read;
   in >> physical >> read.count;

@@ -25,11 +25,14 @@ constexpr std::size_t kMostAlternatives = 3;
 constexpr double kHopelessRatio = 3.0;  // of a seed's sum of squares to the best one's
 constexpr double kCorrelated = 0.95;
 constexpr double kNearlyAsGood = 1.05;  // of the root mean squares
+constexpr double kApartBy = 16.0;       // in chi squared, of two minima
 constexpr double kBetterBy = 16.0;      // in chi squared, for one more parameter
 constexpr double kPoorNoises = 2.5;
 constexpr double kPoorPart = 0.03;        // of what the film explains
 constexpr double kNoFilmRatio = 1.08;     // of the sums of squares without and with the film
 constexpr double kNoFilmPart = 0.4;       // of the sum of squares that a poor fit may leave
+constexpr double kHopeless = 1.5;         // of the same ratio, where a film has 2.5
+constexpr double kHopelessNoisy = 1.03;   // where it has 1.08
 constexpr double kRoughStep = 1e-5;       // relative, of what is refined once more
 constexpr double kUneven = 0.4;           // square of the phases' scatter in radians
 constexpr double kSmallestSpread = 1e-3;  // to start from: at 0 there is no slope
@@ -74,7 +77,11 @@ class Fitter {
         measured_(solver_.Measured()) {}
 
   FilmFit Run() {
-    std::vector<FilmSolution> found = SolveAll();
+    const std::vector<FilmSeed> seeds = FindFilmSeeds(spectrum_, stack_, ranges_, options_);
+    if (seeds.empty() || IsHopeless(seeds.front())) {
+      return NoFilm();
+    }
+    std::vector<FilmSolution> found = SolveAll(seeds);
     if (found.empty()) {
       return NoFilm();
     }
@@ -103,23 +110,48 @@ class Fitter {
     return missing > kUneven + slit * slit ? std::min(std::sqrt(missing) / phase, 0.2) : 0.0;
   }
 
+  // Where the best seed of a single layer, and the even film next to it, explain next to nothing,
+  // there is no film: uneven ones, which take most of the time, need not be tried.
+  bool IsHopeless(const FilmSeed& best) {
+    const auto free = std::ranges::count_if(ranges_, [](auto& range) { return !range.IsFixed(); });
+    if (free != 1 || options_.indexFree) {
+      return false;
+    }
+    const auto points = static_cast<double>(measured_.size());
+    const double without = points * std::pow(RmsWithoutFilm(), 2);
+    const double noise = points * std::pow(kPoorNoises * NoiseOf(measured_), 2);
+    const auto tellsNothing = [&](double sumOfSquares) {
+      return without < (sumOfSquares < noise ? kHopelessNoisy : kHopeless) * sumOfSquares;
+    };
+    if (!tellsNothing(best.sumOfSquares)) {
+      return false;
+    }
+    const auto even = solver_.Solve(StartOf(best, 0.0), solver_.FreeParameters(false),
+                                    {.iterations = 40, .step = kRoughStep});
+    return !even || tellsNothing(points * even->rms * even->rms);
+  }
+
+  FilmPoint StartOf(const FilmSeed& seed, double spread) {
+    FilmPoint start;
+    start.state.thicknessesNm = seed.thicknessesNm;
+    start.state.spread = spread;
+    const LinearMatch match = solver_.Match(start.state);
+    start.scale = match.scale;
+    start.offset = match.offset;
+    return start;
+  }
+
   // The minima next to the seeds, best first.
-  std::vector<FilmSolution> SolveAll() {
+  std::vector<FilmSolution> SolveAll(const std::vector<FilmSeed>& seeds) {
     std::vector<FilmSolution> found;
-    const auto seeds = FindFilmSeeds(spectrum_, stack_, ranges_, options_);
-    const bool uneven = !seeds.empty() && SpreadOf(seeds.front()) > 0.0;
+    const bool uneven = SpreadOf(seeds.front()) > 0.0;
     for (const FilmSeed& seed : seeds) {
       if (found.size() >= kMostSolved ||
           seed.sumOfSquares > kHopelessRatio * seeds.front().sumOfSquares + 1e-9) {
         break;
       }
-      FilmPoint start;
-      start.state.thicknessesNm = seed.thicknessesNm;
-      start.state.spread = uneven ? std::max(SpreadOf(seed), kSmallestSpread) : 0.0;
-      const LinearMatch match = solver_.Match(start.state);
-      start.scale = match.scale;
-      start.offset = match.offset;
-      if (auto solution = solver_.Solve(start, solver_.FreeParameters(uneven),
+      const double spread = uneven ? std::max(SpreadOf(seed), kSmallestSpread) : 0.0;
+      if (auto solution = solver_.Solve(StartOf(seed, spread), solver_.FreeParameters(uneven),
                                         {.iterations = 40, .step = kRoughStep})) {
         AddDistinct(std::move(*solution), found);
       }
@@ -267,7 +299,7 @@ class Fitter {
     const bool poor = fit.rms > kPoorNoises * fit.noise && fit.rms > kPoorPart * without;
     const double gain = std::pow(without / std::max(fit.rms, 1e-12), 2);
     const bool untold = std::ranges::any_of(fit.layers, [](const FittedLayer& layer) {
-      return layer.statisticalNm > layer.thicknessNm / 2.0;
+      return !(layer.statisticalNm <= layer.thicknessNm / 2.0);  // nor what is no number
     });
     if (gain < kNoFilmRatio || (poor && gain < 1.0 / kNoFilmPart) || untold) {
       return FitOutcome::kNone;
@@ -275,9 +307,12 @@ class Fitter {
     if (poor) {
       return FitOutcome::kPoor;
     }
+    // Few points tell minima apart less well.
+    const auto freedom = std::max(static_cast<double>(measured_.size()) - 4.0, 1.0);
+    const double nearlyAsGood = std::max(kNearlyAsGood, std::sqrt(1.0 + kApartBy / freedom));
     const bool another =
         std::ranges::any_of(fit.alternatives, [&](const FitAlternative& alternative) {
-          return alternative.rms < kNearlyAsGood * quickRms;
+          return alternative.rms < nearlyAsGood * quickRms;
         });
     return another ? FitOutcome::kAmbiguous : FitOutcome::kOk;
   }

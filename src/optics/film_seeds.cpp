@@ -7,6 +7,7 @@
 #include <numeric>
 #include <optional>
 
+#include "optics/film_depths.h"
 #include "optics/film_score.h"
 #include "optics/fourier_thickness.h"
 
@@ -15,13 +16,13 @@ namespace {
 
 constexpr double kThinNm = 1200.0;       // below it the transform's peaks are too wide
 constexpr double kLowestPeakNm = 600.0;  // of optical equivalents that are taken for peaks
-constexpr double kWeakestPeak = 0.1;     // of the strongest
 constexpr std::size_t kMostSeeds = 8;
 constexpr double kClearRatio = 10.0;  // of the peak of a fringe that is surely there
 constexpr std::size_t kMostCombinations = 3000;
 constexpr std::size_t kMostEnumerated = 200000;
 constexpr std::size_t kMostRefined = 12;
 constexpr std::size_t kMostPeaks = 6;  // of a layer among several
+constexpr double kExplained = 0.05;    // of the variation: what is left by depths that are right
 constexpr int kStepsAnOrder = 12;
 
 double MeanIndex(const Material& material, const FilmFitOptions& options) {
@@ -72,6 +73,11 @@ class Search {
       }
     }
     FindPeaks(spectrum);
+    std::vector<double> used;
+    for (int nm = options.fromNm; nm <= options.toNm; ++nm) {
+      used.push_back(spectrum[nm]);
+    }
+    variation_ = MatchLinear(std::vector<double>(used.size()), used, false, true).sumOfSquares;
   }
 
   std::vector<FilmSeed> Run() {
@@ -100,7 +106,11 @@ class Search {
       strongest_ = first.thicknessNm;
     }
     for (const FourierPeak& peak : transform->peaks) {
-      if (peak.amplitude >= kWeakestPeak * transform->peaks.front().amplitude) {
+      if (peak.ratio >= FourierThickness::kNoiseRatio) {
+        depths_.push_back(peak.thicknessNm);
+      }
+      if (peak.amplitude >=
+          FourierThickness::kWeakestCandidate * transform->peaks.front().amplitude) {
         peaks_.push_back(peak.thicknessNm);
       }
     }
@@ -251,6 +261,14 @@ class Search {
   }
 
   void Combine(std::vector<FilmSeed>& seeds) {
+    if (ranges_.size() > 2) {
+      CombineDepths(seeds);
+      if (std::ranges::any_of(seeds, [this](const FilmSeed& seed) {
+            return seed.sumOfSquares < kExplained * variation_;
+          })) {
+        return;
+      }
+    }
     std::vector<std::vector<double>> candidates;
     std::size_t count = 1;
     for (const std::size_t layer : free_) {
@@ -281,6 +299,19 @@ class Search {
     }
   }
 
+  void CombineDepths(std::vector<FilmSeed>& seeds) {
+    std::vector<DepthLayer> layers;
+    for (std::size_t j = 0; j < ranges_.size(); ++j) {
+      layers.push_back({ranges_[j], orders_[j], InLayer(1.0, j)});
+    }
+    for (FilmSeed& seed : Distinct(SeedsAtDepths(depths_, layers, coarse_), orders_, kMostSeeds)) {
+      MoveDepths(seed, layers, coarse_);
+      MoveDepths(seed, layers, coarse_);
+      seed.sumOfSquares = fine_(seed.thicknessesNm);
+      seeds.push_back(std::move(seed));
+    }
+  }
+
   // Goes from layer to layer to the best place within an order.
   FilmSeed Refined(FilmSeed seed) {
     seed.sumOfSquares = coarse_(seed.thicknessesNm);
@@ -305,7 +336,9 @@ class Search {
   std::vector<double> orders_;
   std::vector<double> start_;
   std::vector<std::size_t> free_;
+  double variation_ = 0.0;  // sum of squares about the mean
   std::vector<double> peaks_;
+  std::vector<double> depths_;       // all clear fringes, as thicknesses of the first layer
   std::optional<double> strongest_;  // fringe, as a thickness of the first layer
 };
 

@@ -6,6 +6,7 @@
 #include <algorithm>
 #include <array>
 #include <cmath>
+#include <iterator>
 #include <numbers>
 #include <numeric>
 
@@ -172,6 +173,15 @@ void FindPeaks(const Fringes& fringes, FourierThickness& result) {
 }
 
 }  // namespace
+
+std::vector<FourierPeak> FourierThickness::Candidates() const {
+  std::vector<FourierPeak> candidates;
+  std::ranges::copy_if(peaks, std::back_inserter(candidates), [this](const FourierPeak& peak) {
+    return peak.ratio >= kNoiseRatio &&
+           peak.amplitude >= kWeakestCandidate * peaks.front().amplitude;
+  });
+  return candidates;
+}
 
 std::optional<FourierThickness> TransformFringes(const ReflectanceSpectrum& spectrum,
                                                  const ReflectanceSpectrum& index, int fromNm,

@@ -21,7 +21,12 @@ struct FourierThickness {
   std::vector<double> amplitude;   ///< percent, at 0, step, 2 step, ... up to 60 um
   std::vector<FourierPeak> peaks;  ///< strongest first, at most kMostPeaks
 
+  /// The peaks that may be films: neither noise nor far below the strongest.
+  [[nodiscard]] std::vector<FourierPeak> Candidates() const;
+
   static constexpr std::size_t kMostPeaks = 8;
+  static constexpr double kNoiseRatio = 5.0;        ///< a peak's below it is noise
+  static constexpr double kWeakestCandidate = 0.1;  ///< of the strongest peak
   static constexpr double kHighestNm = 60000.0;
 };
 
@@ -32,7 +37,7 @@ struct FourierThickness {
 /// the points themselves. Two thicknesses are told apart when they differ by about 2 / (range of
 /// x), some 600 nm for an index of 1.6.
 ///
-/// A peak `ratio` below about 5 is noise. Nothing when the points are fewer than 20, a value or an
+/// Nothing when the points are fewer than 20, a value or an
 /// index is not finite, an index is not positive, or n / w does not fall with the wavelength.
 [[nodiscard]] std::optional<FourierThickness> TransformFringes(
     const ReflectanceSpectrum& spectrum, const ReflectanceSpectrum& index,

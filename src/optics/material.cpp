@@ -20,10 +20,9 @@ namespace {
 using Result = std::variant<Material, MaterialFault>;
 
 bool IsIndex(const Material& material) {
-  return std::ranges::all_of(material.n.Values(),
-                             [](double n) { return std::isfinite(n) && n > 0.0; }) &&
-         std::ranges::all_of(material.k.Values(),
-                             [](double k) { return std::isfinite(k) && k >= 0.0; });
+  constexpr double kMost = 100.0;
+  return std::ranges::all_of(material.n.Values(), [](double n) { return n > 0.0 && n <= kMost; }) &&
+         std::ranges::all_of(material.k.Values(), [](double k) { return k >= 0.0 && k <= kMost; });
 }
 
 Result Checked(const Material& material) {
@@ -165,7 +164,7 @@ QString MaterialFaultText(MaterialFault fault) {
     case MaterialFault::kCoverage:
       return Text::tr("材料の表が440～840nmを含んでいません。");
     case MaterialFault::kIndex:
-      return Text::tr("材料の屈折率が正の数でないか、吸収が負です。");
+      return Text::tr("材料の屈折率は0より大きく、吸収は0以上で、どちらも100以下でなければなりません。");
   }
   return {};
 }

@@ -9,7 +9,8 @@
 
 namespace vexa {
 
-/// The complex index n - ik of a material at 440..840 nm: n above 0, k not negative.
+/// The complex index n - ik of a material at 440..840 nm: n above 0, k not
+/// negative, neither above 100.
 struct Material {
   ReflectanceSpectrum n;
   ReflectanceSpectrum k;
@@ -24,7 +25,7 @@ enum class MaterialFault {
   kText,      ///< neither a number nor a known formula or file ending, or a wrong count of numbers
   kFile,      ///< the file cannot be read or is no such file
   kCoverage,  ///< the table does not reach from 440 to 840 nm
-  kIndex,     ///< an index that is not above 0, an absorption below 0, or no finite value
+  kIndex,     ///< an index that is not above 0, an absorption below 0, or one above 100
 };
 
 /// A material from its text: a number; `FILE.ind`; `schott:A0,A1,A2,A3,A4,A5`;

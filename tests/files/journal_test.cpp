@@ -4,6 +4,7 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <cmath>
 
 #include "support/full_disk.h"
 #include "support/temporary_files.h"
@@ -28,6 +29,20 @@ std::array<SessionImage, 4> Moments() {
   slot.thickness.extrema.count = 1;
   slot.thickness.extrema.entries[0] = {{500.5, 1.5}, true};
   slot.taken = {state.backgroundTaken, {DispersionKind::kFixedValue, 3.5, {}, {}, {}, {}}};
+  state.Slot(9)->fit = FilmFit{.outcome = FitOutcome::kNone, .layers = {{std::nan("")}}};
+  slot.noise[840] = 0.02;
+  slot.fit = FilmFit{.outcome = FitOutcome::kAmbiguous,
+                     .layers = {{1500.1, 1.5, 0.5, 1.25, 0.25}, {300.0}},
+                     .scale = 0.98,
+                     .offset = 0.01,
+                     .spread = 0.002,
+                     .index = 1.001,
+                     .rms = 0.05,
+                     .noise = 0.04,
+                     .fromNm = 838,
+                     .fitted = {4.0, 4.1, 4.2},
+                     .alternatives = {{{1602.3, 310.0}, 0.06}},
+                     .warnings = {QStringLiteral("倍率")}};
   moments[2] = TakeImage(state);
   state.ClearSlots();
   state.accumulate = true;
@@ -55,6 +70,26 @@ TEST(Journal, KeepsEveryBitOfASession) {
     ASSERT_TRUE(PutImage(moment, restored));
     EXPECT_EQ(TakeImage(restored), moment);
   }
+}
+
+TEST(Journal, AFitComesBackWithItsSlot) {
+  VEXATYPE restored;
+  ASSERT_TRUE(PutImage(Moments()[2], restored));
+  const MeasurementSlot& slot = *restored.Slot(10);
+  EXPECT_EQ(slot.noise[840], 0.02);
+  ASSERT_TRUE(slot.fit);
+  EXPECT_EQ(slot.fit->layers.at(1).thicknessNm, 300.0);
+  EXPECT_EQ(slot.fit->fitted, (std::vector<double>{4.0, 4.1, 4.2}));
+  EXPECT_EQ(slot.fit->alternatives.at(0).thicknessesNm.at(1), 310.0);
+  const std::optional<FilmFit>& none = restored.Slot(9)->fit;
+  EXPECT_TRUE(none && std::isnan(none->layers.at(0).thicknessNm));
+
+  SessionImage image = Moments()[2];
+  // A curve that reaches beyond the spectrum would be drawn from there.
+  const qsizetype at = image[11].indexOf(QByteArray("\x46\x03\0\0\x03\0", 6));
+  ASSERT_GT(at, 0);
+  image[11][at] = '\x47';
+  EXPECT_FALSE(PutImage(image, restored));
 }
 
 TEST(Journal, CutAnywhereHoldsEveryWholeRecord) {

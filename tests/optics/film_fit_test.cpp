@@ -106,6 +106,27 @@ TEST(FilmFit, FindsSeveralLayers) {
   }
 }
 
+TEST(FilmFit, FindsThreeAndFourLayersWithoutAHint) {
+  const std::vector<double> films[] = {
+      {3000, 700, 1500}, {1200, 2600, 900}, {3100, 1900, 1400, 2300}};
+  for (const std::vector<double>& truthNm : films) {
+    simulator::FilmStack sample{simulator::LensPlasticIndex, {}};
+    FilmStack stack = CoatStack();
+    stack.layers.clear();
+    for (std::size_t j = 0; j < truthNm.size(); ++j) {
+      const bool coat = j % 2 == 0;
+      sample.layers.push_back(
+          {coat ? simulator::IndexCurve(simulator::HardCoatIndex) : Primer, truthNm[j]});
+      stack.layers.push_back(test::MaterialOf(sample.layers.back().index));
+    }
+    const FilmFit fit = Fit(Reflected(sample, kNoise), stack);
+    EXPECT_EQ(fit.outcome, FitOutcome::kOk) << truthNm.size();
+    for (std::size_t j = 0; j < truthNm.size(); ++j) {
+      EXPECT_NEAR(fit.layers[j].thicknessNm, truthNm[j], 5.0) << truthNm.size() << ' ' << j;
+    }
+  }
+}
+
 TEST(FilmFit, TellsWhatTheStackIsNot) {
   const struct {
     const char* name;

@@ -56,6 +56,7 @@ TEST(Material, IsReadFromItsText) {
       {"schott:1,2,3", MaterialFault::kText},
       {"0", MaterialFault::kIndex},
       {"-1.5", MaterialFault::kIndex},
+      {"cauchy:1.5,1e9", MaterialFault::kIndex},
       {"cauchy:1.5,-0.5", MaterialFault::kIndex},
       {"sellmeier:1,0,0,0.36,0,0", MaterialFault::kIndex},  // a pole at 600 nm
       {"gain.nk", MaterialFault::kIndex},

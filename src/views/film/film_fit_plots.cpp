@@ -13,7 +13,6 @@
 namespace vexa {
 namespace {
 
-constexpr double kNoiseRatio = 5.0;  // a peak below it is noise
 constexpr double kLeastShownNm = 3000.0;
 
 QCPRange Around(double low, double high) {
@@ -117,22 +116,12 @@ void FourierPlot::Show(const std::optional<FourierThickness>& transform,
   for (std::size_t i = 0; i < count; ++i) {
     curve.append({static_cast<double>(i) * transform->stepNm, transform->amplitude[i]});
   }
-  if (transform) {
-    for (const FourierPeak& peak : transform->peaks) {
-      if (peak.ratio < kNoiseRatio) {
-        continue;
-      }
-      peaks.append({peak.thicknessNm, peak.amplitude});
-      shownNm = std::max(shownNm, 1.6 * peak.thicknessNm);
-      highest = std::max(highest, peak.amplitude);
-      auto* label = new QCPItemText(this);
-      label->setText(FormatNumber(peak.thicknessNm, u"0"));
-      label->setColor(theme::kText);
-      label->setFont(font());
-      label->setPositionAlignment(Qt::AlignHCenter | Qt::AlignBottom);
-      label->position->setCoords(peak.thicknessNm, peak.amplitude);
-      label->setPadding({0, 0, 0, 7});
-    }
+  const std::vector<FourierPeak> candidates =
+      transform ? transform->Candidates() : std::vector<FourierPeak>();
+  for (const FourierPeak& peak : candidates) {
+    peaks.append({peak.thicknessNm, peak.amplitude});
+    shownNm = std::max(shownNm, 1.6 * peak.thicknessNm);
+    highest = std::max(highest, peak.amplitude);
   }
   if (fit && fit->outcome != FitOutcome::kNone) {
     for (const FittedLayer& layer : fit->layers) {
@@ -143,13 +132,32 @@ void FourierPlot::Show(const std::optional<FourierThickness>& transform,
       shownNm = std::max(shownNm, 1.3 * layer.thicknessNm);
     }
   }
+  shownNm = std::min(shownNm, FourierThickness::kHighestNm);
+  for (const FourierPeak& peak : candidates) {
+    AddLabel(peak, peak.thicknessNm / shownNm);
+  }
   amplitude_->data()->set(curve, true);
   std::ranges::sort(peaks, {}, &QCPGraphData::key);
   peaks_->data()->set(peaks, true);
-  xAxis->setRange(0.0, std::min(shownNm, FourierThickness::kHighestNm));
+  xAxis->setRange(0.0, shownNm);
   // The slow part that is left at 0 may stand above the fringes.
   yAxis->setRange(0.0, 1.25 * highest);
   replot(rpQueuedReplot);
+}
+
+// `place` within the axis, 0 to 1: near an end the label stands to the inner side.
+void FourierPlot::AddLabel(const FourierPeak& peak, double place) {
+  constexpr double kEnd = 0.2;
+  auto* label = new QCPItemText(this);
+  label->setText(FormatNumber(peak.thicknessNm, u"0"));
+  label->setColor(theme::kText);
+  label->setFont(font());
+  label->setPositionAlignment((place < kEnd         ? Qt::AlignLeft
+                               : place > 1.0 - kEnd ? Qt::AlignRight
+                                                    : Qt::AlignHCenter) |
+                              Qt::AlignBottom);
+  label->position->setCoords(peak.thicknessNm, peak.amplitude);
+  label->setPadding({0, 0, 0, 7});
 }
 
 }  // namespace vexa

@@ -38,6 +38,8 @@ class FourierPlot : public Plot {
   void Show(const std::optional<FourierThickness>& transform, const std::optional<FilmFit>& fit);
 
  private:
+  void AddLabel(const FourierPeak& peak, double place);
+
   QCPGraph* amplitude_;
   QCPGraph* peaks_;
 };

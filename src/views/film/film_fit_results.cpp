@@ -14,6 +14,11 @@
 namespace vexa {
 namespace {
 
+constexpr int kSampleColumn = 1;  // of any length: it takes what is left
+constexpr int kThicknessColumn = 2;
+constexpr int kRowHeight = 24;
+constexpr int kTableWidth = 396;  // all columns, and a short sample number
+
 QString Number(double value, QStringView pattern) {
   return FormatNumber(value, pattern).trimmed();
 }
@@ -26,7 +31,8 @@ QStringList Headings() {
 QStringList Cells(int number, const MeasurementSlot& slot) {
   QStringList cells{QStringLiteral("Mes%1").arg(number), slot.info.sampleNumber.simplified()};
   if (slot.fit) {
-    cells << FitThicknessText(*slot.fit) << FitOutcomeWord(slot.fit->outcome)
+    // A layer a line: the table is no wider for many.
+    cells << FitThicknessText(*slot.fit, QStringLiteral("\n")) << FitOutcomeWord(slot.fit->outcome)
           << Number(slot.fit->rms, u"##0.000");
   } else {
     cells << QStringLiteral("-") << QStringLiteral("-") << QStringLiteral("-");
@@ -83,11 +89,13 @@ FilmFitResults::FilmFitResults(QWidget* parent)
   table_->setAlternatingRowColors(true);
   table_->setIconSize(QSize(22, 12));
   table_->verticalHeader()->hide();
-  table_->verticalHeader()->setDefaultSectionSize(24);
+  table_->verticalHeader()->setDefaultSectionSize(kRowHeight);
+  table_->setMinimumWidth(kTableWidth);
   table_->setColumnCount(static_cast<int>(Headings().size()));
   table_->setHorizontalHeaderLabels(Headings());
   table_->horizontalHeader()->setSectionResizeMode(QHeaderView::ResizeToContents);
-  table_->horizontalHeader()->setStretchLastSection(true);
+  table_->horizontalHeader()->setSectionResizeMode(kSampleColumn, QHeaderView::Stretch);
+  table_->setTextElideMode(Qt::ElideMiddle);
   table_->horizontalHeader()->setHighlightSections(false);
   outcome_->setObjectName(QStringLiteral("FitOutcome"));
   outcome_->setWordWrap(true);
@@ -130,6 +138,8 @@ void FilmFitResults::Show(const VEXATYPE& state, int slot,
                              Qt::AlignVCenter);
       table_->setItem(row, column++, item);
     }
+    const auto lines = static_cast<int>(table_->item(row, kThicknessColumn)->text().count(u'\n'));
+    table_->setRowHeight(row, kRowHeight + lines * table_->fontMetrics().lineSpacing());
     table_->item(row, 0)->setData(Qt::UserRole, number);
     table_->item(row, 0)->setIcon(SlotIcon(number, true));
     if (number == slot) {
@@ -154,7 +164,7 @@ QList<QStringList> FilmFitResults::Rows() const {
   for (int row = 0; row < table_->rowCount(); ++row) {
     QStringList cells;
     for (int column = 0; column < table_->columnCount(); ++column) {
-      cells << table_->item(row, column)->text();
+      cells << table_->item(row, column)->text().replace(u'\n', QStringLiteral(" / "));
     }
     rows << cells;
   }

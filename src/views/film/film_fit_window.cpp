@@ -7,10 +7,10 @@
 #include <QFileInfo>
 #include <QFrame>
 #include <QHBoxLayout>
-#include <QPicture>
 #include <QScreen>
 #include <QShortcut>
 #include <QSplitter>
+#include <QStyle>
 #include <QVBoxLayout>
 #include <memory>
 
@@ -106,19 +106,21 @@ FilmFitWindow::FilmFitWindow(Session& session, ProgramPreferences& preferences,
   right->addWidget(results_);
   right->setStretchFactor(0, 3);
   right->setStretchFactor(1, 2);
-  for (QSplitter* splitter : {plots, right}) {
+  auto* body = new QSplitter(Qt::Horizontal);
+  body->addWidget(BuildEntries());
+  body->addWidget(right);
+  body->setStretchFactor(1, 1);
+  for (QSplitter* splitter : {plots, right, body}) {
     splitter->setChildrenCollapsible(false);
   }
-  auto* body = new QHBoxLayout;
-  body->setSpacing(10);
-  body->addWidget(BuildEntries());
-  body->addWidget(right, 1);
+  body->setHandleWidth(10);
   auto* layout = new QVBoxLayout(this);
   layout->setContentsMargins(12, 10, 12, 10);
-  layout->addLayout(body, 1);
+  layout->addWidget(body, 1);
   layout->addWidget(BuildButtons());
   constexpr QSize kFrameOfWindow(16, 44);
   resize(QSize(1180, 720).boundedTo(screen()->availableSize() - kFrameOfWindow));
+  body->setSizes({width() / 3, width() - width() / 3});
   ReadNamedFile();
   ConnectSession();
   Refresh();
@@ -154,8 +156,8 @@ QWidget* FilmFitWindow::BuildEntries() {
   connect(conditions_, &FilmFitConditions::Edited, this, edited);
   auto* area = new ScrollBody(content);
   area->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-  constexpr int kEntriesWidth = 450;
-  area->setFixedWidth(kEntriesWidth);
+  area->setMinimumWidth(content->minimumSizeHint().width() +
+                        style()->pixelMetric(QStyle::PM_ScrollBarExtent));
   return area;
 }
 

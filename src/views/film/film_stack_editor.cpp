@@ -2,7 +2,7 @@
 #include "views/film/film_stack_editor.h"
 
 #include <QGridLayout>
-#include <QLabel>
+#include <QHBoxLayout>
 #include <algorithm>
 
 #include "base/translation.h"
@@ -12,7 +12,7 @@ namespace vexa {
 namespace {
 
 constexpr int kNumberWidth = 62;
-constexpr int kMaterialWidth = 80;
+constexpr int kMaterialWidth = 200;
 constexpr int kNarrowButton = 30;
 constexpr int kKnown = 1;  // of the choice of a thickness
 
@@ -30,24 +30,19 @@ QPushButton* NarrowButton(const QString& name, const QString& caption, const QSt
 FilmStackEditor::FilmStackEditor(FileDialogs& dialogs, QWidget* parent)
     : QGroupBox(Text::tr("膜構成 (空気側から)"), parent),
       dialogs_(dialogs),
-      add_(DialogButton("AddLayer", Text::tr("層の追加"))) {
+      add_(NarrowButton(QStringLiteral("AddLayer"), QStringLiteral("＋"), Text::tr("層の追加"))) {
   setObjectName(QStringLiteral("FilmStackEditor"));
   auto* grid = new QGridLayout(this);
   grid->setContentsMargins(10, 6, 10, 8);
   grid->setHorizontalSpacing(4);
   grid->setVerticalSpacing(4);
   grid->setColumnStretch(1, 1);
-  grid->addWidget(new QLabel(Text::tr("材料")), 0, 1);
-  grid->addWidget(new QLabel(Text::tr("膜厚 [nm]")), 0, 3, 1, 4);
   for (std::size_t place = 0; place < rows_.size(); ++place) {
     BuildRow(*grid, place);
   }
-  const int last = static_cast<int>(rows_.size()) + 1;
   BuildMaterial(substrate_, QStringLiteral("Substrate"));
-  grid->addWidget(new QLabel(Text::tr("基板")), last, 0);
-  grid->addWidget(substrate_.material, last, 1);
-  grid->addWidget(substrate_.file, last, 2);
-  grid->addWidget(add_, last, 3, 1, 5, Qt::AlignRight);
+  substrate_.number = new QLabel(Text::tr("基板"));
+  PlaceMaterial(*grid, substrate_, *add_, 2 * static_cast<int>(rows_.size()));
   connect(add_, &QPushButton::clicked, this, &FilmStackEditor::AddLayer);
   ShowRows();
 }
@@ -66,6 +61,15 @@ void FilmStackEditor::BuildMaterial(Row& row, const QString& name) {
           [this, material = row.material] { AskFile(*material); });
 }
 
+// A formula is long: the material has a line of its own, the thickness the next.
+void FilmStackEditor::PlaceMaterial(QGridLayout& grid, const Row& row, QPushButton& button,
+                                    int line) {
+  for (int column = 0; QWidget * widget : std::initializer_list<QWidget*>{row.number, row.material,
+                                                                          row.file, &button}) {
+    grid.addWidget(widget, line, column++);
+  }
+}
+
 void FilmStackEditor::BuildRow(QGridLayout& grid, std::size_t place) {
   Row& row = rows_.at(place);
   const QString number = QString::number(place + 1);
@@ -82,11 +86,15 @@ void FilmStackEditor::BuildRow(QGridLayout& grid, std::size_t place) {
   row.to->setObjectName(name + QStringLiteral("To"));
   row.remove =
       NarrowButton(name + QStringLiteral("Remove"), QStringLiteral("－"), Text::tr("この層を除く"));
-  const std::array<QWidget*, 8> widgets{row.number, row.material, row.file, row.kind,
-                                        row.from,   row.until,    row.to,   row.remove};
-  for (int column = 0; QWidget * widget : widgets) {
-    grid.addWidget(widget, static_cast<int>(place) + 1, column++);
+  row.unit = new QLabel(QStringLiteral("nm"));
+  const int line = 2 * static_cast<int>(place);
+  PlaceMaterial(grid, row, *row.remove, line);
+  auto* thickness = new QHBoxLayout;
+  for (QWidget* widget : row.Thickness()) {
+    thickness->addWidget(widget);
   }
+  thickness->addStretch();
+  grid.addLayout(thickness, line + 1, 1, 1, 3);
   for (NumberField* field : {row.from, row.to}) {
     field->setMinimumWidth(kNumberWidth);
     field->setMaximumWidth(kNumberWidth);
@@ -102,6 +110,7 @@ void FilmStackEditor::BuildRow(QGridLayout& grid, std::size_t place) {
 void FilmStackEditor::Show(const FilmStackSetting& setting) {
   layers_ = std::clamp<std::size_t>(setting.layers.size(), 1, rows_.size());
   substrate_.material->setText(setting.substrate);
+  substrate_.material->setCursorPosition(0);
   for (std::size_t i = 0; i < rows_.size(); ++i) {
     const FilmLayerSetting layer =
         i < setting.layers.size() ? setting.layers[i] : FilmLayerSetting();
@@ -169,8 +178,11 @@ void FilmStackEditor::ShowRows() {
   for (std::size_t i = 0; i < rows_.size(); ++i) {
     const Row& row = rows_.at(i);
     const bool shown = i < layers_;
-    for (QWidget* widget : std::initializer_list<QWidget*>{row.number, row.material, row.file,
-                                                           row.kind, row.from, row.remove}) {
+    for (QWidget* widget :
+         std::initializer_list<QWidget*>{row.number, row.material, row.file, row.remove}) {
+      widget->setVisible(shown);
+    }
+    for (QWidget* widget : row.Thickness()) {
       widget->setVisible(shown);
     }
     const bool ranged = row.kind->currentIndex() != kKnown;

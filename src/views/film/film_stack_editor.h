@@ -4,6 +4,7 @@
 #include <QComboBox>
 #include <QCoroTask>
 #include <QGroupBox>
+#include <QLabel>
 #include <QPushButton>
 #include <array>
 
@@ -12,12 +13,11 @@
 #include "views/common/number_field.h"
 
 class QGridLayout;
-class QLabel;
 
 namespace vexa {
 
-/// The table of a film stack: a row a layer from the air to the substrate, with its material and
-/// the thickness that is known or the range in which it is looked for.
+/// The table of a film stack: two lines a layer from the air to the substrate, its material and
+/// below it the thickness that is known or the range in which it is looked for.
 class FilmStackEditor : public QGroupBox {
   Q_OBJECT
 
@@ -46,11 +46,17 @@ class FilmStackEditor : public QGroupBox {
     NumberField* from = nullptr;
     QLabel* until = nullptr;
     NumberField* to = nullptr;
+    QLabel* unit = nullptr;
     QPushButton* remove = nullptr;
+
+    [[nodiscard]] std::array<QWidget*, 5> Thickness() const {
+      return {kind, from, until, to, unit};
+    }
   };
 
   void BuildRow(QGridLayout& grid, std::size_t place);
   void BuildMaterial(Row& row, const QString& name);
+  static void PlaceMaterial(QGridLayout& grid, const Row& row, QPushButton& button, int line);
   void AddLayer();
   void RemoveLayer(std::size_t place);
   void ShowRows();

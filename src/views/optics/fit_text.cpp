@@ -7,16 +7,19 @@
 
 namespace vexa {
 
-QString FitThicknessText(const FilmFit& fit) {
+QString FitThicknessText(const FilmFit& fit, const QString& between) {
   if (fit.outcome == FitOutcome::kNone) {
     return QStringLiteral("-");
   }
   QStringList layers;
   for (const FittedLayer& layer : fit.layers) {
-    layers << QStringLiteral("%1 ± %2").arg(FormatNumber(layer.thicknessNm, u"0.0"),
-                                            FormatNumber(layer.uncertaintyNm, u"0.0"));
+    const QString nm = FormatNumber(layer.thicknessNm, u"0.0");
+    const bool known = layer.uncertaintyNm == 0.0;
+    layers << (known
+                   ? nm
+                   : QStringLiteral("%1 ± %2").arg(nm, FormatNumber(layer.uncertaintyNm, u"0.0")));
   }
-  return layers.join(QStringLiteral(" / "));
+  return layers.join(between);
 }
 
 QString DoubtTexts(const MeasurementSlot& slot) {

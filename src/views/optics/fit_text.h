@@ -7,8 +7,10 @@
 
 namespace vexa {
 
-/// "1500.1 ± 1.4", the layers from the air on parted by " / "; "-" where no film is told.
-[[nodiscard]] QString FitThicknessText(const FilmFit& fit);
+/// "1500.1 ± 1.4", the layers from the air on with `between` between them; "-" where no film is
+/// told.
+[[nodiscard]] QString FitThicknessText(const FilmFit& fit,
+                                       const QString& between = QStringLiteral(" / "));
 
 /// All doubts about the thickness of a slot, a line each; empty without any.
 [[nodiscard]] QString DoubtTexts(const MeasurementSlot& slot);

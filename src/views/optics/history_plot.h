@@ -6,8 +6,9 @@
 
 namespace vexa {
 
-/// The thicknesses of a history over their point numbers: a point in doubt is an amber triangle,
-/// one of the film fit a diamond, beside that of the extrema or alone.
+/// The thicknesses of a history over their point numbers: one of the extrema is a disc, in doubt an
+/// amber triangle; one of the film fit is a hollow diamond, around that of the extrema or alone. A
+/// legend tells the marks as soon as there are others than discs.
 class HistoryPlot : public Plot {
   Q_OBJECT
 
@@ -18,7 +19,9 @@ class HistoryPlot : public Plot {
   void Show(const ThicknessHistory& history, const ThicknessScale& scale, int cursor);
 
  private:
+  FittedLegend* legend_;
   QCPGraph* line_;
+  QCPGraph* extrema_;
   QCPGraph* doubtful_;
   QCPGraph* fits_;
   QCPItemStraightLine* cursorLine_;
