@@ -129,19 +129,16 @@ void WindowCommands::ConnectWindows() {
   });
   OpenBeside(menu_.dailyCheck, [this] {
     return new DailyCheckWindow(
-        {session_, desk_, recorder_, RecordStorePath(state_.programDirectory), printer_, messages_,
-         dialogs_},
+        {session_, desk_, recorder_, reader_, StorePath(), printer_, messages_, dialogs_},
         &window_);
   });
   OpenBeside(menu_.gaugeStudy, [this] {
     return new GaugeStudyWindow(
-        {session_, desk_, recorder_, RecordStorePath(state_.programDirectory), printer_, messages_,
-         dialogs_},
+        {session_, desk_, recorder_, reader_, StorePath(), printer_, messages_, dialogs_},
         &window_);
   });
   OpenBeside(menu_.controlChart, [this] {
-    return new ControlChartWindow(session_, RecordStorePath(state_.programDirectory), printer_,
-                                  messages_, dialogs_, &window_);
+    return new ControlChartWindow(session_, reader_, printer_, messages_, dialogs_, &window_);
   });
   Do(menu_.thicknessGraph, [this] { ShowThicknessGraph(); });
   Do(menu_.filmFit, [this] { ShowFilmFit(); });

@@ -86,6 +86,14 @@ void RecordReader::Load(RecordPlace place, const QStringList& ids, QObject& owne
   Ask<QList<WholeRecord>>(place, load, owner, done);
 }
 
+void RecordReader::LoadValues(RecordPlace place, const RecordQuery& query, const RecordValue& value,
+                              QObject& owner, const Done<ValueSeries>& done) {
+  const auto load = [query, value](const RecordSource& source) {
+    return LoadSeries(source, query, value);
+  };
+  Ask<ValueSeries>(place, load, owner, done);
+}
+
 template <typename Value, typename Read>
 void RecordReader::Ask(RecordPlace place, Read read, QObject& owner, const Done<Value>& done) {
   const auto work = [this, place, read = std::move(read), owner = QPointer<QObject>(&owner), done] {

@@ -9,6 +9,7 @@
 #include <functional>
 
 #include "records/record_store.h"
+#include "records/record_value.h"
 #include "records/whole_record.h"
 
 namespace vexa {
@@ -43,6 +44,10 @@ class RecordReader : public QObject {
   /// The samples of these ids; the fault of the first that could not be read.
   void Load(RecordPlace place, const QStringList& ids, QObject& owner,
             const Done<QList<WholeRecord>>& done);
+
+  /// A value over the samples that the query finds, as LoadSeries gives it.
+  void LoadValues(RecordPlace place, const RecordQuery& query, const RecordValue& value,
+                  QObject& owner, const Done<ValueSeries>& done);
 
  private:
   template <typename Value, typename Read>

@@ -11,7 +11,9 @@
 
 #include "records/record_builder.h"
 #include "records/record_store.h"
+#include "records/shared_store.h"
 #include "support/pdf_words.h"
+#include "support/private_postgres.h"
 #include "support/spectra.h"
 #include "support/window_test.h"
 #include "views/paper/current_printer.h"
@@ -160,26 +162,43 @@ class ControlChart : public test::WindowTest {
     ASSERT_EQ(store.Open(path, RecordStore::Mode::kWrite), StoreFault::kNone);
     QList<Row> rows;
     for (int i = 0; i < 30; ++i) {
-      RecordContext context;
-      context.lot = i < 20 ? QStringLiteral("A") : QStringLiteral("B");
-      MeasurementSlot slot;
-      slot.info.measuredAt = QDateTime({2026, 11, 1}, {8, 0}).addSecs(60 * i);
-      slot.info.sampleNumber = QString::number(i + 1);
-      slot.reflectance = test::Flat(40.0 + i % 3 + (i == 15 ? 30.0 : 0.0));
-      rows << ToRow(ResultsOf(state, slot, context));
+      rows << Measured(i, "1号機", i < 20 ? "A" : "B", 40.0 + i % 3 + (i == 15 ? 30.0 : 0.0));
     }
     ASSERT_TRUE(store.Append(rows));
   }
   QWidget& Window() override { return *window; }
 
-  void Open() {
-    window = std::make_unique<ControlChartWindow>(session, path, printer, messages, dialogs);
+  // The sample of that number from 0, one a minute.
+  [[nodiscard]] Row Measured(int number, const char* station, const char* lot,
+                             double percent) const {
+    RecordContext context;
+    context.station = QString::fromUtf8(station);
+    context.lot = QString::fromUtf8(lot);
+    MeasurementSlot slot;
+    slot.info.measuredAt = QDateTime({2026, 11, 1}, {8, 0}).addSecs(60 * number);
+    slot.info.sampleNumber = QString::number(number + 1);
+    slot.reflectance = test::Flat(percent);
+    return ToRow(ResultsOf(state, slot, context));
+  }
+
+  void Open(const QString& shared = {}) {
+    reader = std::make_unique<RecordReader>(path, shared);
+    window = std::make_unique<ControlChartWindow>(session, *reader, printer, messages, dialogs);
     window->show();
+    Settle();
+  }
+  // Until everything that was asked of the reader is answered.
+  void Settle() {
+    bool answered = false;
+    reader->Load(RecordPlace::kStation, {}, *window,
+                 [&answered](const auto& /*none*/) { answered = true; });
+    ASSERT_TRUE(QTest::qWaitFor([&answered] { return answered; }, 30000));
   }
   int Points() { return Find<XmrPlot>("ControlChart").graph(1)->dataCount(); }
 
   const QString path = files.Path("records.db");
   CurrentPrinter printer{state, messages, dialogs};
+  std::unique_ptr<RecordReader> reader;
   std::unique_ptr<ControlChartWindow> window;
 };
 
@@ -189,15 +208,51 @@ TEST_F(ControlChart, ShowsPointsRulesAndTheRecordBehindAPoint) {
   auto& signalRows = Find<QTableWidget>("Signals");
   ASSERT_GE(signalRows.rowCount(), 1);
   signalRows.selectRow(0);
+  Settle();
   EXPECT_EQ(Find<XmrPlot>("ControlChart").Chosen(), 16);
   auto& details = Find<QTableWidget>("RecordDetails");
   EXPECT_EQ(details.item(1, 1)->text(), QStringLiteral("16"));
   test::Type(*window, "Lot", "B");
   emit Find<QLineEdit>("Lot").editingFinished();
+  Settle();
   EXPECT_EQ(Points(), 10);
   Find<QComboBox>("Quantity").setCurrentIndex(static_cast<int>(Quantity::kThickness));
+  Settle();
   EXPECT_EQ(Points(), 0);
   EXPECT_FALSE(Text("ChartWarnings").empty()) << "none of them has a thickness";
+}
+
+TEST_F(ControlChart, TheSharedStoreHasThePointsOfAllStations) {
+  test::PrivatePostgres server;
+  if (!server.IsInstalled()) {
+    GTEST_SKIP() << "PostgreSQL is not installed; scripts/setup --dev installs it";
+  }
+  server.Create();
+  RecordStore other;
+  ASSERT_EQ(other.Open(files.Path("other.db"), RecordStore::Mode::kWrite), StoreFault::kNone);
+  ASSERT_TRUE(other.Append({Measured(40, "2号機", "C", 44.0)}));
+  {
+    SharedStore shared;
+    ASSERT_EQ(shared.Open(server.Uri()), StoreFault::kNone);
+    const auto all = [](const SharedStatus& /*status*/) { return true; };
+    ASSERT_EQ(shared.Send(other, all).waiting, 0);
+    RecordStore own;
+    ASSERT_EQ(own.Open(path, RecordStore::Mode::kRead), StoreFault::kNone);
+    ASSERT_EQ(shared.Send(own, all).waiting, 0);
+  }
+  Open(server.Uri());
+  EXPECT_EQ(Points(), 30);
+  Find<QComboBox>("Place").setCurrentIndex(1);
+  Settle();
+  EXPECT_EQ(Points(), 31);
+  emit Find<XmrPlot>("ControlChart").PointChosen(31);
+  Settle();
+  EXPECT_EQ(Find<QTableWidget>("RecordDetails").item(5, 1)->text(), QStringLiteral("2号機"));
+  server.Stop();
+  Press("LoadChart");
+  Settle();
+  EXPECT_EQ(Points(), 0);
+  EXPECT_EQ(Text("ChartWarnings"), StoreFaultText(StoreFault::kUnreachable).toStdString());
 }
 
 TEST_F(ControlChart, PrintsAndSaves) {

@@ -79,7 +79,7 @@ GaugeStudyWindow::GaugeStudyWindow(const StudyParts& parts, QWidget* parent)
       refusal_(WrappedLabel("PlanRefusal")),
       instruction_(WrappedLabel("GaugeInstruction")),
       measure_(DialogButton("MeasureGauge", Text::tr("測定(&M)"))),
-      filter_(new SeriesFilter(parts.session.Now().date())),
+      filter_(new SeriesFilter(parts.session.Now().date(), parts.reader.HasShared())),
       grade_(WrappedLabel("GaugeGrade")),
       variance_(MakeResultView("Variance")),
       components_(MakeResultView("ComponentTable")),
@@ -197,6 +197,7 @@ void GaugeStudyWindow::LoadStudies(const QString& id) {
 
 void GaugeStudyWindow::ChooseStudy() {
   const int index = choice_->currentIndex() - 1;
+  ++requests_;
   study_ = index >= 0 ? std::optional(studies_[static_cast<std::size_t>(index)]) : std::nullopt;
   ClearResult({});
   if (study_ && !study_->Next()) {
@@ -303,20 +304,20 @@ bool GaugeStudyWindow::KeepReading(int slot, std::size_t place) {
 }
 
 void GaugeStudyWindow::AnalyseRecords() {
-  RecordStore store;
   constexpr int kMostRecords = 10000;
-  StoreFault fault = store.Open(parts_.storePath, RecordStore::Mode::kRead);
-  Answer<ValueSeries> series;
-  if (fault == StoreFault::kNone) {
-    series = LoadSeries(store, filter_->Query(kMostRecords), value_->Value());
-    fault = series.fault;
-  }
-  if (fault != StoreFault::kNone) {
-    ClearResult(StoreFaultText(fault));
-    return;
-  }
-  const std::optional<double> tolerance = toleranceField_->Value();
-  Analyse(ReadingsOf(series.value), tolerance && *tolerance > 0.0 ? tolerance : std::nullopt);
+  const std::optional<double> entered = toleranceField_->Value();
+  const std::optional<double> tolerance = entered && *entered > 0.0 ? entered : std::nullopt;
+  parts_.reader.LoadValues(filter_->Place(), filter_->Query(kMostRecords), value_->Value(), *this,
+                           [this, tolerance, request = ++requests_](const auto& series) {
+                             if (request != requests_) {
+                               return;  // something else was asked meanwhile
+                             }
+                             if (series) {
+                               Analyse(ReadingsOf(series.value), tolerance);
+                             } else {
+                               ClearResult(StoreFaultText(series.fault));
+                             }
+                           });
 }
 
 void GaugeStudyWindow::Analyse(const GaugeReadings& readings, std::optional<double> tolerance) {

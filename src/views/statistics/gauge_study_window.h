@@ -56,6 +56,7 @@ class GaugeStudyWindow : public QDialog {
   GaugeReadings readings_;
   std::optional<statistics::GaugeStudy> result_;
   std::optional<double> tolerance_;
+  int requests_ = 0;  ///< of records; an answer to an earlier one is dropped
   bool measured_ = false;
   bool busy_ = false;
   bool asked_ = false;  ///< what the slot held may be measured over

@@ -47,7 +47,7 @@ ResultTable DetailsOf(const SampleRecord& sample) {
                 {Text::tr("レシピ"), sample.recipe},
                 {Text::tr("測定者"), sample.operatorName},
                 {Text::tr("装置"), sample.station},
-                {Text::tr("判定"), VerdictWord(VerdictOf(sample.groups))},
+                {Text::tr("判定"), VerdictWord(VerdictOf(sample))},
                 {Text::tr("備考"), (sample.remark1 + u' ' + sample.remark2).trimmed()}};
   for (int i = 0; i < kQuantityCount; ++i) {
     const auto quantity = static_cast<Quantity>(i);
@@ -70,19 +70,15 @@ RecordView::RecordView(QWidget* parent)
   layout->addWidget(details_, 3);
 }
 
-void RecordView::Show(const RecordSource& source, const QString& id) {
-  const Answer<StoredRow> row = source.Find(id);
-  const std::optional<SampleRecord> sample = row ? ToSample(row.value.row) : std::nullopt;
-  if (!sample) {
-    Clear();
-    ShowResults(*details_, {{},
-                            {Text::tr("項目"), Text::tr("値")},
-                            {{StoreFaultText(row ? StoreFault::kDamaged : row.fault), {}}},
-                            2});
-    return;
-  }
-  static_cast<SpectrumPlot*>(plot_)->Show(sample->reflectance);
-  ShowResults(*details_, DetailsOf(*sample));
+void RecordView::Show(const SampleRecord& sample) {
+  static_cast<SpectrumPlot*>(plot_)->Show(sample.reflectance);
+  ShowResults(*details_, DetailsOf(sample));
+}
+
+void RecordView::Show(StoreFault fault) {
+  Clear();
+  ShowResults(*details_,
+              {{}, {Text::tr("項目"), Text::tr("値")}, {{StoreFaultText(fault), {}}}, 2});
 }
 
 void RecordView::Clear() {
