@@ -8,12 +8,14 @@
 #include <QPixmap>
 #include <QPushButton>
 
+#include "app/demonstration_history.h"
 #include "app/vexa.h"
 #include "app/window_waits.h"
 #include "files/environment_file.h"
 #include "files/program_settings_file.h"
 #include "files/startup_file.h"
 #include "optics/film_stack_file.h"
+#include "records/record_settings.h"
 #include "standards/standard_file.h"
 #include "views/colour/background_picture.h"
 #include "views/colour/colour_panel.h"
@@ -133,6 +135,12 @@ QCoro::Task<int> Demonstration::Drive(VEXA& window) {
   }
   window.findChild<QPushButton*>(QStringLiteral("ThicknessButton"))->click();
   window.Commands().saveFileAs->trigger();
+  const QString station = ReadRecordSettings(directory_).value_or(UsualRecordSettings()).station;
+  const bool history = KeepDemonstrationHistory(window.State(), QDateTime::currentDateTime(),
+                                                RecordStorePath(directory_), station);
+  if (!history) {
+    Complain(QStringLiteral("%1: cannot be written").arg(RecordStorePath(directory_)));
+  }
   const QString picture = QDir(directory_).filePath(QStringLiteral("window.png"));
   const BackgroundPicture* background = window.findChild<ColourPanel*>()->Picture().get();
   co_await Until([background] { return !background->IsBuilding(); });
@@ -142,7 +150,7 @@ QCoro::Task<int> Demonstration::Drive(VEXA& window) {
     Complain(QStringLiteral("%1: cannot be written").arg(picture));
   }
   const bool saved = window.State().currentDataFileName == dialogs_.dataFile;
-  co_return drawn&& saved&& messages_.faults == 0 ? 0 : 1;
+  co_return drawn&& saved&& history&& messages_.faults == 0 ? 0 : 1;
 }
 
 QCoro::Task<std::optional<QString>> Demonstration::Names::AskOpen(QString /*title*/,

@@ -25,7 +25,7 @@ const QString kNone = QStringLiteral("-");
 
 QString Count(const QList<WholeRecord>& records, Verdict verdict) {
   return QString::number(std::ranges::count_if(records, [verdict](const WholeRecord& record) {
-    return VerdictOf(record.sample.groups) == verdict;
+    return VerdictOf(record.sample) == verdict && record.summary.heldBy.isEmpty();
   }));
 }
 
@@ -86,12 +86,12 @@ PageTable RowTable(const QList<WholeRecord>& records) {
   };
   for (const WholeRecord& record : records) {
     const SampleRecord& sample = record.sample;
-    const bool bad = VerdictOf(sample.groups) == Verdict::kNotGood;
+    const bool bad = VerdictOf(sample) == Verdict::kNotGood && record.summary.heldBy.isEmpty();
     table.rows.push_back({{QString::number(record.summary.number)},
                           {DateTimeText(sample.measuredAt)},
                           {sample.lot},
                           {sample.sampleNumber},
-                          {VerdictText(sample), bad},
+                          {VerdictText(record), bad},
                           number(sample.colour.L, u"##0.00"),
                           number(sample.colour.a, u"##0.00"),
                           number(sample.colour.b, u"##0.00"),
