@@ -141,6 +141,12 @@ LotTally TallyOf(const QList<RecordSummary>& rows) {
   return tally;
 }
 
+LensState StateOf(Verdict verdict, const QString& heldBy) {
+  LotLens lens;
+  lens.measurements << LotLens::Measurement{{}, verdict, true, heldBy};
+  return lens.State();
+}
+
 QString LensStateText(LensState state) {
   switch (state) {
     case LensState::kOk:

@@ -74,6 +74,9 @@ class LotTally {
 
 [[nodiscard]] LotTally TallyOf(const QList<RecordSummary>& rows);
 
+/// Of one measurement alone, whatever the others of its lens say; `heldBy` as in RecordSummary.
+[[nodiscard]] LensState StateOf(Verdict verdict, const QString& heldBy);
+
 /// "OK", "NG" or a dash; what is incomplete or held is said in words.
 [[nodiscard]] QString LensStateText(LensState state);
 

@@ -160,13 +160,6 @@ PageTable DoubtTable(const LotContent& lot, const std::vector<LotValue>& values)
   return table;
 }
 
-// Of one measurement, whatever the others of its lens say.
-LensState StateOf(const LotRow& row) {
-  LotLens lens;
-  lens.measurements << LotLens::Measurement{row.id, VerdictOf(row.sample), true, row.heldBy};
-  return lens.State();
-}
-
 PageTable RowTable(const LotContent& lot, const std::vector<LotValue>& values) {
   PageTable table{.caption = Text::tr("全測定"),
                   .columns = {{Text::tr("番号"), 300.0, Qt::AlignLeft, true},
@@ -182,7 +175,7 @@ PageTable RowTable(const LotContent& lot, const std::vector<LotValue>& values) {
   table.columns.push_back({Text::tr("備考"), 300.0, Qt::AlignLeft, true});
   table.rows.reserve(lot.rows.size());
   for (const LotRow& row : lot.rows) {
-    const LensState state = StateOf(row);
+    const LensState state = StateOf(VerdictOf(row.sample), row.heldBy);
     std::vector<PageTable::Cell> cells{{row.sample.sampleNumber},
                                        {DateTimeText(row.sample.measuredAt)},
                                        {LensStateText(state), state == LensState::kNotGood}};

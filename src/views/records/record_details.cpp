@@ -168,8 +168,7 @@ QString VerdictText(const SampleRecord& sample) {
 }
 
 QString VerdictText(const WholeRecord& record) {
-  return record.summary.heldBy.isEmpty() ? VerdictText(record.sample)
-                                         : LensStateText(LensState::kHeld);
+  return LensStateText(StateOf(VerdictOf(record.sample), record.summary.heldBy));
 }
 
 QString ThicknessText(const SampleRecord& sample) {

@@ -200,7 +200,7 @@ void ControlChartWindow::ShowRecord(int point) {
       return;  // another one was chosen meanwhile
     }
     if (records) {
-      record_->Show(records.value.constFirst().sample);
+      record_->Show(records.value.constFirst());
     } else {
       record_->Show(records.fault);
     }

@@ -3,8 +3,8 @@
 
 #include <QWidget>
 
-#include "records/record.h"
 #include "records/store_fault.h"
+#include "records/whole_record.h"
 
 class QTableWidget;
 
@@ -19,7 +19,7 @@ class RecordView : public QWidget {
  public:
   explicit RecordView(QWidget* parent = nullptr);
 
-  void Show(const SampleRecord& sample);
+  void Show(const WholeRecord& record);
   /// Why there is no record to be seen.
   void Show(StoreFault fault);
   void Clear();
