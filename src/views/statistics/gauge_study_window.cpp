@@ -58,10 +58,11 @@ void Colour(QLabel& label, const QColor& colour) {
 }
 
 QString StudyText(const GaugeSession& study) {
-  return QStringLiteral("%1  %2  (%3/%4)")
-      .arg(study.plan.name, DateTimeText(study.plan.begun))
+  return QStringLiteral("%1  %2/%3  %4")
+      .arg(study.plan.name)
       .arg(study.Done())
-      .arg(study.order.size());
+      .arg(study.order.size())
+      .arg(DateTimeText(study.plan.begun));
 }
 
 }  // namespace
