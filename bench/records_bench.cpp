@@ -10,6 +10,7 @@
 #include <cstdio>
 
 #include "records/record_store.h"
+#include "records/record_value.h"
 #include "records/shared_store.h"
 #include "support/measuring.h"
 #include "support/recorded_day.h"
@@ -52,6 +53,22 @@ void PrintSearches(const RecordStore& store, int samples) {
               SearchMs(store, lot, std::min(samples, kSamplesOfALot)), SearchMs(store, rare, 1),
               SearchMs(store, none, 0), SearchMs(store, failed, std::min(samples / 50, 100)),
               SearchMs(store, {}, 100), SearchMs(store, deep, 100));
+  std::fflush(stdout);
+}
+
+// What a control chart of the newest records takes to be read.
+void PrintSeries(const RecordSource& source, const char* where) {
+  constexpr int kPoints = 10000;
+  RecordQuery query;
+  query.limit = kPoints;
+  for (const Quantity quantity : {Quantity::kLuminousReflectance, Quantity::kReflectance}) {
+    qsizetype points = 0;
+    const double ms = MedianMs(5, [&] {
+      points = static_cast<qsizetype>(LoadSeries(source, query, {quantity}).value.points.size());
+    });
+    std::printf("%s of %lld records out of the %s store: %.0f ms\n",
+                qPrintable(QuantityKey(quantity)), static_cast<long long>(points), where, ms);
+  }
   std::fflush(stdout);
 }
 
@@ -109,6 +126,7 @@ void Bench(int largest, const QString& uri) {
   const double bytes = static_cast<double>(QFileInfo(path).size());
   std::printf("bytes a sample: %.0f\n", bytes / samples);
   std::fflush(stdout);
+  PrintSeries(store, "local");
   if (!uri.isEmpty()) {
     SharedStore shared;
     Fail("reaching the server", shared.Open(uri));
@@ -118,6 +136,7 @@ void Bench(int largest, const QString& uri) {
     Fail("sending", status.fault);
     std::printf("to the shared store: %.0f rows a second\n",
                 1e3 * static_cast<double>(status.sent) / static_cast<double>(timer.elapsed()));
+    PrintSeries(shared, "shared");
   }
 }
 

@@ -4656,5 +4656,13 @@ Repeats: %4   Background: %5   Reference: %6</translation>
         <source>ﾌｫﾙﾀﾞ</source>
         <translation>folder</translation>
     </message>
+    <message>
+        <source>未完</source>
+        <translation>Unfinished</translation>
+    </message>
+    <message>
+        <source>繰返し %1/%2</source>
+        <translation>Repeat %1/%2</translation>
+    </message>
 </context>
 </TS>

@@ -8,6 +8,7 @@
 #include <QPixmap>
 #include <QPushButton>
 
+#include "app/demonstration_history.h"
 #include "app/vexa.h"
 #include "app/window_waits.h"
 #include "base/translation.h"
@@ -15,6 +16,7 @@
 #include "files/program_settings_file.h"
 #include "files/startup_file.h"
 #include "optics/film_stack_file.h"
+#include "records/record_settings.h"
 #include "standards/standard_file.h"
 #include "views/colour/background_picture.h"
 #include "views/colour/colour_panel.h"
@@ -134,6 +136,12 @@ QCoro::Task<int> Demonstration::Drive(VEXA& window) {
   }
   window.findChild<QPushButton*>(QStringLiteral("ThicknessButton"))->click();
   window.Commands().saveFileAs->trigger();
+  const QString station = ReadRecordSettings(directory_).value_or(UsualRecordSettings()).station;
+  const bool history = KeepDemonstrationHistory(window.State(), QDateTime::currentDateTime(),
+                                                RecordStorePath(directory_), station);
+  if (!history) {
+    Complain(QStringLiteral("%1: cannot be written").arg(RecordStorePath(directory_)));
+  }
   const QString picture = QDir(directory_).filePath(QStringLiteral("window.png"));
   const BackgroundPicture* background = window.findChild<ColourPanel*>()->Picture().get();
   co_await Until([background] { return !background->IsBuilding(); });
@@ -143,7 +151,7 @@ QCoro::Task<int> Demonstration::Drive(VEXA& window) {
     Complain(Text::tr("%1：書き込めません").arg(picture));
   }
   const bool saved = window.State().currentDataFileName == dialogs_.dataFile;
-  co_return drawn&& saved&& messages_.faults == 0 ? 0 : 1;
+  co_return drawn&& saved&& history&& messages_.faults == 0 ? 0 : 1;
 }
 
 QCoro::Task<std::optional<QString>> Demonstration::Names::AskOpen(QString /*title*/,

@@ -134,6 +134,14 @@ QCoro::Task<> Gallery::TakeWindows() {
     command->trigger();
     const QString objectName = QLatin1String(object);
     const QString name = QLatin1String(named);
+    co_await Drawn();
+    QWidget* window = ShownWindow(objectName);
+    if (command == commands.gaugeStudy && window != nullptr) {
+      ChooseLast(*window, "StudyChoice");
+    }
+    // What is read of the store comes from a thread of its own.
+    co_await Until(
+        [window] { return window == nullptr || window->cursor().shape() != Qt::BusyCursor; });
     co_await TakeWindow(objectName, name);
   }
 }

@@ -6,6 +6,8 @@
 #include <QFileInfo>
 #include <QTimer>
 #include <algorithm>
+#include <cstdio>
+#include <cstdlib>
 #include <memory>
 
 #include "app/demonstration.h"
@@ -13,6 +15,7 @@
 #include "app/report_command.h"
 #include "app/unattended_messages.h"
 #include "app/vexa.h"
+#include "base/background_thread.h"
 #include "base/end_signals.h"
 #include "base/language.h"
 #include "base/translation.h"
@@ -193,8 +196,14 @@ int main(int argc, char* argv[]) {
                             .operatorName = parser.value(options.operatorName)},
                            QDir::currentPath());
   }
-  return parser.isSet(options.demo)
-             ? RunDemonstration(parser.value(options.demo), parser.isSet(options.gpib),
-                                parser.value(options.pictures))
-             : RunWindow(begin.notices, parser.positionalArguments().value(0));
+  const int status = parser.isSet(options.demo)
+                         ? RunDemonstration(parser.value(options.demo), parser.isSet(options.gpib),
+                                            parser.value(options.pictures))
+                         : RunWindow(begin.notices, parser.positionalArguments().value(0));
+  if (vexa::BackgroundThread::AnyLeft()) {
+    // It hangs in a call to a server; all that is to be kept is on the disk.
+    std::fflush(nullptr);
+    std::_Exit(status);
+  }
+  return status;
 }

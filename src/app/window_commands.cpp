@@ -10,7 +10,6 @@
 #include "app/version_dialog.h"
 #include "base/translation.h"
 #include "files/program_settings_file.h"
-#include "records/daily_check_events.h"
 #include "records/record_settings.h"
 #include "views/colour/colour_difference_window.h"
 #include "views/common/file_questions.h"
@@ -129,19 +128,16 @@ void WindowCommands::ConnectWindows() {
   });
   OpenBeside(menu_.dailyCheck, [this] {
     return new DailyCheckWindow(
-        {session_, desk_, recorder_, RecordStorePath(state_.programDirectory), printer_, messages_,
-         dialogs_},
+        {session_, desk_, recorder_, reader_, StorePath(), printer_, messages_, dialogs_},
         &window_);
   });
   OpenBeside(menu_.gaugeStudy, [this] {
     return new GaugeStudyWindow(
-        {session_, desk_, recorder_, RecordStorePath(state_.programDirectory), printer_, messages_,
-         dialogs_},
+        {session_, desk_, recorder_, reader_, StorePath(), printer_, messages_, dialogs_},
         &window_);
   });
   OpenBeside(menu_.controlChart, [this] {
-    return new ControlChartWindow(session_, RecordStorePath(state_.programDirectory), printer_,
-                                  messages_, dialogs_, &window_);
+    return new ControlChartWindow(session_, reader_, printer_, messages_, dialogs_, &window_);
   });
   Do(menu_.thicknessGraph, [this] { ShowThicknessGraph(); });
   Do(menu_.filmFit, [this] { ShowFilmFit(); });
@@ -271,13 +267,8 @@ QString WindowCommands::StorePath() const {
 
 void WindowCommands::ShowLots() {
   if (lots_.isNull()) {
-    const QString store = RecordStorePath(state_.programDirectory);
-    const auto held = [this, store]() -> std::optional<QString> {
-      const auto hold = FindVerdictHold(store, recorder_.Context().station);
-      return hold && hold.value ? std::optional(hold.value->Why()) : std::nullopt;
-    };
-    lots_ = new LotWindow(
-        {session_, desk_, recorder_, preferences_, messages_, dialogs_, printer_, held}, &window_);
+    lots_ = new LotWindow({session_, desk_, recorder_, preferences_, messages_, dialogs_, printer_},
+                          &window_);
     lots_->setAttribute(Qt::WA_DeleteOnClose);
   }
   lots_->show();

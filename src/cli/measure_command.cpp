@@ -150,11 +150,22 @@ class Run {
     bool going = co_await Place(what);
     for (int i = 1; going && i <= plan_.Repeats(); ++i) {
       const int slot = (sample - 1) * plan_.Repeats() + i;
+      CountRepeat(i);
       const MeasurementOutcome outcome = co_await sequence_.MeasureSample(slot);
       report_.samples.append(ToJson(outcome.status));
       going = IsDone(outcome) && Save();
     }
     co_return going;
+  }
+
+  // A record tells which of the repeats it is: one that was broken off before the last is no lens.
+  void CountRepeat(int repeat) {
+    if (recorder_ != nullptr) {
+      RecordContext context = recorder_->Context();
+      context.repeat = repeat;
+      context.repeats = plan_.Repeats();
+      recorder_->SetContext(context);
+    }
   }
 
   bool Save() {

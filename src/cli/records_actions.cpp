@@ -12,6 +12,14 @@ ExitStatus ComplainOf(const QString& what, StoreFault fault) {
   return kFailed;
 }
 
+QString VerdictText(const RecordSummary& record) {
+  return record.heldBy.isEmpty() ? record.verdict : record.verdict + QStringLiteral(" (held)");
+}
+
+QString RepeatText(int repeat, int repeats) {
+  return repeats > 1 ? QStringLiteral("%1/%2").arg(repeat).arg(repeats) : QStringLiteral("-");
+}
+
 QString ProgramDirectory(const QCommandLineParser& parser) {
   return parser.isSet(option::kDir) ? parser.value(option::kDir) : QStringLiteral(".");
 }

@@ -42,6 +42,12 @@ int BackUpStore(const QCommandLineParser& parser, const QStringList& arguments);
 /// Complains "records: WHAT: FAULT"; the exit status of a failure.
 ExitStatus ComplainOf(const QString& what, StoreFault fault);
 
+/// The verdict; "OK (held)" while a daily check holds it.
+[[nodiscard]] QString VerdictText(const RecordSummary& record);
+
+/// "1/3"; a dash when each lens is measured once.
+[[nodiscard]] QString RepeatText(int repeat, int repeats);
+
 [[nodiscard]] QString ProgramDirectory(const QCommandLineParser& parser);
 [[nodiscard]] QString StorePath(const QCommandLineParser& parser);
 

@@ -85,17 +85,25 @@ std::optional<RecordQuery> QueryOf(const QCommandLineParser& parser) {
 }
 
 QJsonObject SummaryJson(const RecordSummary& record) {
-  return {{QStringLiteral("id"), record.id},
-          {QStringLiteral("number"), record.number},
-          {QStringLiteral("time"), record.time},
-          {QStringLiteral("station"), record.station},
-          {QStringLiteral("lot"), record.lot},
-          {QStringLiteral("recipe"), record.recipe},
-          {QStringLiteral("sample"), record.sampleNumber},
-          {QStringLiteral("operator"), record.operatorName},
-          {QStringLiteral("verdict"), record.verdict},
-          {QStringLiteral("supersedes"),
-           record.supersedes.isEmpty() ? QJsonValue() : QJsonValue(record.supersedes)}};
+  QJsonObject object{{QStringLiteral("id"), record.id},
+                     {QStringLiteral("number"), record.number},
+                     {QStringLiteral("time"), record.time},
+                     {QStringLiteral("station"), record.station},
+                     {QStringLiteral("lot"), record.lot},
+                     {QStringLiteral("recipe"), record.recipe},
+                     {QStringLiteral("sample"), record.sampleNumber},
+                     {QStringLiteral("operator"), record.operatorName},
+                     {QStringLiteral("verdict"), record.verdict},
+                     {QStringLiteral("supersedes"),
+                      record.supersedes.isEmpty() ? QJsonValue() : QJsonValue(record.supersedes)}};
+  if (record.repeats > 1) {
+    object[QStringLiteral("repeat")] = record.repeat;
+    object[QStringLiteral("repeats")] = record.repeats;
+  }
+  if (!record.heldBy.isEmpty()) {
+    object[QStringLiteral("held")] = true;
+  }
+  return object;
 }
 
 }  // namespace
@@ -123,14 +131,16 @@ int ListRecords(const QCommandLineParser& parser, const QStringList& /*arguments
   }
   QList<QStringList> rows{{QStringLiteral("number"), QStringLiteral("time"), QStringLiteral("id"),
                            QStringLiteral("verdict"), QStringLiteral("lot"),
-                           QStringLiteral("sample"), QStringLiteral("operator")}};
+                           QStringLiteral("sample"), QStringLiteral("repeat"),
+                           QStringLiteral("operator")}};
   for (const RecordSummary& record : found.value) {
     rows << QStringList{QString::number(record.number),
                         record.time,
                         record.id,
-                        record.verdict,
+                        VerdictText(record),
                         record.lot,
                         record.sampleNumber,
+                        RepeatText(record.repeat, record.repeats),
                         record.operatorName};
   }
   Print(TextColumns(rows));

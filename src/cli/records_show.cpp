@@ -42,11 +42,11 @@ QString Number(double value, QStringView pattern) {
   return FormatNumber(value, pattern).trimmed();
 }
 
-QString ResultText(const SampleRecord& sample) {
+QString ResultText(const SampleRecord& sample, const QString& verdict) {
   const auto text = [&sample](const ColourValue& value) { return value.TextOf(sample.colour); };
   using namespace colour_value;
   QList<QStringList> rows{
-      {QStringLiteral("verdict"), VerdictWord(VerdictOf(sample))},
+      {QStringLiteral("verdict"), verdict},
       {QStringLiteral("L* a* b*"), text(kL), text(kA), text(kB)},
       {QStringLiteral("x y Y"), text(kChromaticityX), text(kChromaticityY), text(kLuminous)},
       {QStringLiteral("Rm"), text(kAverage)}};
@@ -86,13 +86,14 @@ QString RecordText(const WholeRecord& record) {
                       {QStringLiteral("lot"), sample.lot},
                       {QStringLiteral("recipe"), sample.recipe},
                       {QStringLiteral("sample"), sample.sampleNumber},
+                      {QStringLiteral("repeat"), RepeatText(sample.repeat, sample.repeats)},
                       {QStringLiteral("operator"), sample.operatorName},
                       {QStringLiteral("remarks"), sample.remark1, sample.remark2},
                       {QStringLiteral("supersedes"), record.summary.supersedes, sample.reason},
                       {QStringLiteral("background"), FrameText(record.background)},
                       {QStringLiteral("reference"), FrameText(record.reference)},
                       {QStringLiteral("sample"), FrameText(sample.frame)}}) +
-         ResultText(sample) +
+         ResultText(sample, VerdictText(record.summary)) +
          SpectrumText(ReflectanceSpectrum::kFirstNm, sample.reflectance.Values());
 }
 
@@ -141,7 +142,7 @@ int EvaluateRecords(const QCommandLineParser& parser, const QStringList& argumen
     } else {
       Print(TextColumns({{QStringLiteral("id"), record.summary.id},
                          {QStringLiteral("sample"), record.sample.sampleNumber}}) +
-            ResultText(anew));
+            ResultText(anew, VerdictWord(VerdictOf(anew))));
     }
   }
   if (parser.isSet(option::kJson)) {

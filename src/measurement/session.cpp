@@ -89,6 +89,11 @@ void Session::ClearSlots() {
   emit SlotsReplaced();
 }
 
+void Session::ClearSlot(int slot) {
+  *state_.Slot(slot) = MeasurementSlot();
+  emit SlotChanged(slot);
+}
+
 std::optional<StockAddResult> Session::LoadSlots(const SlotTable& slotsRead,
                                                  const QString& dataFileName,
                                                  const QString& comment) {

@@ -57,6 +57,8 @@ class Session : public QObject {
 
   /// Empties all ten slots and their sample information.
   void ClearSlots();
+  /// Empties the slot 1..10.
+  void ClearSlot(int slot);
 
   /// Takes the slots of a data file of this name in the place of all ten, and evaluates each valid
   /// one; accumulates too, and gives back the last result of that. `comment` is the second line of

@@ -4,6 +4,7 @@
 #include <QJsonArray>
 #include <algorithm>
 
+#include "records/event_types.h"
 #include "records/result_json.h"
 
 namespace vexa {
@@ -11,7 +12,6 @@ namespace {
 
 const QString kCheck = QStringLiteral("daily-check");
 const QString kLimits = QStringLiteral("daily-limits");
-const QString kRelease = QStringLiteral("daily-release");
 const QString kSettings = QStringLiteral("daily-settings");
 
 constexpr int kMostChecks = 2000;
@@ -156,7 +156,7 @@ Answer<DailyCheckHistory> LoadDailyChecks(const QString& storePath, const QStrin
   }
   const auto checks = EventsOf(store, kCheck, station);
   const auto limits = EventsOf(store, kLimits, station);
-  const auto releases = EventsOf(store, kRelease, station);
+  const auto releases = EventsOf(store, event_type::kDailyRelease, station);
   const auto settings = EventsOf(store, kSettings, station);
   Answer<DailyCheckHistory> answer;
   for (const StoreFault fault : {checks.fault, limits.fault, releases.fault, settings.fault}) {
@@ -238,7 +238,7 @@ EventRecord LimitsEvent(const CheckLimits& limits, const Decision& decision) {
 }
 
 EventRecord ReleaseEvent(const VerdictHold& hold, const Decision& decision) {
-  EventRecord event = DecisionEvent(kRelease, decision);
+  EventRecord event = DecisionEvent(event_type::kDailyRelease, decision);
   event.subject = hold.checkId;
   return event;
 }
@@ -248,6 +248,24 @@ EventRecord SettingsEvent(const CheckSettings& settings, const Decision& decisio
   event.data = {{QStringLiteral("wavelengths"), WavelengthsJson(settings.wavelengthsNm)},
                 {QStringLiteral("holds"), settings.holdsVerdicts}};
   return event;
+}
+
+EventRecord HeldEvent(const VerdictHold& hold, const QString& sampleId, const Decision& decision) {
+  EventRecord event = DecisionEvent(event_type::kVerdictHeld, decision);
+  event.subject = sampleId;
+  event.reason = hold.Why();
+  event.data = {{QStringLiteral("check"), hold.checkId}};
+  return event;
+}
+
+Answer<bool> IsReleased(const QString& storePath, const QString& checkId) {
+  RecordStore store;
+  if (const StoreFault fault = store.Open(storePath, RecordStore::Mode::kRead);
+      fault != StoreFault::kNone) {
+    return {false, fault};
+  }
+  const Answer<QList<StoredRow>> rows = store.Events(event_type::kDailyRelease, checkId, 1);
+  return {!rows.value.isEmpty(), rows.fault};
 }
 
 Answer<QString> KeepEvent(const QString& storePath, const EventRecord& event) {

@@ -70,6 +70,14 @@ struct Decision {
 [[nodiscard]] EventRecord ReleaseEvent(const VerdictHold& hold, const Decision& decision);
 [[nodiscard]] EventRecord SettingsEvent(const CheckSettings& settings, const Decision& decision);
 
+/// The verdict on a sample is held, as long as nothing releases the check; its own row tells the
+/// verdict itself.
+[[nodiscard]] EventRecord HeldEvent(const VerdictHold& hold, const QString& sampleId,
+                                    const Decision& decision);
+
+/// Whether the check was released: what it holds is then held no more.
+[[nodiscard]] Answer<bool> IsReleased(const QString& storePath, const QString& checkId);
+
 /// Puts an event into the store; what it is then known by.
 [[nodiscard]] Answer<QString> KeepEvent(const QString& storePath, const EventRecord& event);
 

@@ -202,7 +202,7 @@ EventRecord PlanEvent(const GaugePlan& plan, const QString& station) {
 }
 
 EventRecord ReadingEvent(const GaugePlan& plan, std::size_t place, double value,
-                         const QDateTime& time, const QString& station) {
+                         const QString& sampleId, const QDateTime& time, const QString& station) {
   EventRecord event;
   event.type = kReading;
   event.subject = plan.id;
@@ -213,8 +213,13 @@ EventRecord ReadingEvent(const GaugePlan& plan, std::size_t place, double value,
   event.data = {{QStringLiteral("place"), static_cast<qint64>(place)},
                 {QStringLiteral("part"), task.part + 1},
                 {QStringLiteral("repeat"), task.repeat + 1},
+                {QStringLiteral("sample"), sampleId},
                 {QStringLiteral("value"), value}};
   return event;
+}
+
+QString BlindNumber(const GaugePlan& plan, std::size_t place) {
+  return QStringLiteral("%1 %2").arg(plan.name).arg(place + 1).trimmed();
 }
 
 }  // namespace vexa

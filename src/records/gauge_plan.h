@@ -78,6 +78,11 @@ struct GaugeReadings {
 /// place stands for the earlier one.
 [[nodiscard]] EventRecord PlanEvent(const GaugePlan& plan, const QString& station);
 [[nodiscard]] EventRecord ReadingEvent(const GaugePlan& plan, std::size_t place, double value,
-                                       const QDateTime& time, const QString& station);
+                                       const QString& sampleId, const QDateTime& time,
+                                       const QString& station);
+
+/// The sample number of a measurement: name and place from 1, which tell nothing of the part. Its
+/// reading names the record and the part.
+[[nodiscard]] QString BlindNumber(const GaugePlan& plan, std::size_t place);
 
 }  // namespace vexa

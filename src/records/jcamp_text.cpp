@@ -83,8 +83,12 @@ void AddConditions(LabelledRecords& block, const WholeRecord& record) {
   }
 }
 
-void AddResults(LabelledRecords& block, const SampleRecord& sample) {
+void AddResults(LabelledRecords& block, const WholeRecord& record) {
+  const SampleRecord& sample = record.sample;
   block.Add("$VERDICT", VerdictWord(VerdictOf(sample)));
+  if (!record.summary.heldBy.isEmpty()) {
+    block.Add("$VERDICT HELD BY", record.summary.heldBy);
+  }
   const QJsonObject colour = ColourJson(sample.colour);
   for (auto part = colour.begin(); part != colour.end(); ++part) {
     if (part->isDouble()) {
@@ -140,7 +144,7 @@ QString BlockText(const WholeRecord& record) {
   block.Add("$LOT", sample.lot);
   block.Add("$RECIPE", sample.recipe);
   AddConditions(block, record);
-  AddResults(block, sample);
+  AddResults(block, record);
   block.Add("END", QString());
   return block.Text();
 }

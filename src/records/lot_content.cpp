@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "records/lot_content.h"
 
-#include <QSet>
+#include <QHash>
 #include <algorithm>
 #include <cmath>
 #include <limits>
@@ -117,19 +117,20 @@ Answer<LotContent> ReadLot(const RecordStore& store, const QString& lot) {
   query.limit = std::numeric_limits<int>::max();
   const Answer<ChainHead> head = store.Head();
   content.value.head = head.value;
-  QSet<QString> holding;
-  content.fault = head.fault;
-  if (content) {
-    content.fault =
-        store.Visit(query, [&holding](const StoredRow& row) { holding.insert(row.row.id); });
+  const Answer<QList<RecordSummary>> summaries = LotRows(store, lot);
+  QHash<QString, QString> holding;  // of each row that holds, the check that holds its verdict
+  for (const RecordSummary& summary : summaries.value) {
+    holding.insert(summary.id, summary.heldBy);
   }
+  content.value.tally = TallyOf(summaries.value);
+  content.fault = head ? summaries.fault : head.fault;
   query.withSuperseded = true;
   if (content) {
     content.fault = store.Visit(query, [&](const StoredRow& row) {
       if (std::optional<SampleRecord> sample = ToSample(row.row)) {
         sample->frame.reset();
-        content.value.rows.push_back(
-            {std::move(*sample), row.row.id, holding.contains(row.row.id)});
+        content.value.rows.push_back({std::move(*sample), row.row.id, holding.contains(row.row.id),
+                                      holding.value(row.row.id)});
       }
     });
   }

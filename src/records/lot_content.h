@@ -6,6 +6,7 @@
 #include <optional>
 #include <vector>
 
+#include "records/lot_tally.h"
 #include "records/record_store.h"
 #include "records/record_value.h"
 #include "standards/standard_file.h"
@@ -17,6 +18,7 @@ struct LotRow {
   SampleRecord sample;  ///< without the counts of its frame
   QString id;
   bool holds = true;  ///< no other one has taken its place
+  QString heldBy;     ///< the daily check that holds its verdict
 };
 
 /// All of a lot, as a report is made from it.
@@ -24,6 +26,7 @@ struct LotContent {
   QString lot;
   std::vector<LotRow> rows;   ///< the oldest first
   StandardContents standard;  ///< in force at the last of them
+  LotTally tally;             ///< of the rows that hold
   ChainHead head;             ///< of the store when it was read
 };
 

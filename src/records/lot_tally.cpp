@@ -4,6 +4,8 @@
 #include <QRegularExpression>
 #include <algorithm>
 
+#include "base/translation.h"
+
 namespace vexa {
 namespace {
 
@@ -20,14 +22,23 @@ Verdict VerdictOfWord(const QString& word) {
 
 }  // namespace
 
-Verdict LotLens::LensVerdict() const {
+LensState LotLens::State() const {
   const auto is = [](Verdict verdict) {
     return [verdict](const Measurement& one) { return one.verdict == verdict; };
   };
-  if (std::ranges::any_of(measurements, is(Verdict::kNotGood))) {
-    return Verdict::kNotGood;
+  const bool held = std::ranges::any_of(
+      measurements, [](const Measurement& one) { return !one.heldBy.isEmpty(); });
+  if (!held && std::ranges::any_of(measurements, is(Verdict::kNotGood))) {
+    return LensState::kNotGood;  // whatever the repeats to come would say
   }
-  return std::ranges::all_of(measurements, is(Verdict::kOk)) ? Verdict::kOk : Verdict::kNone;
+  if (!complete) {
+    return LensState::kIncomplete;
+  }
+  if (held) {
+    return LensState::kHeld;
+  }
+  return std::ranges::all_of(measurements, is(Verdict::kOk)) ? LensState::kOk
+                                                             : LensState::kUnjudged;
 }
 
 void LotTally::Add(const QString& number, const LotLens::Measurement& measurement,
@@ -35,19 +46,44 @@ void LotTally::Add(const QString& number, const LotLens::Measurement& measuremen
   const auto known = places_.constFind(number);
   if (known == places_.constEnd()) {
     places_.insert(number, lenses_.size());
-    lenses_.push_back({number, {measurement}});
-    ++counts_[static_cast<std::size_t>(lenses_.back().LensVerdict())];
+    lenses_.push_back({number, {measurement}, measurement.last});
+    ++counts_[static_cast<std::size_t>(lenses_.back().State())];
     return;
   }
   LotLens& lens = lenses_[*known];
-  --counts_[static_cast<std::size_t>(lens.LensVerdict())];
+  --counts_[static_cast<std::size_t>(lens.State())];
+  lens.complete = measurement.last;
   const auto replaced = std::ranges::find(lens.measurements, supersedes, &LotLens::Measurement::id);
   if (!supersedes.isEmpty() && replaced != lens.measurements.end()) {
     *replaced = measurement;
   } else {
     lens.measurements << measurement;
   }
-  ++counts_[static_cast<std::size_t>(lens.LensVerdict())];
+  ++counts_[static_cast<std::size_t>(lens.State())];
+}
+
+QStringList LotTally::HoldingChecks() const {
+  QStringList checks;
+  for (const LotLens& lens : lenses_) {
+    for (const LotLens::Measurement& one : lens.measurements) {
+      if (!one.heldBy.isEmpty() && !checks.contains(one.heldBy)) {
+        checks << one.heldBy;
+      }
+    }
+  }
+  return checks;
+}
+
+void LotTally::Release(const QString& checkId) {
+  counts_ = {};
+  for (LotLens& lens : lenses_) {
+    for (LotLens::Measurement& one : lens.measurements) {
+      if (one.heldBy == checkId) {
+        one.heldBy.clear();
+      }
+    }
+    ++counts_[static_cast<std::size_t>(lens.State())];
+  }
 }
 
 const LotLens* LotTally::Find(const QString& number) const {
@@ -56,9 +92,9 @@ const LotLens* LotTally::Find(const QString& number) const {
 }
 
 std::optional<double> LotTally::Yield() const {
-  const int judged = Count(Verdict::kOk) + Count(Verdict::kNotGood);
+  const int judged = Count(LensState::kOk) + Count(LensState::kNotGood);
   return judged == 0 ? std::nullopt
-                     : std::optional(static_cast<double>(Count(Verdict::kOk)) / judged);
+                     : std::optional(static_cast<double>(Count(LensState::kOk)) / judged);
 }
 
 QString LotTally::NumberAfter(const QString& last) const {
@@ -99,9 +135,32 @@ Answer<QList<RecordSummary>> LotRows(const RecordSource& store, const QString& l
 LotTally TallyOf(const QList<RecordSummary>& rows) {
   LotTally tally;
   for (const RecordSummary& row : rows) {
-    tally.Add(row.sampleNumber, {row.id, VerdictOfWord(row.verdict)});
+    tally.Add(row.sampleNumber,
+              {row.id, VerdictOfWord(row.verdict), row.repeat >= row.repeats, row.heldBy});
   }
   return tally;
+}
+
+LensState StateOf(Verdict verdict, const QString& heldBy) {
+  LotLens lens;
+  lens.measurements << LotLens::Measurement{{}, verdict, true, heldBy};
+  return lens.State();
+}
+
+QString LensStateText(LensState state) {
+  switch (state) {
+    case LensState::kOk:
+      return VerdictWord(Verdict::kOk);
+    case LensState::kNotGood:
+      return VerdictWord(Verdict::kNotGood);
+    case LensState::kIncomplete:
+      return Text::tr("未完");
+    case LensState::kHeld:
+      return Text::tr("保留");
+    case LensState::kUnjudged:
+      break;
+  }
+  return QStringLiteral("-");
 }
 
 }  // namespace vexa

@@ -141,6 +141,10 @@ Row ToRow(const SampleRecord& sample) {
   document[QStringLiteral("colour")] = ColourJson(sample.colour);
   document[QStringLiteral("verdict")] = VerdictWord(VerdictOf(sample));
   document[QStringLiteral("verdicts")] = GroupsJson(sample.groups);
+  if (sample.repeats > 1) {
+    document[QStringLiteral("repeat")] = sample.repeat;
+    document[QStringLiteral("repeats")] = sample.repeats;
+  }
   if (sample.thickness) {
     document[QStringLiteral("thickness")] = ThicknessJson(*sample.thickness, sample.doubts);
   }
@@ -215,6 +219,8 @@ std::optional<SampleRecord> ToSample(const Row& row) {
   for (const SampleText& part : kSampleTexts) {
     sample.*part.text = document[QLatin1String(part.name)].toString();
   }
+  sample.repeat = document[QStringLiteral("repeat")].toInt(1);
+  sample.repeats = document[QStringLiteral("repeats")].toInt(1);
   sample.colour = ColourOf(document[QStringLiteral("colour")].toObject());
   sample.groups = GroupsOf(document[QStringLiteral("verdicts")].toArray());
   if (const QJsonValue thickness = document[QStringLiteral("thickness")]; thickness.isObject()) {

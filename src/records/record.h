@@ -69,6 +69,9 @@ struct SampleRecord {
   std::optional<QJsonObject> fit;            ///< as another floor has written it
   std::array<GroupJudgement, kStandardGroupCount> groups;
 
+  int repeat = 1;   ///< which measurement of its lens, from 1
+  int repeats = 1;  ///< that the recipe wants of each lens
+
   QString supersedes;  ///< the id of the sample that this one replaces
   QString reason;      ///< why it does
 };

@@ -105,6 +105,8 @@ SampleRecord ResultsOf(const VEXATYPE& state, const MeasurementSlot& slot,
     sample.fit = FilmFitJson(*slot.fit);
   }
   sample.groups = slot.judgement.groups;
+  sample.repeat = context.repeat;
+  sample.repeats = context.repeats;
   sample.supersedes = context.supersedes;
   sample.reason = context.reason;
   return sample;

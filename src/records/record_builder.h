@@ -19,6 +19,8 @@ struct RecordContext {
   QString recipe;
   QString operatorName;
   CieLimits cieLimits;  ///< of a recipe, judged beside the standard; all off without one
+  int repeat = 1;       ///< which measurement of its lens, from 1
+  int repeats = 1;      ///< that a recipe wants of each lens
   QString supersedes;
   QString reason;
 };

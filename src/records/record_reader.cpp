@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "records/record_reader.h"
 
+#include <QThread>
 #include <utility>
 
 #include "records/shared_store.h"
@@ -8,7 +9,7 @@
 namespace vexa {
 
 /// Lives on the thread of the reader.
-class RecordReaderWork : public QObject {
+class RecordReaderWork : public BackgroundWork {
  public:
   RecordReaderWork(QString storePath, QString connection)
       : storePath_(std::move(storePath)), connection_(std::move(connection)) {}
@@ -51,17 +52,9 @@ class RecordReaderWork : public QObject {
 };
 
 RecordReader::RecordReader(const QString& storePath, const QString& connection)
-    : hasShared_(!connection.isEmpty()), work_(new RecordReaderWork(storePath, connection)) {
-  work_->moveToThread(&thread_);
-  connect(&thread_, &QThread::finished, work_, &QObject::deleteLater);
-  thread_.start();
-}
-
-RecordReader::~RecordReader() {
-  thread_.requestInterruption();
-  thread_.quit();
-  thread_.wait();
-}
+    : hasShared_(!connection.isEmpty()),
+      work_(new RecordReaderWork(storePath, connection)),
+      thread_(work_, *this) {}
 
 void RecordReader::Search(RecordPlace place, const RecordQuery& query, QObject& owner,
                           const Done<QList<RecordSummary>>& done) {
@@ -86,14 +79,23 @@ void RecordReader::Load(RecordPlace place, const QStringList& ids, QObject& owne
   Ask<QList<WholeRecord>>(place, load, owner, done);
 }
 
+void RecordReader::LoadValues(RecordPlace place, const RecordQuery& query, const RecordValue& value,
+                              QObject& owner, const Done<ValueSeries>& done) {
+  const auto load = [query, value](const RecordSource& source) {
+    return LoadSeries(source, query, value);
+  };
+  Ask<ValueSeries>(place, load, owner, done);
+}
+
 template <typename Value, typename Read>
 void RecordReader::Ask(RecordPlace place, Read read, QObject& owner, const Done<Value>& done) {
-  const auto work = [this, place, read = std::move(read), owner = QPointer<QObject>(&owner), done] {
-    if (thread_.isInterruptionRequested()) {
+  const auto work = [work = work_, place, read = std::move(read), owner = QPointer<QObject>(&owner),
+                     done] {
+    if (QThread::currentThread()->isInterruptionRequested()) {
       return;
     }
-    const Answer<Value> answer = work_->From<Value>(place, read);
-    QMetaObject::invokeMethod(this, [owner, done, answer] {
+    const Answer<Value> answer = work->template From<Value>(place, read);
+    emit work->Posted([owner, done, answer] {
       if (!owner.isNull()) {
         done(answer);
       }

@@ -5,10 +5,11 @@
 #include <QObject>
 #include <QPointer>
 #include <QStringList>
-#include <QThread>
 #include <functional>
 
+#include "base/background_thread.h"
 #include "records/record_store.h"
+#include "records/record_value.h"
 #include "records/whole_record.h"
 
 namespace vexa {
@@ -29,11 +30,8 @@ class RecordReader : public QObject {
   using Done = std::function<void(const Answer<Value>& answer)>;
 
   /// `connection` names the shared store as PostgresOptions takes it; empty: there is none.
+  /// When the reader goes, what is just being read is left unanswered.
   RecordReader(const QString& storePath, const QString& connection);
-  /// Waits for what is just being read.
-  ~RecordReader() override;
-  RecordReader(const RecordReader&) = delete;
-  RecordReader& operator=(const RecordReader&) = delete;
 
   [[nodiscard]] bool HasShared() const { return hasShared_; }
 
@@ -44,13 +42,17 @@ class RecordReader : public QObject {
   void Load(RecordPlace place, const QStringList& ids, QObject& owner,
             const Done<QList<WholeRecord>>& done);
 
+  /// A value over the samples that the query finds, as LoadSeries gives it.
+  void LoadValues(RecordPlace place, const RecordQuery& query, const RecordValue& value,
+                  QObject& owner, const Done<ValueSeries>& done);
+
  private:
   template <typename Value, typename Read>
   void Ask(RecordPlace place, Read read, QObject& owner, const Done<Value>& done);
 
   bool hasShared_;
-  QThread thread_;
-  RecordReaderWork* work_;
+  RecordReaderWork* work_;  ///< of the thread
+  BackgroundThread thread_;
 };
 
 }  // namespace vexa

@@ -1,10 +1,13 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "records/record_search.h"
 
+#include <QHash>
 #include <QJsonDocument>
+#include <QJsonObject>
 #include <QStringList>
 #include <utility>
 
+#include "records/event_types.h"
 #include "records/record_source.h"
 #include "records/result_json.h"
 
@@ -84,12 +87,54 @@ void TakePlace(const QJsonDocument& document, RecordSummary& summary) {
 // What a table shows of the results, as the document of a row has it.
 void TakeResults(const QJsonDocument& document, RecordSummary& summary) {
   TakePlace(document, summary);
+  summary.repeat = document[QStringLiteral("repeat")].toInt(1);
+  summary.repeats = document[QStringLiteral("repeats")].toInt(1);
   summary.colour = ColourOf(document[QStringLiteral("colour")].toObject());
   if (const QJsonValue thickness = document[QStringLiteral("thickness")]; thickness.isObject()) {
     const ThicknessResult result = ThicknessOf(thickness.toObject());
     summary.thicknessNm = result.thicknessNm;
     summary.physical = result.physical;
   }
+}
+
+// The check that the event says holds the verdict on its subject.
+QString HoldingCheck(const QJsonDocument& event) {
+  return event[QStringLiteral("type")] == event_type::kVerdictHeld
+             ? event[QStringLiteral("data")][QStringLiteral("check")].toString()
+             : QString();
+}
+
+Answer<bool> IsReleased(const SqlSession& session, const QString& check) {
+  Answer<QSqlQuery> rows = session.Select(
+      QStringLiteral("SELECT document FROM record_row WHERE kind = 'event' AND subject = ?"),
+      {check});
+  Answer<bool> released{false, rows.fault};
+  while (rows && rows.value.next()) {
+    const auto event = QJsonDocument::fromJson(rows.value.value(0).toString().toUtf8());
+    released.value |= event[QStringLiteral("type")] == event_type::kDailyRelease;
+  }
+  return released;
+}
+
+// Frees the verdicts whose check was released since.
+StoreFault TakeReleases(const SqlSession& session, QList<RecordSummary>& found) {
+  QHash<QString, bool> released;
+  for (RecordSummary& summary : found) {
+    if (summary.heldBy.isEmpty()) {
+      continue;
+    }
+    if (!released.contains(summary.heldBy)) {
+      const Answer<bool> answer = IsReleased(session, summary.heldBy);
+      if (!answer) {
+        return answer.fault;
+      }
+      released.insert(summary.heldBy, answer.value);
+    }
+    if (released.value(summary.heldBy)) {
+      summary.heldBy.clear();
+    }
+  }
+  return StoreFault::kNone;
 }
 
 // The inner search finds its rows in an index alone; the outer one touches those of the page.
@@ -113,7 +158,9 @@ Answer<QList<RecordSummary>> SearchRecords(const SqlSession& session, const Reco
            QStringLiteral(
                "r.id, r.number, r.utc, r.time, r.station, r.lot, r.recipe, r.sample, r.operator,"
                " r.verdict, r.document, (SELECT e.document FROM record_row e WHERE"
-               " e.subject = r.id AND e.supersedes IS NOT NULL ORDER BY e.number DESC LIMIT 1)"));
+               " e.subject = r.id AND e.supersedes IS NOT NULL ORDER BY e.number DESC LIMIT 1),"
+               " (SELECT e.document FROM record_row e WHERE"
+               " e.subject = r.id AND e.supersedes IS NULL ORDER BY e.number DESC LIMIT 1)"));
   if (!rows) {
     return {{}, rows.fault};
   }
@@ -135,9 +182,13 @@ Answer<QList<RecordSummary>> SearchRecords(const SqlSession& session, const Reco
     if (summary.supersedes.isEmpty()) {
       TakePlace(QJsonDocument::fromJson(text(11).toUtf8()), summary);
     }
+    summary.heldBy = HoldingCheck(QJsonDocument::fromJson(text(12).toUtf8()));
     found.value.append(std::move(summary));
   }
   found.fault = FaultOf(rows.value.lastError());
+  if (found) {
+    found.fault = TakeReleases(session, found.value);
+  }
   return found;
 }
 

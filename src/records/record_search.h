@@ -25,6 +25,9 @@ struct RecordSummary {
   QString verdict;      ///< "OK", "NG" or "none"
   QString supersedes;   ///< the id of the sample that it replaces, or empty
   QString reason;       ///< why it does
+  int repeat = 1;       ///< which measurement of its lens, from 1
+  int repeats = 1;      ///< that its recipe wants
+  QString heldBy;       ///< the daily check that holds its verdict; empty when none does any more
   ColourResult colour;  ///< not a number what could not be computed
   std::optional<double> thicknessNm;
   bool physical = false;  ///< the thickness is no optical one

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "records/shared_sender.h"
 
+#include <QThread>
 #include <QTimer>
 #include <algorithm>
 #include <optional>
@@ -16,7 +17,7 @@ constexpr int kLookMs = 10000;  ///< for what other programs have written
 }  // namespace
 
 /// Lives on the thread of the sender.
-class SharedSenderWork : public QObject {
+class SharedSenderWork : public BackgroundWork {
  public:
   SharedSenderWork(QString storePath, QString connection, SharedSender& sender)
       : storePath_(std::move(storePath)), connection_(std::move(connection)), sender_(sender) {
@@ -69,13 +70,13 @@ class SharedSenderWork : public QObject {
 
   void Tell(const SharedStatus& status) {
     if (status != std::exchange(last_, status)) {
-      emit sender_.StatusChanged(status);
+      emit Posted([sender = &sender_, status] { emit sender->StatusChanged(status); });
     }
   }
 
   QString storePath_;
   QString connection_;
-  SharedSender& sender_;
+  SharedSender& sender_;  // for the calls that are posted to it alone
   RecordStore local_;
   SharedStore shared_;
   SharedStatus last_;
@@ -84,20 +85,12 @@ class SharedSenderWork : public QObject {
   int retryMs_ = kFirstRetryMs;
 };
 
-SharedSender::SharedSender(const QString& storePath, const QString& connection) {
-  qRegisterMetaType<SharedStatus>();
-  auto* work = new SharedSenderWork(storePath, connection, *this);
-  work->moveToThread(&thread_);
-  connect(&thread_, &QThread::started, work, &SharedSenderWork::Send);
-  connect(&thread_, &QThread::finished, work, &QObject::deleteLater);
-  connect(this, &SharedSender::Woken, work, &SharedSenderWork::Send);
-  thread_.start();
-}
+SharedSender::SharedSender(const QString& storePath, const QString& connection)
+    : SharedSender(new SharedSenderWork(storePath, connection, *this)) {}
 
-SharedSender::~SharedSender() {
-  thread_.requestInterruption();
-  thread_.quit();
-  thread_.wait();
+SharedSender::SharedSender(SharedSenderWork* work) : thread_(work, *this) {
+  connect(this, &SharedSender::Woken, work, &SharedSenderWork::Send);
+  Wake();
 }
 
 }  // namespace vexa

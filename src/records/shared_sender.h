@@ -3,11 +3,13 @@
 
 #include <QObject>
 #include <QString>
-#include <QThread>
 
+#include "base/background_thread.h"
 #include "records/shared_store.h"
 
 namespace vexa {
+
+class SharedSenderWork;
 
 /// Sends the rows of a local store to the shared one, on a thread of its own with connections of
 /// its own. It begins by itself, goes on when it is woken, and tries again by itself after the
@@ -16,10 +18,8 @@ class SharedSender : public QObject {
   Q_OBJECT
 
  public:
+  /// When it goes, what is just being sent is left: the batch holds whole or not at all.
   SharedSender(const QString& storePath, const QString& connection);
-  ~SharedSender() override;
-  SharedSender(const SharedSender&) = delete;
-  SharedSender& operator=(const SharedSender&) = delete;
 
   /// There are new rows in the local store.
   void Wake() { emit Woken(); }
@@ -31,7 +31,9 @@ class SharedSender : public QObject {
   void Woken();
 
  private:
-  QThread thread_;
+  explicit SharedSender(SharedSenderWork* work);
+
+  BackgroundThread thread_;
 };
 
 }  // namespace vexa

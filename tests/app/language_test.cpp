@@ -136,6 +136,8 @@ class Languages : public test::MainWindowTest {
         if (!top->isVisible() || top == window.get()) {
           continue;
         }
+        EXPECT_TRUE(QTest::qWaitFor([top] { return top->cursor().shape() != Qt::BusyCursor; }))
+            << "it reads records";
         auto* pages = top->findChild<QTabWidget*>();
         for (int page = 0; page < (pages == nullptr ? 1 : pages->count()); ++page) {
           if (pages != nullptr) {

@@ -4,8 +4,10 @@
 
 #include <QApplication>
 #include <QLineEdit>
+#include <QTableWidget>
 
 #include "app/main_window_test.h"
+#include "records/daily_check_events.h"
 #include "records/lot_content.h"
 #include "records/record_settings.h"
 #include "standards/standard_file.h"
@@ -201,6 +203,56 @@ TEST_F(LotMeasuring, ShowsTheLightUntilALensIsMeasured) {
   Key("LotNumber", Qt::Key_F7);
   WaitUntilIdle();
   EXPECT_EQ(Rows(), (std::vector<std::string>{"1 OK"})) << "no frame of it is kept";
+}
+
+TEST_F(LotMeasuring, ALensBrokenOffBetweenItsRepeatsIsNotOk) {
+  lots->close();
+  WriteRecipe(", \"repeats\": 2");
+  QApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+  OpenLots();
+  Begin("L1");
+  TakeFrames();
+  int begun = 0;
+  QObject::connect(&window->Desk(), &InstrumentDesk::Began, lots, [this, &begun] {
+    if (++begun == 2) {
+      QMetaObject::invokeMethod(
+          lots, [this] { Key("LotNumber", Qt::Key_Escape); }, Qt::QueuedConnection);
+    }
+  });
+  Scan("A", kGood);
+  EXPECT_EQ(Panel(), "中止 A");
+  EXPECT_EQ(LotText("LotCounts"), "レンズ 1   OK 0   NG 0   未完 1");
+  EXPECT_EQ(LotText("LotYield"), "歩留り -");
+  dialogs.save = SaveChoice{Path("lot.pdf")};
+  Key("LotNumber", Qt::Key_F8);
+  ASSERT_TRUE(QTest::qWaitFor([this] { return peer.files.Has("lot.pdf"); }));
+  const QString report = test::PdfPages(Path("lot.pdf")).join(u'\n');
+  EXPECT_TRUE(report.contains(QStringLiteral("未完 1 A"))) << report.toStdString();
+  Press(Qt::Key_Return, kGood);
+  EXPECT_EQ(LotText("LotCounts"), "レンズ 1   OK 1   NG 0") << "both repeats, now";
+}
+
+TEST_F(LotMeasuring, AHeldVerdictCountsOnNeitherSideUntilItIsReleased) {
+  const QString store = RecordStorePath(peer.Directory());
+  const QString station = UsualRecordSettings().station;
+  Begin("L1");
+  TakeFrames();
+  DailyCheck check{{}, now, {}, {}, {}};
+  ASSERT_TRUE(KeepEvent(
+      store, CheckEvent({check, {CheckVerdict::kRed, {{CheckValue::kLamp440, 1}}}}, station)));
+  Press(Qt::Key_Space, kBad);
+  EXPECT_EQ(Panel(), "保留 1");
+  EXPECT_EQ(messages.beeps, 0);
+  EXPECT_EQ(LotText("LotYield"), "歩留り -");
+  EXPECT_EQ(LotText("LotCounts"), "レンズ 1   OK 0   NG 0   保留 1");
+  EXPECT_EQ(test::Child<QTableWidget>(*lots, "LotLast").item(0, 1)->text(), QStringLiteral("保留"));
+  const auto hold = FindVerdictHold(store, station).value;
+  ASSERT_TRUE(hold);
+  ASSERT_TRUE(KeepEvent(store, ReleaseEvent(*hold, {station, QStringLiteral("品質"),
+                                                    QStringLiteral("ﾗﾝﾌﾟ確認"), now})));
+  Press(Qt::Key_Space, kGood);
+  EXPECT_EQ(Panel(), "OK 2");
+  EXPECT_EQ(LotText("LotCounts"), "レンズ 2   OK 1   NG 1");
 }
 
 TEST_F(LotMeasuring, RepeatsEachLensAsTheRecipeWantsAndReportsTheLot) {

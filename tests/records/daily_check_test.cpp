@@ -140,6 +140,28 @@ TEST_F(DailyChecks, ARedCheckHoldsTheVerdictsOfItsStationUntilItIsReleased) {
   EXPECT_FALSE(Hold(station)) << "the next check is green";
 }
 
+TEST_F(DailyChecks, ASearchTellsWhoseVerdictIsHeldUntilItsCheckIsReleased) {
+  RecordStore store;
+  ASSERT_EQ(store.Open(path, RecordStore::Mode::kWrite), StoreFault::kNone);
+  const QList<Row> held = test::SampleRows(1);
+  const QList<Row> free = test::SampleRows(2);
+  ASSERT_TRUE(store.Append(held + free));
+  KeepRed(1);
+  const VerdictHold hold = *Hold(station);
+  Keep(HeldEvent(hold, held.constLast().id, Decide(1)));
+  const auto heldBy = [&store](const QString& id) {
+    RecordQuery query;
+    query.id = id;
+    return store.Search(query).value.constFirst().heldBy;
+  };
+  EXPECT_EQ(heldBy(held.constLast().id), hold.checkId);
+  EXPECT_EQ(heldBy(free.constLast().id), QString());
+  Keep(CheckEvent({Check(2, 0.0), {kGreen, {}}}, station));
+  EXPECT_EQ(heldBy(held.constLast().id), hold.checkId) << "it was measured before";
+  Keep(ReleaseEvent(hold, Decide(3)));
+  EXPECT_EQ(heldBy(held.constLast().id), QString());
+}
+
 TEST_F(DailyChecks, WhatIsKeptComesBack) {
   const auto limits =
       ComputeCheckLimits(Days(20), Check(0, 0.0).conditions, Decide(20).time).limits;

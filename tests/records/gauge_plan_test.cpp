@@ -66,8 +66,8 @@ TEST(GaugePlan, GoesOnWhereItWasLeft) {
   GaugePlan plan = Plan();
   plan.id = KeepEvent(path, PlanEvent(plan, station)).value;
   const auto keep = [&](std::size_t place, double value, int minute) {
-    EXPECT_TRUE(KeepEvent(
-        path, ReadingEvent(plan, place, value, plan.begun.addSecs(60 * minute), station)));
+    EXPECT_TRUE(KeepEvent(path, ReadingEvent(plan, place, value, QString(),
+                                             plan.begun.addSecs(60 * minute), station)));
   };
   keep(0, 1.5, 1);
   keep(2, 9.0, 2);

@@ -105,12 +105,56 @@ TEST_F(RecipeFile, IsPutInForceAsAWholeOrNotAtAll) {
   EXPECT_EQ(settings.instrument.samplingTimeMs, 77);
 }
 
+TEST(LotTally, ALensBrokenOffOrHeldIsNeitherOkNorNg) {
+  using Measurements = QList<LotLens::Measurement>;
+  const QString check = QStringLiteral("check");
+  struct Case {
+    const char* name;
+    Measurements measurements;  // each in the place of the one before where it has its id
+    LensState state;
+    LensState released;
+  };
+  using enum LensState;
+  const auto first = [](const char* id, Verdict verdict, const QString& heldBy = {}) {
+    return LotLens::Measurement{QLatin1String(id), verdict, false, heldBy};
+  };
+  const auto last = [](const char* id, Verdict verdict, const QString& heldBy = {}) {
+    return LotLens::Measurement{QLatin1String(id), verdict, true, heldBy};
+  };
+  for (const Case& c : {
+           Case{"broken off", {first("1", Verdict::kOk)}, kIncomplete, kIncomplete},
+           Case{"failed already", {first("1", Verdict::kNotGood)}, kNotGood, kNotGood},
+           Case{"whole", {first("1", Verdict::kOk), last("2", Verdict::kOk)}, kOk, kOk},
+           Case{"measured again and broken off",
+                {first("1", Verdict::kOk), last("2", Verdict::kOk), first("1", Verdict::kOk)},
+                kIncomplete,
+                kIncomplete},
+           Case{"held", {last("1", Verdict::kOk, check)}, kHeld, kOk},
+           Case{"held NG", {last("1", Verdict::kNotGood, check)}, kHeld, kNotGood},
+           Case{"held and broken off", {first("1", Verdict::kOk, check)}, kIncomplete, kIncomplete},
+           Case{"measured again under a green check",
+                {last("1", Verdict::kOk, check), last("1", Verdict::kOk)},
+                kOk,
+                kOk},
+       }) {
+    LotTally tally;
+    for (const LotLens::Measurement& one : c.measurements) {
+      tally.Add(QStringLiteral("A"), one, one.id);
+    }
+    EXPECT_EQ(tally.Lenses().front().State(), c.state) << c.name;
+    EXPECT_EQ(tally.Count(c.state), 1) << c.name;
+    EXPECT_EQ(tally.Yield().has_value(), c.state == kOk || c.state == kNotGood) << c.name;
+    tally.Release(check);
+    EXPECT_EQ(tally.Count(c.released), 1) << c.name;
+  }
+}
+
 TEST(LotTally, CountsEachLensByWhatHoldsOfIt) {
   LotTally tally;
   tally.Add(QStringLiteral("A-09"), {QStringLiteral("1"), Verdict::kOk});
   tally.Add(QStringLiteral("A-10"), {QStringLiteral("2"), Verdict::kNotGood});
   tally.Add(QStringLiteral("A-09"), {QStringLiteral("3"), Verdict::kNotGood});
-  EXPECT_EQ(tally.Count(Verdict::kNotGood), 2) << "one of two measurements of a lens failed";
+  EXPECT_EQ(tally.Count(LensState::kNotGood), 2) << "one of two measurements of a lens failed";
   EXPECT_EQ(tally.Yield(), 0.0);
   tally.Add(QStringLiteral("A-09"), {QStringLiteral("4"), Verdict::kOk}, QStringLiteral("3"));
   EXPECT_EQ(tally.Yield(), 0.5);

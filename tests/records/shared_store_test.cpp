@@ -1,12 +1,19 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "records/shared_store.h"
 
+#include <arpa/inet.h>
 #include <gtest/gtest.h>
+#include <poll.h>
+#include <sys/socket.h>
+#include <unistd.h>
 
+#include <QElapsedTimer>
 #include <QEventLoop>
+#include <QThread>
 #include <QTimer>
 
 #include "records/postgres_options.h"
+#include "records/record_reader.h"
 #include "records/samples.h"
 #include "records/shared_sender.h"
 #include "records/whole_record.h"
@@ -113,6 +120,61 @@ TEST_F(Shared, HoldsTheRowsOfAllStationsOnce) {
        {"UPDATE record_row SET hash = ''", "DELETE FROM record_row", "TRUNCATE record_row"}) {
     EXPECT_EQ(hand.Run(QLatin1String(statement)), StoreFault::kRefused) << statement;
   }
+}
+
+/// A server that takes connections and says nothing, as one whose packets are swallowed.
+class SilentServer {
+ public:
+  SilentServer() {
+    sockaddr_in address{};
+    address.sin_family = AF_INET;
+    address.sin_addr.s_addr = htonl(INADDR_LOOPBACK);
+    socklen_t size = sizeof(address);
+    auto* where = reinterpret_cast<sockaddr*>(&address);
+    EXPECT_EQ(::bind(socket_, where, size), 0);
+    EXPECT_EQ(::listen(socket_, 5), 0);
+    EXPECT_EQ(::getsockname(socket_, where, &size), 0);
+    port_ = ntohs(address.sin_port);
+  }
+  ~SilentServer() { ::close(socket_); }
+  SilentServer(const SilentServer&) = delete;
+  SilentServer& operator=(const SilentServer&) = delete;
+
+  [[nodiscard]] QString Connection() const {
+    return QStringLiteral("host=127.0.0.1 port=%1 user=vexa").arg(port_);
+  }
+  /// Waits until somebody has connected.
+  void Accept() const {
+    pollfd file{socket_, POLLIN, 0};
+    EXPECT_EQ(::poll(&file, 1, 10000), 1);
+  }
+
+ private:
+  int socket_ = ::socket(AF_INET, SOCK_STREAM | SOCK_CLOEXEC, 0);
+  int port_ = 0;
+};
+
+TEST(BackgroundThreads, LeaveAServerThatNeverAnswers) {
+  const test::TemporaryFiles files;
+  RecordStore local;
+  ASSERT_EQ(local.Open(files.Path("records.db"), Mode::kWrite), StoreFault::kNone);
+  ASSERT_TRUE(local.Append(SampleRows(1)));
+  QElapsedTimer going;
+  {
+    const SilentServer servers[2];
+    const SharedSender sender(files.Path("records.db"), servers[0].Connection());
+    RecordReader reader(files.Path("records.db"), servers[1].Connection());
+    reader.Search(RecordPlace::kShared, {}, reader, [](const auto& /*found*/) {});
+    for (const SilentServer& server : servers) {
+      server.Accept();
+    }
+    going.start();
+  }
+  EXPECT_LT(going.elapsed(), 1500);
+  for (int i = 0; i < 200 && BackgroundThread::AnyLeft(); ++i) {
+    QThread::msleep(50);
+  }
+  EXPECT_FALSE(BackgroundThread::AnyLeft()) << "the server has gone, too";
 }
 
 TEST_F(Shared, SenderGoesOnAfterTheServerWasAway) {

@@ -9,16 +9,22 @@
 #include <QTableWidget>
 #include <random>
 
+#include "records/daily_check_events.h"
 #include "records/record_builder.h"
 #include "records/record_store.h"
+#include "records/samples.h"
+#include "records/shared_store.h"
 #include "support/pdf_words.h"
+#include "support/private_postgres.h"
 #include "support/spectra.h"
 #include "support/window_test.h"
 #include "views/paper/current_printer.h"
 #include "views/statistics/chart_study.h"
 #include "views/statistics/control_chart_window.h"
 #include "views/statistics/gauge_result.h"
+#include "views/statistics/gauge_study_window.h"
 #include "views/statistics/repeat_study.h"
+#include "views/statistics/slot_statistics_window.h"
 #include "views/statistics/xmr_plot.h"
 
 namespace vexa {
@@ -160,26 +166,43 @@ class ControlChart : public test::WindowTest {
     ASSERT_EQ(store.Open(path, RecordStore::Mode::kWrite), StoreFault::kNone);
     QList<Row> rows;
     for (int i = 0; i < 30; ++i) {
-      RecordContext context;
-      context.lot = i < 20 ? QStringLiteral("A") : QStringLiteral("B");
-      MeasurementSlot slot;
-      slot.info.measuredAt = QDateTime({2026, 11, 1}, {8, 0}).addSecs(60 * i);
-      slot.info.sampleNumber = QString::number(i + 1);
-      slot.reflectance = test::Flat(40.0 + i % 3 + (i == 15 ? 30.0 : 0.0));
-      rows << ToRow(ResultsOf(state, slot, context));
+      rows << Measured(i, "1号機", i < 20 ? "A" : "B", 40.0 + i % 3 + (i == 15 ? 30.0 : 0.0));
     }
     ASSERT_TRUE(store.Append(rows));
   }
   QWidget& Window() override { return *window; }
 
-  void Open() {
-    window = std::make_unique<ControlChartWindow>(session, path, printer, messages, dialogs);
+  // The sample of that number from 0, one a minute.
+  [[nodiscard]] Row Measured(int number, const char* station, const char* lot,
+                             double percent) const {
+    RecordContext context;
+    context.station = QString::fromUtf8(station);
+    context.lot = QString::fromUtf8(lot);
+    MeasurementSlot slot;
+    slot.info.measuredAt = QDateTime({2026, 11, 1}, {8, 0}).addSecs(60 * number);
+    slot.info.sampleNumber = QString::number(number + 1);
+    slot.reflectance = test::Flat(percent);
+    return ToRow(ResultsOf(state, slot, context));
+  }
+
+  void Open(const QString& shared = {}) {
+    reader = std::make_unique<RecordReader>(path, shared);
+    window = std::make_unique<ControlChartWindow>(session, *reader, printer, messages, dialogs);
     window->show();
+    Settle();
+  }
+  // Until everything that was asked of the reader is answered.
+  void Settle() {
+    bool answered = false;
+    reader->Load(RecordPlace::kStation, {}, *window,
+                 [&answered](const auto& /*none*/) { answered = true; });
+    ASSERT_TRUE(QTest::qWaitFor([&answered] { return answered; }, 30000));
   }
   int Points() { return Find<XmrPlot>("ControlChart").graph(1)->dataCount(); }
 
   const QString path = files.Path("records.db");
   CurrentPrinter printer{state, messages, dialogs};
+  std::unique_ptr<RecordReader> reader;
   std::unique_ptr<ControlChartWindow> window;
 };
 
@@ -189,15 +212,51 @@ TEST_F(ControlChart, ShowsPointsRulesAndTheRecordBehindAPoint) {
   auto& signalRows = Find<QTableWidget>("Signals");
   ASSERT_GE(signalRows.rowCount(), 1);
   signalRows.selectRow(0);
+  Settle();
   EXPECT_EQ(Find<XmrPlot>("ControlChart").Chosen(), 16);
   auto& details = Find<QTableWidget>("RecordDetails");
   EXPECT_EQ(details.item(1, 1)->text(), QStringLiteral("16"));
   test::Type(*window, "Lot", "B");
   emit Find<QLineEdit>("Lot").editingFinished();
+  Settle();
   EXPECT_EQ(Points(), 10);
   Find<QComboBox>("Quantity").setCurrentIndex(static_cast<int>(Quantity::kThickness));
+  Settle();
   EXPECT_EQ(Points(), 0);
   EXPECT_FALSE(Text("ChartWarnings").empty()) << "none of them has a thickness";
+}
+
+TEST_F(ControlChart, TheSharedStoreHasThePointsOfAllStations) {
+  test::PrivatePostgres server;
+  if (!server.IsInstalled()) {
+    GTEST_SKIP() << "PostgreSQL is not installed; scripts/setup --dev installs it";
+  }
+  server.Create();
+  RecordStore other;
+  ASSERT_EQ(other.Open(files.Path("other.db"), RecordStore::Mode::kWrite), StoreFault::kNone);
+  ASSERT_TRUE(other.Append({Measured(40, "2号機", "C", 44.0)}));
+  {
+    SharedStore shared;
+    ASSERT_EQ(shared.Open(server.Uri()), StoreFault::kNone);
+    const auto all = [](const SharedStatus& /*status*/) { return true; };
+    ASSERT_EQ(shared.Send(other, all).waiting, 0);
+    RecordStore own;
+    ASSERT_EQ(own.Open(path, RecordStore::Mode::kRead), StoreFault::kNone);
+    ASSERT_EQ(shared.Send(own, all).waiting, 0);
+  }
+  Open(server.Uri());
+  EXPECT_EQ(Points(), 30);
+  Find<QComboBox>("Place").setCurrentIndex(1);
+  Settle();
+  EXPECT_EQ(Points(), 31);
+  emit Find<XmrPlot>("ControlChart").PointChosen(31);
+  Settle();
+  EXPECT_EQ(Find<QTableWidget>("RecordDetails").item(5, 1)->text(), QStringLiteral("2号機"));
+  server.Stop();
+  Press("LoadChart");
+  Settle();
+  EXPECT_EQ(Points(), 0);
+  EXPECT_EQ(Text("ChartWarnings"), StoreFaultText(StoreFault::kUnreachable).toStdString());
 }
 
 TEST_F(ControlChart, PrintsAndSaves) {
@@ -223,6 +282,154 @@ TEST_F(ControlChart, AnEmptyOrAForeignStoreIsSaidInWords) {
     EXPECT_FALSE(Text("ChartWarnings").empty()) << content;
     Press("SaveChart");  // cancelled
   }
+}
+
+class SlotStatistics : public test::WindowTest {
+ protected:
+  void SetUp() override {
+    for (const auto& [number, percent] :
+         {std::pair(1, 4.0), std::pair(3, 5.0), std::pair(5, 9.0)}) {
+      state.Slot(number)->valid = true;
+      state.Slot(number)->reflectance = test::Flat(percent);
+    }
+    QObject::connect(&window, &SlotStatisticsWindow::SpreadWanted,
+                     [this](const std::vector<int>& slotNumbers) { spread = slotNumbers; });
+  }
+  QWidget& Window() override { return window; }
+
+  // Number and mean of the average reflectance.
+  std::string Statistics() {
+    const auto& table = Find<QTableWidget>("RepeatTable");
+    const auto found =
+        table.findItems(ValueTitle({Quantity::kAverageReflectance}), Qt::MatchExactly);
+    if (found.isEmpty()) {
+      return {};
+    }
+    const int row = found.constFirst()->row();
+    return (table.item(row, 1)->text() + u' ' + table.item(row, 2)->text()).toStdString();
+  }
+
+  InstrumentDesk desk{session, messages, [](const VEXATYPE&) { return nullptr; }};
+  CurrentPrinter printer{state, messages, dialogs};
+  SlotStatisticsWindow window{{session, desk, printer, messages, dialogs}};
+  std::vector<int> spread;
+};
+
+TEST_F(SlotStatistics, FollowTheTicksAndTheSlots) {
+  emit session.SlotsReplaced();
+  auto& slotList = Find<QListWidget>("TickedSlots");
+  Find<QAbstractButton>("SpreadInGraph").click();
+  EXPECT_EQ(Statistics(), "3 6");
+  struct Case {
+    std::vector<int> unticked;  // places in the list
+    const char* statistics;
+    std::vector<int> spread;
+  };
+  for (const Case& c : {Case{{1}, "2 6.5", {1, 5}}, Case{{0, 1}, "", {5}}, Case{{0, 1, 2}, "", {}},
+                        Case{{2}, "2 4.5", {1, 3}}}) {
+    for (int i = 0; i < slotList.count(); ++i) {
+      const bool off = std::ranges::find(c.unticked, i) != c.unticked.end();
+      slotList.item(i)->setCheckState(off ? Qt::Unchecked : Qt::Checked);
+    }
+    EXPECT_EQ(Statistics(), c.statistics);
+    EXPECT_EQ(spread, c.spread);
+  }
+  session.ClearSlot(1);
+  EXPECT_EQ(slotList.count(), 2);
+  EXPECT_EQ(spread, std::vector{3}) << "the ticks stay with their slots";
+  window.show();
+  window.close();
+  EXPECT_EQ(spread, std::vector<int>()) << "the graph shows it no longer";
+}
+
+class GaugeStudyTest : public test::WindowTest {
+ protected:
+  QWidget& Window() override { return *window; }
+
+  void Open() {
+    window = std::make_unique<GaugeStudyWindow>(
+        StudyParts{session, desk, recorder, reader, path, printer, messages, dialogs});
+  }
+  // What the plan's part measures, beside what its operator makes of it.
+  static double Reading(const GaugeTask& task) {
+    return 10.0 * task.part + 0.1 * task.gaugeOperator + 0.01 * task.repeat;
+  }
+  void KeepReadings(const GaugePlan& plan, std::size_t from, std::size_t to) {
+    const std::vector<GaugeTask> order = OrderOf(plan);
+    for (std::size_t place = from; place < to; ++place) {
+      ASSERT_TRUE(KeepEvent(path, ReadingEvent(plan, place, Reading(order[place]), {},
+                                               plan.begun.addSecs(60), QStringLiteral("1号機"))));
+    }
+  }
+  void Choose(int study) {
+    auto& choice = Find<QComboBox>("StudyChoice");
+    choice.setCurrentIndex(study);
+    emit choice.activated(study);
+  }
+
+  const QString path = files.Path("records.db");
+  InstrumentDesk desk{session, messages, [](const VEXATYPE&) { return nullptr; }};
+  SessionRecorder recorder{session, path,
+                           test::With<RecordContext>(&RecordContext::station, "1号機")};
+  RecordReader reader{path, {}};
+  CurrentPrinter printer{state, messages, dialogs};
+  std::unique_ptr<GaugeStudyWindow> window;
+};
+
+TEST_F(GaugeStudyTest, RefusesPlansThatCannotBeMeasured) {
+  Open();
+  struct Case {
+    const char* operators;
+    const char* tolerance;
+    bool made;
+  };
+  int made = 0;
+  for (const Case& c :
+       {Case{"", "", false}, Case{"A", "", false}, Case{"A, A", "", false}, Case{"A,", "", false},
+        Case{"A, B", "0", false}, Case{"A, B", "-1", false}, Case{"A, B", "E", false},
+        Case{"A, B", "", true}, Case{"A, B, C", "0.5", true}}) {
+    test::Type(*window, "Operators", c.operators);
+    test::Type(*window, "Tolerance", c.tolerance);
+    Press("MakePlan");
+    made += c.made ? 1 : 0;
+    EXPECT_EQ(Find<QLabel>("PlanRefusal").text().isEmpty(), c.made) << c.operators << c.tolerance;
+    EXPECT_EQ(Find<QComboBox>("StudyChoice").count(), 1 + made) << c.operators << c.tolerance;
+  }
+}
+
+TEST_F(GaugeStudyTest, AStudyShowsNothingBeforeItsEnd) {
+  GaugePlan plan;
+  plan.begun = QDateTime({2026, 11, 1}, {8, 0});
+  plan.parts = 3;
+  plan.operators = QStringList{QStringLiteral("A"), QStringLiteral("B")};
+  plan.repeats = 2;
+  plan.id = KeepEvent(path, PlanEvent(plan, QStringLiteral("1号機"))).value;
+  for (const std::size_t done : {0U, 5U, 11U}) {
+    KeepReadings(plan, done == 11 ? 5 : 0, done);
+    Open();
+    Choose(1);
+    const GaugeTask next = OrderOf(plan)[done];
+    EXPECT_NE(Text("GaugeInstruction")
+                  .find(QStringLiteral("%1/12  測定者 %2: 部品 %3 ")
+                            .arg(done + 1)
+                            .arg(plan.operators[next.gaugeOperator])
+                            .arg(next.part + 1)
+                            .toStdString()),
+              std::string::npos)
+        << Text("GaugeInstruction");
+    EXPECT_EQ(Text("GaugeGrade"), "");
+    EXPECT_EQ(Find<QTableWidget>("Variance").rowCount(), 0);
+  }
+  KeepReadings(plan, 11, 12);
+  Open();
+  Choose(1);
+  EXPECT_NE(Text("GaugeGrade"), "");
+  EXPECT_GT(Find<QTableWidget>("Variance").rowCount(), 0);
+  dialogs.save = SaveChoice{files.Path("study.csv")};
+  Press("SaveGauge");
+  EXPECT_EQ(files.Read("study.csv").split('\n').size(), 14);
+  Choose(0);
+  EXPECT_EQ(Find<QTableWidget>("Variance").rowCount(), 0) << "a new one has no result";
 }
 
 }  // namespace

@@ -82,7 +82,10 @@ LotPage::LotPage(LotRun& run, Session& session, InstrumentDesk& desk, MessageSer
   connect(&run_, &LotRun::Changed, this, &LotPage::ShowRun);
   connect(&desk_, &InstrumentDesk::ActivityChanged, this, &LotPage::ShowRun);
   connect(&desk_, &InstrumentDesk::LightSeen, light_, &LightPanel::Show);
-  connect(&ages_, &QTimer::timeout, this, &LotPage::ShowRun);
+  connect(&ages_, &QTimer::timeout, this, [this] {
+    run_.TakeReleases();
+    ShowRun();
+  });
   connect(number_, &QLineEdit::textChanged, this, [this] { hint_->setText(Hint()); });
   ages_.start(kAgesMs);
   ShowRun();
@@ -312,8 +315,8 @@ void LotPage::ShowRun() {
   measuring_ = measuring;
   if (ended) {
     if (run_.LastOutcome() == LotRun::Outcome::kFault ||
-        (run_.CurrentLens() != nullptr && run_.CurrentLens()->LensVerdict() == Verdict::kNotGood &&
-         run_.LastOutcome() == LotRun::Outcome::kJudged)) {
+        (run_.LastOutcome() == LotRun::Outcome::kJudged &&
+         run_.CurrentLens()->State() == LensState::kNotGood)) {
       messages_.Beep();
     }
     Say(run_.LastOutcome() == LotRun::Outcome::kFault ? QString() : run_.FaultText());

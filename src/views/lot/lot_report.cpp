@@ -37,14 +37,15 @@ QString NumberText(const std::optional<double>& value) {
   return value ? NumberText(*value) : kNone;
 }
 
-LotTally TallyOfContent(const LotContent& lot) {
-  LotTally tally;
-  for (const LotRow& row : lot.rows) {
-    if (row.holds) {
-      tally.Add(row.sample.sampleNumber, {row.id, VerdictOf(row.sample)});
+// The lenses that are neither OK nor NG yet, by their numbers.
+QString NumbersOf(const LotTally& tally, LensState state) {
+  QStringList numbers;
+  for (const LotLens& lens : tally.Lenses()) {
+    if (lens.State() == state) {
+      numbers << lens.number;
     }
   }
-  return tally;
+  return numbers.join(QStringLiteral(", "));
 }
 
 // Each once, in their order.
@@ -59,7 +60,7 @@ QString Names(const LotContent& lot, QString SampleRecord::*text) {
 }
 
 PageTable SummaryTable(const LotContent& lot) {
-  const LotTally tally = TallyOfContent(lot);
+  const LotTally& tally = lot.tally;
   const auto superseded =
       std::ranges::count_if(lot.rows, [](const LotRow& row) { return !row.holds; });
   PageTable table{.caption = {},
@@ -76,9 +77,15 @@ PageTable SummaryTable(const LotContent& lot) {
                                  DateTimeText(lot.rows.back().sample.measuredAt)));
   add(Text::tr("レンズ"), Text::tr("%1   OK %2   NG %3   判定なし %4")
                               .arg(tally.Lenses().size())
-                              .arg(tally.Count(Verdict::kOk))
-                              .arg(tally.Count(Verdict::kNotGood))
-                              .arg(tally.Count(Verdict::kNone)));
+                              .arg(tally.Count(LensState::kOk))
+                              .arg(tally.Count(LensState::kNotGood))
+                              .arg(tally.Count(LensState::kUnjudged)));
+  for (const LensState state : {LensState::kIncomplete, LensState::kHeld}) {
+    if (tally.Count(state) > 0) {
+      add(LensStateText(state),
+          QStringLiteral("%1   %2").arg(tally.Count(state)).arg(NumbersOf(tally, state)));
+    }
+  }
   const std::optional<double> yield = tally.Yield();
   add(Text::tr("歩留り"),
       yield ? QString::number(100.0 * *yield, 'f', 1) + QStringLiteral(" %") : kNone);
@@ -168,14 +175,17 @@ PageTable RowTable(const LotContent& lot, const std::vector<LotValue>& values) {
   table.columns.push_back({Text::tr("備考"), 300.0, Qt::AlignLeft, true});
   table.rows.reserve(lot.rows.size());
   for (const LotRow& row : lot.rows) {
-    const Verdict verdict = VerdictOf(row.sample);
+    const LensState state = StateOf(VerdictOf(row.sample), row.heldBy);
     std::vector<PageTable::Cell> cells{{row.sample.sampleNumber},
                                        {DateTimeText(row.sample.measuredAt)},
-                                       {VerdictText(verdict), verdict == Verdict::kNotGood}};
+                                       {LensStateText(state), state == LensState::kNotGood}};
     for (std::size_t i = 0; i < count; ++i) {
       cells.push_back({NumberText(values[i].of(row.sample))});
     }
     QStringList remarks;
+    if (row.sample.repeats > 1) {
+      remarks << Text::tr("繰返し %1/%2").arg(row.sample.repeat).arg(row.sample.repeats);
+    }
     if (!row.sample.supersedes.isEmpty()) {
       remarks << Text::tr("測り直し: %1").arg(row.sample.reason);
     }

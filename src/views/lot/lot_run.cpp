@@ -31,13 +31,13 @@ QString TextOf(const MeasurementOutcome& outcome) {
 }  // namespace
 
 LotRun::LotRun(LotIdentity identity, LotTally tally, Session& session, InstrumentDesk& desk,
-               SessionRecorder& recorder, VerdictHeld held)
+               SessionRecorder& recorder, QString storePath)
     : identity_(std::move(identity)),
       tally_(std::move(tally)),
       session_(session),
       desk_(desk),
       recorder_(recorder),
-      held_(std::move(held)) {
+      storePath_(std::move(storePath)) {
   if (!tally_.Lenses().empty()) {
     number_ = tally_.Lenses().back().number;
   }
@@ -82,9 +82,10 @@ QCoro::Task<> LotRun::MeasureLens(QString number, QString reason) {
     co_return;
   }
   const QPointer<LotRun> alive(this);
+  TakeReleases();
   number_ = number;
   running_ = MeasurementKind::kSample;
-  hold_ = held_ ? held_().value_or(QString()) : QString();
+  hold_ = FindVerdictHold(storePath_, recorder_.Context().station).value;
   const LotLens* earlier = tally_.Find(number);
   const QList<LotLens::Measurement> replaced =
       earlier == nullptr ? QList<LotLens::Measurement>() : earlier->measurements;
@@ -111,6 +112,8 @@ QCoro::Task<bool> LotRun::MeasureOnce(QString supersedes, QString reason) {
   context.recipe = identity_.recipe.name;
   context.operatorName = identity_.operatorName;
   context.cieLimits = identity_.recipe.cie;
+  context.repeat = repetition_;
+  context.repeats = identity_.recipe.repeats;
   context.supersedes = supersedes;
   context.reason = reason;
   recorder.SetContext(context);
@@ -126,11 +129,12 @@ QCoro::Task<bool> LotRun::MeasureOnce(QString supersedes, QString reason) {
     co_return false;
   }
   const SessionRecorder::KeptSample& kept = recorder_.LastSample();
-  tally_.Add(number_, {kept.id, kept.verdict}, supersedes);
-  Hold();
   const bool more = repetition_ < identity_.recipe.repeats;
+  tally_.Add(number_, {kept.id, kept.verdict, !more, hold_ ? hold_->checkId : QString()},
+             supersedes);
+  Hold();
   if (!more) {
-    outcome_ = hold_.isEmpty() ? Outcome::kJudged : Outcome::kHeld;
+    outcome_ = Outcome::kJudged;
     End(outcome);
   }
   co_return more;
@@ -175,17 +179,24 @@ void LotRun::End(const MeasurementOutcome& outcome) {
 
 // That a verdict was held, and why, is kept beside the sample, whose own row tells what it was.
 void LotRun::Hold() {
-  if (hold_.isEmpty()) {
-    return;
+  if (hold_) {
+    recorder_.Keep(
+        HeldEvent(*hold_, recorder_.LastSample().id,
+                  {recorder_.Context().station, identity_.operatorName, {}, session_.Now()}));
   }
-  EventRecord event;
-  event.type = QStringLiteral("verdict-held");
-  event.subject = recorder_.LastSample().id;
-  event.reason = hold_;
-  event.operatorName = identity_.operatorName;
-  event.station = recorder_.Context().station;
-  event.time = session_.Now();
-  recorder_.Keep(event);
+}
+
+void LotRun::TakeReleases() {
+  bool released = false;
+  for (const QString& check : tally_.HoldingChecks()) {
+    if (IsReleased(storePath_, check).value) {
+      tally_.Release(check);
+      released = true;
+    }
+  }
+  if (released) {
+    emit Changed();
+  }
 }
 
 }  // namespace vexa

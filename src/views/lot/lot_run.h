@@ -4,18 +4,15 @@
 #include <QCoroTask>
 #include <QObject>
 #include <QString>
-#include <functional>
 #include <optional>
 
 #include "measurement/instrument_desk.h"
+#include "records/daily_check_events.h"
 #include "records/lot_tally.h"
 #include "records/recipe.h"
 #include "records/session_recorder.h"
 
 namespace vexa {
-
-/// Why verdicts are held at the moment, in words for the operator; nothing when they are not.
-using VerdictHeld = std::function<std::optional<QString>()>;
 
 /// What a lot is measured under, entered once.
 struct LotIdentity {
@@ -34,8 +31,7 @@ class LotRun : public QObject {
   /// How the last thing ended.
   enum class Outcome {
     kNone,    ///< nothing was measured yet
-    kJudged,  ///< a lens: `CurrentLens` has its verdict
-    kHeld,    ///< likewise, but its verdict is held
+    kJudged,  ///< a lens: `CurrentLens` has its state
     kFrame,   ///< a background or a reference
     kFault,   ///< it failed: `FaultText`
     kCancelled,
@@ -43,9 +39,10 @@ class LotRun : public QObject {
   /// What has to be measured before the next lens.
   enum class Due { kNothing, kBackground, kReference };
 
-  /// What the store holds of the lot already goes on. `held` may be empty.
+  /// What the store of this path holds of the lot already goes on; the verdicts are held as long as
+  /// it says so.
   LotRun(LotIdentity identity, LotTally tally, Session& session, InstrumentDesk& desk,
-         SessionRecorder& recorder, VerdictHeld held);
+         SessionRecorder& recorder, QString storePath);
 
   [[nodiscard]] const LotIdentity& Identity() const { return identity_; }
   [[nodiscard]] const LotTally& Tally() const { return tally_; }
@@ -56,7 +53,8 @@ class LotRun : public QObject {
   [[nodiscard]] Outcome LastOutcome() const { return outcome_; }
   [[nodiscard]] MeasurementKind LastKind() const { return lastKind_; }  ///< what it was about
   [[nodiscard]] const QString& FaultText() const { return fault_; }
-  [[nodiscard]] const QString& HoldReason() const { return hold_; }
+  /// Why the verdict on the last lens was held.
+  [[nodiscard]] QString HoldReason() const { return hold_ ? hold_->Why() : QString(); }
   /// The lens that is, or was last, measured; null before the first, or when nothing of it was
   /// stored.
   [[nodiscard]] const LotLens* CurrentLens() const { return tally_.Find(number_); }
@@ -72,6 +70,9 @@ class LotRun : public QObject {
   QCoro::Task<> MeasureLens(QString number, QString reason = {});
   void Cancel();
 
+  /// Frees the verdicts whose check was released meanwhile.
+  void TakeReleases();
+
  signals:
   void Changed();
 
@@ -86,13 +87,13 @@ class LotRun : public QObject {
   Session& session_;
   InstrumentDesk& desk_;
   SessionRecorder& recorder_;
-  VerdictHeld held_;
+  QString storePath_;
   std::optional<MeasurementKind> running_;
   int repetition_ = 0;
   Outcome outcome_ = Outcome::kNone;
   MeasurementKind lastKind_ = MeasurementKind::kSample;
   QString fault_;
-  QString hold_;
+  std::optional<VerdictHold> hold_;
   QString number_;
   int slot_ = 0;
 };

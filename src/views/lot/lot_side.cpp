@@ -81,10 +81,7 @@ void LotSide::Show(const LotRun& run, const Session& session) {
   yield_->setText(
       Text::tr("歩留り %1")
           .arg(yield ? QString::number(kPercent * *yield, 'f', 1) + u'%' : QStringLiteral("-")));
-  counts_->setText(Text::tr("レンズ %1   OK %2   NG %3")
-                       .arg(tally.Lenses().size())
-                       .arg(tally.Count(Verdict::kOk))
-                       .arg(tally.Count(Verdict::kNotGood)));
+  counts_->setText(LensCounts(tally));
   ShowLast(run);
   const VEXATYPE& state = session.State();
   frames_->setText(Text::tr("ﾊﾞｯｸｸﾞﾗﾝﾄﾞ: %1\nﾘﾌｧﾚﾝｽ: %2")
@@ -101,8 +98,8 @@ void LotSide::ShowLast(const LotRun& run) {
   last_->setRowCount(rows);
   for (int row = 0; row < rows; ++row) {
     const LotLens& lens = lenses[lenses.size() - 1 - static_cast<std::size_t>(row)];
-    auto* verdict = new QTableWidgetItem(VerdictText(lens.LensVerdict()));
-    verdict->setForeground(VerdictColour(lens.LensVerdict()));
+    auto* verdict = new QTableWidgetItem(LensStateText(lens.State()));
+    verdict->setForeground(LensStateColour(lens.State()));
     verdict->setTextAlignment(Qt::AlignCenter);
     last_->setItem(row, 0, new QTableWidgetItem(lens.number));
     last_->setItem(row, 1, verdict);

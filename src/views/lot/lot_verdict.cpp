@@ -51,13 +51,16 @@ VerdictPanel::Content Measuring(const LotRun& run) {
 
 VerdictPanel::Content Judged(const LotRun& run, const VEXATYPE& state) {
   const LotLens* lens = run.CurrentLens();
-  const Verdict verdict = lens == nullptr ? Verdict::kNone : lens->LensVerdict();
+  const LensState lensState = lens == nullptr ? LensState::kUnjudged : lens->State();
   const MeasurementSlot* slot = state.Slot(run.LastSlot());
   VerdictPanel::Content content{
-      VerdictText(verdict), VerdictColour(verdict), run.CurrentNumber(), {}};
-  if (verdict == Verdict::kNone) {
+      LensStateText(lensState), LensStateColour(lensState), run.CurrentNumber(), {}};
+  if (lensState == LensState::kUnjudged) {
     content.word = Text::tr("測定済");
     content.details = Text::tr("判定する規格がありません。");
+  } else if (lensState == LensState::kHeld) {
+    content.background = kAttention;
+    content.details = run.HoldReason();
   } else if (slot != nullptr) {
     content.details = Failures(*slot, run.Identity().recipe, state.colour);
   }
@@ -86,8 +89,6 @@ VerdictPanel::Content VerdictContent(const LotRun& run, const VEXATYPE& state) {
   switch (run.LastOutcome()) {
     case LotRun::Outcome::kJudged:
       return Judged(run, state);
-    case LotRun::Outcome::kHeld:
-      return {Text::tr("保留"), kAttention, run.CurrentNumber(), run.HoldReason()};
     case LotRun::Outcome::kCancelled:
       return {Text::tr("中止"), kAttention, run.CurrentNumber(), {}};
     default:
@@ -98,23 +99,31 @@ VerdictPanel::Content VerdictContent(const LotRun& run, const VEXATYPE& state) {
 VerdictPanel::Content RepeatQuestion(const LotLens& lens, const QString& reason) {
   return {Text::tr("測定済み"), kAttention, lens.number,
           Text::tr("この番号は測定済みです (%1)。測り直しますか。\n理由: %2")
-              .arg(VerdictText(lens.LensVerdict()), reason)};
+              .arg(LensStateText(lens.State()), reason)};
 }
 
-QString VerdictText(Verdict verdict) {
-  return verdict == Verdict::kNone ? QStringLiteral("-") : VerdictWord(verdict);
-}
-
-QColor VerdictColour(Verdict verdict) {
-  switch (verdict) {
-    case Verdict::kOk:
+QColor LensStateColour(LensState state) {
+  switch (state) {
+    case LensState::kOk:
       return theme::kGood;
-    case Verdict::kNotGood:
+    case LensState::kNotGood:
       return theme::kBad;
-    case Verdict::kNone:
-      break;
+    default:
+      return kCalm;
   }
-  return kCalm;
+}
+
+QString LensCounts(const LotTally& tally) {
+  QString counts = Text::tr("レンズ %1   OK %2   NG %3")
+                       .arg(tally.Lenses().size())
+                       .arg(tally.Count(LensState::kOk))
+                       .arg(tally.Count(LensState::kNotGood));
+  for (const LensState state : {LensState::kUnjudged, LensState::kIncomplete, LensState::kHeld}) {
+    if (tally.Count(state) > 0) {
+      counts += QStringLiteral("   %1 %2").arg(LensStateText(state)).arg(tally.Count(state));
+    }
+  }
+  return counts;
 }
 
 }  // namespace vexa

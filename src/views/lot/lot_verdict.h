@@ -12,10 +12,10 @@ namespace vexa {
 /// Whether a lens that was measured is to be measured again.
 [[nodiscard]] VerdictPanel::Content RepeatQuestion(const LotLens& lens, const QString& reason);
 
-/// "OK", "NG", or a dash.
-[[nodiscard]] QString VerdictText(Verdict verdict);
-
 /// Green, red, or grey; white letters can be read on each.
-[[nodiscard]] QColor VerdictColour(Verdict verdict);
+[[nodiscard]] QColor LensStateColour(LensState state);
+
+/// How many lenses there are, and how many of them are OK, NG, and neither yet.
+[[nodiscard]] QString LensCounts(const LotTally& tally);
 
 }  // namespace vexa

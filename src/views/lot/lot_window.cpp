@@ -69,7 +69,7 @@ QCoro::Task<> LotWindow::Start() {
   }
   run_ = std::make_unique<LotRun>(LotIdentity{*recipe, start_->Lot(), start_->OperatorName()},
                                   TallyOf(*rows), parts_.session, parts_.desk, parts_.recorder,
-                                  parts_.held);
+                                  RecordStorePath(parts_.session.State().programDirectory));
   page_ = new LotPage(*run_, parts_.session, parts_.desk, parts_.messages);
   connect(page_, &LotPage::EndRequested, this, &LotWindow::End);
   connect(page_, &LotPage::ReportRequested, this, [this] { Report(run_->Identity().lot); });

@@ -25,7 +25,6 @@ struct LotParts {
   MessageService& messages;
   FileDialogs& dialogs;
   CurrentPrinter& printer;
-  VerdictHeld held = {};
 };
 
 /// Measures lots, by keys alone: what is measured is entered once, then each lens takes one key or

@@ -8,6 +8,7 @@
 #include "base/date_text.h"
 #include "base/number_text.h"
 #include "base/translation.h"
+#include "records/lot_tally.h"
 #include "views/paper/page_flow.h"
 #include "views/paper/plot_drawing.h"
 #include "views/print/page_header.h"
@@ -23,10 +24,13 @@ constexpr double kPixel = 2.5;  // of the graph, on paper
 constexpr double kFooterHeight = 60.0;
 const QString kNone = QStringLiteral("-");
 
-QString Count(const QList<WholeRecord>& records, Verdict verdict) {
-  return QString::number(std::ranges::count_if(records, [verdict](const WholeRecord& record) {
-    return VerdictOf(record.sample.groups) == verdict;
-  }));
+LensState StateOf(const WholeRecord& record) {
+  return StateOf(VerdictOf(record.sample), record.summary.heldBy);
+}
+
+QString Count(const QList<WholeRecord>& records, LensState state) {
+  return QString::number(std::ranges::count_if(
+      records, [state](const WholeRecord& record) { return StateOf(record) == state; }));
 }
 
 // The one value that all have in common; "-" when they differ or have none.
@@ -46,9 +50,10 @@ PageTable HeadTable(const QList<WholeRecord>& records, const QDate& printed) {
                   .rows = {}};
   const auto [first, last] = std::ranges::minmax(
       records, {}, [](const WholeRecord& record) { return record.sample.measuredAt; });
-  const QString counts = Text::tr("%1件").arg(records.size()) +
-                         QStringLiteral("　OK %1　NG %2")
-                             .arg(Count(records, Verdict::kOk), Count(records, Verdict::kNotGood));
+  const QString counts =
+      Text::tr("%1件").arg(records.size()) +
+      QStringLiteral("　OK %1　NG %2")
+          .arg(Count(records, LensState::kOk), Count(records, LensState::kNotGood));
   table.rows = {
       {{Text::tr("件数")}, {counts}, {Text::tr("印刷日")}, {DateTimeText(printed.startOfDay())}},
       {{Text::tr("ロット")},
@@ -86,12 +91,12 @@ PageTable RowTable(const QList<WholeRecord>& records) {
   };
   for (const WholeRecord& record : records) {
     const SampleRecord& sample = record.sample;
-    const bool bad = VerdictOf(sample.groups) == Verdict::kNotGood;
+    const bool bad = StateOf(record) == LensState::kNotGood;
     table.rows.push_back({{QString::number(record.summary.number)},
                           {DateTimeText(sample.measuredAt)},
                           {sample.lot},
                           {sample.sampleNumber},
-                          {VerdictText(sample), bad},
+                          {VerdictText(record), bad},
                           number(sample.colour.L, u"##0.00"),
                           number(sample.colour.a, u"##0.00"),
                           number(sample.colour.b, u"##0.00"),

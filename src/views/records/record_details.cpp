@@ -8,6 +8,7 @@
 #include "base/number_text.h"
 #include "base/translation.h"
 #include "optics/thickness_doubts.h"
+#include "records/lot_tally.h"
 #include "views/common/theme.h"
 
 namespace vexa {
@@ -66,6 +67,9 @@ void AddSample(Sheet& sheet, const WholeRecord& record) {
   sheet.Heading(Text::tr("試料No") + QStringLiteral("　") +
                 OrNone(sample.sampleNumber.simplified()));
   sheet.Row(Text::tr("測定日時"), DateTimeText(sample.measuredAt));
+  if (sample.repeats > 1) {
+    sheet.Row(Text::tr("繰返し"), QStringLiteral("%1/%2").arg(sample.repeat).arg(sample.repeats));
+  }
   sheet.Row(Text::tr("ロット"), OrNone(sample.lot));
   sheet.Row(Text::tr("レシピ"), OrNone(sample.recipe));
   sheet.Row(Text::tr("測定者"), OrNone(sample.operatorName));
@@ -79,24 +83,30 @@ void AddSample(Sheet& sheet, const WholeRecord& record) {
   }
 }
 
-void AddVerdicts(Sheet& sheet, const SampleRecord& sample) {
+void AddVerdicts(Sheet& sheet, const WholeRecord& record) {
+  const SampleRecord& sample = record.sample;
   const std::array captions{Text::tr("反射率", "column"),
                             Text::tr("平均反射率", "column"),
                             Text::tr("視感反射率", "column"),
                             Text::tr("波長"),
                             Text::tr("クロマC*"),
                             Text::tr("色相角h[deg]")};
-  sheet.Heading(Text::tr("合否判定") + QStringLiteral("　") + Coloured(VerdictText(sample)));
-  for (std::size_t i = 0; i < captions.size(); ++i) {
-    const GroupJudgement& group = sample.groups.at(i);
+  sheet.Heading(Text::tr("合否判定") + QStringLiteral("　") + Coloured(VerdictText(record)));
+  const auto add = [&sheet](const QString& caption, const GroupJudgement& group) {
     if (!group.passed) {
-      continue;
+      return;
     }
     const QString margin =
         group.margin ? Text::tr("余裕 %1").arg(Number(*group.margin, u"0.000#")) : QString();
-    sheet.Row(captions.at(i),
-              Coloured(*group.passed ? QStringLiteral("OK") : QStringLiteral("NG")) +
-                  QStringLiteral("　") + margin);
+    sheet.Row(caption, Coloured(*group.passed ? QStringLiteral("OK") : QStringLiteral("NG")) +
+                           QStringLiteral("　") + margin);
+  };
+  for (std::size_t i = 0; i < captions.size(); ++i) {
+    add(captions.at(i), sample.groups.at(i));
+  }
+  for (std::size_t i = 0; i < sample.cieGroups.size(); ++i) {
+    add(QStringLiteral("CIE ") + QLatin1String(kCieLimitsEntries.at(i).name),
+        sample.cieGroups.at(i));
   }
 }
 
@@ -153,8 +163,12 @@ void AddProof(Sheet& sheet, const WholeRecord& record) {
 }  // namespace
 
 QString VerdictText(const SampleRecord& sample) {
-  const Verdict verdict = VerdictOf(sample.groups);
+  const Verdict verdict = VerdictOf(sample);
   return verdict == Verdict::kNone ? kNone : VerdictWord(verdict);
+}
+
+QString VerdictText(const WholeRecord& record) {
+  return LensStateText(StateOf(VerdictOf(record.sample), record.summary.heldBy));
 }
 
 QString ThicknessText(const SampleRecord& sample) {
@@ -166,7 +180,7 @@ QString ThicknessText(const SampleRecord& sample) {
 QString RecordDetails(const WholeRecord& record) {
   Sheet sheet;
   AddSample(sheet, record);
-  AddVerdicts(sheet, record.sample);
+  AddVerdicts(sheet, record);
   AddValues(sheet, record.sample);
   AddConditions(sheet, record);
   AddProof(sheet, record);

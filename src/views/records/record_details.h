@@ -12,6 +12,8 @@ namespace vexa {
 
 /// The verdict of a record as a table shows it: "OK", "NG", or "-".
 [[nodiscard]] QString VerdictText(const SampleRecord& sample);
+/// Likewise, unless a daily check holds it.
+[[nodiscard]] QString VerdictText(const WholeRecord& record);
 
 /// The thickness with its unit, or "-".
 [[nodiscard]] QString ThicknessText(const SampleRecord& sample);

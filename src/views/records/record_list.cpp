@@ -8,6 +8,7 @@
 #include "base/date_text.h"
 #include "base/number_text.h"
 #include "base/translation.h"
+#include "records/lot_tally.h"
 #include "views/common/theme.h"
 
 namespace vexa {
@@ -34,7 +35,9 @@ QString CellText(const RecordSummary& record, int column) {
     case RecordList::kSampleNumber:
       return record.sampleNumber.simplified();
     case RecordList::kVerdict:
-      return record.verdict == QLatin1String("none") ? QStringLiteral("-") : record.verdict;
+      return !record.heldBy.isEmpty()                  ? LensStateText(LensState::kHeld)
+             : record.verdict == QLatin1String("none") ? QStringLiteral("-")
+                                                       : record.verdict;
     case RecordList::kLightness:
       return number(record.colour.L, u"##0.00");
     case RecordList::kRedGreen:
@@ -105,8 +108,9 @@ QVariant RecordList::data(const QModelIndex& index, int role) const {
                : (index.column() == kVerdict ? Qt::AlignHCenter : Qt::AlignLeft)) |
           Qt::AlignVCenter);
     case Qt::ForegroundRole:
-      return index.column() == kVerdict && record.verdict == kNotGood ? QVariant(theme::kBad)
-                                                                      : QVariant();
+      return index.column() == kVerdict && record.verdict == kNotGood && record.heldBy.isEmpty()
+                 ? QVariant(theme::kBad)
+                 : QVariant();
     default:
       return {};
   }

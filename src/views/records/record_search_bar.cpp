@@ -61,9 +61,7 @@ RecordSearchBar::RecordSearchBar(bool withShared, QWidget* parent)
                                   {QStringLiteral("OK"), static_cast<int>(Verdict::kOk)},
                                   {QStringLiteral("NG"), static_cast<int>(Verdict::kNotGood)},
                                   {Text::tr("判定なし"), static_cast<int>(Verdict::kNone)}})),
-      place_(
-          Choice("Place", {{Text::tr("この測定機"), static_cast<int>(RecordPlace::kStation)},
-                           {Text::tr("全測定機 (共有)"), static_cast<int>(RecordPlace::kShared)}})),
+      place_(new PlaceChoice),
       superseded_(new QCheckBox(Text::tr("置き換えられた記録も"))),
       lot_(AddField("Lot")),
       recipe_(AddField("Recipe")),
@@ -107,7 +105,7 @@ RecordSearchBar::RecordSearchBar(bool withShared, QWidget* parent)
     from_->setEnabled(entered);
     to_->setEnabled(entered);
   });
-  for (const QComboBox* choice : {period_, verdict_, place_}) {
+  for (const QComboBox* choice : {period_, verdict_, static_cast<QComboBox*>(place_)}) {
     connect(choice, &QComboBox::currentIndexChanged, this, &RecordSearchBar::SearchRequested);
   }
   for (const QDateEdit* date : {from_, to_}) {
@@ -146,7 +144,7 @@ RecordQuery RecordSearchBar::Query(const QDate& today) const {
 }
 
 RecordPlace RecordSearchBar::Place() const {
-  return static_cast<RecordPlace>(place_->currentData().toInt());
+  return place_->Place();
 }
 
 }  // namespace vexa

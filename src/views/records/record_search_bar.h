@@ -6,7 +6,7 @@
 #include <QDateEdit>
 #include <QLineEdit>
 
-#include "records/record_reader.h"
+#include "views/common/place_choice.h"
 
 namespace vexa {
 
@@ -32,7 +32,7 @@ class RecordSearchBar : public QWidget {
   QDateEdit* from_;
   QDateEdit* to_;
   QComboBox* verdict_;
-  QComboBox* place_;
+  PlaceChoice* place_;
   QCheckBox* superseded_;
   QLineEdit* lot_;
   QLineEdit* recipe_;

@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "views/statistics/control_chart_window.h"
 
-#include <QApplication>
 #include <QComboBox>
 #include <QFormLayout>
 #include <QHBoxLayout>
@@ -37,16 +36,16 @@ QComboBox* Choice(const char* name, const QStringList& texts) {
 
 }  // namespace
 
-ControlChartWindow::ControlChartWindow(const Session& session, const QString& storePath,
+ControlChartWindow::ControlChartWindow(const Session& session, RecordReader& reader,
                                        CurrentPrinter& printer, MessageService& messages,
                                        FileDialogs& dialogs, QWidget* parent)
     : QDialog(parent),
       session_(session),
-      storePath_(storePath),
+      reader_(reader),
       printer_(printer),
       messages_(messages),
       dialogs_(dialogs),
-      filter_(new SeriesFilter(session.Now().date())),
+      filter_(new SeriesFilter(session.Now().date(), reader.HasShared())),
       value_(new ValueChoice),
       grouping_(Choice("Grouping", {Text::tr("群なし"), Text::tr("ロット"), Text::tr("日"),
                                     Text::tr("装置"), Text::tr("測定者")})),
@@ -103,7 +102,7 @@ ControlChartWindow::ControlChartWindow(const Session& session, const QString& st
     if (const int row = signals_->currentRow(); row >= 0) {
       const int point = signals_->item(row, 0)->text().toInt();
       plot_->Choose(point);
-      record_->Show(store_, series_.points[static_cast<std::size_t>(point - 1)].id);
+      ShowRecord(point);
     }
   });
   connect(print, &QPushButton::clicked, this, &ControlChartWindow::Print);
@@ -149,26 +148,33 @@ QWidget* ControlChartWindow::BuildPages() {
 }
 
 void ControlChartWindow::Load() {
-  series_ = {};
+  const RecordPlace place = filter_->Place();
+  const RecordValue value = value_->Value();
+  setCursor(Qt::BusyCursor);
+  reader_.LoadValues(place, filter_->Query(kMostPoints), value, *this,
+                     [this, place, value, request = ++requests_](const auto& series) {
+                       if (request == requests_) {
+                         place_ = place;
+                         charted_ = value;
+                         Take(series);
+                       }
+                     });
+}
+
+void ControlChartWindow::Take(const Answer<ValueSeries>& series) {
+  unsetCursor();
+  series_ = series.value;
+  shownId_.clear();
   record_->Clear();
-  StoreFault fault =
-      store_.IsInPlace() ? StoreFault::kNone : store_.Open(storePath_, RecordStore::Mode::kRead);
-  if (fault == StoreFault::kNone) {
-    QApplication::setOverrideCursor(Qt::WaitCursor);
-    Answer<ValueSeries> series = LoadSeries(store_, filter_->Query(kMostPoints), value_->Value());
-    QApplication::restoreOverrideCursor();
-    fault = series.fault;
-    series_ = std::move(series.value);
-  }
   Study();
   // Without a store nothing was ever recorded, which the study says in its words.
-  if (fault != StoreFault::kNone && fault != StoreFault::kMissing) {
-    ShowWarnings({StoreFaultText(fault)});
+  if (!series && series.fault != StoreFault::kMissing) {
+    ShowWarnings({StoreFaultText(series.fault)});
   }
 }
 
 void ControlChartWindow::Study() {
-  const RecordValue value = value_->Value();
+  const RecordValue value = charted_;
   study_ = StudyChart(
       series_,
       {value, static_cast<Grouping>(grouping_->currentIndex()), rules_->currentIndex() == 1,
@@ -182,8 +188,23 @@ void ControlChartWindow::Study() {
 }
 
 void ControlChartWindow::ChoosePoint(int point) {
-  record_->Show(store_, series_.points[static_cast<std::size_t>(point - 1)].id);
+  ShowRecord(point);
   pages_->setCurrentWidget(record_);
+}
+
+void ControlChartWindow::ShowRecord(int point) {
+  const QString id = series_.points[static_cast<std::size_t>(point - 1)].id;
+  shownId_ = id;
+  reader_.Load(place_, {id}, *this, [this, id](const Answer<QList<WholeRecord>>& records) {
+    if (id != shownId_) {
+      return;  // another one was chosen meanwhile
+    }
+    if (records) {
+      record_->Show(records.value.constFirst());
+    } else {
+      record_->Show(records.fault);
+    }
+  });
 }
 
 void ControlChartWindow::ShowWarnings(const QStringList& lines) {

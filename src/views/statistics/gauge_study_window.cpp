@@ -32,6 +32,7 @@ namespace vexa {
 namespace {
 
 const QString kFileName = QStringLiteral("gauge-study");
+constexpr int kSlot = kSlotCount;
 const QString kRecipe = QStringLiteral("gauge-study");  // of the records of its measurements
 
 QSpinBox* CountField(const char* name, int least, int most, int value) {
@@ -57,10 +58,11 @@ void Colour(QLabel& label, const QColor& colour) {
 }
 
 QString StudyText(const GaugeSession& study) {
-  return QStringLiteral("%1  %2  (%3/%4)")
-      .arg(study.plan.name, DateTimeText(study.plan.begun))
+  return QStringLiteral("%1  %2/%3  %4")
+      .arg(study.plan.name)
       .arg(study.Done())
-      .arg(study.order.size());
+      .arg(study.order.size())
+      .arg(DateTimeText(study.plan.begun));
 }
 
 }  // namespace
@@ -79,7 +81,7 @@ GaugeStudyWindow::GaugeStudyWindow(const StudyParts& parts, QWidget* parent)
       refusal_(WrappedLabel("PlanRefusal")),
       instruction_(WrappedLabel("GaugeInstruction")),
       measure_(DialogButton("MeasureGauge", Text::tr("測定(&M)"))),
-      filter_(new SeriesFilter(parts.session.Now().date())),
+      filter_(new SeriesFilter(parts.session.Now().date(), parts.reader.HasShared())),
       grade_(WrappedLabel("GaugeGrade")),
       variance_(MakeResultView("Variance")),
       components_(MakeResultView("ComponentTable")),
@@ -111,7 +113,6 @@ GaugeStudyWindow::GaugeStudyWindow(const StudyParts& parts, QWidget* parent)
   connect(save, &QPushButton::clicked, this, &GaugeStudyWindow::Save);
   connect(closeButton, &QPushButton::clicked, this, &QDialog::close);
   connect(&parts_.desk, &InstrumentDesk::ActivityChanged, this, &GaugeStudyWindow::ShowProgress);
-  connect(&parts_.session, &Session::SampleStored, this, [this] { measured_ = true; });
   LoadStudies({});
 }
 
@@ -197,6 +198,7 @@ void GaugeStudyWindow::LoadStudies(const QString& id) {
 
 void GaugeStudyWindow::ChooseStudy() {
   const int index = choice_->currentIndex() - 1;
+  ++requests_;
   study_ = index >= 0 ? std::optional(studies_[static_cast<std::size_t>(index)]) : std::nullopt;
   ClearResult({});
   if (study_ && !study_->Next()) {
@@ -260,7 +262,15 @@ QCoro::Task<> GaugeStudyWindow::MeasureNext() {
   }
   const QPointer<GaugeStudyWindow> self(this);
   busy_ = true;
-  measured_ = false;
+  ShowProgress();
+  const bool mayMeasure = co_await MayUseSlot();
+  if (self == nullptr || !mayMeasure) {
+    if (self != nullptr) {
+      busy_ = false;
+      ShowProgress();
+    }
+    co_return;
+  }
   SessionRecorder& recorder = parts_.recorder;
   const RecordContext before = recorder.Context();
   RecordContext context = before;
@@ -269,33 +279,44 @@ QCoro::Task<> GaugeStudyWindow::MeasureNext() {
   context.recipe = kRecipe;
   context.operatorName = study_->plan.operators[task.gaugeOperator];
   recorder.SetContext(context);
-  constexpr int kSlot = kSlotCount;
-  if (std::exchange(asked_, true)) {
-    co_await parts_.desk.MeasureSampleOver(kSlot);
-  } else {
-    co_await parts_.desk.MeasureSample(kSlot);
-  }
+  const QString number = BlindNumber(study_->plan, *place);
+  const MeasurementOutcome outcome =
+      co_await parts_.desk.Measure(MeasurementKind::kSample, kSlot, number);
   recorder.SetContext(before);
   if (self == nullptr) {
     co_return;
   }
   busy_ = false;
-  asked_ = measured_;
-  if (measured_ && KeepReading(kSlot, *place) && !study_->Next()) {
-    LoadStudies(study_->plan.id);
+  Tell(outcome, parts_.messages);
+  if (outcome.IsDone()) {
+    const MeasurementSlot slot = *state_.Slot(kSlot);
+    parts_.session.ClearSlot(kSlot);  // nobody sees what it gave before the study is done
+    if (KeepReading(slot, *place) && !study_->Next()) {
+      LoadStudies(study_->plan.id);
+    }
   }
   ShowProgress();
 }
 
-bool GaugeStudyWindow::KeepReading(int slot, std::size_t place) {
-  const SampleRecord sample = ResultsOf(state_, *state_.Slot(slot), parts_.recorder.Context());
+// What stands in the slot goes only when the user agrees.
+QCoro::Task<bool> GaugeStudyWindow::MayUseSlot() {
+  if (!state_.Slot(kSlot)->valid) {
+    co_return true;
+  }
+  const MessageCall question{Message::kMeasureOver};
+  const MessageResult answer = co_await parts_.messages.Ask(question);
+  co_return answer == MessageResult::kOk;
+}
+
+bool GaugeStudyWindow::KeepReading(const MeasurementSlot& slot, std::size_t place) {
+  const SampleRecord sample = ResultsOf(state_, slot, parts_.recorder.Context());
   const std::optional<double> value = ValueOf(sample, study_->plan.value);
   if (!value) {
     ClearResult(Text::tr("この試料には解析する値がありません。測り直してください。"));
     return false;
   }
-  if (!Keep(ReadingEvent(study_->plan, place, *value, parts_.session.Now(),
-                         parts_.recorder.Context().station))) {
+  if (!Keep(ReadingEvent(study_->plan, place, *value, parts_.recorder.LastSample().id,
+                         parts_.session.Now(), parts_.recorder.Context().station))) {
     return false;
   }
   study_->values[place] = *value;
@@ -303,20 +324,20 @@ bool GaugeStudyWindow::KeepReading(int slot, std::size_t place) {
 }
 
 void GaugeStudyWindow::AnalyseRecords() {
-  RecordStore store;
   constexpr int kMostRecords = 10000;
-  StoreFault fault = store.Open(parts_.storePath, RecordStore::Mode::kRead);
-  Answer<ValueSeries> series;
-  if (fault == StoreFault::kNone) {
-    series = LoadSeries(store, filter_->Query(kMostRecords), value_->Value());
-    fault = series.fault;
-  }
-  if (fault != StoreFault::kNone) {
-    ClearResult(StoreFaultText(fault));
-    return;
-  }
-  const std::optional<double> tolerance = toleranceField_->Value();
-  Analyse(ReadingsOf(series.value), tolerance && *tolerance > 0.0 ? tolerance : std::nullopt);
+  const std::optional<double> entered = toleranceField_->Value();
+  const std::optional<double> tolerance = entered && *entered > 0.0 ? entered : std::nullopt;
+  parts_.reader.LoadValues(filter_->Place(), filter_->Query(kMostRecords), value_->Value(), *this,
+                           [this, tolerance, request = ++requests_](const auto& series) {
+                             if (request != requests_) {
+                               return;  // something else was asked meanwhile
+                             }
+                             if (series) {
+                               Analyse(ReadingsOf(series.value), tolerance);
+                             } else {
+                               ClearResult(StoreFaultText(series.fault));
+                             }
+                           });
 }
 
 void GaugeStudyWindow::Analyse(const GaugeReadings& readings, std::optional<double> tolerance) {

@@ -41,7 +41,8 @@ class GaugeStudyWindow : public QDialog {
   void MakePlan();
   void ShowProgress();
   QCoro::Task<> MeasureNext();
-  bool KeepReading(int slot, std::size_t place);
+  QCoro::Task<bool> MayUseSlot();
+  bool KeepReading(const MeasurementSlot& slot, std::size_t place);
   void AnalyseRecords();
   void Analyse(const GaugeReadings& readings, std::optional<double> tolerance);
   void ClearResult(const QString& why);
@@ -56,9 +57,8 @@ class GaugeStudyWindow : public QDialog {
   GaugeReadings readings_;
   std::optional<statistics::GaugeStudy> result_;
   std::optional<double> tolerance_;
-  bool measured_ = false;
+  int requests_ = 0;  ///< of records; an answer to an earlier one is dropped
   bool busy_ = false;
-  bool asked_ = false;  ///< what the slot held may be measured over
   QComboBox* choice_;
   QLineEdit* name_;
   ValueChoice* value_;

@@ -6,6 +6,7 @@
 #include <algorithm>
 
 #include "base/translation.h"
+#include "records/lot_tally.h"
 #include "records/record_value.h"
 #include "views/common/axis_scale.h"
 #include "views/common/plot.h"
@@ -39,16 +40,18 @@ class SpectrumPlot : public Plot {
   QCPGraph* line_;
 };
 
-ResultTable DetailsOf(const SampleRecord& sample) {
+ResultTable DetailsOf(const WholeRecord& record) {
+  const SampleRecord& sample = record.sample;
   ResultTable table{{}, {Text::tr("項目"), Text::tr("値")}, {}, 2};
-  table.rows = {{Text::tr("日時"), TimeWithOffset(sample.measuredAt).left(19).replace(u'T', u' ')},
-                {Text::tr("試料No"), sample.sampleNumber},
-                {Text::tr("ロット"), sample.lot},
-                {Text::tr("レシピ"), sample.recipe},
-                {Text::tr("測定者"), sample.operatorName},
-                {Text::tr("装置"), sample.station},
-                {Text::tr("判定"), VerdictWord(VerdictOf(sample.groups))},
-                {Text::tr("備考"), (sample.remark1 + u' ' + sample.remark2).trimmed()}};
+  table.rows = {
+      {Text::tr("日時"), TimeWithOffset(sample.measuredAt).left(19).replace(u'T', u' ')},
+      {Text::tr("試料No"), sample.sampleNumber},
+      {Text::tr("ロット"), sample.lot},
+      {Text::tr("レシピ"), sample.recipe},
+      {Text::tr("測定者"), sample.operatorName},
+      {Text::tr("装置"), sample.station},
+      {Text::tr("判定"), LensStateText(StateOf(VerdictOf(sample), record.summary.heldBy))},
+      {Text::tr("備考"), (sample.remark1 + u' ' + sample.remark2).trimmed()}};
   for (int i = 0; i < kQuantityCount; ++i) {
     const auto quantity = static_cast<Quantity>(i);
     const auto value = ValueOf(sample, {quantity});
@@ -70,19 +73,15 @@ RecordView::RecordView(QWidget* parent)
   layout->addWidget(details_, 3);
 }
 
-void RecordView::Show(const RecordSource& source, const QString& id) {
-  const Answer<StoredRow> row = source.Find(id);
-  const std::optional<SampleRecord> sample = row ? ToSample(row.value.row) : std::nullopt;
-  if (!sample) {
-    Clear();
-    ShowResults(*details_, {{},
-                            {Text::tr("項目"), Text::tr("値")},
-                            {{StoreFaultText(row ? StoreFault::kDamaged : row.fault), {}}},
-                            2});
-    return;
-  }
-  static_cast<SpectrumPlot*>(plot_)->Show(sample->reflectance);
-  ShowResults(*details_, DetailsOf(*sample));
+void RecordView::Show(const WholeRecord& record) {
+  static_cast<SpectrumPlot*>(plot_)->Show(record.sample.reflectance);
+  ShowResults(*details_, DetailsOf(record));
+}
+
+void RecordView::Show(StoreFault fault) {
+  Clear();
+  ShowResults(*details_,
+              {{}, {Text::tr("項目"), Text::tr("値")}, {{StoreFaultText(fault), {}}}, 2});
 }
 
 void RecordView::Clear() {

@@ -3,7 +3,8 @@
 
 #include <QWidget>
 
-#include "records/record_source.h"
+#include "records/store_fault.h"
+#include "records/whole_record.h"
 
 class QTableWidget;
 
@@ -18,8 +19,9 @@ class RecordView : public QWidget {
  public:
   explicit RecordView(QWidget* parent = nullptr);
 
-  /// The record of this id; a fault is shown in its place.
-  void Show(const RecordSource& source, const QString& id);
+  void Show(const WholeRecord& record);
+  /// Why there is no record to be seen.
+  void Show(StoreFault fault);
   void Clear();
 
  private:

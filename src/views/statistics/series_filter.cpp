@@ -72,8 +72,9 @@ void ValueChoice::SetValue(const RecordValue& value) {
   quantity_->setCurrentIndex(static_cast<int>(value.quantity));
 }
 
-SeriesFilter::SeriesFilter(const QDate& today, QWidget* parent)
+SeriesFilter::SeriesFilter(const QDate& today, bool withShared, QWidget* parent)
     : QWidget(parent),
+      place_(new PlaceChoice(this)),
       recipe_(TextField("Recipe")),
       lot_(TextField("Lot")),
       operator_(TextField("Operator")),
@@ -83,12 +84,18 @@ SeriesFilter::SeriesFilter(const QDate& today, QWidget* parent)
   days_->setObjectName(QStringLiteral("LimitDays"));
   auto* form = new QFormLayout(this);
   form->setContentsMargins(0, 0, 0, 0);
+  if (withShared) {
+    form->addRow(Text::tr("検索先"), place_);
+  } else {
+    place_->hide();
+  }
   form->addRow(Text::tr("レシピ"), recipe_);
   form->addRow(Text::tr("ロット"), lot_);
   form->addRow(Text::tr("測定者"), operator_);
   form->addRow(days_);
   form->addRow(Text::tr("から"), from_);
   form->addRow(Text::tr("まで"), to_);
+  connect(place_, &QComboBox::currentIndexChanged, this, &SeriesFilter::Changed);
   for (QLineEdit* field : {recipe_, lot_, operator_}) {
     connect(field, &QLineEdit::editingFinished, this, &SeriesFilter::Changed);
   }
@@ -117,6 +124,9 @@ RecordQuery SeriesFilter::Query(int limit) const {
 
 QString SeriesFilter::Description() const {
   QStringList parts;
+  if (Place() == RecordPlace::kShared) {
+    parts << place_->currentText();
+  }
   for (const auto& [name, field] :
        {std::pair{Text::tr("レシピ"), recipe_}, std::pair{Text::tr("ロット"), lot_},
         std::pair{Text::tr("測定者"), operator_}}) {

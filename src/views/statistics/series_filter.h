@@ -9,6 +9,7 @@
 #include <QWidget>
 
 #include "records/record_value.h"
+#include "views/common/place_choice.h"
 
 namespace vexa {
 
@@ -30,14 +31,16 @@ class ValueChoice : public QWidget {
   QSpinBox* nm_;
 };
 
-/// Of which records: recipe, lot, operator, and days. An empty field does not restrict.
+/// Of which records: store, recipe, lot, operator, and days. An empty field does not restrict.
 class SeriesFilter : public QWidget {
   Q_OBJECT
 
  public:
-  /// `today` is the last day of the range that stands in the fields at first.
-  explicit SeriesFilter(const QDate& today, QWidget* parent = nullptr);
+  /// `today` is the last day of the range that stands in the fields at first; `withShared`: the
+  /// shared store can be chosen, too.
+  SeriesFilter(const QDate& today, bool withShared, QWidget* parent = nullptr);
 
+  [[nodiscard]] RecordPlace Place() const { return place_->Place(); }
   [[nodiscard]] RecordQuery Query(int limit) const;
   /// What restricts, for a caption: "ロット A-1   2026/10/01 - 2026/11/22".
   [[nodiscard]] QString Description() const;
@@ -46,6 +49,7 @@ class SeriesFilter : public QWidget {
   void Changed();
 
  private:
+  PlaceChoice* place_;
   QLineEdit* recipe_;
   QLineEdit* lot_;
   QLineEdit* operator_;

@@ -4,6 +4,7 @@
 #include <QString>
 
 #include "measurement/instrument_desk.h"
+#include "records/record_reader.h"
 #include "records/session_recorder.h"
 #include "views/common/file_dialogs.h"
 #include "views/paper/current_printer.h"
@@ -15,6 +16,7 @@ struct StudyParts {
   Session& session;
   InstrumentDesk& desk;
   SessionRecorder& recorder;
+  RecordReader& reader;
   QString storePath;
   CurrentPrinter& printer;
   MessageService& messages;
