@@ -72,16 +72,16 @@ struct FitAlternative {
 struct FilmFit {
   FitOutcome outcome = FitOutcome::kNone;
   std::vector<FittedLayer> layers;
-  double scale = 1.0;          ///< multiplies the model
-  double offset = 0.0;         ///< percent
-  double spread = 0.0;         ///< relative standard deviation of the thickness within the spot
-  double index = 1.0;          ///< factor on the index of the first layer
-  double rms = 0.0;            ///< of the residual, percent
-  double noise = 0.0;          ///< of the spectrum, percent
-  int fromNm = 0;              ///< of the wavelengths used, as the next
-  std::vector<double> fitted;  ///< the model at each nanometre, percent
-  std::vector<FitAlternative> alternatives;
-  QStringList warnings;  ///< for the user
+  double scale = 1.0;   ///< multiplies the model
+  double offset = 0.0;  ///< percent
+  double spread = 0.0;  ///< relative standard deviation of the thickness within the spot
+  double index = 1.0;   ///< factor on the index of the first layer
+  double rms = 0.0;     ///< of the residual, percent
+  double noise = 0.0;   ///< of the spectrum, percent
+  int fromNm = 0;       ///< of the wavelengths used, as the next
+  std::vector<double> fitted = {};  ///< the model at each nanometre, percent
+  std::vector<FitAlternative> alternatives = {};
+  QStringList warnings = {};  ///< for the user
 };
 
 /// Why a fit is refused.
