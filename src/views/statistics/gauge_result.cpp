@@ -108,4 +108,15 @@ ResultTable ComponentTable(const statistics::GaugeStudy& study, std::optional<do
   return table;
 }
 
+QList<QStringList> ReadingRows(const GaugeReadings& readings) {
+  QList<QStringList> rows{
+      {QStringLiteral("part"), QStringLiteral("operator"), QStringLiteral("value")}};
+  rows.reserve(static_cast<qsizetype>(readings.readings.size()) + 1);
+  for (const statistics::GaugeReading& reading : readings.readings) {
+    rows << QStringList{readings.parts[reading.part], readings.operators[reading.gaugeOperator],
+                        FileNumber(reading.value)};
+  }
+  return rows;
+}
+
 }  // namespace vexa

@@ -3,6 +3,7 @@
 
 #include <optional>
 
+#include "records/gauge_plan.h"
 #include "statistics/gauge_study.h"
 #include "views/statistics/result_table.h"
 
@@ -21,5 +22,8 @@ enum class GaugeGrade { kGood, kMarginal, kPoor };
 [[nodiscard]] ResultTable VarianceTable(const statistics::GaugeStudy& study);
 [[nodiscard]] ResultTable ComponentTable(const statistics::GaugeStudy& study,
                                          std::optional<double> tolerance);
+
+/// The readings as rows of a file, headings first.
+[[nodiscard]] QList<QStringList> ReadingRows(const GaugeReadings& readings);
 
 }  // namespace vexa

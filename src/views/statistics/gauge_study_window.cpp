@@ -394,14 +394,7 @@ void GaugeStudyWindow::Print() {
 }
 
 void GaugeStudyWindow::Save() {
-  QList<QStringList> rows{
-      {QStringLiteral("part"), QStringLiteral("operator"), QStringLiteral("value")}};
-  rows.reserve(static_cast<qsizetype>(readings_.readings.size()) + 1);
-  for (const statistics::GaugeReading& reading : readings_.readings) {
-    rows << QStringList{readings_.parts[reading.part], readings_.operators[reading.gaugeOperator],
-                        FileNumber(reading.value)};
-  }
-  SaveCsv(windowTitle(), kFileName, rows, parts_.messages, parts_.dialogs);
+  SaveCsv(windowTitle(), kFileName, ReadingRows(readings_), parts_.messages, parts_.dialogs);
 }
 
 }  // namespace vexa
