@@ -181,9 +181,11 @@ class Search {
       seed.sumOfSquares = fine_(seed.thicknessesNm);
       seeds.push_back(seed);
     }
-    std::size_t taken = 0;
-    for (const double peak : Candidates(layer)) {
-      if (peak > kThinNm && taken++ < 4) {
+    std::vector<double> candidates = Candidates(layer);
+    candidates.resize(std::min<std::size_t>(candidates.size(), 4));
+    AddByKnownLayers(layer, candidates);
+    for (const double peak : candidates) {
+      if (peak > kThinNm) {
         Scan(fine_, start_, layer, peak - order, peak + order, step, seeds);
       }
     }
@@ -212,6 +214,24 @@ class Search {
       }
     }
     return found;
+  }
+
+  // Among known layers: every clear fringe may end at the layer or at one below it.
+  void AddByKnownLayers(std::size_t layer, std::vector<double>& candidates) const {
+    for (std::size_t end = layer; ranges_.size() > 1 && end < ranges_.size(); ++end) {
+      double known = 0.0;
+      for (std::size_t j = 0; j <= end; ++j) {
+        known += j == layer ? 0.0 : ranges_[j].fromNm / InLayer(1.0, j);
+      }
+      for (const double depth : depths_) {
+        const double nm = InLayer(depth - known, layer);
+        if (std::ranges::none_of(candidates, [&](double other) {
+              return std::abs(nm - other) < orders_[layer] / 4.0;
+            })) {
+          candidates.push_back(nm);
+        }
+      }
+    }
   }
 
   // Candidates of a layer among several: the orders around the peaks, and a grid where it may be
