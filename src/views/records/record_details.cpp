@@ -2,12 +2,16 @@
 #include "views/records/record_details.h"
 
 #include <array>
+#include <initializer_list>
 #include <utility>
 
 #include "base/date_text.h"
 #include "base/number_text.h"
 #include "base/translation.h"
+#include "colour/cie_parts.h"
 #include "optics/thickness_doubts.h"
+#include "records/result_json.h"
+#include "views/common/colour_kind.h"
 #include "views/common/theme.h"
 
 namespace vexa {
@@ -45,6 +49,10 @@ class Sheet {
   QString html_;
 };
 
+QString MarginText(const GroupJudgement& group) {
+  return group.margin ? Number(*group.margin, u"0.000#") : QString();
+}
+
 QString Coloured(const QString& verdict) {
   return verdict == QLatin1String("NG")
              ? QStringLiteral("<b style='color:%1'>NG</b>").arg(theme::kBad.name())
@@ -79,6 +87,16 @@ void AddSample(Sheet& sheet, const WholeRecord& record) {
   }
 }
 
+void AddVerdict(Sheet& sheet, const QString& caption, const GroupJudgement& group,
+                const QString& margin) {
+  if (group.passed) {
+    sheet.Row(caption,
+              Coloured(*group.passed ? QStringLiteral("OK") : QStringLiteral("NG")) +
+                  (margin.isEmpty() ? QString()
+                                    : QStringLiteral("　") + Text::tr("余裕 %1").arg(margin)));
+  }
+}
+
 void AddVerdicts(Sheet& sheet, const SampleRecord& sample) {
   const std::array captions{Text::tr("反射率", "column"),
                             Text::tr("平均反射率", "column"),
@@ -88,21 +106,41 @@ void AddVerdicts(Sheet& sheet, const SampleRecord& sample) {
                             Text::tr("色相角h[deg]")};
   sheet.Heading(Text::tr("合否判定") + QStringLiteral("　") + Coloured(VerdictText(sample)));
   for (std::size_t i = 0; i < captions.size(); ++i) {
-    const GroupJudgement& group = sample.groups.at(i);
-    if (!group.passed) {
-      continue;
-    }
-    const QString margin =
-        group.margin ? Text::tr("余裕 %1").arg(Number(*group.margin, u"0.000#")) : QString();
-    sheet.Row(captions.at(i),
-              Coloured(*group.passed ? QStringLiteral("OK") : QStringLiteral("NG")) +
-                  QStringLiteral("　") + margin);
+    AddVerdict(sheet, captions.at(i), sample.groups.at(i), MarginText(sample.groups.at(i)));
+  }
+  for (std::size_t i = 0; i < kCieGroupCount; ++i) {
+    AddVerdict(sheet, QString::fromUtf8(kCieLimitsEntries.at(i).symbol), sample.cieGroups.at(i),
+               MarginText(sample.cieGroups.at(i)));
+  }
+  if (VerdictOf(sample.cieGroups) != Verdict::kNone) {
+    sheet.Row({}, CieCaption(CieConditionsOf(sample.cie)));
   }
 }
 
-void AddValues(Sheet& sheet, const SampleRecord& sample) {
+// The values under the same captions as the instrument's own.
+void AddCie(Sheet& sheet, const SampleRecord& sample) {
+  sheet.Heading(CieCaption(CieConditionsOf(sample.cie)));
+  const std::optional<CieColour> colour = CieOf(sample.cie);
+  const auto texts = [&colour](std::initializer_list<double CieColour::*> values) {
+    QStringList shown;
+    for (double CieColour::*const value : values) {
+      shown << CieValueText(colour, value);
+    }
+    return shown.join(QStringLiteral("　"));
+  };
+  sheet.Row(QStringLiteral("L* a* b*"), texts({&CieColour::L, &CieColour::a, &CieColour::b}));
+  sheet.Row(QStringLiteral("x y"), texts({&CieColour::x, &CieColour::y}));
+  sheet.Row(QStringLiteral("C* h[°]"), texts({&CieColour::C, &CieColour::h}));
+  sheet.Row(Text::tr("視感[%]"), texts({&CieColour::Y}));
+  sheet.Row(QStringLiteral("Rv (D65/2°)"), texts({&CieColour::Rv}));
+  sheet.Row(Text::tr("外挿差 ΔE*ab"), texts({&CieColour::spread}));
+}
+
+void AddValues(Sheet& sheet, const SampleRecord& sample, bool cie) {
   const ColourResult& colour = sample.colour;
-  sheet.Heading(Text::tr("測定値"));
+  sheet.Heading(cie ? Text::tr("測定値") + QStringLiteral("　") +
+                          ColourKindText(ColourKind::kInstrument)
+                    : Text::tr("測定値"));
   sheet.Row(QStringLiteral("L* a* b*"),
             QStringLiteral("%1　%2　%3")
                 .arg(Number(colour.L, u"##0.00"), Number(colour.a, u"0.0000"),
@@ -153,7 +191,7 @@ void AddProof(Sheet& sheet, const WholeRecord& record) {
 }  // namespace
 
 QString VerdictText(const SampleRecord& sample) {
-  const Verdict verdict = VerdictOf(sample.groups);
+  const Verdict verdict = VerdictOf(sample);
   return verdict == Verdict::kNone ? kNone : VerdictWord(verdict);
 }
 
@@ -163,11 +201,14 @@ QString ThicknessText(const SampleRecord& sample) {
                           : kNone;
 }
 
-QString RecordDetails(const WholeRecord& record) {
+QString RecordDetails(const WholeRecord& record, bool cie) {
   Sheet sheet;
   AddSample(sheet, record);
   AddVerdicts(sheet, record.sample);
-  AddValues(sheet, record.sample);
+  AddValues(sheet, record.sample, cie);
+  if (cie && record.sample.cie) {
+    AddCie(sheet, record.sample);
+  }
   AddConditions(sheet, record);
   AddProof(sheet, record);
   return sheet.Html();

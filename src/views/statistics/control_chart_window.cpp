@@ -47,7 +47,7 @@ ControlChartWindow::ControlChartWindow(const Session& session, const QString& st
       messages_(messages),
       dialogs_(dialogs),
       filter_(new SeriesFilter(session.Now().date())),
-      value_(new ValueChoice),
+      value_(new ValueChoice(true)),
       grouping_(Choice("Grouping", {Text::tr("群なし"), Text::tr("ロット"), Text::tr("日"),
                                     Text::tr("装置"), Text::tr("測定者")})),
       rules_(Choice("Rules", {QStringLiteral("Western Electric"), QStringLiteral("Nelson")})),
@@ -169,10 +169,11 @@ void ControlChartWindow::Load() {
 
 void ControlChartWindow::Study() {
   const RecordValue value = value_->Value();
-  study_ = StudyChart(
-      series_,
-      {value, static_cast<Grouping>(grouping_->currentIndex()), rules_->currentIndex() == 1,
-       static_cast<std::size_t>(baseline_->value()), LimitsOf(session_.State().standard, value)});
+  study_ = StudyChart(series_,
+                      {value, static_cast<Grouping>(grouping_->currentIndex()),
+                       rules_->currentIndex() == 1, static_cast<std::size_t>(baseline_->value()),
+                       IsCie(value.quantity) ? LimitsOf(series_.cieLimits, value.quantity)
+                                             : LimitsOf(session_.State().standard, value)});
   plot_->Show(PictureOf(study_, series_));
   histogram_->Show(ValueTitle(value), study_.values, study_.request.tolerance);
   ShowResults(*statistics_, StatisticsTable(study_));

@@ -47,7 +47,7 @@ ResultTable DetailsOf(const SampleRecord& sample) {
                 {Text::tr("レシピ"), sample.recipe},
                 {Text::tr("測定者"), sample.operatorName},
                 {Text::tr("装置"), sample.station},
-                {Text::tr("判定"), VerdictWord(VerdictOf(sample.groups))},
+                {Text::tr("判定"), VerdictWord(VerdictOf(sample))},
                 {Text::tr("備考"), (sample.remark1 + u' ' + sample.remark2).trimmed()}};
   for (int i = 0; i < kQuantityCount; ++i) {
     const auto quantity = static_cast<Quantity>(i);
