@@ -149,7 +149,7 @@ TEST_F(Diagram, ASlotOutsideTheAxesIsAnArrowAtTheirBorder) {
   for (const QPointF& outside : {QPointF(0.0, 43.19), QPointF(-90.0, 0.0), QPointF(1e9, -1e9)}) {
     state.Slot(3)->colour = {.a = outside.x(), .b = outside.y(), .x = 0.3, .y = 0.3};
     diagram.ShowSlots(state, 3);
-    const double share = 37.0 / std::max(std::abs(outside.x()), std::abs(outside.y()));
+    const double share = 38.0 / std::max(std::abs(outside.x()), std::abs(outside.y()));
     EXPECT_EQ(PixelAt(share * outside.x(), share * outside.y()), SlotColour(3)) << outside.x();
   }
 }
