@@ -403,7 +403,7 @@ Measuring opens it.</translation>
     </message>
     <message>
         <source>ﾃﾞｰﾀ･ﾌｧｲﾙの読み込みでエラーが発生しました。<byte value="xd"/><byte value="xd"/>%1ﾌｧｲﾙではありません。<byte value="xd"/><byte value="xd"/>ﾌｧｲﾙを確認してください。</source>
-        <translation>An error occurred while reading the data file.<byte value="xd"/><byte value="xd"/>It is not a %1 file.<byte value="xd"/><byte value="xd"/>Please check the file.</translation>
+        <translation>An error occurred while reading the data file.<byte value="xd"/><byte value="xd"/>It is not a %1.<byte value="xd"/><byte value="xd"/>Please check the file.</translation>
     </message>
     <message>
         <source>ﾃﾞｰﾀ･ﾌｧｲﾙの読み込みでエラーが発生しました。<byte value="xd"/><byte value="xd"/>VEXA-KT 旧Verのデータﾌｧｲﾙではありません。<byte value="xd"/><byte value="xd"/>ﾌｧｲﾙを確認してください。</source>
@@ -419,7 +419,7 @@ Measuring opens it.</translation>
     </message>
     <message>
         <source>ﾃﾞｰﾀ･ﾌｧｲﾙの読み込みでエラーが発生しました。<byte value="xd"/><byte value="xd"/>%1ﾌｧｲﾙではありません<byte value="xd"/><byte value="xd"/>ﾌｧｲﾙを確認してください。</source>
-        <translation>An error occurred while reading the data file.<byte value="xd"/><byte value="xd"/>It is not a %1 file<byte value="xd"/><byte value="xd"/>Please check the file.</translation>
+        <translation>An error occurred while reading the data file.<byte value="xd"/><byte value="xd"/>It is not a %1.<byte value="xd"/><byte value="xd"/>Please check the file.</translation>
     </message>
     <message>
         <source>規格ﾌｧｲﾙ名:%1<byte value="xd"/><byte value="xd"/>Ver1.10以前の規格ﾌｧｲﾙは読み込めません。</source>
@@ -468,10 +468,6 @@ Measuring opens it.</translation>
     <message>
         <source>ﾌﾟﾛｸﾞﾗﾑの設定ﾌｧｲﾙを読めません。次の名前で残し、既定の設定で始めます。<byte value="xd"/><byte value="xd"/>%1</source>
         <translation>The settings file of the program cannot be read. It is kept under this name, and the usual settings are taken.<byte value="xd"/><byte value="xd"/>%1</translation>
-    </message>
-    <message>
-        <source>表示言語は次の起動から有効になります。</source>
-        <translation>The language takes effect at the next start.</translation>
     </message>
     <message>
         <source>ほかのﾊﾞｰｼﾞｮﾝのｼﾞｬｰﾅﾙ･ﾌｧｲﾙは復元できません。次の名前で残します。<byte value="xd"/><byte value="xd"/>%1</source>
@@ -1271,11 +1267,11 @@ Measuring opens it.</translation>
     </message>
     <message>
         <source>XYZ色度図</source>
-        <translation>XYZ diagram</translation>
+        <translation>xy chromaticity diagram</translation>
     </message>
     <message>
         <source>L*a*b色度図</source>
-        <translation>L*a*b diagram</translation>
+        <translation>L*a*b* diagram</translation>
     </message>
     <message>
         <source>はい(&amp;Y)</source>
@@ -2083,7 +2079,7 @@ Measuring opens it.</translation>
     </message>
     <message>
         <source>ﾊﾙﾄﾏﾝ分散式</source>
-        <translation>Hartmann formula</translation>
+        <translation>Schott formula</translation>
     </message>
     <message>
         <source>ｾﾙﾏｲﾔ分散式</source>
@@ -2337,7 +2333,7 @@ controller is not connected.</translation>
     </message>
     <message>
         <source>膜厚ﾌｨｯﾄ(&amp;F)</source>
-        <translation>Thickness &amp;fit</translation>
+        <translation>Film &amp;fit</translation>
     </message>
     <message>
         <source>日常点検(&amp;D)</source>
@@ -2345,7 +2341,7 @@ controller is not connected.</translation>
     </message>
     <message>
         <source>管理図(&amp;C)</source>
-        <translation>&amp;Control charts</translation>
+        <translation>&amp;Control chart</translation>
     </message>
     <message>
         <source>測定システム解析(&amp;M)</source>
@@ -2656,10 +2652,6 @@ Where the reflectance has a peak or a valley in this range, the error can exceed
     <message>
         <source>他の測色計と比較できる値を、別の表 (と色度図) に加えます。</source>
         <translation>Adds the values that compare with other colorimeters, in a table (and a diagram) of their own.</translation>
-    </message>
-    <message>
-        <source>CIE測色値 (%1 / %2°、Rv は D65 / 2°、%3)</source>
-        <translation>CIE colour values (%1 / %2°, Rv for D65 / 2°, %3)</translation>
     </message>
     <message>
         <source>外挿差%1</source>
@@ -3489,7 +3481,7 @@ Commands:
     </message>
     <message>
         <source>反射率 %1 nm [%]</source>
-        <translation>Reflectance %1 nm [%]</translation>
+        <translation>R at %1 nm [%]</translation>
     </message>
     <message>
         <source>光量 %1 nm [ｶｳﾝﾄ]</source>
@@ -3510,10 +3502,6 @@ Commands:
     <message>
         <source>最小波長 [nm]</source>
         <translation>Wavelength of minimum [nm]</translation>
-    </message>
-    <message>
-        <source>視感反射率 Rv</source>
-        <translation>Luminous reflectance Rv</translation>
     </message>
     <message>
         <source>色相角 h</source>
@@ -4663,6 +4651,34 @@ Repeats: %4   Background: %5   Reference: %6</translation>
     <message>
         <source>繰返し %1/%2</source>
         <translation>Repeat %1/%2</translation>
+    </message>
+    <message>
+        <source>この種類のﾌｧｲﾙにない項目です。</source>
+        <translation>This kind of file has no such entry.</translation>
+    </message>
+    <message>
+        <source>必要な項目がありません。</source>
+        <translation>A required entry is missing.</translation>
+    </message>
+    <message>
+        <source>CIE測色値 (%1、Rv は D65 / 2°、%2)</source>
+        <translation>CIE colour values (%1, Rv for D65 / 2°, %2)</translation>
+    </message>
+    <message>
+        <source>視感反射率 Y (装置固有)</source>
+        <translation>Luminous reflectance Y (instrument)</translation>
+    </message>
+    <message>
+        <source>ΔE00の目標</source>
+        <translation>Target of ΔE00</translation>
+    </message>
+    <message>
+        <source>CIEの限界: %1</source>
+        <translation>CIE limits: %1</translation>
+    </message>
+    <message>
+        <source>ﾚｼﾋﾟの限界が記録により異なります。最も新しい記録のものを用います。</source>
+        <translation>The limits of the recipe differ between the records; those of the newest one are used.</translation>
     </message>
 </context>
 </TS>

@@ -63,7 +63,8 @@ QCoro::Task<int> Gallery::Take() {
   co_await TakeWindows();
   co_await TakeFilmFit();
   co_await TakeThicknessGraph();
-  co_await TakeRecords();
+  const QString plain;
+  co_await TakeRecords(plain);
   co_await TakeCie();
   co_await TakeLot();
   co_await TakeMessage();
@@ -159,7 +160,7 @@ QCoro::Task<> Gallery::TakeThicknessGraph() {
 }
 
 // What is read of the store comes from a thread of its own.
-QCoro::Task<> Gallery::TakeRecords() {
+QCoro::Task<> Gallery::TakeRecords(const QString& suffix) {
   window_.Commands().records->trigger();
   const auto* records = window_.findChild<QWidget*>(QStringLiteral("RecordsWindow"));
   auto* table = records->findChild<QTableView*>(QStringLiteral("RecordTable"));
@@ -169,8 +170,9 @@ QCoro::Task<> Gallery::TakeRecords() {
   co_await Until([details] { return !details->document()->isEmpty(); });
   Press(*records, "RecomputeRecords");
   co_await Until([records] { return records->findChild<QDialog*>() != nullptr; });
-  co_await TakeWindow(QStringLiteral("RecomputedWindow"), QStringLiteral("records-recomputed"));
-  co_await TakeWindow(QStringLiteral("RecordsWindow"), QStringLiteral("records"));
+  co_await TakeWindow(QStringLiteral("RecomputedWindow"),
+                      QStringLiteral("records-recomputed") + suffix);
+  co_await TakeWindow(QStringLiteral("RecordsWindow"), QStringLiteral("records") + suffix);
 }
 
 QCoro::Task<> Gallery::TakeFilmFit() {
@@ -205,6 +207,8 @@ QCoro::Task<> Gallery::TakeCie() {
   co_await Drawn();
   ChooseLast(*QApplication::activeModalWidget(), "DifferenceKind");
   co_await TakeDialog(QStringLiteral("colour-difference-cie"), nullptr);
+  const QString suffix = QStringLiteral("-cie");
+  co_await TakeRecords(suffix);
   commands.views->actions().constFirst()->trigger();
   commands.programSettings->trigger();
   co_await Drawn();

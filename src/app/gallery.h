@@ -28,7 +28,7 @@ class Gallery {
   QCoro::Task<> TakeFilmFit();
   QCoro::Task<> TakeThicknessGraph();
   QCoro::Task<> TakeCie();
-  QCoro::Task<> TakeRecords();
+  QCoro::Task<> TakeRecords(const QString& suffix);
   QCoro::Task<> TakeLot();
   QCoro::Task<> TakeMessage();
   /// The dialog that has just been opened over `below` (null: over the windows), each of its pages.

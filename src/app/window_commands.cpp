@@ -240,8 +240,8 @@ void WindowCommands::ShowSlot(int slot) {
 void WindowCommands::ShowRecords() {
   if (records_.isNull()) {
     const auto print = [this](const QList<WholeRecord>& records) { PrintRecords(records); };
-    records_ = new RecordsWindow({reader_, session_, desk_, messages_, dialogs_, StorePath(),
-                                  recordSettings_.station, print},
+    records_ = new RecordsWindow({reader_, session_, desk_, messages_, dialogs_, preferences_,
+                                  StorePath(), recordSettings_.station, print},
                                  &window_);
     records_->setAttribute(Qt::WA_DeleteOnClose);
     connect(&recorder_.Keeper(), &RecordKeeper::Stored, records_, &RecordsWindow::TakeNewer);
@@ -257,8 +257,9 @@ void WindowCommands::PrintRecords(const QList<WholeRecord>& records) {
   const bool own = std::ranges::all_of(records, [this](const WholeRecord& record) {
     return record.sample.station == recordSettings_.station;
   });
-  printer_.Print(Text::tr("記録"), MakeRecordsReport(records, session_.Now().date(),
-                                                     own ? ProofText(StorePath()) : QString()));
+  printer_.Print(Text::tr("記録"),
+                 MakeRecordsReport(records, preferences_.InForce().showCie, session_.Now().date(),
+                                   own ? ProofText(StorePath()) : QString()));
 }
 
 QString WindowCommands::StorePath() const {

@@ -22,6 +22,10 @@ QString KindText(FileFaultKind kind) {
       return Text::tr("ﾌｧｲﾙが途中で終わっています。");
     case FileFaultKind::kFields:
       return Text::tr("項目が足りません。");
+    case FileFaultKind::kUnknown:
+      return Text::tr("この種類のﾌｧｲﾙにない項目です。");
+    case FileFaultKind::kLacking:
+      return Text::tr("必要な項目がありません。");
     case FileFaultKind::kValue:
       return Text::tr("値として読めません。");
     case FileFaultKind::kRange:

@@ -18,6 +18,8 @@ enum class FileFaultKind : std::uint8_t {
   kVersion,  ///< another kind or version of file
   kEnd,      ///< it ends too early
   kFields,   ///< a line with too few fields
+  kUnknown,  ///< an entry that its kind of file has not
+  kLacking,  ///< without an entry that must be there
   kValue,    ///< a text that is no value of its kind
   kRange,    ///< a value that its kind does not take
 };

@@ -99,8 +99,10 @@ constexpr std::array<MessageEntry, kMessageCount> kCatalogue{{
      MessageButtons::kOk,
      QT_TRANSLATE_NOOP(
          "Text", "ﾌﾟﾛｸﾞﾗﾑの設定ﾌｧｲﾙを読めません。次の名前で残し、既定の設定で始めます。\r\r%1")},
+    // In both languages at once: whoever chose one by mistake reads the other.
     {Message::kLanguageAtNextStart, title::kInformation, MessageIcon::kInformation,
-     MessageButtons::kOk, QT_TRANSLATE_NOOP("Text", "表示言語は次の起動から有効になります。")},
+     MessageButtons::kOk,
+     "表示言語は次の起動から有効になります。\r\rThe language takes effect at the next start."},
     {Message::kJournalOtherVersion, title::kWarning, MessageIcon::kWarning, MessageButtons::kOk,
      QT_TRANSLATE_NOOP("Text",
                        "ほかのﾊﾞｰｼﾞｮﾝのｼﾞｬｰﾅﾙ･ﾌｧｲﾙは復元できません。次の名前で残します。\r\r%1")},

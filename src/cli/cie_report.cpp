@@ -2,15 +2,11 @@
 #include "cli/cie_report.h"
 
 #include "colour/cie_parts.h"
-#include "colour/colour_tables.h"
 
 namespace vexa::cli {
 
 QString CieText(const std::vector<CieLine>& lines, const ColourSettings& settings) {
-  QString text = QStringLiteral("\nCIE %1/%2°  %3\nslot")
-                     .arg(IlluminantText(settings.illuminant))
-                     .arg(settings.observer2Deg ? 2 : 10)
-                     .arg(CieRangeText());
+  QString text = u'\n' + CieCaption(CieConditions(settings)) + QStringLiteral("\nslot");
   for (const CiePart& part : kCieParts) {
     text += QStringLiteral(" %1").arg(QLatin1String(part.name), 9);
   }

@@ -5,7 +5,7 @@
 #include "cli/program_settings.h"
 #include "cli/records_actions.h"
 #include "cli/text_columns.h"
-#include "colour/cie_colour.h"
+#include "colour/cie_parts.h"
 #include "colour/colour_values.h"
 #include "files/configuration.h"
 #include "measurement/dispersion_data.h"
@@ -58,7 +58,7 @@ QString ResultText(const SampleRecord& sample, const QString& verdict) {
                         part("b", u"0.0000")}
          << QStringList{QStringLiteral("CIE C* h Rv"), part("C", u"##0.000"), part("h", u"##0.000"),
                         part("Rv", u"##0.0##")}
-         << QStringList{QStringLiteral("CIE spread"), part("spread", u"##0.000"), CieRangeText()};
+         << QStringList{QStringLiteral("CIE spread"), part("spread", u"##0.000")};
   }
   if (sample.thickness) {
     rows << QStringList{
@@ -66,7 +66,11 @@ QString ResultText(const SampleRecord& sample, const QString& verdict) {
         Number(sample.thickness->thicknessNm, u"0.0") + ThicknessUnit(sample.thickness->physical),
         sample.doubts.join(u' ')};
   }
-  return TextColumns(rows);
+  QStringList told = CieFailures(sample.cieGroups);
+  if (sample.cie) {
+    told << CieCaption(CieConditionsOf(sample.cie));
+  }
+  return TextColumns(rows) + (told.isEmpty() ? QString() : told.join(u'\n') + u'\n');
 }
 
 QString FrameText(const std::optional<FrameRecord>& frame) {

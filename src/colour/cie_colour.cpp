@@ -21,13 +21,15 @@ constexpr double kLeastHueChroma = 1e-9;  // what is left of a grey after roundi
 constexpr int kLineLastNm = 460;
 constexpr ColourSettings kRvSettings{4, true, 440, 840};
 
-/// Reflectance in percent below the first wavelength: a value there, and how it goes on.
+/// Reflectance in percent below the first wavelength: a value there, how it goes on, and how far
+/// down.
 struct Continuation {
   double atFirst = 0.0;
   double perNm = 0.0;
+  double least = 0.0;
 
   [[nodiscard]] double At(int nm) const {
-    return std::max(0.0, atFirst + perNm * (nm - ReflectanceSpectrum::kFirstNm));
+    return std::max(least, atFirst + perNm * (nm - ReflectanceSpectrum::kFirstNm));
   }
 };
 
@@ -87,7 +89,8 @@ double HueDeg(const LabColour& lab) {
 }
 
 CieColour Compute(const ReflectanceSpectrum& reflectance, const ColourSettings& settings) {
-  const Continuation constant{reflectance[ReflectanceSpectrum::kFirstNm]};
+  const double first = reflectance[ReflectanceSpectrum::kFirstNm];
+  const Continuation constant{first, 0.0, first};
   const TristimulusValues white = SumUp([](int /*nm*/) { return 100.0; }, settings);
   const TristimulusValues values = SumUp(reflectance, constant, settings);
   const LabColour lab = ToLab(values, white);

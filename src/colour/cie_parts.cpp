@@ -5,6 +5,8 @@
 #include <cmath>
 
 #include "base/number_text.h"
+#include "base/translation.h"
+#include "colour/colour_tables.h"
 
 namespace vexa {
 
@@ -16,6 +18,20 @@ QString CieValueText(const std::optional<CieColour>& colour, const CiePart& part
 
 QString CieValueText(const std::optional<CieColour>& colour, double CieColour::*value) {
   return CieValueText(colour, *std::ranges::find(kCieParts, value, &CiePart::value));
+}
+
+QString CieSymbol(double CieColour::*value) {
+  return QString::fromUtf8(std::ranges::find(kCieParts, value, &CiePart::value)->symbol);
+}
+
+QString CieConditions(const ColourSettings& settings) {
+  return QStringLiteral("%1 / %2°")
+      .arg(IlluminantText(settings.illuminant))
+      .arg(settings.observer2Deg ? 2 : 10);
+}
+
+QString CieCaption(const QString& conditions) {
+  return Text::tr("CIE測色値 (%1、Rv は D65 / 2°、%2)").arg(conditions, CieRangeText());
 }
 
 }  // namespace vexa

@@ -39,4 +39,14 @@ inline constexpr std::array<CiePart, 12> kCieParts{{
 [[nodiscard]] QString CieValueText(const std::optional<CieColour>& colour,
                                    double CieColour::*value);
 
+/// The symbol of the member `value`, with its unit.
+[[nodiscard]] QString CieSymbol(double CieColour::*value);
+
+/// What CIE colours are computed for, as "D65 / 2°".
+[[nodiscard]] QString CieConditions(const ColourSettings& settings);
+
+/// What stands above CIE values wherever they are listed: what they are, what they were computed
+/// for, as CieConditions has it, and what is said of the range.
+[[nodiscard]] QString CieCaption(const QString& conditions);
+
 }  // namespace vexa

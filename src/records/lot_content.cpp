@@ -3,13 +3,12 @@
 
 #include <QHash>
 #include <algorithm>
+#include <array>
 #include <cmath>
 #include <limits>
 #include <utility>
 
 #include "base/translation.h"
-#include "colour/colour_difference.h"
-#include "records/result_json.h"
 
 namespace vexa {
 namespace {
@@ -18,16 +17,15 @@ LotValue Recorded(const RecordValue& value, const statistics::SpecificationLimit
   return {ValueTitle(value), limits, PhysicalBound(value.quantity),
           [value, limits](const SampleRecord& sample) {
             std::optional<double> found = ValueOf(sample, value);
-            const bool hue =
-                value.quantity == Quantity::kHue || value.quantity == Quantity::kCieHue;
-            if (found && hue && limits.lower && limits.upper) {
+            if (found && IsHue(value.quantity) && limits.lower && limits.upper) {
               // On the turn on which its limits lie.
               constexpr double kCircle = 360.0;
               const double centre = 0.5 * (*limits.lower + *limits.upper);
               *found -= kCircle * std::round((*found - centre) / kCircle);
             }
             return found;
-          }};
+          },
+          IsHue(value.quantity)};
 }
 
 LotValue ExtremumWavelength(const WavelengthValueLimits& limits) {
@@ -40,19 +38,6 @@ LotValue ExtremumWavelength(const WavelengthValueLimits& limits) {
                                                         ReflectanceSpectrum::kFirstNm,
                                                         ReflectanceSpectrum::kLastNm, selector));
           }};
-}
-
-std::optional<double> DifferenceTo(const LabColour& target, const SampleRecord& sample) {
-  if (!sample.cie) {
-    return std::nullopt;
-  }
-  const auto part = [&sample](const char* name) {
-    return NumberOf((*sample.cie)[QLatin1String(name)]);
-  };
-  const LabColour colour{part("L"), part("a"), part("b")};
-  ColourDifference difference;
-  return CompareColours(target, colour, difference) ? std::optional(difference.deltaE00)
-                                                    : std::nullopt;
 }
 
 void AddStandard(const StandardSet& standard, std::vector<LotValue>& values) {
@@ -77,33 +62,17 @@ void AddStandard(const StandardSet& standard, std::vector<LotValue>& values) {
 }
 
 void AddCie(const CieLimits& cie, std::vector<LotValue>& values) {
-  constexpr double kCircle = 360.0;
-  const auto add = [&](const StandardLimits& limits, Quantity quantity) {
-    if (!limits.enabled) {
-      return;
+  constexpr std::array<Quantity, kCieGroupCount> kQuantities{Quantity::kCieLuminousReflectance,
+                                                             Quantity::kCieL,
+                                                             Quantity::kCieA,
+                                                             Quantity::kCieB,
+                                                             Quantity::kCieChroma,
+                                                             Quantity::kCieHue,
+                                                             Quantity::kCieDeltaE00};
+  for (std::size_t i = 0; i < kCieGroupCount; ++i) {
+    if ((cie.*kCieLimitsEntries.at(i).limits).enabled) {
+      values.push_back(Recorded({kQuantities.at(i)}, LimitsOf(cie, kQuantities.at(i))));
     }
-    const std::optional<double> bound = PhysicalBound(quantity);
-    const bool throughZero = quantity == Quantity::kCieHue && limits.upper < limits.lower;
-    const double lower = throughZero ? limits.lower - kCircle : limits.lower;
-    values.push_back(
-        Recorded({quantity},
-                 {bound && lower <= *bound ? std::nullopt : std::optional(lower), limits.upper}));
-  };
-  add(cie.luminousReflectance, Quantity::kCieLuminousReflectance);
-  add(cie.L, Quantity::kCieL);
-  add(cie.a, Quantity::kCieA);
-  add(cie.b, Quantity::kCieB);
-  add(cie.chroma, Quantity::kCieChroma);
-  add(cie.hueAngle, Quantity::kCieHue);
-  if (cie.deltaE00.enabled) {
-    const std::optional<double> lower =
-        cie.deltaE00.lower > 0.0 ? std::optional(cie.deltaE00.lower) : std::nullopt;
-    values.push_back({QStringLiteral("CIE ΔE00"),
-                      {lower, cie.deltaE00.upper},
-                      0.0,
-                      [target = cie.target](const SampleRecord& sample) {
-                        return DifferenceTo(target, sample);
-                      }});
   }
 }
 

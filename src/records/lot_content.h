@@ -39,6 +39,7 @@ struct LotValue {
   statistics::SpecificationLimits limits;
   std::optional<double> bound;  ///< that the value cannot pass
   std::function<std::optional<double>(const SampleRecord&)> of;
+  bool hue = false;  ///< limits and values lie on one turn, perhaps not that of 0 to 360
 };
 
 /// The values that the standard and the CIE limits of the lot judge, in their order; where they

@@ -72,7 +72,7 @@ class Entries {
 
   void End() const {
     for (const QString& name : object_.keys()) {
-      Require(taken_.contains(name), FileFaultKind::kFields, qUtf8Printable(name));
+      Require(taken_.contains(name), FileFaultKind::kUnknown, qUtf8Printable(name));
     }
   }
 
@@ -98,6 +98,8 @@ void TakeLimits(Entries& all, const CieLimitsEntry& entry, CieLimits& cie) {
   range.Take("lower", limits.lower);
   range.Take("upper", limits.upper);
   range.End();
+  all.Require(!limits.enabled || range.Has("lower") || range.Has("upper"), FileFaultKind::kLacking,
+              entry.name);
   // Of a hue angle the reverse order means the arc through 0.
   const bool ordered = limits.lower <= limits.upper || entry.limits == &CieLimits::hueAngle;
   all.Require(ordered, FileFaultKind::kRange, entry.name);
@@ -111,11 +113,12 @@ CieLimits ReadCieLimits(Entries object) {
   }
   limits.End();
   // A colour difference to nothing would be one to black.
-  object.Require(!cie.deltaE00.enabled || object.Has("target"), FileFaultKind::kEnd, "target");
+  object.Require(!cie.deltaE00.enabled || object.Has("target"), FileFaultKind::kLacking, "target");
+  const bool given = object.Has("target");
   Entries target = object.Object("target");
   for (const auto& [name, value] : {std::pair{"L", &cie.target.L}, std::pair{"a", &cie.target.a},
                                     std::pair{"b", &cie.target.b}}) {
-    target.Require(!cie.deltaE00.enabled || target.Has(name), FileFaultKind::kEnd, name);
+    target.Require(!given || target.Has(name), FileFaultKind::kLacking, name);
     target.Take(name, *value);
   }
   target.End();

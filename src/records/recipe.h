@@ -31,7 +31,7 @@ struct Recipe {
 
 /// What is wrong with a recipe, and with which of its entries.
 struct RecipeFault {
-  FileFault file;  ///< kVersion: no recipe; kFields: an entry that recipes have not
+  FileFault file;  ///< kVersion: no recipe
   QString entry;   ///< as "cie.limits.L"; empty where it is the file as a whole
 };
 

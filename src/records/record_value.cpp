@@ -5,8 +5,10 @@
 #include <array>
 #include <cmath>
 #include <numbers>
+#include <utility>
 
 #include "base/translation.h"
+#include "colour/colour_difference.h"
 #include "records/result_json.h"
 
 namespace vexa {
@@ -28,8 +30,8 @@ constexpr const char* kNm = "nm";
 constexpr const char* kDegrees = "°";
 
 constexpr std::array<QuantityEntry, kQuantityCount> kQuantities{{
-    {Quantity::kLuminousReflectance, "Rv", QT_TRANSLATE_NOOP("Text", "視感反射率 Rv"), kPercent,
-     &ColourResult::Y, nullptr, true},
+    {Quantity::kLuminousReflectance, "Rv", QT_TRANSLATE_NOOP("Text", "視感反射率 Y (装置固有)"),
+     kPercent, &ColourResult::Y, nullptr, true},
     {Quantity::kAverageReflectance, "Rm", QT_TRANSLATE_NOOP("Text", "平均反射率"), kPercent,
      &ColourResult::Rm, nullptr, true},
     {Quantity::kL, "L", "L*", "", &ColourResult::L, nullptr, true},
@@ -48,6 +50,7 @@ constexpr std::array<QuantityEntry, kQuantityCount> kQuantities{{
     {Quantity::kCieB, "cieB", "CIE b*", "", nullptr, "b", false},
     {Quantity::kCieChroma, "cieC", "CIE C*", "", nullptr, "C", true},
     {Quantity::kCieHue, "cieH", "CIE h", kDegrees, nullptr, "h", false},
+    {Quantity::kCieDeltaE00, "cieDeltaE00", "CIE ΔE00", "", nullptr, nullptr, true},
 }};
 
 const QuantityEntry& EntryOf(Quantity quantity) {
@@ -60,8 +63,20 @@ statistics::SpecificationLimits Limits(const StandardLimits& limits,
   if (!limits.enabled) {
     return {};
   }
-  return {bound && limits.lower <= *bound ? std::nullopt : std::optional(limits.lower),
-          limits.upper};
+  const auto finite = [](double limit) {
+    return std::isfinite(limit) ? std::optional(limit) : std::nullopt;
+  };
+  return {bound && limits.lower <= *bound ? std::nullopt : finite(limits.lower),
+          finite(limits.upper)};
+}
+
+std::optional<double> DifferenceToTarget(const SampleRecord& sample) {
+  const std::optional<CieColour> colour = CieOf(sample.cie);
+  ColourDifference difference;
+  const bool found =
+      sample.cieLimits.deltaE00.enabled && colour &&
+      CompareColours(sample.cieLimits.target, {colour->L, colour->a, colour->b}, difference);
+  return found ? std::optional(difference.deltaE00) : std::nullopt;
 }
 
 // Limits through 0 begin below it; none on the whole circle.
@@ -71,6 +86,14 @@ statistics::SpecificationLimits HueLimits(const StandardLimits& limits) {
     return {};
   }
   return {limits.upper < limits.lower ? limits.lower - kCircle : limits.lower, limits.upper};
+}
+
+void TakeCie(const SampleRecord& sample, bool newest, ValueSeries& series) {
+  if (newest) {
+    series.cieLimits = sample.cieLimits;
+  }
+  series.severalCieLimits = series.severalCieLimits || sample.cieLimits != series.cieLimits;
+  AddCieConditions(sample.cie, series.cieConditions);
 }
 
 }  // namespace
@@ -110,6 +133,8 @@ std::optional<double> ValueOf(const SampleRecord& sample, const RecordValue& val
   } else if (entry.cie != nullptr) {
     found = sample.cie ? std::optional(NumberOf((*sample.cie)[QLatin1String(entry.cie)]))
                        : std::nullopt;
+  } else if (value.quantity == Quantity::kCieDeltaE00) {
+    found = DifferenceToTarget(sample);
   } else if (value.quantity == Quantity::kThickness) {
     found = sample.thickness ? std::optional(sample.thickness->thicknessNm) : std::nullopt;
   } else if (ReflectanceSpectrum::Contains(value.nm)) {
@@ -145,6 +170,25 @@ statistics::SpecificationLimits LimitsOf(const StandardSet& standard, const Reco
   }
 }
 
+statistics::SpecificationLimits LimitsOf(const CieLimits& limits, Quantity quantity) {
+  if (!IsCie(quantity)) {
+    return {};
+  }
+  if (quantity == Quantity::kCieHue) {
+    return HueLimits(limits.hueAngle);
+  }
+  constexpr std::array kGroups{
+      std::pair{Quantity::kCieLuminousReflectance, &CieLimits::luminousReflectance},
+      std::pair{Quantity::kCieL, &CieLimits::L},
+      std::pair{Quantity::kCieA, &CieLimits::a},
+      std::pair{Quantity::kCieB, &CieLimits::b},
+      std::pair{Quantity::kCieChroma, &CieLimits::chroma},
+      std::pair{Quantity::kCieDeltaE00, &CieLimits::deltaE00}};
+  const auto group =
+      std::ranges::find(kGroups, quantity, [](const auto& each) { return each.first; });
+  return Limits(limits.*group->second, PhysicalBound(quantity));
+}
+
 std::vector<double> ValueSeries::Values() const {
   std::vector<double> values;
   values.reserve(points.size());
@@ -166,6 +210,9 @@ Answer<ValueSeries> LoadSeries(const RecordSource& source, RecordQuery query,
       return;
     }
     const std::optional<SampleRecord> sample = ToSample(row.row);
+    if (sample && IsCie(value.quantity)) {
+      TakeCie(*sample, found == 1, series.value);
+    }
     const std::optional<double> number = sample ? ValueOf(*sample, value) : std::nullopt;
     if (!number) {
       ++series.value.without;
@@ -176,7 +223,7 @@ Answer<ValueSeries> LoadSeries(const RecordSource& source, RecordQuery query,
                                    sample->operatorName, sample->sampleNumber, *number});
   });
   std::ranges::reverse(series.value.points);
-  if (value.quantity == Quantity::kHue || value.quantity == Quantity::kCieHue) {
+  if (IsHue(value.quantity)) {
     JoinHues(series.value.points);
   }
   return series;

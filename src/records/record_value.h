@@ -3,11 +3,13 @@
 
 #include <QList>
 #include <QString>
+#include <QStringList>
 #include <functional>
 #include <optional>
 #include <vector>
 
 #include "records/record_source.h"
+#include "standards/cie_limits.h"
 #include "standards/standard_set.h"
 #include "statistics/capability.h"
 
@@ -31,8 +33,17 @@ enum class Quantity {
   kCieB,
   kCieChroma,
   kCieHue,
+  kCieDeltaE00,  ///< to the target that the recipe of the record names
 };
-inline constexpr int kQuantityCount = static_cast<int>(Quantity::kCieHue) + 1;
+inline constexpr int kQuantityCount = static_cast<int>(Quantity::kCieDeltaE00) + 1;
+
+/// True for the values of the CIE colour, false for the instrument's own.
+[[nodiscard]] constexpr bool IsCie(Quantity quantity) {
+  return quantity >= Quantity::kCieLuminousReflectance;
+}
+[[nodiscard]] constexpr bool IsHue(Quantity quantity) {
+  return quantity == Quantity::kHue || quantity == Quantity::kCieHue;
+}
 
 /// A quantity, with its wavelength (440..840 nm) where it has one.
 struct RecordValue {
@@ -63,6 +74,9 @@ struct RecordValue {
 [[nodiscard]] statistics::SpecificationLimits LimitsOf(const StandardSet& standard,
                                                        const RecordValue& value);
 
+/// Likewise those that a recipe sets for a CIE value.
+[[nodiscard]] statistics::SpecificationLimits LimitsOf(const CieLimits& limits, Quantity quantity);
+
 /// One point of a chart, and the record that it stands for.
 struct ValuePoint {
   QString id;
@@ -79,6 +93,9 @@ struct ValueSeries {
   std::vector<ValuePoint> points;  ///< the oldest first
   qsizetype without = 0;           ///< records that do not have the value
   bool more = false;               ///< older ones were left out beyond the limit of the query
+  CieLimits cieLimits;             ///< what the newest record was judged by
+  bool severalCieLimits = false;   ///< others were judged by other ones
+  QStringList cieConditions;       ///< under which the CIE colours were computed, each once
 
   [[nodiscard]] std::vector<double> Values() const;
 };

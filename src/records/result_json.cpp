@@ -4,6 +4,7 @@
 #include <algorithm>
 #include <cmath>
 #include <limits>
+#include <utility>
 
 #include "colour/cie_parts.h"
 #include "colour/colour_tables.h"
@@ -196,11 +197,43 @@ QJsonObject CieJson(const std::optional<CieColour>& colour, const ColourSettings
   return object;
 }
 
+std::optional<CieColour> CieOf(const std::optional<QJsonObject>& object) {
+  if (!object) {
+    return std::nullopt;
+  }
+  CieColour colour;
+  for (const CiePart& part : kCieParts) {
+    colour.*part.value = NumberOf((*object)[QLatin1String(part.name)]);
+  }
+  return colour;
+}
+
+QString CieConditionsOf(const std::optional<QJsonObject>& object) {
+  return object ? QStringLiteral("%1 / %2°")
+                      .arg((*object)[QStringLiteral("illuminant")].toString())
+                      .arg((*object)[QStringLiteral("observer")].toInt())
+                : QString();
+}
+
+void AddCieConditions(const std::optional<QJsonObject>& object, QStringList& known) {
+  if (const QString conditions = CieConditionsOf(object);
+      !conditions.isEmpty() && !known.contains(conditions)) {
+    known << conditions;
+  }
+}
+
 QJsonObject CieLimitsJson(const CieLimits& limits) {
   QJsonObject ranges;
   for (const CieLimitsEntry& entry : kCieLimitsEntries) {
     if (const StandardLimits& range = limits.*entry.limits; range.enabled) {
-      ranges[QLatin1String(entry.name)] = QJsonObject{{kLower, range.lower}, {kUpper, range.upper}};
+      QJsonObject sides;
+      for (const auto& [name, limit] :
+           {std::pair(kLower, range.lower), std::pair(kUpper, range.upper)}) {
+        if (std::isfinite(limit)) {
+          sides[name] = limit;
+        }
+      }
+      ranges[QLatin1String(entry.name)] = sides;
     }
   }
   QJsonObject object{{kLimits, ranges}};

@@ -34,8 +34,16 @@ using GroupJudgements = std::array<GroupJudgement, kStandardGroupCount>;
 [[nodiscard]] QJsonObject CieJson(const std::optional<CieColour>& colour,
                                   const ColourSettings& settings);
 
+/// What CieJson holds, not a number for null; nothing where there is no such object.
+[[nodiscard]] std::optional<CieColour> CieOf(const std::optional<QJsonObject>& object);
+/// What it was computed for, as "D65 / 2°".
+[[nodiscard]] QString CieConditionsOf(const std::optional<QJsonObject>& object);
+/// Adds that to those known already, unless it is among them.
+void AddCieConditions(const std::optional<QJsonObject>& object, QStringList& known);
+
 /// {"limits": {"Rv": {"lower": 0, "upper": 0.5}, ...}, "target": {"L": 0, "a": 0, "b": 0}}: the
-/// limits that are on, by kCieLimitsEntries, and the target where a difference to it is limited.
+/// limits that are on, by kCieLimitsEntries, each with the sides that are limited, and the target
+/// where a difference to it is limited.
 [[nodiscard]] QJsonObject CieLimitsJson(const CieLimits& limits);
 /// What such an object holds; whatever it lacks has its usual value.
 [[nodiscard]] CieLimits CieLimitsOf(const QJsonObject& object);

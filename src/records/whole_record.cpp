@@ -93,6 +93,14 @@ Answer<WholeRecord> LoadRecord(const RecordSource& store, const QString& idOrNum
   return whole;
 }
 
+QString CieConditionsOf(const QList<WholeRecord>& records) {
+  QStringList conditions;
+  for (const WholeRecord& record : records) {
+    AddCieConditions(record.sample.cie, conditions);
+  }
+  return conditions.isEmpty() ? QStringLiteral("-") : conditions.join(QStringLiteral(", "));
+}
+
 QJsonObject ResultsJson(const SampleRecord& sample) {
   const bool judged = VerdictOf(sample.cieGroups) != Verdict::kNone;
   return {{QStringLiteral("first"), ReflectanceSpectrum::kFirstNm},

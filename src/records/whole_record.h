@@ -23,6 +23,9 @@ struct WholeRecord {
 /// The sample of this id (in a store also of this number); kMissing when there is none.
 [[nodiscard]] Answer<WholeRecord> LoadRecord(const RecordSource& store, const QString& id);
 
+/// What the CIE colours of records were computed for, each condition once: "D65 / 2°, A / 10°".
+[[nodiscard]] QString CieConditionsOf(const QList<WholeRecord>& records);
+
 /// Everything of a record; docs/records.md describes it.
 [[nodiscard]] QJsonObject RecordJson(const WholeRecord& record);
 

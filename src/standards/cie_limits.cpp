@@ -1,7 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "standards/cie_limits.h"
 
+#include <cmath>
 #include <limits>
+
+#include "base/number_text.h"
 
 namespace vexa {
 namespace {
@@ -27,6 +30,26 @@ CieJudgement JudgeCie(const std::optional<CieColour>& colour, const CieLimits& l
           judge(limits.chroma, &CieColour::C),
           JudgeHue(limits.hueAngle, colour ? colour->h : kNotANumber),
           JudgeValue(limits.deltaE00, colour ? DeltaE00(limits.target, *colour) : kNotANumber)};
+}
+
+QString CieMarginText(const CieJudgement& judgement, std::size_t group) {
+  const std::optional<double>& margin = judgement[group].margin;
+  return margin ? FormatNumber(std::abs(*margin), u"0.000#") +
+                      QString::fromUtf8(kCieLimitsEntries[group].unit)
+                : QString();
+}
+
+QStringList CieFailures(const CieJudgement& judgement) {
+  QStringList failures;
+  for (std::size_t i = 0; i < kCieGroupCount; ++i) {
+    if (!judgement[i].passed.value_or(true)) {
+      failures << QStringLiteral("%1:NG %2")
+                      .arg(QString::fromUtf8(kCieLimitsEntries[i].symbol),
+                           CieMarginText(judgement, i))
+                      .trimmed();
+    }
+  }
+  return failures;
 }
 
 }  // namespace vexa

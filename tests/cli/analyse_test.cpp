@@ -109,7 +109,8 @@ TEST_F(Analysis, AddsTheCieColour) {
   EXPECT_TRUE(Object(Slot(outcome, 2), "cie")[QLatin1String("x")].isNull()) << "black";
   EXPECT_FALSE(Slot(Analyse("--json"), 0).contains(QLatin1String("cie")));
   const QByteArray text = Analyse("--cie --illuminant A").out;
-  EXPECT_TRUE(text.contains("\nCIE A/2°  440 nm より下は外挿\nslot         X "))
+  EXPECT_TRUE(
+      text.contains("\nCIE測色値 (A / 2°、Rv は D65 / 2°、440 nm より下は外挿)\nslot         X "))
       << text.constData();
   EXPECT_TRUE(text.simplified().contains(" spread 1 21.97 20.0 7.116 0.4476 0.4074 "))
       << text.constData();

@@ -94,6 +94,19 @@ TEST_F(Records, ListShowAndExportTellWhatWasMeasured) {
   EXPECT_FALSE(files.Has("many.dat"));
 }
 
+TEST_F(Records, TextNamesTheCieValuesThatFailed) {
+  Context context;
+  context.cieLimits.luminousReflectance = {true, 0.5, -CieLimits::kNone};
+  context.cieLimits.a = {true, 9.0, -9.0};
+  Add(test::MeasuredState(3), context);
+  for (const char* command : {"show ", "evaluate "}) {
+    const QByteArray text = Do(command + ids[2]).out;
+    EXPECT_TRUE(text.contains("\nCIE Rv:NG ")) << text.constData();
+    EXPECT_FALSE(text.contains("CIE a*:NG")) << text.constData();
+    EXPECT_TRUE(text.contains("(A / 2°、Rv は D65 / 2°、")) << text.constData();
+  }
+}
+
 TEST_F(Records, EvaluateComputesAnewFromTheCounts) {
   const QJsonValue stored = Do("show " + ids[0] + " --json")["reflectance"];
   const auto evaluated = [this](const QByteArray& options) {

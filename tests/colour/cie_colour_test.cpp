@@ -45,6 +45,9 @@ TEST(CieColour, PairsTheTablesWithTheirOwnWavelengths) {
 
 TEST(CieColour, TellsHowMuchHangsOnTheMissingRange) {
   EXPECT_NEAR(CalcCieColour(Flat(4.0), {})->spread, 0.0, 1e-12);
+  const auto below = CalcCieColour(Flat(-1.0), {4, true});  // by noise
+  EXPECT_NEAR(below->Y, -1.0, 1e-12);
+  EXPECT_NEAR(below->b, 0.0, 1e-9) << "below 440 nm it goes on as it is";
   const auto slope = [](double perNm) {
     return CalcCieColour(SpectrumOf([perNm](int nm) { return 2.0 + perNm * (nm - 440); }),
                          {4, true})

@@ -37,7 +37,7 @@ TEST_F(RecipeFile, IsReadWhole) {
   EXPECT_EQ(recipe->backgroundAgeMinutes, 0);
   EXPECT_EQ(recipe->referenceAgeMinutes, 30);
   EXPECT_EQ(recipe->cie.hueAngle, (StandardLimits{true, 20.0, 350.0}));
-  EXPECT_EQ(recipe->cie.deltaE00, (StandardLimits{true, 1.5, 0.0}));
+  EXPECT_EQ(recipe->cie.deltaE00, (StandardLimits{true, 1.5, -CieLimits::kNone})) << "one side";
   EXPECT_EQ(recipe->cie.target, (LabColour{20.0, -1.0, 2.5}));
   EXPECT_FALSE(recipe->cie.L.enabled);
 }
@@ -50,7 +50,7 @@ TEST_F(RecipeFile, NamesWhatIsWrongInIt) {
     int line = 0;
   };
   const Case cases[] = {
-      {", \"standrad\": \"a.std\"", FileFaultKind::kFields, "standrad"},
+      {", \"standrad\": \"a.std\"", FileFaultKind::kUnknown, "standrad"},
       {", \"name\": \" \"", FileFaultKind::kValue, "name"},
       {", \"environment\": 1", FileFaultKind::kValue, "environment"},
       {", \"repeats\": 0", FileFaultKind::kRange, "repeats"},
@@ -60,13 +60,15 @@ TEST_F(RecipeFile, NamesWhatIsWrongInIt) {
       {", \"backgroundAgeLimitMinutes\": 1e300", FileFaultKind::kRange,
        "backgroundAgeLimitMinutes"},
       {", \"cie\": []", FileFaultKind::kValue, "cie"},
-      {R"(, "cie": {"limits": {"M": {}}})", FileFaultKind::kFields, "cie.limits.M"},
+      {R"(, "cie": {"limits": {"M": {}}})", FileFaultKind::kUnknown, "cie.limits.M"},
       {R"(, "cie": {"limits": {"L": {"lower": 9, "upper": 8}}})", FileFaultKind::kRange,
        "cie.limits.L"},
-      {R"(, "cie": {"limits": {"L": {"lowr": 9}}})", FileFaultKind::kFields, "cie.limits.L.lowr"},
-      {R"(, "cie": {"limits": {"deltaE00": {"upper": 1}}})", FileFaultKind::kEnd, "cie.target"},
+      {R"(, "cie": {"limits": {"L": {"lowr": 9}}})", FileFaultKind::kUnknown, "cie.limits.L.lowr"},
+      {R"(, "cie": {"limits": {"deltaE00": {"upper": 1}}})", FileFaultKind::kLacking, "cie.target"},
       {R"(, "cie": {"limits": {"deltaE00": {"upper": 1}}, "target": {"L": 1, "a": 0}})",
-       FileFaultKind::kEnd, "cie.target.b"},
+       FileFaultKind::kLacking, "cie.target.b"},
+      {R"(, "cie": {"target": {"L": 1, "a": 0}})", FileFaultKind::kLacking, "cie.target.b"},
+      {R"(, "cie": {"limits": {"Rv": {}}})", FileFaultKind::kLacking, "cie.limits.Rv"},
       {", \"name\":\n\"a\"\n\"b\"", FileFaultKind::kValue, "", 3},
       {", \"version\": 2", FileFaultKind::kVersion, "version"},
       {", \"format\": \"VEXA-KT records\"", FileFaultKind::kVersion, "format"},

@@ -102,7 +102,7 @@ TEST_F(Store, KeepsTheCieColourAndItsVerdict) {
   CieLimits limits;
   limits.luminousReflectance = {true, 20.0, 17.0};
   EXPECT_EQ(VerdictOf(keep(limits)), Verdict::kOk);
-  limits.deltaE00 = {true, 1.0, 0.0};
+  limits.deltaE00 = {true, 1.0, -CieLimits::kNone};
   limits.target = {50.0, 0.0, 0.0};
   limits.hueAngle = {true, 20.0, 340.0};
   const SampleRecord judged = keep(limits);

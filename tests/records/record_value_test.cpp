@@ -28,6 +28,14 @@ TEST(RecordValue, EachQuantityHasItsPlaceInTheRecord) {
     ASSERT_TRUE(quantity) << c.key;
     EXPECT_EQ(ValueOf(sample, {*quantity, 600}), c.value) << c.key;
   }
+  // The pair of Sharma, Wu and Dalal, Color Res. Appl. 30 (2005), Table I, line 25.
+  sample.cie = QJsonObject{{QStringLiteral("L"), 60.4626},
+                           {QStringLiteral("a"), -34.1751},
+                           {QStringLiteral("b"), 39.4387}};
+  sample.cieLimits.target = {60.2574, -34.0099, 36.2677};
+  EXPECT_FALSE(ValueOf(sample, {Quantity::kCieDeltaE00})) << "no recipe names a target";
+  sample.cieLimits.deltaE00.enabled = true;
+  EXPECT_NEAR(ValueOf(sample, {Quantity::kCieDeltaE00}).value_or(0.0), 1.2644, 5e-5);
   sample.cie.reset();
   sample.thickness.reset();
   EXPECT_FALSE(ValueOf(sample, {Quantity::kThickness}));
@@ -56,6 +64,25 @@ TEST(RecordValue, LimitsAreThoseOfTheStandardForTheSameValue) {
   for (const double hue : {-5.0, 5.0, 355.0}) {
     const auto limits = NearestTurn(LimitsOf(standard, {Quantity::kHue}), hue);
     EXPECT_TRUE(*limits.lower < hue && hue < *limits.upper) << hue;
+  }
+}
+
+TEST(RecordValue, LimitsOfCieValuesAreThoseOfTheRecipe) {
+  CieLimits limits;
+  limits.a = {true, 3.0, -CieLimits::kNone};
+  limits.chroma = {true, 5.0, 0.0};
+  limits.hueAngle = {true, 20.0, 350.0};
+  limits.deltaE00 = {true, 1.5, -CieLimits::kNone};
+  struct Case {
+    Quantity quantity;
+    std::optional<double> lower, upper;
+  };
+  for (const Case& c : {Case{Quantity::kCieA, {}, 3.0}, Case{Quantity::kCieChroma, {}, 5.0},
+                        Case{Quantity::kCieHue, -10.0, 20.0}, Case{Quantity::kCieDeltaE00, {}, 1.5},
+                        Case{Quantity::kCieB, {}, {}}, Case{Quantity::kA, {}, {}}}) {
+    const auto found = LimitsOf(limits, c.quantity);
+    EXPECT_EQ(found.lower, c.lower) << QuantityKey(c.quantity).toStdString();
+    EXPECT_EQ(found.upper, c.upper) << QuantityKey(c.quantity).toStdString();
   }
 }
 

@@ -36,6 +36,7 @@ TEST(JudgeCie, EachValueAgainstItsOwnLimits) {
       {CieGroup::kA, &CieLimits::a, -5.0, 3.0, false, -1.0},
       {CieGroup::kB, &CieLimits::b, -3.0, 0.0, true, 1.0},
       {CieGroup::kChroma, &CieLimits::chroma, 0.0, 5.123, true, 1.0},
+      {CieGroup::kA, &CieLimits::a, -CieLimits::kNone, 5.0, true, 1.0},
       {CieGroup::kHueAngle, &CieLimits::hueAngle, 340.0, 20.0, true, 5.96},
       {CieGroup::kHueAngle, &CieLimits::hueAngle, 350.0, 20.0, false, -4.04},
       {CieGroup::kHueAngle, &CieLimits::hueAngle, 10.0, 340.0, false, -5.96},

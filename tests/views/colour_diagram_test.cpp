@@ -10,6 +10,7 @@
 
 #include "support/spectra.h"
 #include "support/window_test.h"
+#include "views/common/slot_style.h"
 
 namespace vexa {
 namespace {
@@ -138,6 +139,18 @@ TEST_F(Diagram, ShowsEitherColourAndSaysWhich) {
     const bool own = c.kind == ColourKind::kInstrument;
     EXPECT_EQ(isRed(), own && !c.xyMode) << "standards are for the own values";
     EXPECT_EQ(diagram.graph(0)->dataCount(), own ? 1 : 0) << "so is the accumulation";
+  }
+}
+
+TEST_F(Diagram, ASlotOutsideTheAxesIsAnArrowAtTheirBorder) {
+  state.display.xyMode = false;
+  state.display.labScale = 2;
+  state.Slot(3)->valid = true;
+  for (const QPointF& outside : {QPointF(0.0, 43.19), QPointF(-90.0, 0.0), QPointF(1e9, -1e9)}) {
+    state.Slot(3)->colour = {.a = outside.x(), .b = outside.y(), .x = 0.3, .y = 0.3};
+    diagram.ShowSlots(state, 3);
+    const double share = 38.0 / std::max(std::abs(outside.x()), std::abs(outside.y()));
+    EXPECT_EQ(PixelAt(share * outside.x(), share * outside.y()), SlotColour(3)) << outside.x();
   }
 }
 

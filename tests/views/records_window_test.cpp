@@ -45,8 +45,9 @@ class RecordsWindowTest : public test::WindowTest {
   void Open(const char* shared = "") {
     reader = std::make_unique<RecordReader>(path, QLatin1String(shared));
     const auto print = [this](const QList<WholeRecord>& records) { printed = records; };
-    window = std::make_unique<RecordsWindow>(RecordsWindowParts{
-        *reader, session, desk, messages, dialogs, path, QStringLiteral("line 1"), print});
+    window = std::make_unique<RecordsWindow>(RecordsWindowParts{*reader, session, desk, messages,
+                                                                dialogs, preferences, path,
+                                                                QStringLiteral("line 1"), print});
     table = &Find<QTableView>("RecordTable");
     window->show();
     Settle();
@@ -84,6 +85,7 @@ class RecordsWindowTest : public test::WindowTest {
 
   QString path = files.Path("records.db");
   InstrumentDesk desk{session, messages, [](const VEXATYPE&) { return nullptr; }};
+  ProgramPreferences preferences{files.Directory()};
   QList<WholeRecord> printed;
   std::unique_ptr<RecordReader> reader;
   std::unique_ptr<RecordsWindow> window;
@@ -325,6 +327,31 @@ TEST_F(RecordsWindowTest, ComputesAnewBesideWhatIsStored) {
   EXPECT_TRUE(values.item(1, 6)->font().bold());
 }
 
+TEST_F(RecordsWindowTest, CieColoursStandBesideTheOwnOnesWhereTheProgramSaysSo) {
+  Context judged;
+  judged.cieLimits.luminousReflectance = {true, 0.5, -CieLimits::kNone};
+  Keep(7, "N", judged);
+  Open();
+  Select({0});
+  const auto details = [this] { return Find<QTextEdit>("RecordDetails").toPlainText(); };
+  for (const char* text : {"合否判定 NG", "CIE Rv", "余裕 -0.", "440 nm より下は外挿"}) {
+    EXPECT_TRUE(details().contains(QString::fromUtf8(text))) << text;
+  }
+  EXPECT_FALSE(details().contains(QStringLiteral("装置固有")));
+  ASSERT_TRUE(preferences.Change([](ProgramSettings& settings) { settings.showCie = true; }));
+  Settle();
+  for (const char* text : {"測定値 装置固有", "CIE測色値 (A / 2°", "外挿差 ΔE*ab"}) {
+    EXPECT_TRUE(details().contains(QString::fromUtf8(text))) << text << details().toStdString();
+  }
+  Press("RecomputeRecords");
+  Settle();
+  const auto& anew = test::Child<QTableWidget>(*window, "RecomputedTable");
+  EXPECT_EQ(anew.horizontalHeaderItem(3)->text(), QStringLiteral("装置固有\nL*"));
+  EXPECT_EQ(anew.horizontalHeaderItem(12)->text(), QStringLiteral("CIE\nRv[%]"));
+  EXPECT_NEAR(anew.item(0, 12)->text().toDouble(), 1.0 + 1.0 / 6.0, 0.05);
+  EXPECT_NEAR(anew.item(1, 12)->text().toDouble(), 4.0 * 900.0 / 2900.0, 0.01);
+}
+
 TEST_F(RecordsWindowTest, ReportHasARowForEachAndProvesThem) {
   for (unsigned seed = 1; seed <= 60; ++seed) {
     Keep(seed, QByteArray("N" + QByteArray::number(seed)).constData(),
@@ -336,7 +363,7 @@ TEST_F(RecordsWindowTest, ReportHasARowForEachAndProvesThem) {
   ASSERT_TRUE(QTest::qWaitFor([this] { return printed.size() == 60; }));
   const QString pdf = files.Path("r.pdf");
   ASSERT_TRUE(WritePdf(pdf, {}, PageLayoutOf(SavedPrintSettings(state)),
-                       MakeRecordsReport(printed, {2026, 11, 22}, ProofText(path))));
+                       MakeRecordsReport(printed, true, {2026, 11, 22}, ProofText(path))));
   const QStringList pages = test::PdfPages(pdf);
   ASSERT_GT(pages.size(), 1);
   const ChainHead head = *HeadOf(path);
@@ -346,7 +373,8 @@ TEST_F(RecordsWindowTest, ReportHasARowForEachAndProvesThem) {
     EXPECT_TRUE(page.contains(proof)) << page.toStdString();
   }
   const QString whole = pages.join(u' ');
-  for (const char* text : {"LOT-7", "OK 59", "NG 1", " N1 ", " N60 ", "2026/11/22"}) {
+  for (const char* text :
+       {"LOT-7", "OK 59", "NG 1", " N1 ", " N60 ", "2026/11/22", "装置固有", "CIE測色値 (A / 2°"}) {
     EXPECT_TRUE(whole.contains(QString::fromUtf8(text))) << text << whole.toStdString();
   }
 }

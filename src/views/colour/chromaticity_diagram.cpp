@@ -20,6 +20,7 @@ constexpr QMargins kMargins(30, 10, 16, 24);
 constexpr QColor kGridColour(200, 200, 200);
 const QString kPictureLayer = QStringLiteral("picture");
 constexpr int kSmallPixels = 10;
+constexpr int kLeastForRange = 300;  // pixels
 constexpr int kGridSteps = 8;
 constexpr std::array kLabReaches{10, 20, 40};
 
@@ -146,6 +147,7 @@ ChromaticityDiagram::ChromaticityDiagram(std::shared_ptr<BackgroundPicture> pict
   connect(escape, &QShortcut::activated, picture_.get(), &BackgroundPicture::RequestAbort);
   connect(picture_.get(), &BackgroundPicture::BuildingChanged, escape, &QShortcut::setEnabled);
   connect(picture_.get(), &BackgroundPicture::Grown, this, &ChromaticityDiagram::DrawPicture);
+  Fit(size());
   DrawPicture();
 }
 
@@ -200,11 +202,12 @@ void ChromaticityDiagram::resizeEvent(QResizeEvent* event) {
 
 void ChromaticityDiagram::Fit(QSize size) {
   const QRect room = QRect(QPoint(), size).marginsRemoved(kMargins);
-  const int side = std::min(room.width(), room.height());
-  const int besides = std::max(0, (room.width() - side) / 2);
-  const int above = std::max(0, (room.height() - side) / 2);
-  axisRect()->setMargins(kMargins + QMargins(besides, above, room.width() - side - besides,
-                                             room.height() - side - above));
+  side_ = std::min(room.width(), room.height());
+  const int besides = std::max(0, (room.width() - side_) / 2);
+  const int above = std::max(0, (room.height() - side_) / 2);
+  axisRect()->setMargins(kMargins + QMargins(besides, above, room.width() - side_ - besides,
+                                             room.height() - side_ - above));
+  ShowConditions();
 }
 
 void ChromaticityDiagram::showEvent(QShowEvent* event) {
@@ -234,11 +237,16 @@ void ChromaticityDiagram::ShowFrame(const StockConditions& conditions, const VEX
   if (named_) {
     text.prepend(ColourKindText(kind) + QStringLiteral("  "));
   }
-  if (!own) {
-    text += u'\n' + CieRangeText();
-  }
-  conditionsText_->setText(text);
+  conditions_ = text;
+  range_ = own ? QString() : CieRangeText();
+  ShowConditions();
   RequestPicture();
+}
+
+// A small diagram has no room beside the locus: what shows it there says the rest below it.
+void ChromaticityDiagram::ShowConditions() {
+  const bool room = side_ >= kLeastForRange;
+  conditionsText_->setText(range_.isEmpty() || !room ? conditions_ : conditions_ + u'\n' + range_);
 }
 
 void ChromaticityDiagram::ShowAxes(int labScale, ColourKind kind) {

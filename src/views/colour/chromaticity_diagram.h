@@ -54,6 +54,7 @@ class ChromaticityDiagram : public Plot {
 
  private:
   void ShowFrame(const StockConditions& conditions, const VEXATYPE& state, ColourKind kind);
+  void ShowConditions();
   void ShowAxes(int labScale, ColourKind kind);
   void DrawPicture();
   void RequestPicture();
@@ -63,6 +64,8 @@ class ChromaticityDiagram : public Plot {
   ToleranceDrawing tolerance_;
   QCPItemPixmap* background_;
   QCPItemText* conditionsText_;
+  QString conditions_;
+  QString range_;  ///< what is said of it; empty for the instrument's own colours
   QCPGraph* points_;
   QCPGraph* lastPoint_;
   DiagramMarks* marks_;
@@ -70,6 +73,7 @@ class ChromaticityDiagram : public Plot {
   bool named_ = false;
   bool xyMode_ = true;
   int labReach_ = 40;
+  int side_ = 0;  ///< of the axes, pixels
 };
 
 }  // namespace vexa

@@ -14,6 +14,7 @@ namespace {
 constexpr double kDiscRadius = 4.0;
 constexpr double kSelectedRadius = 5.5;
 constexpr double kWhiteRadius = 4.0;
+constexpr double kArrowLength = 6.0;  // from its middle
 constexpr QSizeF kBadge(21.0, 15.0);
 constexpr int kFontPixels = 11;
 
@@ -21,6 +22,7 @@ struct Badge {
   SlotMark mark;
   QPointF at;
   QRectF box;
+  std::optional<QPointF> beyond;  // the way to a place outside the area, one pixel long
 };
 
 double RadiusOf(const SlotMark& mark) {
@@ -29,6 +31,15 @@ double RadiusOf(const SlotMark& mark) {
 
 QRectF Around(QPointF centre, double radius) {
   return {centre.x() - radius, centre.y() - radius, 2.0 * radius, 2.0 * radius};
+}
+
+// Where the way from the middle of the area to a place outside comes to the border.
+Badge AtBorder(const SlotMark& mark, QPointF place, const QRectF& area) {
+  const QPointF way = place - area.center();
+  const QSizeF half = 0.5 * area.size() - QSizeF(kArrowLength, kArrowLength);
+  const double share = std::min(half.width() / std::max(std::abs(way.x()), 1.0),
+                                half.height() / std::max(std::abs(way.y()), 1.0));
+  return {mark, area.center() + share * way, {}, way / std::hypot(way.x(), way.y())};
 }
 
 // The first free place for a badge on circles around its disc, from the upper right on.
@@ -74,6 +85,16 @@ void DrawDisc(QCPPainter& painter, const Badge& badge) {
   painter.drawEllipse(badge.at, radius, radius);
 }
 
+void DrawArrow(QCPPainter& painter, const Badge& badge) {
+  const QPointF along = kArrowLength * *badge.beyond;
+  const QPointF across = 0.7 * QPointF(-along.y(), along.x());
+  const double width = badge.mark.selected ? 1.5 : 1.0;
+  painter.setPen(QPen(Qt::white, width));
+  painter.setBrush(SlotColour(badge.mark.slot));
+  painter.drawPolygon(
+      QPolygonF{badge.at + along, badge.at - along + across, badge.at - along - across});
+}
+
 }  // namespace
 
 DiagramMarks::DiagramMarks(QCustomPlot* plot) : QCPAbstractItem(plot) {
@@ -101,10 +122,9 @@ void DiagramMarks::draw(QCPPainter* painter) {
   std::vector<QRectF> taken{DrawWhitePoint(*painter)};
   std::vector<Badge> badges;
   for (const SlotMark& mark : slots_) {
-    if (const QPointF at = PixelOf(mark.at); area.contains(at)) {
-      badges.push_back({mark, at, {}});
-      taken.push_back(Around(at, RadiusOf(mark)));
-    }
+    const QPointF at = PixelOf(mark.at);
+    badges.push_back(area.contains(at) ? Badge{mark, at, {}, {}} : AtBorder(mark, at, area));
+    taken.push_back(Around(badges.back().at, RadiusOf(mark)));
   }
   // The selected slot, the last one, has the first choice of a place.
   for (auto badge = badges.rbegin(); badge != badges.rend(); ++badge) {
@@ -116,7 +136,7 @@ void DiagramMarks::draw(QCPPainter* painter) {
     painter->drawLine(QLineF(badge.at, badge.box.center()));
   }
   for (const Badge& badge : badges) {
-    DrawDisc(*painter, badge);
+    badge.beyond ? DrawArrow(*painter, badge) : DrawDisc(*painter, badge);
   }
   for (const Badge& badge : badges) {
     DrawBadge(*painter, badge);

@@ -17,7 +17,8 @@ struct SlotMark {
 
 /// The white point and the slots of a diagram: a disc in the slot's colour where it is, and its
 /// number in a badge beside it, moved aside where badges would cover one another. The selected slot
-/// lies on top, larger, its badge filled. What is outside the axes is not drawn.
+/// lies on top, larger, its badge filled. A slot outside the axes is an arrow at their border,
+/// which points to where it is from their middle.
 class DiagramMarks : public QCPAbstractItem {
   Q_OBJECT
 

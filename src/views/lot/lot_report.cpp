@@ -3,12 +3,15 @@
 
 #include <QPainter>
 #include <QPicture>
+#include <cmath>
 #include <memory>
 
 #include "base/date_text.h"
 #include "base/number_text.h"
 #include "base/translation.h"
+#include "colour/cie_parts.h"
 #include "records/lot_tally.h"
+#include "records/result_json.h"
 #include "statistics/process_study.h"
 #include "statistics/summary.h"
 #include "views/common/theme.h"
@@ -35,6 +38,15 @@ QString NumberText(double value) {
 
 QString NumberText(const std::optional<double>& value) {
   return value ? NumberText(*value) : kNone;
+}
+
+// A hue is printed as the circle has it.
+QString NumberText(const LotValue& value, std::optional<double> number) {
+  constexpr double kCircle = 360.0;
+  if (number && value.hue && (*number < 0.0 || *number > kCircle)) {
+    *number -= kCircle * std::floor(*number / kCircle);
+  }
+  return NumberText(number);
 }
 
 // The lenses that are neither OK nor NG yet, by their numbers.
@@ -90,6 +102,20 @@ PageTable SummaryTable(const LotContent& lot) {
   add(Text::tr("歩留り"),
       yield ? QString::number(100.0 * *yield, 'f', 1) + QStringLiteral(" %") : kNone);
   add(Text::tr("測定数"), Text::tr("%1   うち測り直し前 %2").arg(lot.rows.size()).arg(superseded));
+  if (const SampleRecord& last = lot.rows.back().sample;
+      VerdictOf(last.cieGroups) != Verdict::kNone) {
+    QStringList conditions;
+    for (const LotRow& row : lot.rows) {
+      AddCieConditions(row.sample.cie, conditions);
+    }
+    add(QStringLiteral("CIE"), CieCaption(conditions.join(QStringLiteral(", "))));
+    if (last.cieLimits.deltaE00.enabled) {
+      const LabColour& target = last.cieLimits.target;
+      add(Text::tr("ΔE00の目標"),
+          QStringLiteral("L* %1   a* %2   b* %3")
+              .arg(NumberText(target.L), NumberText(target.a), NumberText(target.b)));
+    }
+  }
   return table;
 }
 
@@ -112,12 +138,13 @@ PageTable StatisticsTable(const LotContent& lot, const std::vector<LotValue>& va
     const auto capability = statistics::ComputeCapability(numbers, value.limits);
     std::vector<PageTable::Cell> row{{value.title},
                                      {QString::number(numbers.size())},
-                                     {NumberText(value.limits.lower)},
-                                     {NumberText(value.limits.upper)}};
+                                     {NumberText(value, value.limits.lower)},
+                                     {NumberText(value, value.limits.upper)}};
     if (summary) {
-      for (const double number : {summary->mean, summary->s, summary->min, summary->max}) {
-        row.push_back({NumberText(number)});
-      }
+      row.push_back({NumberText(value, summary->mean)});
+      row.push_back({NumberText(summary->s)});
+      row.push_back({NumberText(value, summary->min)});
+      row.push_back({NumberText(value, summary->max)});
     } else {
       row.insert(row.end(), 4, {kNone});
     }
@@ -180,7 +207,7 @@ PageTable RowTable(const LotContent& lot, const std::vector<LotValue>& values) {
                                        {DateTimeText(row.sample.measuredAt)},
                                        {LensStateText(state), state == LensState::kNotGood}};
     for (std::size_t i = 0; i < count; ++i) {
-      cells.push_back({NumberText(values[i].of(row.sample))});
+      cells.push_back({NumberText(values[i], values[i].of(row.sample))});
     }
     QStringList remarks;
     if (row.sample.repeats > 1) {

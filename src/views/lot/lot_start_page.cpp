@@ -36,13 +36,23 @@ QString Description(const Recipe& recipe) {
   const auto age = [](int minutes) {
     return minutes == 0 ? Text::tr("制限なし") : Text::tr("%1分").arg(minutes);
   };
+  QStringList cie;
+  for (const CieLimitsEntry& entry : kCieLimitsEntries) {
+    if ((recipe.cie.*entry.limits).enabled) {
+      cie << QString::fromUtf8(entry.symbol);
+    }
+  }
+  const QString judged =
+      cie.isEmpty() ? QString()
+                    : u'\n' + Text::tr("CIEの限界: %1").arg(cie.join(QStringLiteral(", ")));
   return Text::tr(
              "環境: %1   規格: %2   膜構成: %3\n"
              "測定回数: %4   ﾊﾞｯｸｸﾞﾗﾝﾄﾞ: %5   ﾘﾌｧﾚﾝｽ: %6")
-      .arg(file(recipe.environment), file(recipe.standard),
-           recipe.filmStack.isEmpty() ? QStringLiteral("-") : file(recipe.filmStack))
-      .arg(recipe.repeats)
-      .arg(age(recipe.backgroundAgeMinutes), age(recipe.referenceAgeMinutes));
+             .arg(file(recipe.environment), file(recipe.standard),
+                  recipe.filmStack.isEmpty() ? QStringLiteral("-") : file(recipe.filmStack))
+             .arg(recipe.repeats)
+             .arg(age(recipe.backgroundAgeMinutes), age(recipe.referenceAgeMinutes)) +
+         judged;
 }
 
 }  // namespace
@@ -59,7 +69,7 @@ LotStartPage::LotStartPage(const QString& programDirectory, FileDialogs& dialogs
   recipes_->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
   about_->setObjectName(QStringLiteral("LotRecipeText"));
   about_->setWordWrap(true);
-  about_->setMinimumHeight(3 * about_->fontMetrics().lineSpacing());
+  about_->setMinimumHeight(4 * about_->fontMetrics().lineSpacing());
   about_->setAlignment(Qt::AlignTop);
   QPushButton* browse = DialogButton("LotBrowse", Text::tr("参照(&B)..."));
   QPushButton* start = DialogButton("LotStart", Text::tr("開始(&S)"));

@@ -14,9 +14,6 @@ namespace {
 const QColor kCalm(0x4a, 0x5a, 0x6a);
 const QColor kAttention(0x8a, 0x56, 0x00);
 
-constexpr std::array<const char*, kCieGroupCount> kCieLabels{"Rv", "L*", "a*",  "b*",
-                                                             "C*", "h",  "ΔE00"};
-
 // The groups of the standard and the CIE values that failed, with their distance to the limit.
 QString Failures(const MeasurementSlot& slot, const Recipe& recipe,
                  const ColourSettings& settings) {
@@ -26,12 +23,7 @@ QString Failures(const MeasurementSlot& slot, const Recipe& recipe,
       failures << (PanelText(slot.judgement, i) + u' ' + MarginText(slot.judgement, i)).trimmed();
     }
   }
-  const CieJudgement cie = JudgeCie(CalcCieColour(slot.reflectance, settings), recipe.cie);
-  for (std::size_t i = 0; i < cie.size(); ++i) {
-    if (!cie[i].passed.value_or(true)) {
-      failures << QStringLiteral("CIE %1:NG").arg(QString::fromUtf8(kCieLabels[i]));
-    }
-  }
+  failures << CieFailures(JudgeCie(CalcCieColour(slot.reflectance, settings), recipe.cie));
   return failures.join(u'\n');
 }
 

@@ -28,7 +28,7 @@ void PageFlow::Add(const PageTable& table) {
   }
   auto row = table.rows.begin();
   while (row != table.rows.end()) {
-    if (Left() < table.HeadHeight() + table.RowHeight(*row, Width())) {
+    if (Left() < table.HeadHeight(Width()) + table.RowHeight(*row, Width())) {
       NewPage();
     }
     PageTable part = table;

@@ -12,6 +12,7 @@ namespace {
 
 constexpr double kCellPadding = 10.0;
 constexpr int kCaptionSize = 32;
+constexpr double kRuleGap = 6.0;  // below the titles
 constexpr double kRuleWidth = 3.0;
 constexpr double kFineRuleWidth = 1.0;
 constexpr double kHighestRow = 30.0 * 42.0;
@@ -28,9 +29,10 @@ QRectF Inner(const QRectF& cell) {
   return cell.adjusted(kCellPadding, 0.0, -kCellPadding, 0.0);
 }
 
-QFont PageFont(int size) {
+QFont PageFont(int size, bool bold = false) {
   QFont font;
   font.setPixelSize(size);
+  font.setBold(bold);
   return font;
 }
 
@@ -51,10 +53,21 @@ void DrawText(QPainter& painter, const QRectF& cell, const PageTable::Column& co
 
 }  // namespace
 
+double PageTable::Natural(const Column& column) const {
+  double width = column.width;
+  if (wholeTitles) {
+    const QFontMetricsF metrics(PageFont(fontSize, true));
+    for (const QString& word : column.title.split(u' ')) {
+      width = std::max(width, metrics.horizontalAdvance(word) + 2.0 * kCellPadding + 1.0);
+    }
+  }
+  return width;
+}
+
 double PageTable::Stretch(double width) const {
   double natural = 0.0;
   for (const Column& column : columns) {
-    natural += column.width;
+    natural += Natural(column);
   }
   return width / natural;
 }
@@ -63,11 +76,24 @@ int PageTable::FontSize(double width) const {
   return std::max(1, static_cast<int>(fontSize * std::min(1.0, Stretch(width))));
 }
 
+double PageTable::HeadHeight(double width) const {
+  const QFontMetricsF metrics(PageFont(FontSize(width), true));
+  double height = rowHeight;
+  for (const Column& column : columns) {
+    const QRectF inner = Inner(QRectF(0.0, 0.0, Natural(column) * Stretch(width), kHighestRow));
+    if (wholeTitles && metrics.horizontalAdvance(column.title) > inner.width()) {
+      const double lines = metrics.boundingRect(inner, kWrapped, column.title).height();
+      height = std::max(height, lines + rowHeight - metrics.lineSpacing());
+    }
+  }
+  return CaptionHeight() + height + kRuleGap;
+}
+
 double PageTable::RowHeight(const std::vector<Cell>& row, double width) const {
   const QFontMetricsF metrics(PageFont(FontSize(width)));
   double height = rowHeight;
   for (std::size_t i = 0; i < columns.size(); ++i) {
-    const QRectF inner = Inner(QRectF(0.0, 0.0, columns[i].width * Stretch(width), kHighestRow));
+    const QRectF inner = Inner(QRectF(0.0, 0.0, Natural(columns[i]) * Stretch(width), kHighestRow));
     if (columns[i].wraps && metrics.horizontalAdvance(row[i].text) > inner.width()) {
       const double lines = metrics.boundingRect(inner, kWrapped, row[i].text).height();
       height = std::max(height, std::min(lines, kHighestRow) + rowHeight - metrics.lineSpacing());
@@ -77,7 +103,7 @@ double PageTable::RowHeight(const std::vector<Cell>& row, double width) const {
 }
 
 double PageTable::Height(double width) const {
-  double height = HeadHeight();
+  double height = HeadHeight(width);
   for (const std::vector<Cell>& row : rows) {
     height += RowHeight(row, width);
   }
@@ -98,16 +124,17 @@ void PageTable::Paint(QPainter& painter, const QRectF& place) const {
   const auto forEachCell = [&](double top, double height, auto draw) {
     double x = place.left();
     for (std::size_t i = 0; i < columns.size(); ++i) {
-      const double width = columns[i].width * stretch;
+      const double width = Natural(columns[i]) * stretch;
       draw(i, QRectF(x, top, width, height));
       x += width;
     }
   };
   SetPageFont(painter, size, true);
-  forEachCell(y, rowHeight, [&](std::size_t i, const QRectF& cell) {
-    DrawText(painter, cell, {{}, 0.0, columns[i].alignment}, columns[i].title);
+  const double head = HeadHeight(place.width());
+  forEachCell(y, head - CaptionHeight() - kRuleGap, [&](std::size_t i, const QRectF& cell) {
+    DrawText(painter, cell, {{}, 0.0, columns[i].alignment, wholeTitles}, columns[i].title);
   });
-  y = place.top() + HeadHeight();
+  y = place.top() + head;
   DrawRule(painter, place, y - 3.0, theme::kMutedText, kRuleWidth);
 
   SetPageFont(painter, size);

@@ -28,10 +28,13 @@ struct PageTable {
   int fontSize = 28;
   double rowHeight = 45.0;
   int rowsPerRule = 1;  ///< a fine line below each so many rows
+  /// Titles are never cut: they go on in further lines, and a column is as wide as their longest
+  /// word. Otherwise they lose their middle.
+  bool wholeTitles = true;
 
   [[nodiscard]] double CaptionHeight() const { return caption.isEmpty() ? 0.0 : 56.0; }
-  /// Of caption and titles, without a row.
-  [[nodiscard]] double HeadHeight() const { return CaptionHeight() + rowHeight + 6.0; }
+  /// Of caption and titles, without a row, in a table of this width.
+  [[nodiscard]] double HeadHeight(double width) const;
   /// Of a row in a table of this width.
   [[nodiscard]] double RowHeight(const std::vector<Cell>& row, double width) const;
   /// Of all in a table of this width.
@@ -42,6 +45,7 @@ struct PageTable {
   void Paint(QPainter& painter, const QRectF& place) const;
 
  private:
+  [[nodiscard]] double Natural(const Column& column) const;
   [[nodiscard]] double Stretch(double width) const;
   [[nodiscard]] int FontSize(double width) const;
 };

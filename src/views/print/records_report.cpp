@@ -4,11 +4,15 @@
 #include <QPicture>
 #include <algorithm>
 #include <memory>
+#include <utility>
 
 #include "base/date_text.h"
 #include "base/number_text.h"
 #include "base/translation.h"
+#include "colour/cie_parts.h"
 #include "records/lot_tally.h"
+#include "records/result_json.h"
+#include "views/common/colour_kind.h"
 #include "views/paper/page_flow.h"
 #include "views/paper/plot_drawing.h"
 #include "views/print/page_header.h"
@@ -72,8 +76,33 @@ PageTable HeadTable(const QList<WholeRecord>& records, const QDate& printed) {
   return table;
 }
 
-PageTable RowTable(const QList<WholeRecord>& records) {
-  PageTable table{.caption = Text::tr("測定値"),
+PageTable CieTable(const QList<WholeRecord>& records) {
+  PageTable table{.caption = CieCaption(CieConditionsOf(records)),
+                  .columns = {{Text::tr("番号"), 110.0},
+                              {Text::tr("試料No"), 280.0, Qt::AlignLeft, true},
+                              {Text::tr("光源"), 170.0, Qt::AlignHCenter}},
+                  .rows = {}};
+  for (const CiePart& part : kCieParts) {
+    table.columns.push_back(
+        {QString::fromUtf8(part.symbol), part.value == &CieColour::spread ? 150.0 : 110.0});
+  }
+  for (const WholeRecord& record : records) {
+    const std::optional<CieColour> colour = CieOf(record.sample.cie);
+    std::vector<PageTable::Cell> row{{QString::number(record.summary.number)},
+                                     {record.sample.sampleNumber},
+                                     {CieConditionsOf(record.sample.cie)}};
+    for (const CiePart& part : kCieParts) {
+      row.push_back({CieValueText(colour, part)});
+    }
+    table.rows.push_back(std::move(row));
+  }
+  return table;
+}
+
+PageTable RowTable(const QList<WholeRecord>& records, bool cie) {
+  PageTable table{.caption = cie ? Text::tr("測定値") + QStringLiteral("　") +
+                                       ColourKindText(ColourKind::kInstrument)
+                                 : Text::tr("測定値"),
                   .columns = {{Text::tr("番号"), 110.0},
                               {Text::tr("測定日時"), 330.0},
                               {Text::tr("ロット"), 220.0, Qt::AlignLeft, true},
@@ -107,7 +136,8 @@ PageTable RowTable(const QList<WholeRecord>& records) {
   return table;
 }
 
-PageFlow LayOut(const QList<WholeRecord>& records, const QDate& printed, const QSizeF& page) {
+PageFlow LayOut(const QList<WholeRecord>& records, bool cie, const QDate& printed,
+                const QSizeF& page) {
   PageFlow flow(QRectF(0.0, 0.0, page.width(), page.height() - kFooterHeight));
   flow.Add(HeadTable(records, printed));
   RecordGraph graph;
@@ -117,16 +147,19 @@ PageFlow LayOut(const QList<WholeRecord>& records, const QDate& printed, const Q
   flow.Add(height, [picture](QPainter& painter, const QRectF& place) {
     PlayDrawing(painter, place.topLeft(), kPixel, picture);
   });
-  flow.Add(RowTable(records));
+  flow.Add(RowTable(records, cie));
+  if (cie) {
+    flow.Add(CieTable(records));
+  }
   return flow;
 }
 
 }  // namespace
 
-PageMaker MakeRecordsReport(const QList<WholeRecord>& records, const QDate& printed,
+PageMaker MakeRecordsReport(const QList<WholeRecord>& records, bool cie, const QDate& printed,
                             const QString& proof) {
-  return [records, printed, proof](const QSizeF& page) {
-    const auto flow = std::make_shared<const PageFlow>(LayOut(records, printed, page));
+  return [records, cie, printed, proof](const QSizeF& page) {
+    const auto flow = std::make_shared<const PageFlow>(LayOut(records, cie, printed, page));
     return PrintedPages{flow->PageCount(), [flow, page, proof](QPainter& painter, int number) {
                           flow->PaintPage(painter, number);
                           PaintFooter(painter, page, number + 1, flow->PageCount(), proof);

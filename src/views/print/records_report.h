@@ -10,9 +10,9 @@
 namespace vexa {
 
 /// The pages of a report of records as they are stored, in the order given: their curves (of the
-/// first fifty), how many were judged how, and a row for each. `proof` stands below every page, as
-/// ProofText has it.
-[[nodiscard]] PageMaker MakeRecordsReport(const QList<WholeRecord>& records, const QDate& printed,
-                                          const QString& proof);
+/// first fifty), how many were judged how, a row for each, and with `cie` one for its CIE colour.
+/// `proof` stands below every page, as ProofText has it.
+[[nodiscard]] PageMaker MakeRecordsReport(const QList<WholeRecord>& records, bool cie,
+                                          const QDate& printed, const QString& proof);
 
 }  // namespace vexa

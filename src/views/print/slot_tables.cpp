@@ -153,9 +153,7 @@ PageTable ValueTable(const VEXATYPE& state) {
 }
 
 PageTable CieTable(const VEXATYPE& state) {
-  PageTable table{.caption = Text::tr("CIE測色値 (%1 / %2°、Rv は D65 / 2°、%3)")
-                                 .arg(IlluminantText(state.colour.illuminant),
-                                      ObserverText(state.colour.observer2Deg), CieRangeText()),
+  PageTable table{.caption = CieCaption(CieConditions(state.colour)),
                   .columns = {{QStringLiteral("No."), kNumberWidth}},
                   .rows = {}};
   for (const CiePart& part : kCieParts) {

@@ -23,7 +23,8 @@ PageTable EmptyTable() {
           .rows = {},
           .fontSize = 26,
           .rowHeight = 36.0,
-          .rowsPerRule = kRound};
+          .rowsPerRule = kRound,
+          .wholeTitles = false};  // names of samples
 }
 
 std::vector<int> ValidSlots(const VEXATYPE& state) {
@@ -41,8 +42,9 @@ int RoundedUp(int rows) {
 }
 
 // Rows of a page, never more than are needed.
-int RowsThatFit(double height, const PageTable& table, int needed) {
-  const int fit = static_cast<int>((height - table.HeadHeight()) / table.rowHeight);
+int RowsThatFit(const PageFlow& flow, const PageTable& table, int needed) {
+  const int fit =
+      static_cast<int>((flow.Left() - table.HeadHeight(flow.Width())) / table.rowHeight);
   return needed <= fit ? needed : fit / kRound * kRound;
 }
 
@@ -90,10 +92,10 @@ void AddSpectra(PageFlow& flow, const VEXATYPE& state, int stepNm) {
   while (nm <= ReflectanceSpectrum::kLastNm) {
     const int left = (ReflectanceSpectrum::kLastNm - nm) / stepNm + 1;
     const int needed = stretches == 1 ? left : RoundedUp((left + stretches - 1) / stretches);
-    int rows = RowsThatFit(flow.Left(), EmptyTable(), needed);
+    int rows = RowsThatFit(flow, EmptyTable(), needed);
     if (rows < kRound && rows < needed) {
       flow.NewPage();
-      rows = std::max(kRound, RowsThatFit(flow.Left(), EmptyTable(), needed));
+      rows = std::max(kRound, RowsThatFit(flow, EmptyTable(), needed));
     }
     const PageTable table = MakeTable(state, numbers, nm, stepNm, rows, stretches);
     flow.Add(table.Height(flow.Width()),

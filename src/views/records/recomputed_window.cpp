@@ -10,8 +10,12 @@
 #include <QShortcut>
 #include <QVBoxLayout>
 
+#include <array>
 #include "base/number_text.h"
 #include "base/translation.h"
+#include "colour/cie_parts.h"
+#include "records/result_json.h"
+#include "views/common/colour_kind.h"
 #include "views/common/dialog_buttons.h"
 #include "views/common/theme.h"
 #include "views/records/record_details.h"
@@ -19,24 +23,57 @@
 namespace vexa {
 namespace {
 
+// What is compared of the CIE colours.
+constexpr std::array kCieColumns{&CieColour::L, &CieColour::a, &CieColour::b, &CieColour::Rv,
+                                 &CieColour::spread};
+
 // What is compared, each in a column of its own.
-QStringList Values(const SampleRecord& sample) {
+QStringList Values(const SampleRecord& sample, bool cie) {
   const auto number = [](double value, QStringView pattern) {
     return FormatNumber(value, pattern).trimmed();
   };
-  return {VerdictText(sample),
-          number(sample.colour.L, u"##0.00"),
-          number(sample.colour.a, u"##0.00"),
-          number(sample.colour.b, u"##0.00"),
-          number(sample.colour.Rm, u"##0.0##"),
-          number(sample.colour.Y, u"##0.0##"),
-          ThicknessText(sample)};
+  QStringList values{VerdictText(sample),
+                     number(sample.colour.L, u"##0.00"),
+                     number(sample.colour.a, u"##0.00"),
+                     number(sample.colour.b, u"##0.00"),
+                     number(sample.colour.Rm, u"##0.0##"),
+                     number(sample.colour.Y, u"##0.0##"),
+                     ThicknessText(sample)};
+  if (cie) {
+    const std::optional<CieColour> colour = CieOf(sample.cie);
+    for (double CieColour::*const value : kCieColumns) {
+      values << CieValueText(colour, value);
+    }
+  }
+  return values;
+}
+
+QStringList Headers(bool cie) {
+  const auto named = [cie](ColourKind kind, const QString& title) {
+    return cie ? ColourKindText(kind) + u'\n' + title : title;
+  };
+  const ColourKind own = ColourKind::kInstrument;
+  QStringList headers{Text::tr("試料No"),
+                      {},
+                      Text::tr("判定"),
+                      named(own, QStringLiteral("L*")),
+                      named(own, QStringLiteral("a*")),
+                      named(own, QStringLiteral("b*")),
+                      Text::tr("平均[%]"),
+                      named(own, Text::tr("視感[%]")),
+                      Text::tr("膜厚", "column")};
+  if (cie) {
+    for (double CieColour::*const value : kCieColumns) {
+      headers << named(ColourKind::kCie, CieSymbol(value));
+    }
+  }
+  return headers;
 }
 
 }  // namespace
 
 RecomputedWindow::RecomputedWindow(const QList<WholeRecord>& records, const Settings& settings,
-                                   QWidget* parent)
+                                   bool cie, QWidget* parent)
     : QDialog(parent), table_(new QTableWidget) {
   setObjectName(QStringLiteral("RecomputedWindow"));
   setWindowTitle(Text::tr("いまの設定での再計算"));
@@ -44,15 +81,17 @@ RecomputedWindow::RecomputedWindow(const QList<WholeRecord>& records, const Sett
   table_->setEditTriggers(QAbstractItemView::NoEditTriggers);
   table_->setSelectionBehavior(QAbstractItemView::SelectRows);
   table_->verticalHeader()->hide();
-  const QStringList headers{Text::tr("試料No"),        {},
-                            Text::tr("判定"),          QStringLiteral("L*"),
-                            QStringLiteral("a*"),      QStringLiteral("b*"),
-                            Text::tr("平均[%]"),       Text::tr("視感[%]"),
-                            Text::tr("膜厚", "column")};
+  const QStringList headers = Headers(cie);
   table_->setColumnCount(static_cast<int>(headers.size()));
   table_->setHorizontalHeaderLabels(headers);
   table_->horizontalHeader()->setHighlightSections(false);
-  auto* told = new QLabel(Text::tr("記録された値は変わりません。記録と異なる値は太字です。"));
+  QString telling = Text::tr("記録された値は変わりません。記録と異なる値は太字です。");
+  if (cie) {
+    telling += u'\n' + Text::tr("記録") + QStringLiteral(": ") +
+               CieCaption(CieConditionsOf(records)) + u'\n' + Text::tr("再計算") +
+               QStringLiteral(": ") + CieCaption(CieConditions(settings.colour));
+  }
+  auto* told = new QLabel(telling);
   told->setWordWrap(true);
   QPushButton* copy = DialogButton("CopyRecomputed", Text::tr("ｺﾋﾟｰ(&C)"));
   QPushButton* closing = DialogButton("CloseRecomputed", Text::tr("閉じる"));
@@ -65,20 +104,20 @@ RecomputedWindow::RecomputedWindow(const QList<WholeRecord>& records, const Sett
   layout->addWidget(table_, 1);
   layout->addLayout(bottom);
   for (const WholeRecord& record : records) {
-    AddRow(record, EvaluateAnew(record, settings, false));
+    AddRow(record, EvaluateAnew(record, settings, false), cie);
   }
   table_->resizeColumnsToContents();
   table_->horizontalHeader()->setSectionResizeMode(0, QHeaderView::Stretch);
-  resize(820, 420);
+  resize(cie ? 980 : 820, 420);
   connect(copy, &QPushButton::clicked, this, &RecomputedWindow::CopyTable);
   connect(new QShortcut(QKeySequence::Copy, this), &QShortcut::activated, this,
           &RecomputedWindow::CopyTable);
   connect(closing, &QPushButton::clicked, this, &QDialog::accept);
 }
 
-void RecomputedWindow::AddRow(const WholeRecord& record, const SampleRecord& anew) {
-  const QStringList stored = Values(record.sample);
-  const QStringList computed = Values(anew);
+void RecomputedWindow::AddRow(const WholeRecord& record, const SampleRecord& anew, bool cie) {
+  const QStringList stored = Values(record.sample, cie);
+  const QStringList computed = Values(anew, cie);
   const int row = table_->rowCount();
   table_->setRowCount(row + 2);
   table_->setItem(row, 0, new QTableWidgetItem(record.sample.sampleNumber.simplified()));
@@ -113,7 +152,7 @@ void RecomputedWindow::CopyTable() const {
     for (int column = 0; column < table_->columnCount(); ++column) {
       const QTableWidgetItem* item =
           row < 0 ? table_->horizontalHeaderItem(column) : table_->item(row, column);
-      cells << (item == nullptr ? QString() : item->text());
+      cells << (item == nullptr ? QString() : item->text().replace(u'\n', u' '));
     }
     text += cells.join(u'\t') + u'\n';
   }

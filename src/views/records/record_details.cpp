@@ -2,13 +2,17 @@
 #include "views/records/record_details.h"
 
 #include <array>
+#include <initializer_list>
 #include <utility>
 
 #include "base/date_text.h"
 #include "base/number_text.h"
 #include "base/translation.h"
+#include "colour/cie_parts.h"
 #include "optics/thickness_doubts.h"
 #include "records/lot_tally.h"
+#include "records/result_json.h"
+#include "views/common/colour_kind.h"
 #include "views/common/theme.h"
 
 namespace vexa {
@@ -45,6 +49,10 @@ class Sheet {
  private:
   QString html_;
 };
+
+QString MarginText(const GroupJudgement& group) {
+  return group.margin ? Number(*group.margin, u"0.000#") : QString();
+}
 
 QString Coloured(const QString& verdict) {
   return verdict == QLatin1String("NG")
@@ -83,6 +91,16 @@ void AddSample(Sheet& sheet, const WholeRecord& record) {
   }
 }
 
+void AddVerdict(Sheet& sheet, const QString& caption, const GroupJudgement& group,
+                const QString& margin) {
+  if (group.passed) {
+    sheet.Row(caption,
+              Coloured(*group.passed ? QStringLiteral("OK") : QStringLiteral("NG")) +
+                  (margin.isEmpty() ? QString()
+                                    : QStringLiteral("　") + Text::tr("余裕 %1").arg(margin)));
+  }
+}
+
 void AddVerdicts(Sheet& sheet, const WholeRecord& record) {
   const SampleRecord& sample = record.sample;
   const std::array captions{Text::tr("反射率", "column"),
@@ -92,27 +110,42 @@ void AddVerdicts(Sheet& sheet, const WholeRecord& record) {
                             Text::tr("クロマC*"),
                             Text::tr("色相角h[deg]")};
   sheet.Heading(Text::tr("合否判定") + QStringLiteral("　") + Coloured(VerdictText(record)));
-  const auto add = [&sheet](const QString& caption, const GroupJudgement& group) {
-    if (!group.passed) {
-      return;
-    }
-    const QString margin =
-        group.margin ? Text::tr("余裕 %1").arg(Number(*group.margin, u"0.000#")) : QString();
-    sheet.Row(caption, Coloured(*group.passed ? QStringLiteral("OK") : QStringLiteral("NG")) +
-                           QStringLiteral("　") + margin);
-  };
   for (std::size_t i = 0; i < captions.size(); ++i) {
-    add(captions.at(i), sample.groups.at(i));
+    AddVerdict(sheet, captions.at(i), sample.groups.at(i), MarginText(sample.groups.at(i)));
   }
-  for (std::size_t i = 0; i < sample.cieGroups.size(); ++i) {
-    add(QStringLiteral("CIE ") + QLatin1String(kCieLimitsEntries.at(i).name),
-        sample.cieGroups.at(i));
+  for (std::size_t i = 0; i < kCieGroupCount; ++i) {
+    AddVerdict(sheet, QString::fromUtf8(kCieLimitsEntries.at(i).symbol), sample.cieGroups.at(i),
+               MarginText(sample.cieGroups.at(i)));
+  }
+  if (VerdictOf(sample.cieGroups) != Verdict::kNone) {
+    sheet.Row({}, CieCaption(CieConditionsOf(sample.cie)));
   }
 }
 
-void AddValues(Sheet& sheet, const SampleRecord& sample) {
+// The values under the same captions as the instrument's own.
+void AddCie(Sheet& sheet, const SampleRecord& sample) {
+  sheet.Heading(CieCaption(CieConditionsOf(sample.cie)));
+  const std::optional<CieColour> colour = CieOf(sample.cie);
+  const auto texts = [&colour](std::initializer_list<double CieColour::*> values) {
+    QStringList shown;
+    for (double CieColour::*const value : values) {
+      shown << CieValueText(colour, value);
+    }
+    return shown.join(QStringLiteral("　"));
+  };
+  sheet.Row(QStringLiteral("L* a* b*"), texts({&CieColour::L, &CieColour::a, &CieColour::b}));
+  sheet.Row(QStringLiteral("x y"), texts({&CieColour::x, &CieColour::y}));
+  sheet.Row(QStringLiteral("C* h[°]"), texts({&CieColour::C, &CieColour::h}));
+  sheet.Row(Text::tr("視感[%]"), texts({&CieColour::Y}));
+  sheet.Row(QStringLiteral("Rv (D65/2°)"), texts({&CieColour::Rv}));
+  sheet.Row(Text::tr("外挿差 ΔE*ab"), texts({&CieColour::spread}));
+}
+
+void AddValues(Sheet& sheet, const SampleRecord& sample, bool cie) {
   const ColourResult& colour = sample.colour;
-  sheet.Heading(Text::tr("測定値"));
+  sheet.Heading(cie ? Text::tr("測定値") + QStringLiteral("　") +
+                          ColourKindText(ColourKind::kInstrument)
+                    : Text::tr("測定値"));
   sheet.Row(QStringLiteral("L* a* b*"),
             QStringLiteral("%1　%2　%3")
                 .arg(Number(colour.L, u"##0.00"), Number(colour.a, u"0.0000"),
@@ -177,11 +210,14 @@ QString ThicknessText(const SampleRecord& sample) {
                           : kNone;
 }
 
-QString RecordDetails(const WholeRecord& record) {
+QString RecordDetails(const WholeRecord& record, bool cie) {
   Sheet sheet;
   AddSample(sheet, record);
   AddVerdicts(sheet, record);
-  AddValues(sheet, record.sample);
+  AddValues(sheet, record.sample, cie);
+  if (cie && record.sample.cie) {
+    AddCie(sheet, record.sample);
+  }
   AddConditions(sheet, record);
   AddProof(sheet, record);
   return sheet.Html();

@@ -7,8 +7,9 @@
 
 namespace vexa {
 
-/// Everything of a record but its spectra, as rich text in the language in force.
-[[nodiscard]] QString RecordDetails(const WholeRecord& record);
+/// Everything of a record but its spectra, as rich text in the language in force; with `cie` its
+/// CIE colour stands beside the instrument's own.
+[[nodiscard]] QString RecordDetails(const WholeRecord& record, bool cie);
 
 /// The verdict of a record as a table shows it: "OK", "NG", or "-".
 [[nodiscard]] QString VerdictText(const SampleRecord& sample);

@@ -9,6 +9,7 @@
 #include "base/number_text.h"
 #include "base/translation.h"
 #include "records/lot_tally.h"
+#include "views/common/colour_kind.h"
 #include "views/common/theme.h"
 
 namespace vexa {
@@ -124,7 +125,14 @@ QVariant RecordList::headerData(int section, Qt::Orientation orientation, int ro
                            Text::tr("判定"),     QStringLiteral("L*"), QStringLiteral("a*"),
                            QStringLiteral("b*"), Text::tr("平均[%]"),  Text::tr("膜厚", "column"),
                            Text::tr("レシピ"),   Text::tr("測定者"),   Text::tr("測定機")};
-  return titles.value(section);
+  const bool colour = section >= kLightness && section <= kYellowBlue;
+  return colour && named_ ? ColourKindText(ColourKind::kInstrument) + u'\n' + titles.value(section)
+                          : titles.value(section);
+}
+
+void RecordList::SetNamed(bool named) {
+  named_ = named;
+  emit headerDataChanged(Qt::Horizontal, kLightness, kYellowBlue);
 }
 
 bool RecordList::canFetchMore(const QModelIndex& parent) const {

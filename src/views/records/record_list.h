@@ -38,6 +38,10 @@ class RecordList : public QAbstractTableModel {
   /// Puts above all what was measured since.
   void TakeNewer();
 
+  /// Whether the columns of the colour say that they are the instrument's own; at first they do
+  /// not.
+  void SetNamed(bool named);
+
   [[nodiscard]] const RecordSummary& At(int row) const { return found_.at(row); }
   [[nodiscard]] RecordPlace Place() const { return place_; }
   /// Nothing is left to be read.
@@ -70,6 +74,7 @@ class RecordList : public QAbstractTableModel {
   RecordQuery query_;
   QList<RecordSummary> found_;
   StoreFault fault_ = StoreFault::kNone;
+  bool named_ = false;
   bool complete_ = true;
   bool reading_ = false;
   int searches_ = 0;  ///< an answer to an earlier search is dropped

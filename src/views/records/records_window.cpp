@@ -145,6 +145,8 @@ void RecordsWindow::ConnectAll() {
   all->setContext(Qt::WidgetShortcut);
   connect(all, &QShortcut::activated, this, &RecordsWindow::SelectAll);
   connect(&parts_.desk, &InstrumentDesk::ActivityChanged, this, &RecordsWindow::ShowState);
+  connect(&parts_.preferences, &ProgramPreferences::Changed, this, &RecordsWindow::ShowCie);
+  ShowCie();
 
   connect(load_, &QPushButton::clicked, this, [this] {
     WithSelected([this](const Records& records) {
@@ -164,6 +166,16 @@ void RecordsWindow::ConnectAll() {
 
 void RecordsWindow::TakeNewer() {
   list_->TakeNewer();
+}
+
+void RecordsWindow::ShowCie() {
+  list_->SetNamed(parts_.preferences.InForce().showCie);
+  for (const int column :
+       {RecordList::kLightness, RecordList::kRedGreen, RecordList::kYellowBlue}) {
+    table_->setColumnWidth(column, std::max(kColumnWidths.at(static_cast<std::size_t>(column)),
+                                            table_->horizontalHeader()->sectionSizeHint(column)));
+  }
+  ShowSelection();
 }
 
 void RecordsWindow::Search() {
@@ -230,7 +242,9 @@ void RecordsWindow::ShowRecords(const Records& records) {
     shown = records.begin();
   }
   graph_->Show(records, id);
-  details_->setHtml(shown == records.end() ? QString() : RecordDetails(*shown));
+  details_->setHtml(shown == records.end()
+                        ? QString()
+                        : RecordDetails(*shown, parts_.preferences.InForce().showCie));
 }
 
 void RecordsWindow::WithSelected(const std::function<void(const Records& records)>& act) {
@@ -247,7 +261,8 @@ void RecordsWindow::WithSelected(const std::function<void(const Records& records
 }
 
 void RecordsWindow::Recompute(const Records& records) {
-  auto* window = new RecomputedWindow(records, parts_.session.SettingsInForce(), this);
+  auto* window = new RecomputedWindow(records, parts_.session.SettingsInForce(),
+                                      parts_.preferences.InForce().showCie, this);
   window->setAttribute(Qt::WA_DeleteOnClose);
   window->show();
 }

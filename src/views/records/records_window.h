@@ -9,6 +9,7 @@
 #include <functional>
 
 #include "base/message.h"
+#include "files/program_preferences.h"
 #include "measurement/instrument_desk.h"
 #include "records/record_reader.h"
 #include "views/common/file_dialogs.h"
@@ -26,6 +27,7 @@ struct RecordsWindowParts {
   InstrumentDesk& desk;
   MessageService& messages;
   FileDialogs& dialogs;
+  ProgramPreferences& preferences;
   QString storePath;
   QString station;
   std::function<void(const QList<WholeRecord>& records)> print;
@@ -55,6 +57,8 @@ class RecordsWindow : public QDialog {
   QPushButton* AddButton(QLayout& row, const char* name, const QString& caption);
   void ConnectAll();
 
+  /// Shows the CIE colours beside the instrument's own where the settings of the program want it.
+  void ShowCie();
   void Search();
   void SelectAll();
   void ShowState();

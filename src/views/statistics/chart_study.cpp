@@ -9,6 +9,7 @@
 
 #include "base/date_text.h"
 #include "base/translation.h"
+#include "colour/cie_parts.h"
 
 namespace vexa {
 namespace {
@@ -103,8 +104,7 @@ ChartStudy StudyChart(const ValueSeries& series, const ChartRequest& request) {
     return study;
   }
   study.summary = *summary;
-  if (const Quantity quantity = request.value.quantity;
-      quantity == Quantity::kHue || quantity == Quantity::kCieHue) {
+  if (IsHue(request.value.quantity)) {
     study.request.tolerance = NearestTurn(request.tolerance, summary->mean);
   }
   const std::size_t baseline = request.baseline == 0 ? study.values.size() : request.baseline;
@@ -234,6 +234,13 @@ ResultTable GroupTable(const ChartStudy& study) {
 
 QStringList Warnings(const ChartStudy& study, const ValueSeries& series) {
   QStringList lines;
+  const bool cie = IsCie(study.request.value.quantity);
+  if (cie && !series.cieConditions.isEmpty()) {
+    lines << CieCaption(series.cieConditions.join(QStringLiteral(", ")));
+  }
+  if (cie && series.severalCieLimits) {
+    lines << Text::tr("ﾚｼﾋﾟの限界が記録により異なります。最も新しい記録のものを用います。");
+  }
   if (!study.refusal.isEmpty()) {
     lines << study.refusal;
   }

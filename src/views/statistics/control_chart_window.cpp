@@ -46,7 +46,7 @@ ControlChartWindow::ControlChartWindow(const Session& session, RecordReader& rea
       messages_(messages),
       dialogs_(dialogs),
       filter_(new SeriesFilter(session.Now().date(), reader.HasShared())),
-      value_(new ValueChoice),
+      value_(new ValueChoice(true)),
       grouping_(Choice("Grouping", {Text::tr("群なし"), Text::tr("ロット"), Text::tr("日"),
                                     Text::tr("装置"), Text::tr("測定者")})),
       rules_(Choice("Rules", {QStringLiteral("Western Electric"), QStringLiteral("Nelson")})),
@@ -175,10 +175,11 @@ void ControlChartWindow::Take(const Answer<ValueSeries>& series) {
 
 void ControlChartWindow::Study() {
   const RecordValue value = charted_;
-  study_ = StudyChart(
-      series_,
-      {value, static_cast<Grouping>(grouping_->currentIndex()), rules_->currentIndex() == 1,
-       static_cast<std::size_t>(baseline_->value()), LimitsOf(session_.State().standard, value)});
+  study_ = StudyChart(series_,
+                      {value, static_cast<Grouping>(grouping_->currentIndex()),
+                       rules_->currentIndex() == 1, static_cast<std::size_t>(baseline_->value()),
+                       IsCie(value.quantity) ? LimitsOf(series_.cieLimits, value.quantity)
+                                             : LimitsOf(session_.State().standard, value)});
   plot_->Show(PictureOf(study_, series_));
   histogram_->Show(ValueTitle(value), study_.values, study_.request.tolerance);
   ShowResults(*statistics_, StatisticsTable(study_));

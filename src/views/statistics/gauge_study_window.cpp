@@ -73,7 +73,7 @@ GaugeStudyWindow::GaugeStudyWindow(const StudyParts& parts, QWidget* parent)
       state_(parts.session.State()),
       choice_(new QComboBox),
       name_(new QLineEdit),
-      value_(new ValueChoice),
+      value_(new ValueChoice(false)),
       partCount_(CountField("Parts", 2, GaugePlan::kMostParts, 10)),
       operators_(new QLineEdit),
       repeats_(CountField("Repeats", 2, GaugePlan::kMostRepeats, 3)),

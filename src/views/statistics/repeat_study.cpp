@@ -2,12 +2,11 @@
 #include "views/statistics/repeat_study.h"
 
 #include <optional>
+#include <utility>
 
 #include "base/translation.h"
-#include "colour/cie_colour.h"
 #include "records/record_builder.h"
 #include "records/record_value.h"
-#include "records/result_json.h"
 #include "statistics/spectrum_statistics.h"
 #include "statistics/summary.h"
 
@@ -20,14 +19,7 @@ constexpr double kRepeatabilityLimit = 2.8;
 SampleRecord RecordOf(const StudiedSample& studied) {
   VEXATYPE state;
   state.colour = studied.colour;
-  SampleRecord sample = ResultsOf(state, studied.slot, {});
-  if (const auto cie = CalcCieColour(studied.slot.reflectance, studied.colour)) {
-    sample.cie = QJsonObject{
-        {QStringLiteral("Rv"), NumberJson(cie->Rv)}, {QStringLiteral("L"), NumberJson(cie->L)},
-        {QStringLiteral("a"), NumberJson(cie->a)},   {QStringLiteral("b"), NumberJson(cie->b)},
-        {QStringLiteral("C"), NumberJson(cie->C)},   {QStringLiteral("h"), NumberJson(cie->h)}};
-  }
-  return sample;
+  return ResultsOf(state, studied.slot, {});
 }
 
 // The values of a quantity; empty unless all samples have it.
@@ -41,10 +33,10 @@ std::vector<double> ValuesOf(std::span<const SampleRecord> samples, Quantity qua
     }
     points.emplace_back().value = *value;
   }
-  if (quantity == Quantity::kHue || quantity == Quantity::kCieHue) {
+  if (IsHue(quantity)) {
     JoinHues(points);
   }
-  return ValueSeries{points, 0, false}.Values();
+  return ValueSeries{.points = std::move(points)}.Values();
 }
 
 std::vector<ReflectanceSpectrum> SpectraOf(std::span<const StudiedSample> samples) {

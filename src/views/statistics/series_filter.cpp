@@ -39,10 +39,10 @@ QString DayText(const QDateEdit& field) {
 
 }  // namespace
 
-ValueChoice::ValueChoice(QWidget* parent)
+ValueChoice::ValueChoice(bool withTarget, QWidget* parent)
     : QWidget(parent), quantity_(new QComboBox), nm_(new QSpinBox) {
   quantity_->setObjectName(QStringLiteral("Quantity"));
-  for (int i = 0; i < kQuantityCount; ++i) {
+  for (int i = 0; i < kQuantityCount - (withTarget ? 0 : 1); ++i) {
     quantity_->addItem(QuantityName(static_cast<Quantity>(i)));
   }
   nm_->setObjectName(QStringLiteral("Wavelength"));

@@ -18,7 +18,8 @@ class ValueChoice : public QWidget {
   Q_OBJECT
 
  public:
-  explicit ValueChoice(QWidget* parent = nullptr);
+  /// A colour difference to the target of a recipe is offered only `withTarget`.
+  explicit ValueChoice(bool withTarget, QWidget* parent = nullptr);
 
   [[nodiscard]] RecordValue Value() const;
   void SetValue(const RecordValue& value);
