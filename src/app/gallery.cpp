@@ -162,7 +162,8 @@ QCoro::Task<> Gallery::TakeRecords(const QString& suffix) {
   co_await Until([details] { return !details->document()->isEmpty(); });
   Press(*records, "RecomputeRecords");
   co_await Until([records] { return records->findChild<QDialog*>() != nullptr; });
-  co_await TakeWindow(QStringLiteral("RecomputedWindow"), QStringLiteral("records-recomputed") + suffix);
+  co_await TakeWindow(QStringLiteral("RecomputedWindow"),
+                      QStringLiteral("records-recomputed") + suffix);
   co_await TakeWindow(QStringLiteral("RecordsWindow"), QStringLiteral("records") + suffix);
 }
 
