@@ -257,13 +257,17 @@ TEST_F(LotMeasuring, AHeldVerdictCountsOnNeitherSideUntilItIsReleased) {
 
 TEST_F(LotMeasuring, RepeatsEachLensAsTheRecipeWantsAndReportsTheLot) {
   lots->close();
-  WriteRecipe(", \"repeats\": 2");
+  WriteRecipe(
+      R"(, "repeats": 2, "cie": {"limits": {"Rv": {"upper": 2.5}, "h": {"lower": 350, "upper": 349}}})");
   QApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
   OpenLots();
   Begin("L1");
   TakeFrames();
   Scan("A", kGood);
   Scan("B", kBad);
+  EXPECT_TRUE(test::Child<VerdictPanel>(*lots, "VerdictPanel")
+                  .Shown()
+                  .details.contains(QStringLiteral("\nCIE Rv:NG 0.")));
   EXPECT_EQ(LotText("LotCounts"), "レンズ 2   OK 1   NG 1");
   EXPECT_EQ(Rows(), (std::vector<std::string>{"A OK", "A OK", "B NG", "B NG"}));
   dialogs.save = SaveChoice{Path("lot.pdf")};
@@ -271,7 +275,8 @@ TEST_F(LotMeasuring, RepeatsEachLensAsTheRecipeWantsAndReportsTheLot) {
   ASSERT_TRUE(QTest::qWaitFor([this] { return peer.files.Has("lot.pdf"); }));
   const QString report = test::PdfPages(Path("lot.pdf")).join(u'\n');
   for (const char* words : {"ロット報告書 L1", "歩留り 50.0 %", "レシピ AR", "作業者 佐藤",
-                            "平均反射率 [%] 4 1.0 2.5 2.624 "}) {
+                            "平均反射率 [%] 4 1.0 2.5 2.624 ", "CIE測色値 (A / 2°",
+                            "CIE Rv [%] 4 - 2.5 2.", "CIE h [°] 4 350.0 349.0 "}) {
     EXPECT_TRUE(report.contains(QString::fromUtf8(words))) << words << report.toStdString();
   }
 }

@@ -20,7 +20,8 @@ constexpr QMargins kMargins(30, 10, 16, 24);
 constexpr QColor kGridColour(200, 200, 200);
 const QString kPictureLayer = QStringLiteral("picture");
 constexpr int kSmallPixels = 10;
-constexpr int kLeastForRange = 300;  // pixels
+constexpr int kLeastForRange = 300;  // pixels of the axes
+constexpr int kLeastForLabels = 140;
 constexpr int kGridSteps = 8;
 constexpr std::array kLabReaches{10, 20, 40};
 
@@ -147,7 +148,6 @@ ChromaticityDiagram::ChromaticityDiagram(std::shared_ptr<BackgroundPicture> pict
   connect(escape, &QShortcut::activated, picture_.get(), &BackgroundPicture::RequestAbort);
   connect(picture_.get(), &BackgroundPicture::BuildingChanged, escape, &QShortcut::setEnabled);
   connect(picture_.get(), &BackgroundPicture::Grown, this, &ChromaticityDiagram::DrawPicture);
-  Fit(size());
   DrawPicture();
 }
 
@@ -246,6 +246,7 @@ void ChromaticityDiagram::ShowFrame(const StockConditions& conditions, const VEX
 // A small diagram has no room beside the locus: what shows it there says the rest below it.
 void ChromaticityDiagram::ShowConditions() {
   const bool room = side_ >= kLeastForRange;
+  locus_.ShowLabels(side_ >= kLeastForLabels);
   conditionsText_->setText(range_.isEmpty() || !room ? conditions_ : conditions_ + u'\n' + range_);
 }
 

@@ -73,7 +73,7 @@ class ChromaticityDiagram : public Plot {
   bool named_ = false;
   bool xyMode_ = true;
   int labReach_ = 40;
-  int side_ = 0;  ///< of the axes, pixels
+  int side_ = 400;  ///< of the axes, in pixels; until the first Fit that of a large diagram
 };
 
 }  // namespace vexa

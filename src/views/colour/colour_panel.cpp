@@ -23,7 +23,7 @@ namespace {
 
 constexpr int kWidth = 296;
 constexpr int kSmallestDiagram = 200;  // on a low screen
-constexpr int kSmallestWithCie = 140;  // so that the thickness below stays in sight
+constexpr int kSmallestWithCie = 165;  // so that the thickness below stays in sight
 constexpr int kButtonPadding = 20;
 const QString kNone = QStringLiteral("-");
 

@@ -78,6 +78,12 @@ void LocusDrawing::Show(const std::vector<LocusPoint>& points) {
   }
 }
 
+void LocusDrawing::ShowLabels(bool shown) {
+  for (QCPItemText* label : labels_) {
+    label->setVisible(shown);
+  }
+}
+
 // Short wavelengths have their label on the outer side, at the left; 500 nm has no room there.
 void LocusDrawing::AddLabel(const LocusPoint& point) {
   auto* label = new QCPItemText(&plot_);

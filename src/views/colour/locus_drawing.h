@@ -18,6 +18,9 @@ class LocusDrawing {
   /// Takes the place of the locus shown before; no points leave nothing. The caller redraws.
   void Show(const std::vector<LocusPoint>& points);
 
+  /// Whether the points shown have their wavelengths beside them; they have until it is called.
+  void ShowLabels(bool shown);
+
  private:
   void AddLabel(const LocusPoint& point);
 

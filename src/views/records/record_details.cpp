@@ -124,7 +124,7 @@ void AddVerdicts(Sheet& sheet, const WholeRecord& record) {
 
 // The values under the same captions as the instrument's own.
 void AddCie(Sheet& sheet, const SampleRecord& sample) {
-  sheet.Heading(CieCaption(CieConditionsOf(sample.cie)));
+  sheet.Heading(Text::tr("測定値") + QStringLiteral("　") + ColourKindText(ColourKind::kCie));
   const std::optional<CieColour> colour = CieOf(sample.cie);
   const auto texts = [&colour](std::initializer_list<double CieColour::*> values) {
     QStringList shown;
@@ -139,6 +139,7 @@ void AddCie(Sheet& sheet, const SampleRecord& sample) {
   sheet.Row(Text::tr("視感[%]"), texts({&CieColour::Y}));
   sheet.Row(QStringLiteral("Rv (D65/2°)"), texts({&CieColour::Rv}));
   sheet.Row(Text::tr("外挿差 ΔE*ab"), texts({&CieColour::spread}));
+  sheet.Row({}, CieCaption(CieConditionsOf(sample.cie)));
 }
 
 void AddValues(Sheet& sheet, const SampleRecord& sample, bool cie) {
