@@ -17,7 +17,7 @@ namespace {
 constexpr int kSampleColumn = 1;  // of any length: it takes what is left
 constexpr int kThicknessColumn = 2;
 constexpr int kRowHeight = 24;
-constexpr int kTableWidth = 404;  // all columns, and a short sample number
+constexpr int kTableWidth = 416;  // all columns, and a short sample number
 
 QString Number(double value, QStringView pattern) {
   return FormatNumber(value, pattern).trimmed();
