@@ -164,7 +164,8 @@ QString MaterialFaultText(MaterialFault fault) {
     case MaterialFault::kCoverage:
       return Text::tr("材料の表が440～840nmを含んでいません。");
     case MaterialFault::kIndex:
-      return Text::tr("材料の屈折率は0より大きく、吸収は0以上で、どちらも100以下でなければなりません。");
+      return Text::tr(
+          "材料の屈折率は0より大きく、吸収は0以上で、どちらも100以下でなければなりません。");
   }
   return {};
 }
