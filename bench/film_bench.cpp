@@ -85,6 +85,19 @@ BENCHMARK(OneLayerBlind)
     ->Arg(50000)
     ->Unit(benchmark::kMillisecond);
 
+// Bare, of another index than the stack's, so that the noise is not all that is left.
+void NoFilm(benchmark::State& state) {
+  const auto spectrum = Noisy({kPrimer, {kCoat}}, {0.0});
+  std::string label;
+  for (auto _ : state) {
+    const auto fit = std::get<vexa::FilmFit>(
+        vexa::FitFilm(spectrum, kOne, std::vector<vexa::ThicknessRange>(1)));
+    label = vexa::FitOutcomeName(fit.outcome).toStdString();
+  }
+  state.SetLabel(label);
+}
+BENCHMARK(NoFilm)->Unit(benchmark::kMillisecond);
+
 void TwoLayers(benchmark::State& state) {
   Fit(state, kTwo, {static_cast<double>(state.range(0)), static_cast<double>(state.range(1))},
       {{}, {}});

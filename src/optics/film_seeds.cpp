@@ -21,8 +21,9 @@ constexpr double kClearRatio = 10.0;  // of the peak of a fringe that is surely 
 constexpr std::size_t kMostCombinations = 3000;
 constexpr std::size_t kMostEnumerated = 200000;
 constexpr std::size_t kMostRefined = 12;
-constexpr std::size_t kMostPeaks = 6;  // of a layer among several
-constexpr double kExplained = 0.05;    // of the variation: what is left by depths that are right
+constexpr std::size_t kMostPeaks = 6;   // of a layer among several
+constexpr double kWeakestDepth = 0.02;  // of the strongest peak
+constexpr double kExplained = 0.05;     // of the variation: what is left by depths that are right
 constexpr int kStepsAnOrder = 12;
 
 double MeanIndex(const Material& material, const FilmFitOptions& options) {
@@ -106,7 +107,8 @@ class Search {
       strongest_ = first.thicknessNm;
     }
     for (const FourierPeak& peak : transform->peaks) {
-      if (peak.ratio >= FourierThickness::kNoiseRatio) {
+      if (peak.ratio >= FourierThickness::kNoiseRatio &&
+          peak.amplitude >= kWeakestDepth * transform->peaks.front().amplitude) {
         depths_.push_back(peak.thicknessNm);
       }
       if (peak.amplitude >=
