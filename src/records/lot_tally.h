@@ -28,8 +28,8 @@ struct LotLens {
   struct Measurement {
     QString id;
     Verdict verdict = Verdict::kNone;
-    bool last = true;  ///< of the repeats
-    QString heldBy;    ///< the check that holds its verdict
+    bool last = true;     ///< of the repeats
+    QString heldBy = {};  ///< the check that holds its verdict
   };
 
   QString number;

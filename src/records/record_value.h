@@ -93,7 +93,7 @@ struct ValueSeries {
   std::vector<ValuePoint> points;  ///< the oldest first
   qsizetype without = 0;           ///< records that do not have the value
   bool more = false;               ///< older ones were left out beyond the limit of the query
-  CieLimits cieLimits = {};             ///< what the newest record was judged by
+  CieLimits cieLimits = {};        ///< what the newest record was judged by
   bool severalCieLimits = false;   ///< others were judged by other ones
   QStringList cieConditions = {};  ///< under which the CIE colours were computed, each once
 
