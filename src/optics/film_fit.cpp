@@ -8,7 +8,6 @@
 #include <cmath>
 #include <limits>
 #include <numbers>
-#include <numeric>
 #include <optional>
 #include <thread>
 
@@ -51,16 +50,6 @@ QString ParameterText(const FilmParameter& parameter) {
       return Text::tr("屈折率");
   }
   return {};
-}
-
-// The noise of single points, from third differences, in which smooth curves vanish.
-double NoiseOf(std::span<const double> values) {
-  std::vector<double> differences;
-  for (std::size_t i = 3; i < values.size(); ++i) {
-    differences.push_back((values[i] - 3.0 * values[i - 1] + 3.0 * values[i - 2] - values[i - 3]) /
-                          std::sqrt(20.0));
-  }
-  return Rms(differences);
 }
 
 class Fitter {
@@ -119,7 +108,7 @@ class Fitter {
     }
     const auto points = static_cast<double>(measured_.size());
     const double without = points * std::pow(RmsWithoutFilm(), 2);
-    const double noise = points * std::pow(kPoorNoises * NoiseOf(measured_), 2);
+    const double noise = points * std::pow(kPoorNoises * PointNoise(measured_), 2);
     const auto tellsNothing = [&](double sumOfSquares) {
       return without < (sumOfSquares < noise ? kHopelessNoisy : kHopeless) * sumOfSquares;
     };
@@ -242,7 +231,7 @@ class Fitter {
       fit.fitted.push_back(measured_[i] - residuals[i]);
     }
     fit.rms = Rms(residuals);
-    fit.noise = std::min(NoiseOf(measured_), NoiseOf(residuals));
+    fit.noise = std::min(PointNoise(measured_), PointNoise(residuals));
     fit.scale = best.point.scale;
     fit.offset = best.point.offset;
     fit.spread = best.point.state.spread;
@@ -263,35 +252,8 @@ class Fitter {
   // make no fringes.
   double RmsWithoutFilm() {
     const FilmState bare{.thicknessesNm = std::vector<double>(ranges_.size(), 0.0)};
-    return std::min(RmsWithoutFringes(solver_.Reflect(bare)),
-                    RmsWithoutFringes(IncoherentReflectance(stack_, options_)));
-  }
-
-  [[nodiscard]] double RmsWithoutFringes(std::span<const double> values) const {
-    if (!options_.scaleFree) {
-      const LinearMatch match = MatchLinear(values, measured_, false, options_.offsetFree);
-      return std::sqrt(match.sumOfSquares / static_cast<double>(measured_.size()));
-    }
-    // With any scale, and one that changes evenly over the range.
-    std::vector<double> ratio;
-    for (std::size_t i = 0; i < values.size(); ++i) {
-      ratio.push_back(measured_[i] / std::max(values[i], 1e-9));
-    }
-    const auto count = static_cast<double>(ratio.size());
-    const double mean = std::accumulate(ratio.begin(), ratio.end(), 0.0) / count;
-    double slope = 0.0;
-    double places = 0.0;
-    for (std::size_t i = 0; i < ratio.size(); ++i) {
-      const double place = static_cast<double>(i) - (count - 1.0) / 2.0;
-      slope += place * ratio[i];
-      places += place * place;
-    }
-    std::vector<double> left;
-    for (std::size_t i = 0; i < ratio.size(); ++i) {
-      const double place = static_cast<double>(i) - (count - 1.0) / 2.0;
-      left.push_back(values[i] * (ratio[i] - mean - place * slope / places));
-    }
-    return Rms(left);
+    return std::min(RmsOfSmooth(solver_.Reflect(bare), measured_, options_),
+                    RmsOfSmooth(IncoherentReflectance(stack_, options_), measured_, options_));
   }
 
   FitOutcome OutcomeOf(const FilmFit& fit, double quickRms) {
@@ -361,7 +323,7 @@ class Fitter {
   FilmFit NoFilm(FilmFit fit = {}) {
     constexpr double kNotANumber = std::numeric_limits<double>::quiet_NaN();
     if (fit.fitted.empty()) {
-      fit.noise = NoiseOf(measured_);
+      fit.noise = PointNoise(measured_);
       fit.rms = RmsWithoutFilm();
     }
     fit.outcome = FitOutcome::kNone;

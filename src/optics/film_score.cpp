@@ -3,6 +3,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <numeric>
 
 namespace vexa {
 
@@ -33,6 +34,49 @@ LinearMatch MatchLinear(std::span<const double> model, std::span<const double> m
   match.offset = offsetFree ? (y - match.scale * m) / count : 0.0;
   match.sumOfSquares = std::max(0.0, yy + match.scale * (match.scale * mm - 2.0 * my));
   return match;
+}
+
+double Rms(std::span<const double> values) {
+  return values.empty()
+             ? 0.0
+             : std::sqrt(std::inner_product(values.begin(), values.end(), values.begin(), 0.0) /
+                         static_cast<double>(values.size()));
+}
+
+double PointNoise(std::span<const double> values) {
+  std::vector<double> differences;
+  for (std::size_t i = 3; i < values.size(); ++i) {
+    differences.push_back((values[i] - 3.0 * values[i - 1] + 3.0 * values[i - 2] - values[i - 3]) /
+                          std::sqrt(20.0));
+  }
+  return Rms(differences);
+}
+
+double RmsOfSmooth(std::span<const double> model, std::span<const double> measured,
+                   const FilmFitOptions& options) {
+  const auto count = static_cast<double>(measured.size());
+  if (!options.scaleFree) {
+    const LinearMatch match = MatchLinear(model, measured, false, options.offsetFree);
+    return std::sqrt(match.sumOfSquares / count);
+  }
+  std::vector<double> ratio;
+  for (std::size_t i = 0; i < model.size(); ++i) {
+    ratio.push_back(measured[i] / std::max(model[i], 1e-9));
+  }
+  const double mean = std::accumulate(ratio.begin(), ratio.end(), 0.0) / count;
+  double slope = 0.0;
+  double places = 0.0;
+  for (std::size_t i = 0; i < ratio.size(); ++i) {
+    const double place = static_cast<double>(i) - (count - 1.0) / 2.0;
+    slope += place * ratio[i];
+    places += place * place;
+  }
+  std::vector<double> left;
+  for (std::size_t i = 0; i < ratio.size(); ++i) {
+    const double place = static_cast<double>(i) - (count - 1.0) / 2.0;
+    left.push_back(model[i] * (ratio[i] - mean - place * slope / places));
+  }
+  return Rms(left);
 }
 
 std::vector<double> IncoherentReflectance(const FilmStack& stack, const FilmFitOptions& options) {

@@ -23,6 +23,18 @@ struct LinearMatch {
                                       std::span<const double> measured, bool scaleFree,
                                       bool offsetFree);
 
+/// The root of the mean square; 0 of nothing.
+[[nodiscard]] double Rms(std::span<const double> values);
+
+/// The standard deviation of the noise of single points, from third differences, in which smooth
+/// curves vanish. At least four values.
+[[nodiscard]] double PointNoise(std::span<const double> values);
+
+/// The root mean square of what a smooth model leaves of measured values: with its scale and offset
+/// as far as they are free, a free scale also changing evenly over the range.
+[[nodiscard]] double RmsOfSmooth(std::span<const double> model, std::span<const double> measured,
+                                 const FilmFitOptions& options);
+
 /// The reflectance of layers so thick and so uneven that no fringes are left, at each nanometre of
 /// the options' range, in percent. It is as smooth as the indices; what lies between 8 nm is
 /// interpolated.

@@ -28,13 +28,6 @@ double& Value(FilmPoint& point, const FilmParameter& parameter) {
 
 }  // namespace
 
-double Rms(std::span<const double> values) {
-  return values.empty()
-             ? 0.0
-             : std::sqrt(std::inner_product(values.begin(), values.end(), values.begin(), 0.0) /
-                         static_cast<double>(values.size()));
-}
-
 FilmSolver::FilmSolver(const ReflectanceSpectrum& spectrum, const FilmStack& stack,
                        std::span<const ThicknessRange> ranges, const FilmFitOptions& options)
     : ranges_(ranges),

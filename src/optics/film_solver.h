@@ -32,9 +32,6 @@ struct FilmSolution {
   double rms = 0.0;  ///< of the residual without weights, percent
 };
 
-/// The root of the mean square; 0 of nothing.
-[[nodiscard]] double Rms(std::span<const double> values);
-
 /// Goes from a place to the minimum next to it: what FitFilm does once it has a start. Takes what
 /// FitFilm has checked; the ranges and the options must outlive it.
 class FilmSolver {

@@ -12,7 +12,6 @@
 #include <QSplitter>
 #include <QStyle>
 #include <QVBoxLayout>
-#include <memory>
 
 #include "base/number_text.h"
 #include "base/translation.h"
