@@ -4666,7 +4666,7 @@ Repeats: %4   Background: %5   Reference: %6</translation>
     </message>
     <message>
         <source>視感反射率 Y (装置固有)</source>
-        <translation>Luminous reflectance Y (instrument)</translation>
+        <translation>Luminous refl. Y (instrument)</translation>
     </message>
     <message>
         <source>ΔE00の目標</source>

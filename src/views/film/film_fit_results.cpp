@@ -105,13 +105,14 @@ FilmFitResults::FilmFitResults(QWidget* parent)
   auto* told = new QHBoxLayout;
   told->addWidget(mark_, 0, Qt::AlignTop);
   told->addWidget(outcome_, 1);
-  auto* right = new QVBoxLayout;
-  right->addLayout(told);
-  right->addWidget(words_, 1);
-  auto* layout = new QHBoxLayout(this);
+  constexpr int kWordLines = 4;
+  words_->setFixedHeight(kWordLines * fontMetrics().lineSpacing() + 10);
+  // Below the table: their lines are long, and stand whole even where there is little width.
+  auto* layout = new QVBoxLayout(this);
   layout->setContentsMargins(0, 0, 0, 0);
-  layout->addWidget(table_, 5);
-  layout->addLayout(right, 4);
+  layout->addWidget(table_, 1);
+  layout->addLayout(told);
+  layout->addWidget(words_);
   connect(table_, &QTableWidget::currentCellChanged, this, [this](int row) {
     if (!filling_ && row >= 0) {
       emit SlotChosen(table_->item(row, 0)->data(Qt::UserRole).toInt());

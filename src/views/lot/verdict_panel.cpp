@@ -51,9 +51,11 @@ void PaintColumns(QPainter& painter, const QRectF& place, QStringList lines) {
   const QPointF corner = place.topLeft() + QPointF((place.width() - width) / 2.0, 0.0);
   for (int i = 0; i < shown; ++i) {
     const QPointF at(i / rows * (widest + kColumnGap), i % rows * metrics.lineSpacing());
-    painter.drawText(QRectF(corner + at, QSizeF(widest, metrics.lineSpacing())),
+    painter.drawText(QRectF(corner + at, QSizeF(widest + kColumnGap / 2, metrics.lineSpacing())),
                      columns > 1 ? Qt::AlignLeft : Qt::AlignHCenter,
-                     metrics.elidedText(lines[i], Qt::ElideRight, widest));
+                     metrics.horizontalAdvance(lines[i]) <= widest
+                         ? lines[i]
+                         : metrics.elidedText(lines[i], Qt::ElideRight, widest));
   }
 }
 

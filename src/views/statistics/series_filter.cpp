@@ -42,6 +42,10 @@ QString DayText(const QDateEdit& field) {
 ValueChoice::ValueChoice(bool withTarget, QWidget* parent)
     : QWidget(parent), quantity_(new QComboBox), nm_(new QSpinBox) {
   quantity_->setObjectName(QStringLiteral("Quantity"));
+  // The longest name must not make a narrow column wider.
+  quantity_->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
+  constexpr int kLetters = 12;
+  quantity_->setMinimumContentsLength(kLetters);
   for (int i = 0; i < kQuantityCount - (withTarget ? 0 : 1); ++i) {
     quantity_->addItem(QuantityName(static_cast<Quantity>(i)));
   }
