@@ -4,6 +4,7 @@
 #include <QApplication>
 #include <QDir>
 #include <QElapsedTimer>
+#include <QFileInfo>
 #include <QScrollBar>
 #include <QTemporaryDir>
 #include <cstdio>
@@ -34,9 +35,9 @@ class NoFiles : public FileDialogs {
 /// The window over a store, as the menu opens it.
 class Opened {
  public:
-  explicit Opened(const QString& path) : reader_(path, {}) {
-    window_ = std::make_unique<RecordsWindow>(
-        RecordsWindowParts{reader_, session_, desk_, messages_, dialogs_, path, {}, {}});
+  explicit Opened(const QString& path) : reader_(path, {}), preferences_(QFileInfo(path).path()) {
+    window_ = std::make_unique<RecordsWindow>(RecordsWindowParts{
+        reader_, session_, desk_, messages_, dialogs_, preferences_, path, {}, {}});
     window_->show();
     table_ = window_->findChild<QTableView*>();
     WaitForMoreThan(0);
@@ -67,6 +68,7 @@ class Opened {
   Session session_{QDir::currentPath()};
   InstrumentDesk desk_{session_, messages_, [](const VEXATYPE&) { return nullptr; }};
   RecordReader reader_;
+  ProgramPreferences preferences_;
   std::unique_ptr<RecordsWindow> window_;
   QTableView* table_ = nullptr;
 };

@@ -4680,5 +4680,9 @@ Repeats: %4   Background: %5   Reference: %6</translation>
         <source>ﾚｼﾋﾟの限界が記録により異なります。最も新しい記録のものを用います。</source>
         <translation>The limits of the recipe differ between the records; those of the newest one are used.</translation>
     </message>
+    <message>
+        <source>設定が変わりました。この結果は前の設定のものです。</source>
+        <translation>The setting has changed. This result is of the earlier one.</translation>
+    </message>
 </context>
 </TS>

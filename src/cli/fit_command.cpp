@@ -166,6 +166,11 @@ void PrintText(const std::vector<Fitted>& fitted) {
                  FormatNumber(fit.noise, u"0.0000"), slot->info.sampleNumber});
   }
   Print(TextColumns(rows));
+  for (const auto& [number, slot, fit] : fitted) {
+    for (const QString& warning : fit.warnings) {
+      Print(QStringLiteral("%1  %2\n").arg(number, 2).arg(warning));
+    }
+  }
 }
 
 // The fits of the valid slots, or of one. A slot that is refused has no film.

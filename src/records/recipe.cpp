@@ -90,6 +90,17 @@ class Entries {
   QStringList taken_;
 };
 
+// No hue lies beyond the circle, no difference below nothing.
+bool IsWithin(const StandardLimits& limits, const CieLimitsEntry& entry) {
+  constexpr double kCircle = 360.0;
+  const auto given = [](double limit) { return std::isfinite(limit); };
+  if (entry.limits == &CieLimits::hueAngle) {
+    return (!given(limits.lower) || (limits.lower >= 0.0 && limits.lower <= kCircle)) &&
+           (!given(limits.upper) || (limits.upper >= 0.0 && limits.upper <= kCircle));
+  }
+  return entry.limits != &CieLimits::deltaE00 || limits.upper >= 0.0;
+}
+
 // Limits that a name gives are on.
 void TakeLimits(Entries& all, const CieLimitsEntry& entry, CieLimits& cie) {
   StandardLimits& limits = cie.*entry.limits;
@@ -102,7 +113,7 @@ void TakeLimits(Entries& all, const CieLimitsEntry& entry, CieLimits& cie) {
               entry.name);
   // Of a hue angle the reverse order means the arc through 0.
   const bool ordered = limits.lower <= limits.upper || entry.limits == &CieLimits::hueAngle;
-  all.Require(ordered, FileFaultKind::kRange, entry.name);
+  all.Require(ordered && IsWithin(limits, entry), FileFaultKind::kRange, entry.name);
 }
 
 CieLimits ReadCieLimits(Entries object) {

@@ -45,7 +45,7 @@ QStringList CieFailures(const CieJudgement& judgement) {
     if (!judgement[i].passed.value_or(true)) {
       failures << QStringLiteral("%1:NG %2")
                       .arg(QString::fromUtf8(kCieLimitsEntries[i].symbol),
-                           CieMarginText(judgement, i))
+                           ShortfallText(CieMarginText(judgement, i)))
                       .trimmed();
     }
   }

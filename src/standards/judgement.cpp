@@ -133,6 +133,10 @@ QString PanelText(const Judgement& judgement, std::size_t group) {
   return text.isEmpty() ? text : Text::tr(text.toUtf8().constData());
 }
 
+QString ShortfallText(const QString& margin) {
+  return margin.isEmpty() ? margin : Text::tr("余裕 %1").arg(u'-' + margin);
+}
+
 QString MarginText(const Judgement& judgement, std::size_t group) {
   const std::optional<double>& margin = judgement.groups[group].margin;
   if (!margin) {

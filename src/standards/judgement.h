@@ -77,4 +77,8 @@ struct Judgement {
 /// is, as "0.031 % (550 nm)"; empty without a margin. The group is 0..5.
 [[nodiscard]] QString MarginText(const Judgement& judgement, std::size_t group);
 
+/// The text of a failed group's margin as what it is, one below zero: "余裕 -0.031 %"; empty
+/// without one.
+[[nodiscard]] QString ShortfallText(const QString& margin);
+
 }  // namespace vexa

@@ -121,7 +121,7 @@ FilmFitResults::FilmFitResults(QWidget* parent)
 }
 
 void FilmFitResults::Show(const VEXATYPE& state, int slot,
-                          const std::map<int, FilmFitFault>& refused) {
+                          const std::map<int, FilmFitFault>& refused, bool outdated) {
   filling_ = true;
   table_->clearSelection();
   table_->setRowCount(0);
@@ -151,10 +151,12 @@ void FilmFitResults::Show(const VEXATYPE& state, int slot,
   const MeasurementSlot* shown = state.Slot(slot);
   const FilmFit* fit = shown != nullptr && shown->valid && shown->fit ? &*shown->fit : nullptr;
   const auto fault = refused.find(slot);
-  const bool good = fit != nullptr && fit->outcome == FitOutcome::kOk;
+  const bool good = fit != nullptr && fit->outcome == FitOutcome::kOk && !outdated;
   mark_->setPixmap(good ? DoneIcon(true).pixmap(16, 16) : DoubtMark());
   mark_->setVisible(fit != nullptr || fault != refused.end());
-  outcome_->setText(fit != nullptr           ? FitOutcomeText(fit->outcome)
+  outcome_->setText(fit != nullptr && outdated
+                        ? Text::tr("設定が変わりました。この結果は前の設定のものです。")
+                    : fit != nullptr         ? FitOutcomeText(fit->outcome)
                     : fault != refused.end() ? FilmFitFaultText(fault->second)
                                              : QString());
   words_->setPlainText(fit != nullptr ? WordsOf(*fit) : QString());

@@ -19,9 +19,11 @@ class FilmFitResults : public QWidget {
  public:
   explicit FilmFitResults(QWidget* parent = nullptr);
 
-  /// Shows the valid slots, and the fit of one of them in words. `refused` are the slots that the
+  /// Shows the valid slots, and the fit of one of them in words. `outdated`: the fits are those of
+  /// another setting than the one that stands in the entries. `refused` are the slots that the
   /// last fit took no spectrum of.
-  void Show(const VEXATYPE& state, int slot, const std::map<int, FilmFitFault>& refused);
+  void Show(const VEXATYPE& state, int slot, const std::map<int, FilmFitFault>& refused,
+            bool outdated);
 
   /// The table with its headings.
   [[nodiscard]] QList<QStringList> Rows() const;

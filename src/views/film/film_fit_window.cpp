@@ -121,6 +121,7 @@ FilmFitWindow::FilmFitWindow(Session& session, ProgramPreferences& preferences,
   resize(QSize(1180, 720).boundedTo(screen()->availableSize() - kFrameOfWindow));
   body->setSizes({width() / 3, width() - width() / 3});
   ReadNamedFile();
+  outdated_ = false;
   ConnectSession();
   Refresh();
 }
@@ -149,7 +150,9 @@ QWidget* FilmFitWindow::BuildEntries() {
   connect(each_, &QCheckBox::clicked, this, &FilmFitWindow::FitEachSample);
   const auto edited = [this] {
     changed_ = true;
+    outdated_ = true;
     ShowFileName();
+    Refresh();
   };
   connect(stack_, &FilmStackEditor::Edited, this, edited);
   connect(conditions_, &FilmFitConditions::Edited, this, edited);
@@ -190,10 +193,7 @@ QWidget* FilmFitWindow::BuildButtons() {
 
 void FilmFitWindow::ConnectSession() {
   connect(&session_, &Session::SlotChanged, this, [this](int slot) {
-    // Another spectrum is another matter.
-    if (const auto refusal = refused_.find(slot); refusal != refused_.end()) {
-      refused_.erase(refusal);
-    }
+    refused_.erase(slot);  // another spectrum is another matter
     Refresh();
   });
   connect(&session_, &Session::SlotsReplaced, this, [this] {
@@ -220,6 +220,7 @@ bool FilmFitWindow::ReadStack(const QString& path) {
     return false;
   }
   setting_ = std::get<FilmStackSetting>(read);
+  outdated_ = true;
   if (path != preferences_.InForce().filmStack) {
     ChangePreferences([&path](ProgramSettings& s) { s.filmStack = path; });
   }
@@ -243,12 +244,14 @@ QString FilmFitWindow::Directory() const {
   return path.isEmpty() ? state_.programDirectory : QFileInfo(path).absolutePath();
 }
 
+QString FilmFitWindow::FileName() const {
+  return QFileInfo(preferences_.InForce().filmStack).fileName();
+}
+
 void FilmFitWindow::ShowFileName() {
-  const QString& path = preferences_.InForce().filmStack;
-  const QString name =
-      path.isEmpty() ? Text::tr("(保存されていません)") : QFileInfo(path).fileName();
+  const QString name = FileName().isEmpty() ? Text::tr("(保存されていません)") : FileName();
   file_->setText(changed_ ? name + QStringLiteral(" *") : name);
-  file_->setToolTip(path);
+  file_->setToolTip(preferences_.InForce().filmStack);
 }
 
 // The entries as a request; what is wrong with them is told, and the field has the focus.
@@ -284,9 +287,8 @@ void FilmFitWindow::FitSlots(bool all) {
   }
   if (spectra.empty()) {
     messages_.Tell({Message::kNoValidData});
-    return;
   }
-  if (!TakeEntries()) {
+  if (spectra.empty() || !TakeEntries()) {
     return;
   }
   session_.SetFilmFit(request_, each_->isChecked());
@@ -299,6 +301,7 @@ void FilmFitWindow::FitSlots(bool all) {
 void FilmFitWindow::TakeFit(int slot, const FilmFitRun::Result& result) {
   if (state_.Slot(slot)->valid && state_.Slot(slot)->reflectance == fitting_[slot].reflectance) {
     if (const auto* fit = std::get_if<FilmFit>(&result)) {
+      outdated_ = outdated_ && slot != slot_;
       session_.StoreFit(slot, *fit);
     } else {
       refused_[slot] = std::get<FilmFitFault>(result);
@@ -339,9 +342,8 @@ QCoro::Task<bool> FilmFitWindow::SaveStack() {
   if (!TakeEntries()) {
     co_return false;
   }
-  const QString& named = preferences_.InForce().filmStack;
-  const std::optional<SaveChoice> choice = co_await dialogs_.AskSave(
-      Text::tr("膜構成ﾌｧｲﾙの保存"), Filter(), QFileInfo(named).fileName());
+  const std::optional<SaveChoice> choice =
+      co_await dialogs_.AskSave(Text::tr("膜構成ﾌｧｲﾙの保存"), Filter(), FileName());
   if (!choice) {
     co_return false;
   }
@@ -368,7 +370,7 @@ void FilmFitWindow::ShowSlot(int slot) {
 
 void FilmFitWindow::Refresh() {
   progress_->setText(run_.Left() > 0 ? Text::tr("計算中... 残り %1").arg(run_.Left()) : QString());
-  results_->Show(state_, slot_, refused_);
+  results_->Show(state_, slot_, refused_, outdated_);
   const MeasurementSlot* slot = state_.Slot(slot_);
   if (slot == nullptr || !slot->valid) {
     plot_->ShowNothing();

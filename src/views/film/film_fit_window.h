@@ -47,6 +47,7 @@ class FilmFitWindow : public QDialog {
   QWidget* BuildButtons();
   void ConnectSession();
   void ShowSetting(const FilmStackSetting& setting);
+  [[nodiscard]] QString FileName() const;
   void ShowFileName();
   void ReadNamedFile();
   [[nodiscard]] QString Directory() const;
@@ -73,6 +74,7 @@ class FilmFitWindow : public QDialog {
   FilmStackSetting setting_;  ///< as entered last
   FilmFitRequest request_;    ///< what it asks; without layers before the first fit
   bool changed_ = false;      ///< since the file was read or written
+  bool outdated_ = false;     ///< the setting has changed since the last fit
   std::map<int, FilmFitRun::Spectrum> fitting_;
   std::map<int, FilmFitFault> refused_;
   FilmStackEditor* stack_;

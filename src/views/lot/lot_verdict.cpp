@@ -20,7 +20,9 @@ QString Failures(const MeasurementSlot& slot, const Recipe& recipe,
   QStringList failures;
   for (std::size_t i = 0; i < slot.judgement.groups.size(); ++i) {
     if (!slot.judgement.groups[i].passed.value_or(true)) {
-      failures << (PanelText(slot.judgement, i) + u' ' + MarginText(slot.judgement, i)).trimmed();
+      failures << (PanelText(slot.judgement, i) + u' ' +
+                   ShortfallText(MarginText(slot.judgement, i)))
+                      .trimmed();
     }
   }
   failures << CieFailures(JudgeCie(CalcCieColour(slot.reflectance, settings), recipe.cie));

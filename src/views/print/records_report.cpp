@@ -79,12 +79,12 @@ PageTable HeadTable(const QList<WholeRecord>& records, const QDate& printed) {
 PageTable CieTable(const QList<WholeRecord>& records) {
   PageTable table{.caption = CieCaption(CieConditionsOf(records)),
                   .columns = {{Text::tr("番号"), 110.0},
-                              {Text::tr("試料No"), 280.0, Qt::AlignLeft, true},
-                              {Text::tr("光源"), 170.0, Qt::AlignHCenter}},
+                              {Text::tr("試料No"), 210.0, Qt::AlignLeft, true},
+                              {Text::tr("光源"), 150.0, Qt::AlignHCenter}},
                   .rows = {}};
   for (const CiePart& part : kCieParts) {
     table.columns.push_back(
-        {QString::fromUtf8(part.symbol), part.value == &CieColour::spread ? 150.0 : 110.0});
+        {QString::fromUtf8(part.symbol), part.value == &CieColour::spread ? 150.0 : 118.0});
   }
   for (const WholeRecord& record : records) {
     const std::optional<CieColour> colour = CieOf(record.sample.cie);

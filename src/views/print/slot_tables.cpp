@@ -136,9 +136,9 @@ PageTable ValueTable(const VEXATYPE& state) {
                   .columns = {{QStringLiteral("No."), kNumberWidth}},
                   .rows = {}};
   for (const ColourColumn& column : ColourColumns()) {
-    table.columns.push_back({column.title, 165.0});
+    table.columns.push_back({column.title, 160.0});
   }
-  table.columns.push_back({Text::tr("膜厚", "column"), 195.0});
+  table.columns.push_back({Text::tr("膜厚", "column"), 240.0});
   AddRows(table, state, [&state](const MeasurementSlot& slot, Row& row) {
     // The slot itself does not tell whether its colour could be computed.
     ColourResult ignored;
