@@ -93,7 +93,8 @@ bool NeedsNoDisplay(int argc, char* argv[]) {
                        qEnvironmentVariableIsSet("WAYLAND_DISPLAY") ||
                        qEnvironmentVariableIsSet("QT_QPA_PLATFORM");
   return std::any_of(argv + 1, argv + argc, [display](const char* word) {
-    return QByteArray(word).startsWith("--report") || !display;
+    const QByteArray option(word);
+    return option.startsWith("--report") || (!display && option.startsWith('-'));
   });
 }
 

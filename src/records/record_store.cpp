@@ -176,9 +176,20 @@ Answer<ChainCheck> RecordStore::Verify() const {
   return answer;
 }
 
+// Nothing else may be replaced: its last row is one of these.
+bool RecordStore::IsEarlierCopy(const QString& path) const {
+  RecordStore copy;
+  if (!QFileInfo(path).isFile() || copy.Open(path, Mode::kRead) != StoreFault::kNone) {
+    return false;
+  }
+  const Answer<ChainHead> head = copy.Head();
+  const Answer<StoredRow> same = Find(QString::number(head.value.number));
+  return head && (head.value.number == 0 || (same && same.value.hash == head.value.hash));
+}
+
 StoreFault RecordStore::Backup(const QString& path) const {
   const QString part = path + QStringLiteral(".part");
-  if (IdentityOf(path) == identity_ || (QFile::exists(path) && !QFileInfo(path).isFile())) {
+  if (IdentityOf(path) == identity_ || (QFile::exists(path) && !IsEarlierCopy(path))) {
     return StoreFault::kRefused;
   }
   QFile::remove(part);

@@ -83,8 +83,8 @@ class RecordStore : public RecordSource {
   [[nodiscard]] Answer<ChainHead> Head() const;
   [[nodiscard]] Answer<ChainCheck> Verify() const;
 
-  /// Writes a copy of the whole store, as it is at one moment, while others write. A file of that
-  /// name is replaced; the store itself is refused.
+  /// Writes a copy of the whole store, as it is at one moment, while others write. An earlier copy
+  /// is replaced; anything else of that name, the store itself among it, is refused.
   [[nodiscard]] StoreFault Backup(const QString& path) const;
 
  private:
@@ -96,6 +96,7 @@ class RecordStore : public RecordSource {
   [[nodiscard]] static std::optional<FileIdentity> IdentityOf(const QString& path);
   [[nodiscard]] StoreFault Prepare(Mode mode, int waitMs) const;
   [[nodiscard]] Answer<ChainHead> End() const;
+  [[nodiscard]] bool IsEarlierCopy(const QString& path) const;
   [[nodiscard]] Answer<QList<StoredRow>> Rows(const QString& condition,
                                               const QVariantList& values) const;
 

@@ -164,7 +164,9 @@ Answer<qint64> SharedStore::LastSent(const RecordStore& local) const {
 StoreFault SharedStore::Insert(const QList<StoredRow>& rows) const {
   QVariantList values;
   for (const StoredRow& row : rows) {
-    values << row.number << QString::fromUtf8(row.row.document) << row.row.numbers << row.hash;
+    // Without numbers they are none, not unknown: an event has no counts.
+    const QByteArray numbers = row.row.numbers.isNull() ? QByteArray("") : row.row.numbers;
+    values << row.number << QString::fromUtf8(row.row.document) << numbers << row.hash;
   }
   const QString places =
       QStringList(rows.size(), QStringLiteral("(?::bigint, ?::text, ?::bytea, ?::bytea)"))

@@ -266,8 +266,18 @@ TEST_F(Store, ReadOnlyFilesAreToldAndRead) {
 
 TEST_F(Store, BackupIsWholeAndNeverTheStore) {
   ASSERT_TRUE(store.Append(SampleRows(1)));
-  files.Write("copy.db", "earlier");
   EXPECT_EQ(store.Backup(files.Path("copy.db")), StoreFault::kNone);
+  ASSERT_TRUE(store.Append(SampleRows(2)));
+  EXPECT_EQ(store.Backup(files.Path("copy.db")), StoreFault::kNone) << "over an earlier copy";
+  files.Write("data.csv", "something else");
+  EXPECT_EQ(store.Backup(files.Path("data.csv")), StoreFault::kRefused);
+  EXPECT_EQ(files.Read("data.csv"), "something else");
+  {
+    RecordStore other;
+    ASSERT_EQ(other.Open(files.Path("other.db"), Mode::kWrite), StoreFault::kNone);
+    ASSERT_TRUE(other.Append(SampleRows(3)));
+  }
+  EXPECT_EQ(store.Backup(files.Path("other.db")), StoreFault::kRefused);
   EXPECT_EQ(store.Backup(path), StoreFault::kRefused);
   EXPECT_NE(store.Backup(files.Path("none/copy.db")), StoreFault::kNone);
   EXPECT_FALSE(files.Has("copy.db.part"));

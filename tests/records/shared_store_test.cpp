@@ -92,6 +92,11 @@ TEST_F(Shared, HoldsTheRowsOfAllStationsOnce) {
   ASSERT_EQ(two.Open(files.Path("two.db"), Mode::kWrite), StoreFault::kNone);
   Fill(one, "一号", 0, 70);
   Fill(two, "2", 100, 103);
+  EventRecord event;  // a row without counts
+  event.station = QStringLiteral("2");
+  event.type = QStringLiteral("release");
+  event.time = QDateTime::fromSecsSinceEpoch(1763000000);
+  ASSERT_TRUE(two.Append({ToRow(event)}));
   EXPECT_EQ(Send(one), (SharedStatus{one.Head().value.number, 0, StoreFault::kNone}));
   EXPECT_EQ(Send(two), (SharedStatus{two.Head().value.number, 0, StoreFault::kNone}));
   EXPECT_EQ(Send(one), SharedStatus()) << "nothing is sent twice";
