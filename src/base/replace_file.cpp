@@ -56,7 +56,7 @@ WriteResult MayReplaceFile(const QString& path) {
 
 WriteResult ReplaceFile(const QString& path, const QByteArray& bytes) {
   // A device or a pipe would be replaced by a file.
-  if (const WriteResult may = MayReplaceFile(path); !may) {
+  if (WriteResult may = MayReplaceFile(path); !may) {
     return may;
   }
   QSaveFile file(path);

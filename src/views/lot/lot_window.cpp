@@ -17,9 +17,9 @@
 
 namespace vexa {
 
-LotWindow::LotWindow(LotParts parts, QWidget* parent)
+LotWindow::LotWindow(const LotParts& parts, QWidget* parent)
     : QDialog(parent),
-      parts_(std::move(parts)),
+      parts_(parts),
       pages_(new QStackedWidget),
       start_(new LotStartPage(parts_.session.State().programDirectory, parts_.dialogs)) {
   setObjectName(QStringLiteral("LotWindow"));

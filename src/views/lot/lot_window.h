@@ -33,7 +33,7 @@ class LotWindow : public QDialog {
   Q_OBJECT
 
  public:
-  explicit LotWindow(LotParts parts, QWidget* parent = nullptr);
+  explicit LotWindow(const LotParts& parts, QWidget* parent = nullptr);
 
   /// Escape ends no lot.
   void reject() override {}

@@ -50,8 +50,9 @@ void PaintColumns(QPainter& painter, const QRectF& place, QStringList lines) {
   const int width = columns * widest + (columns - 1) * kColumnGap;
   const QPointF corner = place.topLeft() + QPointF((place.width() - width) / 2.0, 0.0);
   for (int i = 0; i < shown; ++i) {
-    const QPointF at(i / rows * (widest + kColumnGap), i % rows * metrics.lineSpacing());
-    painter.drawText(QRectF(corner + at, QSizeF(widest + kColumnGap / 2, metrics.lineSpacing())),
+    const int column = i / rows;
+    const QPointF at(column * (widest + kColumnGap), i % rows * metrics.lineSpacing());
+    painter.drawText(QRectF(corner + at, QSizeF(widest + kColumnGap / 2.0, metrics.lineSpacing())),
                      columns > 1 ? Qt::AlignLeft : Qt::AlignHCenter,
                      metrics.horizontalAdvance(lines[i]) <= widest
                          ? lines[i]
