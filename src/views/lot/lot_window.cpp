@@ -4,7 +4,6 @@
 #include <QCloseEvent>
 #include <QPointer>
 #include <QVBoxLayout>
-#include <utility>
 
 #include "base/translation.h"
 #include "records/record_settings.h"
