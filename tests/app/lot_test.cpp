@@ -267,7 +267,7 @@ TEST_F(LotMeasuring, RepeatsEachLensAsTheRecipeWantsAndReportsTheLot) {
   Scan("B", kBad);
   EXPECT_TRUE(test::Child<VerdictPanel>(*lots, "VerdictPanel")
                   .Shown()
-                  .details.contains(QStringLiteral("\nCIE Rv:NG 0.")));
+                  .details.contains(QStringLiteral("\nCIE Rv:NG 余裕 -0.")));
   EXPECT_EQ(LotText("LotCounts"), "レンズ 2   OK 1   NG 1");
   EXPECT_EQ(Rows(), (std::vector<std::string>{"A OK", "A OK", "B NG", "B NG"}));
   dialogs.save = SaveChoice{Path("lot.pdf")};
