@@ -53,6 +53,12 @@ MinimumMark::MinimumMark(QCustomPlot& plot, Abscissa abscissa)
   text_->setColor(theme::kText);
   text_->setSelectable(false);
   text_->setClipToAxisRect(true);
+  // Where there is room is known once all axes have their places.
+  QObject::connect(&plot, &QCustomPlot::afterLayout, text_, [this] {
+    if (text_->visible()) {
+      PutTextWhereLeastIs();
+    }
+  });
   Show(nullptr);
 }
 
@@ -76,7 +82,6 @@ void MinimumMark::Show(const ReflectanceSpectrum* spectrum) {
   text_->position->setCoords(place, value);
   text_->setText(
       QStringLiteral("Min %1 nm  %2 %").arg(lowest).arg(FormatNumber(value, kReflectancePattern)));
-  PutTextWhereLeastIs();
 }
 
 // What the curves draw within a part of the plot, in pixels.
@@ -84,8 +89,11 @@ QVector<QPointF> MinimumMark::CurvePoints(const QRectF& around) const {
   QVector<QPointF> points;
   for (int i = 0; i < plot_.graphCount(); ++i) {
     const QCPGraph* curve = plot_.graph(i);
-    for (const QCPGraphData& data : *curve->data()) {
-      const QPointF point = curve->coordsToPixels(data.key, data.value);
+    const auto [least, most] = std::minmax(
+        {plot_.xAxis->pixelToCoord(around.left()), plot_.xAxis->pixelToCoord(around.right())});
+    const auto end = curve->data()->findEnd(most);
+    for (auto data = curve->data()->findBegin(least); data != end; ++data) {
+      const QPointF point = curve->coordsToPixels(data->key, data->value);
       if (around.contains(point)) {
         points << point;
       }
