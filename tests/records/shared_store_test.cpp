@@ -160,6 +160,9 @@ class SilentServer {
 };
 
 TEST(BackgroundThreads, LeaveAServerThatNeverAnswers) {
+#if defined(__SANITIZE_ADDRESS__)
+  GTEST_SKIP() << "what is left behind on purpose counts as a leak here";
+#endif
   const test::TemporaryFiles files;
   RecordStore local;
   ASSERT_EQ(local.Open(files.Path("records.db"), Mode::kWrite), StoreFault::kNone);
