@@ -4684,5 +4684,17 @@ Repeats: %4   Background: %5   Reference: %6</translation>
         <source>設定が変わりました。この結果は前の設定のものです。</source>
         <translation>The setting has changed. This result is of the earlier one.</translation>
     </message>
+    <message>
+        <source>記録のﾌｧｲﾙが取り除かれたか、置き換えられました。これからの記録は、今この名前にあるﾌｧｲﾙに書き込みます。それまでの記録と日常点検の保留は、元のﾌｧｲﾙにあります。<byte value="xd"/><byte value="xd"/>%1</source>
+        <translation>The record file was removed or replaced. From now on records go into the file that has this name now. The records before, and what the daily check holds, are in the earlier file.<byte value="xd"/><byte value="xd"/>%1</translation>
+    </message>
+    <message>
+        <source>膜構成の変更が保存されていません。保存しますか。</source>
+        <translation>The changes of the film stack are not saved. Save them?</translation>
+    </message>
+    <message>
+        <source>約 %1 nm の膜の干渉縞がありますが、入力した膜厚の範囲の外です。</source>
+        <translation>There are fringes of a film of about %1 nm, outside the thickness ranges entered.</translation>
+    </message>
 </context>
 </TS>

@@ -108,8 +108,8 @@ QList<Row> GaugeRows(const QDateTime& now, const QString& station, Noise& noise)
     const GaugeTask& task = order[place];
     const double value = kMean + parts[static_cast<std::size_t>(task.part)] +
                          operators[static_cast<std::size_t>(task.gaugeOperator)] + noise(kRepeats);
-    rows << ToRow(ReadingEvent(plan, place, value, {},
-                               plan.begun.addSecs(60 * static_cast<qint64>(place + 1)), station));
+    const QDateTime time = plan.begun.addSecs(60 * static_cast<qint64>(place + 1));
+    rows << ToRow(ReadingEvent(plan, {place, value, {}, {}, time, station}));
   }
   return rows;
 }
@@ -118,7 +118,7 @@ QList<Row> GaugeRows(const QDateTime& now, const QString& station, Noise& noise)
 
 bool KeepDemonstrationHistory(const VEXATYPE& state, const QDateTime& now, const QString& storePath,
                               const QString& station) {
-  const Answer<DailyCheckHistory> known = LoadDailyChecks(storePath, station);
+  const Answer<DailyCheckHistory> known = LoadDailyChecks(storePath);
   if (!known || !known.value.checks.empty()) {
     return static_cast<bool>(known);
   }

@@ -25,6 +25,9 @@ StationRecords::StationRecords(Session& session, MessageService& messages)
     messages_.Tell(
         {Message::kRecordStoreFault, {RecordStorePath(directory_)}, StoreFaultText(fault)});
   });
+  connect(&recorder_, &SessionRecorder::Replaced, this, [this] {
+    messages_.Tell({Message::kRecordStoreReplaced, {RecordStorePath(directory_)}});
+  });
   if (!settings_.shared.isEmpty()) {
     sender_ = std::make_unique<SharedSender>(RecordStorePath(directory_), settings_.shared);
     connect(&recorder_.Keeper(), &RecordKeeper::Stored, sender_.get(), &SharedSender::Wake);

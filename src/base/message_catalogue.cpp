@@ -128,6 +128,11 @@ constexpr std::array<MessageEntry, kMessageCount> kCatalogue{{
          "Text",
          "記録に書き込めません。測定は続けられます。書き込めなかった記録は、書き込める"
          "ようになった時に書き込まれます。\r\r%1")},
+    {Message::kRecordStoreReplaced, title::kWarning, MessageIcon::kWarning, MessageButtons::kOk,
+     QT_TRANSLATE_NOOP("Text",
+                       "記録のﾌｧｲﾙが取り除かれたか、置き換えられました。これからの記録は、今この"
+                       "名前にあるﾌｧｲﾙに書き込みます。それまでの記録と日常点検の保留は、元のﾌｧｲﾙ"
+                       "にあります。\r\r%1")},
     {Message::kRecordSettingsUnreadable, title::kWarning, MessageIcon::kWarning,
      MessageButtons::kOk,
      QT_TRANSLATE_NOOP("Text",
@@ -255,6 +260,9 @@ constexpr std::array<MessageEntry, kMessageCount> kCatalogue{{
     {Message::kHistoryWriteError, title::kError, MessageIcon::kStop, MessageButtons::kOk,
      QT_TRANSLATE_NOOP("Text", "膜厚履歴ﾌｧｲﾙの書き込みに失敗しました。")},
     {Message::kFilmFitRefused, title::kError, MessageIcon::kWarning, MessageButtons::kOk, "%1"},
+    {Message::kFilmStackUnsaved, title::kMessage, MessageIcon::kQuestion,
+     MessageButtons::kYesNoCancel,
+     QT_TRANSLATE_NOOP("Text", "膜構成の変更が保存されていません。保存しますか。")},
     {Message::kFilmStackFault, title::kError, MessageIcon::kWarning, MessageButtons::kOk,
      "%1\r\r%2"},
     {Message::kStandardOutOfRange, title::kError, MessageIcon::kWarning, MessageButtons::kOk,

@@ -46,6 +46,7 @@ enum class Message : std::uint8_t {
   kRestoreDamagedSession,  ///< %1 what it holds
   kJournalWriteError,      ///< %1 path
   kRecordStoreFault,       ///< %1 path
+  kRecordStoreReplaced,    ///< %1 path
 
   // Records.
   kRecordSettingsUnreadable,  ///< %1 path
@@ -118,6 +119,7 @@ enum class Message : std::uint8_t {
   kHistoryScaleOutOfRange,
   kHistoryWriteError,
   kFilmFitRefused,  ///< %1 what is wrong with an entry
+  kFilmStackUnsaved,
   kFilmStackFault,  ///< %1 path, %2 what is wrong with it
 
   // Standards. %1 names the group, or the field.

@@ -190,6 +190,13 @@ void PrintThicknesses(const std::vector<SlotReport>& reports, const QString& uni
               .arg(result.extrema.count, 8)
               .arg(end));
   }
+  for (const SlotReport& report : reports) {
+    for (const ThicknessDoubt doubt : report.slot->doubts) {
+      Print(QStringLiteral("%1 %2: %3\n")
+                .arg(report.number, 4)
+                .arg(ThicknessDoubtName(doubt), ThicknessDoubtText(doubt)));
+    }
+  }
 }
 
 int Analyse(const QCommandLineParser& parser) {

@@ -149,11 +149,16 @@ struct Fitted {
   FilmFit fit;
 };
 
-void PrintText(const std::vector<Fitted>& fitted) {
-  QList<QStringList> rows{{QStringLiteral("slot"), QStringLiteral("outcome"),
-                           QStringLiteral("thickness[nm]"), QStringLiteral("scale"),
-                           QStringLiteral("spread"), QStringLiteral("rms[%]"),
-                           QStringLiteral("noise[%]"), QStringLiteral("sample")}};
+QString FourierText(const MeasurementSlot& slot, const FilmFitRequest& request) {
+  const QJsonValue nm = FourierJson(slot.reflectance, request)[QStringLiteral("thickness")];
+  return nm.isDouble() ? FormatNumber(nm.toDouble(), u"0.0") : QStringLiteral("-");
+}
+
+void PrintText(const std::vector<Fitted>& fitted, const FilmFitRequest& request) {
+  QList<QStringList> rows{
+      {QStringLiteral("slot"), QStringLiteral("outcome"), QStringLiteral("thickness[nm]"),
+       QStringLiteral("scale"), QStringLiteral("spread"), QStringLiteral("rms[%]"),
+       QStringLiteral("noise[%]"), QStringLiteral("fourier[nm]"), QStringLiteral("sample")}};
   for (const auto& [number, slot, fit] : fitted) {
     QStringList layers;
     for (const FittedLayer& layer : fit.layers) {
@@ -163,12 +168,13 @@ void PrintText(const std::vector<Fitted>& fitted) {
     rows.append({QString::number(number), FitOutcomeName(fit.outcome),
                  layers.join(QStringLiteral(", ")), FormatNumber(fit.scale, u"0.000"),
                  FormatNumber(fit.spread, u"0.0000"), FormatNumber(fit.rms, u"0.0000"),
-                 FormatNumber(fit.noise, u"0.0000"), slot->info.sampleNumber});
+                 FormatNumber(fit.noise, u"0.0000"), FourierText(*slot, request),
+                 slot->info.sampleNumber});
   }
   Print(TextColumns(rows));
   for (const auto& [number, slot, fit] : fitted) {
-    for (const QString& warning : fit.warnings) {
-      Print(QStringLiteral("%1  %2\n").arg(number, 2).arg(warning));
+    for (const QString& note : FitNotes(fit)) {
+      Print(QStringLiteral("%1  %2\n").arg(number, 2).arg(note));
     }
   }
 }
@@ -242,7 +248,7 @@ int Fit(const QCommandLineParser& parser) {
   if (parser.isSet(option::kJson)) {
     PrintFits(path, fitted, request);
   } else {
-    PrintText(fitted);
+    PrintText(fitted, request);
   }
   return kDone;
 }

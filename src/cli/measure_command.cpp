@@ -109,6 +109,9 @@ class Run {
                      [this, store](StoreFault fault) {
                        messages_.Tell({Message::kRecordStoreFault, {store}, StoreFaultText(fault)});
                      });
+    QObject::connect(recorder_.get(), &SessionRecorder::Replaced, recorder_.get(), [this, store] {
+      messages_.Tell({Message::kRecordStoreReplaced, {store}});
+    });
   }
 
   QCoro::Task<Status> StartController() {

@@ -57,7 +57,7 @@ int ImportFiles(const QCommandLineParser& parser, const QStringList& arguments) 
     const Answer<ChainHead> before = store.Head();
     const Answer<QList<qint64>> numbers = store.Append(*rows);
     if (!before || !numbers) {
-      return ComplainOf(path, before ? numbers.fault : before.fault);
+      return ComplainOf(StorePath(parser), before ? numbers.fault : before.fault);
     }
     for (const qint64 number : numbers.value.sliced(1)) {
       (number > before.value.number ? imported : known) += 1;

@@ -9,6 +9,7 @@
 #include "colour/colour_values.h"
 #include "files/configuration.h"
 #include "measurement/dispersion_data.h"
+#include "optics/thickness_doubts.h"
 #include "records/record_files.h"
 #include "records/result_json.h"
 #include "records/whole_record.h"
@@ -66,7 +67,13 @@ QString ResultText(const SampleRecord& sample, const QString& verdict) {
         Number(sample.thickness->thicknessNm, u"0.0") + ThicknessUnit(sample.thickness->physical),
         sample.doubts.join(u' ')};
   }
-  QStringList told = CieFailures(sample.cieGroups);
+  QStringList told;
+  for (const QString& name : sample.doubts) {
+    if (const auto doubt = ThicknessDoubtOf(name)) {
+      told << QStringLiteral("%1: %2").arg(name, ThicknessDoubtText(*doubt));
+    }
+  }
+  told << CieFailures(sample.cieGroups);
   if (sample.cie) {
     told << CieCaption(CieConditionsOf(sample.cie));
   }

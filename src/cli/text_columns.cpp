@@ -16,10 +16,23 @@ qsizetype Width(const QString& text) {
   return text.size() + std::count_if(text.begin(), text.end(), IsWide);
 }
 
+// What would end the line or move the cursor stands as a blank.
+QString OneLine(QString cell) {
+  for (QChar& letter : cell) {
+    letter = letter.isPrint() ? letter : QChar(u' ');
+  }
+  return cell;
+}
+
 }  // namespace
 
-QString TextColumns(const QList<QStringList>& rows) {
+QString TextColumns(QList<QStringList> rows) {
   QList<qsizetype> widths;
+  for (QStringList& row : rows) {
+    for (QString& cell : row) {
+      cell = OneLine(cell);
+    }
+  }
   for (const QStringList& row : rows) {
     widths.resize(std::max(widths.size(), row.size()));
     for (qsizetype i = 0; i < row.size(); ++i) {

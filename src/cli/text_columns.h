@@ -7,7 +7,8 @@
 namespace vexa::cli {
 
 /// Rows of cells as lines in aligned columns, two blanks apart. Full-width letters count as two
-/// places; a line ends with its last cell that is not empty.
-[[nodiscard]] QString TextColumns(const QList<QStringList>& rows);
+/// places, what is no printable letter is a blank; a line ends with its last cell that is not
+/// empty.
+[[nodiscard]] QString TextColumns(QList<QStringList> rows);
 
 }  // namespace vexa::cli

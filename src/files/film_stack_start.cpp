@@ -19,9 +19,6 @@ std::optional<MessageCall> TakeFilmStack(const ProgramSettings& settings, Sessio
     return refused(FilmStackFileFaultText(*fault));
   }
   const auto& setting = std::get<FilmStackSetting>(file);
-  if (const auto fault = CheckFilmFit(LayerRanges(setting), setting.options)) {
-    return refused(FilmFitFaultText(*fault));
-  }
   const auto request = ReadFilmFitRequest(setting, QFileInfo(settings.filmStack).absolutePath());
   if (const auto* fault = std::get_if<FilmMaterialFault>(&request)) {
     return refused(

@@ -12,6 +12,7 @@
 #include <thread>
 
 #include "base/translation.h"
+#include "optics/film_range.h"
 #include "optics/film_score.h"
 #include "optics/film_seeds.h"
 #include "optics/film_solver.h"
@@ -66,6 +67,18 @@ class Fitter {
         measured_(solver_.Measured()) {}
 
   FilmFit Run() {
+    FilmFit fit = Search();
+    if (fit.outcome == FitOutcome::kNone || fit.outcome == FitOutcome::kPoor) {
+      if (const auto nm = FringesOutside(spectrum_, stack_, ranges_, options_)) {
+        fit.warnings << Text::tr("約 %1 nm の膜の干渉縞がありますが、入力した膜厚の範囲の外です。")
+                            .arg(std::round(*nm));
+      }
+    }
+    return fit;
+  }
+
+ private:
+  FilmFit Search() {
     const std::vector<FilmSeed> seeds = FindFilmSeeds(spectrum_, stack_, ranges_, options_);
     if (seeds.empty() || IsHopeless(seeds.front())) {
       return NoFilm();
@@ -78,7 +91,6 @@ class Fitter {
     return Judged(found);
   }
 
- private:
   // The phase of a state in the bluest light, from the air to the substrate and back.
   [[nodiscard]] double WholePhase(const FilmState& state) const {
     double phase = 1.0;

@@ -127,6 +127,9 @@ enum class FilmFitFault {
 [[nodiscard]] QString FitOutcomeWord(FitOutcome outcome);
 [[nodiscard]] QString FitOutcomeText(FitOutcome outcome);
 
+/// What else is to be said of a fit, a line each: the next minima, the warnings.
+[[nodiscard]] QStringList FitNotes(const FilmFit& fit);
+
 /// What to tell the user.
 [[nodiscard]] QString FilmFitFaultText(FilmFitFault fault);
 

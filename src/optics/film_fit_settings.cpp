@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cmath>
 
+#include "base/number_text.h"
 #include "base/translation.h"
 #include "optics/film_fit.h"
 
@@ -113,6 +114,22 @@ QString FitOutcomeText(FitOutcome outcome) {
       break;
   }
   return Text::tr("膜が検出されません。");
+}
+
+QStringList FitNotes(const FilmFit& fit) {
+  const auto number = [](double value, QStringView pattern) {
+    return FormatNumber(value, pattern).trimmed();
+  };
+  QStringList lines;
+  for (const FitAlternative& alternative : fit.alternatives) {
+    QStringList layers;
+    for (const double nm : alternative.thicknessesNm) {
+      layers << number(nm, u"0.0");
+    }
+    lines << Text::tr("次の極小: %1 nm (残差 %2 %)")
+                 .arg(layers.join(QStringLiteral(" / ")), number(alternative.rms, u"0.000"));
+  }
+  return lines + fit.warnings;
 }
 
 QString FilmFitFaultText(FilmFitFault fault) {

@@ -14,8 +14,9 @@
 namespace vexa {
 namespace {
 
-constexpr double kThinNm = 1200.0;       // below it the transform's peaks are too wide
-constexpr double kLowestPeakNm = 600.0;  // of optical equivalents that are taken for peaks
+constexpr double kThinNm = 1200.0;        // below it the transform's peaks are too wide
+constexpr double kThinResolutions = 2.1;  // likewise, in thicknesses that it can tell apart
+constexpr double kLowestPeakNm = 600.0;   // of optical equivalents that are taken for peaks
 constexpr std::size_t kMostSeeds = 8;
 constexpr double kClearRatio = 10.0;  // of the peak of a fringe that is surely there
 constexpr std::size_t kMostCombinations = 3000;
@@ -34,6 +35,14 @@ double MeanIndex(const Material& material, const FilmFitOptions& options) {
 double OrderNm(const Material& layer, const FilmFitOptions& options) {
   const double middleNm = 2.0 / (1.0 / options.fromNm + 1.0 / options.toNm);
   return middleNm / (2.0 * MeanIndex(layer, options));
+}
+
+// Below it the transform does not tell where a layer's fringes are: 1.2 um over the whole spectrum,
+// more over fewer wavelengths.
+double ThinNm(const Material& layer, const FilmFitOptions& options) {
+  const double resolution =
+      1.0 / (MeanIndex(layer, options) * (1.0 / options.fromNm - 1.0 / options.toNm));
+  return std::max(kThinNm, kThinResolutions * resolution);
 }
 
 // Keeps the best of the seeds that are nearer to one another than a quarter of an order.
@@ -67,6 +76,7 @@ class Search {
         fine_(spectrum, stack, options, 1),
         coarse_(spectrum, stack, options, options.toNm - options.fromNm >= 160 ? 4 : 1) {
     for (std::size_t j = 0; j < ranges.size(); ++j) {
+      thinNm_ = std::max(thinNm_, ThinNm(stack.layers[j], options));
       orders_.push_back(OrderNm(stack.layers[j], options));
       start_.push_back(ranges[j].fromNm);
       if (!ranges[j].IsFixed()) {
@@ -103,7 +113,7 @@ class Search {
       return;
     }
     if (const FourierPeak& first = transform->peaks.front();
-        first.ratio > kClearRatio && first.thicknessNm > kThinNm) {
+        first.ratio > kClearRatio && first.thicknessNm > thinNm_) {
       strongest_ = first.thicknessNm;
     }
     for (const FourierPeak& peak : transform->peaks) {
@@ -137,7 +147,7 @@ class Search {
       at[layer] = nm;
       FilmSeed seed{at, 0.0, 1.0};
       seed.sumOfSquares =
-          nm > kThinNm && free_.size() == 1 ? score.Damped(at, seed.visibility) : score(at);
+          nm > thinNm_ && free_.size() == 1 ? score.Damped(at, seed.visibility) : score(at);
       return seed;
     };
     std::vector<FilmSeed> line;
@@ -178,7 +188,7 @@ class Search {
       return;
     }
     std::vector<FilmSeed> thin;
-    Scan(coarse_, start_, layer, range.fromNm, kThinNm + order, step, thin);
+    Scan(coarse_, start_, layer, range.fromNm, thinNm_ + order, step, thin);
     for (FilmSeed& seed : Distinct(std::move(thin), orders_, kMostSeeds)) {
       seed.sumOfSquares = fine_(seed.thicknessesNm);
       seeds.push_back(seed);
@@ -187,7 +197,7 @@ class Search {
     candidates.resize(std::min<std::size_t>(candidates.size(), 4));
     AddByKnownLayers(layer, candidates);
     for (const double peak : candidates) {
-      if (peak > kThinNm) {
+      if (peak > thinNm_) {
         Scan(fine_, start_, layer, peak - order, peak + order, step, seeds);
       }
     }
@@ -355,6 +365,7 @@ class Search {
   const FilmFitOptions& options_;
   FilmScore fine_;
   FilmScore coarse_;
+  double thinNm_ = kThinNm;
   std::vector<double> orders_;
   std::vector<double> start_;
   std::vector<std::size_t> free_;

@@ -85,7 +85,7 @@ FilmStackSetting SettingOf(const QJsonObject& object) {
   FilmStackSetting setting;
   setting.substrate = MaterialText(object, "substrate");
   const QJsonValue layers = object[QLatin1String("layers")];
-  if (!layers.isArray() || static_cast<std::size_t>(layers.toArray().size()) > kMostFilmLayers) {
+  if (!layers.isArray()) {
     throw WrongValue();
   }
   for (const auto& value : layers.toArray()) {
@@ -114,7 +114,11 @@ std::variant<FilmStackSetting, FilmStackFileFault> ReadFilmStackFile(const QStri
     return FilmStackFileFault::kVersion;
   }
   try {
-    return SettingOf(object);
+    FilmStackSetting setting = SettingOf(object);
+    if (CheckFilmFit(LayerRanges(setting), setting.options)) {
+      return FilmStackFileFault::kValue;
+    }
+    return setting;
   } catch (const WrongValue&) {
     return FilmStackFileFault::kValue;
   }

@@ -30,7 +30,7 @@ enum class FilmStackFileFault {
   kUnreadable,  ///< the file is not there or cannot be read
   kNoStack,     ///< it is no JSON of this kind
   kVersion,     ///< it was written by a later version
-  kValue,       ///< a value is missing, of another type, or more than four layers
+  kValue,       ///< a value is missing, of another type, or what FitFilm refuses
 };
 
 /// Reads a *.flm file: JSON in UTF-8, units in the names. The materials are kept as texts; what

@@ -6,6 +6,7 @@
 #include <algorithm>
 #include <cmath>
 #include <optional>
+#include <span>
 #include <vector>
 
 #include "base/number_text.h"
@@ -153,6 +154,28 @@ Result ReadMaterial(const QString& text, const QString& directory) {
     }
   }
   return MaterialFault::kText;
+}
+
+QString MaterialText(const DispersionSetting& coat) {
+  const auto formula = [](const char* name, std::span<const double> numbers) {
+    QStringList texts;
+    for (const double number : numbers) {
+      texts << SignedText(number).trimmed();
+    }
+    return QLatin1String(name) + texts.join(u',');
+  };
+  switch (coat.kind) {
+    case DispersionKind::kFixedValue:
+      return SignedText(coat.fixedValue).trimmed();
+    case DispersionKind::kSchott:
+      return formula("schott:", coat.schott);
+    case DispersionKind::kSellmeier:
+      return formula("sellmeier:", coat.sellmeier);
+    case DispersionKind::kIndexFile:
+      return coat.indexFileName;
+    default:
+      return QStringLiteral("1.6");
+  }
 }
 
 QString MaterialFaultText(MaterialFault fault) {

@@ -6,6 +6,7 @@
 #include <variant>
 
 #include "base/spectrum.h"
+#include "optics/dispersion_setting.h"
 
 namespace vexa {
 
@@ -35,6 +36,9 @@ enum class MaterialFault {
 /// names of the formulas may be in any case.
 [[nodiscard]] std::variant<Material, MaterialFault> ReadMaterial(const QString& text,
                                                                  const QString& directory);
+
+/// The text of the material of a coat; "1.6" where the setting names none.
+[[nodiscard]] QString MaterialText(const DispersionSetting& coat);
 
 /// What to tell the user.
 [[nodiscard]] QString MaterialFaultText(MaterialFault fault);

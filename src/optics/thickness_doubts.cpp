@@ -209,6 +209,17 @@ QString ThicknessDoubtName(ThicknessDoubt doubt) {
   return {};
 }
 
+std::optional<ThicknessDoubt> ThicknessDoubtOf(const QString& name) {
+  for (const ThicknessDoubt doubt :
+       {ThicknessDoubt::kEdge, ThicknessDoubt::kDuplicate, ThicknessDoubt::kSpacing,
+        ThicknessDoubt::kNoise, ThicknessDoubt::kDisagrees}) {
+    if (ThicknessDoubtName(doubt) == name) {
+      return doubt;
+    }
+  }
+  return std::nullopt;
+}
+
 QString ThicknessDoubtText(ThicknessDoubt doubt) {
   switch (doubt) {
     case ThicknessDoubt::kEdge:

@@ -3,6 +3,7 @@
 
 #include <QString>
 #include <cstdint>
+#include <optional>
 #include <vector>
 
 #include "base/spectrum.h"
@@ -31,6 +32,9 @@ enum class ThicknessDoubt {
 
 /// "edge", "duplicate", "spacing", "noise", "disagrees".
 [[nodiscard]] QString ThicknessDoubtName(ThicknessDoubt doubt);
+
+/// The doubt of that name; nothing for another text.
+[[nodiscard]] std::optional<ThicknessDoubt> ThicknessDoubtOf(const QString& name);
 
 /// The doubt in words, for the user.
 [[nodiscard]] QString ThicknessDoubtText(ThicknessDoubt doubt);

@@ -105,14 +105,13 @@ std::optional<CheckLimits> LimitsOf(const EventRecord& event) {
   return limits;
 }
 
-/// The events of a type at a station, the newest first.
+/// The events of a type, the newest first.
 Answer<QList<std::pair<StoredRow, EventRecord>>> EventsOf(const RecordStore& store,
-                                                          const QString& type,
-                                                          const QString& station) {
+                                                          const QString& type) {
   const Answer<QList<StoredRow>> rows = store.Events(type, {}, kMostChecks);
   Answer<QList<std::pair<StoredRow, EventRecord>>> events{{}, rows.fault};
   for (const StoredRow& row : rows.value) {
-    if (const auto event = ToEvent(row.row); event && event->station == station) {
+    if (const auto event = ToEvent(row.row)) {
       events.value.append({row, *event});
     }
   }
@@ -148,16 +147,16 @@ std::vector<DailyCheck> DailyCheckHistory::Checks() const {
   return all;
 }
 
-Answer<DailyCheckHistory> LoadDailyChecks(const QString& storePath, const QString& station) {
+Answer<DailyCheckHistory> LoadDailyChecks(const QString& storePath) {
   RecordStore store;
   if (const StoreFault fault = store.Open(storePath, RecordStore::Mode::kRead);
       fault != StoreFault::kNone) {
     return {{}, fault == StoreFault::kMissing ? StoreFault::kNone : fault};
   }
-  const auto checks = EventsOf(store, kCheck, station);
-  const auto limits = EventsOf(store, kLimits, station);
-  const auto releases = EventsOf(store, event_type::kDailyRelease, station);
-  const auto settings = EventsOf(store, kSettings, station);
+  const auto checks = EventsOf(store, kCheck);
+  const auto limits = EventsOf(store, kLimits);
+  const auto releases = EventsOf(store, event_type::kDailyRelease);
+  const auto settings = EventsOf(store, kSettings);
   Answer<DailyCheckHistory> answer;
   for (const StoreFault fault : {checks.fault, limits.fault, releases.fault, settings.fault}) {
     if (fault != StoreFault::kNone) {
@@ -192,9 +191,8 @@ Answer<DailyCheckHistory> LoadDailyChecks(const QString& storePath, const QStrin
   return answer;
 }
 
-Answer<std::optional<VerdictHold>> FindVerdictHold(const QString& storePath,
-                                                   const QString& station) {
-  const Answer<DailyCheckHistory> history = LoadDailyChecks(storePath, station);
+Answer<std::optional<VerdictHold>> FindVerdictHold(const QString& storePath) {
+  const Answer<DailyCheckHistory> history = LoadDailyChecks(storePath);
   return {history.value.hold, history.fault};
 }
 

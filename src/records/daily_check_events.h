@@ -46,14 +46,12 @@ struct DailyCheckHistory {
   [[nodiscard]] std::vector<DailyCheck> Checks() const;
 };
 
-/// Reads the events of that station. A store without any, or that is not there yet, has an empty
-/// history.
-[[nodiscard]] Answer<DailyCheckHistory> LoadDailyChecks(const QString& storePath,
-                                                        const QString& station);
+/// Reads the checks of a store: all are of the one instrument of its directory, whatever the
+/// station was called. A store without any, or that is not there yet, has an empty history.
+[[nodiscard]] Answer<DailyCheckHistory> LoadDailyChecks(const QString& storePath);
 
-/// Whether the verdicts of lots are held now at that station, and why.
-[[nodiscard]] Answer<std::optional<VerdictHold>> FindVerdictHold(const QString& storePath,
-                                                                 const QString& station);
+/// Whether the verdicts of lots are held now, and why.
+[[nodiscard]] Answer<std::optional<VerdictHold>> FindVerdictHold(const QString& storePath);
 
 /// Who decides what, when, and why.
 struct Decision {

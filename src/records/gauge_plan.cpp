@@ -77,6 +77,10 @@ void TakeReadings(const QList<StoredRow>& rows, GaugeSession& session) {
     std::optional<double>& value = session.values[static_cast<std::size_t>(place)];
     if (const QJsonValue read = event->data[QStringLiteral("value")]; !value && read.isDouble()) {
       value = read.toDouble();
+      const QString conditions = event->data[QStringLiteral("cieConditions")].toString();
+      if (!conditions.isEmpty() && !session.cieConditions.contains(conditions)) {
+        session.cieConditions << conditions;
+      }
     }
   }
 }
@@ -134,7 +138,7 @@ std::size_t GaugeSession::Done() const {
 }
 
 GaugeReadings ReadingsOf(const GaugeSession& session) {
-  GaugeReadings readings{{}, session.plan.operators, {}};
+  GaugeReadings readings{session.plan.value, {}, session.plan.operators, {}, session.cieConditions};
   for (int part = 1; part <= session.plan.parts; ++part) {
     readings.parts << QString::number(part);
   }
@@ -145,11 +149,16 @@ GaugeReadings ReadingsOf(const GaugeSession& session) {
           {session.order[i].part, session.order[i].gaugeOperator, *session.values[i]});
     }
   }
+  if (IsHue(readings.value.quantity)) {
+    JoinHues(readings.readings, &statistics::GaugeReading::value);
+  }
   return readings;
 }
 
-GaugeReadings ReadingsOf(const ValueSeries& series) {
+GaugeReadings ReadingsOf(const ValueSeries& series, const RecordValue& value) {
   GaugeReadings readings;
+  readings.value = value;
+  readings.cieConditions = series.cieConditions;
   readings.readings.reserve(series.points.size());
   for (const ValuePoint& point : series.points) {
     readings.readings.push_back({PlaceOf(readings.parts, point.sampleNumber),
@@ -158,8 +167,7 @@ GaugeReadings ReadingsOf(const ValueSeries& series) {
   return readings;
 }
 
-Answer<std::vector<GaugeSession>> LoadGaugeSessions(const QString& storePath,
-                                                    const QString& station) {
+Answer<std::vector<GaugeSession>> LoadGaugeSessions(const QString& storePath) {
   RecordStore store;
   if (const StoreFault fault = store.Open(storePath, RecordStore::Mode::kRead);
       fault != StoreFault::kNone) {
@@ -169,8 +177,7 @@ Answer<std::vector<GaugeSession>> LoadGaugeSessions(const QString& storePath,
   Answer<std::vector<GaugeSession>> sessions{{}, plans.fault};
   for (const StoredRow& row : plans.value) {
     const std::optional<EventRecord> event = ToEvent(row.row);
-    const std::optional<GaugePlan> plan =
-        event && event->station == station ? PlanOf(row, *event) : std::nullopt;
+    const std::optional<GaugePlan> plan = event ? PlanOf(row, *event) : std::nullopt;
     if (!plan) {
       continue;
     }
@@ -201,20 +208,22 @@ EventRecord PlanEvent(const GaugePlan& plan, const QString& station) {
   return event;
 }
 
-EventRecord ReadingEvent(const GaugePlan& plan, std::size_t place, double value,
-                         const QString& sampleId, const QDateTime& time, const QString& station) {
+EventRecord ReadingEvent(const GaugePlan& plan, const PlannedReading& reading) {
   EventRecord event;
   event.type = kReading;
   event.subject = plan.id;
-  event.station = station;
-  event.time = time;
-  const GaugeTask task = OrderOf(plan)[place];
+  event.station = reading.station;
+  event.time = reading.time;
+  const GaugeTask task = OrderOf(plan)[reading.place];
   event.operatorName = plan.operators[task.gaugeOperator];
-  event.data = {{QStringLiteral("place"), static_cast<qint64>(place)},
+  event.data = {{QStringLiteral("place"), static_cast<qint64>(reading.place)},
                 {QStringLiteral("part"), task.part + 1},
                 {QStringLiteral("repeat"), task.repeat + 1},
-                {QStringLiteral("sample"), sampleId},
-                {QStringLiteral("value"), value}};
+                {QStringLiteral("sample"), reading.sampleId},
+                {QStringLiteral("value"), reading.value}};
+  if (!reading.cieConditions.isEmpty()) {
+    event.data[QStringLiteral("cieConditions")] = reading.cieConditions;
+  }
   return event;
 }
 

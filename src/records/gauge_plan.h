@@ -51,6 +51,7 @@ struct GaugeSession {
   GaugePlan plan;
   std::vector<GaugeTask> order;
   std::vector<std::optional<double>> values;  ///< in that order
+  QStringList cieConditions;                  ///< of CIE values, each once
 
   explicit GaugeSession(const GaugePlan& measured);
 
@@ -59,27 +60,36 @@ struct GaugeSession {
   [[nodiscard]] std::size_t Done() const;
 };
 
-/// Readings with the names of their parts and operators.
+/// Readings with the names of their parts and operators, and what they are of.
 struct GaugeReadings {
+  RecordValue value;
   QStringList parts;
   QStringList operators;
-  std::vector<statistics::GaugeReading> readings;  ///< by the places of the names
+  std::vector<statistics::GaugeReading> readings;  ///< by the places of the names; see JoinHues
+  QStringList cieConditions;                       ///< of CIE values, each once
+};
+
+/// What one measurement of a plan gave.
+struct PlannedReading {
+  std::size_t place = 0;  ///< in the order
+  double value = 0.0;
+  QString sampleId;
+  QString cieConditions;  ///< empty unless the value is a CIE one
+  QDateTime time;
+  QString station;
 };
 
 [[nodiscard]] GaugeReadings ReadingsOf(const GaugeSession& session);
-/// Of records: the sample number is the part.
-[[nodiscard]] GaugeReadings ReadingsOf(const ValueSeries& series);
+/// Of the values of records: the sample number is the part.
+[[nodiscard]] GaugeReadings ReadingsOf(const ValueSeries& series, const RecordValue& value);
 
-/// The studies of a station, the newest first; without a store there are none.
-[[nodiscard]] Answer<std::vector<GaugeSession>> LoadGaugeSessions(const QString& storePath,
-                                                                  const QString& station);
+/// The studies of a store, the newest first; without a store there are none.
+[[nodiscard]] Answer<std::vector<GaugeSession>> LoadGaugeSessions(const QString& storePath);
 
 /// The events of a study: its plan, and one measurement of it. A later measurement of the same
 /// place stands for the earlier one.
 [[nodiscard]] EventRecord PlanEvent(const GaugePlan& plan, const QString& station);
-[[nodiscard]] EventRecord ReadingEvent(const GaugePlan& plan, std::size_t place, double value,
-                                       const QString& sampleId, const QDateTime& time,
-                                       const QString& station);
+[[nodiscard]] EventRecord ReadingEvent(const GaugePlan& plan, const PlannedReading& reading);
 
 /// The sample number of a measurement: name and place from 1, which tell nothing of the part. Its
 /// reading names the record and the part.

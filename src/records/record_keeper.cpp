@@ -74,6 +74,9 @@ StoreFault RecordKeeper::Store(const QList<Row>& rows) {
         fault != StoreFault::kNone) {
       return fault;
     }
+    if (store_.IsOther()) {
+      emit Replaced();
+    }
   }
   const StoreFault fault = store_.Append(rows).fault;
   if (fault != StoreFault::kNone && fault != StoreFault::kLocked) {

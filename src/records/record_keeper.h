@@ -40,6 +40,7 @@ class RecordKeeper : public QObject {
   void Faulted(vexa::StoreFault fault);  ///< the first time that rows were not stored
   void Paid();                           ///< all that was owed is in the store
   void Stored();                         ///< rows came into the store
+  void Replaced();  ///< the store that took rows before is gone; they go into what has its name now
 
  private:
   [[nodiscard]] StoreFault Store(const QList<Row>& rows);

@@ -15,6 +15,8 @@
 namespace vexa {
 
 StoreFault RecordStore::Open(const QString& path, Mode mode, int waitMs) {
+  // Looked at while the earlier file is still open: a new one cannot have its number yet.
+  const bool isOther = path == path_ && identity_ && IdentityOf(path) != identity_;
   path_ = path;
   if (mode == Mode::kRead && !QFileInfo::exists(path)) {
     return StoreFault::kMissing;
@@ -30,7 +32,8 @@ StoreFault RecordStore::Open(const QString& path, Mode mode, int waitMs) {
     Close();
     return fault != StoreFault::kNone ? fault : StoreFault::kMissing;
   }
-  identity_ = *identity;
+  identity_ = identity;
+  isOther_ = isOther;
   return StoreFault::kNone;
 }
 

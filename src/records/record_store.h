@@ -47,6 +47,10 @@ class RecordStore : public RecordSource {
   [[nodiscard]] StoreFault Open(const QString& path, Mode mode, int waitMs = kWaitMs);
   void Close();
 
+  /// The file that was opened is another than the one of that name that was open before: somebody
+  /// has removed, moved or replaced it.
+  [[nodiscard]] bool IsOther() const { return isOther_; }
+
   /// Open, and the file still has its name.
   [[nodiscard]] bool IsInPlace() const;
 
@@ -103,7 +107,8 @@ class RecordStore : public RecordSource {
   std::optional<HeldFile> held_;  ///< as long as the database is open
   SqlSession session_;
   QString path_;
-  FileIdentity identity_;
+  std::optional<FileIdentity> identity_;  ///< of the file opened last
+  bool isOther_ = false;
 };
 
 /// The head of the store of that path; nothing when it has no rows, or cannot be read at once.

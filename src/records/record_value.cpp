@@ -30,7 +30,7 @@ constexpr const char* kNm = "nm";
 constexpr const char* kDegrees = "°";
 
 constexpr std::array<QuantityEntry, kQuantityCount> kQuantities{{
-    {Quantity::kLuminousReflectance, "Rv", QT_TRANSLATE_NOOP("Text", "視感反射率 Y (装置固有)"),
+    {Quantity::kLuminousReflectance, "Y", QT_TRANSLATE_NOOP("Text", "視感反射率 Y (装置固有)"),
      kPercent, &ColourResult::Y, nullptr, true},
     {Quantity::kAverageReflectance, "Rm", QT_TRANSLATE_NOOP("Text", "平均反射率"), kPercent,
      &ColourResult::Rm, nullptr, true},
@@ -224,7 +224,7 @@ Answer<ValueSeries> LoadSeries(const RecordSource& source, RecordQuery query,
   });
   std::ranges::reverse(series.value.points);
   if (IsHue(value.quantity)) {
-    JoinHues(series.value.points);
+    JoinHues(series.value.points, &ValuePoint::value);
   }
   return series;
 }
@@ -240,19 +240,9 @@ statistics::SpecificationLimits NearestTurn(statistics::SpecificationLimits limi
   return limits;
 }
 
-void JoinHues(std::vector<ValuePoint>& points) {
-  constexpr double kRadian = std::numbers::pi / 180.0;
-  double sines = 0.0;
-  double cosines = 0.0;
-  for (const ValuePoint& point : points) {
-    sines += std::sin(point.value * kRadian);
-    cosines += std::cos(point.value * kRadian);
-  }
-  double mean = std::atan2(sines, cosines) / kRadian;
-  mean += mean < 0.0 ? 360.0 : 0.0;
-  for (ValuePoint& point : points) {
-    point.value -= 360.0 * std::round((point.value - mean) / 360.0);
-  }
+double MeanHue(double sines, double cosines) {
+  const double mean = std::atan2(sines, cosines) * 180.0 / std::numbers::pi;
+  return mean < 0.0 ? mean + 360.0 : mean;
 }
 
 }  // namespace vexa

@@ -4,7 +4,9 @@
 #include <QList>
 #include <QString>
 #include <QStringList>
+#include <cmath>
 #include <functional>
+#include <numbers>
 #include <optional>
 #include <vector>
 
@@ -110,7 +112,23 @@ struct ValueSeries {
 [[nodiscard]] statistics::SpecificationLimits NearestTurn(statistics::SpecificationLimits limits,
                                                           double hue);
 
+/// The direction of a sum of unit vectors, in degrees from 0 to 360.
+[[nodiscard]] double MeanHue(double sines, double cosines);
+
 /// Hue angles in degrees put beside their mean direction, as LoadSeries does.
-void JoinHues(std::vector<ValuePoint>& points);
+template <typename Point>
+void JoinHues(std::vector<Point>& points, double Point::*hue) {
+  constexpr double kRadian = std::numbers::pi / 180.0;
+  double sines = 0.0;
+  double cosines = 0.0;
+  for (const Point& point : points) {
+    sines += std::sin(point.*hue * kRadian);
+    cosines += std::cos(point.*hue * kRadian);
+  }
+  const double mean = MeanHue(sines, cosines);
+  for (Point& point : points) {
+    point.*hue -= 360.0 * std::round((point.*hue - mean) / 360.0);
+  }
+}
 
 }  // namespace vexa

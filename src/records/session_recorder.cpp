@@ -9,6 +9,7 @@ SessionRecorder::SessionRecorder(Session& session, const QString& storePath, Rec
     : session_(session), context_(std::move(context)), keeper_(storePath) {
   connect(&keeper_, &RecordKeeper::Faulted, this, &SessionRecorder::Faulted);
   connect(&keeper_, &RecordKeeper::Paid, this, &SessionRecorder::Paid);
+  connect(&keeper_, &RecordKeeper::Replaced, this, &SessionRecorder::Replaced);
   connect(&session, &Session::FrameChanged, this, &SessionRecorder::KeepFrame);
   connect(&session, &Session::SampleStored, this, &SessionRecorder::KeepSample);
 }

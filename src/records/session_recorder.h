@@ -39,6 +39,7 @@ class SessionRecorder : public QObject {
  signals:
   void Faulted(vexa::StoreFault fault);  ///< the first time that something was not stored
   void Paid();                           ///< all that was owed is in the store
+  void Replaced();  ///< the store that took records before is gone, and another has its name
 
  private:
   void KeepFrame(FrameKind kind);

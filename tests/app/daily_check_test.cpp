@@ -76,12 +76,7 @@ class StudyOnInstrument : public test::WindowTest {
     Step();
   }
 
-  DailyCheckHistory History() {
-    return LoadDailyChecks(RecordStorePath(files.Directory()), Station()).value;
-  }
-  QString Station() {
-    return ReadRecordSettings(files.Directory()).value_or(RecordSettings()).station;
-  }
+  DailyCheckHistory History() { return LoadDailyChecks(RecordStorePath(files.Directory())).value; }
 
   // Presses the button, gives the reason, and presses OK.
   void Decide(const char* button, const char* reason) {
@@ -185,7 +180,7 @@ TEST_F(StudyOnInstrument, AGaugeStudyShowsNobodyWhatItMeasures) {
   const QList<RecordSummary> records = store.Search(query).value;
   ASSERT_EQ(records.size(), 3);
   EXPECT_EQ(records.constFirst().sampleNumber, QStringLiteral("GRR 3")) << "not the part";
-  const auto sessions = LoadGaugeSessions(RecordStorePath(files.Directory()), Station()).value;
+  const auto sessions = LoadGaugeSessions(RecordStorePath(files.Directory())).value;
   ASSERT_EQ(sessions.size(), 1U);
   EXPECT_EQ(sessions.front().Done(), 3U);
   const auto reading = ToEvent(store.Events(QStringLiteral("gauge-reading"), {}, 1).value[0].row);

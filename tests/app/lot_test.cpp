@@ -246,7 +246,7 @@ TEST_F(LotMeasuring, AHeldVerdictCountsOnNeitherSideUntilItIsReleased) {
   EXPECT_EQ(LotText("LotYield"), "歩留り -");
   EXPECT_EQ(LotText("LotCounts"), "レンズ 1   OK 0   NG 0   保留 1");
   EXPECT_EQ(test::Child<QTableWidget>(*lots, "LotLast").item(0, 1)->text(), QStringLiteral("保留"));
-  const auto hold = FindVerdictHold(store, station).value;
+  const auto hold = FindVerdictHold(store).value;
   ASSERT_TRUE(hold);
   ASSERT_TRUE(KeepEvent(store, ReleaseEvent(*hold, {station, QStringLiteral("品質"),
                                                     QStringLiteral("ﾗﾝﾌﾟ確認"), now})));

@@ -41,8 +41,8 @@ class DailyChecks : public testing::Test {
 
   void KeepRed(int day) { Keep(CheckEvent({Check(day, 9.0), {kRed, {{kLamp840, 1}}}}, station)); }
 
-  std::optional<VerdictHold> Hold(const QString& at) const {
-    const auto hold = FindVerdictHold(path, at);
+  std::optional<VerdictHold> Hold() const {
+    const auto hold = FindVerdictHold(path);
     EXPECT_TRUE(hold);
     return hold.value;
   }
@@ -120,24 +120,23 @@ TEST_F(DailyChecks, ACheckIsRedByTheRuleThatItBreaks) {
 }
 
 TEST_F(DailyChecks, ARedCheckHoldsTheVerdictsOfItsStationUntilItIsReleased) {
-  EXPECT_FALSE(Hold(station)) << "no store yet";
+  EXPECT_FALSE(Hold()) << "no store yet";
   Keep(CheckEvent({Check(1, 0.0), {kGreen, {}}}, station));
-  EXPECT_FALSE(Hold(station));
+  EXPECT_FALSE(Hold());
   KeepRed(2);
-  ASSERT_TRUE(Hold(station));
-  EXPECT_EQ(Hold(station)->findings, (std::vector<CheckFinding>{{kLamp840, 1}}));
-  EXPECT_TRUE(Hold(station)->Why().contains(QStringLiteral("840 nm")));
-  EXPECT_FALSE(Hold(QStringLiteral("2号機")));
-  Keep(ReleaseEvent(*Hold(station), Decide(2)));
-  EXPECT_FALSE(Hold(station));
+  ASSERT_TRUE(Hold());
+  EXPECT_EQ(Hold()->findings, (std::vector<CheckFinding>{{kLamp840, 1}}));
+  EXPECT_TRUE(Hold()->Why().contains(QStringLiteral("840 nm")));
+  Keep(ReleaseEvent(*Hold(), Decide(2)));
+  EXPECT_FALSE(Hold());
   KeepRed(3);
-  EXPECT_TRUE(Hold(station)) << "a release is for one check";
+  EXPECT_TRUE(Hold()) << "a release is for one check";
   Keep(SettingsEvent({{440, 550, 840}, false}, Decide(3)));
-  EXPECT_FALSE(Hold(station)) << "switched off";
+  EXPECT_FALSE(Hold()) << "switched off";
   Keep(SettingsEvent({{440, 550, 840}, true}, Decide(4)));
-  EXPECT_TRUE(Hold(station));
-  Keep(CheckEvent({Check(5, 0.0), {kGreen, {}}}, station));
-  EXPECT_FALSE(Hold(station)) << "the next check is green";
+  EXPECT_TRUE(Hold());
+  Keep(CheckEvent({Check(5, 0.0), {kGreen, {}}}, QStringLiteral("2号機")));
+  EXPECT_FALSE(Hold()) << "the next check is green, whatever the station is called by then";
 }
 
 TEST_F(DailyChecks, ASearchTellsWhoseVerdictIsHeldUntilItsCheckIsReleased) {
@@ -147,7 +146,7 @@ TEST_F(DailyChecks, ASearchTellsWhoseVerdictIsHeldUntilItsCheckIsReleased) {
   const QList<Row> free = test::SampleRows(2);
   ASSERT_TRUE(store.Append(held + free));
   KeepRed(1);
-  const VerdictHold hold = *Hold(station);
+  const VerdictHold hold = *Hold();
   Keep(HeldEvent(hold, held.constLast().id, Decide(1)));
   const auto heldBy = [&store](const QString& id) {
     RecordQuery query;
@@ -173,7 +172,7 @@ TEST_F(DailyChecks, WhatIsKeptComesBack) {
   Keep(CheckEvent({broken, {kRed, {{kThirdReflectance, 1}}}}, station));
   Keep(LimitsEvent(*limits, Decide(20)));
   Keep(SettingsEvent({{441, 600, 839}, false}, Decide(21)));
-  const auto loaded = LoadDailyChecks(path, station);
+  const auto loaded = LoadDailyChecks(path);
   ASSERT_TRUE(loaded);
   const DailyCheckHistory& history = loaded.value;
   ASSERT_EQ(history.checks.size(), 4U);

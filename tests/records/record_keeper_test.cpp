@@ -106,8 +106,12 @@ TEST_F(Keeper, NewStoreTakesThePlaceOfADeletedOne) {
   for (const char* suffix : {"", "-wal", "-shm"}) {
     QFile::remove(path + QLatin1String(suffix));
   }
+  int replaced = 0;
+  QObject::connect(&keeper, &RecordKeeper::Replaced, &keeper, [&replaced] { ++replaced; });
   ASSERT_EQ(keeper.Keep({Sample(2)}), Kept::kStored);
-  EXPECT_EQ(Ids(), QStringList{Sample(2).id});
+  ASSERT_EQ(keeper.Keep({Sample(3)}), Kept::kStored);
+  EXPECT_EQ(Ids(), (QStringList{Sample(2).id, Sample(3).id}));
+  EXPECT_EQ(replaced, 1) << "told once";
 }
 
 TEST(OwedRowsFile, DamageCostsItsOwnEntryAlone) {

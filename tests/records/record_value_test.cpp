@@ -22,7 +22,7 @@ TEST(RecordValue, EachQuantityHasItsPlaceInTheRecord) {
   };
   for (const Case& c :
        {Case{"L", 1.0}, Case{"a", 2.0}, Case{"b", 3.0}, Case{"C", 4.0}, Case{"h", 5.0},
-        Case{"Rm", 6.0}, Case{"Rv", 7.0}, Case{"reflectance", 8.0}, Case{"thickness", 9.0},
+        Case{"Rm", 6.0}, Case{"Y", 7.0}, Case{"reflectance", 8.0}, Case{"thickness", 9.0},
         Case{"cieRv", 10.0}, Case{"cieH", std::nullopt}, Case{"cieL", std::nullopt}}) {
     const auto quantity = QuantityOf(QLatin1String(c.key));
     ASSERT_TRUE(quantity) << c.key;
@@ -40,7 +40,7 @@ TEST(RecordValue, EachQuantityHasItsPlaceInTheRecord) {
   sample.thickness.reset();
   EXPECT_FALSE(ValueOf(sample, {Quantity::kThickness}));
   EXPECT_FALSE(ValueOf(sample, {Quantity::kCieLuminousReflectance}));
-  EXPECT_FALSE(QuantityOf(QStringLiteral("Y")));
+  EXPECT_FALSE(QuantityOf(QStringLiteral("Rv"))) << "the instrument's own Y is none";
 }
 
 TEST(RecordValue, LimitsAreThoseOfTheStandardForTheSameValue) {
@@ -129,7 +129,7 @@ TEST(RecordValue, HuesAboutZeroDoNotBreak) {
       series.points.push_back({});
       series.points.back().value = hue;
     }
-    JoinHues(series.points);
+    JoinHues(series.points, &ValuePoint::value);
     EXPECT_EQ(series.Values(), c.joined);
   }
 }

@@ -112,7 +112,7 @@ TEST(ChartStudy, MarksGroupsBaselineAndFileRows) {
   EXPECT_EQ(GroupTable(study).rows[1][1], QStringLiteral("10"));
   const QList<QStringList> rows = FileRows(study, series);
   ASSERT_EQ(rows.size(), 21);
-  EXPECT_EQ(rows[18].mid(6).join(u' '), QStringLiteral("9 8 1"));
+  EXPECT_EQ(rows[18].mid(6).join(u' '), QStringLiteral("9 8 1 MR"));
   EXPECT_EQ(StudyChart(series, {{Quantity::kB}, Grouping::kDay, false, 21, {}}).refusal.isEmpty(),
             false)
       << "a baseline longer than the series";
@@ -265,7 +265,7 @@ TEST_F(ControlChart, PrintsAndSaves) {
   Press("SaveChart");
   const QList<QByteArray> lines = files.Read("chart.csv").split('\n');
   ASSERT_EQ(lines.size(), 32);
-  EXPECT_TRUE(lines[0].startsWith("point,time,station,lot,operator,sample,Rv"));
+  EXPECT_TRUE(lines[0].startsWith("point,time,station,lot,operator,sample,Y"));
   dialogs.save = SaveChoice{files.Path("chart.pdf")};
   Press("PrintChart");
   EXPECT_TRUE(test::PdfPages(files.Path("chart.pdf")).join(u' ').contains(QStringLiteral("UCL")));
@@ -357,8 +357,12 @@ class GaugeStudyTest : public test::WindowTest {
   void KeepReadings(const GaugePlan& plan, std::size_t from, std::size_t to) {
     const std::vector<GaugeTask> order = OrderOf(plan);
     for (std::size_t place = from; place < to; ++place) {
-      ASSERT_TRUE(KeepEvent(path, ReadingEvent(plan, place, Reading(order[place]), {},
-                                               plan.begun.addSecs(60), QStringLiteral("1号機"))));
+      ASSERT_TRUE(KeepEvent(path, ReadingEvent(plan, {place,
+                                                      Reading(order[place]),
+                                                      {},
+                                                      {},
+                                                      plan.begun.addSecs(60),
+                                                      QStringLiteral("1号機")})));
     }
   }
   void Choose(int study) {

@@ -63,15 +63,7 @@ QString WordsOf(const FilmFit& fit) {
   }
   lines << Text::tr("残差 %1 %   ノイズ %2 %")
                .arg(Number(fit.rms, u"0.000"), Number(fit.noise, u"0.000"));
-  for (const FitAlternative& alternative : fit.alternatives) {
-    QStringList layers;
-    for (const double nm : alternative.thicknessesNm) {
-      layers << Number(nm, u"0.0");
-    }
-    lines << Text::tr("次の極小: %1 nm (残差 %2 %)")
-                 .arg(layers.join(QStringLiteral(" / ")), Number(alternative.rms, u"0.000"));
-  }
-  return (lines + fit.warnings).join(u'\n');
+  return (lines + FitNotes(fit)).join(u'\n');
 }
 
 }  // namespace

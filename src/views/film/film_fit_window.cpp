@@ -7,15 +7,17 @@
 #include <QFileInfo>
 #include <QFrame>
 #include <QHBoxLayout>
+#include <QPointer>
 #include <QScreen>
 #include <QShortcut>
 #include <QSplitter>
 #include <QStyle>
 #include <QVBoxLayout>
+#include <utility>
 
-#include "base/number_text.h"
 #include "base/translation.h"
 #include "optics/fourier_thickness.h"
+#include "optics/material.h"
 #include "views/common/dialog_buttons.h"
 #include "views/common/file_questions.h"
 #include "views/common/plot_export.h"
@@ -44,27 +46,15 @@ QFrame* Framed(QWidget* widget) {
   return frame;
 }
 
-// The material of the coat whose thickness is measured by its extrema.
-QString CoatMaterial(const DispersionSetting& coat) {
-  const auto formula = [](const char* name, std::span<const double> numbers) {
-    QStringList texts;
-    for (const double number : numbers) {
-      texts << SignedText(number).trimmed();
-    }
-    return QLatin1String(name) + texts.join(u',');
-  };
-  switch (coat.kind) {
-    case DispersionKind::kFixedValue:
-      return SignedText(coat.fixedValue).trimmed();
-    case DispersionKind::kSchott:
-      return formula("schott:", coat.schott);
-    case DispersionKind::kSellmeier:
-      return formula("sellmeier:", coat.sellmeier);
-    case DispersionKind::kIndexFile:
-      return coat.indexFileName;
-    default:
-      return QStringLiteral("1.6");
-  }
+QSplitter* Split(Qt::Orientation orientation, QWidget* first, QWidget* second, int firstStretch,
+                 int secondStretch) {
+  auto* splitter = new QSplitter(orientation);
+  splitter->addWidget(first);
+  splitter->addWidget(second);
+  splitter->setStretchFactor(0, firstStretch);
+  splitter->setStretchFactor(1, secondStretch);
+  splitter->setChildrenCollapsible(false);
+  return splitter;
 }
 
 }  // namespace
@@ -95,23 +85,9 @@ FilmFitWindow::FilmFitWindow(Session& session, ProgramPreferences& preferences,
   AddExport(*fourier_, messages_, dialogs_, name);
   plot_->setMinimumSize(270, 170);
   fourier_->setMinimumSize(210, 170);
-  auto* plots = new QSplitter(Qt::Horizontal);
-  plots->addWidget(Framed(plot_));
-  plots->addWidget(Framed(fourier_));
-  plots->setStretchFactor(0, 3);
-  plots->setStretchFactor(1, 2);
-  auto* right = new QSplitter(Qt::Vertical);
-  right->addWidget(plots);
-  right->addWidget(results_);
-  right->setStretchFactor(0, 3);
-  right->setStretchFactor(1, 2);
-  auto* body = new QSplitter(Qt::Horizontal);
-  body->addWidget(BuildEntries());
-  body->addWidget(right);
-  body->setStretchFactor(1, 1);
-  for (QSplitter* splitter : {plots, right, body}) {
-    splitter->setChildrenCollapsible(false);
-  }
+  auto* plots = Split(Qt::Horizontal, Framed(plot_), Framed(fourier_), 3, 2);
+  auto* right = Split(Qt::Vertical, plots, results_, 3, 2);
+  auto* body = Split(Qt::Horizontal, BuildEntries(), right, 0, 1);
   body->setHandleWidth(10);
   auto* layout = new QVBoxLayout(this);
   layout->setContentsMargins(12, 10, 12, 10);
@@ -185,7 +161,7 @@ QWidget* FilmFitWindow::BuildButtons() {
   connect(all, &QPushButton::clicked, this, [this] { FitSlots(true); });
   connect(copy, &QPushButton::clicked, this, &FilmFitWindow::Copy);
   connect(print, &QPushButton::clicked, this, &FilmFitWindow::Print);
-  connect(close, &QPushButton::clicked, this, &QDialog::accept);
+  connect(close, &QPushButton::clicked, this, &QDialog::close);
   connect(new QShortcut(QKeySequence::Print, this), &QShortcut::activated, this,
           &FilmFitWindow::Print);
   return row;
@@ -206,7 +182,7 @@ void FilmFitWindow::ConnectSession() {
 
 void FilmFitWindow::ReadNamedFile() {
   each_->setChecked(preferences_.InForce().fitEachMeasurement);
-  setting_ = {QStringLiteral("1.5"), {{CoatMaterial(state_.thickness.coat), {}}}, {}};
+  setting_ = {QStringLiteral("1.5"), {{MaterialText(state_.thickness.coat), {}}}, {}};
   const QString& path = preferences_.InForce().filmStack;
   if (path.isEmpty() || !ReadStack(path)) {
     ShowSetting(setting_);
@@ -355,6 +331,35 @@ QCoro::Task<bool> FilmFitWindow::SaveStack() {
   changed_ = false;
   ChangePreferences([&path](ProgramSettings& s) { s.filmStack = path; });
   co_return true;
+}
+
+void FilmFitWindow::done(int result) {
+  if (changed_ && isVisible()) {
+    Leave();
+  } else {
+    QDialog::done(result);
+  }
+}
+
+QCoro::Task<> FilmFitWindow::Leave() {
+  if (std::exchange(leaving_, true)) {
+    co_return;
+  }
+  const QPointer<FilmFitWindow> self(this);
+  const MessageCall question{Message::kFilmStackUnsaved};
+  const MessageResult answer = co_await messages_.Ask(question);
+  bool leave = answer == MessageResult::kNo;
+  if (self != nullptr && answer == MessageResult::kYes) {
+    leave = co_await SaveStack();
+  }
+  if (self == nullptr) {
+    co_return;
+  }
+  leaving_ = false;
+  if (leave) {
+    changed_ = false;
+    close();
+  }
 }
 
 void FilmFitWindow::ChangePreferences(const std::function<void(ProgramSettings&)>& change) {

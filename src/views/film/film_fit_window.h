@@ -42,6 +42,9 @@ class FilmFitWindow : public QDialog {
   /// Nothing is being fitted.
   [[nodiscard]] bool IsDone() const { return run_.Left() == 0; }
 
+  /// Asks first when the stack was changed and is not saved.
+  void done(int result) override;
+
  private:
   QWidget* BuildEntries();
   QWidget* BuildButtons();
@@ -57,6 +60,7 @@ class FilmFitWindow : public QDialog {
   QCoro::Task<> FitEachSample(bool on);
   QCoro::Task<> OpenStack();
   QCoro::Task<bool> SaveStack();
+  QCoro::Task<> Leave();
   bool ReadStack(const QString& path);
   void ChangePreferences(const std::function<void(ProgramSettings&)>& change);
   void Refresh();
@@ -74,6 +78,7 @@ class FilmFitWindow : public QDialog {
   FilmStackSetting setting_;  ///< as entered last
   FilmFitRequest request_;    ///< what it asks; without layers before the first fit
   bool changed_ = false;      ///< since the file was read or written
+  bool leaving_ = false;      ///< it is being asked whether to save
   bool outdated_ = false;     ///< the setting has changed since the last fit
   std::map<int, FilmFitRun::Spectrum> fitting_;
   std::map<int, FilmFitFault> refused_;

@@ -85,7 +85,10 @@ QCoro::Task<> LotRun::MeasureLens(QString number, QString reason) {
   TakeReleases();
   number_ = number;
   running_ = MeasurementKind::kSample;
-  hold_ = FindVerdictHold(storePath_, recorder_.Context().station).value;
+  // What was known of a store that cannot be read just now still holds.
+  if (const auto hold = FindVerdictHold(storePath_)) {
+    hold_ = hold.value;
+  }
   const LotLens* earlier = tally_.Find(number);
   const QList<LotLens::Measurement> replaced =
       earlier == nullptr ? QList<LotLens::Measurement>() : earlier->measurements;

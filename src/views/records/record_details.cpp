@@ -159,12 +159,8 @@ void AddValues(Sheet& sheet, const SampleRecord& sample, bool cie) {
   sheet.Row(Text::tr("視感[%]"), Number(colour.Y, u"##0.0##"));
   sheet.Row(Text::tr("膜厚", "column"), ThicknessText(sample));
   for (const QString& name : sample.doubts) {
-    for (const ThicknessDoubt doubt :
-         {ThicknessDoubt::kEdge, ThicknessDoubt::kDuplicate, ThicknessDoubt::kSpacing,
-          ThicknessDoubt::kNoise, ThicknessDoubt::kDisagrees}) {
-      if (ThicknessDoubtName(doubt) == name) {
-        sheet.Row({}, QStringLiteral("⚠ ") + ThicknessDoubtText(doubt).toHtmlEscaped());
-      }
+    if (const auto doubt = ThicknessDoubtOf(name)) {
+      sheet.Row({}, QStringLiteral("⚠ ") + ThicknessDoubtText(*doubt).toHtmlEscaped());
     }
   }
 }

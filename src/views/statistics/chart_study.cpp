@@ -14,6 +14,9 @@
 namespace vexa {
 namespace {
 
+// Among the numbers of the rules in a file: the moving range is above its limit.
+const QString kWideRange = QStringLiteral("MR");
+
 QString GroupName(const ValuePoint& point, Grouping grouping) {
   switch (grouping) {
     case Grouping::kNone:
@@ -278,12 +281,18 @@ QList<QStringList> FileRows(const ChartStudy& study, const ValueSeries& series) 
                            QStringLiteral("operator"), QStringLiteral("sample"), title,
                            QStringLiteral("moving range"), QStringLiteral("rules")}};
   rows.reserve(static_cast<qsizetype>(series.points.size()) + 1);
+  const std::vector<std::size_t> wide = study.limits
+                                            ? statistics::WideRanges(*study.limits, study.values)
+                                            : std::vector<std::size_t>();
   auto signal = study.found.begin();
   for (std::size_t i = 0; i < series.points.size(); ++i) {
     const ValuePoint& point = series.points[i];
     QStringList rules;
     for (; signal != study.found.end() && signal->index == i + 1; ++signal) {
       rules << QString::number(signal->rule);
+    }
+    if (std::ranges::binary_search(wide, i + 1)) {
+      rules << kWideRange;
     }
     rows << QStringList{
         QString::number(i + 1),

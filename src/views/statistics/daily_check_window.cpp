@@ -150,8 +150,7 @@ QWidget* DailyCheckWindow::BuildCharts() {
 }
 
 void DailyCheckWindow::Load() {
-  Answer<DailyCheckHistory> loaded =
-      LoadDailyChecks(parts_.storePath, parts_.recorder.Context().station);
+  Answer<DailyCheckHistory> loaded = LoadDailyChecks(parts_.storePath);
   history_ = std::move(loaded.value);
   ShowState();
   if (!loaded) {

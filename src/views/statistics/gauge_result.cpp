@@ -5,6 +5,7 @@
 #include <utility>
 
 #include "base/translation.h"
+#include "colour/cie_parts.h"
 
 namespace vexa {
 namespace {
@@ -106,6 +107,21 @@ ResultTable ComponentTable(const statistics::GaugeStudy& study, std::optional<do
     table.rows << row;
   }
   return table;
+}
+
+ResultTable AboutTable(const statistics::GaugeStudy& study, const GaugeReadings& readings) {
+  ResultTable about{{}, {Text::tr("項目"), Text::tr("値")}, {}, 2};
+  about.rows = {{Text::tr("値"), ValueTitle(readings.value) + CieNote(readings)},
+                {Text::tr("部品の数"), QString::number(readings.parts.size())},
+                {Text::tr("測定者"), readings.operators.join(QStringLiteral(", "))},
+                {Text::tr("判定"), GradeText(study)}};
+  return about;
+}
+
+QString CieNote(const GaugeReadings& readings) {
+  return readings.cieConditions.isEmpty()
+             ? QString()
+             : u'\n' + CieCaption(readings.cieConditions.join(QStringLiteral(", ")));
 }
 
 QList<QStringList> ReadingRows(const GaugeReadings& readings) {

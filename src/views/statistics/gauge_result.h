@@ -23,6 +23,13 @@ enum class GaugeGrade { kGood, kMarginal, kPoor };
 [[nodiscard]] ResultTable ComponentTable(const statistics::GaugeStudy& study,
                                          std::optional<double> tolerance);
 
+/// What was analysed, and what it came to.
+[[nodiscard]] ResultTable AboutTable(const statistics::GaugeStudy& study,
+                                     const GaugeReadings& readings);
+
+/// A line, after a line end, about the conditions of CIE values; empty for other ones.
+[[nodiscard]] QString CieNote(const GaugeReadings& readings);
+
 /// The readings as rows of a file, headings first.
 [[nodiscard]] QList<QStringList> ReadingRows(const GaugeReadings& readings);
 

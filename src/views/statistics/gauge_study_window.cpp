@@ -18,6 +18,7 @@
 #include "base/date_text.h"
 #include "base/translation.h"
 #include "records/daily_check_events.h"
+#include "records/result_json.h"
 #include "views/common/dialog_buttons.h"
 #include "views/common/number_field.h"
 #include "views/common/plot_export.h"
@@ -71,6 +72,7 @@ GaugeStudyWindow::GaugeStudyWindow(const StudyParts& parts, QWidget* parent)
     : QDialog(parent),
       parts_(parts),
       state_(parts.session.State()),
+      plan_(new QGroupBox(Text::tr("計画"))),
       choice_(new QComboBox),
       name_(new QLineEdit),
       value_(new ValueChoice(false)),
@@ -130,8 +132,7 @@ QWidget* GaugeStudyWindow::BuildPlan() {
   connect(make, &QPushButton::clicked, this, &GaugeStudyWindow::MakePlan);
   connect(analyse, &QPushButton::clicked, this, &GaugeStudyWindow::AnalyseRecords);
 
-  auto* plan = new QGroupBox(Text::tr("計画"));
-  auto* form = new QFormLayout(plan);
+  auto* form = new QFormLayout(plan_);
   form->addRow(Text::tr("解析"), choice_);
   form->addRow(Text::tr("名前"), name_);
   form->addRow(Text::tr("値"), value_);
@@ -153,7 +154,7 @@ QWidget* GaugeStudyWindow::BuildPlan() {
   auto* body = new QWidget;
   auto* layout = new QVBoxLayout(body);
   layout->setContentsMargins(0, 0, 6, 0);
-  layout->addWidget(plan);
+  layout->addWidget(plan_);
   layout->addWidget(measuring);
   layout->addWidget(records);
   layout->addStretch();
@@ -179,8 +180,8 @@ QWidget* GaugeStudyWindow::BuildResult() {
 }
 
 void GaugeStudyWindow::LoadStudies(const QString& id) {
-  Answer<std::vector<GaugeSession>> loaded =
-      LoadGaugeSessions(parts_.storePath, parts_.recorder.Context().station);
+  Answer<std::vector<GaugeSession>> loaded = LoadGaugeSessions(parts_.storePath);
+  study_ = nullptr;
   studies_ = std::move(loaded.value);
   choice_->clear();
   choice_->addItem(Text::tr("新しい解析"));
@@ -199,9 +200,9 @@ void GaugeStudyWindow::LoadStudies(const QString& id) {
 void GaugeStudyWindow::ChooseStudy() {
   const int index = choice_->currentIndex() - 1;
   ++requests_;
-  study_ = index >= 0 ? std::optional(studies_[static_cast<std::size_t>(index)]) : std::nullopt;
+  study_ = index >= 0 ? &studies_[static_cast<std::size_t>(index)] : nullptr;
   ClearResult({});
-  if (study_ && !study_->Next()) {
+  if (study_ != nullptr && !study_->Next()) {
     value_->SetValue(study_->plan.value);
     Analyse(ReadingsOf(*study_), study_->plan.tolerance);
   }
@@ -237,8 +238,11 @@ void GaugeStudyWindow::MakePlan() {
 }
 
 void GaugeStudyWindow::ShowProgress() {
-  const std::optional<std::size_t> next = study_ ? study_->Next() : std::nullopt;
-  if (!study_) {
+  const std::optional<std::size_t> next = study_ != nullptr ? study_->Next() : std::nullopt;
+  if (study_ != nullptr) {
+    choice_->setItemText(choice_->currentIndex(), StudyText(*study_));
+  }
+  if (study_ == nullptr) {
     instruction_->setText(Text::tr("計画を作るか、続ける解析を選んでください。"));
   } else if (!next) {
     instruction_->setText(Text::tr("すべて測定しました。"));
@@ -252,11 +256,11 @@ void GaugeStudyWindow::ShowProgress() {
                               .arg(task.part + 1));
   }
   measure_->setEnabled(next && !busy_ && parts_.desk.IsIdle() && parts_.desk.IsReady());
-  choice_->setEnabled(!busy_);
+  plan_->setEnabled(!busy_);
 }
 
 QCoro::Task<> GaugeStudyWindow::MeasureNext() {
-  const std::optional<std::size_t> place = study_ ? study_->Next() : std::nullopt;
+  const std::optional<std::size_t> place = study_ != nullptr ? study_->Next() : std::nullopt;
   if (!place || busy_ || !parts_.desk.IsIdle()) {
     co_return;
   }
@@ -315,8 +319,14 @@ bool GaugeStudyWindow::KeepReading(const MeasurementSlot& slot, std::size_t plac
     ClearResult(Text::tr("この試料には解析する値がありません。測り直してください。"));
     return false;
   }
-  if (!Keep(ReadingEvent(study_->plan, place, *value, parts_.recorder.LastSample().id,
-                         parts_.session.Now(), parts_.recorder.Context().station))) {
+  const PlannedReading reading{
+      place,
+      *value,
+      parts_.recorder.LastSample().id,
+      IsCie(study_->plan.value.quantity) ? CieConditionsOf(sample.cie) : QString(),
+      parts_.session.Now(),
+      sample.station};
+  if (!Keep(ReadingEvent(study_->plan, reading))) {
     return false;
   }
   study_->values[place] = *value;
@@ -327,13 +337,14 @@ void GaugeStudyWindow::AnalyseRecords() {
   constexpr int kMostRecords = 10000;
   const std::optional<double> entered = toleranceField_->Value();
   const std::optional<double> tolerance = entered && *entered > 0.0 ? entered : std::nullopt;
-  parts_.reader.LoadValues(filter_->Place(), filter_->Query(kMostRecords), value_->Value(), *this,
-                           [this, tolerance, request = ++requests_](const auto& series) {
+  const RecordValue value = value_->Value();
+  parts_.reader.LoadValues(filter_->Place(), filter_->Query(kMostRecords), value, *this,
+                           [this, value, tolerance, request = ++requests_](const auto& series) {
                              if (request != requests_) {
                                return;  // something else was asked meanwhile
                              }
                              if (series) {
-                               Analyse(ReadingsOf(series.value), tolerance);
+                               Analyse(ReadingsOf(series.value, value), tolerance);
                              } else {
                                ClearResult(StoreFaultText(series.fault));
                              }
@@ -349,7 +360,7 @@ void GaugeStudyWindow::Analyse(const GaugeReadings& readings, std::optional<doub
   readings_ = readings;
   result_ = *result;
   tolerance_ = tolerance;
-  grade_->setText(GradeText(*result));
+  grade_->setText(GradeText(*result) + CieNote(readings));
   Colour(*grade_, GradeOf(*result) == GaugeGrade::kPoor   ? theme::kBad
                   : GradeOf(*result) == GaugeGrade::kGood ? theme::kGood
                                                           : theme::kText);
@@ -384,13 +395,9 @@ void GaugeStudyWindow::Print() {
     parts_.messages.Tell({Message::kNoValidData});
     return;
   }
-  ResultTable about{{}, {Text::tr("項目"), Text::tr("値")}, {}, 2};
-  about.rows = {{Text::tr("値"), ValueTitle(value_->Value())},
-                {Text::tr("部品の数"), QString::number(readings_.parts.size())},
-                {Text::tr("測定者"), readings_.operators.join(QStringLiteral(", "))},
-                {Text::tr("判定"), GradeText(*result_)}};
   PrintResults(parts_.printer, windowTitle(), {{PlotDrawing(*plot_, kPlot), kPlot}},
-               {about, ComponentTable(*result_, tolerance_), VarianceTable(*result_)});
+               {AboutTable(*result_, readings_), ComponentTable(*result_, tolerance_),
+                VarianceTable(*result_)});
 }
 
 void GaugeStudyWindow::Save() {

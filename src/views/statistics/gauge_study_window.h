@@ -10,6 +10,7 @@
 #include "views/statistics/study_parts.h"
 
 class QComboBox;
+class QGroupBox;
 class QLineEdit;
 class QPushButton;
 class QSpinBox;
@@ -53,12 +54,13 @@ class GaugeStudyWindow : public QDialog {
   StudyParts parts_;
   const VEXATYPE& state_;
   std::vector<GaugeSession> studies_;
-  std::optional<GaugeSession> study_;
+  GaugeSession* study_ = nullptr;  ///< the chosen one of them
   GaugeReadings readings_;
   std::optional<statistics::GaugeStudy> result_;
   std::optional<double> tolerance_;
   int requests_ = 0;  ///< of records; an answer to an earlier one is dropped
   bool busy_ = false;
+  QGroupBox* plan_;
   QComboBox* choice_;
   QLineEdit* name_;
   ValueChoice* value_;

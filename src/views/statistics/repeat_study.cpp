@@ -1,12 +1,15 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "views/statistics/repeat_study.h"
 
+#include <cmath>
 #include <optional>
 #include <utility>
 
 #include "base/translation.h"
+#include "colour/cie_parts.h"
 #include "records/record_builder.h"
 #include "records/record_value.h"
+#include "records/result_json.h"
 #include "statistics/spectrum_statistics.h"
 #include "statistics/summary.h"
 
@@ -34,7 +37,7 @@ std::vector<double> ValuesOf(std::span<const SampleRecord> samples, Quantity qua
     points.emplace_back().value = *value;
   }
   if (IsHue(quantity)) {
-    JoinHues(points);
+    JoinHues(points, &ValuePoint::value);
   }
   return ValueSeries{.points = std::move(points)}.Values();
 }
@@ -74,13 +77,17 @@ ResultTable RepeatTable(std::span<const StudiedSample> samples) {
     const auto quantity = static_cast<Quantity>(i);
     const std::vector<double> values =
         quantity == Quantity::kReflectance ? std::vector<double>() : ValuesOf(records, quantity);
+    // Hues were put beside one another; they are shown on the circle again.
+    const auto text = [quantity](double value) {
+      return ResultText(IsHue(quantity) ? value - 360.0 * std::floor(value / 360.0) : value);
+    };
     if (const auto summary = statistics::Summarise(values)) {
       table.rows << QStringList{ValueTitle({quantity}),
                                 QString::number(summary->n),
-                                ResultText(summary->mean),
+                                text(summary->mean),
                                 ResultText(summary->s),
-                                ResultText(summary->min),
-                                ResultText(summary->max),
+                                text(summary->min),
+                                text(summary->max),
                                 ResultText(kRepeatabilityLimit * summary->s)};
     }
   }
@@ -92,6 +99,14 @@ ResultTable RepeatTable(std::span<const StudiedSample> samples) {
                             {},
                             ResultText(kRepeatabilityLimit * spread->MeanS())};
   return table;
+}
+
+QString CieNote(std::span<const StudiedSample> samples) {
+  QStringList conditions;
+  for (const StudiedSample& sample : samples) {
+    AddCieConditions(RecordOf(sample).cie, conditions);
+  }
+  return conditions.isEmpty() ? QString() : CieCaption(conditions.join(QStringLiteral(", ")));
 }
 
 QList<QStringList> SpectrumRows(std::span<const StudiedSample> samples) {

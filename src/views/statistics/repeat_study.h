@@ -24,6 +24,9 @@ struct StudiedSample {
 /// Below two samples it says so in the place of the rows.
 [[nodiscard]] ResultTable RepeatTable(std::span<const StudiedSample> samples);
 
+/// What the CIE values of the table were computed for; empty without any.
+[[nodiscard]] QString CieNote(std::span<const StudiedSample> samples);
+
 /// Mean, standard deviation and envelope at every nanometre as rows of a file; empty below two.
 [[nodiscard]] QList<QStringList> SpectrumRows(std::span<const StudiedSample> samples);
 

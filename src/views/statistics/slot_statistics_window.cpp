@@ -47,10 +47,13 @@ SlotStatisticsWindow::SlotStatisticsWindow(const Parts& parts, QWidget* parent)
       count_(new QSpinBox),
       measure_(DialogButton("MeasureRepeats", {})),
       about_(new QLabel),
+      note_(new QLabel),
       table_(MakeResultView("RepeatTable")) {
   setObjectName(QStringLiteral("SlotStatisticsWindow"));
   setWindowTitle(Text::tr("ｽﾛｯﾄの統計"));
   about_->setObjectName(QStringLiteral("RepeatAbout"));
+  note_->setObjectName(QStringLiteral("RepeatCieNote"));
+  note_->setWordWrap(true);
   QPushButton* print = DialogButton("PrintRepeats", Text::tr("印刷(&P)"));
   QPushButton* save = DialogButton("SaveRepeats", Text::tr("保存(&S)"));
   QPushButton* closeButton = DialogButton("CloseRepeats", Text::tr("閉じる"));
@@ -62,6 +65,7 @@ SlotStatisticsWindow::SlotStatisticsWindow(const Parts& parts, QWidget* parent)
   auto* right = new QVBoxLayout;
   right->addWidget(about_);
   right->addWidget(table_, 1);
+  right->addWidget(note_);
   auto* top = new QHBoxLayout;
   top->addWidget(BuildChoice());
   top->addLayout(right, 1);
@@ -164,6 +168,9 @@ void SlotStatisticsWindow::ShowSlots() {
 
 void SlotStatisticsWindow::ShowTable() {
   ShowResults(*table_, RepeatTable(studied_));
+  const QString note = CieNote(studied_);
+  note_->setText(note);
+  note_->setVisible(!note.isEmpty());
 }
 
 void SlotStatisticsWindow::ShowAvailable() {
@@ -216,7 +223,12 @@ QCoro::Task<> SlotStatisticsWindow::MeasureRepeats() {
 void SlotStatisticsWindow::Print() {
   ResultTable table = RepeatTable(studied_);
   table.caption = about_->text();
-  PrintResults(parts_.printer, windowTitle(), {}, {table});
+  QList<ResultTable> tables{table};
+  if (const QString note = CieNote(studied_); !note.isEmpty()) {
+    tables << ResultTable{
+        {}, {Text::tr("項目"), Text::tr("値")}, {{QStringLiteral("CIE"), note}}, 2};
+  }
+  PrintResults(parts_.printer, windowTitle(), {}, tables);
 }
 
 void SlotStatisticsWindow::Save() {

@@ -65,6 +65,7 @@ class SlotStatisticsWindow : public QDialog {
   QSpinBox* count_;
   QPushButton* measure_;
   QLabel* about_;
+  QLabel* note_;  ///< on the CIE values of the table
   QTableWidget* table_;
 };
 
