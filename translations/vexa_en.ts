@@ -234,10 +234,6 @@ Measuring opens it.</translation>
         <translation>Cancel</translation>
     </message>
     <message>
-        <source>待っている操作を中止します (Esc)</source>
-        <translation>Cancels the operation that is waited for (Esc)</translation>
-    </message>
-    <message>
         <source>ｺﾝﾄﾛｰﾗ未接続</source>
         <translation>Controller not connected</translation>
     </message>
@@ -4695,6 +4691,14 @@ Repeats: %4   Background: %5   Reference: %6</translation>
     <message>
         <source>約 %1 nm の膜の干渉縞がありますが、入力した膜厚の範囲の外です。</source>
         <translation>There are fringes of a film of about %1 nm, outside the thickness ranges entered.</translation>
+    </message>
+    <message>
+        <source>待っている操作を中止します (Esc、ほかのｳｨﾝﾄﾞｳが前にあるときは Shift+Esc)</source>
+        <translation>Cancels what is being waited for (Esc; Shift+Esc when another window is in front)</translation>
+    </message>
+    <message>
+        <source>ﾌｨｯﾄを中止しました。</source>
+        <translation>The fit was cancelled.</translation>
     </message>
 </context>
 </TS>

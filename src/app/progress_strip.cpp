@@ -1,7 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "app/progress_strip.h"
 
+#include <QApplication>
 #include <QHBoxLayout>
+#include <QKeyEvent>
 #include <algorithm>
 
 #include "base/number_text.h"
@@ -61,7 +63,8 @@ ProgressStrip::ProgressStrip(QWidget* parent)
   layout->addWidget(bar_);
   layout->addWidget(cancel_);
   cancel_->setObjectName(QStringLiteral("Cancel"));
-  cancel_->setToolTip(Text::tr("待っている操作を中止します (Esc)"));
+  cancel_->setToolTip(
+      Text::tr("待っている操作を中止します (Esc、ほかのｳｨﾝﾄﾞｳが前にあるときは Shift+Esc)"));
   cancel_->setShortcut(Qt::Key_Escape);
   cancel_->setFocusPolicy(Qt::NoFocus);
   cancel_->hide();
@@ -95,6 +98,23 @@ void ProgressStrip::ShowLink(bool connected, bool busy) {
     text_->setText(idleText_);
   }
   cancel_->setVisible(busy);
+  qApp->removeEventFilter(this);
+  if (busy) {
+    qApp->installEventFilter(this);
+  }
+}
+
+// While anything is waited for, Shift+Esc reaches it from every window, also past a dialog that
+// takes Esc for itself.
+bool ProgressStrip::eventFilter(QObject* watched, QEvent* event) {
+  if (event->type() == QEvent::KeyPress) {
+    const auto& key = static_cast<const QKeyEvent&>(*event);
+    if (key.key() == Qt::Key_Escape && key.modifiers() == Qt::ShiftModifier) {
+      emit CancelRequested();
+      return true;
+    }
+  }
+  return QWidget::eventFilter(watched, event);
 }
 
 void ProgressStrip::Refresh() {

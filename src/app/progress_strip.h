@@ -27,6 +27,8 @@ class ProgressStrip : public QWidget {
   /// `busy`: something runs that can be cancelled.
   void ShowLink(bool connected, bool busy);
 
+  bool eventFilter(QObject* watched, QEvent* event) override;
+
  signals:
   void CancelRequested();
 

@@ -209,7 +209,7 @@ void VEXA::ListenToSession() {
 }
 
 void VEXA::ShowSelected() {
-  commands_->ShowSlot(GetOption());
+  emit commands_->SlotShown(GetOption());
   Refresh();
 }
 

@@ -107,19 +107,31 @@ void WindowCommands::ConnectWindows() {
   });
   Open(menu_.standards,
        [this] { return new StandardFrm(session_, messages_, dialogs_, &window_); });
-  Open(menu_.wavelengthList, [this] {
-    auto* dialog = new WaveListDlg(state_, selectedSlot_(), printer_, &window_);
-    connect(&session_, &Session::SampleStored, dialog, &WaveListDlg::Show);
-    return dialog;
-  });
   Open(menu_.samplingSettings, [this] {
     auto* dialog = new SamplingDlg(session_, messages_, &window_);
     connect(dialog, &QDialog::accepted, &desk_, &InstrumentDesk::SendSampling);
     return dialog;
   });
   Open(menu_.calibration, [this] { return new CalibrationDlg(session_, messages_, &window_); });
-  Do(menu_.lotMeasurement, [this] { ShowLots(); });
   Open(menu_.version, [this] { return MakeVersionDialog(&window_); });
+  OpenBeside(menu_.wavelengthList, [this] {
+    auto* dialog = new WaveListDlg(state_, selectedSlot_(), printer_, &window_);
+    connect(this, &WindowCommands::SlotShown, dialog, &WaveListDlg::Show);
+    connect(&session_, &Session::SlotChanged, dialog,
+            [this, dialog] { dialog->Show(selectedSlot_()); });
+    return dialog;
+  });
+  OpenBeside(menu_.filmFit, [this] {
+    auto* dialog = new FilmFitWindow(session_, preferences_, printer_, messages_, dialogs_,
+                                     selectedSlot_(), &window_);
+    connect(this, &WindowCommands::SlotShown, dialog, &FilmFitWindow::ShowSlot);
+    return dialog;
+  });
+  OpenBeside(menu_.lotMeasurement, [this] {
+    return new LotWindow({session_, desk_, recorder_, preferences_, messages_, dialogs_, printer_},
+                         &window_);
+  });
+  OpenBeside(menu_.records, [this] { return MakeRecordsWindow(); });
   OpenBeside(menu_.slotStatistics, [this] {
     auto* dialog =
         new SlotStatisticsWindow({session_, desk_, printer_, messages_, dialogs_}, &window_);
@@ -140,8 +152,6 @@ void WindowCommands::ConnectWindows() {
     return new ControlChartWindow(session_, reader_, printer_, messages_, dialogs_, &window_);
   });
   Do(menu_.thicknessGraph, [this] { ShowThicknessGraph(); });
-  Do(menu_.filmFit, [this] { ShowFilmFit(); });
-  Do(menu_.records, [this] { ShowRecords(); });
 }
 
 void WindowCommands::ConnectLanguages() {
@@ -221,35 +231,14 @@ void WindowCommands::ShowThicknessGraph() {
   thicknessGraph_->raise();
 }
 
-void WindowCommands::ShowFilmFit() {
-  if (filmFit_.isNull()) {
-    filmFit_ = new FilmFitWindow(session_, preferences_, printer_, messages_, dialogs_,
-                                 selectedSlot_(), &window_);
-    filmFit_->setAttribute(Qt::WA_DeleteOnClose);
-  }
-  filmFit_->show();
-  filmFit_->raise();
-}
-
-void WindowCommands::ShowSlot(int slot) {
-  if (!filmFit_.isNull()) {
-    filmFit_->ShowSlot(slot);
-  }
-}
-
-void WindowCommands::ShowRecords() {
-  if (records_.isNull()) {
-    const auto print = [this](const QList<WholeRecord>& records) { PrintRecords(records); };
-    records_ = new RecordsWindow({reader_, session_, desk_, messages_, dialogs_, preferences_,
-                                  StorePath(), recordSettings_.station, print},
-                                 &window_);
-    records_->setAttribute(Qt::WA_DeleteOnClose);
-    connect(&recorder_.Keeper(), &RecordKeeper::Stored, records_, &RecordsWindow::TakeNewer);
-    connect(records_, &RecordsWindow::Decided, this, &WindowCommands::Recorded);
-  }
-  records_->show();
-  records_->raise();
-  records_->activateWindow();
+QDialog* WindowCommands::MakeRecordsWindow() {
+  const auto print = [this](const QList<WholeRecord>& records) { PrintRecords(records); };
+  auto* dialog = new RecordsWindow({reader_, session_, desk_, messages_, dialogs_, preferences_,
+                                    StorePath(), recordSettings_.station, print},
+                                   &window_);
+  connect(&recorder_.Keeper(), &RecordKeeper::Stored, dialog, &RecordsWindow::TakeNewer);
+  connect(dialog, &RecordsWindow::Decided, this, &WindowCommands::Recorded);
+  return dialog;
 }
 
 // The store of this station proves nothing of the rows of others.
@@ -264,17 +253,6 @@ void WindowCommands::PrintRecords(const QList<WholeRecord>& records) {
 
 QString WindowCommands::StorePath() const {
   return RecordStorePath(state_.programDirectory);
-}
-
-void WindowCommands::ShowLots() {
-  if (lots_.isNull()) {
-    lots_ = new LotWindow({session_, desk_, recorder_, preferences_, messages_, dialogs_, printer_},
-                          &window_);
-    lots_->setAttribute(Qt::WA_DeleteOnClose);
-  }
-  lots_->show();
-  lots_->raise();
-  lots_->activateWindow();
 }
 
 QDialog* WindowCommands::MakeSettingsList() {

@@ -2,7 +2,6 @@
 #pragma once
 
 #include <QObject>
-#include <QPointer>
 #include <functional>
 #include <vector>
 
@@ -21,9 +20,6 @@ class QWidget;
 
 namespace vexa {
 
-class FilmFitWindow;
-class RecordsWindow;
-class LotWindow;
 class ThickGraph;
 
 /// What the windows of the menu work with.
@@ -48,15 +44,14 @@ class WindowCommands : public QObject {
  public:
   WindowCommands(const MenuCommands& menu, WindowParts parts, QWidget& window);
 
-  /// Has the windows beside the main one follow the slot that it shows.
-  void ShowSlot(int slot);
-
   /// Takes or gives away what must not happen while something runs.
   void ShowAvailable(bool usable);
 
   [[nodiscard]] FileOpener& Files() { return files_; }
 
  signals:
+  /// The main window shows another slot (1..10), or this one anew.
+  void SlotShown(int slot);
   /// A window has put a row into the record store.
   void Recorded();
 
@@ -71,10 +66,8 @@ class WindowCommands : public QObject {
   QCoro::Task<> TakeOverController();
   void Print();
   void KeepLanguage(const QString& code);
-  void ShowLots();
   void ShowThicknessGraph();
-  void ShowFilmFit();
-  void ShowRecords();
+  [[nodiscard]] QDialog* MakeRecordsWindow();
   void PrintRecords(const QList<WholeRecord>& records);
   [[nodiscard]] QString StorePath() const;
   [[nodiscard]] QDialog* MakeSettingsList();
@@ -95,10 +88,7 @@ class WindowCommands : public QObject {
   CurrentPrinter printer_;
   ReportRequest report_;  ///< as printed last
   ThickGraph* thicknessGraph_ = nullptr;
-  QPointer<FilmFitWindow> filmFit_;
   RecordReader reader_;
-  QPointer<RecordsWindow> records_;
-  QPointer<LotWindow> lots_;
 };
 
 }  // namespace vexa

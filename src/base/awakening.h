@@ -4,11 +4,12 @@
 #include <QObject>
 #include <coroutine>
 #include <utility>
+#include <vector>
 
 namespace vexa {
 
-/// Where one coroutine sleeps until something happens: `co_await awakening.Sleep();` in it, Wake()
-/// from a notification. It goes on from the event loop, never from within the notification, and may
+/// Where coroutines sleep until something happens: `co_await awakening.Sleep();` in them, Wake()
+/// from a notification. They go on from the event loop, never from within the notification, and may
 /// be woken for nothing: look again and sleep on.
 class Awakening {
  public:
@@ -16,7 +17,7 @@ class Awakening {
   Awakening(const Awakening&) = delete;
   Awakening& operator=(const Awakening&) = delete;
 
-  [[nodiscard]] bool IsAwaited() const { return sleeping_ != nullptr; }
+  [[nodiscard]] bool IsAwaited() const { return !sleeping_.empty(); }
 
   void Wake() {
     if (IsAwaited()) {
@@ -25,9 +26,9 @@ class Awakening {
     }
   }
 
-  /// Goes on before this call returns; for an owner that ends.
+  /// They go on before this call returns; for an owner that ends.
   void WakeAtOnce() {
-    if (const auto sleeping = std::exchange(sleeping_, nullptr)) {
+    for (const std::coroutine_handle<> sleeping : std::exchange(sleeping_, {})) {
       sleeping.resume();
     }
   }
@@ -35,8 +36,8 @@ class Awakening {
   struct Sleeper {
     Awakening* place;
     [[nodiscard]] bool await_ready() const noexcept { return false; }
-    void await_suspend(std::coroutine_handle<> sleeping) const noexcept {
-      place->sleeping_ = sleeping;
+    void await_suspend(std::coroutine_handle<> sleeping) const {
+      place->sleeping_.push_back(sleeping);
     }
     void await_resume() const noexcept {}
   };
@@ -44,7 +45,7 @@ class Awakening {
 
  private:
   QObject turn_;  ///< no turn of the event loop reaches back to an Awakening that is gone
-  std::coroutine_handle<> sleeping_;
+  std::vector<std::coroutine_handle<>> sleeping_;
 };
 
 }  // namespace vexa

@@ -3,6 +3,7 @@
 
 #include <QDir>
 #include <QFile>
+#include <QFileInfo>
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
@@ -20,6 +21,24 @@ const QLatin1String kShowCie("showCie");
 const QLatin1String kFilmStack("filmStack");
 const QLatin1String kFitEachMeasurement("fitEachMeasurement");
 const QLatin1String kRecentFiles("recentFiles");
+
+// The directory may have been renamed or moved since: a file that stood in it is named by its bare
+// name, and one that is not found is looked for there.
+QString NameToKeep(const QString& path, const QString& programDirectory) {
+  const QFileInfo file(path);
+  const bool here = QFileInfo(file.absolutePath()) == QFileInfo(programDirectory);
+  return !path.isEmpty() && here ? file.fileName() : path;
+}
+
+QString PathOf(const QString& name, const QString& programDirectory) {
+  if (name.isEmpty()) {
+    return name;
+  }
+  const QDir directory(programDirectory);
+  const QString path = directory.absoluteFilePath(name);
+  const QString near = directory.absoluteFilePath(QFileInfo(name).fileName());
+  return !QFileInfo::exists(path) && QFileInfo::exists(near) ? near : path;
+}
 
 }  // namespace
 
@@ -53,7 +72,14 @@ ReadResult<ProgramSettings> ParseProgramSettings(const QByteArray& json) {
 ReadResult<ProgramSettings> ReadProgramSettings(const QString& programDirectory) {
   const ReadResult<QByteArray> bytes =
       ReadRegularFile(ProgramSettingsPath(programDirectory), kLargest);
-  return bytes ? ParseProgramSettings(*bytes) : bytes.Fault();
+  if (!bytes) {
+    return bytes.Fault();
+  }
+  ReadResult<ProgramSettings> settings = ParseProgramSettings(*bytes);
+  if (settings) {
+    (*settings).filmStack = PathOf(settings->filmStack, programDirectory);
+  }
+  return settings;
 }
 
 ProgramStart StartProgram(const QString& programDirectory) {
@@ -87,7 +113,7 @@ WriteResult WriteProgramSettings(const ProgramSettings& settings, const QString&
   QJsonObject object = before ? QJsonDocument::fromJson(*before).object() : QJsonObject();
   object[kLanguage] = LanguageCode(settings.language);
   object[kShowCie] = settings.showCie;
-  object[kFilmStack] = settings.filmStack;
+  object[kFilmStack] = NameToKeep(settings.filmStack, programDirectory);
   object[kFitEachMeasurement] = settings.fitEachMeasurement;
   object[kRecentFiles] = QJsonArray::fromStringList(settings.recentFiles);
   return ReplaceFile(path, QJsonDocument(object).toJson());

@@ -73,11 +73,8 @@ QCoro::Task<Status> frmComH8Ctrl::H8_MeasStart() {
   if (reply.end == End::kTimeOut) {
     for (int attempt = 0; attempt < 2; ++attempt) {
       const Status quit = co_await H8_Quit();
-      if (quit == 0) {
-        co_return kTimeOut;
-      }
-      if (quit == kCancelled) {
-        co_return quit;
+      if (quit == 0 || quit == kCancelled) {
+        co_return quit == 0 ? kTimeOut : quit;
       }
     }
     co_return Status{-3};
@@ -348,6 +345,9 @@ QCoro::Task<Status> frmComH8Ctrl::AcquisitionSteps(LightFlag light, int settling
 QCoro::Task<Status> frmComH8Ctrl::TakeLines(int settlingTimeMs) {
   if (settlingTimeMs > sampling_.timeMs) {
     co_await Settle(settlingTimeMs - sampling_.timeMs + kSettlingMarginMs);
+    if (link_.IsCancelled()) {
+      co_return kCancelled;
+    }
   }
   Status status = StepStatus(co_await H8_MeasStart(), -3);
   if (status == 0) {

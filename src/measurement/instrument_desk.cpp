@@ -33,6 +33,7 @@ void InstrumentDesk::EndAtOnce() {
   if (controller_ != nullptr) {
     controller_->EndAtOnce();
   }
+  sequence_.EndAtOnce();
 }
 
 bool InstrumentDesk::IsLightPathClosed() const {
@@ -98,7 +99,7 @@ QCoro::Task<> InstrumentDesk::MeasureReference() {
 
 QCoro::Task<> InstrumentDesk::MeasureSample(int slotNumber) {
   const MeasurementSlot* slot = session_.State().Slot(slotNumber);
-  if (slot == nullptr || !IsIdle()) {
+  if (slot == nullptr || !IsIdle() || finishing_ > 0) {
     co_return;
   }
   if (slot->valid) {
@@ -112,7 +113,7 @@ QCoro::Task<> InstrumentDesk::MeasureSample(int slotNumber) {
 }
 
 QCoro::Task<> InstrumentDesk::MeasureSampleOver(int slotNumber) {
-  if (session_.State().Slot(slotNumber) == nullptr || !IsIdle()) {
+  if (session_.State().Slot(slotNumber) == nullptr || !IsIdle() || finishing_ > 0) {
     co_return;
   }
   const MeasurementOutcome outcome = co_await sequence_.MeasureSample(slotNumber);
@@ -123,7 +124,7 @@ QCoro::Task<MeasurementOutcome> InstrumentDesk::Measure(MeasurementKind kind, in
                                                         QString sampleNumber) {
   co_await EndWatching();
   MeasurementOutcome outcome;
-  if (!IsIdle()) {
+  if (!IsIdle() || finishing_ > 0) {
     co_return outcome;
   }
   switch (kind) {
@@ -141,7 +142,7 @@ QCoro::Task<MeasurementOutcome> InstrumentDesk::Measure(MeasurementKind kind, in
 }
 
 QCoro::Task<Status> InstrumentDesk::WatchLight() {
-  if (!ready_ || !IsIdle()) {
+  if (!ready_ || !IsIdle() || finishing_ > 0) {
     co_return Controller::kBusy;
   }
   SetActivity(Activity::kWatching);
@@ -188,13 +189,16 @@ QCoro::Task<> InstrumentDesk::ClearAll() {
 void InstrumentDesk::Cancel() {
   if (!IsIdle()) {
     watchEnds_ = true;
+    sequence_.Cancel();
     controller_->Cancel();
   }
 }
 
 QCoro::Task<> InstrumentDesk::Finish() {
+  ++finishing_;
   Cancel();
   co_await UntilIdle();
+  --finishing_;
 }
 
 QCoro::Task<> InstrumentDesk::UntilIdle() {

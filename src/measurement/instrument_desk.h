@@ -64,9 +64,9 @@ class InstrumentDesk : public QObject {
 
   /// Ends at once what is being done.
   void Cancel();
-  /// Likewise, and is done when all is at rest.
+  /// Likewise, and is done when all is at rest; nothing else is begun meanwhile.
   QCoro::Task<> Finish();
-  /// Done when nothing is being done; one caller waits at a time.
+  /// Done when nothing is being done.
   QCoro::Task<> UntilIdle();
   /// Ends all that waits for the instrument before it returns; nobody is shown how.
   void EndAtOnce();
@@ -93,6 +93,7 @@ class InstrumentDesk : public QObject {
   MeasurementSequence sequence_;
   Activity activity_ = Activity::kIdle;
   bool ready_ = false;
+  int finishing_ = 0;  ///< who waits for the end of all
   Awakening idle_;
   Awakening watched_;
   bool watchEnds_ = false;

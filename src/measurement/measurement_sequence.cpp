@@ -95,6 +95,7 @@ QCoro::Task<MeasurementOutcome> MeasurementSequence::MeasureSample(int slot, QSt
 
 void MeasurementSequence::Cancel() {
   if (running_) {
+    fit_.Cancel();
     controller_->Cancel();
   }
 }
@@ -142,7 +143,15 @@ QCoro::Task<MeasurementOutcome> MeasurementSequence::Measure(MeasurementKind kin
     if (acquisition.status == kSuccess) {
       taken.takenAt = session_.Now();
       AddDoubts(acquisition, taken, outcome.messages);
-      Store(kind, slot, acquisition.counts, basis, sampleNumber, outcome);
+      if (kind == MeasurementKind::kSample) {
+        const std::optional<FilmFit> fit = co_await Fit(acquisition.counts, basis);
+        AddStorage(session_.StoreSample(slot, acquisition.counts, basis, sampleNumber, fit),
+                   lastHistory_, outcome.messages);
+      } else {
+        session_.StoreFrame(
+            kind == MeasurementKind::kBackground ? FrameKind::kBackground : FrameKind::kReference,
+            acquisition.counts, taken);
+      }
     } else {
       AddFailure(acquisition.status, *controller_, outcome.messages);
     }
@@ -154,22 +163,19 @@ QCoro::Task<MeasurementOutcome> MeasurementSequence::Measure(MeasurementKind kin
   co_return outcome;
 }
 
-void MeasurementSequence::Store(MeasurementKind kind, int slot, const RawSpectrum& counts,
-                                const SampleBasis& basis,
-                                const std::optional<QString>& sampleNumber,
-                                MeasurementOutcome& outcome) {
-  switch (kind) {
-    case MeasurementKind::kBackground:
-      session_.StoreFrame(FrameKind::kBackground, counts, basis.conditions.frame);
-      break;
-    case MeasurementKind::kReference:
-      session_.StoreFrame(FrameKind::kReference, counts, basis.conditions.frame);
-      break;
-    case MeasurementKind::kSample:
-      AddStorage(session_.StoreSample(slot, counts, basis, sampleNumber), lastHistory_,
-                 outcome.messages);
-      break;
+// A sample whose fit is given up is stored without one; so is one whose stack was changed while it
+// was fitted.
+QCoro::Task<std::optional<FilmFit>> MeasurementSequence::Fit(RawSpectrum counts,
+                                                             SampleBasis basis) {
+  std::optional<FilmFit> fit;
+  if (const std::optional<SampleFitTask> task = session_.FitToMake(counts, basis)) {
+    fit = co_await fit_.Make(*task);
+    const std::optional<SampleFitTask> now = session_.FitToMake(counts, basis);
+    if (!now || now->request != task->request) {
+      fit.reset();
+    }
   }
+  co_return fit;
 }
 
 }  // namespace vexa

@@ -52,8 +52,11 @@ class MeasurementSequence : public QObject {
   /// The same of the sample of this number.
   [[nodiscard]] QCoro::Task<MeasurementOutcome> MeasureSample(int slot, QString sampleNumber);
 
-  /// Ends the measurement that runs with Controller::kCancelled.
+  /// Ends the measurement that runs with Controller::kCancelled; a sample that is taken already is
+  /// stored without its fit.
   void Cancel();
+  /// Gives up a fit that runs: its sample is stored before this returns.
+  void EndAtOnce() { fit_.EndAtOnce(); }
 
   [[nodiscard]] bool IsRunning() const { return running_; }
 
@@ -66,11 +69,11 @@ class MeasurementSequence : public QObject {
   [[nodiscard]] std::optional<MessageCall> Refusal(MeasurementKind kind) const;
   [[nodiscard]] QCoro::Task<MeasurementOutcome> Measure(MeasurementKind kind, int slot = 0,
                                                         std::optional<QString> sampleNumber = {});
-  void Store(MeasurementKind kind, int slot, const RawSpectrum& counts, const SampleBasis& basis,
-             const std::optional<QString>& sampleNumber, MeasurementOutcome& outcome);
+  [[nodiscard]] QCoro::Task<std::optional<FilmFit>> Fit(RawSpectrum counts, SampleBasis basis);
 
   Session& session_;
   Controller* controller_ = nullptr;
+  SampleFit fit_;
   bool running_ = false;
   std::optional<HistoryAddResult> lastHistory_;
 };

@@ -38,18 +38,33 @@ void Session::StoreFrame(FrameKind kind, const RawSpectrum& counts, const FrameC
   emit FrameChanged(kind);
 }
 
+ReflectanceSpectrum Session::ReflectanceOf(const RawSpectrum& counts,
+                                           const SampleBasis& basis) const {
+  return ComputeReflectance(counts, state_.background, state_.reference,
+                            basis.conditions.frame.calibrationShiftNm, basis.referenceReflectance);
+}
+
+std::optional<SampleFitTask> Session::FitToMake(const RawSpectrum& counts,
+                                                const SampleBasis& basis) const {
+  if (!fitEachSample_ || !filmFit_) {
+    return std::nullopt;
+  }
+  return SampleFitTask{*filmFit_, ReflectanceOf(counts, basis),
+                       ReflectanceNoise(state_, counts, basis)};
+}
+
 SampleStorage Session::StoreSample(int slotNumber, const RawSpectrum& counts,
                                    const SampleBasis& basis,
-                                   const std::optional<QString>& sampleNumber) {
+                                   const std::optional<QString>& sampleNumber,
+                                   const std::optional<FilmFit>& fit) {
   MeasurementSlot& slot = *state_.Slot(slotNumber);
   SampleStorage result;
   state_.sample = counts;
   state_.sampleBasis = basis;
   MeasurementSlot fresh;
-  fresh.reflectance =
-      ComputeReflectance(counts, state_.background, state_.reference,
-                         basis.conditions.frame.calibrationShiftNm, basis.referenceReflectance);
+  fresh.reflectance = ReflectanceOf(counts, basis);
   fresh.noise = ReflectanceNoise(state_, counts, basis);
+  fresh.fit = fit;
   fresh.taken = basis.conditions;
   if (sampleNumber) {
     fresh.info.sampleNumber = *sampleNumber;
@@ -68,16 +83,16 @@ SampleStorage Session::StoreSample(int slotNumber, const RawSpectrum& counts,
     result.thickness = ComputeSlotThickness(state_, slot);
     state_.extrema = slot.thickness.extrema;
   }
-  if (fitEachSample_) {
-    FitSlot(slot);
+  if (const std::optional<HistoryPoint> point = HistoryPointOf(slot)) {
+    result.history = state_.thicknessHistory.Append(*point);
   }
   state_.slotsSaved = false;
   emit SlotChanged(slotNumber);
   if (result.stock) {
     emit StockChanged();
   }
-  if (const std::optional<HistoryPoint> point = HistoryPointOf(slot)) {
-    result.history = AddToHistory(*point);
+  if (result.history == HistoryAddResult::kAdded) {
+    emit HistoryChanged();
   }
   emit SampleStored(slotNumber);
   return result;
@@ -187,15 +202,6 @@ void Session::EndFilmFit() {
 void Session::StoreFit(int slotNumber, const FilmFit& fit) {
   state_.Slot(slotNumber)->fit = fit;
   emit SlotChanged(slotNumber);
-}
-
-// A few milliseconds, some ten for two layers: less than the disk takes for the record.
-void Session::FitSlot(MeasurementSlot& slot) const {
-  const auto fit = FitFilm(slot.reflectance, filmFit_->stack, filmFit_->ranges, filmFit_->options,
-                           slot.noise.IsEmpty() ? nullptr : &slot.noise);
-  if (const auto* made = std::get_if<FilmFit>(&fit)) {
-    slot.fit = *made;
-  }
 }
 
 void Session::TakeSettings(const Settings& settings) {

@@ -7,6 +7,7 @@
 #include <functional>
 #include <optional>
 
+#include "measurement/sample_fit.h"
 #include "measurement/vexatype.h"
 
 namespace vexa {
@@ -46,14 +47,20 @@ class Session : public QObject {
 
   void StoreFrame(FrameKind kind, const RawSpectrum& counts, const FrameConditions& taken);
 
+  /// What a sample is to be fitted with before it is stored; nothing unless each one is.
+  [[nodiscard]] std::optional<SampleFitTask> FitToMake(const RawSpectrum& counts,
+                                                       const SampleBasis& basis) const;
+
   /// Puts a sample into slot 1..10, in this order: reflectance, evaluation, accumulation, verdicts,
-  /// date, and where they are automatic the thickness and the fit with their point of the history.
+  /// date, where it is automatic the thickness, the fit that was made of it, and their point of the
+  /// history.
   /// The reflectance is that of its basis, whatever was set since; what is computed of it is, as in
   /// every slot, by the settings in force. What was typed of the slot's earlier sample goes, unless
   /// it was typed after that was measured; a number that is given is the sample's own, and all of
   /// the earlier one goes.
   SampleStorage StoreSample(int slot, const RawSpectrum& counts, const SampleBasis& basis,
-                            const std::optional<QString>& sampleNumber = {});
+                            const std::optional<QString>& sampleNumber = {},
+                            const std::optional<FilmFit>& fit = {});
 
   /// Empties all ten slots and their sample information.
   void ClearSlots();
@@ -80,7 +87,7 @@ class Session : public QObject {
   [[nodiscard]] Status ComputeThickness(int slot);
 
   /// What films are fitted with from now on; the fits of another stack or of other options go.
-  /// `eachSample`: each sample that is stored is fitted before it is announced.
+  /// `eachSample`: each sample is fitted before it is stored.
   void SetFilmFit(const FilmFitRequest& request, bool eachSample);
   /// Films are fitted no longer; the fits stay.
   void EndFilmFit();
@@ -118,7 +125,8 @@ class Session : public QObject {
   void StockChanged();
 
  private:
-  void FitSlot(MeasurementSlot& slot) const;
+  [[nodiscard]] ReflectanceSpectrum ReflectanceOf(const RawSpectrum& counts,
+                                                  const SampleBasis& basis) const;
   void KeepStockPure();
 
   VEXATYPE state_;

@@ -57,13 +57,14 @@ class Fitter {
  public:
   Fitter(const ReflectanceSpectrum& spectrum, const FilmStack& stack,
          std::span<const ThicknessRange> ranges, const FilmFitOptions& options,
-         const ReflectanceSpectrum* noise)
+         const ReflectanceSpectrum* noise, const std::stop_token& stop)
       : spectrum_(spectrum),
         noise_(noise),
         stack_(stack),
         ranges_(ranges),
         options_(options),
-        solver_(spectrum, stack, ranges, options),
+        stop_(stop),
+        solver_(spectrum, stack, ranges, options, stop),
         measured_(solver_.Measured()) {}
 
   FilmFit Run() {
@@ -79,7 +80,7 @@ class Fitter {
 
  private:
   FilmFit Search() {
-    const std::vector<FilmSeed> seeds = FindFilmSeeds(spectrum_, stack_, ranges_, options_);
+    const std::vector<FilmSeed> seeds = FindFilmSeeds(spectrum_, stack_, ranges_, options_, stop_);
     if (seeds.empty() || IsHopeless(seeds.front())) {
       return NoFilm();
     }
@@ -352,6 +353,7 @@ class Fitter {
   const FilmStack& stack_;
   std::span<const ThicknessRange> ranges_;
   const FilmFitOptions& options_;
+  const std::stop_token& stop_;
   FilmSolver solver_;
   std::span<const double> measured_;
 };
@@ -362,11 +364,16 @@ std::variant<FilmFit, FilmFitFault> FitFilm(const ReflectanceSpectrum& spectrum,
                                             const FilmStack& stack,
                                             std::span<const ThicknessRange> ranges,
                                             const FilmFitOptions& options,
-                                            const ReflectanceSpectrum* noise) {
+                                            const ReflectanceSpectrum* noise,
+                                            const std::stop_token& stop) {
   if (const auto fault = CheckFilmFit(spectrum, stack, ranges, options)) {
     return *fault;
   }
-  return Fitter(spectrum, stack, ranges, options, noise).Run();
+  try {
+    return Fitter(spectrum, stack, ranges, options, noise, stop).Run();
+  } catch (const FitStopped&) {
+    return FilmFitFault::kStopped;
+  }
 }
 
 std::vector<std::variant<FilmFit, FilmFitFault>> FitFilms(

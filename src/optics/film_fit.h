@@ -5,6 +5,7 @@
 #include <QStringList>
 #include <optional>
 #include <span>
+#include <stop_token>
 #include <variant>
 #include <vector>
 
@@ -91,6 +92,7 @@ enum class FilmFitFault {
   kWavelengths,     ///< fewer than 20 points, or outside 440..840
   kOption,          ///< bandwidth, uncertainty or confidence out of its range
   kSpectrum,        ///< a value that is no number, or nothing but zeros
+  kStopped,         ///< it was to be given up
 };
 
 /// What is wrong with the settings of a fit, before there is a spectrum.
@@ -110,10 +112,13 @@ enum class FilmFitFault {
 /// each wavelength up to a common factor, where it is given, else from the residual itself. The
 /// spread is taken in when it makes the fit clearly better. The statistical part of the interval is
 /// Student's, from the covariance and the residual; the other parts are added in squares.
+///
+/// It takes a few milliseconds for one layer, up to seconds for several within wide ranges; `stop`
+/// ends it within milliseconds.
 [[nodiscard]] std::variant<FilmFit, FilmFitFault> FitFilm(
     const ReflectanceSpectrum& spectrum, const FilmStack& stack,
     std::span<const ThicknessRange> ranges, const FilmFitOptions& options = {},
-    const ReflectanceSpectrum* noise = nullptr);
+    const ReflectanceSpectrum* noise = nullptr, const std::stop_token& stop = {});
 
 /// FitFilm for several spectra at once, on as many threads as there are processors.
 [[nodiscard]] std::vector<std::variant<FilmFit, FilmFitFault>> FitFilms(

@@ -144,6 +144,8 @@ QString FilmFitFaultText(FilmFitFault fault) {
       return Text::tr("バンド幅、不確かさ、信頼水準のいずれかが範囲外です。");
     case FilmFitFault::kSpectrum:
       return Text::tr("反射率データが無効です。");
+    case FilmFitFault::kStopped:
+      return Text::tr("ﾌｨｯﾄを中止しました。");
   }
   return {};
 }

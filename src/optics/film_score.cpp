@@ -96,8 +96,9 @@ std::vector<double> IncoherentReflectance(const FilmStack& stack, const FilmFitO
 }
 
 FilmScore::FilmScore(const ReflectanceSpectrum& spectrum, const FilmStack& stack,
-                     const FilmFitOptions& options, int stepNm)
+                     const FilmFitOptions& options, int stepNm, const std::stop_token& stop)
     : options_(options),
+      stop_(stop),
       model_(stack, options.fromNm, options.toNm, stepNm, 0.0),
       values_(model_.Points()) {
   const std::vector<double> incoherent = IncoherentReflectance(stack, options);
@@ -131,6 +132,9 @@ double FilmScore::Damped(const std::vector<double>& thicknessesNm, double& visib
 }
 
 void FilmScore::Reflect(const std::vector<double>& thicknessesNm) {
+  if (stop_.stop_requested()) {
+    throw FitStopped();
+  }
   state_.thicknessesNm = thicknessesNm;
   model_.Reflect(state_, values_);
 }

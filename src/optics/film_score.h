@@ -2,6 +2,7 @@
 #pragma once
 
 #include <span>
+#include <stop_token>
 #include <vector>
 
 #include "optics/film_fit.h"
@@ -41,12 +42,16 @@ struct LinearMatch {
 [[nodiscard]] std::vector<double> IncoherentReflectance(const FilmStack& stack,
                                                         const FilmFitOptions& options);
 
+/// Thrown where a fit is given up.
+struct FitStopped {};
+
 /// How well thicknesses explain a spectrum at every `stepNm`-th wavelength, without the slit: what
 /// a search for starting points asks many times. The options must outlive it.
 class FilmScore {
  public:
+  /// What it computes throws FitStopped once a stop is requested.
   FilmScore(const ReflectanceSpectrum& spectrum, const FilmStack& stack,
-            const FilmFitOptions& options, int stepNm);
+            const FilmFitOptions& options, int stepNm, const std::stop_token& stop);
 
   /// The sum of squares with the best scale and offset.
   [[nodiscard]] double operator()(const std::vector<double>& thicknessesNm);
@@ -58,6 +63,7 @@ class FilmScore {
   void Reflect(const std::vector<double>& thicknessesNm);
 
   const FilmFitOptions& options_;
+  std::stop_token stop_;
   FilmModel model_;
   std::vector<double> measured_;
   std::vector<double> values_;

@@ -69,12 +69,13 @@ std::vector<FilmSeed> Distinct(std::vector<FilmSeed> seeds, const std::vector<do
 class Search {
  public:
   Search(const ReflectanceSpectrum& spectrum, const FilmStack& stack,
-         std::span<const ThicknessRange> ranges, const FilmFitOptions& options)
+         std::span<const ThicknessRange> ranges, const FilmFitOptions& options,
+         const std::stop_token& stop)
       : stack_(stack),
         ranges_(ranges),
         options_(options),
-        fine_(spectrum, stack, options, 1),
-        coarse_(spectrum, stack, options, options.toNm - options.fromNm >= 160 ? 4 : 1) {
+        fine_(spectrum, stack, options, 1, stop),
+        coarse_(spectrum, stack, options, options.toNm - options.fromNm >= 160 ? 4 : 1, stop) {
     for (std::size_t j = 0; j < ranges.size(); ++j) {
       thinNm_ = std::max(thinNm_, ThinNm(stack.layers[j], options));
       orders_.push_back(OrderNm(stack.layers[j], options));
@@ -379,8 +380,8 @@ class Search {
 
 std::vector<FilmSeed> FindFilmSeeds(const ReflectanceSpectrum& spectrum, const FilmStack& stack,
                                     std::span<const ThicknessRange> ranges,
-                                    const FilmFitOptions& options) {
-  return Search(spectrum, stack, ranges, options).Run();
+                                    const FilmFitOptions& options, const std::stop_token& stop) {
+  return Search(spectrum, stack, ranges, options, stop).Run();
 }
 
 }  // namespace vexa

@@ -16,10 +16,12 @@ struct FilmSeed {
 };
 
 /// Distinct starting points within the ranges, best first, from the Fourier peaks of the spectrum
-/// and from scans of thin or narrowly known layers. Takes what FitFilm has checked.
+/// and from scans of thin or narrowly known layers. Takes what FitFilm has checked;
+/// throws FitStopped once a stop is requested.
 [[nodiscard]] std::vector<FilmSeed> FindFilmSeeds(const ReflectanceSpectrum& spectrum,
                                                   const FilmStack& stack,
                                                   std::span<const ThicknessRange> ranges,
-                                                  const FilmFitOptions& options);
+                                                  const FilmFitOptions& options,
+                                                  const std::stop_token& stop);
 
 }  // namespace vexa

@@ -28,9 +28,11 @@ double& Value(FilmPoint& point, const FilmParameter& parameter) {
 }  // namespace
 
 FilmSolver::FilmSolver(const ReflectanceSpectrum& spectrum, const FilmStack& stack,
-                       std::span<const ThicknessRange> ranges, const FilmFitOptions& options)
+                       std::span<const ThicknessRange> ranges, const FilmFitOptions& options,
+                       const std::stop_token& stop)
     : ranges_(ranges),
       options_(options),
+      stop_(stop),
       model_(stack, options.fromNm, options.toNm, 1, options.bandwidthNm),
       values_(model_.Points()),
       shifted_(model_.Points()),
@@ -74,7 +76,7 @@ bool FilmSolver::Evaluate(const FilmPoint& start, const std::vector<FilmParamete
   for (std::size_t i = 0; i < parameters.size(); ++i) {
     Value(point, parameters[i]) = at[i];
   }
-  if (!IsSensible(point)) {
+  if (!IsSensible(point) || stop_.stop_requested()) {
     return false;
   }
   model_.Reflect(point.state, values_, jacobian.empty() ? std::span<double>() : slopes_);
@@ -121,6 +123,9 @@ void FilmSolver::FillJacobian(const FilmPoint& point, const std::vector<FilmPara
 std::optional<FilmSolution> FilmSolver::Solve(const FilmPoint& start,
                                               const std::vector<FilmParameter>& parameters,
                                               const LeastSquaresLimits& limits) {
+  if (stop_.stop_requested()) {
+    throw FitStopped();
+  }
   FilmPoint first = start;
   std::vector<double> values;
   values.reserve(parameters.size());

@@ -37,14 +37,15 @@ struct FilmSolution {
 class FilmSolver {
  public:
   FilmSolver(const ReflectanceSpectrum& spectrum, const FilmStack& stack,
-             std::span<const ThicknessRange> ranges, const FilmFitOptions& options);
+             std::span<const ThicknessRange> ranges, const FilmFitOptions& options,
+             const std::stop_token& stop);
 
   [[nodiscard]] std::span<const double> Measured() const { return measured_; }
 
   [[nodiscard]] std::vector<FilmParameter> FreeParameters(bool withSpread) const;
 
   /// The minimum next to a point, its scale within the limits; nothing when it lies outside the
-  /// ranges.
+  /// ranges. Throws FitStopped once a stop is requested.
   [[nodiscard]] std::optional<FilmSolution> Solve(const FilmPoint& start,
                                                   const std::vector<FilmParameter>& parameters,
                                                   const LeastSquaresLimits& limits);
@@ -76,6 +77,7 @@ class FilmSolver {
 
   std::span<const ThicknessRange> ranges_;
   const FilmFitOptions& options_;
+  std::stop_token stop_;
   FilmModel model_;
   std::vector<double> measured_;
   std::vector<double> values_;

@@ -40,6 +40,24 @@ TEST(ProgramSettings, AStartTakesThemOrTellsWhatIsWrong) {
   }
 }
 
+TEST(ProgramSettings, AFileOfTheDirectoryIsFoundWhereTheDirectoryIs) {
+  const test::TemporaryFiles files;
+  const test::TemporaryFiles moved;
+  ProgramSettings settings;
+  for (const QString& path : {files.Path("a.flm"), moved.Path("a.flm"), QString()}) {
+    settings.filmStack = path;
+    ASSERT_TRUE(WriteProgramSettings(settings, files.Directory()));
+    EXPECT_EQ(StartProgram(files.Directory()).settings.filmStack, path);
+  }
+  settings.filmStack = files.Path("a.flm");
+  ASSERT_TRUE(WriteProgramSettings(settings, files.Directory()));
+  moved.Write("program.json", files.Read("program.json"));
+  EXPECT_EQ(StartProgram(moved.Directory()).settings.filmStack, moved.Path("a.flm"));
+  moved.Write("program.json", R"({"filmStack": "/gone/b.flm"})");
+  moved.Write("b.flm", "");
+  EXPECT_EQ(StartProgram(moved.Directory()).settings.filmStack, moved.Path("b.flm"));
+}
+
 TEST(ProgramSettings, WritingKeepsWhatItDoesNotKnow) {
   const test::TemporaryFiles files;
   files.Write("program.json", R"({"language": "en", "later": 7})");

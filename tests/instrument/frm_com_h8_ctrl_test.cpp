@@ -24,7 +24,8 @@ using Frames = std::vector<std::string>;
 
 const Frames kInitialiseFrames{"E1000000", "96009100", "87FF0000", "A5010000", "A5010000"};
 // With 30 ms the settling wait is 380 - 30 + 50 ms; the tests set it to nothing.
-constexpr int kNoSettling = 0;
+constexpr std::int16_t kNoSettling = 0;
+constexpr std::int16_t kLongSettling = 5000;
 
 class H8Controller : public testing::Test {
  protected:
@@ -192,21 +193,32 @@ TEST_F(H8Controller, SecondAcquisitionReturnsAtOnce) {
 TEST_F(H8Controller, CancellingEndsAWaitAndPutsTheInstrumentToRest) {
   struct Case {
     const char* name;
+    AwaitedStep step;
     int silentFrame;  ///< of a background acquisition
     Frames framesAfter;
   };
   const Case cases[] = {
-      {"light shutter", 1, {"A5090000", "A50A0000"}},
-      {"measurement", 3, {"69000000", "A5090000", "A50A0000"}},
-      {"data", 4, {"A5090000", "A50A0000"}},
+      {"light shutter", AwaitedStep::kLightShutter, 1, {"A5090000", "A50A0000"}},
+      {"settling", AwaitedStep::kSettling, 2, {"A5090000", "A50A0000"}},
+      {"measurement", AwaitedStep::kMeasurement, 3, {"69000000", "A5090000", "A50A0000"}},
+      {"data", AwaitedStep::kData, 4, {"A5090000", "A50A0000"}},
   };
   for (const Case& c : cases) {
     SCOPED_TRACE(c.name);
     ASSERT_EQ(Acquire(LightFlag::kBackground), 0);
     peer.TakeFrames();
-    peer.At(c.silentFrame, kSilence);
-    QTimer::singleShot(20, &controller, &Controller::Cancel);
-    EXPECT_EQ(Acquire(LightFlag::kBackground), Controller::kCancelled);
+    const bool settles = c.step == AwaitedStep::kSettling;
+    if (!settles) {
+      peer.At(c.silentFrame, kSilence);
+    }
+    QObject waits;
+    QObject::connect(&controller, &Controller::WaitBegan, &waits, [&](AwaitedStep step) {
+      if (step == c.step) {
+        QTimer::singleShot(5, &waits, [&] { controller.Cancel(); });
+      }
+    });
+    EXPECT_EQ(Acquire(LightFlag::kBackground, settles ? kLongSettling : kNoSettling),
+              Controller::kCancelled);
     const Frames frames = peer.TakeFrames();
     EXPECT_EQ(Frames(frames.begin() + c.silentFrame, frames.end()), c.framesAfter);
     EXPECT_FALSE(controller.IsLightPathClosed());

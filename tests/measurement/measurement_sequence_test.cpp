@@ -3,6 +3,7 @@
 
 #include <gtest/gtest.h>
 
+#include <QTimer>
 #include <algorithm>
 #include <functional>
 #include <stdexcept>
@@ -254,6 +255,19 @@ TEST_F(Sequence, ASampleIsComputedWithWhatWasInForceWhenItBegan) {
   MeasurementSlot evaluated = slot;
   ComputeColours(settings.colour, evaluated);
   EXPECT_EQ(slot.colour.x, evaluated.colour.x) << "as every slot is shown";
+}
+
+TEST_F(Sequence, ASampleWhoseFitIsGivenUpIsStoredWithoutIt) {
+  const auto constant = [](double n) { return Material{Flat(n), Flat(0.0)}; };
+  const FilmStack stack{constant(1.5), {constant(1.7), constant(1.4), constant(1.9)}};
+  const FilmFitRequest request{stack, {{}, {}, {}}, {}};
+  session.SetFilmFit(request, true);
+  MeasureFrames();
+  controller.next.counts = CountsOf(test::Fringes());
+  controller.meanwhile = [&] { QTimer::singleShot(0, &sequence, &MeasurementSequence::Cancel); };
+  EXPECT_TRUE(Done(sequence.MeasureSample(4)).IsDone());
+  EXPECT_TRUE(session.State().Slot(4)->valid);
+  EXPECT_FALSE(session.State().Slot(4)->fit);
 }
 
 TEST_F(Sequence, AHistoryThatTakesNothingMoreIsToldOnce) {

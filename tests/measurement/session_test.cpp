@@ -40,7 +40,7 @@ class SessionTest : public testing::Test {
   }
 
   SampleStorage Measure(int slot, const ReflectanceSpectrum& reflectance) {
-    return session.StoreSample(slot, CountsOf(reflectance), session.BasisNow());
+    return test::Store(session, slot, CountsOf(reflectance));
   }
 
   const MeasurementSlot& Slot(int number) const { return *session.State().Slot(number); }

@@ -91,6 +91,43 @@ TEST(FilmFit, FindsOneLayerWithoutAHint) {
   }
 }
 
+TEST(FilmFit, FindsOneLayerInFewWavelengths) {
+  const std::pair<int, int> ranges[] = {{550, 650}, {500, 550}, {500, 525}};
+  for (const auto& [fromNm, toNm] : ranges) {
+    for (const double truthNm : {1500.0, 2000.0, 4000.0, 6000.0, 9000.0}) {
+      const FilmFit fit = Fit(Reflected(Coat(truthNm), kNoise), CoatStack(), {},
+                              {.fromNm = fromNm, .toNm = toNm, .bandwidthNm = 0.0});
+      EXPECT_EQ(FitOutcomeName(fit.outcome), QStringLiteral("ok")) << fromNm << ' ' << truthNm;
+      EXPECT_NEAR(fit.layers[0].thicknessNm, truthNm, 2.0) << fromNm << ' ' << toNm;
+    }
+  }
+}
+
+TEST(FilmFit, TellsOfFringesOutsideItsRanges) {
+  const struct {
+    double truthNm;
+    ThicknessRange range;
+    bool told;
+  } cases[] = {{8000.0, {500.0, 3000.0}, true},
+               {2000.0, {5000.0, 60000.0}, true},
+               {2000.0, {50.0, 60000.0}, false},
+               {0.0, {500.0, 3000.0}, false}};
+  for (const auto& c : cases) {
+    const FilmFit fit = Fit(Reflected(Coat(c.truthNm), kNoise), CoatStack(), {c.range});
+    EXPECT_EQ(!fit.warnings.isEmpty(), c.told) << c.truthNm << ' ' << c.range.fromNm;
+  }
+}
+
+TEST(FilmFit, IsGivenUpWhenAsked) {
+  std::stop_source stop;
+  stop.request_stop();
+  const std::vector<ThicknessRange> ranges(2);
+  const auto fit = FitFilm(Reflected(PrimedCoat(3000.0, 700.0), kNoise), PrimedStack(), ranges, {},
+                           nullptr, stop.get_token());
+  ASSERT_TRUE(std::holds_alternative<FilmFitFault>(fit));
+  EXPECT_EQ(std::get<FilmFitFault>(fit), FilmFitFault::kStopped);
+}
+
 TEST(FilmFit, FindsSeveralLayers) {
   const std::pair<double, double> films[] = {{3000, 700}, {2500, 1200}, {4000, 300}, {2000, 2000}};
   for (const auto& [coatNm, primerNm] : films) {

@@ -10,6 +10,7 @@
 
 #include "support/films.h"
 #include "support/pdf_words.h"
+#include "support/slots.h"
 #include "support/window_test.h"
 #include "views/film/film_fit_window.h"
 #include "views/optics/thickness_panel.h"
@@ -147,11 +148,32 @@ TEST_F(FilmFitting, TheStackIsKeptInAFileThatTheSettingsName) {
   EXPECT_EQ(Child<QLineEdit>(again, "Layer1To").text(), QStringLiteral("9000.0"));
   EXPECT_FALSE(Child<QCheckBox>(again, "ScaleFree").isChecked());
 
-  files.Write("bad.flm", "{}");
-  dialogs.open = files.Path("bad.flm");
-  Press("OpenStack");
-  EXPECT_EQ(messages.Take().at(0).id, Message::kFilmStackFault);
-  EXPECT_EQ(preferences.InForce().filmStack, files.Path("膜.flm"));
+  QByteArray reversed = files.Read("膜.flm");
+  reversed.replace("9000", "20");
+  for (const QByteArray& bad : {QByteArray("{}"), reversed}) {
+    files.Write("bad.flm", bad);
+    dialogs.open = files.Path("bad.flm");
+    Press("OpenStack");
+    EXPECT_EQ(messages.Take().at(0).id, Message::kFilmStackFault) << bad.toStdString();
+    EXPECT_EQ(preferences.InForce().filmStack, files.Path("膜.flm"));
+  }
+}
+
+TEST_F(FilmFitting, AsksBeforeAChangedStackIsLost) {
+  window.show();
+  Enter("Layer1To", "9000");
+  emit Find<QLineEdit>("Layer1To").textEdited(QStringLiteral("9000"));
+  for (const MessageResult answer : {MessageResult::kCancel, MessageResult::kYes}) {
+    messages.answers = {answer};
+    Press("CloseFits");
+    EXPECT_EQ(messages.Take().at(0).id, Message::kFilmStackUnsaved);
+    EXPECT_TRUE(window.isVisible()) << "it stays, nor was a name given to save under";
+  }
+  messages.answers = {MessageResult::kYes};
+  dialogs.save = SaveChoice{files.Path("kept.flm"), 1};
+  QTest::keyClick(&window, Qt::Key_Escape);
+  EXPECT_FALSE(window.isVisible());
+  EXPECT_TRUE(files.Has("kept.flm"));
 }
 
 TEST_F(FilmFitting, FollowsEachMeasurementWhereAsked) {
@@ -175,7 +197,7 @@ TEST_F(FilmFitting, FollowsEachMeasurementWhereAsked) {
   for (int nm = ReflectanceSpectrum::kFirstNm; nm <= ReflectanceSpectrum::kLastNm; ++nm) {
     counts[nm] = coat[nm] * 1250.0;
   }
-  session.StoreSample(5, counts, session.BasisNow());
+  test::Store(session, 5, counts);
   EXPECT_NEAR(Fitted(5), 2500.0, 0.5);
   ASSERT_EQ(state.thicknessHistory.count, 1);
   EXPECT_TRUE(state.thicknessHistory.notes[0].fitted);
@@ -184,7 +206,7 @@ TEST_F(FilmFitting, FollowsEachMeasurementWhereAsked) {
   EXPECT_TRUE(Child<QLabel>(panel, "FittedThickness").text().startsWith(QStringLiteral("2500.")));
 
   each.click();
-  session.StoreSample(5, counts, session.BasisNow());
+  test::Store(session, 5, counts);
   EXPECT_FALSE(state.Slot(5)->fit);
 }
 

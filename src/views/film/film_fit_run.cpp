@@ -12,21 +12,24 @@ FilmFitRun::~FilmFitRun() {
 
 void FilmFitRun::Start(const FilmFitRequest& request, const std::map<int, Spectrum>& spectra) {
   Cancel();
+  stop_ = std::stop_source();
   left_ = static_cast<int>(spectra.size());
   const auto shared = std::make_shared<const FilmFitRequest>(request);
   for (const auto& [slot, spectrum] : spectra) {
-    pool_.start([this, run = run_, shared, slot = slot, spectrum = spectrum] {
-      const auto result = std::make_shared<const Result>(
-          FitFilm(spectrum.reflectance, shared->stack, shared->ranges, shared->options,
-                  spectrum.noise.IsEmpty() ? nullptr : &spectrum.noise));
-      QMetaObject::invokeMethod(
-          this, [this, run, slot, result] { Take(run, slot, *result); }, Qt::QueuedConnection);
-    });
+    pool_.start(
+        [this, run = run_, stop = stop_.get_token(), shared, slot = slot, spectrum = spectrum] {
+          const auto result = std::make_shared<const Result>(
+              FitFilm(spectrum.reflectance, shared->stack, shared->ranges, shared->options,
+                      spectrum.noise.IsEmpty() ? nullptr : &spectrum.noise, stop));
+          QMetaObject::invokeMethod(
+              this, [this, run, slot, result] { Take(run, slot, *result); }, Qt::QueuedConnection);
+        });
   }
 }
 
 void FilmFitRun::Cancel() {
   pool_.clear();
+  stop_.request_stop();
   ++run_;
   left_ = 0;
 }

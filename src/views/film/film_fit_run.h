@@ -4,6 +4,7 @@
 #include <QObject>
 #include <QThreadPool>
 #include <map>
+#include <stop_token>
 #include <variant>
 
 #include "optics/film_fit.h"
@@ -23,7 +24,7 @@ class FilmFitRun : public QObject {
   };
 
   FilmFitRun() = default;
-  /// Waits for the fits that run; those that wait are left.
+  /// Gives up what runs.
   ~FilmFitRun() override;
 
   /// Begins anew with spectra by the numbers of their slots; what ran before is told no more.
@@ -39,6 +40,7 @@ class FilmFitRun : public QObject {
   void Take(int run, int slot, const Result& result);
 
   QThreadPool pool_;
+  std::stop_source stop_;
   int run_ = 0;
   int left_ = 0;
 };

@@ -333,8 +333,8 @@ void LotPage::ShowRun() {
   for (const char* name : {"LotBackground", "LotReference", "LotRepeat"}) {
     findChild<QPushButton*>(QLatin1String(name))->setEnabled(!measuring);
   }
-  if (lightButton_->isChecked() && !measuring && desk_.IsIdle() && isVisible()) {
-    Watch();
+  if (ended && lightButton_->isChecked() && isVisible()) {
+    Watch();  // which a measurement has interrupted
   }
 }
 

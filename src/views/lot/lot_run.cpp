@@ -173,7 +173,7 @@ void LotRun::End(const MeasurementOutcome& outcome) {
   if (!outcome.IsDone()) {
     const bool cancelled = outcome.status == Controller::kCancelled;
     outcome_ = cancelled ? Outcome::kCancelled : Outcome::kFault;
-    fault_ = TextOf(outcome);
+    fault_ = cancelled ? QString() : TextOf(outcome);
   } else {
     fault_ = outcome.messages.empty() ? QString() : TextOf(outcome);
   }
