@@ -758,8 +758,8 @@ Measuring opens it.</translation>
         <translation>A comma in a sample No. is read as a column separator when the CSV file is opened.<byte value="xd"/><byte value="xd"/>%1</translation>
     </message>
     <message>
-        <source>測定日が日付ではありません。<byte value="xd"/><byte value="xd"/>%1</source>
-        <translation>The measuring date is not a date.<byte value="xd"/><byte value="xd"/>%1</translation>
+        <source>測定日が日付ではありません。<byte value="xd"/><byte value="xd"/>%1<byte value="xd"/><byte value="xd"/>2026/11/22、2026/11/22 9:05、2026/11/22 9:05:00 の形で入力してください。</source>
+        <translation>The measuring date is not a date.<byte value="xd"/><byte value="xd"/>%1<byte value="xd"/><byte value="xd"/>Enter it as 2026/11/22, 2026/11/22 9:05 or 2026/11/22 9:05:00.</translation>
     </message>
     <message>
         <source>ｻﾝﾌﾟﾘﾝｸﾞ時間が設定範囲を越えています。 (30 ≦ 設定値 ≦ 10000)</source>
