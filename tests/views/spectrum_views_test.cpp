@@ -167,6 +167,16 @@ TEST_F(SpectrumViews, TheViewFollowsACursorThatLeavesIt) {
     graph.MoveCursor(700);
     EXPECT_TRUE(graph.xAxis->range().contains(AbscissaOf(abscissa, 700.0)));
     EXPECT_NEAR(graph.xAxis->range().size(), full.size(), 1e-9);
+    const QCPRange widest(AbscissaOf(abscissa, 440.0), AbscissaOf(abscissa, 840.0));
+    for (const int nm : {9999, 0}) {
+      graph.MoveCursor(nm);
+      EXPECT_TRUE(graph.xAxis->range().contains(AbscissaOf(abscissa, graph.CursorNm()))) << nm;
+      for (const Qt::Key aside : {Qt::Key_Left, Qt::Key_Right}) {
+        const QCPRange shown = graph.xAxis->range();
+        EXPECT_EQ(shown, shown.bounded(widest.lower, widest.upper)) << nm;
+        QTest::keyClick(&graph, aside, Qt::ControlModifier);
+      }
+    }
   }
 }
 
