@@ -599,11 +599,11 @@ Measuring opens it.</translation>
     </message>
     <message>
         <source>固定反射率値が設定範囲を越えています。 (0.1 ≦ 設定値 ≦ 110)</source>
-        <translation>The constant reflectance is out of range. (0.1 ≦ value ≦ 110)</translation>
+        <translation>The constant reflectance is out of range. (0.1 ≤ value ≤ 110)</translation>
     </message>
     <message>
         <source>固定屈折率が設定範囲を越えています。 (0.1 ≦ 設定値 ≦ 10)</source>
-        <translation>The constant refractive index is out of range. (0.1 ≦ value ≦ 10)</translation>
+        <translation>The constant refractive index is out of range. (0.1 ≤ value ≤ 10)</translation>
     </message>
     <message>
         <source>係数が数値ではありません。</source>
@@ -667,7 +667,7 @@ Measuring opens it.</translation>
     </message>
     <message>
         <source>ｽｹｰﾙ設定が設定範囲を越えています。(0 ≦ 設定値 ≦ 20000)</source>
-        <translation>The scale is out of range. (0 ≦ value ≦ 20000)</translation>
+        <translation>The scale is out of range. (0 ≤ value ≤ 20000)</translation>
     </message>
     <message>
         <source>膜厚履歴ﾌｧｲﾙの書き込みに失敗しました。</source>
@@ -699,27 +699,27 @@ Measuring opens it.</translation>
     </message>
     <message>
         <source>波長表示の最短波長値が設定範囲外です。 (%1&lt;= 設定値 &lt;=%2)</source>
-        <translation>The shortest wavelength shown is out of range. (%1 &lt;= value &lt;= %2)</translation>
+        <translation>The shortest wavelength shown is out of range. (%1 ≤ value ≤ %2)</translation>
     </message>
     <message>
         <source>波長表示の最長波長値が設定範囲外です。 (%1&lt;= 設定値 &lt;=%2)</source>
-        <translation>The longest wavelength shown is out of range. (%1 &lt;= value &lt;= %2)</translation>
+        <translation>The longest wavelength shown is out of range. (%1 ≤ value ≤ %2)</translation>
     </message>
     <message>
         <source>波長表示の幅が範囲を越えています。 (20 ≦ 設定値 ≦ 401)</source>
-        <translation>The width of the wavelengths shown is out of range. (20 ≦ value ≦ 401)</translation>
+        <translation>The width of the wavelengths shown is out of range. (20 ≤ value ≤ 401)</translation>
     </message>
     <message>
         <source>波長の目盛り間隔が設定範囲を越えています。 (5 ≦ 設定値 ≦ 1000)</source>
-        <translation>The tick interval of the wavelength is out of range. (5 ≦ value ≦ 1000)</translation>
+        <translation>The tick interval of the wavelength is out of range. (5 ≤ value ≤ 1000)</translation>
     </message>
     <message>
         <source>反射率の最小値の設定範囲を越えています。 (0 ≦ 設定値 ≦ 100)</source>
-        <translation>The minimum of the reflectance is out of range. (0 ≦ value ≦ 100)</translation>
+        <translation>The minimum of the reflectance is out of range. (0 ≤ value ≤ 100)</translation>
     </message>
     <message>
         <source>反射率の最大値の設定範囲を越えています。 (0.01 ≦ 設定値 ≦ 100)</source>
-        <translation>The maximum of the reflectance is out of range. (0.01 ≦ value ≦ 100)</translation>
+        <translation>The maximum of the reflectance is out of range. (0.01 ≤ value ≤ 100)</translation>
     </message>
     <message>
         <source>反射率の目盛り間隔が設定範囲を越えています。 (最大目盛り本数 100)</source>
@@ -727,23 +727,23 @@ Measuring opens it.</translation>
     </message>
     <message>
         <source>ﾃｷｽﾄ表示ｽﾃｯﾌﾟが設定範囲を越えています。 (1≦ 設定値 ≦ 100)</source>
-        <translation>The step of the text view is out of range. (1 ≦ value ≦ 100)</translation>
+        <translation>The step of the text view is out of range. (1 ≤ value ≤ 100)</translation>
     </message>
     <message>
         <source>ﾃｷｽﾄ表示の表示ｽﾃｯﾌﾟが設定範囲を越えています。 (1 ≦ 設定値 ≦ 100)</source>
-        <translation>The display step of the text view is out of range. (1 ≦ value ≦ 100)</translation>
+        <translation>The display step of the text view is out of range. (1 ≤ value ≤ 100)</translation>
     </message>
     <message>
         <source>平均反射率の最短波長値が設定範囲外です。 (%1&lt;= 設定値 &lt;=%2)</source>
-        <translation>The shortest wavelength of the average reflectance is out of range. (%1 &lt;= value &lt;= %2)</translation>
+        <translation>The shortest wavelength of the average reflectance is out of range. (%1 ≤ value ≤ %2)</translation>
     </message>
     <message>
         <source>平均反射率の最長波長値が設定範囲外です。 (%1&lt;= 設定値 &lt;=%2)</source>
-        <translation>The longest wavelength of the average reflectance is out of range. (%1 &lt;= value &lt;= %2)</translation>
+        <translation>The longest wavelength of the average reflectance is out of range. (%1 ≤ value ≤ %2)</translation>
     </message>
     <message>
         <source>平均反射率の幅が範囲を越えています。 (1 ≦ 設定値 ≦ 401)</source>
-        <translation>The width of the average reflectance is out of range. (1 ≦ value ≦ 401)</translation>
+        <translation>The width of the average reflectance is out of range. (1 ≤ value ≤ 401)</translation>
     </message>
     <message>
         <source>ﾃﾞｰﾀが入力できません。再入力して下さい。</source>
@@ -763,15 +763,15 @@ Measuring opens it.</translation>
     </message>
     <message>
         <source>ｻﾝﾌﾟﾘﾝｸﾞ時間が設定範囲を越えています。 (30 ≦ 設定値 ≦ 10000)</source>
-        <translation>The sampling time is out of range. (30 ≦ value ≦ 10000)</translation>
+        <translation>The sampling time is out of range. (30 ≤ value ≤ 10000)</translation>
     </message>
     <message>
         <source>取り込み平均回数が設定範囲を越えています。 (1 ≦ 設定値 ≦ 16)</source>
-        <translation>The averaging count is out of range. (1 ≦ value ≦ 16)</translation>
+        <translation>The averaging count is out of range. (1 ≤ value ≤ 16)</translation>
     </message>
     <message>
         <source>ｷｬﾘﾌﾞﾚｰｼｮﾝのｼﾌﾄ値が設定範囲を越えています。 (0 ≦ 設定値 ≦ 7)</source>
-        <translation>The calibration shift is out of range. (0 ≦ value ≦ 7)</translation>
+        <translation>The calibration shift is out of range. (0 ≤ value ≤ 7)</translation>
     </message>
     <message>
         <source>この設定は、再起動を含め次の測定から有効になります。<byte value="xd"/><byte value="xd"/>ｷｬﾘﾌﾞﾚｰｼｮﾝ･ﾌｧｲﾙ名:%1</source>
@@ -779,7 +779,7 @@ Measuring opens it.</translation>
     </message>
     <message>
         <source>余白が設定範囲を越えています。 (0 ≦ 設定値 ≦ 50)</source>
-        <translation>The margin is out of range. (0 ≦ value ≦ 50)</translation>
+        <translation>The margin is out of range. (0 ≤ value ≤ 50)</translation>
     </message>
     <message>
         <source>余白が大きすぎます。 (印刷範囲は縦横とも100mm以上)</source>
