@@ -134,9 +134,11 @@ TEST_F(SpectrumViews, LabelsOfTheAxesStandApart) {
   for (const double interval : {5.0, 20.0, 100.0}) {
     SetTicks(*graph.xAxis, interval);
     QVector<double> ticks;
+    QVector<double> minor;
     QVector<QString> labels;
-    graph.xAxis->ticker()->generate(graph.xAxis->range(), QLocale::c(), u'g', 6, ticks, nullptr,
+    graph.xAxis->ticker()->generate(graph.xAxis->range(), QLocale::c(), u'g', 6, ticks, &minor,
                                     &labels);
+    EXPECT_EQ(minor.isEmpty(), interval == 5.0);
     double end = -1.0;
     int shown = 0;
     for (qsizetype i = 0; i < ticks.size(); ++i) {
