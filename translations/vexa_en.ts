@@ -595,11 +595,11 @@ Measuring opens it.</translation>
     </message>
     <message>
         <source>固定反射率値が設定範囲を越えています。 (0.1 ≦ 設定値 ≦ 110)</source>
-        <translation>The constant reflectance is out of range. (0.1 ≦ value ≦ 110)</translation>
+        <translation>The constant reflectance is out of range. (0.1 ≤ value ≤ 110)</translation>
     </message>
     <message>
         <source>固定屈折率が設定範囲を越えています。 (0.1 ≦ 設定値 ≦ 10)</source>
-        <translation>The constant refractive index is out of range. (0.1 ≦ value ≦ 10)</translation>
+        <translation>The constant refractive index is out of range. (0.1 ≤ value ≤ 10)</translation>
     </message>
     <message>
         <source>係数が数値ではありません。</source>
@@ -663,7 +663,7 @@ Measuring opens it.</translation>
     </message>
     <message>
         <source>ｽｹｰﾙ設定が設定範囲を越えています。(0 ≦ 設定値 ≦ 20000)</source>
-        <translation>The scale is out of range. (0 ≦ value ≦ 20000)</translation>
+        <translation>The scale is out of range. (0 ≤ value ≤ 20000)</translation>
     </message>
     <message>
         <source>膜厚履歴ﾌｧｲﾙの書き込みに失敗しました。</source>
@@ -695,27 +695,27 @@ Measuring opens it.</translation>
     </message>
     <message>
         <source>波長表示の最短波長値が設定範囲外です。 (%1&lt;= 設定値 &lt;=%2)</source>
-        <translation>The shortest wavelength shown is out of range. (%1 &lt;= value &lt;= %2)</translation>
+        <translation>The shortest wavelength shown is out of range. (%1 ≤ value ≤ %2)</translation>
     </message>
     <message>
         <source>波長表示の最長波長値が設定範囲外です。 (%1&lt;= 設定値 &lt;=%2)</source>
-        <translation>The longest wavelength shown is out of range. (%1 &lt;= value &lt;= %2)</translation>
+        <translation>The longest wavelength shown is out of range. (%1 ≤ value ≤ %2)</translation>
     </message>
     <message>
         <source>波長表示の幅が範囲を越えています。 (20 ≦ 設定値 ≦ 401)</source>
-        <translation>The width of the wavelengths shown is out of range. (20 ≦ value ≦ 401)</translation>
+        <translation>The width of the wavelengths shown is out of range. (20 ≤ value ≤ 401)</translation>
     </message>
     <message>
         <source>波長の目盛り間隔が設定範囲を越えています。 (5 ≦ 設定値 ≦ 1000)</source>
-        <translation>The tick interval of the wavelength is out of range. (5 ≦ value ≦ 1000)</translation>
+        <translation>The tick interval of the wavelength is out of range. (5 ≤ value ≤ 1000)</translation>
     </message>
     <message>
         <source>反射率の最小値の設定範囲を越えています。 (0 ≦ 設定値 ≦ 100)</source>
-        <translation>The minimum of the reflectance is out of range. (0 ≦ value ≦ 100)</translation>
+        <translation>The minimum of the reflectance is out of range. (0 ≤ value ≤ 100)</translation>
     </message>
     <message>
         <source>反射率の最大値の設定範囲を越えています。 (0.01 ≦ 設定値 ≦ 100)</source>
-        <translation>The maximum of the reflectance is out of range. (0.01 ≦ value ≦ 100)</translation>
+        <translation>The maximum of the reflectance is out of range. (0.01 ≤ value ≤ 100)</translation>
     </message>
     <message>
         <source>反射率の目盛り間隔が設定範囲を越えています。 (最大目盛り本数 100)</source>
@@ -723,23 +723,23 @@ Measuring opens it.</translation>
     </message>
     <message>
         <source>ﾃｷｽﾄ表示ｽﾃｯﾌﾟが設定範囲を越えています。 (1≦ 設定値 ≦ 100)</source>
-        <translation>The step of the text view is out of range. (1 ≦ value ≦ 100)</translation>
+        <translation>The step of the text view is out of range. (1 ≤ value ≤ 100)</translation>
     </message>
     <message>
         <source>ﾃｷｽﾄ表示の表示ｽﾃｯﾌﾟが設定範囲を越えています。 (1 ≦ 設定値 ≦ 100)</source>
-        <translation>The display step of the text view is out of range. (1 ≦ value ≦ 100)</translation>
+        <translation>The display step of the text view is out of range. (1 ≤ value ≤ 100)</translation>
     </message>
     <message>
         <source>平均反射率の最短波長値が設定範囲外です。 (%1&lt;= 設定値 &lt;=%2)</source>
-        <translation>The shortest wavelength of the average reflectance is out of range. (%1 &lt;= value &lt;= %2)</translation>
+        <translation>The shortest wavelength of the average reflectance is out of range. (%1 ≤ value ≤ %2)</translation>
     </message>
     <message>
         <source>平均反射率の最長波長値が設定範囲外です。 (%1&lt;= 設定値 &lt;=%2)</source>
-        <translation>The longest wavelength of the average reflectance is out of range. (%1 &lt;= value &lt;= %2)</translation>
+        <translation>The longest wavelength of the average reflectance is out of range. (%1 ≤ value ≤ %2)</translation>
     </message>
     <message>
         <source>平均反射率の幅が範囲を越えています。 (1 ≦ 設定値 ≦ 401)</source>
-        <translation>The width of the average reflectance is out of range. (1 ≦ value ≦ 401)</translation>
+        <translation>The width of the average reflectance is out of range. (1 ≤ value ≤ 401)</translation>
     </message>
     <message>
         <source>ﾃﾞｰﾀが入力できません。再入力して下さい。</source>
@@ -754,20 +754,16 @@ Measuring opens it.</translation>
         <translation>A comma in a sample No. is read as a column separator when the CSV file is opened.<byte value="xd"/><byte value="xd"/>%1</translation>
     </message>
     <message>
-        <source>測定日が日付ではありません。<byte value="xd"/><byte value="xd"/>%1</source>
-        <translation>The measuring date is not a date.<byte value="xd"/><byte value="xd"/>%1</translation>
-    </message>
-    <message>
         <source>ｻﾝﾌﾟﾘﾝｸﾞ時間が設定範囲を越えています。 (30 ≦ 設定値 ≦ 10000)</source>
-        <translation>The sampling time is out of range. (30 ≦ value ≦ 10000)</translation>
+        <translation>The sampling time is out of range. (30 ≤ value ≤ 10000)</translation>
     </message>
     <message>
         <source>取り込み平均回数が設定範囲を越えています。 (1 ≦ 設定値 ≦ 16)</source>
-        <translation>The averaging count is out of range. (1 ≦ value ≦ 16)</translation>
+        <translation>The averaging count is out of range. (1 ≤ value ≤ 16)</translation>
     </message>
     <message>
         <source>ｷｬﾘﾌﾞﾚｰｼｮﾝのｼﾌﾄ値が設定範囲を越えています。 (0 ≦ 設定値 ≦ 7)</source>
-        <translation>The calibration shift is out of range. (0 ≦ value ≦ 7)</translation>
+        <translation>The calibration shift is out of range. (0 ≤ value ≤ 7)</translation>
     </message>
     <message>
         <source>この設定は、再起動を含め次の測定から有効になります。<byte value="xd"/><byte value="xd"/>ｷｬﾘﾌﾞﾚｰｼｮﾝ･ﾌｧｲﾙ名:%1</source>
@@ -775,7 +771,7 @@ Measuring opens it.</translation>
     </message>
     <message>
         <source>余白が設定範囲を越えています。 (0 ≦ 設定値 ≦ 50)</source>
-        <translation>The margin is out of range. (0 ≦ value ≦ 50)</translation>
+        <translation>The margin is out of range. (0 ≤ value ≤ 50)</translation>
     </message>
     <message>
         <source>余白が大きすぎます。 (印刷範囲は縦横とも100mm以上)</source>
@@ -4699,6 +4695,114 @@ Repeats: %4   Background: %5   Reference: %6</translation>
     <message>
         <source>ﾌｨｯﾄを中止しました。</source>
         <translation>The fit was cancelled.</translation>
+    </message>
+    <message>
+        <source>測定日が日付ではありません。<byte value="xd"/><byte value="xd"/>%1<byte value="xd"/><byte value="xd"/>2026/11/22、2026/11/22 9:05、2026/11/22 9:05:00 の形で入力してください。</source>
+        <translation>The measuring date is not a date.<byte value="xd"/><byte value="xd"/>%1<byte value="xd"/><byte value="xd"/>Enter it as 2026/11/22, 2026/11/22 9:05 or 2026/11/22 9:05:00.</translation>
+    </message>
+    <message>
+        <source>全波長で使う反射率です (0.1～110 %)。</source>
+        <translation>The reflectance at all wavelengths (0.1 to 110 %).</translation>
+    </message>
+    <message>
+        <source>全波長で使う屈折率です (0.1～10)。</source>
+        <translation>The refractive index at all wavelengths (0.1 to 10).</translation>
+    </message>
+    <message>
+        <source>印刷の出力先です。PDFﾌｧｲﾙでは、印刷するたびにﾌｧｲﾙ名を決めます。</source>
+        <translation>Where pages are printed. A PDF file is named each time.</translation>
+    </message>
+    <message>
+        <source>用紙の大きさです。PDFﾌｧｲﾙのﾍﾟｰｼﾞもこの大きさになります。</source>
+        <translation>The paper size, of the pages of a PDF file, too.</translation>
+    </message>
+    <message>
+        <source>長い辺を縦にして印刷します。</source>
+        <translation>Prints with the long side upright.</translation>
+    </message>
+    <message>
+        <source>長い辺を横にして印刷します。</source>
+        <translation>Prints with the long side across.</translation>
+    </message>
+    <message>
+        <source>用紙の端から印刷する範囲までの距離です (0～50 mm)。</source>
+        <translation>The distance from the edge of the paper to what is printed (0 to 50 mm).</translation>
+    </message>
+    <message>
+        <source>波長軸の左端です (440～840 nm)。</source>
+        <translation>The left end of the wavelength axis (440 to 840 nm).</translation>
+    </message>
+    <message>
+        <source>波長軸の右端です。最短波長から20 nm以上離します (840 nmまで)。</source>
+        <translation>The right end of the wavelength axis, at least 20 nm above the shortest wavelength (up to 840 nm).</translation>
+    </message>
+    <message>
+        <source>波長軸の目盛りの間隔です (5～1000 nm)。</source>
+        <translation>The distance between the ticks of the wavelength axis (5 to 1000 nm).</translation>
+    </message>
+    <message>
+        <source>反射率軸の上端です (0.01～100 %)。</source>
+        <translation>The upper end of the reflectance axis (0.01 to 100 %).</translation>
+    </message>
+    <message>
+        <source>反射率軸の下端です (0～100 %)。</source>
+        <translation>The lower end of the reflectance axis (0 to 100 %).</translation>
+    </message>
+    <message>
+        <source>反射率軸の目盛りの間隔です。目盛りは100本までです。</source>
+        <translation>The distance between the ticks of the reflectance axis, which takes up to 100 of them.</translation>
+    </message>
+    <message>
+        <source>表の行の波長の間隔です (1～100 nm)。</source>
+        <translation>The distance between the wavelengths of the rows of a table (1 to 100 nm).</translation>
+    </message>
+    <message>
+        <source>平均反射率を計算する範囲の始まりです (440～840 nm)。</source>
+        <translation>The beginning of the range of the average reflectance (440 to 840 nm).</translation>
+    </message>
+    <message>
+        <source>平均反射率を計算する範囲の終わりです (440～840 nm)。</source>
+        <translation>The end of the range of the average reflectance (440 to 840 nm).</translation>
+    </message>
+    <message>
+        <source>使用する条件の波長の間で、反射率を上限と下限で判定します。</source>
+        <translation>Judges the reflectance between the wavelengths of the conditions in use by their upper and lower limits.</translation>
+    </message>
+    <message>
+        <source>判定する区間の始まりの波長と、そこでの限界です。</source>
+        <translation>The wavelength at which judging begins, and the limits there.</translation>
+    </message>
+    <message>
+        <source>前の条件からこの波長までの区間を判定します。限界は前の条件の限界から直線で変わります。</source>
+        <translation>Judges the section from the previous condition to this wavelength. The limits change along straight lines from those of the previous condition.</translation>
+    </message>
+    <message>
+        <source>表示設定の波長範囲の平均反射率を判定します。</source>
+        <translation>Judges the average reflectance over the range of the display settings.</translation>
+    </message>
+    <message>
+        <source>標準光源と視野の設定による視感反射率を判定します。</source>
+        <translation>Judges the luminous reflectance for the illuminant and observer that are set.</translation>
+    </message>
+    <message>
+        <source>反射率の山または谷の波長を判定します。</source>
+        <translation>Judges the wavelength of the highest or lowest reflectance.</translation>
+    </message>
+    <message>
+        <source>クロマ C*、a*b*色度図の原点からの距離を判定します。</source>
+        <translation>Judges the chroma C*, the distance from the origin of the a*b* diagram.</translation>
+    </message>
+    <message>
+        <source>色相角 h、a*軸から反時計回りの角度を判定します。上限が下限より小さいときは、0°をまたぐ範囲になります。</source>
+        <translation>Judges the hue angle h, anticlockwise from the a* axis. An upper limit below the lower one means the range through 0°.</translation>
+    </message>
+    <message>
+        <source>a*b*色度図に、このクロマの円を描きます。</source>
+        <translation>Draws the circle of this chroma in the a*b* diagram.</translation>
+    </message>
+    <message>
+        <source>a*b*色度図に、この色相角の線を描きます。</source>
+        <translation>Draws the line of this hue angle in the a*b* diagram.</translation>
     </message>
 </context>
 </TS>

@@ -6,7 +6,6 @@
 #include <QDir>
 #include <QMenuBar>
 #include <QPointer>
-#include <QScreen>
 #include <utility>
 
 #include "app/main_panels.h"
@@ -17,6 +16,7 @@
 #include "files/startup_file.h"
 #include "measurement/dispersion_data.h"
 #include "views/common/file_questions.h"
+#include "views/common/window_size.h"
 #include "views/files/environment_commands.h"
 #include "views/standards/standard_files.h"
 
@@ -43,8 +43,7 @@ VEXA::VEXA(Services services, const QString& programDirectory)
   commands_->setParent(this);
   setCentralWidget(panels_);
   setStatusBar(status_);
-  constexpr QSize kFrameOfWindow(16, 44);
-  resize(QSize(1280, 900).boundedTo(screen()->availableSize() - kFrameOfWindow));
+  ResizeWithinScreen(*this, {1280, 900});
   ListenToSession();
   const auto showCie = [this] { panels_->ShowCie(preferences_.InForce().showCie); };
   connect(&preferences_, &ProgramPreferences::Changed, this, showCie);

@@ -8,6 +8,7 @@ namespace {
 
 const QString kEmptyDate = QStringLiteral("0:00:00");
 const QString kDateFormat = QStringLiteral("yyyy/M/d");
+const QString kDateMinuteFormat = QStringLiteral("yyyy/M/d H:mm");
 const QString kDateTimeFormat = QStringLiteral("yyyy/M/d H:mm:ss");
 
 }  // namespace
@@ -21,13 +22,14 @@ QString DateTimeText(const QDateTime& time) {
 }
 
 std::optional<QDateTime> ParseDateTime(const QString& text) {
-  const QString trimmed = text.trimmed();
-  if (trimmed == kEmptyDate) {
+  QString entry = text.simplified();
+  if (entry == kEmptyDate) {
     return QDateTime();
   }
+  entry.replace(u'-', u'/').replace(u'T', u' ');
   // The short forms read one digit or two.
-  for (const QString& format : {kDateTimeFormat, kDateFormat}) {
-    const QDateTime time = QLocale::c().toDateTime(trimmed, format);
+  for (const QString& format : {kDateTimeFormat, kDateMinuteFormat, kDateFormat}) {
+    const QDateTime time = QLocale::c().toDateTime(entry, format);
     if (time.isValid()) {
       return time;
     }

@@ -11,8 +11,9 @@ namespace vexa {
 /// "0:00:00" for an invalid one.
 [[nodiscard]] QString DateTimeText(const QDateTime& time);
 
-/// The date that a text in one of these forms, or in "yyyy/MM/dd HH:mm:ss", stands for; an invalid
-/// date for "0:00:00", nothing for any other text.
+/// The date that a text stands for: "yyyy/M/d", alone or with "H:mm" or "H:mm:ss"; months to hours
+/// of one digit or two, "-" in place of "/", "T" in place of the space between. An invalid date for
+/// "0:00:00", nothing for any other text.
 [[nodiscard]] std::optional<QDateTime> ParseDateTime(const QString& text);
 
 }  // namespace vexa

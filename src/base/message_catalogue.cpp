@@ -311,7 +311,9 @@ constexpr std::array<MessageEntry, kMessageCount> kCatalogue{{
      QT_TRANSLATE_NOOP("Text",
                        "試料Noのｺﾝﾏは、CSVﾌｧｲﾙを開くときに列の区切りとして読まれます。\r\r%1")},
     {Message::kNotADate, title::kError, MessageIcon::kStop, MessageButtons::kOk,
-     QT_TRANSLATE_NOOP("Text", "測定日が日付ではありません。\r\r%1")},
+     QT_TRANSLATE_NOOP("Text",
+                       "測定日が日付ではありません。\r\r%1\r\r2026/11/22、2026/11/22 9:05、"
+                       "2026/11/22 9:05:00 の形で入力してください。")},
     {Message::kSamplingTimeOutOfRange, title::kError, MessageIcon::kStop, MessageButtons::kOk,
      QT_TRANSLATE_NOOP("Text", "ｻﾝﾌﾟﾘﾝｸﾞ時間が設定範囲を越えています。 (30 ≦ 設定値 ≦ 10000)")},
     {Message::kAveragingOutOfRange, title::kError, MessageIcon::kStop, MessageButtons::kOk,

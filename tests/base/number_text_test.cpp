@@ -5,8 +5,11 @@
 
 #include <cmath>
 #include <limits>
+#include <optional>
+#include <utility>
 
 #include "base/code_page.h"
+#include "base/date_text.h"
 
 namespace vexa {
 namespace {
@@ -62,6 +65,28 @@ TEST(NumberText, SignedTextKeepsFifteenDigitsAndTheSignPlace) {
   };
   for (const auto& [value, text] : cases) {
     EXPECT_EQ(SignedText(value).toStdString(), text);
+  }
+}
+
+TEST(DateText, ReadsADayWithOrWithoutATime) {
+  const QDate day(2026, 3, 9);
+  const std::pair<const char*, std::optional<QDateTime>> cases[] = {
+      {"2026/3/9", QDateTime(day, {0, 0})},
+      {" 2026-03-09 ", QDateTime(day, {0, 0})},
+      {"2026/3/9 9:05", QDateTime(day, {9, 5})},
+      {"2026-3-9  09:05", QDateTime(day, {9, 5})},
+      {"2026-03-09T09:05:07", QDateTime(day, {9, 5, 7})},
+      {"2026/3/9 9:05:07", QDateTime(day, {9, 5, 7})},
+      {"0:00:00", QDateTime()},
+      {"2026/2/30", std::nullopt},
+      {"2026/3/9 9", std::nullopt},
+      {"2026/3/9 24:00", std::nullopt},
+      {"26/3/9", std::nullopt},
+      {"9:05", std::nullopt},
+      {"", std::nullopt},
+  };
+  for (const auto& [text, time] : cases) {
+    EXPECT_EQ(ParseDateTime(QLatin1String(text)), time) << text;
   }
 }
 

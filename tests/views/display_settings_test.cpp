@@ -1,9 +1,11 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include <gtest/gtest.h>
 
+#include <QApplication>
 #include <QScreen>
 
 #include "support/window_test.h"
+#include "views/common/window_messages.h"
 #include "views/settings/dispset.h"
 
 namespace vexa {
@@ -129,6 +131,26 @@ TEST_F(DisplaySettings, AClickSelectsAnEntryAndOtherCharactersAreRefused) {
   EXPECT_EQ(state.colour.illuminant, 7) << "not offered, so not replaced";
   EXPECT_EQ(state.display.labScale, 5);
   EXPECT_EQ(state.display.tickPercent, 0.00004) << "not edited";
+}
+
+TEST_F(DisplaySettings, ARefusedEntryIsSelectedWhenItsMessageIsClosed) {
+  WindowMessages shown;
+  dispset window(session, shown);
+  test::Click(window, "AutoTicks");
+  window.show();
+  ASSERT_TRUE(QTest::qWaitForWindowActive(&window));
+  auto& tick = test::Child<QLineEdit>(window, "Tick");
+  tick.setFocus();
+  EXPECT_EQ(test::Type(window, "Tick", "0"), QStringLiteral("0"));
+  QTest::keyClick(&tick, Qt::Key_Return);
+  QWidget* message = QApplication::activeModalWidget();
+  ASSERT_NE(message, nullptr);
+  ASSERT_TRUE(QTest::qWaitForWindowActive(message));
+  QTest::keyClick(message, Qt::Key_Return);
+  window.activateWindow();
+  ASSERT_TRUE(QTest::qWaitForWindowActive(&window));
+  EXPECT_EQ(window.focusWidget(), &tick);
+  EXPECT_EQ(tick.selectedText(), QStringLiteral("0.0"));
 }
 
 }  // namespace

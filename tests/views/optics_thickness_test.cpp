@@ -129,8 +129,10 @@ TEST_F(Thickness, WavelengthListHasARowForEachExtremum) {
   const QString printed = test::PdfPages(files.Path("一覧.pdf")).join(QString());
   EXPECT_TRUE(printed.contains(QStringLiteral("Mes3 A-003 2026/3/9 7:05:03")))
       << printed.toStdString();
+  state.Slot(4)->valid = true;
   dialog.Show(4);
   EXPECT_EQ(list.topLevelItemCount(), 0) << "another slot has none";
+  EXPECT_TRUE(test::Child<QLabel>(dialog, "WaveListSlot").text().endsWith(u"  -")) << "no date";
 }
 
 TEST_F(Thickness, JumpTakesAWholeNumber) {

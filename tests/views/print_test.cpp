@@ -213,6 +213,7 @@ TEST_F(Printing, FilesAreProposedAfterTheDataFileOrTheSampleAndTheDay) {
   EXPECT_EQ(ProposedName(state), QStringLiteral("A1 x_20260309"));
   state.currentDataFileName = QStringLiteral("/データ/ﾛｯﾄ.7.csv");
   EXPECT_EQ(ProposedName(state), QStringLiteral("ﾛｯﾄ.7_20260309"));
+  EXPECT_EQ(ProposedName(state, QStringLiteral("x-y")), QStringLiteral("x-y_20260309"));
 }
 
 TEST_F(Printing, EveryWavelengthIsPrintedOnce) {

@@ -2,6 +2,7 @@
 #include "views/records/records_window.h"
 
 #include <QComboBox>
+#include <QScreen>
 #include <QScrollBar>
 #include <QTableWidget>
 #include <QTextEdit>
@@ -134,6 +135,8 @@ TEST_F(RecordsWindowTest, FitsASmallScreen) {
   Open("service=none");
   EXPECT_LE(window->minimumSizeHint().width(), 1024 - 16);
   EXPECT_LE(window->minimumSizeHint().height(), 600 - 44);
+  const QSize room = window->screen()->availableSize().expandedTo(window->minimumSizeHint());
+  EXPECT_EQ(window->size(), window->size().boundedTo(room)) << "as it opens";
 }
 
 TEST_F(RecordsWindowTest, PagesComeAsTheTableScrolls) {

@@ -134,9 +134,11 @@ TEST_F(SpectrumViews, LabelsOfTheAxesStandApart) {
   for (const double interval : {5.0, 20.0, 100.0}) {
     SetTicks(*graph.xAxis, interval);
     QVector<double> ticks;
+    QVector<double> minor;
     QVector<QString> labels;
-    graph.xAxis->ticker()->generate(graph.xAxis->range(), QLocale::c(), u'g', 6, ticks, nullptr,
+    graph.xAxis->ticker()->generate(graph.xAxis->range(), QLocale::c(), u'g', 6, ticks, &minor,
                                     &labels);
+    EXPECT_EQ(minor.isEmpty(), interval == 5.0);
     double end = -1.0;
     int shown = 0;
     for (qsizetype i = 0; i < ticks.size(); ++i) {
@@ -167,6 +169,16 @@ TEST_F(SpectrumViews, TheViewFollowsACursorThatLeavesIt) {
     graph.MoveCursor(700);
     EXPECT_TRUE(graph.xAxis->range().contains(AbscissaOf(abscissa, 700.0)));
     EXPECT_NEAR(graph.xAxis->range().size(), full.size(), 1e-9);
+    const QCPRange widest(AbscissaOf(abscissa, 440.0), AbscissaOf(abscissa, 840.0));
+    for (const int nm : {9999, 0}) {
+      graph.MoveCursor(nm);
+      EXPECT_TRUE(graph.xAxis->range().contains(AbscissaOf(abscissa, graph.CursorNm()))) << nm;
+      for (const Qt::Key aside : {Qt::Key_Left, Qt::Key_Right}) {
+        const QCPRange shown = graph.xAxis->range();
+        EXPECT_EQ(shown, shown.bounded(widest.lower, widest.upper)) << nm;
+        QTest::keyClick(&graph, aside, Qt::ControlModifier);
+      }
+    }
   }
 }
 

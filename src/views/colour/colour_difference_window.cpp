@@ -33,6 +33,7 @@ namespace {
 
 constexpr int kFirstValueColumn = 2;
 constexpr int kWidestColumn = 260;
+const QString kFileName = QStringLiteral("colour-difference");
 
 // Nothing where the spectrum has no colour, as a black one.
 std::optional<LabColour> ColourOf(const MeasurementSlot& slot, const ColourSettings& settings,
@@ -287,20 +288,21 @@ void ColourDifferenceWindow::Print() {
       row.push_back({cell});
     }
   }
-  printer_.Print(windowTitle(), [conditions, table](const QSizeF& page) {
+  const auto pages = [conditions, table](const QSizeF& page) {
     const auto flow = std::make_shared<PageFlow>(QRectF(QPointF(), page));
     flow->Add(conditions);
     flow->Add(table);
     return PrintedPages{flow->PageCount(), [flow](QPainter& painter, int number) {
                           flow->PaintPage(painter, number);
                         }};
-  });
+  };
+  printer_.Print(windowTitle(), pages, 1, kFileName);
 }
 
 QCoro::Task<> ColourDifferenceWindow::Export() {
-  const std::optional<SaveChoice> choice =
-      co_await dialogs_.AskSave(windowTitle(), QStringLiteral("CSV(*.csv)|*.csv"),
-                                WithExtension(ProposedName(state_), QStringLiteral(".csv")));
+  const std::optional<SaveChoice> choice = co_await dialogs_.AskSave(
+      windowTitle(), QStringLiteral("CSV(*.csv)|*.csv"),
+      WithExtension(ProposedName(state_, kFileName), QStringLiteral(".csv")));
   if (!choice) {
     co_return;
   }

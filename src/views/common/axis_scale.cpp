@@ -10,8 +10,10 @@ namespace {
 // What an axis leaves of the plot for its labels, about.
 constexpr double kBesidesAxis = 80.0;
 constexpr double kGapOfLabels = 10.0;
+constexpr double kGapOfTicks = 4.0;
 
-/// Ticks at an interval with as many labels as the plot has room for in its present size.
+/// Ticks at an interval with as many labels as the plot has room for in its present size, and ticks
+/// between them where these stand apart.
 class ThinnedTicker : public QCPAxisTickerFixed {
  public:
   explicit ThinnedTicker(const QCPAxis& axis) : axis_(axis) {}
@@ -28,12 +30,9 @@ class ThinnedTicker : public QCPAxisTickerFixed {
       needed =
           horizontal ? std::max(needed, metrics.horizontalAdvance(label) + kGapOfLabels) : needed;
     }
-    const QRect place = axis_.parentPlot()->viewport();
-    const double length = (horizontal ? place.width() : place.height()) - kBesidesAxis;
-    const double pitch = tickStep() / axis_.range().size() * std::max(length, 1.0);
     qint64 every = 1;
     for (const qint64 step : {2, 5, 10, 20, 50, 100}) {
-      every = static_cast<double>(every) * pitch < needed ? step : every;
+      every = static_cast<double>(every) * Pitch() < needed ? step : every;
     }
     for (qsizetype i = 0; i < labels.size(); ++i) {
       if (std::llround(ticks[i] / tickStep()) % every != 0) {
@@ -43,7 +42,19 @@ class ThinnedTicker : public QCPAxisTickerFixed {
     return labels;
   }
 
+  int getSubTickCount(double tickStep) override {
+    const int count = QCPAxisTickerFixed::getSubTickCount(tickStep);
+    return Pitch() < (count + 1) * kGapOfTicks ? 0 : count;
+  }
+
  private:
+  /// From one tick to the next, in pixels, about.
+  [[nodiscard]] double Pitch() const {
+    const QRect place = axis_.parentPlot()->viewport();
+    const int side = axis_.orientation() == Qt::Horizontal ? place.width() : place.height();
+    return tickStep() / axis_.range().size() * std::max(side - kBesidesAxis, 1.0);
+  }
+
   const QCPAxis& axis_;
 };
 

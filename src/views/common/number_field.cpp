@@ -26,7 +26,11 @@ NumberField::NumberField(const QString& pattern, QWidget* parent)
   TakeOnly(*this, QStringLiteral("0-9.Ee+\\-"));
   connect(this, &QLineEdit::editingFinished, this, [this] {
     if (const std::optional<double> value = Value()) {
+      const bool selected = hasSelectedText() && selectedText() == text();
       setText(FormatNumber(*value, pattern_).trimmed());
+      if (selected) {
+        selectAll();  // also behind a message, to which the focus has gone
+      }
     }
   });
 }

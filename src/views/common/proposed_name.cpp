@@ -6,10 +6,10 @@
 
 namespace vexa {
 
-QString ProposedName(const VEXATYPE& state) {
+QString ProposedName(const VEXATYPE& state, const QString& given) {
   static const QRegularExpression kRefused(QStringLiteral("[/\\\\:*?\"<>|\\x00-\\x1f]+"));
   constexpr qsizetype kMostCharacters = 60;  // of three bytes each, well below what a name may have
-  QString name = QFileInfo(state.currentDataFileName).completeBaseName();
+  QString name = given.isEmpty() ? QFileInfo(state.currentDataFileName).completeBaseName() : given;
   QDateTime latest;
   for (const MeasurementSlot& slot : state.measurementSlots) {
     if (!slot.valid) {

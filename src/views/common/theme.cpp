@@ -6,6 +6,8 @@
 #include <QPalette>
 #include <QStyleFactory>
 
+#include "views/common/tool_tips.h"
+
 namespace vexa {
 namespace {
 
@@ -52,6 +54,7 @@ void ApplyTheme(QApplication& application) {
   // languages than Japanese a PDF file cannot name: they would be missing when it is searched.
   font.setStyleStrategy(QFont::PreferNoShaping);
   application.setFont(font);
+  BreakToolTips(application);
 }
 
 QPixmap DoubtMark() {

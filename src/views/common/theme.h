@@ -8,7 +8,8 @@
 
 namespace vexa {
 
-/// Gives the application its calm light look and a font with Japanese letters.
+/// Gives the application its calm light look, a font with Japanese letters and tool tips that break
+/// into lines.
 void ApplyTheme(QApplication& application);
 
 /// A transparent canvas for an icon of the size, as fine as the screen.

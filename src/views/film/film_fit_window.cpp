@@ -8,7 +8,6 @@
 #include <QFrame>
 #include <QHBoxLayout>
 #include <QPointer>
-#include <QScreen>
 #include <QShortcut>
 #include <QSplitter>
 #include <QStyle>
@@ -23,6 +22,7 @@
 #include "views/common/plot_export.h"
 #include "views/common/proposed_name.h"
 #include "views/common/scroll_body.h"
+#include "views/common/window_size.h"
 #include "views/film/film_fit_conditions.h"
 #include "views/film/film_fit_plots.h"
 #include "views/film/film_fit_print.h"
@@ -93,8 +93,7 @@ FilmFitWindow::FilmFitWindow(Session& session, ProgramPreferences& preferences,
   layout->setContentsMargins(12, 10, 12, 10);
   layout->addWidget(body, 1);
   layout->addWidget(BuildButtons());
-  constexpr QSize kFrameOfWindow(16, 44);
-  resize(QSize(1180, 720).boundedTo(screen()->availableSize() - kFrameOfWindow));
+  ResizeWithinScreen(*this, {1180, 720});
   body->setSizes({width() / 3, width() - width() / 3});
   ReadNamedFile();
   outdated_ = false;

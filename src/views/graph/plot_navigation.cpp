@@ -10,9 +10,14 @@ constexpr double kClickDistance = 4.0;
 
 }  // namespace
 
-PlotNavigation::PlotNavigation(QCustomPlot& plot) : QObject(&plot), plot_(plot) {
+PlotNavigation::PlotNavigation(QCustomPlot& plot, const QCPRange& widest)
+    : QObject(&plot), plot_(plot) {
   plot_.setInteractions(QCP::iRangeDrag | QCP::iRangeZoom);
   plot_.installEventFilter(this);
+  connect(plot_.xAxis, qOverload<const QCPRange&>(&QCPAxis::rangeChanged), this,
+          [this, widest](const QCPRange& shown) {
+            plot_.xAxis->setRange(shown.bounded(widest.lower, widest.upper));
+          });
   connect(&plot_, &QCustomPlot::mousePress, this,
           [this](const QMouseEvent* event) { pressedAt_ = event->position(); });
   connect(&plot_, &QCustomPlot::mouseMove, this, [this](const QMouseEvent* event) {

@@ -5,14 +5,15 @@
 
 namespace vexa {
 
-/// Zoom and pan in a plot: wheel and drag, the keys "+" and "-", Ctrl with an arrow. A double click
+/// Zoom and pan in a plot, to the left and right within a range: wheel and drag, the keys "+" and
+/// "-", Ctrl with an arrow. A double click
 /// or Home asks for the full view again. The plot itself redraws with what it knows of its ranges.
 class PlotNavigation : public QObject {
   Q_OBJECT
 
  public:
-  /// Belongs to the plot.
-  explicit PlotNavigation(QCustomPlot& plot);
+  /// Belongs to the plot, whose horizontal axis stays within `widest`.
+  PlotNavigation(QCustomPlot& plot, const QCPRange& widest);
 
  signals:
   /// The user zooms or moves; comes before the plot is drawn so.

@@ -59,7 +59,9 @@ SpectrumGraph::SpectrumGraph(Abscissa abscissa, const QString& ordinateLabel, QW
   setContextMenuPolicy(Qt::ActionsContextMenu);
   connect(jump, &QAction::triggered, this, &SpectrumGraph::JumpRequested);
 
-  auto* navigation = new PlotNavigation(*this);
+  auto* navigation =
+      new PlotNavigation(*this, {AbscissaOf(abscissa, ReflectanceSpectrum::kFirstNm),
+                                 AbscissaOf(abscissa, ReflectanceSpectrum::kLastNm)});
   connect(navigation, &PlotNavigation::Navigated, this, &SpectrumGraph::LeaveFullView);
   connect(navigation, &PlotNavigation::FullViewRequested, this, [this] {
     ShowFullView();
@@ -129,7 +131,9 @@ void SpectrumGraph::MoveCursor(int nm) {
   const QCPRange shown = xAxis->range();
   if (cursor_->visible() && !shown.contains(place)) {
     LeaveFullView();
-    xAxis->moveRange(place - shown.center());
+    const double width = shown.size();
+    xAxis->setRange(place < shown.lower ? QCPRange(place, place + width)
+                                        : QCPRange(place - width, place));
     replot(rpQueuedReplot);
   }
 }

@@ -25,7 +25,7 @@ class SpectrumGraph : public Plot {
   void ShowFullView();
 
   /// Moves the cursor to a whole nanometre, limited to 440..840; where that is not shown, the view
-  /// follows.
+  /// follows by as little as shows it.
   void MoveCursor(int nm);
   /// Likewise with the view as it is.
   void SetCursor(int nm);

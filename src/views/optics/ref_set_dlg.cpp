@@ -26,6 +26,7 @@ struct ModeTexts {
   QString kindFrame;
   QString valueLabel;
   QString unit;
+  QString valueTip;
   Message outOfRange;
   double highestFixedValue;
   QString fileFilter;
@@ -42,6 +43,7 @@ ModeTexts Texts(RefSetDlg::Mode mode) {
             Text::tr("ﾘﾌｧﾚﾝｽ設定"),
             Text::tr("反射率"),
             QStringLiteral("[%]"),
+            Text::tr("全波長で使う反射率です (0.1～110 %)。"),
             Message::kReferenceOutOfRange,
             110.0,
             Text::tr("ﾘﾌｧﾚﾝｽ･ﾃﾞｰﾀﾌｧｲﾙ(*.ref)|*.ref|"),
@@ -53,6 +55,7 @@ ModeTexts Texts(RefSetDlg::Mode mode) {
           Text::tr("ｺｰﾄ屈折率設定"),
           Text::tr("屈折率"),
           QStringLiteral("[n]"),
+          Text::tr("全波長で使う屈折率です (0.1～10)。"),
           Message::kIndexOutOfRange,
           10.0,
           Text::tr("ｲﾝﾃﾞｯｸｽ･ﾃﾞｰﾀﾌｧｲﾙ(*.ind)|*.ind|"),
@@ -121,6 +124,7 @@ void RefSetDlg::BuildPages() {
                                   QStringLiteral("FixedValue"),
                                   texts.unit},
                                  std::span(&original_.fixedValue, 1));
+  fixed_->setToolTip(texts.valueTip);
   schott_ =
       new NumberFieldsFrame({Text::tr("Schott分散式ﾊﾟﾗﾒｰﾀ"),
                              {QStringLiteral("A0"), QStringLiteral("A1"), QStringLiteral("A2"),

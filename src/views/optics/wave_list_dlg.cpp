@@ -79,11 +79,12 @@ WaveListDlg::WaveListDlg(const VEXATYPE& state, int selectedSlot, CurrentPrinter
 void WaveListDlg::Show(int selectedSlot) {
   const MeasurementSlot* slot = state_.Slot(selectedSlot);
   const bool valid = slot != nullptr && slot->valid;
-  slotText_->setText(
-      valid ? QStringLiteral("Mes%1  %2  %3")
-                  .arg(selectedSlot)
-                  .arg(slot->info.sampleNumber.simplified(), DateTimeText(slot->info.measuredAt))
-            : QStringLiteral("Mes%1  -").arg(selectedSlot));
+  const bool dated = valid && slot->info.measuredAt.isValid();
+  const QString date = dated ? DateTimeText(slot->info.measuredAt) : QStringLiteral("-");
+  slotText_->setText(valid ? QStringLiteral("Mes%1  %2  %3")
+                                 .arg(selectedSlot)
+                                 .arg(slot->info.sampleNumber.simplified(), date)
+                           : QStringLiteral("Mes%1  -").arg(selectedSlot));
   doubts_->setText(valid ? DoubtTexts(*slot) : QString());
   doubtMark_->setVisible(!doubts_->text().isEmpty());
   doubts_->setVisible(!doubts_->text().isEmpty());

@@ -70,18 +70,18 @@ void CurrentPrinter::SetSettings(const PrintSettings& settings) {
   (void)TellWritten(kept ? WritePrintFile(path, settings) : kept, path, messages_);
 }
 
-QCoro::Task<bool> CurrentPrinter::Print(QString title, PageMaker pages, int copies) {
+QCoro::Task<bool> CurrentPrinter::Print(QString title, PageMaker pages, int copies, QString name) {
   if (!Settings().printerName.isEmpty()) {
     co_return PrintOnPaper(title, pages, copies);
   }
-  const bool printed = co_await PrintToFile(title, pages);
+  const bool printed = co_await PrintToFile(title, pages, name);
   co_return printed;
 }
 
-QCoro::Task<bool> CurrentPrinter::PrintToFile(QString title, PageMaker pages) {
+QCoro::Task<bool> CurrentPrinter::PrintToFile(QString title, PageMaker pages, QString name) {
   const std::optional<SaveChoice> choice =
       co_await dialogs_.AskSave(Text::tr("印刷"), QStringLiteral("PDF(*.pdf)|*.pdf"),
-                                WithExtension(ProposedName(state_), QStringLiteral(".pdf")));
+                                WithExtension(ProposedName(state_, name), QStringLiteral(".pdf")));
   if (!choice) {
     co_return false;
   }

@@ -30,12 +30,13 @@ class CurrentPrinter {
   /// shown, and the settings then hold for this run.
   void SetSettings(const PrintSettings& settings);
 
-  /// Prints the pages, or asks for a file name where the printer is a PDF file. False when
-  /// cancelled and, shown, when the printer is missing or fails or the file cannot be written.
-  QCoro::Task<bool> Print(QString title, PageMaker pages, int copies = 1);
+  /// Prints the pages, or asks for a file name where the printer is a PDF file, proposing one
+  /// after the slots or after `name` (see ProposedName). False when cancelled and, shown, when the
+  /// printer is missing or fails or the file cannot be written.
+  QCoro::Task<bool> Print(QString title, PageMaker pages, int copies = 1, QString name = {});
 
  private:
-  QCoro::Task<bool> PrintToFile(QString title, PageMaker pages);
+  QCoro::Task<bool> PrintToFile(QString title, PageMaker pages, QString name);
   bool PrintOnPaper(const QString& title, const PageMaker& pages, int copies);
 
   const VEXATYPE& state_;

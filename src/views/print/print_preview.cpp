@@ -6,10 +6,10 @@
 #include <QPrintPreviewWidget>
 #include <QPrinter>
 #include <QPushButton>
-#include <QScreen>
 
 #include "base/translation.h"
 #include "views/common/dialog_buttons.h"
+#include "views/common/window_size.h"
 
 namespace vexa {
 
@@ -60,7 +60,7 @@ PrintPreview::PrintPreview(const PrintSettings& settings, const PageMaker& pages
   layout->setSpacing(12);
   layout->addWidget(preview_, 1);
   layout->addLayout(row);
-  resize(QSize(780, 860).boundedTo(screen()->availableSize() - QSize(20, 60)));
+  ResizeWithinScreen(*this, {780, 860});
   preview_->fitInView();
 }
 

@@ -29,6 +29,8 @@ PrintSetupDlg::PrintSetupDlg(CurrentPrinter& printer, MessageService& messages, 
   auto* group = new QGroupBox(Text::tr("ﾌﾟﾘﾝﾀ"));
   auto* form = new QFormLayout(group);
   printers_->setObjectName(QStringLiteral("Printer"));
+  printers_->setToolTip(
+      Text::tr("印刷の出力先です。PDFﾌｧｲﾙでは、印刷するたびにﾌｧｲﾙ名を決めます。"));
   FillPrinters(settings.printerName);
   form->addRow(Text::tr("ﾌﾟﾘﾝﾀ名"), printers_);
   auto* layout = new QVBoxLayout(this);
@@ -57,13 +59,16 @@ void PrintSetupDlg::FillPrinters(const QString& current) {
 
 QWidget* PrintSetupDlg::BuildPaper(const PrintSettings& settings) {
   papers_->setObjectName(QStringLiteral("Paper"));
+  papers_->setToolTip(Text::tr("用紙の大きさです。PDFﾌｧｲﾙのﾍﾟｰｼﾞもこの大きさになります。"));
   for (const QPageSize::PageSizeId paper : kPapers) {
     papers_->addItem(QPageSize::name(paper), paper);
   }
   papers_->setCurrentIndex(papers_->findData(settings.paper));
   auto* portrait = new QRadioButton(Text::tr("縦"));
   portrait->setObjectName(QStringLiteral("Portrait"));
+  portrait->setToolTip(Text::tr("長い辺を縦にして印刷します。"));
   landscape_->setObjectName(QStringLiteral("Landscape"));
+  landscape_->setToolTip(Text::tr("長い辺を横にして印刷します。"));
   portrait->setChecked(!settings.landscape);
   landscape_->setChecked(settings.landscape);
   auto* orientations = new QButtonGroup(this);
@@ -93,6 +98,7 @@ QWidget* PrintSetupDlg::BuildMargins(const PrintSettings& settings) {
                {"Right", Text::tr("右"), settings.marginsMm.right()},
                {"Bottom", Text::tr("下"), settings.marginsMm.bottom()}};
   auto* group = new QGroupBox(Text::tr("余白 [mm]"));
+  group->setToolTip(Text::tr("用紙の端から印刷する範囲までの距離です (0～50 mm)。"));
   auto* grid = new QGridLayout(group);
   grid->setHorizontalSpacing(12);
   for (int i = 0; i < 4; ++i) {

@@ -30,7 +30,8 @@ RecordGraph::RecordGraph(QWidget* parent) : Plot(parent) {
   xAxis->setLabel(Text::tr("波長 [nm]"));
   yAxis->setLabel(Text::tr("反射率 [%]"));
   setPlottingHint(QCP::phFastPolylines);
-  auto* navigation = new PlotNavigation(*this);
+  auto* navigation = new PlotNavigation(
+      *this, QCPRange(ReflectanceSpectrum::kFirstNm, ReflectanceSpectrum::kLastNm));
   connect(navigation, &PlotNavigation::FullViewRequested, this, [this] {
     ShowFullView();
     replot(rpQueuedReplot);

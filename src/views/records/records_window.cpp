@@ -14,6 +14,7 @@
 #include "base/translation.h"
 #include "views/common/dialog_buttons.h"
 #include "views/common/plot_export.h"
+#include "views/common/window_size.h"
 #include "views/records/recomputed_window.h"
 #include "views/records/record_commands.h"
 #include "views/records/record_details.h"
@@ -61,7 +62,7 @@ RecordsWindow::RecordsWindow(const RecordsWindowParts& parts, QWidget* parent)
   layout->addWidget(bar_);
   layout->addWidget(halves, 1);
   layout->addLayout(BuildButtons());
-  resize(1180, 680);
+  ResizeWithinScreen(*this, {1180, 680});
   AddExport(*graph_, parts_.messages, parts_.dialogs);
   ConnectAll();
   ShowState();

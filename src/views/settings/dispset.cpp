@@ -108,10 +108,11 @@ QCoro::Task<> dispset::Finish() {
 }
 
 NumberField* dispset::AddNumber(QGridLayout& grid, const char* name, const QString& caption,
-                                double value, const QString& unit) {
+                                double value, const QString& unit, const QString& tip) {
   auto* field = new NumberField(QStringLiteral(" ##0.0###"));
   field->setObjectName(QLatin1String(name));
   field->SetValue(value);
+  field->setToolTip(tip);
   connect(field, &QLineEdit::inputRejected, this,
           [this] { messages_.Tell({Message::kEntryRefused}); });
   const int row = grid.rowCount();
@@ -155,15 +156,18 @@ void dispset::BuildWavelengths(QBoxLayout& column) {
   const Group range(Text::tr("表示波長"));
   fullScale_ = AddCheck(*range.grid, "FullScale", Text::tr("ﾌﾙｽｹｰﾙ"), display.fullScale,
                         Text::tr("波長軸を440～840 nmにします。"));
-  shortest_ = AddNumber(*range.grid, "Shortest", Text::tr("最短波長"), display.shortestNm, kNm);
-  longest_ = AddNumber(*range.grid, "Longest", Text::tr("最長波長"), display.longestNm, kNm);
+  shortest_ = AddNumber(*range.grid, "Shortest", Text::tr("最短波長"), display.shortestNm, kNm,
+                        Text::tr("波長軸の左端です (440～840 nm)。"));
+  longest_ = AddNumber(*range.grid, "Longest", Text::tr("最長波長"), display.longestNm, kNm,
+                       Text::tr("波長軸の右端です。最短波長から20 nm以上離します (840 nmまで)。"));
   for (QWidget* field : {shortest_, longest_}) {
     field->setDisabled(fullScale_->isChecked());
     connect(fullScale_, &QCheckBox::toggled, field, &QWidget::setDisabled);
   }
   const Group ticks(Text::tr("目盛り"));
-  wavelengthTick_ = AddNumber(*ticks.grid, "WavelengthTick", Text::tr("目盛り間隔"),
-                              display.wavelengthTickNm, kNm);
+  wavelengthTick_ =
+      AddNumber(*ticks.grid, "WavelengthTick", Text::tr("目盛り間隔"), display.wavelengthTickNm,
+                kNm, Text::tr("波長軸の目盛りの間隔です (5～1000 nm)。"));
   column.addWidget(range.box);
   column.addWidget(ticks.box);
 }
@@ -174,8 +178,10 @@ void dispset::BuildReflectance(QBoxLayout& column) {
   const Group range(Text::tr("表示反射率"));
   autoScale_ = AddCheck(*range.grid, "AutoScale", Text::tr("自動ｽｹｰﾙ"), display.autoScale,
                         Text::tr("反射率軸を、表示中の曲線と規格に合わせます。"));
-  maximum_ = AddNumber(*range.grid, "Maximum", Text::tr("最大"), display.maximumPercent, percent);
-  minimum_ = AddNumber(*range.grid, "Minimum", Text::tr("最小"), display.minimumPercent, percent);
+  maximum_ = AddNumber(*range.grid, "Maximum", Text::tr("最大"), display.maximumPercent, percent,
+                       Text::tr("反射率軸の上端です (0.01～100 %)。"));
+  minimum_ = AddNumber(*range.grid, "Minimum", Text::tr("最小"), display.minimumPercent, percent,
+                       Text::tr("反射率軸の下端です (0～100 %)。"));
   for (QWidget* field : {maximum_, minimum_}) {
     field->setDisabled(autoScale_->isChecked());
     connect(autoScale_, &QCheckBox::toggled, field, &QWidget::setDisabled);
@@ -183,7 +189,8 @@ void dispset::BuildReflectance(QBoxLayout& column) {
   const Group ticks(Text::tr("目盛り"));
   autoTicks_ = AddCheck(*ticks.grid, "AutoTicks", Text::tr("自動目盛り"), display.autoTicks,
                         Text::tr("目盛りをきりのよい値に置きます。"));
-  tick_ = AddNumber(*ticks.grid, "Tick", Text::tr("目盛り間隔"), display.tickPercent, percent);
+  tick_ = AddNumber(*ticks.grid, "Tick", Text::tr("目盛り間隔"), display.tickPercent, percent,
+                    Text::tr("反射率軸の目盛りの間隔です。目盛りは100本までです。"));
   tick_->setDisabled(autoTicks_->isChecked());
   connect(autoTicks_, &QCheckBox::toggled, tick_, &QWidget::setDisabled);
   column.addWidget(range.box);
@@ -192,8 +199,8 @@ void dispset::BuildReflectance(QBoxLayout& column) {
 
 void dispset::BuildText(QBoxLayout& column) {
   const Group text(Text::tr("ﾃｷｽﾄ表示"));
-  textStep_ =
-      AddNumber(*text.grid, "TextStep", Text::tr("表示ｽﾃｯﾌﾟ"), state_.display.textStepNm, kNm);
+  textStep_ = AddNumber(*text.grid, "TextStep", Text::tr("表示ｽﾃｯﾌﾟ"), state_.display.textStepNm,
+                        kNm, Text::tr("表の行の波長の間隔です (1～100 nm)。"));
   column.addWidget(text.box);
 }
 
@@ -244,9 +251,11 @@ void dispset::BuildMarks(QBoxLayout& column) {
 void dispset::BuildAverage(QBoxLayout& column) {
   const Group average(Text::tr("平均反射率"));
   averageShortest_ =
-      AddNumber(*average.grid, "AverageShortest", Text::tr("最短波長"), state_.colour.avgFrom, kNm);
+      AddNumber(*average.grid, "AverageShortest", Text::tr("最短波長"), state_.colour.avgFrom, kNm,
+                Text::tr("平均反射率を計算する範囲の始まりです (440～840 nm)。"));
   averageLongest_ =
-      AddNumber(*average.grid, "AverageLongest", Text::tr("最長波長"), state_.colour.avgTo, kNm);
+      AddNumber(*average.grid, "AverageLongest", Text::tr("最長波長"), state_.colour.avgTo, kNm,
+                Text::tr("平均反射率を計算する範囲の終わりです (440～840 nm)。"));
   column.addWidget(average.box);
 }
 

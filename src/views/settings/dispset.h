@@ -25,7 +25,7 @@ class dispset : public QDialog {
 
  private:
   NumberField* AddNumber(QGridLayout& grid, const char* name, const QString& caption, double value,
-                         const QString& unit);
+                         const QString& unit, const QString& tip);
   static QCheckBox* AddCheck(QGridLayout& grid, const char* name, const QString& caption,
                              bool checked, const QString& tip);
   static QButtonGroup* AddChoice(QGridLayout& grid, const char* name, const QStringList& captions,

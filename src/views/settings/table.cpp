@@ -69,7 +69,9 @@ QGroupBox* Box(const SettingsGroup& group, int labelWidth = 0, int unitWidth = 0
   grid->setVerticalSpacing(2);
   grid->setColumnStretch(1, 1);
   grid->setColumnMinimumWidth(0, labelWidth);
-  grid->setColumnMinimumWidth(2, unitWidth);
+  const bool units =
+      std::ranges::any_of(group.rows, [](const SettingsRow& row) { return !row.unit.isEmpty(); });
+  grid->setColumnMinimumWidth(2, units ? unitWidth : 0);
   int line = 0;
   for (const SettingsRow& row : group.rows) {
     if (!row.label.isEmpty()) {

@@ -28,6 +28,7 @@ std::optional<std::int16_t> Wavelength(const IntegerField& field) {
 ConditionsGroup::ConditionsGroup() : QGroupBox(Text::tr("反射率を使用する")), hint_(new QLabel) {
   setObjectName(QStringLiteral("useReflectance"));
   setCheckable(true);
+  setToolTip(Text::tr("使用する条件の波長の間で、反射率を上限と下限で判定します。"));
   auto* grid = new QGridLayout(this);
   grid->setHorizontalSpacing(12);
   grid->setVerticalSpacing(6);
@@ -56,7 +57,13 @@ ConditionsGroup::ConditionsGroup() : QGroupBox(Text::tr("反射率を使用す�
 void ConditionsGroup::AddRow(QGridLayout& grid, std::size_t index) {
   const QString name = QStringLiteral("condition%1").arg(index + 1);
   const Row row{new QCheckBox(ConditionCaption(index)), new IntegerField, RangeFields(name)};
+  const QString tip =
+      index == 0 ? Text::tr("判定する区間の始まりの波長と、そこでの限界です。")
+                 : Text::tr(
+                       "前の条件からこの波長までの区間を判定します。限界は前の条件の限界から"
+                       "直線で変わります。");
   row.enabled->setObjectName(name);
+  row.enabled->setToolTip(tip);
   row.wavelength->setObjectName(name + QStringLiteral("Wavelength"));
   row.wavelength->setFixedWidth(kWavelengthWidth);
   const int line = static_cast<int>(index) + 1;
@@ -67,6 +74,7 @@ void ConditionsGroup::AddRow(QGridLayout& grid, std::size_t index) {
         static_cast<QLineEdit*>(row.range.lower)}) {
     field->setEnabled(false);
     field->setAccessibleName(ConditionCaption(index));
+    field->setToolTip(tip);
     grid.addWidget(field, line, column++, Qt::AlignRight);
     connect(row.enabled, &QCheckBox::toggled, field, &QWidget::setEnabled);
     connect(field, &QLineEdit::textChanged, this, &ConditionsGroup::UpdateHint);

@@ -14,10 +14,12 @@ constexpr int kBelow = 2;
 
 }  // namespace
 
-LimitsGroup::LimitsGroup(const QString& name, const QString& caption, const QString& unit)
+LimitsGroup::LimitsGroup(const QString& name, const QString& caption, const QString& unit,
+                         const QString& tip)
     : QGroupBox(caption), range_(name), grid_(new QGridLayout(this)) {
   setObjectName(name);
   setCheckable(true);
+  setToolTip(tip);
   grid_->setVerticalSpacing(6);
   grid_->setColumnStretch(kBeside, 1);
   grid_->setRowStretch(kBelow + 1, 1);

@@ -13,8 +13,8 @@ class LimitsGroup : public QGroupBox {
   Q_OBJECT
 
  public:
-  /// `unit` stands behind each field.
-  LimitsGroup(const QString& name, const QString& caption, const QString& unit);
+  /// `unit` stands behind each field; `tip` says what is judged.
+  LimitsGroup(const QString& name, const QString& caption, const QString& unit, const QString& tip);
 
   /// A line of its own below the limits.
   void AddBelow(QWidget* widget);

@@ -8,11 +8,13 @@
 
 namespace vexa {
 
-MarkerGroup::MarkerGroup(const QString& name, const QString& caption, const QString& valueCaption)
+MarkerGroup::MarkerGroup(const QString& name, const QString& caption, const QString& valueCaption,
+                         const QString& tip)
     : QGroupBox(caption),
       shown_(new QCheckBox(Text::tr("表示する"))),
       value_(new RealEntry(name + QStringLiteral("Value"))) {
   setObjectName(name);
+  setToolTip(tip);
   shown_->setObjectName(name + QStringLiteral("Shown"));
   auto* label = new QLabel(valueCaption);
   label->setBuddy(value_);

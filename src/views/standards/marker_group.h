@@ -14,7 +14,9 @@ class MarkerGroup : public QGroupBox {
   Q_OBJECT
 
  public:
-  MarkerGroup(const QString& name, const QString& caption, const QString& valueCaption);
+  /// `tip` says what is drawn.
+  MarkerGroup(const QString& name, const QString& caption, const QString& valueCaption,
+              const QString& tip);
 
   void Show(const ReferenceMarker& marker);
   /// Takes the entries over. Returns the field when it holds no number although the marker is

@@ -15,6 +15,7 @@
 #include "views/common/plot_export.h"
 #include "views/common/scroll_body.h"
 #include "views/common/theme.h"
+#include "views/common/window_size.h"
 #include "views/paper/current_printer.h"
 #include "views/paper/plot_drawing.h"
 #include "views/statistics/histogram_plot.h"
@@ -89,7 +90,7 @@ ControlChartWindow::ControlChartWindow(const Session& session, RecordReader& rea
   layout->setContentsMargins(12, 10, 12, 10);
   layout->addLayout(top, 1);
   layout->addLayout(bottom);
-  resize(1000, 560);
+  ResizeWithinScreen(*this, {1000, 560});
 
   connect(filter_, &SeriesFilter::Changed, this, &ControlChartWindow::Load);
   connect(value_, &ValueChoice::Changed, this, &ControlChartWindow::Load);

@@ -17,6 +17,7 @@
 #include "views/common/plot_export.h"
 #include "views/common/scroll_body.h"
 #include "views/common/theme.h"
+#include "views/common/window_size.h"
 #include "views/paper/plot_drawing.h"
 #include "views/statistics/check_settings_dialog.h"
 #include "views/statistics/result_table.h"
@@ -85,7 +86,7 @@ DailyCheckWindow::DailyCheckWindow(const StudyParts& parts, QWidget* parent)
   layout->setContentsMargins(12, 10, 12, 10);
   layout->addLayout(top, 1);
   layout->addLayout(bottom);
-  resize(960, 560);
+  ResizeWithinScreen(*this, {960, 560});
 
   connect(measure_, &QPushButton::clicked, this, [this] { MeasureNext(); });
   connect(freeze_, &QPushButton::clicked, this, &DailyCheckWindow::Freeze);

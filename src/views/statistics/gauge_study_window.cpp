@@ -24,6 +24,7 @@
 #include "views/common/plot_export.h"
 #include "views/common/scroll_body.h"
 #include "views/common/theme.h"
+#include "views/common/window_size.h"
 #include "views/paper/plot_drawing.h"
 #include "views/statistics/component_plot.h"
 #include "views/statistics/gauge_result.h"
@@ -107,7 +108,7 @@ GaugeStudyWindow::GaugeStudyWindow(const StudyParts& parts, QWidget* parent)
   layout->setContentsMargins(12, 10, 12, 10);
   layout->addLayout(top, 1);
   layout->addLayout(bottom);
-  resize(960, 560);
+  ResizeWithinScreen(*this, {960, 560});
 
   connect(choice_, &QComboBox::activated, this, &GaugeStudyWindow::ChooseStudy);
   connect(measure_, &QPushButton::clicked, this, [this] { MeasureNext(); });
