@@ -4804,5 +4804,13 @@ Repeats: %4   Background: %5   Reference: %6</translation>
         <source>a*b*色度図に、この色相角の線を描きます。</source>
         <translation>Draws the line of this hue angle in the a*b* diagram.</translation>
     </message>
+    <message>
+        <source>%1：測定値のあるスロットがありません</source>
+        <translation>%1: no slot holds a measurement</translation>
+    </message>
+    <message>
+        <source>▲ 疑いあり</source>
+        <translation>▲ doubtful</translation>
+    </message>
 </context>
 </TS>

@@ -6,6 +6,7 @@
 
 #include "base/number_text.h"
 #include "base/translation.h"
+#include "cli/command_line.h"
 #include "cli/program_settings.h"
 #include "files/configuration.h"
 #include "measurement/dispersion_data.h"
@@ -140,15 +141,23 @@ bool TakeEnvironment(const QCommandLineParser& parser, Settings& settings,
   return true;
 }
 
-bool TakeStandard(const QCommandLineParser& parser, Settings& settings, MessageService& messages) {
-  if (!parser.isSet(option::kStandard)) {
-    return true;
-  }
-  const QString path = parser.value(option::kStandard);
+std::optional<StandardContents> ReadStandard(const QString& path, MessageService& messages) {
   const ReadResult<StandardContents> contents = ReadStandardFile(path);
   if (!contents) {
     messages.Tell(StandardMessage(path, contents.Fault()));
     Complain(Text::tr("%1：規格ファイルとして読み込めません").arg(path));
+    return std::nullopt;
+  }
+  return *contents;
+}
+
+bool TakeStandard(const QCommandLineParser& parser, Settings& settings, MessageService& messages) {
+  if (!parser.isSet(option::kStandard)) {
+    return true;
+  }
+  const std::optional<StandardContents> contents =
+      ReadStandard(parser.value(option::kStandard), messages);
+  if (!contents) {
     return false;
   }
   settings.standard = contents->standard;
@@ -162,8 +171,7 @@ ExitStatus TakeAnalysisOptions(const QCommandLineParser& parser, Settings& setti
   if (Settings scratch = settings; !TakeWords(parser, scratch) || !IndexIsInRange(parser)) {
     return kUsageError;
   }
-  if (parser.isSet(kIndex) && parser.isSet(kSubstrate)) {
-    Complain(Text::tr("--%1 と --%2 は同時に指定できません").arg(kIndex, kSubstrate));
+  if (!NotBoth(parser, kIndex, kSubstrate)) {
     return kUsageError;
   }
   if (!TakeEnvironment(parser, settings, messages)) {

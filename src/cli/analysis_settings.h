@@ -2,10 +2,12 @@
 #pragma once
 
 #include <QCommandLineParser>
+#include <optional>
 
 #include "base/message.h"
 #include "cli/console.h"
 #include "measurement/vexatype.h"
+#include "standards/standard_file.h"
 
 namespace vexa::cli {
 
@@ -21,7 +23,11 @@ void DeclareAnalysisOptions(QCommandLineParser& parser);
 [[nodiscard]] bool TakeEnvironment(const QCommandLineParser& parser, Settings& settings,
                                    MessageService& messages);
 
-/// Likewise of --standard.
+/// The contents of a standard file; nothing after a complaint.
+[[nodiscard]] std::optional<StandardContents> ReadStandard(const QString& path,
+                                                           MessageService& messages);
+
+/// Takes over the file of --standard; false after a complaint.
 [[nodiscard]] bool TakeStandard(const QCommandLineParser& parser, Settings& settings,
                                 MessageService& messages);
 

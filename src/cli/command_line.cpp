@@ -136,4 +136,12 @@ std::optional<double> RealOption(const QCommandLineParser& parser, const QString
   return Checked(name, parser.value(name), ok, value, minimum, maximum);
 }
 
+bool NotBoth(const QCommandLineParser& parser, const QString& one, const QString& other) {
+  if (!parser.isSet(one) || !parser.isSet(other)) {
+    return true;
+  }
+  Complain(Text::tr("--%1 と --%2 は同時に指定できません").arg(one, other));
+  return false;
+}
+
 }  // namespace vexa::cli

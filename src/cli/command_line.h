@@ -47,4 +47,8 @@ struct Command {
                                                const QString& name, double otherwise,
                                                double minimum, double maximum);
 
+/// False, and a complaint, when both options were given.
+[[nodiscard]] bool NotBoth(const QCommandLineParser& parser, const QString& one,
+                           const QString& other);
+
 }  // namespace vexa::cli

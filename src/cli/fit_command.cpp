@@ -100,8 +100,7 @@ bool TakeLayers(const QCommandLineParser& parser, FilmStackSetting& setting) {
 }
 
 bool TakeOptions(const QCommandLineParser& parser, FilmFitOptions& options) {
-  if (parser.isSet(kReferenceFree) && parser.isSet(kReferenceFixed)) {
-    Complain(Text::tr("--%1 と --%2 は同時に指定できません").arg(kReferenceFree, kReferenceFixed));
+  if (!NotBoth(parser, kReferenceFree, kReferenceFixed)) {
     return false;
   }
   if (parser.isSet(kRange)) {
@@ -245,6 +244,9 @@ int Fit(const QCommandLineParser& parser) {
     return kFailed;
   }
   const std::vector<Fitted> fitted = FitValid(state, request, *only);
+  if (fitted.empty()) {
+    Complain(Text::tr("%1：測定値のあるスロットがありません").arg(path));
+  }
   if (parser.isSet(option::kJson)) {
     PrintFits(path, fitted, request);
   } else {

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "base/translation.h"
+#include "cli/analysis_settings.h"
 #include "cli/command_line.h"
 #include "cli/console.h"
 #include "cli/judgement_json.h"
@@ -65,10 +66,8 @@ int Judge(const QCommandLineParser& parser) {
   ConsoleMessages messages(parser.isSet(option::kNo));
   Settings settings = LoadSettings(parser, messages);
   const QString standard = parser.value(option::kStandard);
-  const ReadResult<StandardContents> contents = ReadStandardFile(standard);
+  const std::optional<StandardContents> contents = ReadStandard(standard, messages);
   if (!contents) {
-    messages.Tell(StandardMessage(standard, contents.Fault()));
-    Complain(Text::tr("%1：規格ファイルとして読み込めません").arg(standard));
     return kFailed;
   }
   settings.standard = contents->standard;

@@ -55,8 +55,7 @@ std::optional<MeasurePlan> Read(const QCommandLineParser& parser, const Settings
     Complain(Text::tr("measure には --port N または --device PATH が必要です"));
     return std::nullopt;
   }
-  if (parser.isSet(kPort) && parser.isSet(kDevice)) {
-    Complain(Text::tr("--%1 と --%2 は同時に指定できません").arg(kPort, kDevice));
+  if (!NotBoth(parser, kPort, kDevice)) {
     return std::nullopt;
   }
   MeasurePlan plan;

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "base/number_text.h"
 #include "base/translation.h"
+#include "cli/analysis_settings.h"
 #include "cli/command_line.h"
 #include "cli/console.h"
 #include "cli/program_settings.h"
@@ -81,10 +82,8 @@ QString ToText(const StandardContents& contents) {
 int Standard(const QCommandLineParser& parser) {
   ConsoleMessages messages(parser.isSet(option::kNo));
   const QString path = parser.positionalArguments().constFirst();
-  const ReadResult<StandardContents> contents = ReadStandardFile(path);
+  const std::optional<StandardContents> contents = ReadStandard(path, messages);
   if (!contents) {
-    messages.Tell(StandardMessage(path, contents.Fault()));
-    Complain(Text::tr("%1：規格ファイルとして読み込めません").arg(path));
     if (parser.isSet(option::kJson)) {
       PrintJson({{QStringLiteral("read"), false}});
     }

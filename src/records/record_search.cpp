@@ -94,6 +94,9 @@ void TakeResults(const QJsonDocument& document, RecordSummary& summary) {
     const ThicknessResult result = ThicknessOf(thickness.toObject());
     summary.thicknessNm = result.thicknessNm;
     summary.physical = result.physical;
+    for (const auto& doubt : thickness[QStringLiteral("doubts")].toArray()) {
+      summary.doubts << doubt.toString();
+    }
   }
 }
 

@@ -30,7 +30,8 @@ struct RecordSummary {
   QString heldBy;       ///< the daily check that holds its verdict; empty when none does any more
   ColourResult colour;  ///< not a number what could not be computed
   std::optional<double> thicknessNm;
-  bool physical = false;  ///< the thickness is no optical one
+  bool physical = false;    ///< the thickness is no optical one
+  QStringList doubts = {};  ///< about the thickness, by their names
 };
 
 /// Which samples are wanted; what is not given does not restrict.

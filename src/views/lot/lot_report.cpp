@@ -3,8 +3,10 @@
 
 #include <QPainter>
 #include <QPicture>
+#include <algorithm>
 #include <cmath>
 #include <memory>
+#include <span>
 
 #include "base/date_text.h"
 #include "base/number_text.h"
@@ -187,7 +189,8 @@ PageTable DoubtTable(const LotContent& lot, const std::vector<LotValue>& values)
   return table;
 }
 
-PageTable RowTable(const LotContent& lot, const std::vector<LotValue>& values) {
+// Every measurement with some of its values, as many as a page is wide.
+PageTable RowTable(const LotContent& lot, std::span<const LotValue> values) {
   PageTable table{.caption = Text::tr("全測定"),
                   .columns = {{Text::tr("番号"), 300.0, Qt::AlignLeft, true},
                               {Text::tr("時刻"), 300.0, Qt::AlignLeft},
@@ -195,9 +198,8 @@ PageTable RowTable(const LotContent& lot, const std::vector<LotValue>& values) {
                   .rows = {},
                   .fontSize = 24,
                   .rowHeight = 38.0};
-  const std::size_t count = std::min(values.size(), kMostValues);
-  for (std::size_t i = 0; i < count; ++i) {
-    table.columns.push_back({values[i].title, 290.0});
+  for (const LotValue& value : values) {
+    table.columns.push_back({value.title, 290.0});
   }
   table.columns.push_back({Text::tr("備考"), 300.0, Qt::AlignLeft, true});
   table.rows.reserve(lot.rows.size());
@@ -206,8 +208,8 @@ PageTable RowTable(const LotContent& lot, const std::vector<LotValue>& values) {
     std::vector<PageTable::Cell> cells{{row.sample.sampleNumber},
                                        {DateTimeText(row.sample.measuredAt)},
                                        {LensStateText(state), state == LensState::kNotGood}};
-    for (std::size_t i = 0; i < count; ++i) {
-      cells.push_back({NumberText(values[i], values[i].of(row.sample))});
+    for (const LotValue& value : values) {
+      cells.push_back({NumberText(value, value.of(row.sample))});
     }
     QStringList remarks;
     if (row.sample.repeats > 1) {
@@ -269,7 +271,12 @@ PageFlow LayOut(const LotContent& lot, const QSizeF& page) {
   }
   AddCurves(flow, lot);
   flow.NewPage();
-  flow.Add(RowTable(lot, values));
+  std::span<const LotValue> left(values);
+  do {
+    const std::size_t count = std::min(left.size(), kMostValues);
+    flow.Add(RowTable(lot, left.first(count)));
+    left = left.subspan(count);
+  } while (!left.empty());
   return flow;
 }
 

@@ -22,12 +22,4 @@ QString FitThicknessText(const FilmFit& fit, const QString& between) {
   return layers.join(between);
 }
 
-QString DoubtTexts(const MeasurementSlot& slot) {
-  QStringList lines;
-  for (const ThicknessDoubt doubt : slot.doubts) {
-    lines << ThicknessDoubtText(doubt);
-  }
-  return lines.join(u'\n');
-}
-
 }  // namespace vexa

@@ -12,7 +12,4 @@ namespace vexa {
 [[nodiscard]] QString FitThicknessText(const FilmFit& fit,
                                        const QString& between = QStringLiteral(" / "));
 
-/// All doubts about the thickness of a slot, a line each; empty without any.
-[[nodiscard]] QString DoubtTexts(const MeasurementSlot& slot);
-
 }  // namespace vexa

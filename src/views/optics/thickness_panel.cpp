@@ -8,6 +8,7 @@
 #include "base/number_text.h"
 #include "base/translation.h"
 #include "measurement/evaluation.h"
+#include "views/common/doubt_text.h"
 #include "views/common/theme.h"
 #include "views/optics/fit_text.h"
 

@@ -10,8 +10,8 @@
 #include "base/date_text.h"
 #include "base/translation.h"
 #include "views/common/dialog_buttons.h"
+#include "views/common/doubt_text.h"
 #include "views/common/theme.h"
-#include "views/optics/fit_text.h"
 #include "views/optics/optics_print.h"
 #include "views/paper/current_printer.h"
 

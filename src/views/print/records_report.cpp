@@ -115,6 +115,10 @@ PageTable RowTable(const QList<WholeRecord>& records, bool cie) {
                               {Text::tr("視感[%]"), 140.0},
                               {Text::tr("膜厚", "column"), 190.0}},
                   .rows = {}};
+  if (std::ranges::any_of(
+          records, [](const WholeRecord& record) { return !record.sample.doubts.isEmpty(); })) {
+    table.caption += QStringLiteral("　") + Text::tr("▲ 疑いあり");
+  }
   const auto number = [](double value, QStringView pattern) {
     return PageTable::Cell{FormatNumber(value, pattern).trimmed()};
   };

@@ -11,6 +11,7 @@
 #include "colour/colour_values.h"
 #include "standards/condition_caption.h"
 #include "views/common/colour_texts.h"
+#include "views/common/doubt_text.h"
 #include "views/optics/fit_text.h"
 
 namespace vexa {
@@ -105,7 +106,7 @@ std::optional<bool> Overall(const Judgement& judgement) {
 
 QString ThicknessText(const MeasurementSlot& slot) {
   const ThicknessResult& thickness = slot.thickness;
-  return thickness.IsComputed() ? (slot.doubts.empty() ? QString() : QStringLiteral("▲ ")) +
+  return thickness.IsComputed() ? DoubtMarkText(!slot.doubts.empty()) +
                                       FormatNumber(thickness.thicknessNm, u"###0.0").trimmed() +
                                       u' ' + ThicknessUnit(thickness.physical)
                                 : kNone;

@@ -10,6 +10,7 @@
 #include <QShortcut>
 #include <QVBoxLayout>
 
+#include <algorithm>
 #include <array>
 #include "base/number_text.h"
 #include "base/translation.h"
@@ -90,6 +91,10 @@ RecomputedWindow::RecomputedWindow(const QList<WholeRecord>& records, const Sett
     telling += u'\n' + Text::tr("記録") + QStringLiteral(": ") +
                CieCaption(CieConditionsOf(records)) + u'\n' + Text::tr("再計算") +
                QStringLiteral(": ") + CieCaption(CieConditions(settings.colour));
+  }
+  if (std::ranges::any_of(
+          records, [](const WholeRecord& record) { return !record.sample.doubts.isEmpty(); })) {
+    telling += u'\n' + Text::tr("▲ 疑いあり");
   }
   auto* told = new QLabel(telling);
   told->setWordWrap(true);

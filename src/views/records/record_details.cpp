@@ -13,6 +13,7 @@
 #include "records/lot_tally.h"
 #include "records/result_json.h"
 #include "views/common/colour_kind.h"
+#include "views/common/doubt_text.h"
 #include "views/common/theme.h"
 
 namespace vexa {
@@ -158,10 +159,8 @@ void AddValues(Sheet& sheet, const SampleRecord& sample, bool cie) {
   sheet.Row(Text::tr("平均[%]"), Number(colour.Rm, u"##0.0##"));
   sheet.Row(Text::tr("視感[%]"), Number(colour.Y, u"##0.0##"));
   sheet.Row(Text::tr("膜厚", "column"), ThicknessText(sample));
-  for (const QString& name : sample.doubts) {
-    if (const auto doubt = ThicknessDoubtOf(name)) {
-      sheet.Row({}, QStringLiteral("⚠ ") + ThicknessDoubtText(*doubt).toHtmlEscaped());
-    }
+  for (const QString& doubt : DoubtTexts(sample.doubts).split(u'\n', Qt::SkipEmptyParts)) {
+    sheet.Row({}, QStringLiteral("▲ ") + doubt.toHtmlEscaped());
   }
 }
 
@@ -202,7 +201,8 @@ QString VerdictText(const WholeRecord& record) {
 }
 
 QString ThicknessText(const SampleRecord& sample) {
-  return sample.thickness ? Number(sample.thickness->thicknessNm, u"###0.0") +
+  return sample.thickness ? DoubtMarkText(!sample.doubts.isEmpty()) +
+                                Number(sample.thickness->thicknessNm, u"###0.0") +
                                 ThicknessUnit(sample.thickness->physical)
                           : kNone;
 }

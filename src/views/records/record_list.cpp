@@ -10,6 +10,7 @@
 #include "base/translation.h"
 #include "records/lot_tally.h"
 #include "views/common/colour_kind.h"
+#include "views/common/doubt_text.h"
 #include "views/common/theme.h"
 
 namespace vexa {
@@ -19,7 +20,8 @@ constexpr int kPage = 200;
 const QString kNotGood = QStringLiteral("NG");
 
 QString ThicknessText(const RecordSummary& record) {
-  return record.thicknessNm ? FormatNumber(*record.thicknessNm, u"###0.0").trimmed() +
+  return record.thicknessNm ? DoubtMarkText(!record.doubts.isEmpty()) +
+                                  FormatNumber(*record.thicknessNm, u"###0.0").trimmed() +
                                   ThicknessUnit(record.physical)
                             : QStringLiteral("-");
 }
@@ -101,7 +103,9 @@ QVariant RecordList::data(const QModelIndex& index, int role) const {
     case Qt::DisplayRole:
       return CellText(record, index.column());
     case Qt::ToolTipRole:
-      return IsNumber(index.column()) ? QVariant() : CellText(record, index.column());
+      return index.column() == kThickness ? QVariant(DoubtTexts(record.doubts))
+             : IsNumber(index.column())   ? QVariant()
+                                          : CellText(record, index.column());
     case Qt::TextAlignmentRole:
       return QVariant::fromValue(
           (IsNumber(index.column())
