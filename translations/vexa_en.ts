@@ -4812,5 +4812,13 @@ Repeats: %4   Background: %5   Reference: %6</translation>
         <source>▲ 疑いあり</source>
         <translation>▲ doubtful</translation>
     </message>
+    <message>
+        <source>この測定にはｽﾛｯﾄ %1 を使います。そのﾃﾞｰﾀは上書きされます。よろしいですか？</source>
+        <translation>This measurement uses slot %1. Its data will be overwritten. Go on?</translation>
+    </message>
+    <message>
+        <source>環境ﾌｧｲﾙを読み込めません。</source>
+        <translation>The environment file cannot be read.</translation>
+    </message>
 </context>
 </TS>

@@ -95,7 +95,6 @@ QCoro::Task<> Gallery::TakeDialogs() {
       {commands.printSettings, "print-settings"},
       {commands.standards, "standards"},
       {commands.thicknessSettings, "thickness-settings"},
-      {commands.wavelengthList, "wavelength-list"},
       {commands.colourDifference, "colour-difference"},
       {commands.referenceSettings, "reference-settings"},
       {commands.samplingSettings, "sampling-settings"},
@@ -127,6 +126,7 @@ QCoro::Task<> Gallery::TakeWindows() {
   co_await TakeWindow(QStringLiteral("StockWindow"), QStringLiteral("accumulation"));
   const MenuCommands& commands = window_.Commands();
   const std::tuple<QAction*, const char*, const char*> windows[] = {
+      {commands.wavelengthList, "WaveListDlg", "wavelength-list"},
       {commands.slotStatistics, "SlotStatisticsWindow", "slot-statistics"},
       {commands.controlChart, "ControlChartWindow", "control-chart"},
       {commands.dailyCheck, "DailyCheckWindow", "daily-check"},

@@ -180,6 +180,9 @@ constexpr std::array<MessageEntry, kMessageCount> kCatalogue{{
      QT_TRANSLATE_NOOP("Text", "ﾘﾌｧﾚﾝｽを測定して下さい。")},
     {Message::kMeasureOver, title::kMessage, MessageIcon::kQuestion, MessageButtons::kOkCancel,
      QT_TRANSLATE_NOOP("Text", "すでに測定されてます。上書きしてもよろしいですか？")},
+    {Message::kUsesSlot, title::kMessage, MessageIcon::kQuestion, MessageButtons::kOkCancel,
+     QT_TRANSLATE_NOOP(
+         "Text", "この測定にはｽﾛｯﾄ %1 を使います。そのﾃﾞｰﾀは上書きされます。よろしいですか？")},
     {Message::kClearAll, title::kClear, MessageIcon::kQuestion, MessageButtons::kOkCancel,
      QT_TRANSLATE_NOOP("Text", "全てのデータをクリアします。よろしいですか？")},
     {Message::kSaturated, title::kWarning, MessageIcon::kWarning, MessageButtons::kOk,

@@ -75,6 +75,7 @@ enum class Message : std::uint8_t {
   kMeasureBackground,
   kMeasureReference,
   kMeasureOver,
+  kUsesSlot,  ///< %1 its number
   kClearAll,
   kSaturated,
   kNoLight,

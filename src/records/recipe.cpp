@@ -11,6 +11,7 @@
 #include <utility>
 
 #include "base/read_file.h"
+#include "base/translation.h"
 #include "files/configuration.h"
 #include "measurement/dispersion_data.h"
 #include "optics/film_stack_file.h"
@@ -198,11 +199,15 @@ RecipeInForce ApplyRecipe(const Recipe& recipe, Settings& settings) {
   RecipeInForce result{.complete = true, .notices = {}};
   Settings changed = settings;
   if (!recipe.environment.isEmpty()) {
+    // An environment that cannot be read would set defaults; a recipe then sets nothing.
     const Environment environment = ReadEnvironment(recipe.environment, settings.programDirectory);
     result.complete = ApplyEnvironment(environment, changed);
-    result.notices << environment.notices;
-    const SpectraBuilt built = LoadDispersionData(changed);
-    result.notices << built.notices;
+    if (result.complete) {
+      result.notices << environment.notices << LoadDispersionData(changed).notices;
+    } else {
+      result.notices << MessageCall{
+          Message::kRecipeFault, {recipe.environment}, Text::tr("環境ﾌｧｲﾙを読み込めません。")};
+    }
   }
   if (!recipe.standard.isEmpty()) {
     const ReadResult<StandardContents> standard = ReadStandardFile(recipe.standard);

@@ -128,7 +128,8 @@ TEST_F(StudyOnInstrument, AnAgeingLampAndALeakingShutterTurnTheCheckRed) {
     EXPECT_FALSE(History().hold) << wear.line;
   }
   for (const test::ShownMessage& shown : messages.Take()) {
-    EXPECT_EQ(shown, test::ShownMessage{Message::kMeasureOver}) << "once the slots are full";
+    EXPECT_EQ(shown, (test::ShownMessage{Message::kUsesSlot, {QStringLiteral("10")}}))
+        << "once the slots are full";
   }
 }
 

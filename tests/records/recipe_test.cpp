@@ -97,7 +97,7 @@ TEST_F(RecipeFile, IsPutInForceAsAWholeOrNotAtAll) {
   recipe.environment = files.Path("none.env");
   const RecipeInForce refused = ApplyRecipe(recipe, settings);
   EXPECT_FALSE(refused.complete);
-  EXPECT_EQ(refused.notices.value(0).id, Message::kEnvironmentMissing);
+  EXPECT_EQ(refused.notices.value(0).id, Message::kRecipeFault);
   EXPECT_EQ(settings.instrument.samplingTimeMs, 77);
   EXPECT_FALSE(settings.standard.averageReflectance.enabled);
 

@@ -24,6 +24,9 @@ QString TextOf(const MeasurementOutcome& outcome) {
   QStringList texts;
   for (const MessageCall& message : outcome.messages) {
     texts << MessageText(message).replace(u'\r', u' ').simplified();
+    if (!message.details.isEmpty()) {
+      texts.last() += QStringLiteral(" (%1)").arg(message.details.simplified());
+    }
   }
   return texts.isEmpty() ? Text::tr("測定器は使用中です。") : texts.join(u'\n');
 }

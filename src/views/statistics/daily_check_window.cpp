@@ -21,6 +21,7 @@
 #include "views/paper/plot_drawing.h"
 #include "views/statistics/check_settings_dialog.h"
 #include "views/statistics/result_table.h"
+#include "views/statistics/slot_choice.h"
 #include "views/statistics/xmr_plot.h"
 
 namespace vexa {
@@ -281,27 +282,22 @@ QCoro::Task<> DailyCheckWindow::MeasureNext() {
 
 QCoro::Task<> DailyCheckWindow::MeasureCheckPiece() {
   const QPointer<DailyCheckWindow> self(this);
-  const int slot = FreeSlot();
+  const int slot = FreeSlot(state_);
+  const bool mayMeasure = co_await MayUseSlot(slot, state_, parts_.messages);
+  if (self == nullptr || !mayMeasure) {
+    co_return;
+  }
   SessionRecorder& recorder = parts_.recorder;
   const RecordContext before = recorder.Context();
   RecordContext context = before;
   context.lot.clear();
   context.recipe = kRecipe;
   recorder.SetContext(context);
-  co_await parts_.desk.MeasureSample(slot);
+  co_await parts_.desk.MeasureSampleOver(slot);
   recorder.SetContext(before);
   if (self != nullptr && measured_) {
     KeepCheck(slot);
   }
-}
-
-int DailyCheckWindow::FreeSlot() const {
-  for (int slot = 1; slot <= kSlotCount; ++slot) {
-    if (!state_.Slot(slot)->valid) {
-      return slot;
-    }
-  }
-  return kSlotCount;
 }
 
 void DailyCheckWindow::KeepCheck(int slot) {

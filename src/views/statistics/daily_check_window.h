@@ -40,7 +40,6 @@ class DailyCheckWindow : public QDialog {
   QCoro::Task<> MeasureNext();
   QCoro::Task<> MeasureCheckPiece();
   /// The slot for the check piece: the first empty one, else the last.
-  [[nodiscard]] int FreeSlot() const;
   void KeepCheck(int slot);
   void Freeze();
   void Release();

@@ -29,6 +29,7 @@
 #include "views/statistics/component_plot.h"
 #include "views/statistics/gauge_result.h"
 #include "views/statistics/series_filter.h"
+#include "views/statistics/slot_choice.h"
 
 namespace vexa {
 namespace {
@@ -268,7 +269,7 @@ QCoro::Task<> GaugeStudyWindow::MeasureNext() {
   const QPointer<GaugeStudyWindow> self(this);
   busy_ = true;
   ShowProgress();
-  const bool mayMeasure = co_await MayUseSlot();
+  const bool mayMeasure = co_await MayUseSlot(kSlot, state_, parts_.messages);
   if (self == nullptr || !mayMeasure) {
     if (self != nullptr) {
       busy_ = false;
@@ -301,16 +302,6 @@ QCoro::Task<> GaugeStudyWindow::MeasureNext() {
     }
   }
   ShowProgress();
-}
-
-// What stands in the slot goes only when the user agrees.
-QCoro::Task<bool> GaugeStudyWindow::MayUseSlot() {
-  if (!state_.Slot(kSlot)->valid) {
-    co_return true;
-  }
-  const MessageCall question{Message::kMeasureOver};
-  const MessageResult answer = co_await parts_.messages.Ask(question);
-  co_return answer == MessageResult::kOk;
 }
 
 bool GaugeStudyWindow::KeepReading(const MeasurementSlot& slot, std::size_t place) {

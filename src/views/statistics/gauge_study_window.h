@@ -42,7 +42,6 @@ class GaugeStudyWindow : public QDialog {
   void MakePlan();
   void ShowProgress();
   QCoro::Task<> MeasureNext();
-  QCoro::Task<bool> MayUseSlot();
   bool KeepReading(const MeasurementSlot& slot, std::size_t place);
   void AnalyseRecords();
   void Analyse(const GaugeReadings& readings, std::optional<double> tolerance);

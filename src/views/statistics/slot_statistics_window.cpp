@@ -18,6 +18,7 @@
 #include "views/common/dialog_buttons.h"
 #include "views/common/slot_style.h"
 #include "views/paper/current_printer.h"
+#include "views/statistics/slot_choice.h"
 
 namespace vexa {
 namespace {
@@ -25,16 +26,6 @@ namespace {
 constexpr int kMostRepeats = 100;
 constexpr int kUsualRepeats = 10;
 const QString kFileName = QStringLiteral("slot-statistics");
-
-// Where repeats are measured to: the first empty slot, else the last one.
-int RepeatSlot(const VEXATYPE& state) {
-  for (int slot = 1; slot <= kSlotCount; ++slot) {
-    if (!state.Slot(slot)->valid) {
-      return slot;
-    }
-  }
-  return kSlotCount;
-}
 
 }  // namespace
 
@@ -188,7 +179,7 @@ QCoro::Task<> SlotStatisticsWindow::MeasureRepeats() {
   }
   const QPointer<SlotStatisticsWindow> self(this);
   InstrumentDesk& desk = parts_.desk;
-  const int slot = RepeatSlot(state_);
+  const int slot = FreeSlot(state_);
   const int count = count_->value();
   busy_ = true;
   stop_ = false;
