@@ -10,7 +10,6 @@
 #include <QShortcut>
 #include <QVBoxLayout>
 
-#include <algorithm>
 #include <array>
 #include "base/number_text.h"
 #include "base/translation.h"
@@ -92,8 +91,15 @@ RecomputedWindow::RecomputedWindow(const QList<WholeRecord>& records, const Sett
                CieCaption(CieConditionsOf(records)) + u'\n' + Text::tr("再計算") +
                QStringLiteral(": ") + CieCaption(CieConditions(settings.colour));
   }
-  if (std::ranges::any_of(
-          records, [](const WholeRecord& record) { return !record.sample.doubts.isEmpty(); })) {
+  QList<SampleRecord> computed;
+  computed.reserve(records.size());
+  bool doubtful = false;
+  for (const WholeRecord& record : records) {
+    computed << EvaluateAnew(record, settings, false);
+    doubtful =
+        doubtful || !record.sample.doubts.isEmpty() || !computed.constLast().doubts.isEmpty();
+  }
+  if (doubtful) {
     telling += u'\n' + Text::tr("▲ 疑いあり");
   }
   auto* told = new QLabel(telling);
@@ -108,8 +114,8 @@ RecomputedWindow::RecomputedWindow(const QList<WholeRecord>& records, const Sett
   layout->addWidget(told);
   layout->addWidget(table_, 1);
   layout->addLayout(bottom);
-  for (const WholeRecord& record : records) {
-    AddRow(record, EvaluateAnew(record, settings, false), cie);
+  for (qsizetype i = 0; i < records.size(); ++i) {
+    AddRow(records[i], computed[i], cie);
   }
   table_->resizeColumnsToContents();
   table_->horizontalHeader()->setSectionResizeMode(0, QHeaderView::Stretch);
