@@ -15,7 +15,7 @@ namespace vexa {
 namespace {
 
 constexpr double kThinNm = 1200.0;        // below it the transform's peaks are too wide
-constexpr double kThinResolutions = 2.1;  // likewise, in thicknesses that it can tell apart
+constexpr double kThinResolutions = 1.9;  // likewise, in thicknesses that it can tell apart
 constexpr double kLowestPeakNm = 600.0;   // of optical equivalents that are taken for peaks
 constexpr std::size_t kMostSeeds = 8;
 constexpr double kClearRatio = 10.0;  // of the peak of a fringe that is surely there
