@@ -36,6 +36,11 @@ class Conditions {
   QVariantList values_;
 };
 
+// No text is another text than none: it is what samples without a lot have.
+QString Bound(const QString& text) {
+  return text.isNull() ? QStringLiteral("") : text;
+}
+
 Conditions ConditionsOf(const RecordQuery& query) {
   Conditions conditions;
   conditions.Add(QStringLiteral("kind = 'sample'"), {});
@@ -43,13 +48,13 @@ Conditions ConditionsOf(const RecordQuery& query) {
     conditions.Add(QStringLiteral("id = ?"), {*query.id});
   }
   if (query.lot) {
-    conditions.Add(QStringLiteral("lot = ?"), {*query.lot});
+    conditions.Add(QStringLiteral("lot = ?"), {Bound(*query.lot)});
   }
   if (query.recipe) {
-    conditions.Add(QStringLiteral("recipe = ?"), {*query.recipe});
+    conditions.Add(QStringLiteral("recipe = ?"), {Bound(*query.recipe)});
   }
   if (query.operatorName) {
-    conditions.Add(QStringLiteral("operator = ?"), {*query.operatorName});
+    conditions.Add(QStringLiteral("operator = ?"), {Bound(*query.operatorName)});
   }
   if (query.verdict) {
     conditions.Add(QStringLiteral("verdict = ?"), {VerdictWord(*query.verdict)});

@@ -316,6 +316,7 @@ TEST_F(Store, SearchFindsBySeveralConditions) {
       {"superseded", With<Query>(&Query::lot, "A", &Query::withSuperseded, true), "4 2 1"},
       {"recipe", With<Query>(&Query::recipe, "r", &Query::withSuperseded, true), "1"},
       {"operator", With<Query>(&Query::operatorName, "山田"), "2"},
+      {"no operator", With<Query>(&Query::operatorName, QString()), "4 3"},
       {"part", With<Query>(&Query::samplePart, "ｽﾞ-3"), "3"},
       {"wild cards are letters", With<Query>(&Query::samplePart, "%_"), ""},
       {"from", With<Query>(&Query::from, second), "4 3 2"},
