@@ -36,26 +36,23 @@ class Conditions {
   QVariantList values_;
 };
 
-// No text is another text than none: it is what samples without a lot have.
-QString Bound(const QString& text) {
-  return text.isNull() ? QStringLiteral("") : text;
-}
-
 Conditions ConditionsOf(const RecordQuery& query) {
   Conditions conditions;
   conditions.Add(QStringLiteral("kind = 'sample'"), {});
   if (query.id) {
     conditions.Add(QStringLiteral("id = ?"), {*query.id});
   }
-  if (query.lot) {
-    conditions.Add(QStringLiteral("lot = ?"), {Bound(*query.lot)});
-  }
-  if (query.recipe) {
-    conditions.Add(QStringLiteral("recipe = ?"), {Bound(*query.recipe)});
-  }
-  if (query.operatorName) {
-    conditions.Add(QStringLiteral("operator = ?"), {Bound(*query.operatorName)});
-  }
+  // An empty text is what a row does not have.
+  const auto addText = [&conditions](const char* column, const std::optional<QString>& text) {
+    if (text && text->isEmpty()) {
+      conditions.Add(QLatin1String(column) + QStringLiteral(" IS NULL"), {});
+    } else if (text) {
+      conditions.Add(QLatin1String(column) + QStringLiteral(" = ?"), {*text});
+    }
+  };
+  addText("lot", query.lot);
+  addText("recipe", query.recipe);
+  addText("operator", query.operatorName);
   if (query.verdict) {
     conditions.Add(QStringLiteral("verdict = ?"), {VerdictWord(*query.verdict)});
   }
