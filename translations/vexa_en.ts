@@ -4820,5 +4820,9 @@ Repeats: %4   Background: %5   Reference: %6</translation>
         <source>環境ﾌｧｲﾙを読み込めません。</source>
         <translation>The environment file cannot be read.</translation>
     </message>
+    <message>
+        <source>ﾌｧｲﾙに保存していない測定ﾃﾞｰﾀがｽﾛｯﾄから消えます。ﾌｧｲﾙを開いてもよろしいですか？</source>
+        <translation>Measured data that are saved in no file will be gone from the slots. Open the file?</translation>
+    </message>
 </context>
 </TS>

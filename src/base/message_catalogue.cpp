@@ -44,6 +44,9 @@ constexpr std::array<MessageEntry, kMessageCount> kCatalogue{{
                        "旧Verのデータﾌｧｲﾙではありません。\r\rﾌｧｲﾙを確認してください。")},
     {Message::kEraseSlots, title::kModel, MessageIcon::kWarning, MessageButtons::kOkCancel,
      QT_TRANSLATE_NOOP("Text", "%1ﾃﾞｰﾀをひらくためﾃﾞｰﾀ１～ﾃﾞｰﾀ%1までのﾃﾞｰﾀが消去されます。")},
+    {Message::kReplaceUnsaved, title::kMessage, MessageIcon::kQuestion, MessageButtons::kOkCancel,
+     QT_TRANSLATE_NOOP(
+         "Text", "ﾌｧｲﾙに保存していない測定ﾃﾞｰﾀがｽﾛｯﾄから消えます。ﾌｧｲﾙを開いてもよろしいですか？")},
     {Message::kSubstrateVersionError, title::kModel, MessageIcon::kStop, MessageButtons::kOk,
      QT_TRANSLATE_NOOP("Text", "ﾃﾞｰﾀ･ﾌｧｲﾙの読み込みでエラーが発生しました。")},
     {Message::kStockReadError, title::kError, MessageIcon::kStop, MessageButtons::kOk,

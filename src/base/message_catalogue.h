@@ -16,6 +16,7 @@ enum class Message : std::uint8_t {
   kDataReadError,        ///< %1 header
   kOldDataVersion,
   kEraseSlots,  ///< %1 count with its sign place
+  kReplaceUnsaved,
   kSubstrateVersionError,
   kStockReadError,          ///< %1 header
   kStandardVersionRefused,  ///< %1 path

@@ -99,6 +99,24 @@ TEST_F(FileOpening, ADroppedFileIsOpenedAsWhatItIs) {
             (QStringList{Path("c.env"), Path("b.txt"), Path("環境.ENV"), Path("測定.csv")}));
 }
 
+TEST_F(FileOpening, WhatIsMeasuredAndNotSavedGoesOnlyWhenAgreedTo) {
+  for (const auto& [button, counts] :
+       {std::pair{"Background", 100}, {"Reference", 500}, {"Mes2", 300}}) {
+    peer.SetLines(test::FlatLines(1, counts));
+    Press(button);
+    WaitUntilIdle();
+  }
+  messages.Take();
+  messages.answers = {MessageResult::kCancel, MessageResult::kOk};
+  for (const bool opened : {false, true}) {
+    EXPECT_TRUE(Drop({DataFile("a.csv", 2.5)}));
+    EXPECT_EQ(messages.Take(), Shown{Message::kReplaceUnsaved});
+    EXPECT_EQ(window->State().Slot(2)->valid, !opened);
+  }
+  EXPECT_TRUE(Drop({DataFile("b.csv", 3.5)}));
+  EXPECT_EQ(messages.Take(), Shown{}) << "all is in a file";
+}
+
 TEST_F(FileOpening, WhatCannotBeOpenedChangesNothing) {
   ASSERT_TRUE(Drop({DataFile("a.csv", 2.5)}));
   const std::pair<QStringList, Shown> cases[] = {

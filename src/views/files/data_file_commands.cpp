@@ -6,6 +6,16 @@
 #include "measurement/evaluation.h"
 
 namespace vexa {
+namespace {
+
+// What is to be asked before the content takes the place of what the slots hold.
+std::optional<MessageCall> QuestionBefore(const DataFileContent& content, const VEXATYPE& state) {
+  const std::optional<MessageCall> erases = StoreQuestion(content);
+  const bool unsaved = state.HasValidSlot() && !state.slotsSaved;
+  return erases || !unsaved ? erases : std::optional(MessageCall{Message::kReplaceUnsaved});
+}
+
+}  // namespace
 
 QCoro::Task<bool> OpenDataFile(Session& session, MessageService& messages, FileDialogs& dialogs) {
   const std::optional<QString> path = co_await dialogs.AskOpen(
@@ -23,7 +33,7 @@ QCoro::Task<bool> OpenDataFile(QString path, Session& session, MessageService& m
     messages.Tell(DataFileMessage(content.Fault()));
     co_return false;
   }
-  if (const std::optional<MessageCall> question = StoreQuestion(*content)) {
+  if (const std::optional<MessageCall> question = QuestionBefore(*content, session.State())) {
     const MessageResult answer = co_await messages.Ask(*question);
     if (answer != MessageResult::kOk) {
       co_return false;

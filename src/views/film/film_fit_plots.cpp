@@ -13,6 +13,7 @@
 namespace vexa {
 namespace {
 
+constexpr double kSlowNm = 600.0;  // below it stands what is left of the slow part
 constexpr double kLeastShownNm = 3000.0;
 
 QCPRange Around(double low, double high) {
@@ -122,6 +123,11 @@ void FourierPlot::Show(const std::optional<FourierThickness>& transform,
     peaks.append({peak.thicknessNm, peak.amplitude});
     shownNm = std::max(shownNm, 1.6 * peak.thicknessNm);
     highest = std::max(highest, peak.amplitude);
+  }
+  for (const QCPGraphData& point : curve) {
+    if (candidates.empty() && point.key >= kSlowNm) {
+      highest = std::max(highest, point.value);
+    }
   }
   if (fit && fit->outcome != FitOutcome::kNone) {
     for (const FittedLayer& layer : fit->layers) {

@@ -54,7 +54,6 @@ SpectrumGraph::SpectrumGraph(Abscissa abscissa, const QString& ordinateLabel, QW
 
   auto* jump = new QAction(Text::tr("ｼﾞｬﾝﾌﾟ"), this);
   jump->setShortcut(Qt::Key_J);
-  jump->setShortcutContext(Qt::WidgetShortcut);
   addAction(jump);
   setContextMenuPolicy(Qt::ActionsContextMenu);
   connect(jump, &QAction::triggered, this, &SpectrumGraph::JumpRequested);
