@@ -22,8 +22,7 @@ namespace vexa {
 namespace {
 
 constexpr int kWidth = 296;
-constexpr int kSmallestDiagram = 200;  // on a low screen
-constexpr int kSmallestWithCie = 165;  // so that the thickness below stays in sight
+constexpr int kSmallestDiagram = 138;  // on a low screen, so that the thickness stays in sight
 constexpr int kButtonPadding = 20;
 const QString kNone = QStringLiteral("-");
 
@@ -66,8 +65,6 @@ void ColourPanel::ShowCie(bool shown) {
       AddCie();
     }
   }
-  diagram_->setMinimumHeight(
-      ChromaticityDiagram::HeightFor(shown ? kSmallestWithCie : kSmallestDiagram));
   Show(slot_);
 }
 

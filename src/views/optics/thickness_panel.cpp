@@ -17,6 +17,8 @@ namespace vexa {
 namespace {
 
 constexpr int kWidth = 296;
+constexpr int kMargin = 10;
+constexpr int kMarkGap = 6;
 const QString kNothing = QStringLiteral("-");
 
 QLabel* Value(const QString& name) {
@@ -56,7 +58,7 @@ ThicknessPanel::ThicknessPanel(Session& session, MessageService& messages, QWidg
   large.setPixelSize(19);
   thickness_->setFont(large);
   auto* grid = new QGridLayout(this);
-  grid->setContentsMargins(10, 6, 10, 6);
+  grid->setContentsMargins(kMargin, 6, kMargin, 6);
   grid->setHorizontalSpacing(8);
   grid->setVerticalSpacing(3);
   grid->setColumnStretch(1, 1);
@@ -80,7 +82,7 @@ ThicknessPanel::ThicknessPanel(Session& session, MessageService& messages, QWidg
   const auto addMarked = [grid](QLabel& mark, QWidget* content, int row) {
     mark.setPixmap(DoubtMark());
     auto* line = new QHBoxLayout;
-    line->setSpacing(6);
+    line->setSpacing(kMarkGap);
     line->addWidget(&mark, 0, Qt::AlignTop);
     line->addWidget(content, 1);
     grid->addLayout(line, row, 0, 1, 4);
@@ -121,6 +123,13 @@ void ThicknessPanel::ShowDoubts(const MeasurementSlot& slot) {
   doubtMark_->setVisible(doubtful);
   doubt_->setVisible(doubtful);
   doubt_->setText(doubtful ? ThicknessDoubtText(slot.doubts.back()) : QString());
+  // Its height is known, since the panel's width is. Were it left to the layout, nothing above it
+  // would give way on a low screen.
+  QSizePolicy known = doubt_->sizePolicy();
+  known.setHeightForWidth(false);
+  doubt_->setSizePolicy(known);
+  doubt_->setFixedHeight(
+      doubt_->heightForWidth(kWidth - 2 * kMargin - doubtMark_->sizeHint().width() - kMarkGap));
   doubt_->setToolTip(DoubtTexts(slot));
   thickness_->setToolTip(DoubtTexts(slot));
 }
