@@ -259,7 +259,9 @@ TEST_F(LotMeasuring, AHeldVerdictCountsOnNeitherSideUntilItIsReleased) {
 TEST_F(LotMeasuring, RepeatsEachLensAsTheRecipeWantsAndReportsTheLot) {
   lots->close();
   WriteRecipe(
-      R"(, "repeats": 2, "cie": {"limits": {"Rv": {"upper": 2.5}, "h": {"lower": 350, "upper": 349}}})");
+      R"(, "repeats": 2, "cie": {"limits": {"Rv": {"upper": 2.5}, "h": {"lower": 350, "upper": 349},
+             "L": {"upper": 100}, "a": {"upper": 99}, "b": {"upper": 99}, "C": {"upper": 99},
+             "deltaE00": {"upper": 99}}, "target": {"L": 20, "a": 0, "b": 0}})");
   QApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
   OpenLots();
   Begin("L1");
@@ -280,6 +282,8 @@ TEST_F(LotMeasuring, RepeatsEachLensAsTheRecipeWantsAndReportsTheLot) {
                             "CIE Rv [%] 4 - 2.5 2.", "CIE h [°] 4 350.0 349.0 "}) {
     EXPECT_TRUE(report.contains(QString::fromUtf8(words))) << words << report.toStdString();
   }
+  EXPECT_EQ(report.count(QStringLiteral("CIE ΔE00")), 3)
+      << "in the statistics, with why it has no Cpk, and above the rows";
 }
 
 }  // namespace

@@ -128,8 +128,8 @@ void ThicknessPanel::ShowDoubts(const MeasurementSlot& slot) {
   QSizePolicy known = doubt_->sizePolicy();
   known.setHeightForWidth(false);
   doubt_->setSizePolicy(known);
-  doubt_->setFixedHeight(
-      doubt_->heightForWidth(kWidth - 2 * kMargin - doubtMark_->sizeHint().width() - kMarkGap));
+  const int width = kWidth - 2 * kMargin - doubtMark_->sizeHint().width() - kMarkGap;
+  doubt_->setFixedHeight(doubtful ? doubt_->heightForWidth(width) : 0);
   doubt_->setToolTip(DoubtTexts(slot));
   thickness_->setToolTip(DoubtTexts(slot));
 }
