@@ -12,7 +12,6 @@
 #include <QSplitter>
 #include <QStyle>
 #include <QVBoxLayout>
-#include <utility>
 
 #include "base/translation.h"
 #include "optics/fourier_thickness.h"
@@ -341,9 +340,6 @@ void FilmFitWindow::done(int result) {
 }
 
 QCoro::Task<> FilmFitWindow::Leave() {
-  if (std::exchange(leaving_, true)) {
-    co_return;
-  }
   const QPointer<FilmFitWindow> self(this);
   const MessageCall question{Message::kFilmStackUnsaved};
   const MessageResult answer = co_await messages_.Ask(question);
@@ -351,11 +347,7 @@ QCoro::Task<> FilmFitWindow::Leave() {
   if (self != nullptr && answer == MessageResult::kYes) {
     leave = co_await SaveStack();
   }
-  if (self == nullptr) {
-    co_return;
-  }
-  leaving_ = false;
-  if (leave) {
+  if (self != nullptr && leave) {
     changed_ = false;
     close();
   }

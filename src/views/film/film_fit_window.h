@@ -78,7 +78,6 @@ class FilmFitWindow : public QDialog {
   FilmStackSetting setting_;  ///< as entered last
   FilmFitRequest request_;    ///< what it asks; without layers before the first fit
   bool changed_ = false;      ///< since the file was read or written
-  bool leaving_ = false;      ///< it is being asked whether to save
   bool outdated_ = false;     ///< the setting has changed since the last fit
   std::map<int, FilmFitRun::Spectrum> fitting_;
   std::map<int, FilmFitFault> refused_;
