@@ -148,9 +148,13 @@ struct Fitted {
   FilmFit fit;
 };
 
+// What does not stand out of the noise is no thickness for a reader.
 QString FourierText(const MeasurementSlot& slot, const FilmFitRequest& request) {
-  const QJsonValue nm = FourierJson(slot.reflectance, request)[QStringLiteral("thickness")];
-  return nm.isDouble() ? FormatNumber(nm.toDouble(), u"0.0") : QStringLiteral("-");
+  const QJsonObject fourier = FourierJson(slot.reflectance, request);
+  const bool told =
+      fourier[QStringLiteral("peakRatio")].toDouble() >= FourierThickness::kNoiseRatio;
+  return told ? FormatNumber(fourier[QStringLiteral("thickness")].toDouble(), u"0.0")
+              : QStringLiteral("-");
 }
 
 void PrintText(const std::vector<Fitted>& fitted, const FilmFitRequest& request) {

@@ -33,6 +33,14 @@ class GaugeStudyWindow : public QDialog {
  public:
   explicit GaugeStudyWindow(const StudyParts& parts, QWidget* parent = nullptr);
 
+  /// A measurement that runs is cancelled: its result would count nowhere, and be seen.
+  void done(int result) override {
+    if (busy_) {
+      parts_.desk.Cancel();
+    }
+    QDialog::done(result);
+  }
+
  private:
   QWidget* BuildPlan();
   QWidget* BuildResult();
