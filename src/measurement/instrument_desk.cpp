@@ -41,7 +41,7 @@ bool InstrumentDesk::IsLightPathClosed() const {
 }
 
 QCoro::Task<> InstrumentDesk::Connect() {
-  if (!IsIdle()) {
+  if (!MayBegin()) {
     co_return;
   }
   ready_ = false;
@@ -65,7 +65,7 @@ QCoro::Task<> InstrumentDesk::Connect() {
 }
 
 QCoro::Task<> InstrumentDesk::SendSampling() {
-  if (!ready_ || !IsIdle()) {
+  if (!ready_ || !MayBegin()) {
     co_return;
   }
   SetActivity(Activity::kStarting);
@@ -78,7 +78,7 @@ QCoro::Task<> InstrumentDesk::SendSampling() {
 }
 
 QCoro::Task<> InstrumentDesk::OpenLightPath() {
-  if (!ready_ || !IsIdle()) {
+  if (!ready_ || !MayBegin()) {
     co_return;
   }
   SetActivity(Activity::kStarting);
@@ -99,7 +99,7 @@ QCoro::Task<> InstrumentDesk::MeasureReference() {
 
 QCoro::Task<> InstrumentDesk::MeasureSample(int slotNumber) {
   const MeasurementSlot* slot = session_.State().Slot(slotNumber);
-  if (slot == nullptr || !IsIdle() || finishing_ > 0) {
+  if (slot == nullptr || !MayBegin()) {
     co_return;
   }
   if (slot->valid) {
@@ -113,7 +113,7 @@ QCoro::Task<> InstrumentDesk::MeasureSample(int slotNumber) {
 }
 
 QCoro::Task<> InstrumentDesk::MeasureSampleOver(int slotNumber) {
-  if (session_.State().Slot(slotNumber) == nullptr || !IsIdle() || finishing_ > 0) {
+  if (session_.State().Slot(slotNumber) == nullptr || !MayBegin()) {
     co_return;
   }
   const MeasurementOutcome outcome = co_await sequence_.MeasureSample(slotNumber);
@@ -124,7 +124,7 @@ QCoro::Task<MeasurementOutcome> InstrumentDesk::Measure(MeasurementKind kind, in
                                                         QString sampleNumber) {
   co_await EndWatching();
   MeasurementOutcome outcome;
-  if (!IsIdle() || finishing_ > 0) {
+  if (!MayBegin()) {
     co_return outcome;
   }
   switch (kind) {
@@ -142,7 +142,7 @@ QCoro::Task<MeasurementOutcome> InstrumentDesk::Measure(MeasurementKind kind, in
 }
 
 QCoro::Task<Status> InstrumentDesk::WatchLight() {
-  if (!ready_ || !IsIdle() || finishing_ > 0) {
+  if (!ready_ || !MayBegin()) {
     co_return Controller::kBusy;
   }
   SetActivity(Activity::kWatching);

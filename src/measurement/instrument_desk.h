@@ -85,6 +85,8 @@ class InstrumentDesk : public QObject {
  private:
   /// Stops watching, and is done when the instrument is at rest.
   QCoro::Task<> EndWatching();
+  /// Nothing is being done, and nobody waits for the end of all.
+  [[nodiscard]] bool MayBegin() const { return IsIdle() && finishing_ == 0; }
   void SetActivity(Activity activity);
 
   Session& session_;
