@@ -132,8 +132,9 @@ QJsonValue Number(double value) {
 }
 
 QJsonObject FourierJson(const ReflectanceSpectrum& spectrum, const FilmFitRequest& request) {
-  const auto transform = TransformFringes(spectrum, request.stack.layers.front().n,
-                                          request.options.fromNm, request.options.toNm);
+  const auto transform =
+      TransformFringes(spectrum, request.stack.layers.front().n, request.setting.options.fromNm,
+                       request.setting.options.toNm);
   const bool found = transform && !transform->peaks.empty();
   return {
       {QStringLiteral("thickness"),
@@ -194,12 +195,14 @@ std::vector<Fitted> FitValid(const VEXATYPE& state, const FilmFitRequest& reques
       spectra.push_back(slot.reflectance);
     }
   }
-  const auto fits = FitFilms(spectra, request.stack, request.ranges, request.options);
+  const auto fits =
+      FitFilms(spectra, request.stack, LayerRanges(request.setting), request.setting.options);
   for (std::size_t i = 0; i < fits.size(); ++i) {
     if (const auto* fault = std::get_if<FilmFitFault>(&fits[i])) {
       Complain(Text::tr("スロット %1：%2").arg(fitted[i].number).arg(FilmFitFaultText(*fault)));
       fitted[i].fit.layers.assign(
-          request.ranges.size(), {kNotANumber, kNotANumber, kNotANumber, kNotANumber, kNotANumber});
+          request.setting.layers.size(),
+          {kNotANumber, kNotANumber, kNotANumber, kNotANumber, kNotANumber});
     } else {
       fitted[i].fit = std::get<FilmFit>(fits[i]);
     }

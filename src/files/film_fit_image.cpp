@@ -1,7 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "files/film_fit_image.h"
 
+#include <QJsonDocument>
 #include <limits>
+
+#include "optics/film_stack_file.h"
 
 namespace vexa {
 
@@ -23,9 +26,11 @@ void Write(ImageWriter& out, const FilmFit& fit) {
   for (const QString& warning : fit.warnings) {
     out << warning;
   }
+  out << QString::fromUtf8(
+      QJsonDocument(FilmStackJson(fit.setting)).toJson(QJsonDocument::Compact));
 }
 
-bool Read(ImageReader& in, FilmFit& fit) {
+bool Read(ImageReader& in, bool withSetting, FilmFit& fit) {
   constexpr double kNoNumber = std::numeric_limits<double>::quiet_NaN();
   constexpr FittedLayer kUntold{kNoNumber, kNoNumber, kNoNumber, kNoNumber, kNoNumber};
   quint8 outcome = 0;
@@ -64,6 +69,13 @@ bool Read(ImageReader& in, FilmFit& fit) {
     QString warning;
     in >> warning;
     fit.warnings << warning;
+  }
+  if (withSetting) {
+    QString setting;
+    in >> setting;
+    // A fit that no request has made has none.
+    fit.setting = FilmStackOf(QJsonDocument::fromJson(setting.toUtf8()).object())
+                      .value_or(FilmStackSetting());
   }
   return fit.alternatives.size() == alternatives && fit.warnings.size() == warnings;
 }

@@ -9,7 +9,8 @@ namespace vexa {
 /// A fit as the journal keeps it with its slot. Their layout is told in docs/files.md.
 void Write(ImageWriter& out, const FilmFit& fit);
 
-/// False when a count, the outcome or the wavelengths are none that a fit has.
-[[nodiscard]] bool Read(ImageReader& in, FilmFit& fit);
+/// False when a count, the outcome or the wavelengths are none that a fit has. `withSetting`: what
+/// it was made with is there, too.
+[[nodiscard]] bool Read(ImageReader& in, bool withSetting, FilmFit& fit);
 
 }  // namespace vexa

@@ -11,9 +11,10 @@ namespace vexa {
 namespace {
 
 constexpr quint8 kValidBit = 1;
-constexpr quint8 kDoubtfulBit = 2;
 constexpr quint8 kFittedBit = 4;
 constexpr quint8 kNoiseBit = 8;
+constexpr quint8 kFitSettingBit = 16;
+constexpr quint8 kDoubtsBit = 32;
 constexpr auto kLastDoubt = static_cast<quint8>(ThicknessDoubt::kDisagrees);
 constexpr std::size_t kFirstSlotPlace = 2;
 constexpr std::size_t kStockPlace = kFirstSlotPlace + kSlotCount;
@@ -68,8 +69,15 @@ void Read(ImageReader& in, DispersionSetting& setting) {
 }
 
 quint8 FlagsOf(const MeasurementSlot& slot) {
-  return static_cast<quint8>(FlagByte(slot.valid) | (slot.fit ? kFittedBit : 0) |
+  return static_cast<quint8>(FlagByte(slot.valid) | (slot.fit ? kFittedBit | kFitSettingBit : 0) |
                              (slot.noise.IsEmpty() ? 0 : kNoiseBit));
+}
+
+void WriteDoubts(ImageWriter& out, const std::vector<ThicknessDoubt>& doubts) {
+  out << static_cast<quint8>(doubts.size());
+  for (const ThicknessDoubt doubt : doubts) {
+    out << static_cast<quint8>(doubt);
+  }
 }
 
 QByteArray SlotBytes(const MeasurementSlot& slot) {
@@ -83,10 +91,7 @@ QByteArray SlotBytes(const MeasurementSlot& slot) {
   for (const Extremum& extremum : thickness.extrema.Found()) {
     out << extremum.point.wavelengthNm << extremum.point.reflectance << FlagByte(extremum.maximum);
   }
-  out << static_cast<quint8>(slot.doubts.size());
-  for (const ThicknessDoubt doubt : slot.doubts) {
-    out << static_cast<quint8>(doubt);
-  }
+  WriteDoubts(out, slot.doubts);
   if (!slot.noise.IsEmpty()) {
     out << slot.noise.Values();
   }
@@ -144,11 +149,11 @@ bool PutSlot(const QByteArray& bytes, MeasurementSlot& slot) {
   if (!ReadDoubts(in, read.doubts)) {
     return false;
   }
-  // Earlier versions kept neither noise nor fit.
+  // Earlier versions kept neither noise nor fit, later ones fits without their setting.
   if ((flags & kNoiseBit) != 0) {
     in >> read.noise.Values();
   }
-  if ((flags & kFittedBit) != 0 && !Read(in, read.fit.emplace())) {
+  if ((flags & kFittedBit) != 0 && !Read(in, (flags & kFitSettingBit) != 0, read.fit.emplace())) {
     return false;
   }
   // A slot that came from a file says nothing more.
@@ -197,8 +202,8 @@ QByteArray HistoryBytes(const ThicknessHistory& history) {
   ImageWriter out;
   out << FlagByte(history.physical) << history.count << history.Points();
   for (const HistoryNote& note : history.Notes()) {
-    out << static_cast<quint8>((note.doubtful ? kDoubtfulBit : 0) | (note.fitted ? kFittedBit : 0))
-        << note.fitNm;
+    out << static_cast<quint8>(kDoubtsBit | (note.fitted ? kFittedBit : 0)) << note.fitNm;
+    WriteDoubts(out, note.doubts);
   }
   return out.Bytes();
 }
@@ -214,8 +219,11 @@ bool PutHistory(const QByteArray& bytes, ThicknessHistory& history) {
   for (HistoryNote& note : std::span(read.notes).first(in.AtEnd() ? 0 : count)) {
     quint8 flags = 0;
     in >> flags >> note.fitNm;
-    note.doubtful = (flags & kDoubtfulBit) != 0;
     note.fitted = (flags & kFittedBit) != 0;
+    // Earlier versions did not keep what the doubts are.
+    if ((flags & kDoubtsBit) != 0 && !ReadDoubts(in, note.doubts)) {
+      return false;
+    }
   }
   if (in.ReadAll()) {
     read.physical = physical == kValidBit;

@@ -56,9 +56,9 @@ std::optional<HistoryPoint> HistoryPointOf(const MeasurementSlot& slot) {
     // An optical thickness and the fit's are not of one scale.
     return HistoryPoint{slot.thickness.thicknessNm,
                         slot.thickness.physical,
-                        {!slot.doubts.empty(), false, slot.thickness.physical ? fitNm : 0.0}};
+                        {slot.doubts, false, slot.thickness.physical ? fitNm : 0.0}};
   }
-  return fitted ? std::optional(HistoryPoint{fitNm, true, {false, true, 0.0}}) : std::nullopt;
+  return fitted ? std::optional(HistoryPoint{fitNm, true, {{}, true, 0.0}}) : std::nullopt;
 }
 
 std::optional<MessageCall> AccumulationMessage(std::optional<StockAddResult> result) {

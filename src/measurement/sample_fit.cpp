@@ -10,8 +10,7 @@ QCoro::Task<std::optional<FilmFit>> SampleFit::Make(SampleFitTask task) {
   result_ = FilmFitFault::kStopped;
   thread_.reset(QThread::create([this, task = std::move(task), stop = stop_.get_token()] {
     const auto& [request, reflectance, noise] = task;
-    result_ = FitFilm(reflectance, request.stack, request.ranges, request.options,
-                      noise.IsEmpty() ? nullptr : &noise, stop);
+    result_ = FitFilm(reflectance, request, noise.IsEmpty() ? nullptr : &noise, stop);
   }));
   QObject::connect(
       thread_.get(), &QThread::finished, &turn_, [this] { done_.Wake(); }, Qt::QueuedConnection);

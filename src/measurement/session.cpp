@@ -184,15 +184,8 @@ Status Session::ComputeThickness(int slotNumber) {
 }
 
 void Session::SetFilmFit(const FilmFitRequest& request, bool eachSample) {
-  const bool another = filmFit_ && *filmFit_ != request;
   filmFit_ = request;
   fitEachSample_ = eachSample;
-  for (int number = 1; another && number <= kSlotCount; ++number) {
-    if (MeasurementSlot& slot = *state_.Slot(number); slot.fit) {
-      slot.fit.reset();
-      emit SlotChanged(number);
-    }
-  }
 }
 
 void Session::EndFilmFit() {

@@ -86,8 +86,8 @@ class Session : public QObject {
   /// The thickness of a slot under the settings in force. A failure leaves the slot none.
   [[nodiscard]] Status ComputeThickness(int slot);
 
-  /// What films are fitted with from now on; the fits of another stack or of other options go.
-  /// `eachSample`: each sample is fitted before it is stored.
+  /// What films are fitted with from now on. `eachSample`: each sample is fitted before it is
+  /// stored.
   void SetFilmFit(const FilmFitRequest& request, bool eachSample);
   /// Films are fitted no longer; the fits stay.
   void EndFilmFit();

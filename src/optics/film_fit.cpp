@@ -65,7 +65,8 @@ class Fitter {
         options_(options),
         stop_(stop),
         solver_(spectrum, stack, ranges, options, stop),
-        measured_(solver_.Measured()) {}
+        measured_(solver_.Measured()),
+        incoherent_(IncoherentReflectance(stack, options)) {}
 
   FilmFit Run() {
     FilmFit fit = Search();
@@ -80,7 +81,8 @@ class Fitter {
 
  private:
   FilmFit Search() {
-    const std::vector<FilmSeed> seeds = FindFilmSeeds(spectrum_, stack_, ranges_, options_, stop_);
+    const std::vector<FilmSeed> seeds =
+        FindFilmSeeds(spectrum_, stack_, ranges_, options_, incoherent_, stop_);
     if (seeds.empty() || IsHopeless(seeds.front())) {
       return NoFilm();
     }
@@ -188,12 +190,17 @@ class Fitter {
     const double enough = points * from.rms * from.rms * (1.0 - kBetterBy / 2.0 / points);
     double best = enough;
     double spread = 0.0;
+    double last = points * from.rms * from.rms;
     for (const double radians : {0.3, 0.7, 1.5, 2.5}) {
       FilmState state = from.point.state;
       state.spread = std::min(radians / phase, 0.1);
-      const LinearMatch match = solver_.Match(state);
-      if (match.sumOfSquares < best) {
-        best = match.sumOfSquares;
+      const double left = solver_.Match(state).sumOfSquares;
+      if (left > last) {
+        break;  // more takes too much from the fringes
+      }
+      last = left;
+      if (left < best) {
+        best = left;
         spread = state.spread;
       }
     }
@@ -266,7 +273,7 @@ class Fitter {
   double RmsWithoutFilm() {
     const FilmState bare{.thicknessesNm = std::vector<double>(ranges_.size(), 0.0)};
     return std::min(RmsOfSmooth(solver_.Reflect(bare), measured_, options_),
-                    RmsOfSmooth(IncoherentReflectance(stack_, options_), measured_, options_));
+                    RmsOfSmooth(incoherent_, measured_, options_));
   }
 
   FitOutcome OutcomeOf(const FilmFit& fit, double quickRms) {
@@ -356,6 +363,7 @@ class Fitter {
   const std::stop_token& stop_;
   FilmSolver solver_;
   std::span<const double> measured_;
+  std::vector<double> incoherent_;
 };
 
 }  // namespace
@@ -374,6 +382,18 @@ std::variant<FilmFit, FilmFitFault> FitFilm(const ReflectanceSpectrum& spectrum,
   } catch (const FitStopped&) {
     return FilmFitFault::kStopped;
   }
+}
+
+std::variant<FilmFit, FilmFitFault> FitFilm(const ReflectanceSpectrum& spectrum,
+                                            const FilmFitRequest& request,
+                                            const ReflectanceSpectrum* noise,
+                                            const std::stop_token& stop) {
+  auto fit = FitFilm(spectrum, request.stack, LayerRanges(request.setting), request.setting.options,
+                     noise, stop);
+  if (auto* made = std::get_if<FilmFit>(&fit)) {
+    made->setting = request.setting;
+  }
+  return fit;
 }
 
 std::vector<std::variant<FilmFit, FilmFitFault>> FitFilms(

@@ -11,42 +11,14 @@
 
 #include "base/spectrum.h"
 #include "optics/film_model.h"
+#include "optics/film_stack_setting.h"
 
 namespace vexa {
 
-inline constexpr double kMostFilmNm = 60000.0;
-
-/// Where the thickness of a layer is looked for; a layer whose limits are equal is known.
-struct ThicknessRange {
-  double fromNm = 50.0;
-  double toNm = kMostFilmNm;
-
-  [[nodiscard]] bool IsFixed() const { return fromNm == toNm; }
-  bool operator==(const ThicknessRange&) const = default;
-};
-
-struct FilmFitOptions {
-  int fromNm = ReflectanceSpectrum::kFirstNm;  ///< wavelengths used
-  int toNm = ReflectanceSpectrum::kLastNm;
-  bool scaleFree = true;     ///< a factor of 0.5 to 1.6 on the model: an error of the reference
-  bool offsetFree = false;   ///< a constant background
-  bool indexFree = false;    ///< a factor on the index of the first layer
-  double bandwidthNm = 1.0;  ///< full width at half maximum of the instrument's slit
-  // What the interval takes into it besides the noise, as half widths at its confidence.
-  double wavelengthUncertaintyNm = 0.1;
-  double indexUncertainty = 0.0;  ///< relative
-  double confidence = 0.95;       ///< of the interval, between 0 and 1
-
-  bool operator==(const FilmFitOptions&) const = default;
-};
-
 /// All that a fit takes besides a spectrum.
 struct FilmFitRequest {
-  FilmStack stack;
-  std::vector<ThicknessRange> ranges;  ///< one a layer
-  FilmFitOptions options;
-
-  bool operator==(const FilmFitRequest&) const = default;
+  FilmStack stack;           ///< the materials that the setting names
+  FilmStackSetting setting;  ///< its ranges and options
 };
 
 enum class FitOutcome {
@@ -82,7 +54,8 @@ struct FilmFit {
   int fromNm = 0;       ///< of the wavelengths used, as the next
   std::vector<double> fitted = {};  ///< the model at each nanometre, percent
   std::vector<FitAlternative> alternatives = {};
-  QStringList warnings = {};  ///< for the user
+  QStringList warnings = {};      ///< for the user
+  FilmStackSetting setting = {};  ///< what it was made with; empty where no request was
 };
 
 /// Why a fit is refused.
@@ -118,6 +91,11 @@ enum class FilmFitFault {
 [[nodiscard]] std::variant<FilmFit, FilmFitFault> FitFilm(
     const ReflectanceSpectrum& spectrum, const FilmStack& stack,
     std::span<const ThicknessRange> ranges, const FilmFitOptions& options = {},
+    const ReflectanceSpectrum* noise = nullptr, const std::stop_token& stop = {});
+
+/// Likewise for what a request asks; the fit tells its setting.
+[[nodiscard]] std::variant<FilmFit, FilmFitFault> FitFilm(
+    const ReflectanceSpectrum& spectrum, const FilmFitRequest& request,
     const ReflectanceSpectrum* noise = nullptr, const std::stop_token& stop = {});
 
 /// FitFilm for several spectra at once, on as many threads as there are processors.

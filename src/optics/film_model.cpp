@@ -15,16 +15,18 @@ namespace {
 using Complex = std::complex<double>;
 constexpr double kWidthsPerSigma = 2.3548200450309493;  // 2 sqrt(2 ln 2)
 
-struct Node {
-  double place;  // in standard deviations
-  double weight;
+/// Two nodes, on both sides of the middle.
+struct NodePair {
+  double place;   // in standard deviations
+  double weight;  // of each
 };
 
 /// A rule is good, to some 1e-6 of the fringe's first harmonic, for phases that scatter up to
 /// `reach` radians.
 struct Rule {
   double reach;
-  std::vector<Node> nodes;
+  double middleWeight;
+  std::vector<NodePair> pairs;
 };
 
 Rule MakeRule(double reach, std::size_t count) {
@@ -32,18 +34,22 @@ Rule MakeRule(double reach, std::size_t count) {
       workspace(
           gsl_integration_fixed_alloc(gsl_integration_fixed_hermite, count, 0.0, 0.5, 0.0, 0.0),
           gsl_integration_fixed_free);
-  Rule rule{reach, {}};
-  for (std::size_t i = 0; i < count; ++i) {
-    rule.nodes.push_back(
-        {gsl_integration_fixed_nodes(workspace.get())[i],
-         gsl_integration_fixed_weights(workspace.get())[i] / std::sqrt(2.0 * std::numbers::pi)});
+  const double* places = gsl_integration_fixed_nodes(workspace.get());  // ascending
+  const auto weight = [&workspace](std::size_t i) {
+    return gsl_integration_fixed_weights(workspace.get())[i] / std::sqrt(2.0 * std::numbers::pi);
+  };
+  Rule rule{reach, weight(count / 2), {}};
+  for (std::size_t i = count / 2 + 1; i < count; ++i) {
+    rule.pairs.push_back({places[i], weight(i)});
   }
   return rule;
 }
 
-const std::array<Rule, 6>& Rules() {
-  static const std::array<Rule, 6> kRules{MakeRule(0.001, 1), MakeRule(0.2, 3),  MakeRule(0.7, 5),
-                                          MakeRule(1.6, 11),  MakeRule(2.8, 21), MakeRule(5.0, 63)};
+// Odd counts: one node lies in the middle.
+const std::array<Rule, 7>& Rules() {
+  static const std::array<Rule, 7> kRules{MakeRule(0.001, 1), MakeRule(0.2, 3),  MakeRule(0.7, 5),
+                                          MakeRule(1.1, 7),   MakeRule(1.6, 11), MakeRule(2.8, 21),
+                                          MakeRule(5.0, 63)};
   return kRules;
 }
 
@@ -61,9 +67,12 @@ Complex Fresnel(Complex above, Complex below) {
   return Times(above - below, Inverse(above + below));
 }
 
-Complex Exponential(Complex a) {
-  const double size = a.real() == 0.0 ? 1.0 : std::exp(a.real());
-  return {size * std::cos(a.imag()), size * std::sin(a.imag())};
+Complex Turn(double radians) {
+  return {std::cos(radians), std::sin(radians)};
+}
+
+double Damping(double exponent) {
+  return exponent == 0.0 ? 1.0 : std::exp(exponent);
 }
 
 }  // namespace
@@ -137,13 +146,19 @@ void FilmModel::ReflectPoint(std::size_t point, const FilmState& state, Shares& 
   const Rule& rule = *std::ranges::find_if(
       rules.begin(), rules.end() - 1, [&](double reach) { return width * wholePhase <= reach; },
       &Rule::reach);
+  std::array<Complex, kMostFilmLayers> middle;  // turns of the phases at the mean thickness
+  for (std::size_t j = 0; j < layers_; ++j) {
+    middle[j] = Turn(phase[j].imag() * state.thicknessesNm[j]);
+  }
   double byWidth = 0.0;
-  for (const Node& node : rule.nodes) {
-    const double factor = 1.0 + width * node.place;
+  // `turns` are those of all thicknesses times `1 + away`.
+  const auto add = [&](const std::array<Complex, kMostFilmLayers>& turns, double away,
+                       double weight) {
+    const double factor = 1.0 + away;
     Complex r = fresnel[layers_];
     std::array<Complex, kMostFilmLayers> slope;  // of r by each thickness
     for (std::size_t j = layers_; j-- > 0;) {
-      const Complex turn = Exponential(phase[j] * (state.thicknessesNm[j] * factor));
+      const Complex turn = turns[j] * Damping(phase[j].real() * (state.thicknessesNm[j] * factor));
       const Complex x = Times(r, turn);
       const Complex inverse = Inverse(1.0 + Times(fresnel[j], x));
       r = Times(fresnel[j] + x, inverse);
@@ -155,18 +170,31 @@ void FilmModel::ReflectPoint(std::size_t point, const FilmState& state, Shares& 
         }
       }
     }
-    shares.reflected += node.weight * std::norm(r);
+    shares.reflected += weight * std::norm(r);
     if (shares.wantSlopes) {
       double byFactor = 0.0;
       for (std::size_t j = 0; j < layers_; ++j) {
         const double part = 2.0 * (r.real() * slope[j].real() + r.imag() * slope[j].imag());
-        shares.byThickness[j] += node.weight * part;
+        shares.byThickness[j] += weight * part;
         byFactor += part * state.thicknessesNm[j] / factor;
       }
-      byWidth += node.weight * node.place * byFactor;
+      byWidth += weight * away * byFactor;
     }
+  };
+  add(middle, 0.0, rule.middleWeight);
+  for (const NodePair& pair : rule.pairs) {
+    const double away = width * pair.place;
+    std::array<Complex, kMostFilmLayers> thicker;
+    std::array<Complex, kMostFilmLayers> thinner;
+    for (std::size_t j = 0; j < layers_; ++j) {
+      const Complex side = Turn(phase[j].imag() * state.thicknessesNm[j] * away);
+      thicker[j] = Times(middle[j], side);
+      thinner[j] = Times(middle[j], std::conj(side));
+    }
+    add(thicker, away, pair.weight);
+    add(thinner, -away, pair.weight);
   }
-  shares.bySpread = width > 0.0 && !isWashedOut ? byWidth * state.spread / width : 0.0;
+  shares.bySpread = width > 0.0 && !isWashedOut ? byWidth * state.spread / (width * width) : 0.0;
 }
 
 }  // namespace vexa

@@ -24,6 +24,8 @@ struct FilmState {
   std::vector<double> thicknessesNm;  ///< one a layer, 0 or more
   double spread = 0.0;  ///< relative standard deviation of all thicknesses within the spot
   double index = 1.0;   ///< factor on n and k of the first layer
+
+  bool operator==(const FilmState&) const = default;
 };
 
 /// The reflectance of a stack as the instrument sees it, at normal incidence, in percent.

@@ -96,12 +96,12 @@ std::vector<double> IncoherentReflectance(const FilmStack& stack, const FilmFitO
 }
 
 FilmScore::FilmScore(const ReflectanceSpectrum& spectrum, const FilmStack& stack,
-                     const FilmFitOptions& options, int stepNm, const std::stop_token& stop)
+                     const FilmFitOptions& options, std::span<const double> incoherent, int stepNm,
+                     const std::stop_token& stop)
     : options_(options),
       stop_(stop),
       model_(stack, options.fromNm, options.toNm, stepNm, 0.0),
       values_(model_.Points()) {
-  const std::vector<double> incoherent = IncoherentReflectance(stack, options);
   for (std::size_t i = 0; i < model_.Points(); ++i) {
     measured_.push_back(spectrum[model_.Nm(i)]);
     incoherent_.push_back(incoherent[static_cast<std::size_t>(model_.Nm(i) - options.fromNm)]);

@@ -49,9 +49,11 @@ struct FitStopped {};
 /// a search for starting points asks many times. The options must outlive it.
 class FilmScore {
  public:
-  /// What it computes throws FitStopped once a stop is requested.
+  /// `incoherent` is IncoherentReflectance. What it computes throws FitStopped once a stop is
+  /// requested.
   FilmScore(const ReflectanceSpectrum& spectrum, const FilmStack& stack,
-            const FilmFitOptions& options, int stepNm, const std::stop_token& stop);
+            const FilmFitOptions& options, std::span<const double> incoherent, int stepNm,
+            const std::stop_token& stop);
 
   /// The sum of squares with the best scale and offset.
   [[nodiscard]] double operator()(const std::vector<double>& thicknessesNm);

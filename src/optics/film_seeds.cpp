@@ -70,12 +70,13 @@ class Search {
  public:
   Search(const ReflectanceSpectrum& spectrum, const FilmStack& stack,
          std::span<const ThicknessRange> ranges, const FilmFitOptions& options,
-         const std::stop_token& stop)
+         std::span<const double> incoherent, const std::stop_token& stop)
       : stack_(stack),
         ranges_(ranges),
         options_(options),
-        fine_(spectrum, stack, options, 1, stop),
-        coarse_(spectrum, stack, options, options.toNm - options.fromNm >= 160 ? 4 : 1, stop) {
+        fine_(spectrum, stack, options, incoherent, 1, stop),
+        coarse_(spectrum, stack, options, incoherent, options.toNm - options.fromNm >= 160 ? 4 : 1,
+                stop) {
     for (std::size_t j = 0; j < ranges.size(); ++j) {
       thinNm_ = std::max(thinNm_, ThinNm(stack.layers[j], options));
       orders_.push_back(OrderNm(stack.layers[j], options));
@@ -380,8 +381,10 @@ class Search {
 
 std::vector<FilmSeed> FindFilmSeeds(const ReflectanceSpectrum& spectrum, const FilmStack& stack,
                                     std::span<const ThicknessRange> ranges,
-                                    const FilmFitOptions& options, const std::stop_token& stop) {
-  return Search(spectrum, stack, ranges, options, stop).Run();
+                                    const FilmFitOptions& options,
+                                    std::span<const double> incoherent,
+                                    const std::stop_token& stop) {
+  return Search(spectrum, stack, ranges, options, incoherent, stop).Run();
 }
 
 }  // namespace vexa

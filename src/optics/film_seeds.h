@@ -16,12 +16,13 @@ struct FilmSeed {
 };
 
 /// Distinct starting points within the ranges, best first, from the Fourier peaks of the spectrum
-/// and from scans of thin or narrowly known layers. Takes what FitFilm has checked;
-/// throws FitStopped once a stop is requested.
+/// and from scans of thin or narrowly known layers. Takes what FitFilm has checked, and
+/// IncoherentReflectance; throws FitStopped once a stop is requested.
 [[nodiscard]] std::vector<FilmSeed> FindFilmSeeds(const ReflectanceSpectrum& spectrum,
                                                   const FilmStack& stack,
                                                   std::span<const ThicknessRange> ranges,
                                                   const FilmFitOptions& options,
+                                                  std::span<const double> incoherent,
                                                   const std::stop_token& stop);
 
 }  // namespace vexa

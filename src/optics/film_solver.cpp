@@ -79,7 +79,11 @@ bool FilmSolver::Evaluate(const FilmPoint& start, const std::vector<FilmParamete
   if (!IsSensible(point) || stop_.stop_requested()) {
     return false;
   }
-  model_.Reflect(point.state, values_, jacobian.empty() ? std::span<double>() : slopes_);
+  // The solver asks for the residuals of a place first, and mostly for the Jacobian next.
+  if (evaluated_ != point.state) {
+    model_.Reflect(point.state, values_, slopes_);
+    evaluated_ = point.state;
+  }
   for (std::size_t i = 0; i < values_.size(); ++i) {
     residuals[i] = rootWeights_[i] * (point.scale * values_[i] + point.offset - measured_[i]);
   }
@@ -175,7 +179,7 @@ bool FilmSolver::IsInside(const FilmPoint& point) const {
 }
 
 std::vector<double> FilmSolver::Residuals(const FilmPoint& point) {
-  model_.Reflect(point.state, values_);
+  (void)Reflect(point.state);
   std::vector<double> residuals;
   for (std::size_t i = 0; i < values_.size(); ++i) {
     residuals.push_back(measured_[i] - point.scale * values_[i] - point.offset);
@@ -238,7 +242,10 @@ std::vector<double> FilmSolver::WavelengthShifts(const FilmSolution& best) {
 }
 
 std::span<const double> FilmSolver::Reflect(const FilmState& state) {
-  model_.Reflect(state, values_);
+  if (evaluated_ != state) {
+    evaluated_.reset();
+    model_.Reflect(state, values_);
+  }
   return values_;
 }
 

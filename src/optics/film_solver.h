@@ -83,6 +83,7 @@ class FilmSolver {
   std::vector<double> values_;
   std::vector<double> shifted_;
   std::vector<double> slopes_;
+  std::optional<FilmState> evaluated_;  // of which the values and the slopes are
   std::vector<double> rootWeights_;
 };
 

@@ -101,6 +101,29 @@ FilmStackSetting SettingOf(const QJsonObject& object) {
 
 }  // namespace
 
+QJsonObject FilmStackJson(const FilmStackSetting& setting) {
+  QJsonArray layers;
+  for (const FilmLayerSetting& layer : setting.layers) {
+    layers.append(QJsonObject{{QStringLiteral("material"), layer.material},
+                              {QStringLiteral("thicknessFromNm"), layer.range.fromNm},
+                              {QStringLiteral("thicknessToNm"), layer.range.toNm}});
+  }
+  return {{QStringLiteral("substrate"), setting.substrate},
+          {QStringLiteral("layers"), layers},
+          {QStringLiteral("fit"), OptionsJson(setting.options)}};
+}
+
+std::optional<FilmStackSetting> FilmStackOf(const QJsonObject& object) {
+  try {
+    FilmStackSetting setting = SettingOf(object);
+    if (!CheckFilmFit(LayerRanges(setting), setting.options)) {
+      return setting;
+    }
+  } catch (const WrongValue&) {
+  }
+  return std::nullopt;
+}
+
 std::variant<FilmStackSetting, FilmStackFileFault> ReadFilmStackFile(const QString& path) {
   const ReadResult<QByteArray> bytes = ReadRegularFile(path);
   if (!bytes) {
@@ -113,44 +136,22 @@ std::variant<FilmStackSetting, FilmStackFileFault> ReadFilmStackFile(const QStri
   if (object[QLatin1String("version")].toInt(kVersion + 1) > kVersion) {
     return FilmStackFileFault::kVersion;
   }
-  try {
-    FilmStackSetting setting = SettingOf(object);
-    if (CheckFilmFit(LayerRanges(setting), setting.options)) {
-      return FilmStackFileFault::kValue;
-    }
-    return setting;
-  } catch (const WrongValue&) {
-    return FilmStackFileFault::kValue;
+  if (const auto setting = FilmStackOf(object)) {
+    return *setting;
   }
+  return FilmStackFileFault::kValue;
 }
 
 WriteResult WriteFilmStackFile(const QString& path, const FilmStackSetting& setting) {
-  QJsonArray layers;
-  for (const FilmLayerSetting& layer : setting.layers) {
-    layers.append(QJsonObject{{QStringLiteral("material"), layer.material},
-                              {QStringLiteral("thicknessFromNm"), layer.range.fromNm},
-                              {QStringLiteral("thicknessToNm"), layer.range.toNm}});
-  }
-  const QJsonObject object{{QStringLiteral("format"), QString(kFormat)},
-                           {QStringLiteral("version"), kVersion},
-                           {QStringLiteral("substrate"), setting.substrate},
-                           {QStringLiteral("layers"), layers},
-                           {QStringLiteral("fit"), OptionsJson(setting.options)}};
+  QJsonObject object = FilmStackJson(setting);
+  object[QLatin1String("format")] = QString(kFormat);
+  object[QLatin1String("version")] = kVersion;
   return ReplaceFile(path, QJsonDocument(object).toJson());
-}
-
-std::vector<ThicknessRange> LayerRanges(const FilmStackSetting& setting) {
-  std::vector<ThicknessRange> ranges;
-  ranges.reserve(setting.layers.size());
-  for (const FilmLayerSetting& layer : setting.layers) {
-    ranges.push_back(layer.range);
-  }
-  return ranges;
 }
 
 std::variant<FilmFitRequest, FilmMaterialFault> ReadFilmFitRequest(const FilmStackSetting& setting,
                                                                    const QString& directory) {
-  FilmFitRequest request{{}, LayerRanges(setting), setting.options};
+  FilmFitRequest request{{}, setting};
   FilmStack& stack = request.stack;
   stack.layers.resize(setting.layers.size());
   for (std::size_t i = 0; i <= setting.layers.size(); ++i) {

@@ -6,9 +6,11 @@
 #include <cstdint>
 #include <optional>
 #include <span>
+#include <vector>
 
 #include "base/flag.h"
 #include "base/replace_file.h"
+#include "optics/thickness_doubts.h"
 
 namespace vexa {
 
@@ -21,11 +23,11 @@ enum class HistoryAddResult {
 
 /// What is known of a point of a history besides its thickness.
 struct HistoryNote {
-  Flag doubtful;       ///< there is a doubt about the thickness
+  std::vector<ThicknessDoubt> doubts = {};  ///< about the thickness
   Flag fitted;         ///< the thickness is that of the film fit; there was none of extrema
   double fitNm = 0.0;  ///< that of the film fit beside the one of extrema; 0 for none
 
-  [[nodiscard]] bool IsEmpty() const { return !doubtful && !fitted && fitNm == 0.0; }
+  [[nodiscard]] bool IsEmpty() const { return doubts.empty() && !fitted && fitNm == 0.0; }
 };
 
 /// A thickness as it is offered to a history.

@@ -6,6 +6,7 @@
 
 #include "colour/cie_colour.h"
 #include "colour/colorimetry.h"
+#include "optics/film_stack_file.h"
 #include "records/result_json.h"
 #include "records/settings_json.h"
 
@@ -103,6 +104,7 @@ SampleRecord ResultsOf(const VEXATYPE& state, const MeasurementSlot& slot,
   }
   if (slot.fit) {
     sample.fit = FilmFitJson(*slot.fit);
+    (*sample.fit)[QLatin1String("stack")] = FilmStackJson(slot.fit->setting);
   }
   sample.groups = slot.judgement.groups;
   sample.repeat = context.repeat;

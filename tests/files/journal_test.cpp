@@ -42,14 +42,15 @@ std::array<SessionImage, 4> Moments() {
                      .fromNm = 838,
                      .fitted = {4.0, 4.1, 4.2},
                      .alternatives = {{{1602.3, 310.0}, 0.06}},
-                     .warnings = {QStringLiteral("倍率")}};
+                     .warnings = {QStringLiteral("倍率")},
+                     .setting = {QStringLiteral("1.5"), {{QStringLiteral("ﾚﾝｽﾞ.nk"), {}}}, {}}};
   moments[2] = TakeImage(state);
   state.ClearSlots();
   state.accumulate = true;
   state.stock.Record({false, 3, false});
   (void)state.stock.StockAdd({}, false);
   state.stock.P2[0] = 12.5;
-  (void)state.thicknessHistory.Append({1500.25, false, {true, false, 1501.5}});
+  (void)state.thicknessHistory.Append({1500.25, false, {{ThicknessDoubt::kNoise}, false, 1501.5}});
   moments[3] = TakeImage(state);
   return moments;
 }
@@ -81,6 +82,7 @@ TEST(Journal, AFitComesBackWithItsSlot) {
   EXPECT_EQ(slot.fit->layers.at(1).thicknessNm, 300.0);
   EXPECT_EQ(slot.fit->fitted, (std::vector<double>{4.0, 4.1, 4.2}));
   EXPECT_EQ(slot.fit->alternatives.at(0).thicknessesNm.at(1), 310.0);
+  EXPECT_EQ(slot.fit->setting.layers.at(0).material, QStringLiteral("ﾚﾝｽﾞ.nk"));
   const std::optional<FilmFit>& none = restored.Slot(9)->fit;
   EXPECT_TRUE(none && std::isnan(none->layers.at(0).thicknessNm));
 

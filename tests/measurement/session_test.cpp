@@ -146,8 +146,8 @@ TEST_F(SessionTest, EveryChangeAnnouncesWhatItChangedAndNothingElse) {
 
 TEST_F(SessionTest, EachSampleIsFittedBeforeItIsAnnounced) {
   const auto constant = [](double n) { return Material{Flat(n), Flat(0.0)}; };
-  FilmFitRequest request{{constant(1.5), {constant(1.6)}}, {{1900.0, 2100.0}}, {}};
-  request.options.bandwidthNm = 0.0;
+  FilmFitRequest request{{constant(1.5), {constant(1.6)}}, {{}, {{{}, {1900.0, 2100.0}}}, {}}};
+  request.setting.options.bandwidthNm = 0.0;
   ReflectanceSpectrum coat;
   FilmModel(request.stack, 440, 840, 1, 0.0).Reflect({{2000.0}}, coat.Values());
   std::vector<double> heard;
@@ -179,9 +179,12 @@ TEST_F(SessionTest, EachSampleIsFittedBeforeItIsAnnounced) {
 
   Measure(2, Flat(4.0));
   EXPECT_EQ(Slot(2).fit->outcome, FitOutcome::kNone) << "of the new spectrum";
-  request.ranges[0].toNm = 2200.0;
-  session.SetFilmFit(request, false);
-  EXPECT_FALSE(Slot(3).fit) << "it was made of another request";
+  const FilmStackSetting before = request.setting;
+  request.setting.layers[0].range.toNm = 2200.0;
+  session.SetFilmFit(request, true);
+  Measure(2, coat);
+  EXPECT_EQ(Slot(2).fit->setting, request.setting);
+  EXPECT_EQ(Slot(3).fit->setting, before) << "it tells that it was made of another request";
 }
 
 TEST_F(SessionTest, WhatDependsOnAChangeIsThereWhenItIsAnnounced) {

@@ -3,9 +3,9 @@
 
 namespace vexa {
 
-QString DoubtTexts(const MeasurementSlot& slot) {
+QString DoubtTexts(const std::vector<ThicknessDoubt>& doubts) {
   QStringList lines;
-  for (const ThicknessDoubt doubt : slot.doubts) {
+  for (const ThicknessDoubt doubt : doubts) {
     lines << ThicknessDoubtText(doubt);
   }
   return lines.join(u'\n');

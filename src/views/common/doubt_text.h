@@ -3,13 +3,14 @@
 
 #include <QString>
 #include <QStringList>
+#include <vector>
 
-#include "measurement/measurement_slot.h"
+#include "optics/thickness_doubts.h"
 
 namespace vexa {
 
-/// All doubts about the thickness of a slot, a line each; empty without any.
-[[nodiscard]] QString DoubtTexts(const MeasurementSlot& slot);
+/// All doubts about a thickness, a line each; empty without any.
+[[nodiscard]] QString DoubtTexts(const std::vector<ThicknessDoubt>& doubts);
 /// Likewise from the names of the doubts, as a record keeps them.
 [[nodiscard]] QString DoubtTexts(const QStringList& names);
 

@@ -4,8 +4,8 @@
 #include <QPicture>
 #include <memory>
 
-#include "base/number_text.h"
 #include "base/translation.h"
+#include "views/optics/fit_text.h"
 #include "views/paper/page_flow.h"
 #include "views/paper/plot_drawing.h"
 
@@ -16,19 +16,13 @@ constexpr double kPixel = 2.5;  // of a plot, on paper
 constexpr double kPlotHeight = 900.0;
 constexpr double kFourierHeight = 600.0;
 
-QString ThicknessText(const ThicknessRange& range) {
-  const auto text = [](double nm) { return FormatNumber(nm, u"####0.0##").trimmed(); };
-  return range.IsFixed() ? text(range.fromNm)
-                         : text(range.fromNm) + Text::tr("～") + text(range.toNm);
-}
-
-PageTable TableOf(const QList<QStringList>& rows, const QString& caption) {
-  constexpr double kNarrow = 220.0;
-  constexpr double kWide = 560.0;
+PageTable TableOf(const QList<QStringList>& rows, const QString& caption,
+                  std::initializer_list<double> widths) {
   PageTable table{.caption = caption, .columns = {}, .rows = {}};
-  for (const QString& heading : rows.first()) {
-    const bool wide = table.columns.size() == 1 || table.columns.size() == 2;
-    table.columns.push_back({heading, wide ? kWide : kNarrow, Qt::AlignLeft, true});
+  table.columns.reserve(widths.size());
+  for (const double width : widths) {
+    const auto place = static_cast<qsizetype>(table.columns.size());
+    table.columns.push_back({rows.first()[place], width, Qt::AlignLeft, true});
   }
   table.rows.reserve(static_cast<std::size_t>(rows.size()));
   for (const QStringList& cells : rows.mid(1)) {
@@ -53,7 +47,8 @@ void AddPlot(PageFlow& flow, QCustomPlot& plot, double height) {
 QList<QStringList> StackRows(const FilmStackSetting& setting) {
   QList<QStringList> rows{{Text::tr("層"), Text::tr("材料"), Text::tr("膜厚 [nm]")}};
   for (const FilmLayerSetting& layer : setting.layers) {
-    rows << QStringList{QString::number(rows.size()), layer.material, ThicknessText(layer.range)};
+    rows << QStringList{QString::number(rows.size()), layer.material,
+                        ThicknessRangeText(layer.range)};
   }
   rows << QStringList{Text::tr("基板"), setting.substrate, QString()};
   return rows;
@@ -71,8 +66,8 @@ PageMaker ReportPages(const QString& title, const FilmFitReport& report, QCustom
                       QCustomPlot& fourier) {
   return [title, report, &fit, &fourier](const QSizeF& page) {
     const auto flow = std::make_shared<PageFlow>(QRectF(QPointF(), page));
-    flow->Add(TableOf(report.stack, title));
-    flow->Add(TableOf(report.fits, {}));
+    flow->Add(TableOf(report.stack, title, {220.0, 1100.0, 560.0}));
+    flow->Add(TableOf(report.fits, {}, {160.0, 480.0, 460.0, 320.0, 170.0, 330.0}));
     PageTable words{
         .caption = report.shown, .columns = {{{}, page.width(), Qt::AlignLeft, true}}, .rows = {}};
     for (const QString& line : report.words.split(u'\n', Qt::SkipEmptyParts)) {

@@ -5,6 +5,7 @@
 #include <QHeaderView>
 #include <QVBoxLayout>
 
+#include "base/date_text.h"
 #include "base/number_text.h"
 #include "base/translation.h"
 #include "views/common/slot_style.h"
@@ -28,11 +29,17 @@ QStringList Headings() {
           Text::tr("残差 [%]")};
 }
 
-QStringList Cells(int number, const MeasurementSlot& slot) {
+bool IsOfAnother(const FilmFit& fit, const FilmStackSetting* entered) {
+  return entered == nullptr || fit.setting != *entered;
+}
+
+QStringList Cells(int number, const MeasurementSlot& slot, const FilmStackSetting* entered) {
   QStringList cells{QStringLiteral("Mes%1").arg(number), slot.info.sampleNumber.simplified()};
   if (slot.fit) {
     // A layer a line: the table is no wider for many.
-    cells << FitThicknessText(*slot.fit, QStringLiteral("\n")) << FitOutcomeWord(slot.fit->outcome)
+    const QString word = FitOutcomeWord(slot.fit->outcome);
+    cells << FitThicknessText(*slot.fit, QStringLiteral("\n"))
+          << (IsOfAnother(*slot.fit, entered) ? Text::tr("%1 (別の設定)").arg(word) : word)
           << Number(slot.fit->rms, u"##0.000");
   } else {
     cells << QStringLiteral("-") << QStringLiteral("-") << QStringLiteral("-");
@@ -63,7 +70,7 @@ QString WordsOf(const FilmFit& fit) {
   }
   lines << Text::tr("残差 %1 %   ノイズ %2 %")
                .arg(Number(fit.rms, u"0.000"), Number(fit.noise, u"0.000"));
-  return (lines + FitNotes(fit)).join(u'\n');
+  return (lines + FitNotes(fit) + FitSettingTexts(fit.setting)).join(u'\n');
 }
 
 }  // namespace
@@ -113,8 +120,10 @@ FilmFitResults::FilmFitResults(QWidget* parent)
 }
 
 void FilmFitResults::Show(const VEXATYPE& state, int slot,
-                          const std::map<int, FilmFitFault>& refused, bool outdated) {
+                          const std::map<int, FilmFitFault>& refused,
+                          const FilmStackSetting* entered) {
   filling_ = true;
+  measuredAt_.clear();
   table_->clearSelection();
   table_->setRowCount(0);
   for (int number = 1; number <= kSlotCount; ++number) {
@@ -124,7 +133,7 @@ void FilmFitResults::Show(const VEXATYPE& state, int slot,
     const int row = table_->rowCount();
     table_->insertRow(row);
     int column = 0;
-    for (const QString& text : Cells(number, *state.Slot(number))) {
+    for (const QString& text : Cells(number, *state.Slot(number), entered)) {
       auto* item = new QTableWidgetItem(text);
       item->setToolTip(text);
       item->setTextAlignment((column > 1 && column != 3 ? Qt::AlignRight : Qt::AlignLeft) |
@@ -133,6 +142,7 @@ void FilmFitResults::Show(const VEXATYPE& state, int slot,
     }
     const auto lines = static_cast<int>(table_->item(row, kThicknessColumn)->text().count(u'\n'));
     table_->setRowHeight(row, kRowHeight + lines * table_->fontMetrics().lineSpacing());
+    measuredAt_ << DateTimeText(state.Slot(number)->info.measuredAt);
     table_->item(row, 0)->setData(Qt::UserRole, number);
     table_->item(row, 0)->setIcon(SlotIcon(number, true));
     if (number == slot) {
@@ -143,11 +153,12 @@ void FilmFitResults::Show(const VEXATYPE& state, int slot,
   const MeasurementSlot* shown = state.Slot(slot);
   const FilmFit* fit = shown != nullptr && shown->valid && shown->fit ? &*shown->fit : nullptr;
   const auto fault = refused.find(slot);
+  const bool outdated = fit != nullptr && IsOfAnother(*fit, entered);
   const bool good = fit != nullptr && fit->outcome == FitOutcome::kOk && !outdated;
   mark_->setPixmap(good ? DoneIcon(true).pixmap(16, 16) : DoubtMark());
   mark_->setVisible(fit != nullptr || fault != refused.end());
   outcome_->setText(fit != nullptr && outdated
-                        ? Text::tr("設定が変わりました。この結果は前の設定のものです。")
+                        ? Text::tr("この結果は、入力されている設定とは別の設定のものです。")
                     : fit != nullptr         ? FitOutcomeText(fit->outcome)
                     : fault != refused.end() ? FilmFitFaultText(fault->second)
                                              : QString());
@@ -155,13 +166,13 @@ void FilmFitResults::Show(const VEXATYPE& state, int slot,
 }
 
 QList<QStringList> FilmFitResults::Rows() const {
-  QList<QStringList> rows{Headings()};
+  QList<QStringList> rows{Headings() << Text::tr("測定日時")};
   for (int row = 0; row < table_->rowCount(); ++row) {
     QStringList cells;
     for (int column = 0; column < table_->columnCount(); ++column) {
       cells << table_->item(row, column)->text().replace(u'\n', QStringLiteral(" / "));
     }
-    rows << cells;
+    rows << (cells << measuredAt_[row]);
   }
   return rows;
 }

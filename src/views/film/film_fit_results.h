@@ -19,13 +19,13 @@ class FilmFitResults : public QWidget {
  public:
   explicit FilmFitResults(QWidget* parent = nullptr);
 
-  /// Shows the valid slots, and the fit of one of them in words. `outdated`: the fits are those of
-  /// another setting than the one that stands in the entries. `refused` are the slots that the
-  /// last fit took no spectrum of.
+  /// Shows the valid slots, and the fit of one of them in words. Fits of another setting than
+  /// `entered` are told apart, all of them where it is null. `refused` are the slots that the last
+  /// fit took no spectrum of.
   void Show(const VEXATYPE& state, int slot, const std::map<int, FilmFitFault>& refused,
-            bool outdated);
+            const FilmStackSetting* entered);
 
-  /// The table with its headings.
+  /// The table with its headings, and when each slot was measured.
   [[nodiscard]] QList<QStringList> Rows() const;
   /// What is said of the slot shown.
   [[nodiscard]] QString Words() const { return outcome_->text() + u'\n' + words_->toPlainText(); }
@@ -38,6 +38,7 @@ class FilmFitResults : public QWidget {
   QLabel* mark_;
   QLabel* outcome_;
   QPlainTextEdit* words_;
+  QStringList measuredAt_;  ///< a row each
   bool filling_ = false;
 };
 

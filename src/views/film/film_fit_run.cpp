@@ -19,7 +19,7 @@ void FilmFitRun::Start(const FilmFitRequest& request, const std::map<int, Spectr
     pool_.start(
         [this, run = run_, stop = stop_.get_token(), shared, slot = slot, spectrum = spectrum] {
           const auto result = std::make_shared<const Result>(
-              FitFilm(spectrum.reflectance, shared->stack, shared->ranges, shared->options,
+              FitFilm(spectrum.reflectance, *shared,
                       spectrum.noise.IsEmpty() ? nullptr : &spectrum.noise, stop));
           QMetaObject::invokeMethod(
               this, [this, run, slot, result] { Take(run, slot, *result); }, Qt::QueuedConnection);

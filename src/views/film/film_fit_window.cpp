@@ -95,7 +95,6 @@ FilmFitWindow::FilmFitWindow(Session& session, ProgramPreferences& preferences,
   ResizeWithinScreen(*this, {1180, 720});
   body->setSizes({width() / 3, width() - width() / 3});
   ReadNamedFile();
-  outdated_ = false;
   ConnectSession();
   Refresh();
 }
@@ -124,7 +123,7 @@ QWidget* FilmFitWindow::BuildEntries() {
   connect(each_, &QCheckBox::clicked, this, &FilmFitWindow::FitEachSample);
   const auto edited = [this] {
     changed_ = true;
-    outdated_ = true;
+    edited_ = true;
     ShowFileName();
     Refresh();
   };
@@ -194,7 +193,6 @@ bool FilmFitWindow::ReadStack(const QString& path) {
     return false;
   }
   setting_ = std::get<FilmStackSetting>(read);
-  outdated_ = true;
   if (path != preferences_.InForce().filmStack) {
     ChangePreferences([&path](ProgramSettings& s) { s.filmStack = path; });
   }
@@ -206,6 +204,7 @@ void FilmFitWindow::ShowSetting(const FilmStackSetting& setting) {
   stack_->Show(setting);
   conditions_->Show(setting.options);
   changed_ = false;
+  edited_ = false;
   ShowFileName();
   // What cannot be read is told when it is fitted.
   if (auto read = ReadFilmFitRequest(setting, Directory()); read.index() == 0) {
@@ -248,6 +247,7 @@ bool FilmFitWindow::TakeEntries() {
     return false;
   }
   setting_ = setting;
+  edited_ = false;
   return true;
 }
 
@@ -275,7 +275,6 @@ void FilmFitWindow::FitSlots(bool all) {
 void FilmFitWindow::TakeFit(int slot, const FilmFitRun::Result& result) {
   if (state_.Slot(slot)->valid && state_.Slot(slot)->reflectance == fitting_[slot].reflectance) {
     if (const auto* fit = std::get_if<FilmFit>(&result)) {
-      outdated_ = outdated_ && slot != slot_;
       session_.StoreFit(slot, *fit);
     } else {
       refused_[slot] = std::get<FilmFitFault>(result);
@@ -366,7 +365,7 @@ void FilmFitWindow::ShowSlot(int slot) {
 
 void FilmFitWindow::Refresh() {
   progress_->setText(run_.Left() > 0 ? Text::tr("計算中... 残り %1").arg(run_.Left()) : QString());
-  results_->Show(state_, slot_, refused_, outdated_);
+  results_->Show(state_, slot_, refused_, edited_ ? nullptr : &setting_);
   const MeasurementSlot* slot = state_.Slot(slot_);
   if (slot == nullptr || !slot->valid) {
     plot_->ShowNothing();
@@ -374,15 +373,18 @@ void FilmFitWindow::Refresh() {
     return;
   }
   plot_->Show(slot->reflectance, slot_, slot->fit);
-  fourier_->Show(!request_.stack.layers.empty()
-                     ? TransformFringes(slot->reflectance, request_.stack.layers.front().n,
-                                        request_.options.fromNm, request_.options.toNm)
-                     : std::nullopt,
-                 slot->fit);
+  fourier_->Show(
+      !request_.stack.layers.empty()
+          ? TransformFringes(slot->reflectance, request_.stack.layers.front().n,
+                             request_.setting.options.fromNm, request_.setting.options.toNm)
+          : std::nullopt,
+      slot->fit);
 }
 
 FilmFitReport FilmFitWindow::Report() const {
-  return {StackRows(setting_), results_->Rows(),
+  const std::optional<FilmFit>& fit = state_.Slot(slot_)->fit;
+  return {StackRows(fit && !fit->setting.layers.empty() ? fit->setting : setting_),
+          results_->Rows(),
           QStringLiteral("Mes%1  %2").arg(slot_).arg(state_.Slot(slot_)->info.sampleNumber),
           results_->Words()};
 }

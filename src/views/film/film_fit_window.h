@@ -78,7 +78,7 @@ class FilmFitWindow : public QDialog {
   FilmStackSetting setting_;  ///< as entered last
   FilmFitRequest request_;    ///< what it asks; without layers before the first fit
   bool changed_ = false;      ///< since the file was read or written
-  bool outdated_ = false;     ///< the setting has changed since the last fit
+  bool edited_ = false;       ///< the entries are others than the setting
   std::map<int, FilmFitRun::Spectrum> fitting_;
   std::map<int, FilmFitFault> refused_;
   FilmStackEditor* stack_;

@@ -2,8 +2,9 @@
 #pragma once
 
 #include <QString>
+#include <QStringList>
 
-#include "measurement/measurement_slot.h"
+#include "optics/film_fit.h"
 
 namespace vexa {
 
@@ -11,5 +12,12 @@ namespace vexa {
 /// told.
 [[nodiscard]] QString FitThicknessText(const FilmFit& fit,
                                        const QString& between = QStringLiteral(" / "));
+
+/// What a fit was made with: the stack in a line, the conditions in another; empty where the fit
+/// tells no setting.
+[[nodiscard]] QStringList FitSettingTexts(const FilmStackSetting& setting);
+
+/// "50.0～60000.0", or the one thickness of a layer that is known; nm.
+[[nodiscard]] QString ThicknessRangeText(const ThicknessRange& range);
 
 }  // namespace vexa

@@ -57,7 +57,7 @@ void HistoryPlot::Show(const ThicknessHistory& history, const ThicknessScale& sc
     const auto number = static_cast<double>(points.size() + 1);
     points.append({number, thicknessNm});
     if (!note.fitted) {
-      (note.doubtful ? doubtful : extrema).append({number, thicknessNm});
+      (note.doubts.empty() ? extrema : doubtful).append({number, thicknessNm});
     }
     if (note.fitted || note.fitNm > 0.0) {
       fits.append({number, note.fitted ? thicknessNm : note.fitNm});

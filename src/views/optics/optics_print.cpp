@@ -4,6 +4,7 @@
 #include <QPainter>
 #include <QPicture>
 #include <algorithm>
+#include <map>
 
 #include "base/number_text.h"
 #include "base/translation.h"
@@ -50,7 +51,7 @@ void DrawRow(QPainter& painter, const QRectF& row, const QStringList& cells, dou
 }
 
 QString NoteMark(const HistoryNote& note) {
-  return note.fitted ? QStringLiteral("◆") : note.doubtful ? QStringLiteral("▲") : QString();
+  return note.fitted ? QStringLiteral("◆") : note.doubts.empty() ? QString() : QStringLiteral("▲");
 }
 
 // What the marks say, where there are any.
@@ -58,6 +59,22 @@ QString NoteLegend(const ThicknessHistory& history) {
   return std::ranges::all_of(history.Notes(), &HistoryNote::IsEmpty)
              ? QString()
              : QStringLiteral("    ") + Text::tr("▲ 疑いあり   ◆ 膜厚ﾌｨｯﾄ");
+}
+
+// The doubts in words, a line each, with the points that they are about.
+QStringList DoubtLines(const ThicknessHistory& history) {
+  std::map<ThicknessDoubt, QStringList> points;
+  for (int point = 1; point <= history.count; ++point) {
+    for (const ThicknessDoubt doubt : history.notes[static_cast<std::size_t>(point) - 1].doubts) {
+      points[doubt] << QString::number(point);
+    }
+  }
+  QStringList lines;
+  for (const auto& [doubt, of] : points) {
+    lines
+        << QStringLiteral("▲ %1: %2").arg(of.join(QStringLiteral(", ")), ThicknessDoubtText(doubt));
+  }
+  return lines;
 }
 
 void DrawPlot(QPainter& painter, const QRectF& place, const ThicknessHistory& history,
@@ -100,6 +117,10 @@ void PaintHistoryPage(QPainter& painter, const QRectF& page, const ThicknessHist
     }
     DrawRow(painter, row, cells, kColumnWidth / static_cast<double>(withFits ? 3 : 2));
   }
+  top += (kRows + 0.5) * kRowHeight;
+  painter.drawText(QRectF(0.0, top, kPageWidth, body.bottom() - top),
+                   Qt::AlignLeft | Qt::AlignTop | Qt::TextWordWrap,
+                   DoubtLines(history).join(u'\n'));
   painter.restore();
 }
 

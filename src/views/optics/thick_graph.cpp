@@ -14,6 +14,7 @@
 #include "base/number_text.h"
 #include "base/translation.h"
 #include "measurement/evaluation.h"
+#include "views/common/doubt_text.h"
 #include "views/common/file_questions.h"
 #include "views/common/plot_export.h"
 #include "views/common/proposed_name.h"
@@ -61,7 +62,8 @@ ThickGraph::ThickGraph(Session& session, MessageService& messages, FileDialogs& 
       index_(Value("DataIndex")),
       kind_(Value("PointKind")),
       fit_(Value("PointFit")),
-      doubt_(Value("PointDoubt")) {
+      doubt_(Value("PointDoubt")),
+      doubts_(new QLabel) {
   setObjectName(QStringLiteral("ThickGraph"));
   setWindowTitle(Text::tr("膜厚ｸﾞﾗﾌ"));
   BuildMenus();
@@ -116,7 +118,6 @@ QWidget* ThickGraph::BuildInformation() {
   values->addRow(Text::tr("種類"), kind_);
   values->addRow(Text::tr("ﾌｨｯﾄ"), fit_);
   doubt_->setPixmap(DoubtMark());
-  doubt_->setToolTip(Text::tr("この膜厚には疑いがあります。"));
   values->addRow(Text::tr("疑い"), doubt_);
 
   auto* cursors = new QHBoxLayout;
@@ -145,6 +146,11 @@ QWidget* ThickGraph::BuildInformation() {
   layout->addLayout(values);
   layout->addLayout(cursors);
   layout->addLayout(commands);
+  // Below the buttons, which stay where they are while the cursor moves.
+  doubts_->setObjectName(QStringLiteral("PointDoubts"));
+  doubts_->setWordWrap(true);
+  doubts_->setTextInteractionFlags(Qt::TextSelectableByMouse);
+  layout->addWidget(doubts_);
   return group;
 }
 
@@ -252,7 +258,9 @@ void ThickGraph::ShowHistory() {
                  : history.physical ? Text::tr("物理膜厚", "kind")
                                     : Text::tr("光学膜厚", "kind"));
   fit_->setText(note.fitNm > 0.0 ? FormatNumber(note.fitNm, u"###0.0") : kNothing);
-  doubt_->setPixmap(note.doubtful ? DoubtMark() : QPixmap());
+  doubt_->setPixmap(note.doubts.empty() ? QPixmap() : DoubtMark());
+  doubts_->setText(DoubtTexts(note.doubts));
+  doubts_->setVisible(!note.doubts.empty());
 }
 
 }  // namespace vexa

@@ -54,6 +54,7 @@ class ThickGraph : public QMainWindow {
   QLabel* kind_;
   QLabel* fit_;
   QLabel* doubt_;
+  QLabel* doubts_;  ///< in words
 };
 
 }  // namespace vexa

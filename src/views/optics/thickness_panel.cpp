@@ -130,8 +130,8 @@ void ThicknessPanel::ShowDoubts(const MeasurementSlot& slot) {
   doubt_->setSizePolicy(known);
   const int width = kWidth - 2 * kMargin - doubtMark_->sizeHint().width() - kMarkGap;
   doubt_->setFixedHeight(doubtful ? doubt_->heightForWidth(width) : 0);
-  doubt_->setToolTip(DoubtTexts(slot));
-  thickness_->setToolTip(DoubtTexts(slot));
+  doubt_->setToolTip(DoubtTexts(slot.doubts));
+  thickness_->setToolTip(DoubtTexts(slot.doubts));
 }
 
 void ThicknessPanel::ShowFit(const std::optional<FilmFit>& fit) {
@@ -142,7 +142,8 @@ void ThicknessPanel::ShowFit(const std::optional<FilmFit>& fit) {
     const bool told = fit->outcome != FitOutcome::kNone;
     fit_->setText(told ? FitThicknessText(*fit) + u' ' + ThicknessUnit(true)
                        : FitOutcomeWord(fit->outcome));
-    fit_->setToolTip(FitOutcomeText(fit->outcome));
+    fit_->setToolTip(
+        (QStringList{FitOutcomeText(fit->outcome)} + FitSettingTexts(fit->setting)).join(u'\n'));
   }
 }
 

@@ -85,7 +85,7 @@ void WaveListDlg::Show(int selectedSlot) {
                                  .arg(selectedSlot)
                                  .arg(slot->info.sampleNumber.simplified(), date)
                            : QStringLiteral("Mes%1  -").arg(selectedSlot));
-  doubts_->setText(valid ? DoubtTexts(*slot) : QString());
+  doubts_->setText(valid ? DoubtTexts(slot->doubts) : QString());
   doubtMark_->setVisible(!doubts_->text().isEmpty());
   doubts_->setVisible(!doubts_->text().isEmpty());
   extrema_ = valid ? slot->thickness.extrema : ExtremumList();

@@ -88,6 +88,9 @@ std::vector<PageTable> Summary(const VEXATYPE& state, bool cie) {
   if (const std::optional<PageTable> thickness = ThicknessTable(state)) {
     tables.push_back(*thickness);
   }
+  if (const std::optional<PageTable> conditions = FitSettingTable(state)) {
+    tables.push_back(*conditions);
+  }
   if (const std::optional<PageTable> verdicts = VerdictTable(state)) {
     tables.push_back(*verdicts);
     if (const std::optional<PageTable> band = BandTable(state)) {

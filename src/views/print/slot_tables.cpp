@@ -184,11 +184,33 @@ std::optional<PageTable> ThicknessTable(const VEXATYPE& state) {
   AddRows(table, state, [&noted](const MeasurementSlot& slot, Row& row) {
     noted = noted || !slot.doubts.empty() || slot.fit;
     row.push_back({ThicknessText(slot)});
-    row.push_back({DoubtTexts(slot).replace(u'\n', u' ')});
+    row.push_back({DoubtTexts(slot.doubts).replace(u'\n', u' ')});
     row.push_back({slot.fit ? FitThicknessText(*slot.fit) : kNone});
     row.push_back({slot.fit ? FitOutcomeText(slot.fit->outcome) : QString()});
   });
   return noted ? std::optional(table) : std::nullopt;
+}
+
+std::optional<PageTable> FitSettingTable(const VEXATYPE& state) {
+  PageTable table{.caption = Text::tr("膜厚ﾌｨｯﾄの条件"),
+                  .columns = {{QStringLiteral("No."), 260.0, Qt::AlignLeft, true},
+                              {{}, 1640.0, Qt::AlignLeft, true}},
+                  .rows = {}};
+  const FilmStackSetting* last = nullptr;
+  for (int number = 1; number <= kSlotCount; ++number) {
+    const MeasurementSlot& slot = *state.Slot(number);
+    if (!slot.valid || !slot.fit || slot.fit->setting.layers.empty()) {
+      continue;
+    }
+    if (last != nullptr && *last == slot.fit->setting) {
+      table.rows.back().front().text += QStringLiteral(", %1").arg(number);
+    } else {
+      last = &slot.fit->setting;
+      table.rows.push_back(
+          {{QString::number(number)}, {FitSettingTexts(*last).join(QStringLiteral("   "))}});
+    }
+  }
+  return table.rows.empty() ? std::nullopt : std::optional(table);
 }
 
 std::optional<PageTable> BandTable(const VEXATYPE& state) {
