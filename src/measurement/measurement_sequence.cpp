@@ -163,17 +163,12 @@ QCoro::Task<MeasurementOutcome> MeasurementSequence::Measure(MeasurementKind kin
   co_return outcome;
 }
 
-// A sample whose fit is given up is stored without one; so is one whose stack was changed while it
-// was fitted.
+// A sample whose fit is given up is stored without one.
 QCoro::Task<std::optional<FilmFit>> MeasurementSequence::Fit(RawSpectrum counts,
                                                              SampleBasis basis) {
   std::optional<FilmFit> fit;
   if (const std::optional<SampleFitTask> task = session_.FitToMake(counts, basis)) {
     fit = co_await fit_.Make(*task);
-    const std::optional<SampleFitTask> now = session_.FitToMake(counts, basis);
-    if (!now || now->request != task->request) {
-      fit.reset();
-    }
   }
   co_return fit;
 }

@@ -218,6 +218,9 @@ Answer<ValueSeries> LoadSeries(const RecordSource& source, RecordQuery query,
       ++series.value.without;
       return;
     }
+    if (!series.value.recipes.contains(sample->recipe)) {
+      series.value.recipes << sample->recipe;
+    }
     series.value.points.push_back({row.row.id, sample->measuredAt.toMSecsSinceEpoch(),
                                    TimeWithOffset(sample->measuredAt), sample->station, sample->lot,
                                    sample->operatorName, sample->sampleNumber, *number});

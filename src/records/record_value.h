@@ -97,6 +97,7 @@ struct ValueSeries {
   bool more = false;               ///< older ones were left out beyond the limit of the query
   CieLimits cieLimits = {};        ///< what the newest record was judged by
   bool severalCieLimits = false;   ///< others were judged by other ones
+  QStringList recipes = {};        ///< of the points, each once, the newest first
   QStringList cieConditions = {};  ///< under which the CIE colours were computed, each once
 
   [[nodiscard]] std::vector<double> Values() const;

@@ -26,6 +26,8 @@ struct ChartLimits {
 
   /// A third of the way from the centre line to a limit.
   [[nodiscard]] double Sigma() const { return kLimitPerMeanRange / 3.0 * meanRange; }
+
+  [[nodiscard]] bool Hold(double value) const { return value >= lower && value <= upper; }
 };
 
 /// The mean of |x[i] - x[i-1]| over two numbers at least.

@@ -80,6 +80,19 @@ QString LimitText(const std::optional<double>& limit) {
   return limit ? ResultText(*limit) : QStringLiteral("-");
 }
 
+// Records of checks and gauge studies are kept under recipes of their own.
+QString RecipeWarning(const QStringList& recipes) {
+  constexpr qsizetype kMostNamed = 5;
+  QStringList named = recipes.mid(0, kMostNamed);
+  std::ranges::replace(named, QString(), Text::tr("(ﾚｼﾋﾟなし)"));
+  if (recipes.size() > kMostNamed) {
+    named << QStringLiteral("...");
+  }
+  return Text::tr("%1 種類のﾚｼﾋﾟの記録が混ざっています: %2")
+      .arg(recipes.size())
+      .arg(named.join(QStringLiteral(", ")));
+}
+
 }  // namespace
 
 std::span<const statistics::RunRule> ChartStudy::Rules() const {
@@ -243,6 +256,9 @@ QStringList Warnings(const ChartStudy& study, const ValueSeries& series) {
   }
   if (cie && series.severalCieLimits) {
     lines << Text::tr("ﾚｼﾋﾟの限界が記録により異なります。最も新しい記録のものを用います。");
+  }
+  if (series.recipes.size() > 1) {
+    lines << RecipeWarning(series.recipes);
   }
   if (!study.refusal.isEmpty()) {
     lines << study.refusal;

@@ -238,6 +238,11 @@ void DailyCheckWindow::ShowCharts() {
       }
       picture.values.push_back(judged.check.values[i]);
       QString hint = DateTimeText(judged.check.time) + u'\n' + ResultText(judged.check.values[i]);
+      if (picture.limits && judged.check.time <= history_.limits->frozenAt &&
+          !picture.limits->Hold(judged.check.values[i])) {
+        hint += u'\n' + Text::tr("限界を決める前の点が、限界の外にあります。");
+        picture.broken.push_back(picture.values.size());
+      }
       for (const CheckFinding& finding : judged.judgement.findings) {
         if (static_cast<std::size_t>(finding.value) == i) {
           hint += u'\n' + FindingText(finding, conditions);

@@ -82,6 +82,7 @@ GaugeStudyWindow::GaugeStudyWindow(const StudyParts& parts, QWidget* parent)
       operators_(new QLineEdit),
       repeats_(CountField("Repeats", 2, GaugePlan::kMostRepeats, 3)),
       toleranceField_(new NumberField(QStringLiteral("0.######"))),
+      make_(DialogButton("MakePlan", Text::tr("計画を作る(&N)"))),
       refusal_(WrappedLabel("PlanRefusal")),
       instruction_(WrappedLabel("GaugeInstruction")),
       measure_(DialogButton("MeasureGauge", Text::tr("測定(&M)"))),
@@ -129,9 +130,8 @@ QWidget* GaugeStudyWindow::BuildPlan() {
   toleranceField_->setPlaceholderText(Text::tr("なし"));
   Colour(*refusal_, theme::kBad);
   refusal_->hide();
-  QPushButton* make = DialogButton("MakePlan", Text::tr("計画を作る(&N)"));
   QPushButton* analyse = DialogButton("AnalyseRecords", Text::tr("記録を解析(&A)"));
-  connect(make, &QPushButton::clicked, this, &GaugeStudyWindow::MakePlan);
+  connect(make_, &QPushButton::clicked, this, &GaugeStudyWindow::MakePlan);
   connect(analyse, &QPushButton::clicked, this, &GaugeStudyWindow::AnalyseRecords);
 
   auto* form = new QFormLayout(plan_);
@@ -143,7 +143,7 @@ QWidget* GaugeStudyWindow::BuildPlan() {
   form->addRow(Text::tr("繰返し"), repeats_);
   form->addRow(Text::tr("公差の幅"), toleranceField_);
   form->addRow(refusal_);
-  form->addRow(make);
+  form->addRow(make_);
   auto* measuring = new QGroupBox(Text::tr("測定"));
   auto* measures = new QVBoxLayout(measuring);
   measures->addWidget(instruction_);
@@ -204,11 +204,33 @@ void GaugeStudyWindow::ChooseStudy() {
   ++requests_;
   study_ = index >= 0 ? &studies_[static_cast<std::size_t>(index)] : nullptr;
   ClearResult({});
+  ShowPlan();
   if (study_ != nullptr && !study_->Next()) {
-    value_->SetValue(study_->plan.value);
     Analyse(ReadingsOf(*study_), study_->plan.tolerance);
   }
   ShowProgress();
+}
+
+// The plan of a study is settled; value and tolerance are also those of what is analysed of
+// records.
+void GaugeStudyWindow::ShowPlan() {
+  if (study_ != nullptr) {
+    const GaugePlan& plan = study_->plan;
+    name_->setText(plan.name);
+    value_->SetValue(plan.value);
+    partCount_->setValue(plan.parts);
+    operators_->setText(plan.operators.join(QStringLiteral(", ")));
+    repeats_->setValue(plan.repeats);
+    toleranceField_->clear();
+    if (plan.tolerance) {
+      toleranceField_->SetValue(*plan.tolerance);
+    }
+    refusal_->hide();
+  }
+  for (QWidget* entry :
+       std::initializer_list<QWidget*>{name_, partCount_, operators_, repeats_, make_}) {
+    entry->setEnabled(study_ == nullptr);
+  }
 }
 
 void GaugeStudyWindow::MakePlan() {

@@ -47,6 +47,7 @@ class GaugeStudyWindow : public QDialog {
   /// Reads the studies of the store, and chooses the one of this id, or else none.
   void LoadStudies(const QString& id);
   void ChooseStudy();
+  void ShowPlan();
   void MakePlan();
   void ShowProgress();
   QCoro::Task<> MeasureNext();
@@ -75,6 +76,7 @@ class GaugeStudyWindow : public QDialog {
   QLineEdit* operators_;
   QSpinBox* repeats_;
   NumberField* toleranceField_;
+  QPushButton* make_;
   QLabel* refusal_;
   QLabel* instruction_;
   QPushButton* measure_;

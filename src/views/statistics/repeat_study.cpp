@@ -82,13 +82,16 @@ ResultTable RepeatTable(std::span<const StudiedSample> samples) {
       return ResultText(IsHue(quantity) ? value - 360.0 * std::floor(value / 360.0) : value);
     };
     if (const auto summary = statistics::Summarise(values)) {
-      table.rows << QStringList{ValueTitle({quantity}),
-                                QString::number(summary->n),
-                                text(summary->mean),
-                                ResultText(summary->s),
-                                text(summary->min),
-                                text(summary->max),
-                                ResultText(kRepeatabilityLimit * summary->s)};
+      const bool acrossZero =
+          IsHue(quantity) && std::floor(summary->min / 360.0) != std::floor(summary->max / 360.0);
+      table.rows << QStringList{
+          ValueTitle({quantity}) + (acrossZero ? Text::tr(" (0°をまたぐ)") : QString()),
+          QString::number(summary->n),
+          text(summary->mean),
+          ResultText(summary->s),
+          text(summary->min),
+          text(summary->max),
+          ResultText(kRepeatabilityLimit * summary->s)};
     }
   }
   table.rows << QStringList{Text::tr("反射率の平均の標準偏差 [%]"),

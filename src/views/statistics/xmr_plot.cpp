@@ -9,6 +9,7 @@
 #include "base/translation.h"
 #include "views/common/slot_style.h"
 #include "views/common/theme.h"
+#include "views/statistics/line_ticker.h"
 
 namespace vexa {
 namespace {
@@ -18,17 +19,8 @@ constexpr std::size_t kManyPoints = 1000;  // more than the chart has pixels
 constexpr double kMargin = 0.06;           // of the range, above and below
 // A tolerance further away than this would press the points flat.
 constexpr double kFarLimit = 4.0;
-// Labels nearer to one another than this part of the axis would cover each other: of a pane that
-// has a plot for itself and its ranges, and of one among several.
-constexpr double kLabelRoom = 0.045;
-constexpr double kSmallLabelRoom = 0.17;
-
 const QPen kControlPen(theme::kBad, 1.2, Qt::DashLine);
 const QPen kTolerancePen(QColor(0x8a, 0x5a, 0x00), 1.2, Qt::DashDotLine);
-
-QString LineText(const QString& name, double value) {
-  return name + QStringLiteral(" ") + QString::number(value, 'g', 5).toUpper();
-}
 
 // The axes of a pane as Plot gives them to its own.
 void DressPane(QCPAxisRect& pane, const QCPAxisRect& model) {
@@ -173,21 +165,9 @@ void XmrPlot::ShowValues() {
   ShowLines(*axisRect(), lines, kControlPen);
   ShowLines(*axisRect(), tolerance, kTolerancePen);
 
-  // The labels of the lines stand at the right axis; the first ones have the right of way.
+  // The first lines have the right of way.
   lines.insert(lines.end(), tolerance.begin(), tolerance.end());
-  const QSharedPointer<QCPAxisTickerText> ticker(new QCPAxisTickerText);
-  const double room = ranges_ != nullptr ? kLabelRoom : kSmallLabelRoom;
-  std::vector<double> placed;
-  for (const auto& [name, value] : lines) {
-    const double at = value;
-    if (std::ranges::none_of(placed, [&](double other) {
-          return std::abs(other - at) < room * yAxis->range().size();
-        })) {
-      ticker->addTick(at, LineText(name, at));
-      placed.push_back(at);
-    }
-  }
-  yAxis2->setTicker(ticker);
+  yAxis2->setTicker(QSharedPointer<LineTicker>::create(*yAxis2, lines));
 }
 
 void XmrPlot::ShowRanges() {
@@ -212,14 +192,10 @@ void XmrPlot::ShowRanges() {
   }
   line->data()->set(points, true);
   std::vector<std::pair<QString, double>> lines;
-  const QSharedPointer<QCPAxisTickerText> ticker(new QCPAxisTickerText);
   if (picture_.limits) {
     lines = {{QStringLiteral("UCL"), picture_.limits->upperRange},
              {QStringLiteral("MR"), picture_.limits->meanRange}};
     greatest = std::max(greatest, picture_.limits->upperRange);
-    for (const auto& [name, value] : lines) {
-      ticker->addTick(value, LineText(name, value));
-    }
     QCPGraph* wide = addGraph(x, y);
     wide->setLineStyle(QCPGraph::lsNone);
     wide->setScatterStyle(
@@ -229,8 +205,9 @@ void XmrPlot::ShowRanges() {
     }
   }
   y->setRange(0.0, greatest > 0.0 ? greatest * (1.0 + kMargin) : 1.0);
-  ranges_->axis(QCPAxis::atRight)->setTickLabels(true);
-  ranges_->axis(QCPAxis::atRight)->setTicker(ticker);
+  QCPAxis* right = ranges_->axis(QCPAxis::atRight);
+  right->setTickLabels(true);
+  right->setTicker(QSharedPointer<LineTicker>::create(*right, lines));
   ShowLines(*ranges_, lines, kControlPen);
 }
 
