@@ -2570,10 +2570,6 @@ schott:A0,..,A5  sellmeier:A1,..,B3  cauchy:A,B[,C]</translation>
         <translation>Kind</translation>
     </message>
     <message>
-        <source>この膜厚には疑いがあります。</source>
-        <translation>This thickness is in doubt.</translation>
-    </message>
-    <message>
         <source>疑い</source>
         <translation>Doubt</translation>
     </message>
@@ -4673,10 +4669,6 @@ Repeats: %4   Background: %5   Reference: %6</translation>
         <translation>The limits of the recipe differ between the records; those of the newest one are used.</translation>
     </message>
     <message>
-        <source>設定が変わりました。この結果は前の設定のものです。</source>
-        <translation>The setting has changed. This result is of the earlier one.</translation>
-    </message>
-    <message>
         <source>記録のﾌｧｲﾙが取り除かれたか、置き換えられました。これからの記録は、今この名前にあるﾌｧｲﾙに書き込みます。それまでの記録と日常点検の保留は、元のﾌｧｲﾙにあります。<byte value="xd"/><byte value="xd"/>%1</source>
         <translation>The record file was removed or replaced. From now on records go into the file that has this name now. The records before, and what the daily check holds, are in the earlier file.<byte value="xd"/><byte value="xd"/>%1</translation>
     </message>
@@ -4823,6 +4815,50 @@ Repeats: %4   Background: %5   Reference: %6</translation>
     <message>
         <source>ﾌｧｲﾙに保存していない測定ﾃﾞｰﾀがｽﾛｯﾄから消えます。ﾌｧｲﾙを開いてもよろしいですか？</source>
         <translation>Measured data that are saved in no file will be gone from the slots. Open the file?</translation>
+    </message>
+    <message>
+        <source>%1 (別の設定)</source>
+        <translation>%1 (other settings)</translation>
+    </message>
+    <message>
+        <source>この結果は、入力されている設定とは別の設定のものです。</source>
+        <translation>This result is of other settings than those entered.</translation>
+    </message>
+    <message>
+        <source>自由</source>
+        <translation>free</translation>
+    </message>
+    <message>
+        <source>固定</source>
+        <translation>fixed</translation>
+    </message>
+    <message>
+        <source>膜構成: %1</source>
+        <translation>Film stack: %1</translation>
+    </message>
+    <message>
+        <source>波長 %1～%2 nm   倍率 %3   背景光 %4   屈折率の係数 %5   スリット %6 nm   波長の不確かさ %7 nm   屈折率の不確かさ %8   信頼水準 %9 %</source>
+        <translation>Wavelengths %1 to %2 nm   scale %3   offset %4   index factor %5   slit %6 nm   wavelength uncertainty %7 nm   index uncertainty %8   confidence %9 %</translation>
+    </message>
+    <message>
+        <source>膜厚ﾌｨｯﾄの条件</source>
+        <translation>Conditions of the film fits</translation>
+    </message>
+    <message>
+        <source>(ﾚｼﾋﾟなし)</source>
+        <translation>(no recipe)</translation>
+    </message>
+    <message>
+        <source>%1 種類のﾚｼﾋﾟの記録が混ざっています: %2</source>
+        <translation>Records of %1 recipes are mixed: %2</translation>
+    </message>
+    <message>
+        <source>限界を決める前の点が、限界の外にあります。</source>
+        <translation>A point from before the limits were set lies outside them.</translation>
+    </message>
+    <message>
+        <source> (0°をまたぐ)</source>
+        <translation> (across 0°)</translation>
     </message>
 </context>
 </TS>

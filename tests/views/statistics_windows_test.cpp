@@ -392,12 +392,14 @@ TEST_F(GaugeStudyTest, RefusesPlansThatCannotBeMeasured) {
        {Case{"", "", false}, Case{"A", "", false}, Case{"A, A", "", false}, Case{"A,", "", false},
         Case{"A, B", "0", false}, Case{"A, B", "-1", false}, Case{"A, B", "E", false},
         Case{"A, B", "", true}, Case{"A, B, C", "0.5", true}}) {
+    Choose(0);
     test::Type(*window, "Operators", c.operators);
     test::Type(*window, "Tolerance", c.tolerance);
     Press("MakePlan");
     made += c.made ? 1 : 0;
     EXPECT_EQ(Find<QLabel>("PlanRefusal").text().isEmpty(), c.made) << c.operators << c.tolerance;
     EXPECT_EQ(Find<QComboBox>("StudyChoice").count(), 1 + made) << c.operators << c.tolerance;
+    EXPECT_EQ(Find<QPushButton>("MakePlan").isEnabled(), !c.made) << "the plan is settled";
   }
 }
 
