@@ -104,14 +104,16 @@ FilmFitResults::FilmFitResults(QWidget* parent)
   auto* told = new QHBoxLayout;
   told->addWidget(mark_, 0, Qt::AlignTop);
   told->addWidget(outcome_, 1);
-  constexpr int kWordLines = 4;
-  words_->setFixedHeight(kWordLines * fontMetrics().lineSpacing() + 10);
+  constexpr int kFewestLines = 4;
+  constexpr int kMostLines = 7;
+  words_->setMinimumHeight(kFewestLines * fontMetrics().lineSpacing() + 10);
+  words_->setMaximumHeight(kMostLines * fontMetrics().lineSpacing() + 10);
   // Below the table: their lines are long, and stand whole even where there is little width.
   auto* layout = new QVBoxLayout(this);
   layout->setContentsMargins(0, 0, 0, 0);
-  layout->addWidget(table_, 1);
+  layout->addWidget(table_, 2);
   layout->addLayout(told);
-  layout->addWidget(words_);
+  layout->addWidget(words_, 3);
   connect(table_, &QTableWidget::currentCellChanged, this, [this](int row) {
     if (!filling_ && row >= 0) {
       emit SlotChosen(table_->item(row, 0)->data(Qt::UserRole).toInt());

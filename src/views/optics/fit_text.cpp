@@ -43,14 +43,14 @@ QStringList FitSettingTexts(const FilmStackSetting& setting) {
   const QString free = Text::tr("自由");
   const QString fixed = Text::tr("固定");
   return {Text::tr("膜構成: %1").arg(stack.join(QStringLiteral(" / "))),
-          Text::tr("波長 %1～%2 nm   倍率 %3   背景光 %4   屈折率の係数 %5   スリット %6 nm   "
-                   "波長の不確かさ %7 nm   屈折率の不確かさ %8   信頼水準 %9 %")
+          Text::tr("波長 %1～%2 nm   倍率 %3   背景光 %4   屈折率の係数 %5   ﾊﾞﾝﾄﾞ幅 %6 nm   "
+                   "波長の不確かさ %7 nm   屈折率の不確かさ %8 %   信頼水準 %9 %")
               .arg(options.fromNm)
               .arg(options.toNm)
               .arg(options.scaleFree ? free : fixed, options.offsetFree ? free : fixed,
                    options.indexFree ? free : fixed, Entered(options.bandwidthNm),
-                   Entered(options.wavelengthUncertaintyNm), Entered(options.indexUncertainty),
-                   Entered(100.0 * options.confidence))};
+                   Entered(options.wavelengthUncertaintyNm),
+                   Entered(100.0 * options.indexUncertainty), Entered(100.0 * options.confidence))};
 }
 
 QString ThicknessRangeText(const ThicknessRange& range) {
