@@ -4860,5 +4860,9 @@ Repeats: %4   Background: %5   Reference: %6</translation>
         <source> (0°をまたぐ)</source>
         <translation> (across 0°)</translation>
     </message>
+    <message>
+        <source>干渉縞なし</source>
+        <translation>no fringes</translation>
+    </message>
 </context>
 </TS>

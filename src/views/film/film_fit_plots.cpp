@@ -142,6 +142,9 @@ void FourierPlot::Show(const std::optional<FourierThickness>& transform,
   for (const FourierPeak& peak : candidates) {
     AddLabel(peak, peak.thicknessNm / shownNm);
   }
+  if (transform && candidates.empty()) {
+    AddNoFringes();
+  }
   amplitude_->data()->set(curve, true);
   std::ranges::sort(peaks, {}, &QCPGraphData::key);
   peaks_->data()->set(peaks, true);
@@ -149,6 +152,17 @@ void FourierPlot::Show(const std::optional<FourierThickness>& transform,
   // The slow part that is left at 0 may stand above the fringes.
   yAxis->setRange(0.0, 1.25 * highest);
   replot(rpQueuedReplot);
+}
+
+// The noise fills the axis then, and is not to be taken for them.
+void FourierPlot::AddNoFringes() {
+  auto* label = new QCPItemText(this);
+  label->setText(Text::tr("干渉縞なし"));
+  label->setColor(theme::kMutedText);
+  label->setFont(font());
+  label->setPositionAlignment(Qt::AlignHCenter | Qt::AlignTop);
+  label->position->setType(QCPItemPosition::ptAxisRectRatio);
+  label->position->setCoords(0.5, 0.02);
 }
 
 // `place` within the axis, 0 to 1: near an end the label stands to the inner side.

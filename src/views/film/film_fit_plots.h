@@ -38,6 +38,7 @@ class FourierPlot : public Plot {
   void Show(const std::optional<FourierThickness>& transform, const std::optional<FilmFit>& fit);
 
  private:
+  void AddNoFringes();
   void AddLabel(const FourierPeak& peak, double place);
 
   QCPGraph* amplitude_;
