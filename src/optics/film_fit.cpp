@@ -16,6 +16,7 @@
 #include "optics/film_score.h"
 #include "optics/film_seeds.h"
 #include "optics/film_solver.h"
+#include "optics/film_warnings.h"
 
 namespace vexa {
 namespace {
@@ -23,7 +24,6 @@ namespace {
 constexpr std::size_t kMostSolved = 4;
 constexpr std::size_t kMostAlternatives = 3;
 constexpr double kHopelessRatio = 3.0;  // of a seed's sum of squares to the best one's
-constexpr double kCorrelated = 0.95;
 constexpr double kNearlyAsGood = 1.05;  // of the root mean squares
 constexpr double kApartBy = 16.0;       // in chi squared, of two minima
 constexpr double kBetterBy = 16.0;      // in chi squared, for one more parameter
@@ -36,22 +36,6 @@ constexpr double kHopelessNoisy = 1.03;   // where it has 1.08
 constexpr double kRoughStep = 1e-5;       // relative, of what is refined once more
 constexpr double kUneven = 0.4;           // square of the phases' scatter in radians
 constexpr double kSmallestSpread = 1e-3;  // to start from: at 0 there is no slope
-
-QString ParameterText(const FilmParameter& parameter) {
-  switch (parameter.kind) {
-    case FilmParameter::kThickness:
-      return Text::tr("膜厚%1").arg(parameter.layer + 1);
-    case FilmParameter::kScale:
-      return Text::tr("倍率");
-    case FilmParameter::kOffset:
-      return Text::tr("オフセット");
-    case FilmParameter::kSpread:
-      return Text::tr("膜厚むら");
-    case FilmParameter::kIndex:
-      return Text::tr("屈折率");
-  }
-  return {};
-}
 
 class Fitter {
  public:
@@ -264,7 +248,7 @@ class Fitter {
     if (fit.outcome == FitOutcome::kNone) {
       return NoFilm(fit);
     }
-    Warn(best, fit);
+    fit.warnings = FitWarnings(best, options_);
     return fit;
   }
 
@@ -318,25 +302,6 @@ class Fitter {
       layer.wavelengthNm = std::abs(byWavelength[i]);
       layer.indexNm = known ? layer.thicknessNm * options_.indexUncertainty : 0.0;
       layer.uncertaintyNm = std::hypot(layer.statisticalNm, layer.wavelengthNm, layer.indexNm);
-    }
-  }
-
-  void Warn(const FilmSolution& best, FilmFit& fit) const {
-    const LeastSquaresResult& result = best.result;
-    for (std::size_t i = 0; i < best.parameters.size(); ++i) {
-      for (std::size_t k = i + 1; k < best.parameters.size(); ++k) {
-        const double correlation =
-            result.Covariance(i, k) / std::sqrt(result.Covariance(i, i) * result.Covariance(k, k));
-        if (std::abs(correlation) > kCorrelated) {
-          fit.warnings << Text::tr("%1と%2の相関が高く、区別できません。")
-                              .arg(ParameterText(best.parameters[i]),
-                                   ParameterText(best.parameters[k]));
-        }
-      }
-    }
-    if (options_.scaleFree &&
-        (fit.scale == kSmallestFilmScale || fit.scale == kGreatestFilmScale)) {
-      fit.warnings << Text::tr("倍率が限界に達しました。");
     }
   }
 

@@ -19,6 +19,7 @@
 #include "views/common/theme.h"
 #include "views/common/window_size.h"
 #include "views/paper/plot_drawing.h"
+#include "views/statistics/check_picture.h"
 #include "views/statistics/check_settings_dialog.h"
 #include "views/statistics/result_table.h"
 #include "views/statistics/slot_choice.h"
@@ -227,33 +228,7 @@ void DailyCheckWindow::ShowVerdict() {
 void DailyCheckWindow::ShowCharts() {
   const CheckConditions conditions = ConditionsOfCheck(state_, history_.settings.wavelengthsNm);
   for (std::size_t i = 0; i < kCheckValueCount; ++i) {
-    XmrPicture picture;
-    picture.title = CheckValueText(static_cast<CheckValue>(i), conditions);
-    if (history_.limits && history_.limits->conditions == conditions) {
-      picture.limits = history_.limits->lines[i];
-    }
-    for (const JudgedCheck& judged : history_.checks) {
-      if (judged.check.conditions != conditions || !std::isfinite(judged.check.values[i])) {
-        continue;
-      }
-      picture.values.push_back(judged.check.values[i]);
-      QString hint = DateTimeText(judged.check.time) + u'\n' + ResultText(judged.check.values[i]);
-      if (picture.limits && judged.check.time <= history_.limits->frozenAt &&
-          !picture.limits->Hold(judged.check.values[i])) {
-        hint += u'\n' + Text::tr("限界を決める前の点が、限界の外にあります。");
-        picture.broken.push_back(picture.values.size());
-      }
-      for (const CheckFinding& finding : judged.judgement.findings) {
-        if (static_cast<std::size_t>(finding.value) == i) {
-          hint += u'\n' + FindingText(finding, conditions);
-          if (picture.broken.empty() || picture.broken.back() != picture.values.size()) {
-            picture.broken.push_back(picture.values.size());
-          }
-        }
-      }
-      picture.hints.push_back(hint);
-    }
-    charts_[i]->Show(std::move(picture));
+    charts_[i]->Show(CheckPicture(history_, conditions, static_cast<CheckValue>(i)));
   }
 }
 

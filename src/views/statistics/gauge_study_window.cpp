@@ -2,14 +2,11 @@
 #include "views/statistics/gauge_study_window.h"
 
 #include <QComboBox>
-#include <QFormLayout>
 #include <QGroupBox>
 #include <QHBoxLayout>
 #include <QPointer>
 #include <QPushButton>
 #include <QRandomGenerator>
-#include <QRegularExpression>
-#include <QSpinBox>
 #include <QTabWidget>
 #include <QTableWidget>
 #include <QVBoxLayout>
@@ -20,13 +17,13 @@
 #include "records/daily_check_events.h"
 #include "records/result_json.h"
 #include "views/common/dialog_buttons.h"
-#include "views/common/number_field.h"
 #include "views/common/plot_export.h"
 #include "views/common/scroll_body.h"
 #include "views/common/theme.h"
 #include "views/common/window_size.h"
 #include "views/paper/plot_drawing.h"
 #include "views/statistics/component_plot.h"
+#include "views/statistics/gauge_plan_entries.h"
 #include "views/statistics/gauge_result.h"
 #include "views/statistics/series_filter.h"
 #include "views/statistics/slot_choice.h"
@@ -37,15 +34,6 @@ namespace {
 const QString kFileName = QStringLiteral("gauge-study");
 constexpr int kSlot = kSlotCount;
 const QString kRecipe = QStringLiteral("gauge-study");  // of the records of its measurements
-
-QSpinBox* CountField(const char* name, int least, int most, int value) {
-  auto* field = new QSpinBox;
-  field->setObjectName(QLatin1String(name));
-  field->setLocale(QLocale::c());
-  field->setRange(least, most);
-  field->setValue(value);
-  return field;
-}
 
 QLabel* WrappedLabel(const char* name) {
   auto* label = new QLabel;
@@ -74,16 +62,8 @@ GaugeStudyWindow::GaugeStudyWindow(const StudyParts& parts, QWidget* parent)
     : QDialog(parent),
       parts_(parts),
       state_(parts.session.State()),
-      plan_(new QGroupBox(Text::tr("計画"))),
       choice_(new QComboBox),
-      name_(new QLineEdit),
-      value_(new ValueChoice(false)),
-      partCount_(CountField("Parts", 2, GaugePlan::kMostParts, 10)),
-      operators_(new QLineEdit),
-      repeats_(CountField("Repeats", 2, GaugePlan::kMostRepeats, 3)),
-      toleranceField_(new NumberField(QStringLiteral("0.######"))),
-      make_(DialogButton("MakePlan", Text::tr("計画を作る(&N)"))),
-      refusal_(WrappedLabel("PlanRefusal")),
+      plan_(new GaugePlanEntries(choice_)),
       instruction_(WrappedLabel("GaugeInstruction")),
       measure_(DialogButton("MeasureGauge", Text::tr("測定(&M)"))),
       filter_(new SeriesFilter(parts.session.Now().date(), parts.reader.HasShared())),
@@ -123,27 +103,10 @@ GaugeStudyWindow::GaugeStudyWindow(const StudyParts& parts, QWidget* parent)
 
 QWidget* GaugeStudyWindow::BuildPlan() {
   choice_->setObjectName(QStringLiteral("StudyChoice"));
-  name_->setObjectName(QStringLiteral("StudyName"));
-  operators_->setObjectName(QStringLiteral("Operators"));
-  operators_->setPlaceholderText(Text::tr("A, B, C"));
-  toleranceField_->setObjectName(QStringLiteral("Tolerance"));
-  toleranceField_->setPlaceholderText(Text::tr("なし"));
-  Colour(*refusal_, theme::kBad);
-  refusal_->hide();
   QPushButton* analyse = DialogButton("AnalyseRecords", Text::tr("記録を解析(&A)"));
-  connect(make_, &QPushButton::clicked, this, &GaugeStudyWindow::MakePlan);
+  connect(plan_, &GaugePlanEntries::MakeRequested, this, &GaugeStudyWindow::MakePlan);
   connect(analyse, &QPushButton::clicked, this, &GaugeStudyWindow::AnalyseRecords);
 
-  auto* form = new QFormLayout(plan_);
-  form->addRow(Text::tr("解析"), choice_);
-  form->addRow(Text::tr("名前"), name_);
-  form->addRow(Text::tr("値"), value_);
-  form->addRow(Text::tr("部品の数"), partCount_);
-  form->addRow(Text::tr("測定者"), operators_);
-  form->addRow(Text::tr("繰返し"), repeats_);
-  form->addRow(Text::tr("公差の幅"), toleranceField_);
-  form->addRow(refusal_);
-  form->addRow(make_);
   auto* measuring = new QGroupBox(Text::tr("測定"));
   auto* measures = new QVBoxLayout(measuring);
   measures->addWidget(instruction_);
@@ -204,59 +167,26 @@ void GaugeStudyWindow::ChooseStudy() {
   ++requests_;
   study_ = index >= 0 ? &studies_[static_cast<std::size_t>(index)] : nullptr;
   ClearResult({});
-  ShowPlan();
+  if (study_ != nullptr) {
+    plan_->ShowSettled(study_->plan);
+  } else {
+    plan_->Release();
+  }
   if (study_ != nullptr && !study_->Next()) {
     Analyse(ReadingsOf(*study_), study_->plan.tolerance);
   }
   ShowProgress();
 }
 
-// The plan of a study is settled; value and tolerance are also those of what is analysed of
-// records.
-void GaugeStudyWindow::ShowPlan() {
-  if (study_ != nullptr) {
-    const GaugePlan& plan = study_->plan;
-    name_->setText(plan.name);
-    value_->SetValue(plan.value);
-    partCount_->setValue(plan.parts);
-    operators_->setText(plan.operators.join(QStringLiteral(", ")));
-    repeats_->setValue(plan.repeats);
-    toleranceField_->clear();
-    if (plan.tolerance) {
-      toleranceField_->SetValue(*plan.tolerance);
-    }
-    refusal_->hide();
-  }
-  for (QWidget* entry :
-       std::initializer_list<QWidget*>{name_, partCount_, operators_, repeats_, make_}) {
-    entry->setEnabled(study_ == nullptr);
-  }
-}
-
 void GaugeStudyWindow::MakePlan() {
-  GaugePlan plan;
-  plan.begun = parts_.session.Now();
-  plan.name = name_->text().trimmed();
-  plan.value = value_->Value();
-  plan.parts = partCount_->value();
-  for (const QString& name :
-       operators_->text().split(QRegularExpression(QStringLiteral("[,、]")), Qt::SkipEmptyParts)) {
-    plan.operators << name.trimmed();
+  std::optional<GaugePlan> plan = plan_->Take();
+  if (!plan) {
+    return;
   }
-  plan.repeats = repeats_->value();
-  plan.tolerance = toleranceField_->Value();
-  plan.seed = QRandomGenerator::system()->generate();
-  QString refused;
-  if (!plan.IsValid()) {
-    refused = Text::tr("測定者は、違う名前で2人以上10人以下をコンマで区切って入力してください。");
-  } else if (!toleranceField_->text().trimmed().isEmpty() &&
-             !(plan.tolerance && *plan.tolerance > 0.0)) {
-    refused = Text::tr("公差の幅は0より大きい数です。");
-  }
-  refusal_->setText(refused);
-  refusal_->setVisible(!refused.isEmpty());
+  plan->begun = parts_.session.Now();
+  plan->seed = QRandomGenerator::system()->generate();
   QString id;
-  if (refused.isEmpty() && Keep(PlanEvent(plan, parts_.recorder.Context().station), &id)) {
+  if (Keep(PlanEvent(*plan, parts_.recorder.Context().station), &id)) {
     LoadStudies(id);
   }
 }
@@ -349,9 +279,8 @@ bool GaugeStudyWindow::KeepReading(const MeasurementSlot& slot, std::size_t plac
 
 void GaugeStudyWindow::AnalyseRecords() {
   constexpr int kMostRecords = 10000;
-  const std::optional<double> entered = toleranceField_->Value();
-  const std::optional<double> tolerance = entered && *entered > 0.0 ? entered : std::nullopt;
-  const RecordValue value = value_->Value();
+  const std::optional<double> tolerance = plan_->Tolerance();
+  const RecordValue value = plan_->Value();
   parts_.reader.LoadValues(filter_->Place(), filter_->Query(kMostRecords), value, *this,
                            [this, value, tolerance, request = ++requests_](const auto& series) {
                              if (request != requests_) {

@@ -10,19 +10,15 @@
 #include "views/statistics/study_parts.h"
 
 class QComboBox;
-class QGroupBox;
-class QLineEdit;
 class QPushButton;
-class QSpinBox;
 class QTableWidget;
 
 namespace vexa {
 
 class ComponentPlot;
 class CurrentPrinter;
-class NumberField;
+class GaugePlanEntries;
 class SeriesFilter;
-class ValueChoice;
 
 /// A gauge study: it makes a plan, leads through its measurements in random order without showing
 /// what they gave, and analyses them; or it analyses records. A study goes on where it was left,
@@ -47,7 +43,6 @@ class GaugeStudyWindow : public QDialog {
   /// Reads the studies of the store, and chooses the one of this id, or else none.
   void LoadStudies(const QString& id);
   void ChooseStudy();
-  void ShowPlan();
   void MakePlan();
   void ShowProgress();
   QCoro::Task<> MeasureNext();
@@ -68,16 +63,8 @@ class GaugeStudyWindow : public QDialog {
   std::optional<double> tolerance_;
   int requests_ = 0;  ///< of records; an answer to an earlier one is dropped
   bool busy_ = false;
-  QGroupBox* plan_;
   QComboBox* choice_;
-  QLineEdit* name_;
-  ValueChoice* value_;
-  QSpinBox* partCount_;
-  QLineEdit* operators_;
-  QSpinBox* repeats_;
-  NumberField* toleranceField_;
-  QPushButton* make_;
-  QLabel* refusal_;
+  GaugePlanEntries* plan_;
   QLabel* instruction_;
   QPushButton* measure_;
   SeriesFilter* filter_;
