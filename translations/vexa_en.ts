@@ -2480,10 +2480,6 @@ controller is not connected.</translation>
         <translation>Film stacks (*.flm)</translation>
     </message>
     <message>
-        <source>測定後に毎回ﾌｨｯﾄ</source>
-        <translation>Fit after each measurement</translation>
-    </message>
-    <message>
         <source>膜厚ﾌｨｯﾄ</source>
         <translation>Film fit</translation>
     </message>
@@ -2494,10 +2490,6 @@ controller is not connected.</translation>
     <message>
         <source>保存...</source>
         <translation>Save...</translation>
-    </message>
-    <message>
-        <source>測定した試料をこの膜構成でﾌｨｯﾄし、結果を膜厚の横に表示します。</source>
-        <translation>Each sample is fitted with this stack as it is measured, and shown beside its thickness.</translation>
     </message>
     <message>
         <source>選択ｽﾛｯﾄをﾌｨｯﾄ(&amp;F)</source>
@@ -3012,14 +3004,6 @@ Commands:
     <message>
         <source>最初に指定した層の屈折率の係数を一つ自由にします。</source>
         <translation>The index of the layer named first gets one free factor.</translation>
-    </message>
-    <message>
-        <source>波長目盛りの不確かさ (nm)（省略時 0.1）。</source>
-        <translation>Of the wavelength scale, in nm (default 0.1).</translation>
-    </message>
-    <message>
-        <source>層の屈折率の相対的な不確かさ（省略時 0）。</source>
-        <translation>Relative, of the indices of the layers (default 0).</translation>
     </message>
     <message>
         <source>区間の信頼水準（省略時 0.95）。</source>
@@ -4106,10 +4090,6 @@ Repeats: %4   Background: %5   Reference: %6</translation>
         <translation>Setting the limits</translation>
     </message>
     <message>
-        <source>%1 日分の点検から管理限界を決めます。次に決め直すまで変わりません。</source>
-        <translation>The control limits are set from the checks of %1 days. They stay until they are set again.</translation>
-    </message>
-    <message>
         <source>保留の解除</source>
         <translation>Releasing the hold</translation>
     </message>
@@ -4863,6 +4843,70 @@ Repeats: %4   Background: %5   Reference: %6</translation>
     <message>
         <source>干渉縞なし</source>
         <translation>no fringes</translation>
+    </message>
+    <message>
+        <source>波長目盛りの不確かさ (nm、信頼水準での半幅)（省略時 0.1）。</source>
+        <translation>Uncertainty of the wavelength scale (nm, half width at the confidence) (default 0.1).</translation>
+    </message>
+    <message>
+        <source>層の屈折率の相対的な不確かさ（信頼水準での半幅、省略時 0）。</source>
+        <translation>Relative uncertainty of the indices of the layers (half width at the confidence, default 0).</translation>
+    </message>
+    <message>
+        <source>残差がノイズよりはるかに大きく、膜構成または膜厚の範囲が試料と違う可能性があります。</source>
+        <translation>The residual is far above the noise: stack or thickness range may not be those of the sample.</translation>
+    </message>
+    <message>
+        <source>測定後に毎回ﾌｨｯﾄ (保存した膜構成)</source>
+        <translation>Fit after each measurement (saved stack)</translation>
+    </message>
+    <message>
+        <source>測定した試料を、ﾌｧｲﾙに保存した膜構成でﾌｨｯﾄし、結果を膜厚の横に表示します。</source>
+        <translation>Fits each measured sample with the stack as it is saved in its file, and shows the result beside the thickness.</translation>
+    </message>
+    <message>
+        <source>記録を控えることもできません。まだ書き込めない記録は、ﾌﾟﾛｸﾞﾗﾑが終わると失われます。書き込めるようにしてから終了してください。<byte value="xd"/><byte value="xd"/>%1</source>
+        <translation>The records cannot even be noted. Those not yet written are lost when the program ends. Make it possible to write before ending it.<byte value="xd"/><byte value="xd"/>%1</translation>
+    </message>
+    <message>
+        <source>%1 件の記録を書き込めず、失われました</source>
+        <translation>%1 records could not be written and are lost</translation>
+    </message>
+    <message>
+        <source>読めません</source>
+        <translation>cannot be read</translation>
+    </message>
+    <message>
+        <source>膜厚ﾌｨｯﾄ (層1)</source>
+        <translation>Film fit (layer 1)</translation>
+    </message>
+    <message>
+        <source>色相角が円の半分を超えて散らばっています。管理図も工程能力も意味を持ちません。</source>
+        <translation>The hues scatter over more than half the circle: neither a control chart nor a capability has a meaning.</translation>
+    </message>
+    <message>
+        <source>異常でなかった点検から管理限界を決めます。次に決め直すまで変わりません。ﾗﾝﾌﾟの交換や修理の後は、その日から後の点検だけを使ってください。</source>
+        <translation>Sets the limits from the checks that gave no signals. They stay until they are set again. After a lamp change or a repair, use the checks since that day alone.</translation>
+    </message>
+    <message>
+        <source>この日から</source>
+        <translation>Since</translation>
+    </message>
+    <message>
+        <source>日数</source>
+        <translation>Days</translation>
+    </message>
+    <message>
+        <source>%1 日 (%2 日必要です)</source>
+        <translation>%1 days (%2 are needed)</translation>
+    </message>
+    <message>
+        <source>%1 日</source>
+        <translation>%1 days</translation>
+    </message>
+    <message>
+        <source>保留は解かれました: %1 (%2、%3)</source>
+        <translation>Released: %1 (%2, %3)</translation>
     </message>
 </context>
 </TS>

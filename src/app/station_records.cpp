@@ -25,6 +25,9 @@ StationRecords::StationRecords(Session& session, MessageService& messages)
     messages_.Tell(
         {Message::kRecordStoreFault, {RecordStorePath(directory_)}, StoreFaultText(fault)});
   });
+  connect(&recorder_.Keeper(), &RecordKeeper::Held, this, [this](StoreFault fault) {
+    messages_.Tell({Message::kRecordsHeld, {RecordStorePath(directory_)}, StoreFaultText(fault)});
+  });
   connect(&recorder_, &SessionRecorder::Replaced, this, [this] {
     messages_.Tell({Message::kRecordStoreReplaced, {RecordStorePath(directory_)}});
   });

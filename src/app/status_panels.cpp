@@ -117,11 +117,15 @@ void StatusPanels::ShowEnvironmentName(const QString& name) {
 
 void StatusPanels::ShowShared(const SharedStatus& status) {
   constexpr int kQuietMs = 2000;  // what is sent at once is not worth a look
-  shared_->setText(QStringLiteral("⇡%1").arg(status.waiting));
+  // With an exclamation mark nothing will be sent by itself.
+  const bool sends = status.fault == StoreFault::kNone || status.fault == StoreFault::kUnreachable;
+  shared_->setText(
+      QStringLiteral("⇡%1%2").arg(status.waiting).arg(sends ? QString() : QStringLiteral("!")));
   shared_->setToolTip((Text::tr("共有の記録に送る記録: %1件").arg(status.waiting) + u'\n' +
                        StoreFaultText(status.fault))
                           .trimmed());
-  if (status.waiting == 0 && status.fault == StoreFault::kNone) {
+  const bool away = status.fault == StoreFault::kUnreachable;
+  if (status.waiting == 0 && (away || status.fault == StoreFault::kNone)) {
     sharedSoon_.stop();
     shared_->hide();
     environment_->setMinimumWidth(kEnvironmentWidth);

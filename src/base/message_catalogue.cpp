@@ -131,6 +131,11 @@ constexpr std::array<MessageEntry, kMessageCount> kCatalogue{{
          "Text",
          "記録に書き込めません。測定は続けられます。書き込めなかった記録は、書き込める"
          "ようになった時に書き込まれます。\r\r%1")},
+    {Message::kRecordsHeld, title::kWarning, MessageIcon::kWarning, MessageButtons::kOk,
+     QT_TRANSLATE_NOOP(
+         "Text",
+         "記録を控えることもできません。まだ書き込めない記録は、ﾌﾟﾛｸﾞﾗﾑが終わると失われ"
+         "ます。書き込めるようにしてから終了してください。\r\r%1")},
     {Message::kRecordStoreReplaced, title::kWarning, MessageIcon::kWarning, MessageButtons::kOk,
      QT_TRANSLATE_NOOP("Text",
                        "記録のﾌｧｲﾙが取り除かれたか、置き換えられました。これからの記録は、今この"

@@ -47,6 +47,7 @@ enum class Message : std::uint8_t {
   kRestoreDamagedSession,  ///< %1 what it holds
   kJournalWriteError,      ///< %1 path
   kRecordStoreFault,       ///< %1 path
+  kRecordsHeld,            ///< %1 path
   kRecordStoreReplaced,    ///< %1 path
 
   // Records.

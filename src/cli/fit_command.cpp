@@ -53,8 +53,10 @@ void DeclareOptions(QCommandLineParser& parser) {
   add(kOffsetFree, Text::tr("一定のバックグラウンドを自由にします（省略時 0）。"));
   add(kBandwidth, Text::tr("スリットの半値全幅 (nm)（省略時 1、なしは 0）。"), "NM");
   add(kIndexFree, Text::tr("最初に指定した層の屈折率の係数を一つ自由にします。"));
-  add(kWavelengthUncertainty, Text::tr("波長目盛りの不確かさ (nm)（省略時 0.1）。"), "NM");
-  add(kIndexUncertainty, Text::tr("層の屈折率の相対的な不確かさ（省略時 0）。"), "U");
+  add(kWavelengthUncertainty,
+      Text::tr("波長目盛りの不確かさ (nm、信頼水準での半幅)（省略時 0.1）。"), "NM");
+  add(kIndexUncertainty, Text::tr("層の屈折率の相対的な不確かさ（信頼水準での半幅、省略時 0）。"),
+      "U");
   add(kConfidence, Text::tr("区間の信頼水準（省略時 0.95）。"), "P");
 }
 
@@ -74,7 +76,7 @@ std::optional<ThicknessRange> RangeOf(const QString& text) {
 bool TakeLayers(const QCommandLineParser& parser, FilmStackSetting& setting) {
   const QStringList layers = parser.values(kLayer);
   const QStringList ranges = parser.values(kThickness);
-  if (!parser.isSet(kSubstrate) || layers.isEmpty() ||
+  if (parser.values(kSubstrate).size() != 1 || layers.isEmpty() ||
       static_cast<std::size_t>(layers.size()) > kMostFilmLayers) {
     Complain(Text::tr("fit には --substrate を 1 回、--layer を 1 ～ 4 回指定してください"));
     return false;

@@ -74,6 +74,11 @@ class Run {
       report_.complete = co_await TakeSample(sample);
     }
     file_.Finish();
+    if (recorder_ != nullptr && recorder_->Settle() > 0) {
+      Complain(
+          Text::tr("%1 件の記録を書き込めず、失われました").arg(recorder_->Keeper().HeldCount()));
+      report_.complete = false;
+    }
     co_return report_;
   }
 
@@ -108,6 +113,10 @@ class Run {
     QObject::connect(recorder_.get(), &SessionRecorder::Faulted, recorder_.get(),
                      [this, store](StoreFault fault) {
                        messages_.Tell({Message::kRecordStoreFault, {store}, StoreFaultText(fault)});
+                     });
+    QObject::connect(&recorder_->Keeper(), &RecordKeeper::Held, recorder_.get(),
+                     [this, store](StoreFault fault) {
+                       messages_.Tell({Message::kRecordsHeld, {store}, StoreFaultText(fault)});
                      });
     QObject::connect(recorder_.get(), &SessionRecorder::Replaced, recorder_.get(), [this, store] {
       messages_.Tell({Message::kRecordStoreReplaced, {store}});

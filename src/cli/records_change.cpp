@@ -104,6 +104,13 @@ int SupersedeRecord(const QCommandLineParser& parser, const QStringList& argumen
   return kDone;
 }
 
+QString DamageText(ChainCheck::Damage damage) {
+  return damage == ChainCheck::Damage::kMissing ? Text::tr("ありません")
+         : damage == ChainCheck::Damage::kUnreadable
+             ? Text::tr("読めません")
+             : Text::tr("変更されたか、外部から入れられました");
+}
+
 int VerifyStore(const QCommandLineParser& parser, const QStringList& /*arguments*/) {
   RecordStore store;
   if (!OpenStore(parser, RecordStore::Mode::kRead, store)) {
@@ -127,9 +134,7 @@ int VerifyStore(const QCommandLineParser& parser, const QStringList& /*arguments
   if (!intact) {
     Complain(Text::tr("records：行 %1 が%2")
                  .arg(check.value.firstDamaged)
-                 .arg(check.value.damage == ChainCheck::Damage::kMissing
-                          ? Text::tr("ありません")
-                          : Text::tr("変更されたか、外部から入れられました")));
+                 .arg(DamageText(check.value.damage)));
   }
   return intact ? kDone : kFailed;
 }

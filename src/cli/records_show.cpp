@@ -1,4 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include <QJsonArray>
+#include <cmath>
+
 #include "base/number_text.h"
 #include "base/translation.h"
 #include "cli/analysis_settings.h"
@@ -43,6 +46,21 @@ QString Number(double value, QStringView pattern) {
   return FormatNumber(value, pattern).trimmed();
 }
 
+// The outcome, and the layers from the air on.
+QStringList FitRow(const QJsonObject& fit) {
+  QStringList row{QStringLiteral("fit"), fit[QLatin1String("outcome")].toString()};
+  const QJsonArray layers = fit[QLatin1String("layers")].toArray();
+  for (const auto& layer : layers) {
+    const double nm = NumberOf(layer[QLatin1String("thickness")]);
+    row << (std::isfinite(nm)
+                ? QStringLiteral("%1 ± %2 nm")
+                      .arg(Number(nm, u"0.0"),
+                           Number(NumberOf(layer[QLatin1String("uncertainty")]), u"0.0"))
+                : QStringLiteral("-"));
+  }
+  return row;
+}
+
 QString ResultText(const SampleRecord& sample, const QString& verdict) {
   const auto text = [&sample](const ColourValue& value) { return value.TextOf(sample.colour); };
   using namespace colour_value;
@@ -66,6 +84,9 @@ QString ResultText(const SampleRecord& sample, const QString& verdict) {
         QStringLiteral("thickness"),
         Number(sample.thickness->thicknessNm, u"0.0") + ThicknessUnit(sample.thickness->physical),
         sample.doubts.join(u' ')};
+  }
+  if (sample.fit) {
+    rows << FitRow(*sample.fit);
   }
   QStringList told;
   for (const QString& name : sample.doubts) {

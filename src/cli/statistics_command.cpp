@@ -10,6 +10,7 @@
 #include "cli/number_columns.h"
 #include "cli/program_settings.h"
 #include "cli/statistics_report.h"
+#include "statistics/process_study.h"
 
 namespace vexa::cli {
 namespace {
@@ -146,6 +147,11 @@ int Capability(const QCommandLineParser& parser, const QString& path) {
     return kFailed;
   }
   const auto capability = statistics::ComputeCapability(*values, limits);
+  // Of a value that cannot fall below 0 the limit mostly tells it.
+  const auto bound = limits.lower == 0.0 ? limits.lower : std::nullopt;
+  for (const statistics::NormalDoubt doubt : statistics::FindNormalDoubts(*values, bound)) {
+    Complain(statistics::DoubtText(doubt));
+  }
   return capability ? Show(parser, ReportOf(*capability)) : Refuse(path, capability.Why());
 }
 

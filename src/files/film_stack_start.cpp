@@ -24,7 +24,7 @@ std::optional<MessageCall> TakeFilmStack(const ProgramSettings& settings, Sessio
     return refused(
         QStringLiteral("\"%1\": %2").arg(fault->material, MaterialFaultText(fault->fault)));
   }
-  session.SetFilmFit(std::get<FilmFitRequest>(request), true);
+  session.FitEachSample(std::get<FilmFitRequest>(request));
   return std::nullopt;
 }
 

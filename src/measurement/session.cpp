@@ -46,7 +46,7 @@ ReflectanceSpectrum Session::ReflectanceOf(const RawSpectrum& counts,
 
 std::optional<SampleFitTask> Session::FitToMake(const RawSpectrum& counts,
                                                 const SampleBasis& basis) const {
-  if (!fitEachSample_ || !filmFit_) {
+  if (!filmFit_) {
     return std::nullopt;
   }
   return SampleFitTask{*filmFit_, ReflectanceOf(counts, basis),
@@ -183,13 +183,12 @@ Status Session::ComputeThickness(int slotNumber) {
   return status;
 }
 
-void Session::SetFilmFit(const FilmFitRequest& request, bool eachSample) {
+void Session::FitEachSample(const FilmFitRequest& request) {
   filmFit_ = request;
-  fitEachSample_ = eachSample;
 }
 
 void Session::EndFilmFit() {
-  fitEachSample_ = false;
+  filmFit_.reset();
 }
 
 void Session::StoreFit(int slotNumber, const FilmFit& fit) {

@@ -86,10 +86,9 @@ class Session : public QObject {
   /// The thickness of a slot under the settings in force. A failure leaves the slot none.
   [[nodiscard]] Status ComputeThickness(int slot);
 
-  /// What films are fitted with from now on. `eachSample`: each sample is fitted before it is
-  /// stored.
-  void SetFilmFit(const FilmFitRequest& request, bool eachSample);
-  /// Films are fitted no longer; the fits stay.
+  /// Each sample is fitted from now on before it is stored.
+  void FitEachSample(const FilmFitRequest& request);
+  /// Samples are fitted no longer; the fits stay.
   void EndFilmFit();
   /// Keeps a fit of the slot's spectrum.
   void StoreFit(int slot, const FilmFit& fit);
@@ -131,8 +130,7 @@ class Session : public QObject {
 
   VEXATYPE state_;
   Clock clock_;
-  std::optional<FilmFitRequest> filmFit_;
-  bool fitEachSample_ = false;
+  std::optional<FilmFitRequest> filmFit_;  ///< of each sample
 };
 
 }  // namespace vexa

@@ -50,14 +50,19 @@ class Fitter {
         stop_(stop),
         solver_(spectrum, stack, ranges, options, stop),
         measured_(solver_.Measured()),
-        incoherent_(IncoherentReflectance(stack, options)) {}
+        incoherent_(IncoherentReflectance(stack, options)),
+        fringes_(ClearFringes(spectrum, stack, options)) {}
 
   FilmFit Run() {
     FilmFit fit = Search();
     if (fit.outcome == FitOutcome::kNone || fit.outcome == FitOutcome::kPoor) {
-      if (const auto nm = FringesOutside(spectrum_, stack_, ranges_, options_)) {
+      if (fringes_ && IsOutside(*fringes_, stack_, ranges_, options_)) {
         fit.warnings << Text::tr("約 %1 nm の膜の干渉縞がありますが、入力した膜厚の範囲の外です。")
-                            .arg(std::round(*nm));
+                            .arg(std::round(*fringes_));
+      }
+      if (fit.outcome == FitOutcome::kNone && IsPoor(fit)) {
+        fit.warnings << Text::tr(
+            "残差がノイズよりはるかに大きく、膜構成または膜厚の範囲が試料と違う可能性があります。");
       }
     }
     return fit;
@@ -248,6 +253,7 @@ class Fitter {
     if (fit.outcome == FitOutcome::kNone) {
       return NoFilm(fit);
     }
+    KeepWithinRanges(fit);
     fit.warnings = FitWarnings(best, options_);
     return fit;
   }
@@ -260,18 +266,26 @@ class Fitter {
                     RmsOfSmooth(incoherent_, measured_, options_));
   }
 
+  bool IsPoor(const FilmFit& fit) {
+    return fit.rms > kPoorNoises * fit.noise && fit.rms > kPoorPart * RmsWithoutFilm();
+  }
+
   FitOutcome OutcomeOf(const FilmFit& fit, double quickRms) {
-    const double without = RmsWithoutFilm();
-    const bool poor = fit.rms > kPoorNoises * fit.noise && fit.rms > kPoorPart * without;
-    const double gain = std::pow(without / std::max(fit.rms, 1e-12), 2);
+    const bool poor = IsPoor(fit);
+    const double gain = std::pow(RmsWithoutFilm() / std::max(fit.rms, 1e-12), 2);
+    const bool explains = gain >= 1.0 / kNoFilmPart;
     const bool untold = std::ranges::any_of(fit.layers, [](const FittedLayer& layer) {
-      return !(layer.statisticalNm <= layer.thicknessNm / 2.0);  // nor what is no number
+      return !(std::hypot(layer.statisticalNm, layer.wavelengthNm) <=
+               layer.thicknessNm / 2.0);  // nor what is no number
     });
-    if (gain < kNoFilmRatio || (poor && gain < 1.0 / kNoFilmPart) || untold) {
+    if (poor) {
+      return explains || fringes_ ? FitOutcome::kPoor : FitOutcome::kNone;
+    }
+    if (gain < kNoFilmRatio || (untold && !explains)) {
       return FitOutcome::kNone;
     }
-    if (poor) {
-      return FitOutcome::kPoor;
+    if (untold) {
+      return FitOutcome::kAmbiguous;  // other parameters make up for any thickness
     }
     // Few points tell minima apart less well.
     const auto freedom = std::max(static_cast<double>(measured_.size()) - 4.0, 1.0);
@@ -305,6 +319,18 @@ class Fitter {
     }
   }
 
+  // A thickness is known to lie within its range, whatever the covariance makes of it.
+  void KeepWithinRanges(FilmFit& fit) const {
+    for (std::size_t j = 0; j < ranges_.size(); ++j) {
+      const double widthNm = ranges_[j].toNm - ranges_[j].fromNm;
+      for (double FittedLayer::*part : {&FittedLayer::uncertaintyNm, &FittedLayer::statisticalNm,
+                                        &FittedLayer::wavelengthNm, &FittedLayer::indexNm}) {
+        double& nm = fit.layers[j].*part;
+        nm = nm <= widthNm ? nm : widthNm;  // nor what is no number
+      }
+    }
+  }
+
   FilmFit NoFilm(FilmFit fit = {}) {
     constexpr double kNotANumber = std::numeric_limits<double>::quiet_NaN();
     if (fit.fitted.empty()) {
@@ -329,6 +355,7 @@ class Fitter {
   FilmSolver solver_;
   std::span<const double> measured_;
   std::vector<double> incoherent_;
+  std::optional<double> fringes_;  // ClearFringes
 };
 
 }  // namespace

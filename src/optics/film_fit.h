@@ -30,7 +30,8 @@ enum class FitOutcome {
 
 struct FittedLayer {
   double thicknessNm = 0.0;
-  double uncertaintyNm = 0.0;  ///< half width of the interval: the three parts added in squares
+  /// Half width of the interval: the three parts added in squares; never wider than the range.
+  double uncertaintyNm = 0.0;
   double statisticalNm = 0.0;  ///< the part of the noise
   double wavelengthNm = 0.0;   ///< the part of the wavelength scale
   double indexNm = 0.0;        ///< the part of the index

@@ -37,14 +37,6 @@ double OrderNm(const Material& layer, const FilmFitOptions& options) {
   return middleNm / (2.0 * MeanIndex(layer, options));
 }
 
-// Below it the transform does not tell where a layer's fringes are: 1.2 um over the whole spectrum,
-// more over fewer wavelengths.
-double ThinNm(const Material& layer, const FilmFitOptions& options) {
-  const double resolution =
-      1.0 / (MeanIndex(layer, options) * (1.0 / options.fromNm - 1.0 / options.toNm));
-  return std::max(kThinNm, kThinResolutions * resolution);
-}
-
 // Keeps the best of the seeds that are nearer to one another than a quarter of an order.
 std::vector<FilmSeed> Distinct(std::vector<FilmSeed> seeds, const std::vector<double>& orders,
                                std::size_t most) {
@@ -378,6 +370,12 @@ class Search {
 };
 
 }  // namespace
+
+double ThinNm(const Material& layer, const FilmFitOptions& options) {
+  const double resolution =
+      1.0 / (MeanIndex(layer, options) * (1.0 / options.fromNm - 1.0 / options.toNm));
+  return std::max(kThinNm, kThinResolutions * resolution);
+}
 
 std::vector<FilmSeed> FindFilmSeeds(const ReflectanceSpectrum& spectrum, const FilmStack& stack,
                                     std::span<const ThicknessRange> ranges,

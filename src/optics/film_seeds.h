@@ -15,6 +15,10 @@ struct FilmSeed {
   double visibility = 1.0;    ///< of the fringes, over that of an even film
 };
 
+/// Below it the transform does not tell where a layer's fringes are: 1.2 um over the whole
+/// spectrum, more over fewer wavelengths.
+[[nodiscard]] double ThinNm(const Material& layer, const FilmFitOptions& options);
+
 /// Distinct starting points within the ranges, best first, from the Fourier peaks of the spectrum
 /// and from scans of thin or narrowly known layers. Takes what FitFilm has checked, and
 /// IncoherentReflectance; throws FitStopped once a stop is requested.

@@ -147,6 +147,18 @@ std::vector<DailyCheck> DailyCheckHistory::Checks() const {
   return all;
 }
 
+std::vector<DailyCheck> DailyCheckHistory::UsableChecks(const QDate& since) const {
+  std::vector<DailyCheck> usable;
+  usable.reserve(checks.size());
+  for (const auto& [check, judgement] : checks) {
+    if (judgement.verdict != CheckVerdict::kRed &&
+        (!since.isValid() || check.time.date() >= since)) {
+      usable.push_back(check);
+    }
+  }
+  return usable;
+}
+
 Answer<DailyCheckHistory> LoadDailyChecks(const QString& storePath) {
   RecordStore store;
   if (const StoreFault fault = store.Open(storePath, RecordStore::Mode::kRead);
@@ -178,12 +190,14 @@ Answer<DailyCheckHistory> LoadDailyChecks(const QString& storePath) {
     history.checks.push_back(CheckOf(row, event));
   }
   std::ranges::reverse(history.checks);
-  if (history.settings.holdsVerdicts && !history.checks.empty()) {
+  if (!history.checks.empty() && history.checks.back().judgement.verdict == CheckVerdict::kRed) {
     const JudgedCheck& last = history.checks.back();
-    const bool released = std::ranges::any_of(releases.value, [&last](const auto& release) {
-      return release.second.subject == last.check.id;
+    const auto release = std::ranges::find_if(releases.value, [&last](const auto& event) {
+      return event.second.subject == last.check.id;
     });
-    if (last.judgement.verdict == CheckVerdict::kRed && !released) {
+    if (release != releases.value.end()) {
+      history.release = release->second;
+    } else if (history.settings.holdsVerdicts) {
       history.hold = VerdictHold{last.check.id, last.check.time, last.check.conditions,
                                  last.judgement.findings};
     }

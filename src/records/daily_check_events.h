@@ -38,12 +38,15 @@ struct VerdictHold {
 
 /// All that the store of a station knows of its daily checks.
 struct DailyCheckHistory {
-  CheckSettings settings;             ///< in force
-  std::vector<JudgedCheck> checks;    ///< the oldest first
-  std::optional<CheckLimits> limits;  ///< in force
-  std::optional<VerdictHold> hold;    ///< the newest check is red, holds, and was not released
+  CheckSettings settings;              ///< in force
+  std::vector<JudgedCheck> checks;     ///< the oldest first
+  std::optional<CheckLimits> limits;   ///< in force
+  std::optional<VerdictHold> hold;     ///< the newest check is red, holds, and was not released
+  std::optional<EventRecord> release;  ///< of the newest check, when it was red
 
   [[nodiscard]] std::vector<DailyCheck> Checks() const;
+  /// Those since a day that may set limits: red ones may not.
+  [[nodiscard]] std::vector<DailyCheck> UsableChecks(const QDate& since = {}) const;
 };
 
 /// Reads the checks of a store: all are of the one instrument of its directory, whatever the

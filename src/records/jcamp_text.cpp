@@ -83,6 +83,12 @@ void AddConditions(LabelledRecords& block, const WholeRecord& record) {
   }
 }
 
+// Labels are compared in upper case: x and y would be X and Y.
+QByteArray LabelOf(const char* group, const QString& key) {
+  const bool chromaticity = key == QLatin1String("x") || key == QLatin1String("y");
+  return QByteArray(group) + (chromaticity ? "CHROMATICITY " : "") + key.toLatin1();
+}
+
 void AddResults(LabelledRecords& block, const WholeRecord& record) {
   const SampleRecord& sample = record.sample;
   block.Add("$VERDICT", VerdictWord(VerdictOf(sample)));
@@ -92,12 +98,12 @@ void AddResults(LabelledRecords& block, const WholeRecord& record) {
   const QJsonObject colour = ColourJson(sample.colour);
   for (auto part = colour.begin(); part != colour.end(); ++part) {
     if (part->isDouble()) {
-      block.Add(("$COLOUR " + part.key().toLatin1()).constData(), part->toDouble());
+      block.Add(LabelOf("$COLOUR ", part.key()).constData(), part->toDouble());
     }
   }
   const QJsonObject cie = sample.cie.value_or(QJsonObject());
   for (auto part = cie.begin(); part != cie.end(); ++part) {
-    const QByteArray label = "$CIE " + part.key().toLatin1();
+    const QByteArray label = LabelOf("$CIE ", part.key());
     if (part->isDouble()) {
       block.Add(label.constData(), part->toDouble());
     } else if (part->isString()) {

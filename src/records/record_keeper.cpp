@@ -25,24 +25,38 @@ RecordKeeper::RecordKeeper(const QString& storePath, int waitMs)
 
 Kept RecordKeeper::Keep(const QList<Row>& rows) {
   // What is owed comes first, so that the store has all in their order.
-  if (Pay()) {
-    const StoreFault fault = Store(rows);
-    if (fault == StoreFault::kNone) {
-      emit Stored();
-      return Kept::kStored;
-    }
-    Tell(fault);
+  StoreFault fault = PayOwed();
+  if (fault == StoreFault::kNone) {
+    fault = Store(rows);
+  }
+  if (fault == StoreFault::kNone) {
+    emit Stored();
+    return Kept::kStored;
   }
   again_.start();
   held_ << rows;
   if (owed_.Add(held_)) {
     held_.clear();
+    Tell(fault);
     return Kept::kOwed;
+  }
+  if (!std::exchange(toldHeld_, true)) {
+    told_ = true;
+    emit Held(fault);
   }
   return Kept::kHeld;
 }
 
 bool RecordKeeper::Pay() {
+  const StoreFault fault = PayOwed();
+  if (fault != StoreFault::kNone) {
+    Tell(fault);
+    again_.start();
+  }
+  return fault == StoreFault::kNone;
+}
+
+StoreFault RecordKeeper::PayOwed() {
   StoreFault fault = StoreFault::kNone;
   const bool inFile = !owed_.IsEmpty();
   const bool paid = owed_.Pay([this, &fault](const QList<Row>& rows) {
@@ -54,18 +68,17 @@ bool RecordKeeper::Pay() {
     fault = Store(held_);
   }
   if (!paid || fault != StoreFault::kNone) {
-    Tell(fault == StoreFault::kNone ? StoreFault::kFailed : fault);
-    again_.start();
-    return false;
+    return fault == StoreFault::kNone ? StoreFault::kFailed : fault;
   }
   held_.clear();
   again_.stop();
   told_ = false;
+  toldHeld_ = false;
   if (inFile || held) {
     emit Stored();
     emit Paid();
   }
-  return true;
+  return StoreFault::kNone;
 }
 
 StoreFault RecordKeeper::Store(const QList<Row>& rows) {

@@ -33,17 +33,20 @@ class RecordKeeper : public QObject {
   /// Tries again what is owed; true when nothing is any more. The timer asks for it every 30 s.
   bool Pay();
 
-  /// How many rows are not in the store.
+  /// How many rows live in this program alone; and all that are not in the store.
+  [[nodiscard]] qsizetype HeldCount() const { return held_.size(); }
   [[nodiscard]] qsizetype OwedCount() const { return owed_.Read().size() + held_.size(); }
 
  signals:
   void Faulted(vexa::StoreFault fault);  ///< the first time that rows were not stored
+  void Held(vexa::StoreFault fault);     ///< the first time that rows live in this program alone
   void Paid();                           ///< all that was owed is in the store
   void Stored();                         ///< rows came into the store
   void Replaced();  ///< the store that took rows before is gone; they go into what has its name now
 
  private:
   [[nodiscard]] StoreFault Store(const QList<Row>& rows);
+  [[nodiscard]] StoreFault PayOwed();
   void Tell(StoreFault fault);
 
   QString path_;
@@ -53,6 +56,7 @@ class RecordKeeper : public QObject {
   QList<Row> held_;
   QTimer again_;
   bool told_ = false;
+  bool toldHeld_ = false;
 };
 
 }  // namespace vexa

@@ -23,12 +23,16 @@ const QStringList kVersion1{
     QStringLiteral("CREATE INDEX by_supersedes ON record_row(supersedes)"
                    " WHERE supersedes IS NOT NULL"),
     QStringLiteral("CREATE INDEX by_subject ON record_row(subject) WHERE subject IS NOT NULL"),
-    QStringLiteral("CREATE TRIGGER no_update BEFORE UPDATE ON record_row BEGIN"
+};
+
+// What keeps the rows as they are; made again where somebody has taken it away.
+const QStringList kGuards{
+    QStringLiteral("CREATE TRIGGER IF NOT EXISTS no_update BEFORE UPDATE ON record_row BEGIN"
                    " SELECT RAISE(ABORT, 'a record is never changed'); END"),
-    QStringLiteral("CREATE TRIGGER no_delete BEFORE DELETE ON record_row BEGIN"
+    QStringLiteral("CREATE TRIGGER IF NOT EXISTS no_delete BEFORE DELETE ON record_row BEGIN"
                    " SELECT RAISE(ABORT, 'a record is never deleted'); END"),
     // A replacing insert deletes without the trigger above.
-    QStringLiteral("CREATE TRIGGER in_order BEFORE INSERT ON record_row"
+    QStringLiteral("CREATE TRIGGER IF NOT EXISTS in_order BEFORE INSERT ON record_row"
                    " WHEN NEW.number IS NOT 1 + coalesce((SELECT seq FROM sqlite_sequence"
                    " WHERE name = 'record_row'), 0) BEGIN"
                    " SELECT RAISE(ABORT, 'a record comes behind the last'); END"),
@@ -95,9 +99,16 @@ QString RepeatsDocument() {
 }
 
 StoreFault BringUpToDate(const SqlSession& session) {
-  if (const Answer<int> now = VersionAtOneMoment(session);
-      !now || now.value == static_cast<int>(kVersions.size())) {
-    return now.fault;
+  const Answer<int> now = VersionAtOneMoment(session);
+  const Answer<QVariant> guards = session.Value(
+      QStringLiteral("SELECT count(*) FROM sqlite_schema WHERE type = 'trigger' AND name IN"
+                     " ('no_update', 'no_delete', 'in_order')"));
+  if (!now || !guards) {
+    return now ? guards.fault : now.fault;
+  }
+  if (now.value == static_cast<int>(kVersions.size()) &&
+      guards.value.toInt() == static_cast<int>(kGuards.size())) {
+    return StoreFault::kNone;
   }
   Transaction transaction(session, QStringLiteral("BEGIN IMMEDIATE"));
   if (transaction.Fault() != StoreFault::kNone) {
@@ -111,6 +122,7 @@ StoreFault BringUpToDate(const SqlSession& session) {
   for (auto next = static_cast<std::size_t>(version.value); next < kVersions.size(); ++next) {
     statements << kVersions[next];
   }
+  statements << kGuards;
   statements << QStringLiteral("PRAGMA application_id = %1").arg(kStoreApplicationId)
              << QStringLiteral("PRAGMA user_version = %1").arg(kVersions.size());
   for (const QString& statement : statements) {

@@ -170,12 +170,17 @@ Answer<ChainCheck> RecordStore::Verify() const {
     }
     check.head = {row.number, row.hash};
   }
+  const StoreFault ended = FaultOf(query.value.lastError());
   // The database remembers the last number that it ever gave.
-  if (check.head.number != end.value.number) {
+  if (ended == StoreFault::kNone && check.head.number != end.value.number) {
     damaged(check.head.number + 1, ChainCheck::Damage::kMissing);
   }
-  answer.fault = FaultOf(query.value.lastError());
+  answer.fault = ended;
   query.value.finish();
+  if (answer.fault == StoreFault::kDamaged) {
+    answer.fault = StoreFault::kNone;
+    damaged(check.head.number + 1, ChainCheck::Damage::kUnreadable);
+  }
   return answer;
 }
 

@@ -23,10 +23,10 @@ struct ChainHead {
 
 /// What a check of all rows found.
 struct ChainCheck {
-  enum class Damage { kNone, kMissing, kChanged };
+  enum class Damage { kNone, kMissing, kChanged, kUnreadable };
 
   qint64 rows = 0;
-  Damage damage = Damage::kNone;  ///< kChanged also for a row that was put in from outside
+  Damage damage = Damage::kNone;  ///< kChanged also for a row put in from outside
   qint64 firstDamaged = 0;        ///< the number of the row; 0 without damage
   ChainHead head;
 };

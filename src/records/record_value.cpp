@@ -42,6 +42,8 @@ constexpr std::array<QuantityEntry, kQuantityCount> kQuantities{{
      nullptr, false},
     {Quantity::kThickness, "thickness", QT_TRANSLATE_NOOP("Text", "膜厚"), kNm, nullptr, nullptr,
      true},
+    {Quantity::kFitThickness, "fitThickness", QT_TRANSLATE_NOOP("Text", "膜厚ﾌｨｯﾄ (層1)"), kNm,
+     nullptr, nullptr, true},
     {Quantity::kReflectance, "reflectance", QT_TRANSLATE_NOOP("Text", "反射率"), kPercent, nullptr,
      nullptr, true},
     {Quantity::kCieLuminousReflectance, "cieRv", "CIE Rv", kPercent, nullptr, "Rv", true},
@@ -68,6 +70,14 @@ statistics::SpecificationLimits Limits(const StandardLimits& limits,
   };
   return {bound && limits.lower <= *bound ? std::nullopt : finite(limits.lower),
           finite(limits.upper)};
+}
+
+std::optional<double> FittedThickness(const SampleRecord& sample) {
+  const QJsonObject fit = sample.fit.value_or(QJsonObject());
+  if (fit[QLatin1String("outcome")].toString() != FitOutcomeName(FitOutcome::kOk)) {
+    return std::nullopt;
+  }
+  return NumberOf(fit[QLatin1String("layers")][0][QLatin1String("thickness")]);
 }
 
 std::optional<double> DifferenceToTarget(const SampleRecord& sample) {
@@ -137,6 +147,8 @@ std::optional<double> ValueOf(const SampleRecord& sample, const RecordValue& val
     found = DifferenceToTarget(sample);
   } else if (value.quantity == Quantity::kThickness) {
     found = sample.thickness ? std::optional(sample.thickness->thicknessNm) : std::nullopt;
+  } else if (value.quantity == Quantity::kFitThickness) {
+    found = FittedThickness(sample);
   } else if (ReflectanceSpectrum::Contains(value.nm)) {
     found = sample.reflectance[value.nm];
   }

@@ -28,7 +28,8 @@ enum class Quantity {
   kChroma,
   kHue,
   kThickness,
-  kReflectance,  ///< at a wavelength
+  kFitThickness,  ///< of the first layer, where the film fit is ok
+  kReflectance,   ///< at a wavelength
   kCieLuminousReflectance,
   kCieL,
   kCieA,

@@ -36,6 +36,12 @@ class SessionRecorder : public QObject {
 
   [[nodiscard]] const RecordKeeper& Keeper() const { return keeper_; }
 
+  /// Tries once more to keep what is owed; how many rows go with the program then.
+  [[nodiscard]] qsizetype Settle() {
+    keeper_.Pay();
+    return keeper_.HeldCount();
+  }
+
  signals:
   void Faulted(vexa::StoreFault fault);  ///< the first time that something was not stored
   void Paid();                           ///< all that was owed is in the store

@@ -61,7 +61,7 @@ class SharedSenderWork : public BackgroundWork {
     }
     if (!shared_.IsOpen() || status.fault == StoreFault::kUnreachable) {
       known_ = known_.value_or(end);  // nothing else can be known of a server never reached
-      status.waiting = end - *known_;
+      status.waiting = std::max<qint64>(end - *known_, 0);  // the store may have been replaced
     } else {
       known_ = end - status.waiting;
     }

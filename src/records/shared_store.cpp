@@ -75,7 +75,8 @@ SharedStatus SharedStore::Send(const RecordStore& local,
   const Answer<ChainHead> head = local.Head();
   Answer<qint64> last = head ? LastSent(local) : Answer<qint64>{0, head.fault};
   status.fault = last.fault;
-  status.waiting = head.value.number - last.value;
+  // Of another store nothing was sent.
+  status.waiting = head.value.number - (last.fault == StoreFault::kOtherStore ? 0 : last.value);
   while (status.fault == StoreFault::kNone && status.waiting > 0 && goOn(status)) {
     const Answer<QList<StoredRow>> rows = local.RowsAfter(last.value, kBatch);
     if (!rows || rows.value.isEmpty()) {

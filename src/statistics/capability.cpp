@@ -88,7 +88,7 @@ Result<Capability> ComputeCapability(std::span<const double> values,
   const SpreadEstimate within = Within(values);
   const SpreadEstimate overall{.s = StandardDeviation(values),
                                .df = static_cast<double>(values.size() - 1)};
-  if (within.s < kSmallest || overall.s < kSmallest) {
+  if (std::min(within.s, overall.s) <= std::max(kSmallest, RoundingOf(values))) {
     return Refusal::kNoSpread;
   }
   Capability capability;

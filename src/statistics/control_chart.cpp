@@ -20,7 +20,7 @@ Result<ChartLimits> ComputeLimits(std::span<const double> baseline) {
     return *refusal;
   }
   const double meanRange = MeanMovingRange(baseline);
-  if (meanRange == 0.0) {
+  if (meanRange <= RoundingOf(baseline)) {
     return Refusal::kNoSpread;
   }
   const auto centre = static_cast<double>(ComputeMoments(baseline).mean);

@@ -116,6 +116,14 @@ SumsOfSquares ComputeSums(const CrossedTable& table) {
     const long double rest = table.values[i] - grand - cell[table.Cell(i)];
     sums.repeatability += rest * rest;
   }
+  // What the rounding of the readings leaves is no spread.
+  const double dust =
+      static_cast<double>(table.values.size()) * std::pow(RoundingOf(table.values), 2);
+  for (long double SumsOfSquares::*term :
+       {&SumsOfSquares::part, &SumsOfSquares::gaugeOperator, &SumsOfSquares::interaction,
+        &SumsOfSquares::repeatability}) {
+    sums.*term = sums.*term > dust ? sums.*term : 0;
+  }
   return sums;
 }
 

@@ -3,6 +3,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <limits>
 
 namespace vexa::statistics {
 namespace {
@@ -39,6 +40,15 @@ Moments ComputeMoments(std::span<const double> values) {
     squares += deviation * deviation;
   }
   return {mean + remainder / n, std::max(squares - remainder * remainder / n, 0.0L)};
+}
+
+double RoundingOf(std::span<const double> values) {
+  constexpr double kUnits = 8.0;
+  double greatest = 0.0;
+  for (const double value : values) {
+    greatest = std::max(greatest, std::abs(value));
+  }
+  return kUnits * std::numeric_limits<double>::epsilon() * greatest;
 }
 
 double StandardDeviation(std::span<const double> values) {

@@ -27,6 +27,10 @@ struct Moments {
 /// least.
 [[nodiscard]] Moments ComputeMoments(std::span<const double> values);
 
+/// A spread up to this comes from the rounding of the values alone: some units in the last place of
+/// the greatest magnitude.
+[[nodiscard]] double RoundingOf(std::span<const double> values);
+
 /// The sample standard deviation, with n - 1. Of two values at least.
 [[nodiscard]] double StandardDeviation(std::span<const double> values);
 

@@ -5,6 +5,8 @@
 #include <QLabel>
 #include <QProcess>
 #include <QPushButton>
+#include <QSpinBox>
+#include <QTableWidget>
 
 #include "app/main_window_test.h"
 #include "files/environment_file.h"
@@ -161,6 +163,8 @@ TEST_F(StudyOnInstrument, AGaugeStudyShowsNobodyWhatItMeasures) {
   Open(window->Commands().gaugeStudy, "GaugeStudyWindow");
   Find<QLineEdit>("StudyName").setText(QStringLiteral("GRR"));
   Find<QLineEdit>("Operators").setText(QStringLiteral("A, B"));
+  Find<QSpinBox>("Parts").setValue(2);
+  Find<QSpinBox>("Repeats").setValue(2);
   Press("MakePlan");
   int asked = 0;
   for (int place = 1; place <= 3; ++place) {
@@ -187,6 +191,19 @@ TEST_F(StudyOnInstrument, AGaugeStudyShowsNobodyWhatItMeasures) {
   const auto reading = ToEvent(store.Events(QStringLiteral("gauge-reading"), {}, 1).value[0].row);
   EXPECT_EQ(reading->data[QStringLiteral("sample")].toString(), records.constFirst().id);
   EXPECT_EQ(reading->data[QStringLiteral("part")].toInt(), sessions.front().order[2].part + 1);
+
+  for (int place = 4; place <= 8; ++place) {
+    EXPECT_TRUE(Find<QLabel>("GaugeGrade").text().isEmpty());
+    now = now.addSecs(60);
+    Press("MeasureGauge");
+    ASSERT_TRUE(QTest::qWaitFor(
+        [this, place] {
+          return place < 8 ? Find<QPushButton>("MeasureGauge").isEnabled()
+                           : !Find<QLabel>("GaugeGrade").text().isEmpty();
+        },
+        30000));
+  }
+  EXPECT_GT(Find<QTableWidget>("Variance").rowCount(), 0) << "the result of what was measured";
 }
 
 }  // namespace

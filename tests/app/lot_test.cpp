@@ -164,6 +164,34 @@ TEST_F(LotMeasuring, PausesForAFrameThatIsDue) {
   EXPECT_EQ(Rows(), (std::vector<std::string>{"1 OK", "B-7 OK"}));
 }
 
+TEST_F(LotMeasuring, ANumberThatWaitsIsNotTakenForWhatIsAsked) {
+  Begin("L1");
+  TakeFrames();
+  peer.SetLines(test::FlatLines(1, kBad));
+  for (const char* number : {"D-1", "D-2", "D-3"}) {
+    QTest::keyClicks(&test::Child<QLineEdit>(*lots, "LotNumber"), QLatin1String(number));
+    Key("LotNumber", Qt::Key_Return);
+  }
+  WaitUntilIdle();
+  QApplication::processEvents();
+  const auto field = [this] {
+    return test::Child<QLineEdit>(*lots, "LotNumber").text().toStdString();
+  };
+  EXPECT_EQ(field(), "D-2");
+  Press(Qt::Key_F4, kGood);
+  EXPECT_EQ(Panel(), "測定済み D-1");
+  Press(Qt::Key_Return, kGood);
+  EXPECT_EQ(Panel(), "OK D-1") << "the lens that was asked about";
+  now = now.addSecs(1800);
+  Press(Qt::Key_Return, 500);
+  EXPECT_EQ(LotText("LotSaid"), "") << "the reference is measured at once";
+  EXPECT_EQ(field(), "D-2") << "in the order of the scans";
+  Press(Qt::Key_Return, kGood);
+  Press(Qt::Key_Return, kGood);
+  EXPECT_EQ(Rows(),
+            (std::vector<std::string>{"D-1 NG old", "D-1 OK 置き直し", "D-2 OK", "D-3 OK"}));
+}
+
 TEST_F(LotMeasuring, TellsAFaultAndKeepsWhatIsTypedMeanwhile) {
   Begin("L1");
   TakeFrames();

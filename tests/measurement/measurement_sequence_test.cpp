@@ -261,7 +261,7 @@ TEST_F(Sequence, ASampleWhoseFitIsGivenUpIsStoredWithoutIt) {
   const auto constant = [](double n) { return Material{Flat(n), Flat(0.0)}; };
   const FilmStack stack{constant(1.5), {constant(1.7), constant(1.4), constant(1.9)}};
   const FilmFitRequest request{stack, {{}, {{}, {}, {}}, {}}};
-  session.SetFilmFit(request, true);
+  session.FitEachSample(request);
   MeasureFrames();
   controller.next.counts = CountsOf(test::Fringes());
   controller.meanwhile = [&] { QTimer::singleShot(0, &sequence, &MeasurementSequence::Cancel); };

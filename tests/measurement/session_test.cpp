@@ -154,9 +154,8 @@ TEST_F(SessionTest, EachSampleIsFittedBeforeItIsAnnounced) {
   QObject::connect(&session, &Session::SlotChanged, [&](int slot) {
     heard.push_back(Slot(slot).fit ? Slot(slot).fit->layers.front().thicknessNm : 0.0);
   });
-  session.SetFilmFit(request, false);
   Measure(1, coat);
-  session.SetFilmFit(request, true);
+  session.FitEachSample(request);
   Measure(2, coat);
   ASSERT_EQ(heard.size(), 2U);
   EXPECT_EQ(heard[0], 0.0);
@@ -181,7 +180,7 @@ TEST_F(SessionTest, EachSampleIsFittedBeforeItIsAnnounced) {
   EXPECT_EQ(Slot(2).fit->outcome, FitOutcome::kNone) << "of the new spectrum";
   const FilmStackSetting before = request.setting;
   request.setting.layers[0].range.toNm = 2200.0;
-  session.SetFilmFit(request, true);
+  session.FitEachSample(request);
   Measure(2, coat);
   EXPECT_EQ(Slot(2).fit->setting, request.setting);
   EXPECT_EQ(Slot(3).fit->setting, before) << "it tells that it was made of another request";

@@ -118,6 +118,29 @@ TEST(FilmFit, TellsOfFringesOutsideItsRanges) {
   }
 }
 
+TEST(FilmFit, IsNeverSureOfWhatItCannotTell) {
+  const FilmFitOptions all{.offsetFree = true, .indexFree = true};
+  const struct {
+    const char* name;
+    double truthNm;
+    double noise;
+    ThicknessRange range;
+    FilmFitOptions options;
+    FitOutcome outcome;
+  } cases[] = {
+      {"range below", 1500.0, kNoise, {100.0, 1490.0}, {}, FitOutcome::kNone},
+      {"range above", 1500.0, kNoise, {1600.0, 5000.0}, {}, FitOutcome::kNone},
+      {"thin, range beside it", 250.0, kNoise, {300.0, 5000.0}, {}, FitOutcome::kNone},
+      {"all free, no noise", 2000.0, 0.0, {}, all, FitOutcome::kNone},
+  };
+  for (const auto& c : cases) {
+    const FilmFit fit = Fit(Reflected(Coat(c.truthNm), c.noise), CoatStack(), {c.range}, c.options);
+    EXPECT_EQ(FitOutcomeName(fit.outcome), FitOutcomeName(c.outcome)) << c.name;
+    EXPECT_FALSE(fit.warnings.isEmpty()) << c.name;
+    EXPECT_FALSE(fit.layers[0].uncertaintyNm > kMostFilmNm) << c.name;
+  }
+}
+
 TEST(FilmFit, IsGivenUpWhenAsked) {
   std::stop_source stop;
   stop.request_stop();

@@ -13,8 +13,8 @@ namespace vexa {
 namespace {
 
 constexpr double kPixel = 2.5;  // of a plot, on paper
-constexpr double kPlotHeight = 900.0;
-constexpr double kFourierHeight = 600.0;
+constexpr double kPlotHeight = 760.0;
+constexpr double kFourierHeight = 460.0;
 
 PageTable TableOf(const QList<QStringList>& rows, const QString& caption,
                   std::initializer_list<double> widths) {
@@ -67,13 +67,16 @@ PageMaker ReportPages(const QString& title, const FilmFitReport& report, QCustom
   return [title, report, &fit, &fourier](const QSizeF& page) {
     const auto flow = std::make_shared<PageFlow>(QRectF(QPointF(), page));
     flow->Add(TableOf(report.stack, title, {220.0, 1100.0, 560.0}));
-    flow->Add(TableOf(report.fits, {}, {160.0, 480.0, 460.0, 320.0, 170.0, 330.0}));
+    flow->Add(TableOf(report.fits, {}, {160.0, 420.0, 440.0, 340.0, 220.0, 330.0}));
     PageTable words{
         .caption = report.shown, .columns = {{{}, page.width(), Qt::AlignLeft, true}}, .rows = {}};
     for (const QString& line : report.words.split(u'\n', Qt::SkipEmptyParts)) {
       words.rows.push_back({{line}});
     }
     flow->Add(words);
+    if (report.settings) {
+      flow->Add(*report.settings);
+    }
     AddPlot(*flow, fit, kPlotHeight);
     AddPlot(*flow, fourier, kFourierHeight);
     return PrintedPages{flow->PageCount(), [flow](QPainter& painter, int number) {

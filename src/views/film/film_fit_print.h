@@ -3,8 +3,10 @@
 
 #include <QList>
 #include <QStringList>
+#include <optional>
 
 #include "optics/film_stack_file.h"
+#include "views/paper/page_table.h"
 #include "views/paper/printed_pages.h"
 
 class QCustomPlot;
@@ -13,10 +15,11 @@ namespace vexa {
 
 /// What a fit window has to tell on paper or on the clipboard.
 struct FilmFitReport {
-  QList<QStringList> stack;  ///< StackRows
-  QList<QStringList> fits;   ///< the slots and their fits, with headings
-  QString shown;             ///< the slot of which the words speak
-  QString words;             ///< all that its fit says
+  QList<QStringList> stack;           ///< StackRows
+  QList<QStringList> fits;            ///< the slots and their fits, with headings
+  QString shown;                      ///< the slot of which the words speak
+  QString words;                      ///< all that its fit says
+  std::optional<PageTable> settings;  ///< FitSettingTable
 };
 
 /// A stack in rows with headings: layer, material, thickness.

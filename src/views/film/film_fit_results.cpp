@@ -144,7 +144,8 @@ void FilmFitResults::Show(const VEXATYPE& state, int slot,
     }
     const auto lines = static_cast<int>(table_->item(row, kThicknessColumn)->text().count(u'\n'));
     table_->setRowHeight(row, kRowHeight + lines * table_->fontMetrics().lineSpacing());
-    measuredAt_ << DateTimeText(state.Slot(number)->info.measuredAt);
+    const QDateTime& at = state.Slot(number)->info.measuredAt;
+    measuredAt_ << (at.isValid() ? DateTimeText(at) : QStringLiteral("-"));
     table_->item(row, 0)->setData(Qt::UserRole, number);
     table_->item(row, 0)->setIcon(SlotIcon(number, true));
     if (number == slot) {

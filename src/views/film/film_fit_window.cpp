@@ -27,6 +27,7 @@
 #include "views/film/film_fit_print.h"
 #include "views/film/film_fit_results.h"
 #include "views/film/film_stack_editor.h"
+#include "views/optics/fit_table.h"
 #include "views/paper/current_printer.h"
 
 namespace vexa {
@@ -72,7 +73,7 @@ FilmFitWindow::FilmFitWindow(Session& session, ProgramPreferences& preferences,
       stack_(new FilmStackEditor(dialogs)),
       conditions_(new FilmFitConditions),
       file_(new ElidedLabel),
-      each_(new QCheckBox(Text::tr("測定後に毎回ﾌｨｯﾄ"))),
+      each_(new QCheckBox(Text::tr("測定後に毎回ﾌｨｯﾄ (保存した膜構成)"))),
       progress_(new QLabel),
       plot_(new FilmFitPlot),
       fourier_(new FourierPlot),
@@ -117,7 +118,8 @@ QWidget* FilmFitWindow::BuildEntries() {
   column->addWidget(each_);
   column->addStretch();
   each_->setObjectName(QStringLiteral("FitEachMeasurement"));
-  each_->setToolTip(Text::tr("測定した試料をこの膜構成でﾌｨｯﾄし、結果を膜厚の横に表示します。"));
+  each_->setToolTip(
+      Text::tr("測定した試料を、ﾌｧｲﾙに保存した膜構成でﾌｨｯﾄし、結果を膜厚の横に表示します。"));
   connect(open, &QPushButton::clicked, this, &FilmFitWindow::OpenStack);
   connect(save, &QPushButton::clicked, this, &FilmFitWindow::SaveStack);
   connect(each_, &QCheckBox::clicked, this, &FilmFitWindow::FitEachSample);
@@ -265,7 +267,6 @@ void FilmFitWindow::FitSlots(bool all) {
   if (spectra.empty() || !TakeEntries()) {
     return;
   }
-  session_.SetFilmFit(request_, each_->isChecked());
   fitting_ = spectra;
   run_.Start(request_, spectra);
   Refresh();
@@ -295,7 +296,7 @@ QCoro::Task<> FilmFitWindow::FitEachSample(bool on) {
     each_->setChecked(true);
   }
   if (fitting) {
-    session_.SetFilmFit(request_, true);
+    session_.FitEachSample(request_);
   } else {
     session_.EndFilmFit();
   }
@@ -327,6 +328,9 @@ QCoro::Task<bool> FilmFitWindow::SaveStack() {
   }
   changed_ = false;
   ChangePreferences([&path](ProgramSettings& s) { s.filmStack = path; });
+  if (each_->isChecked()) {
+    session_.FitEachSample(request_);
+  }
   co_return true;
 }
 
@@ -386,7 +390,7 @@ FilmFitReport FilmFitWindow::Report() const {
   return {StackRows(fit && !fit->setting.layers.empty() ? fit->setting : setting_),
           results_->Rows(),
           QStringLiteral("Mes%1  %2").arg(slot_).arg(state_.Slot(slot_)->info.sampleNumber),
-          results_->Words()};
+          results_->Words(), FitSettingTable(state_)};
 }
 
 void FilmFitWindow::Copy() const {

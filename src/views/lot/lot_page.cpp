@@ -87,6 +87,7 @@ LotPage::LotPage(LotRun& run, Session& session, InstrumentDesk& desk, MessageSer
     ShowRun();
   });
   connect(number_, &QLineEdit::textChanged, this, [this] { hint_->setText(Hint()); });
+  connect(number_, &QLineEdit::textEdited, this, [this] { offered_ = false; });
   ages_.start(kAgesMs);
   ShowRun();
 }
@@ -174,6 +175,11 @@ void LotPage::Return() {
     ShowRun();
     return;
   }
+  if (offered_ && run_.WhatIsDue() != LotRun::Due::kNothing) {
+    PutBack();
+    Begin({});
+    return;
+  }
   if (!number.isEmpty() && run_.WhatIsDue() != LotRun::Due::kNothing) {
     // Whoever scans a lens has it in the hand: the frame is taken by a Return of its own.
     Say(Text::tr("先に、指示された測定をしてください。番号 %1 は残してあります。").arg(number));
@@ -199,6 +205,7 @@ void LotPage::Escape() {
     run_.Cancel();
   } else if (asked_) {
     asked_.reset();
+    TakeNextScanned();
   } else {
     number_->clear();
     scanned_.clear();
@@ -248,6 +255,7 @@ bool LotPage::IsToBeMeasuredAgain() const {
 }
 
 void LotPage::AskToRepeat(const QString& number) {
+  PutBack();
   asked_ = number;
   reason_ = 0;
   messages_.Beep();
@@ -322,7 +330,7 @@ void LotPage::ShowRun() {
     Say(run_.LastOutcome() == LotRun::Outcome::kFault ? QString() : run_.FaultText());
     TakeNextScanned();
   }
-  if (asked_) {
+  if (asked_ && !measuring && run_.WhatIsDue() == LotRun::Due::kNothing) {
     const LotLens* lens = run_.Tally().Find(*asked_);
     verdict_->Show(RepeatQuestion(*lens, RepeatReasons().at(reason_)));
   } else {
@@ -340,11 +348,21 @@ void LotPage::ShowRun() {
 
 // A number that came too early is the next lens's, and goes where a new one is typed over it.
 void LotPage::TakeNextScanned() {
-  if (!scanned_.isEmpty() && number_->text().isEmpty() &&
+  if (!scanned_.isEmpty() && number_->text().isEmpty() && !asked_ &&
       run_.WhatIsDue() == LotRun::Due::kNothing) {
     number_->setText(scanned_.takeFirst());
     number_->selectAll();
+    offered_ = true;
   }
+}
+
+// What stands in the field waits again, before the others.
+void LotPage::PutBack() {
+  if (const QString number = number_->text().simplified(); !number.isEmpty()) {
+    scanned_.prepend(number);
+  }
+  number_->clear();
+  offered_ = false;
 }
 
 void LotPage::Say(const QString& text) {

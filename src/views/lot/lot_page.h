@@ -57,6 +57,7 @@ class LotPage : public QWidget {
   void ShowRun();
   void ShowFrames();
   void TakeNextScanned();
+  void PutBack();
   void Say(const QString& text);
   [[nodiscard]] bool IsToBeMeasuredAgain() const;
   [[nodiscard]] QString Hint() const;
@@ -73,6 +74,7 @@ class LotPage : public QWidget {
   QLabel* hint_;
   QLineEdit* number_;
   QPushButton* lightButton_ = nullptr;
+  bool offered_ = false;          ///< the field holds a number that had waited, as it was scanned
   QStringList scanned_;           ///< numbers entered while the instrument worked
   std::optional<QString> asked_;  ///< measured already: whether it is to be measured again
   int reason_ = 0;

@@ -36,7 +36,18 @@ QFont PageFont(int size, bool bold = false) {
   return font;
 }
 
-constexpr int kWrapped = Qt::TextWordWrap | Qt::TextWrapAnywhere;
+// Between words; anywhere in a text of which one alone is too wide.
+int Wrapping(const QFontMetricsF& metrics, const QString& text, double width) {
+  const QStringList words = text.split(u' ');
+  return std::ranges::any_of(words,
+                             [&](auto& word) { return metrics.horizontalAdvance(word) > width; })
+             ? Qt::TextWrapAnywhere
+             : Qt::TextWordWrap;
+}
+
+double WrappedHeight(const QFontMetricsF& metrics, const QRectF& inner, const QString& text) {
+  return metrics.boundingRect(inner, Wrapping(metrics, text, inner.width()), text).height();
+}
 
 void DrawText(QPainter& painter, const QRectF& cell, const PageTable::Column& column,
               const QString& text) {
@@ -44,7 +55,7 @@ void DrawText(QPainter& painter, const QRectF& cell, const PageTable::Column& co
   const QFontMetricsF metrics(painter.font());
   const int alignment = static_cast<int>(column.alignment | Qt::AlignVCenter);
   if (column.wraps && metrics.horizontalAdvance(text) > inner.width()) {
-    painter.drawText(inner, alignment | kWrapped, text);
+    painter.drawText(inner, alignment | Wrapping(metrics, text, inner.width()), text);
     return;
   }
   painter.drawText(inner, alignment | Qt::TextSingleLine,
@@ -82,7 +93,7 @@ double PageTable::HeadHeight(double width) const {
   for (const Column& column : columns) {
     const QRectF inner = Inner(QRectF(0.0, 0.0, Natural(column) * Stretch(width), kHighestRow));
     if (wholeTitles && metrics.horizontalAdvance(column.title) > inner.width()) {
-      const double lines = metrics.boundingRect(inner, kWrapped, column.title).height();
+      const double lines = WrappedHeight(metrics, inner, column.title);
       height = std::max(height, lines + rowHeight - metrics.lineSpacing());
     }
   }
@@ -95,7 +106,7 @@ double PageTable::RowHeight(const std::vector<Cell>& row, double width) const {
   for (std::size_t i = 0; i < columns.size(); ++i) {
     const QRectF inner = Inner(QRectF(0.0, 0.0, Natural(columns[i]) * Stretch(width), kHighestRow));
     if (columns[i].wraps && metrics.horizontalAdvance(row[i].text) > inner.width()) {
-      const double lines = metrics.boundingRect(inner, kWrapped, row[i].text).height();
+      const double lines = WrappedHeight(metrics, inner, row[i].text);
       height = std::max(height, std::min(lines, kHighestRow) + rowHeight - metrics.lineSpacing());
     }
   }

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "views/print/report.h"
+#include "views/optics/fit_table.h"
 
 #include <QPicture>
 #include <algorithm>

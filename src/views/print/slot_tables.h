@@ -22,9 +22,6 @@ namespace vexa {
 /// nothing where there is neither doubt nor fit.
 [[nodiscard]] std::optional<PageTable> ThicknessTable(const VEXATYPE& state);
 
-/// What the film fits of the valid slots were made with; nothing without any.
-[[nodiscard]] std::optional<PageTable> FitSettingTable(const VEXATYPE& state);
-
 /// The conditions of the reflectance with their wavelengths and limits; nothing when no band is
 /// judged.
 [[nodiscard]] std::optional<PageTable> BandTable(const VEXATYPE& state);

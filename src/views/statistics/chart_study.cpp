@@ -122,6 +122,11 @@ ChartStudy StudyChart(const ValueSeries& series, const ChartRequest& request) {
   study.summary = *summary;
   if (IsHue(request.value.quantity)) {
     study.request.tolerance = NearestTurn(request.tolerance, summary->mean);
+    if (summary->max - summary->min > 180.0) {
+      study.refusal = Text::tr(
+          "色相角が円の半分を超えて散らばっています。管理図も工程能力も意味を持ちません。");
+      return study;
+    }
   }
   const std::size_t baseline = request.baseline == 0 ? study.values.size() : request.baseline;
   if (baseline > study.values.size()) {

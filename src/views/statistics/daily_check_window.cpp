@@ -19,6 +19,7 @@
 #include "views/common/theme.h"
 #include "views/common/window_size.h"
 #include "views/paper/plot_drawing.h"
+#include "views/statistics/check_limits_dialog.h"
 #include "views/statistics/check_picture.h"
 #include "views/statistics/check_settings_dialog.h"
 #include "views/statistics/result_table.h"
@@ -179,7 +180,7 @@ void DailyCheckWindow::ShowGuide() {
 
 void DailyCheckWindow::ShowVerdict() {
   const CheckConditions conditions = ConditionsOfCheck(state_, history_.settings.wavelengthsNm);
-  const int days = CountCheckDays(history_.Checks(), conditions);
+  const int days = CountCheckDays(history_.UsableChecks(), conditions);
   QString text = Text::tr("まだ点検していません。");
   QColor colour = theme::kText;
   QStringList reasons;
@@ -204,6 +205,10 @@ void DailyCheckWindow::ShowVerdict() {
     reasons << DateTimeText(last.check.time);
     for (const CheckFinding& finding : last.judgement.findings) {
       reasons << FindingText(finding, last.check.conditions);
+    }
+    if (const std::optional<EventRecord>& release = history_.release) {
+      reasons << Text::tr("保留は解かれました: %1 (%2、%3)")
+                     .arg(release->reason, release->operatorName, DateTimeText(release->time));
     }
   }
   verdict_->setText(text);
@@ -297,25 +302,24 @@ void DailyCheckWindow::KeepCheck(int slot) {
 }
 
 void DailyCheckWindow::Freeze() {
-  const CheckLimitsResult result = ComputeCheckLimits(
-      history_.Checks(), ConditionsOfCheck(state_, history_.settings.wavelengthsNm),
-      parts_.session.Now());
-  if (!result.limits) {
+  const CheckConditions conditions = ConditionsOfCheck(state_, history_.settings.wavelengthsNm);
+  auto* dialog =
+      new CheckLimitsDialog(history_, conditions, parts_.recorder.Context().operatorName, this);
+  dialog->setAttribute(Qt::WA_DeleteOnClose);
+  connect(dialog, &QDialog::accepted, this, [this, dialog, conditions] {
+    const Decision decision{parts_.recorder.Context().station, dialog->Operator(), dialog->Reason(),
+                            parts_.session.Now()};
+    const CheckLimitsResult result =
+        ComputeCheckLimits(history_.UsableChecks(dialog->Since()), conditions, decision.time);
+    if (result.limits) {
+      Keep(LimitsEvent(*result.limits, decision));
+      return;
+    }
     const QString name =
-        result.refusal.value
-            ? CheckValueText(*result.refusal.value,
-                             ConditionsOfCheck(state_, history_.settings.wavelengthsNm))
-            : QString();
+        result.refusal.value ? CheckValueText(*result.refusal.value, conditions) : QString();
     limitsText_->setText(name + u' ' + statistics::RefusalText(result.refusal.why));
-    return;
-  }
-  Decide(Text::tr("限界の決定"),
-         Text::tr("%1 日分の点検から管理限界を決めます。次に決め直すまで変わりません。")
-             .arg(result.limits->days),
-         [limits = *result.limits](const Decision& decision) mutable {
-           limits.frozenAt = decision.time;
-           return LimitsEvent(limits, decision);
-         });
+  });
+  dialog->open();
 }
 
 void DailyCheckWindow::Release() {

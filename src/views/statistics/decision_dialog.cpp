@@ -2,7 +2,6 @@
 #include "views/statistics/decision_dialog.h"
 
 #include <QLabel>
-#include <QPushButton>
 #include <QVBoxLayout>
 
 #include "base/translation.h"
@@ -30,10 +29,14 @@ DecisionDialog::DecisionDialog(const QString& title, const QString& question,
   layout->addLayout(form_);
   layout->addStretch();
   layout->addWidget(buttons);
-  auto* ok = buttons->findChild<QPushButton*>(QStringLiteral("OK"));
-  ok->setEnabled(false);
-  connect(reason_, &QLineEdit::textChanged, this,
-          [this, ok] { ok->setEnabled(!Reason().isEmpty()); });
+  ok_ = buttons->findChild<QPushButton*>(QStringLiteral("OK"));
+  connect(reason_, &QLineEdit::textChanged, this, [this] { SetAcceptable(acceptable_); });
+  SetAcceptable(true);
+}
+
+void DecisionDialog::SetAcceptable(bool acceptable) {
+  acceptable_ = acceptable;
+  ok_->setEnabled(acceptable && !Reason().isEmpty());
 }
 
 QSize DecisionDialog::sizeHint() const {

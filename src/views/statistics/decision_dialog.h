@@ -4,6 +4,7 @@
 #include <QDialog>
 #include <QFormLayout>
 #include <QLineEdit>
+#include <QPushButton>
 
 namespace vexa {
 
@@ -24,11 +25,15 @@ class DecisionDialog : public QDialog {
  protected:
   /// The fields, for those of a derived dialog.
   [[nodiscard]] QFormLayout& Form() { return *form_; }
+  /// Whether what the fields of a derived dialog hold can be accepted; at first it can.
+  void SetAcceptable(bool acceptable);
 
  private:
   QFormLayout* form_;
   QLineEdit* operator_;
   QLineEdit* reason_;
+  QPushButton* ok_;
+  bool acceptable_ = true;
 };
 
 }  // namespace vexa

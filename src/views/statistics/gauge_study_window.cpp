@@ -144,7 +144,8 @@ QWidget* GaugeStudyWindow::BuildResult() {
   return result;
 }
 
-void GaugeStudyWindow::LoadStudies(const QString& id) {
+// The id may be that of a study that goes: it is a copy.
+void GaugeStudyWindow::LoadStudies(QString id) {  // NOLINT(performance-unnecessary-value-param)
   Answer<std::vector<GaugeSession>> loaded = LoadGaugeSessions(parts_.storePath);
   study_ = nullptr;
   studies_ = std::move(loaded.value);

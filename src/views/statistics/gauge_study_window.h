@@ -41,7 +41,7 @@ class GaugeStudyWindow : public QDialog {
   QWidget* BuildPlan();
   QWidget* BuildResult();
   /// Reads the studies of the store, and chooses the one of this id, or else none.
-  void LoadStudies(const QString& id);
+  void LoadStudies(QString id);
   void ChooseStudy();
   void MakePlan();
   void ShowProgress();

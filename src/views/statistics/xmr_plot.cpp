@@ -65,6 +65,17 @@ XmrPlot::XmrPlot(Panes panes, QWidget* parent) : Plot(parent) {
     connect(xAxis, qOverload<const QCPRange&>(&QCPAxis::rangeChanged),
             ranges_->axis(QCPAxis::atBottom), qOverload<const QCPRange&>(&QCPAxis::setRange));
   }
+  // Points have whole numbers.
+  const QSharedPointer<QCPAxisTickerFixed> whole(new QCPAxisTickerFixed);
+  whole->setTickStep(1.0);
+  whole->setScaleStrategy(QCPAxisTickerFixed::ssMultiples);
+  xAxis->setTicker(whole);
+  xAxis->setSubTicks(false);
+  if (ranges_ != nullptr) {
+    ranges_->axis(QCPAxis::atBottom)->setTicker(whole);
+    ranges_->axis(QCPAxis::atBottom)->setSubTicks(false);
+    ranges_->axis(QCPAxis::atLeft)->ticker()->setTickCount(3);  // it is half as high
+  }
   yAxis2->setTickLabels(true);
   axisRect()->setRangeDrag(Qt::Horizontal);
   axisRect()->setRangeZoom(Qt::Horizontal);
