@@ -4818,7 +4818,7 @@ Repeats: %4   Background: %5   Reference: %6</translation>
     </message>
     <message>
         <source>波長 %1～%2 nm   倍率 %3   背景光 %4   屈折率の係数 %5   ﾊﾞﾝﾄﾞ幅 %6 nm   波長の不確かさ %7 nm   屈折率の不確かさ %8 %   信頼水準 %9 %</source>
-        <translation>Wavelengths %1 to %2 nm   scale %3   offset %4   index factor %5   bandwidth %6 nm   wavelength uncertainty %7 nm   index uncertainty %8 %   confidence %9 %</translation>
+        <translation>Wavelengths %1 to %2 nm   scale %3   background %4   index factor %5   bandwidth %6 nm   wavelength uncertainty %7 nm   index uncertainty %8 %   confidence %9 %</translation>
     </message>
     <message>
         <source>膜厚ﾌｨｯﾄの条件</source>
