@@ -4908,5 +4908,9 @@ Repeats: %4   Background: %5   Reference: %6</translation>
         <source>保留は解かれました: %1 (%2、%3)</source>
         <translation>Released: %1 (%2, %3)</translation>
     </message>
+    <message>
+        <source>管理限界は %1 点だけから求めたもので、確かではありません（20 点以上が望まれます）。</source>
+        <translation>The control limits come from %1 points only and are not sure (20 or more are wanted).</translation>
+    </message>
 </context>
 </TS>

@@ -3,6 +3,8 @@
 
 #include <QDir>
 #include <QFileInfo>
+#include <algorithm>
+#include <iterator>
 #include <utility>
 
 namespace vexa {
@@ -34,7 +36,10 @@ Kept RecordKeeper::Keep(const QList<Row>& rows) {
     return Kept::kStored;
   }
   again_.start();
-  held_ << rows;
+  // The frames of a sample come with each of theirs.
+  std::ranges::copy_if(rows, std::back_inserter(held_), [this](const Row& row) {
+    return std::ranges::find(held_, row.id, &Row::id) == held_.end();
+  });
   if (owed_.Add(held_)) {
     held_.clear();
     Tell(fault);

@@ -149,7 +149,10 @@ Answer<ChainCheck> RecordStore::Verify() const {
       session_.Select(QStringLiteral("SELECT %1, %2 FROM record_row ORDER BY number")
                           .arg(kRowColumns, RepeatsDocument()));
   if (!end || !query) {
-    return {{}, end ? query.fault : end.fault};
+    const StoreFault fault = end ? query.fault : end.fault;
+    return fault == StoreFault::kDamaged
+               ? Answer<ChainCheck>{{0, ChainCheck::Damage::kUnreadable, 1, {}}}
+               : Answer<ChainCheck>{{}, fault};
   }
   Answer<ChainCheck> answer;
   ChainCheck& check = answer.value;

@@ -125,6 +125,7 @@ ChartStudy StudyChart(const ValueSeries& series, const ChartRequest& request) {
     if (summary->max - summary->min > 180.0) {
       study.refusal = Text::tr(
           "色相角が円の半分を超えて散らばっています。管理図も工程能力も意味を持ちません。");
+      study.summary.reset();
       return study;
     }
   }
@@ -267,6 +268,15 @@ QStringList Warnings(const ChartStudy& study, const ValueSeries& series) {
   }
   if (!study.refusal.isEmpty()) {
     lines << study.refusal;
+  }
+  constexpr std::size_t kFewestForLimits = 20;
+  const std::size_t baseline =
+      study.request.baseline == 0 ? study.values.size() : study.request.baseline;
+  if (study.limits && baseline < kFewestForLimits) {
+    lines << Text::tr(
+                 "管理限界は %1 点だけから求めたもので、確かではありません（20 "
+                 "点以上が望まれます）。")
+                 .arg(baseline);
   }
   for (const statistics::NormalDoubt doubt : study.doubts) {
     lines << statistics::DoubtText(doubt);
