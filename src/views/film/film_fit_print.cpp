@@ -59,7 +59,14 @@ QString ReportText(const FilmFitReport& report) {
   for (const QStringList& cells : report.stack + report.fits) {
     text += cells.join(u'\t') + u'\n';
   }
-  return text + report.shown + u'\n' + report.words + u'\n';
+  text += report.shown + u'\n' + report.words + u'\n';
+  if (report.settings) {
+    text += report.settings->caption + u'\n';
+    for (const std::vector<PageTable::Cell>& row : report.settings->rows) {
+      text += row.front().text + u'\t' + row.back().text + u'\n';
+    }
+  }
+  return text;
 }
 
 PageMaker ReportPages(const QString& title, const FilmFitReport& report, QCustomPlot& fit,

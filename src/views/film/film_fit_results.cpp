@@ -160,11 +160,13 @@ void FilmFitResults::Show(const VEXATYPE& state, int slot,
   const bool good = fit != nullptr && fit->outcome == FitOutcome::kOk && !outdated;
   mark_->setPixmap(good ? DoneIcon(true).pixmap(16, 16) : DoubtMark());
   mark_->setVisible(fit != nullptr || fault != refused.end());
-  outcome_->setText(fit != nullptr && outdated
-                        ? Text::tr("この結果は、入力されている設定とは別の設定のものです。")
-                    : fit != nullptr         ? FitOutcomeText(fit->outcome)
-                    : fault != refused.end() ? FilmFitFaultText(fault->second)
-                                             : QString());
+  QString told = fit != nullptr           ? FitOutcomeText(fit->outcome)
+                 : fault != refused.end() ? FilmFitFaultText(fault->second)
+                                          : QString();
+  if (outdated) {
+    told += u' ' + Text::tr("この結果は、入力されている設定とは別の設定のものです。");
+  }
+  outcome_->setText(told);
   words_->setPlainText(fit != nullptr ? WordsOf(*fit) : QString());
 }
 

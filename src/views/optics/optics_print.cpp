@@ -5,6 +5,7 @@
 #include <QPicture>
 #include <algorithm>
 #include <map>
+#include <vector>
 
 #include "base/number_text.h"
 #include "base/translation.h"
@@ -42,11 +43,15 @@ QRectF BeginPage(QPainter& painter, const QRectF& page, const QString& caption) 
   return {0.0, 48.0, kPageWidth, page.height() / scale - 48.0};
 }
 
-void DrawRow(QPainter& painter, const QRectF& row, const QStringList& cells, double cellWidth) {
+void DrawRow(QPainter& painter, const QRectF& row, const QStringList& cells,
+             const std::vector<double>& widths) {
+  constexpr double kPadding = 8.0;
+  double left = row.left();
   for (qsizetype i = 0; i < cells.size(); ++i) {
-    const QRectF cell(row.left() + static_cast<double>(i) * cellWidth, row.top(), cellWidth - 8.0,
-                      row.height());
-    painter.drawText(cell, Qt::AlignRight | Qt::AlignVCenter, cells[i]);
+    const double width = widths[static_cast<std::size_t>(i)];
+    painter.drawText(QRectF(left, row.top(), width - kPadding, row.height()),
+                     Qt::AlignRight | Qt::AlignVCenter, cells[i]);
+    left += width;
   }
 }
 
@@ -104,6 +109,11 @@ void PaintHistoryPage(QPainter& painter, const QRectF& page, const ThicknessHist
   int point = 0;
   const bool withFits = std::ranges::any_of(
       history.Notes(), [](const HistoryNote& note) { return note.fitNm > 0.0; });
+  constexpr double kNumber = 24.0;
+  constexpr double kValue = (kColumnWidth - kNumber) / 2.0;
+  const std::vector<double> widths = withFits ? std::vector<double>{kNumber, kValue, kValue}
+                                              : std::vector<double>(2, kColumnWidth / 2.0);
+  SetFont(painter, withFits ? 10 : 13, false);
   for (const double thicknessNm : history.Points()) {
     const int column = point / kRows;
     const QRectF row(column * kColumnWidth, top + point % kRows * kRowHeight, kColumnWidth,
@@ -115,8 +125,9 @@ void PaintHistoryPage(QPainter& painter, const QRectF& page, const ThicknessHist
     if (note.fitNm > 0.0) {
       cells << QStringLiteral("◆") + FormatNumber(note.fitNm, u"0.0");
     }
-    DrawRow(painter, row, cells, kColumnWidth / static_cast<double>(withFits ? 3 : 2));
+    DrawRow(painter, row, cells, widths);
   }
+  SetFont(painter, 13, false);
   top += (kRows + 0.5) * kRowHeight;
   painter.drawText(QRectF(0.0, top, kPageWidth, body.bottom() - top),
                    Qt::AlignLeft | Qt::AlignTop | Qt::TextWordWrap,
@@ -133,7 +144,7 @@ void PaintWaveListPage(QPainter& painter, const QRectF& page, const QString& who
                        const QString& doubts, const ExtremumList& list) {
   const double whoseHeight =
       (2.0 + static_cast<double>(doubts.split(u'\n', Qt::SkipEmptyParts).size())) * kRowHeight;
-  constexpr double kColumnWidth = 110.0;
+  const std::vector<double> widths(4, 110.0);
   painter.save();
   const QRectF body = BeginPage(painter, page, Text::tr("波長リスト"));
   painter.drawText(QRectF(body.topLeft(), QSizeF(body.width(), whoseHeight)),
@@ -147,10 +158,10 @@ void PaintWaveListPage(QPainter& painter, const QRectF& page, const QString& who
       kRowHeight, (body.height() - whoseHeight) / static_cast<double>(ExtremumList::kLimit + 1));
   SetFont(painter, static_cast<int>(std::max(1.0, height * 0.7)), false);
   QRectF row(body.topLeft() + QPointF(0.0, whoseHeight), QSizeF(body.width(), height));
-  DrawRow(painter, row, WaveListTitles(), kColumnWidth);
+  DrawRow(painter, row, WaveListTitles(), widths);
   for (const QString& text : rows) {
     row.translate(0.0, height);
-    DrawRow(painter, row, text.split(u'\t'), kColumnWidth);
+    DrawRow(painter, row, text.split(u'\t'), widths);
   }
   painter.restore();
 }

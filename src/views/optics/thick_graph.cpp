@@ -63,7 +63,7 @@ ThickGraph::ThickGraph(Session& session, MessageService& messages, FileDialogs& 
       kind_(Value("PointKind")),
       fit_(Value("PointFit")),
       doubt_(Value("PointDoubt")),
-      doubts_(new QLabel) {
+      doubts_(new QPlainTextEdit) {
   setObjectName(QStringLiteral("ThickGraph"));
   setWindowTitle(Text::tr("膜厚ｸﾞﾗﾌ"));
   BuildMenus();
@@ -78,7 +78,7 @@ ThickGraph::ThickGraph(Session& session, MessageService& messages, FileDialogs& 
   layout->setContentsMargins(10, 8, 10, 10);
   layout->setSpacing(10);
   layout->addWidget(frame, 1);
-  layout->addWidget(BuildInformation(), 0, Qt::AlignTop);
+  layout->addLayout(BuildInformation());
   setCentralWidget(central);
   resize(760, 460);
   connect(&session_, &Session::HistoryChanged, this, &ThickGraph::ShowChange);
@@ -107,9 +107,10 @@ void ThickGraph::BuildMenus() {
   add(settings, "GraphSettings", Text::tr("ｸﾞﾗﾌ設定"), &ThickGraph::AskScale);
 }
 
-QWidget* ThickGraph::BuildInformation() {
+QLayout* ThickGraph::BuildInformation() {
   auto* group = new QGroupBox(Text::tr("ﾃﾞｰﾀ情報"));
-  group->setFixedWidth(190);
+  constexpr int kWidth = 190;
+  group->setFixedWidth(kWidth);
   auto* values = new QFormLayout;
   values->setVerticalSpacing(8);
   values->addRow(Text::tr("全ﾃﾞｰﾀ数"), count_);
@@ -146,12 +147,17 @@ QWidget* ThickGraph::BuildInformation() {
   layout->addLayout(values);
   layout->addLayout(cursors);
   layout->addLayout(commands);
+
   // Below the buttons, which stay where they are while the cursor moves.
   doubts_->setObjectName(QStringLiteral("PointDoubts"));
-  doubts_->setWordWrap(true);
-  doubts_->setTextInteractionFlags(Qt::TextSelectableByMouse);
-  layout->addWidget(doubts_);
-  return group;
+  doubts_->setReadOnly(true);
+  doubts_->setFrameShape(QFrame::NoFrame);
+  doubts_->setFixedWidth(kWidth);
+  auto* side = new QVBoxLayout;
+  side->addWidget(group);
+  side->addWidget(doubts_, 1);
+  side->addStretch();
+  return side;
 }
 
 void ThickGraph::AddCurrent() {
@@ -259,7 +265,7 @@ void ThickGraph::ShowHistory() {
                                     : Text::tr("光学膜厚", "kind"));
   fit_->setText(note.fitNm > 0.0 ? FormatNumber(note.fitNm, u"###0.0") : kNothing);
   doubt_->setPixmap(note.doubts.empty() ? QPixmap() : DoubtMark());
-  doubts_->setText(DoubtTexts(note.doubts));
+  doubts_->setPlainText(DoubtTexts(note.doubts));
   doubts_->setVisible(!note.doubts.empty());
 }
 

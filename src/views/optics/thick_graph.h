@@ -3,6 +3,7 @@
 
 #include <QLabel>
 #include <QMainWindow>
+#include <QPlainTextEdit>
 #include <functional>
 
 #include "base/message.h"
@@ -25,7 +26,7 @@ class ThickGraph : public QMainWindow {
 
  private:
   void BuildMenus();
-  QWidget* BuildInformation();
+  QLayout* BuildInformation();
   void AddCurrent();
   void DeletePoint();
   QCoro::Task<> ClearAll();
@@ -54,7 +55,7 @@ class ThickGraph : public QMainWindow {
   QLabel* kind_;
   QLabel* fit_;
   QLabel* doubt_;
-  QLabel* doubts_;  ///< in words
+  QPlainTextEdit* doubts_;  ///< in words
 };
 
 }  // namespace vexa

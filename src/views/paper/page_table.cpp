@@ -2,6 +2,7 @@
 #include "views/paper/page_table.h"
 
 #include <QPainter>
+#include <QRegularExpression>
 #include <algorithm>
 
 #include "views/common/theme.h"
@@ -36,9 +37,15 @@ QFont PageFont(int size, bool bold = false) {
   return font;
 }
 
+// A formula's parameters may stand in several lines: the line may end behind a comma.
+QString Breakable(const QString& text) {
+  return QString(text).replace(u',', QStringLiteral(",\u200b"));
+}
+
 // Between words; anywhere in a text of which one alone is too wide.
 int Wrapping(const QFontMetricsF& metrics, const QString& text, double width) {
-  const QStringList words = text.split(u' ');
+  static const QRegularExpression kBreak(QStringLiteral("[ \u200b]"));
+  const QStringList words = text.split(kBreak);
   return std::ranges::any_of(words,
                              [&](auto& word) { return metrics.horizontalAdvance(word) > width; })
              ? Qt::TextWrapAnywhere
@@ -55,7 +62,8 @@ void DrawText(QPainter& painter, const QRectF& cell, const PageTable::Column& co
   const QFontMetricsF metrics(painter.font());
   const int alignment = static_cast<int>(column.alignment | Qt::AlignVCenter);
   if (column.wraps && metrics.horizontalAdvance(text) > inner.width()) {
-    painter.drawText(inner, alignment | Wrapping(metrics, text, inner.width()), text);
+    const QString broken = Breakable(text);
+    painter.drawText(inner, alignment | Wrapping(metrics, broken, inner.width()), broken);
     return;
   }
   painter.drawText(inner, alignment | Qt::TextSingleLine,
@@ -106,7 +114,7 @@ double PageTable::RowHeight(const std::vector<Cell>& row, double width) const {
   for (std::size_t i = 0; i < columns.size(); ++i) {
     const QRectF inner = Inner(QRectF(0.0, 0.0, Natural(columns[i]) * Stretch(width), kHighestRow));
     if (columns[i].wraps && metrics.horizontalAdvance(row[i].text) > inner.width()) {
-      const double lines = WrappedHeight(metrics, inner, row[i].text);
+      const double lines = WrappedHeight(metrics, inner, Breakable(row[i].text));
       height = std::max(height, std::min(lines, kHighestRow) + rowHeight - metrics.lineSpacing());
     }
   }
