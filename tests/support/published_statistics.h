@@ -5,6 +5,7 @@
 #include <vector>
 
 #include "statistics/gauge_study.h"
+#include "support/pi_digits.h"
 
 namespace vexa::test {
 
@@ -18,7 +19,7 @@ struct CertifiedSet {
 };
 
 /// The univariate data sets of NIST's Statistical Reference Datasets (StRD), with their certified
-/// values; all but PiDigits.
+/// values.
 inline std::vector<CertifiedSet> CertifiedSets() {
   const auto scaled = [](const std::vector<int>& counts, double base, double unit) {
     std::vector<double> values;
@@ -79,7 +80,12 @@ inline std::vector<CertifiedSet> CertifiedSets() {
       750,  760, 910, 920,  890, 860, 880, 720, 840, 850, 850,  780, 890, 840, 780, 810, 760,
       810,  790, 810, 820,  850, 870, 870, 810, 740, 810, 940,  950, 800, 810, 870,
   };
+  std::vector<double> piDigits;
+  for (const char* digit = kPiDigits; *digit != '\0'; ++digit) {
+    piDigits.push_back(*digit - '0');
+  }
   return {
+      {"PiDigits", piDigits, 4.53480000000000, 2.86733906028871, -0.00355099287237972},
       {"Lew", scaled(lew, 0, 1), -177.435000000000, 277.332168044316, -0.307304800605679},
       {"Lottery", scaled(lottery, 0, 1), 518.958715596330, 291.699727470969, -0.120948622967393},
       {"Mavro", scaled(mavro, 200000, 100000), 2.00185600000000, 0.000429123454003053,
